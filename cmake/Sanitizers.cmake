@@ -1,0 +1,6 @@
+option(PLOT3D_SANITIZE "Build everything under AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+if(PLOT3D_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

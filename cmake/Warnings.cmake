@@ -1,0 +1,10 @@
+# Every warning is an error, in all our targets. -Wconversion and -Wsign-conversion are here because
+# file positions and value counts are 64-bit and most other integers are not.
+add_library(project_warnings INTERFACE)
+target_compile_options(project_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wcast-align -Wcast-qual
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wundef -Wnull-dereference -Wformat=2
+    -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wimplicit-fallthrough)
+# GCC 12 reports false null dereferences inside the standard library's own inlined code.
+target_compile_options(project_warnings INTERFACE -Wno-error=null-dereference)
