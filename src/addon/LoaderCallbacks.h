@@ -1,0 +1,23 @@
+// The functions that the host calls: the doors into a load, and the state-change notice.
+#pragma once
+
+#include <cstdint>
+
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::quorutildataio {
+
+/// A finished list of instructions (borrowed), from a macro or a layout. Nothing is asked of the user.
+bool loaderCallback(QuorStringListHandle instructions);
+
+/// The files (borrowed) of the host's import file selection: composes instructions and loads at once,
+/// or, with `advancedOptions`, shows the load dialog, which has its own control for `append`.
+void loaderSelectedCallback(QuorStringListHandle files, bool advancedOptions, bool append);
+
+/// Reacts to the host's code 15 and to no other: drops the dialog's files.
+void stateChangeCallback(std::int32_t code);
+
+/// Parses the instructions into a record of its own and loads. True if the load succeeded.
+bool loadFromInstructions(QuorStringListHandle instructions, bool fromSelection);
+
+} // namespace quorvia::quorutildataio

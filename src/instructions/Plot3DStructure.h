@@ -1,0 +1,26 @@
+// The words for a PLOT3D file's layout and style. Their numbers are shared by the load options, the
+// instruction words, the dialog's menus and the file records.
+#pragma once
+
+#include <cstdint>
+
+namespace quorvia::quorutildataio {
+
+enum Plot3DStyle_e : std::int32_t {
+    Plot3DStyle_Classic = 0,
+    Plot3DStyle_Function = 1,
+    Plot3DStyle_Overflow = 2,
+    Plot3DStyle_Swift = 3,
+    Plot3DStyle_Unknown = 255
+};
+
+enum Plot3DDataStructure_e : std::int32_t {
+    Plot3DDataStructure_1D = 0,
+    Plot3DDataStructure_2D = 1,
+    Plot3DDataStructure_3DPlanes = 2,
+    Plot3DDataStructure_3DWhole = 3,
+    Plot3DDataStructure_Unstructured = 4,
+    Plot3DDataStructure_Unknown = 255
+};
+
+} // namespace quorvia::quorutildataio
