@@ -1,5 +1,5 @@
-// Sorts file names into grid, solution, function and name files, by the names alone. The same tables
-// of patterns are the loader's file filters at the host.
+// Sorts file names into grid, solution, function and name files, by the names alone. The same
+// tables of patterns are the loader's file filters at the host.
 #pragma once
 
 #include <string>
@@ -15,8 +15,8 @@ void buildFilePatternTables();
 /// All patterns, grid, solution, function, name file: "a b c", or with commas "a, b or c".
 std::string filePatternListText(bool withCommas);
 
-/// Sorts `names` (borrowed, may be null) into the outputs, which come in empty. Names of no kind are
-/// dropped and told to the user once for all. False: a second name file was met, and told.
+/// Sorts `names` (borrowed, may be null) into the outputs, which come in empty. Names of no kind
+/// are dropped and told to the user once for all. False: a second name file was met, and told.
 bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gridFiles,
                        std::vector<std::string>& solutionFiles,
                        std::vector<std::string>& functionFiles, std::string& nameFile);

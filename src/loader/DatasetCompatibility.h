@@ -1,0 +1,12 @@
+// Whether the incoming files can be joined to the data set that is in the host.
+#pragma once
+
+#include "loader/LoadContext.h"
+
+namespace quorvia::quorutildataio {
+
+/// Fills `existingZoneCount`, `existingVarCount` and `firstNewZone`, and may set `hasIBlank`. Changes
+/// nothing in the host. False: they can't be joined, which has been told.
+bool checkDatasetCompatibility(Plot3DLoadContext_s& context);
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,45 @@
+// The state of one load, local to the driver.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/Plot3DFileHandler.h"
+#include "quorvia/HostHandles.h"
+#include "quorvia/QuorUtilityLibrary.h"
+
+namespace quorvia::quorutildataio {
+
+struct Plot3DLoadContext_s {
+    explicit Plot3DLoadContext_s(Plot3DLoadOptions_s& loadOptions, bool selection)
+        : options(loadOptions), fromSelection(selection) {}
+
+    Plot3DLoadOptions_s& options; // borrowed, changed by the load
+    bool fromSelection;           // the user chose the files
+    Plot3DFileList gridFiles;     // in the order of the options' lists of names
+    Plot3DFileList solutionFiles;
+    Plot3DFileList functionFiles;
+    std::vector<Plot3DFileHandler> fileSets; // one for each time step; they borrow the records
+    std::int32_t numSpatialVars = 0;
+    std::int32_t numSolutionVars = 0;
+    std::int32_t numFunctionVars = 0;
+    Plot3DDataStructure_e dataStructure = Plot3DDataStructure_Unknown;
+    bool hasIBlank = false;
+    std::int32_t zonesPerTimeStep = 0;
+    std::int32_t existingZoneCount = 0;
+    std::int32_t existingVarCount = 0;
+    std::int32_t firstNewZone = 0; // from 1
+    bool assignStrandIDs = false;
+    HostArray<std::int32_t> parentZones; // by zone number minus 1
+    bool undoStarted = false;
+    std::unique_ptr<TaskProgress> mainTask;
+};
+
+/// How many of the file set's grids `gridSet` selects.
+std::int32_t countSelectedGrids(const Plot3DLoadOptions_s& options,
+                                const Plot3DFileHandler& fileSet);
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,28 @@
+// Strand options, solution times from file names, and time steps that turn out to have one time.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/Plot3DFileHandler.h"
+
+namespace quorvia::quorutildataio {
+
+/// Clears the strand options that this load cannot keep.
+void normaliseStrandOptions(Plot3DLoadOptions_s& options);
+
+/// Replaces `solutionTimes` by the times that the host finds in the names of the solution, or else
+/// function files; by nothing if it does not find all. Throws std::bad_alloc if the host gives no
+/// memory.
+void extractSolutionTimes(Plot3DLoadOptions_s& options);
+
+/// False: the times are all the same and could not be told apart. `firstZone` counts from 1.
+bool checkSolutionTimes(std::int32_t firstZone, Plot3DLoadOptions_s& options,
+                        std::vector<Plot3DFileHandler>& fileSets);
+
+/// Gives the zones of the load the times of their solution files' names. False: a name has no time.
+bool assignSolutionTimes(std::int32_t firstZone, const Plot3DLoadOptions_s& options,
+                         std::vector<Plot3DFileHandler>& fileSets);
+
+} // namespace quorvia::quorutildataio
