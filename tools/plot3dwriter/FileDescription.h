@@ -3,6 +3,7 @@
 // count from 0 here; node numbers inside a connectivity count from 1, as they stand in the file.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -42,11 +43,13 @@ using CornerFunction =
 /// The integer that a triangle carries besides its corners; readers ignore it.
 using TriangleTagFunction = std::function<std::int32_t(std::int32_t grid, std::int64_t triangle)>;
 
-/// Whether a K plane of a variable is left unwritten. It reads as zeros and takes no space on a disk
-/// that knows sparse files. The I-blank block has the index numVars of the file. In an
+/// Whether a K plane of a variable is left unwritten. It reads as zeros and takes no space on a
+/// disk that knows sparse files. The I-blank block has the index numVars of the file. In an
 /// unstructured or 1-D or 2-D file `k` is 0, and stands for the whole block.
-using HoleFunction =
-    std::function<bool(std::int32_t grid, std::int32_t variable, std::int32_t k)>;
+using HoleFunction = std::function<bool(std::int32_t grid, std::int32_t variable, std::int32_t k)>;
+
+/// The one scalar of an Overflow solution that is an integer, counted from 0.
+inline constexpr std::size_t overflowIntegerIndex = 7;
 
 struct FileDescription_s {
     FileKind_e kind = FileKind_e::Grid;
@@ -59,24 +62,24 @@ struct FileDescription_s {
     std::int32_t numVars = 0;    ///< Overflow and function files only; the others know their count
     std::int32_t numSpecies = 0; ///< Overflow only
 
-    /// Per grid the scalars ahead of its variables, as many as scalarCount() says. An Overflow file in
-    /// Fortran records may have more: readers take a longer record, and skip what they don't know.
-    /// Place 8 of Overflow is an integer, and must hold a whole number.
+    /// Per grid the scalars ahead of its variables, as many as scalarCount() says. An Overflow file
+    /// in Fortran records may have more: readers take a longer record, and skip what they don't
+    /// know. Place 8 of Overflow is an integer, and must hold a whole number.
     std::vector<std::vector<double>> scalars;
 
     ValueFunction value;
-    IBlankFunction iblank;            ///< needed if hasIBlank
-    CornerFunction corner;            ///< needed for an unstructured grid file
-    TriangleTagFunction triangleTag;  ///< empty: 0 for every triangle
-    HoleFunction isHole;              ///< empty: no holes; not for text
+    IBlankFunction iblank;           ///< needed if hasIBlank
+    CornerFunction corner;           ///< needed for an unstructured grid file
+    TriangleTagFunction triangleTag; ///< empty: 0 for every triangle
+    HoleFunction isHole;             ///< empty: no holes; not for text
 };
 
 /// Real variables per grid, I-blank not counted: the coordinates of a grid file, the variables of a
 /// solution by its layout, otherwise FileDescription_s::numVars.
 std::int32_t variableCount(const FileDescription_s& description);
 
-/// Scalars ahead of each grid's variables: 0 for a grid or function file; 4 for any solution in 1-D;
-/// otherwise 4, 5 for Swift, 11 and the greater of numSpecies and 2 for Overflow.
+/// Scalars ahead of each grid's variables: 0 for a grid or function file; 4 for any solution in
+/// 1-D; otherwise 4, 5 for Swift, 11 and the greater of numSpecies and 2 for Overflow.
 std::int32_t scalarCount(const FileDescription_s& description);
 
 /// Values in one variable of a grid. Needs a description without fault.

@@ -20,32 +20,34 @@ enum class Precision_e { Single, Double };
 /// The longest payload that Fortran compilers put behind one 4-byte marker.
 inline constexpr std::int64_t longestFortranSegment = 2147483639;
 
-/// What follows the last grid of an Overflow solution in plain binary; see FileForm_s::overflowTail.
+/// What follows the last grid of an Overflow solution in plain binary; see
+/// FileForm_s::overflowTail.
 enum class OverflowTail_e { AcceptedPadding, Nothing };
 
 /// How a text file looks. All of these are free in the format; the line rules that are not free
 /// (a count of grids alone on its line, a grid's dimensions on one line, a line end after the
 /// header and after each grid's scalars) are always kept.
 struct TextOptions_s {
-    std::int32_t tokensPerLine = 5;       ///< in blocks of values; a repeat token counts once
-    std::int32_t significantDigits = 0;   ///< 0: the fewest digits that read back as the same value
-    bool repeatCounts = false;            ///< equal neighbours in a block become one token, 24*1
-    bool commas = false;                  ///< tokens are separated by a comma and a blank
-    bool fortranExponents = false;        ///< every real has an exponent, D for its letter: 1.5D+02
-    bool carriageReturns = false;         ///< lines end in CR LF, not LF
+    std::int32_t tokensPerLine = 5;     ///< in blocks of values; a repeat token counts once
+    std::int32_t significantDigits = 0; ///< 0: the fewest digits that read back as the same value
+    bool repeatCounts = false;          ///< equal neighbours in a block become one token, 24*1
+    bool commas = false;                ///< tokens are separated by a comma and a blank
+    bool fortranExponents = false;      ///< every real has an exponent, D for its letter: 1.5D+02
+    bool carriageReturns = false;       ///< lines end in CR LF, not LF
 };
 
 struct FileForm_s {
     Encoding_e encoding = Encoding_e::Binary;
     ByteOrder_e byteOrder = ByteOrder_e::Little; ///< not for text
-    Precision_e precision = Precision_e::Single; ///< in text: the precision that the digits suffice for
+    Precision_e precision =
+        Precision_e::Single; ///< in text: the precision that the digits suffice for
 
     std::int32_t markerBytes = 4; ///< Fortran only: 4 or 8
 
-    /// Fortran with 4-byte markers only: a longer payload is split into segments of this many bytes,
-    /// each with markers of its own. The leading marker is negative unless the segment is the last,
-    /// the trailing one unless it is the first. Readers usually know continued segments by
-    /// the length longestFortranSegment alone, so any other value is for tests of the writer.
+    /// Fortran with 4-byte markers only: a longer payload is split into segments of this many
+    /// bytes, each with markers of its own. The leading marker is negative unless the segment is
+    /// the last, the trailing one unless it is the first. Readers usually know continued segments
+    /// by the length longestFortranSegment alone, so any other value is for tests of the writer.
     std::int64_t maxSegmentBytes = longestFortranSegment;
 
     /// Overflow in plain binary only. A reader accepts such a file if the bytes behind the header

@@ -13,7 +13,8 @@ namespace quorvia::plot3dwriter {
 
 enum class BlockKind_e { Scalars, Variable, IBlank, Connectivity };
 
-/// Where a block of the written file begins.
+/// Where a block of the written file begins. A block that begins exactly where a segment of a
+/// Fortran record ends has the position of that end, ahead of the markers.
 struct BlockPosition_s {
     BlockKind_e kind = BlockKind_e::Variable;
     std::int32_t grid = 0;     ///< from 0
@@ -23,13 +24,13 @@ struct BlockPosition_s {
 };
 
 struct WriteOutcome_s {
-    std::string problem;                ///< empty if all was written; one line, with the file's name
-    std::int64_t byteCount = 0;         ///< size of the file
+    std::string problem;        ///< empty if all was written; one line, with the file's name
+    std::int64_t byteCount = 0; ///< size of the file
     std::vector<BlockPosition_s> blocks; ///< in file order
 };
 
-/// Writes the file `path` (UTF-8), over what may have been there. Values are asked for one by one and
-/// nothing but a small buffer is held in memory. If writing fails half-way the file is removed.
+/// Writes the file `path` (UTF-8), over what may have been there. Values are asked for one by one
+/// and nothing but a small buffer is held in memory. If writing fails half-way the file is removed.
 /// Exceptions of the description's own functions pass through.
 WriteOutcome_s writePlot3DFile(const std::string& path, const FileDescription_s& description,
                                const FileForm_s& form);
