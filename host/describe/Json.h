@@ -1,0 +1,16 @@
+// The outcome of a load for programs: JSON under the schema "quorhost.outcome/1", whose names are
+// fixed and may only grow.
+#pragma once
+
+#include <string>
+
+#include "describe/Outcome.h"
+
+namespace quorvia::host {
+
+/// Indented JSON text with a line end behind it. Numbers that JSON lacks are the strings "NaN",
+/// "Infinity" and "-Infinity"; bytes that are no UTF-8 become U+FFFD. `min`, `max`, `mean` and
+/// `crc32` of a field are there only if its values were fetched.
+std::string toJson(const Outcome_s& outcome);
+
+} // namespace quorvia::host

@@ -1,0 +1,108 @@
+// How a load came out: all that a program or a person may want to know of it, as plain values that
+// outlive the host's data set. Made by describeOutcome() (GatherOutcome.h), told as JSON (Json.h)
+// or as a table (Table.h).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::host {
+
+/// How a field came out of the load, before any value was fetched.
+enum class FieldState_e {
+    Empty,    // no storage and no way to get values
+    Deferred, // values come from the add-on on demand
+    Stored,   // the load itself wrote the values
+    Shared    // the field of a zone with a lower number is this one's too
+};
+
+/// Of all values of a field, in 64-bit reals.
+struct FieldStatistics_s {
+    double min = 0;          // of the values that are numbers; NaN if none is
+    double max = 0;          // likewise
+    double mean = 0;         // of all values, so NaN as soon as one is; NaN if there is none
+    std::uint32_t crc32 = 0; // over the values as little-endian bytes of the field's type
+};
+
+struct FieldOutcome_s {
+    std::int32_t variable = 0; // from 1
+    QuorFieldDataType_e type = QuorFieldDataType_Invalid;
+    FieldState_e state = FieldState_e::Empty;
+    std::int32_t sharedWith = 0;                 // zone number from 1; 0: not shared
+    std::int64_t count = 0;                      // values, not bytes
+    std::optional<FieldStatistics_s> statistics; // absent if the values were not fetched
+    std::optional<std::string> error;            // why a fetch failed
+};
+
+struct ConnectivityOutcome_s {
+    std::int64_t elements = 0;
+    std::int64_t corners = 0; // of one element
+    std::uint32_t crc32 = 0;  // over the node numbers, from 1, as 32-bit little-endian integers
+};
+
+/// Name and text of each item, in the order in which the items were first set.
+using AuxDataItems = std::vector<std::pair<std::string, std::string>>;
+
+struct ZoneOutcome_s {
+    std::int32_t number = 0; // from 1
+    std::string name;
+    QuorZoneType_e type = QuorZoneType_Ordered;
+    // As passed when the zone was made: points along I, J, K; or nodes, elements, corners.
+    std::int64_t i = 0;
+    std::int64_t j = 0;
+    std::int64_t k = 0;
+    std::int32_t strandId = 0; // 0: none
+    double solutionTime = 0;
+    std::int32_t parentZone = 0;             // 0: none
+    std::int32_t connectivitySharedWith = 0; // the lowest zone with the same node map; 0: none
+    AuxDataItems auxData;
+    std::optional<ConnectivityOutcome_s> connectivity; // absent in an ordered zone
+    std::vector<FieldOutcome_s> fields;                // one for each variable, in their order
+};
+
+struct DataSetOutcome_s {
+    std::string title;
+    AuxDataItems auxData;
+    std::vector<std::string> variables; // names, trailing blanks kept
+    std::vector<ZoneOutcome_s> zones;
+};
+
+enum class MessageOutcome_e { Error, Information, Question };
+
+struct MessageOutcome_s {
+    MessageOutcome_e kind = MessageOutcome_e::Error;
+    std::string text;
+    std::optional<bool> answer; // of a question: true is OK or Yes
+};
+
+struct StateChangeOutcome_s {
+    std::int32_t code = 0;
+    std::vector<std::int64_t> members;
+};
+
+struct UndoOutcome_s {
+    bool begins = true;
+    std::optional<bool> success; // of an end
+};
+
+struct Outcome_s {
+    bool ok = false;
+    std::optional<std::string> hostError; // what stopped the host itself
+    std::vector<MessageOutcome_s> messages;
+    std::vector<std::string> progress; // the texts shown, in order
+    QuorPlotType_e plotType = QuorPlotType_None;
+    std::vector<std::string> instructions; // last handed over
+    std::vector<StateChangeOutcome_s> stateChanges;
+    std::vector<UndoOutcome_s> undo;
+    std::int64_t redraws = 0;
+    std::int64_t lockDepth = 0;
+    std::vector<std::string> violations; // of the contract, by the add-on
+    std::optional<DataSetOutcome_s> dataSet;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,253 @@
+#include "describe/Table.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <ostream>
+#include <string_view>
+
+#include <fmt/core.h>
+#include <fmt/ranges.h>
+
+#include "describe/TextGrid.h"
+#include "describe/Words.h"
+
+namespace quorvia::host {
+namespace {
+
+using Align_e = TextGrid::Align_e;
+
+std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+    return fmt::format("{} {}", count, count == 1 ? one : many);
+}
+
+void printLeftOut(std::ostream& out, std::size_t total, std::size_t shown, std::string_view what) {
+    if (total > shown)
+        out << fmt::format("  ... and {} more {}; --json FILE lists every one\n", total - shown,
+                           what);
+}
+
+// ---- Data set -----------------------------------------------------------------------------------
+
+void printHead(std::ostream& out, const Outcome_s& outcome) {
+    if (!outcome.dataSet) {
+        out << "No data set\n";
+        return;
+    }
+    const DataSetOutcome_s& dataSet = *outcome.dataSet;
+    out << fmt::format("Data set \"{}\": {}, {}, plot type {}\n", onOneLine(dataSet.title),
+                       counted(dataSet.zones.size(), "zone", "zones"),
+                       counted(dataSet.variables.size(), "variable", "variables"),
+                       wordOf(outcome.plotType));
+}
+
+// ---- Variables ----------------------------------------------------------------------------------
+
+/// What all zones together tell of one variable.
+struct VariableSummary_s {
+    double min = std::numeric_limits<double>::infinity();
+    double max = -std::numeric_limits<double>::infinity();
+    std::vector<QuorFieldDataType_e> types;
+};
+
+VariableSummary_s summariseVariable(const DataSetOutcome_s& dataSet, std::size_t index) {
+    VariableSummary_s result;
+    for (const ZoneOutcome_s& zone : dataSet.zones) {
+        if (index >= zone.fields.size())
+            continue;
+        const FieldOutcome_s& field = zone.fields[index];
+        if (std::find(result.types.begin(), result.types.end(), field.type) == result.types.end())
+            result.types.push_back(field.type);
+        if (!field.statistics)
+            continue;
+        result.min = std::min(result.min, field.statistics->min);
+        result.max = std::max(result.max, field.statistics->max);
+    }
+    return result;
+}
+
+std::string typeWords(const std::vector<QuorFieldDataType_e>& types) {
+    std::vector<std::string_view> words;
+    for (const QuorFieldDataType_e type : types)
+        words.emplace_back(wordOf(type));
+    return fmt::format("{}", fmt::join(words, ", "));
+}
+
+void printVariables(std::ostream& out, const DataSetOutcome_s& dataSet) {
+    TextGrid grid({{"#", Align_e::Right},
+                   {"name", Align_e::Left},
+                   {"type", Align_e::Left},
+                   {"minimum", Align_e::Right},
+                   {"maximum", Align_e::Right}});
+    for (std::size_t index = 0; index < dataSet.variables.size(); ++index) {
+        const VariableSummary_s summary = summariseVariable(dataSet, index);
+        const bool hasRange = summary.min <= summary.max;
+        grid.addRow({fmt::format("{}", index + 1), dataSet.variables[index],
+                     typeWords(summary.types), hasRange ? fmt::format("{:.7g}", summary.min) : "-",
+                     hasRange ? fmt::format("{:.7g}", summary.max) : "-"});
+    }
+    out << "\nVariables\n";
+    grid.print(out);
+}
+
+// ---- Zones --------------------------------------------------------------------------------------
+
+std::string sizesOf(const ZoneOutcome_s& zone) {
+    if (zone.type == QuorZoneType_Ordered)
+        return fmt::format("{} x {} x {}", zone.i, zone.j, zone.k);
+    return fmt::format("{} nodes, {} elements", zone.i, zone.j);
+}
+
+std::string fieldStates(const ZoneOutcome_s& zone) {
+    constexpr std::array kStates = {FieldState_e::Deferred, FieldState_e::Stored,
+                                    FieldState_e::Shared, FieldState_e::Empty};
+    std::vector<std::string> parts;
+    for (const FieldState_e state : kStates) {
+        const auto isSo = [state](const FieldOutcome_s& field) { return field.state == state; };
+        const auto count = std::count_if(zone.fields.begin(), zone.fields.end(), isSo);
+        if (count > 0)
+            parts.push_back(fmt::format("{} {}", count, wordOf(state)));
+    }
+    return fmt::format("{}", fmt::join(parts, ", "));
+}
+
+std::string numberOrDash(std::int32_t number) {
+    return number == 0 ? "-" : fmt::format("{}", number);
+}
+
+void printZones(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_s limits) {
+    TextGrid grid({{"#", Align_e::Right},
+                   {"name", Align_e::Left},
+                   {"type", Align_e::Left},
+                   {"size", Align_e::Left},
+                   {"strand", Align_e::Right},
+                   {"time", Align_e::Right},
+                   {"parent", Align_e::Right},
+                   {"fields", Align_e::Left}});
+    const std::size_t shown = std::min(dataSet.zones.size(), limits.lines);
+    for (std::size_t index = 0; index < shown; ++index) {
+        const ZoneOutcome_s& zone = dataSet.zones[index];
+        grid.addRow({fmt::format("{}", zone.number), zone.name, wordOf(zone.type), sizesOf(zone),
+                     numberOrDash(zone.strandId), fmt::format("{:.7g}", zone.solutionTime),
+                     numberOrDash(zone.parentZone), fieldStates(zone)});
+    }
+    out << "\nZones\n";
+    grid.print(out);
+    printLeftOut(out, dataSet.zones.size(), shown, "zones");
+}
+
+// ---- Auxiliary data -----------------------------------------------------------------------------
+
+/// "1-3, 7": zone numbers in ascending order.
+std::string numberRanges(const std::vector<std::int32_t>& numbers) {
+    std::vector<std::string> parts;
+    for (std::size_t first = 0; first < numbers.size();) {
+        std::size_t last = first;
+        while (last + 1 < numbers.size() && numbers[last + 1] == numbers[last] + 1)
+            ++last;
+        parts.push_back(first == last ? fmt::format("{}", numbers[first])
+                                      : fmt::format("{}-{}", numbers[first], numbers[last]));
+        first = last + 1;
+    }
+    return fmt::format("{}", fmt::join(parts, ", "));
+}
+
+std::string itemsOnOneLine(const AuxDataItems& items) {
+    std::vector<std::string> parts;
+    for (const auto& [name, text] : items)
+        parts.push_back(onOneLine(name) + " = " + onOneLine(text));
+    return fmt::format("{}", fmt::join(parts, ", "));
+}
+
+/// Most zones of a time step carry the same items; zones that agree stand together.
+void printAuxData(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_s limits) {
+    std::vector<std::pair<const AuxDataItems*, std::vector<std::int32_t>>> groups;
+    std::map<AuxDataItems, std::size_t> groupOf;
+    for (const ZoneOutcome_s& zone : dataSet.zones) {
+        if (zone.auxData.empty())
+            continue;
+        const auto [place, isNew] = groupOf.try_emplace(zone.auxData, groups.size());
+        if (isNew)
+            groups.emplace_back(&place->first, std::vector<std::int32_t>());
+        groups[place->second].second.push_back(zone.number);
+    }
+    if (groups.empty() && dataSet.auxData.empty())
+        return;
+    out << "\nAuxiliary data\n";
+    if (!dataSet.auxData.empty())
+        out << fmt::format("  data set: {}\n", itemsOnOneLine(dataSet.auxData));
+    const std::size_t shown = std::min(groups.size(), limits.lines);
+    for (std::size_t index = 0; index < shown; ++index) {
+        const auto& [items, zones] = groups[index];
+        out << fmt::format("  {} {}: {}\n", zones.size() == 1 ? "zone" : "zones",
+                           numberRanges(zones), itemsOnOneLine(*items));
+    }
+    printLeftOut(out, groups.size(), shown, "groups of zones");
+}
+
+// ---- What went wrong, what was said -------------------------------------------------------------
+
+void printFailedFields(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_s limits) {
+    std::size_t total = 0;
+    for (const ZoneOutcome_s& zone : dataSet.zones) {
+        for (const FieldOutcome_s& field : zone.fields) {
+            if (!field.error)
+                continue;
+            if (total == 0)
+                out << "\nValues that could not be fetched\n";
+            if (total < limits.lines)
+                out << fmt::format("  zone {}, variable {}: {}\n", zone.number, field.variable,
+                                   onOneLine(*field.error));
+            ++total;
+        }
+    }
+    printLeftOut(out, total, std::min(total, limits.lines), "fields");
+}
+
+std::string indented(std::string_view text) {
+    std::string result;
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        result += fmt::format("    {}\n", onOneLine(text.substr(start, end - start)));
+        start = end + 1;
+    }
+    return result;
+}
+
+void printMessages(std::ostream& out, const std::vector<MessageOutcome_s>& messages) {
+    if (messages.empty())
+        return;
+    out << "\nMessages\n";
+    for (const MessageOutcome_s& message : messages) {
+        out << fmt::format("  {}:\n{}", wordOf(message.kind), indented(message.text));
+        if (message.answer)
+            out << fmt::format("    answered: {}\n",
+                               *message.answer ? "OK or Yes" : "Cancel or No");
+    }
+}
+
+void printViolations(std::ostream& out, const std::vector<std::string>& violations) {
+    if (violations.empty())
+        return;
+    out << fmt::format("\n*** {} of the host's contract by the add-on ***\n",
+                       counted(violations.size(), "VIOLATION", "VIOLATIONS"));
+    for (const std::string& violation : violations)
+        out << fmt::format("*** {}\n", onOneLine(violation));
+}
+
+} // namespace
+
+void printTable(const Outcome_s& outcome, std::ostream& out, TableLimits_s limits) {
+    printHead(out, outcome);
+    if (outcome.dataSet) {
+        printVariables(out, *outcome.dataSet);
+        printZones(out, *outcome.dataSet, limits);
+        printAuxData(out, *outcome.dataSet, limits);
+        printFailedFields(out, *outcome.dataSet, limits);
+    }
+    printMessages(out, outcome.messages);
+    printViolations(out, outcome.violations);
+}
+
+} // namespace quorvia::host

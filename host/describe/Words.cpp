@@ -1,0 +1,75 @@
+#include "describe/Words.h"
+
+namespace quorvia::host {
+
+const char* wordOf(MessageOutcome_e kind) {
+    switch (kind) {
+    case MessageOutcome_e::Error:
+        return "error";
+    case MessageOutcome_e::Information:
+        return "information";
+    case MessageOutcome_e::Question:
+        return "question";
+    }
+    return "unknown";
+}
+
+const char* wordOf(FieldState_e state) {
+    switch (state) {
+    case FieldState_e::Empty:
+        return "empty";
+    case FieldState_e::Deferred:
+        return "deferred";
+    case FieldState_e::Stored:
+        return "stored";
+    case FieldState_e::Shared:
+        return "shared";
+    }
+    return "unknown";
+}
+
+const char* wordOf(QuorFieldDataType_e type) {
+    switch (type) {
+    case QuorFieldDataType_Float:
+        return "float32";
+    case QuorFieldDataType_Double:
+        return "float64";
+    case QuorFieldDataType_Int32:
+        return "int32";
+    case QuorFieldDataType_Invalid:
+        break;
+    }
+    return "unknown";
+}
+
+const char* wordOf(QuorZoneType_e type) {
+    switch (type) {
+    case QuorZoneType_Ordered:
+        return "ordered";
+    case QuorZoneType_Triangles:
+        return "triangles";
+    case QuorZoneType_Tetrahedra:
+        return "tetrahedra";
+    }
+    return "unknown";
+}
+
+const char* wordOf(QuorPlotType_e type) {
+    switch (type) {
+    case QuorPlotType_None:
+        return "none";
+    case QuorPlotType_3D:
+        return "3D";
+    case QuorPlotType_2D:
+        return "2D";
+    case QuorPlotType_XY:
+        return "XY";
+    case QuorPlotType_Sketch:
+        return "sketch";
+    case QuorPlotType_Polar:
+        return "polar";
+    }
+    return "unknown";
+}
+
+} // namespace quorvia::host
