@@ -1,0 +1,64 @@
+// The values of a field, or the promise of them. Zones that share a field hold the same
+// FieldStorage, so that a deferred field is fetched once for all of them and its clean-up comes
+// with the last.
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <memory>
+
+#include "model/ValueBlock.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::host {
+
+class FieldCache;
+class FieldStorage;
+
+/// Bytes of one value; 0 for a type that no field can have.
+std::int64_t valueWidth(std::int32_t type);
+
+/// Where the values of a deferred field come from. Ending it is the clean-up of the registration.
+class Deferral {
+public:
+    virtual ~Deferral() = default;
+    /// Fills `storage.values()`; false leaves the field deferred.
+    virtual bool load(FieldStorage& storage) = 0;
+    /// Whether the array may be dropped; `load` may be called again afterwards.
+    virtual bool mayUnload(FieldStorage& storage) = 0;
+};
+
+class FieldStorage : public std::enable_shared_from_this<FieldStorage> {
+public:
+    /// `valueCount` zeros of `type`; null if there is no memory.
+    static std::shared_ptr<FieldStorage> stored(std::int32_t type, std::int64_t valueCount);
+    /// A field that is fetched when someone asks for it (FieldCache::fetch).
+    static std::shared_ptr<FieldStorage> deferred(std::int32_t type, std::int64_t valueCount,
+                                                  std::unique_ptr<Deferral> deferral);
+    ~FieldStorage();
+    FieldStorage(const FieldStorage&) = delete;
+    FieldStorage& operator=(const FieldStorage&) = delete;
+
+    std::int32_t type() const { return type_; }
+    std::int64_t valueCount() const { return valueCount_; }
+    std::int64_t byteCount() const { return valueCount_ * valueWidth(type_); }
+    bool isDeferred() const { return deferral_ != nullptr; }
+    const Deferral* deferral() const { return deferral_.get(); }
+    /// Index order I fastest, then J, then K. Null for a deferred field that is not in memory.
+    void* values() const { return block_.data(); }
+
+private:
+    friend class FieldCache;
+    FieldStorage(std::int32_t type, std::int64_t valueCount)
+        : type_(type), valueCount_(valueCount) {}
+
+    std::int32_t type_;
+    bool loading_ = false;
+    std::int64_t valueCount_;
+    ValueBlock block_;
+    std::unique_ptr<Deferral> deferral_;
+    FieldCache* cache_ = nullptr; // set while fetched values are accounted there
+    std::list<FieldStorage*>::iterator place_;
+};
+
+} // namespace quorvia::host
