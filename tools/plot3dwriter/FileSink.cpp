@@ -17,9 +17,9 @@ constexpr std::size_t bufferSize = std::size_t{1} << 20;
 }
 
 FileSink::FileSink(const std::string& path)
-    : path_(path), stream_(std::fopen(path.c_str(), "wb")), buffer_(bufferSize) {
+    : stream_(std::fopen(path.c_str(), "wb")), buffer_(bufferSize) {
     if (!stream_)
-        fail("create");
+        fail();
     // Our buffer is the only one; the stream's would copy every byte once more.
     std::setvbuf(stream_.get(), nullptr, _IONBF, 0);
 }
@@ -44,7 +44,7 @@ void FileSink::skip(std::int64_t byteCount) {
         return;
     flushBuffer();
     if (fseeko(stream_.get(), byteCount, SEEK_CUR) != 0)
-        fail("seek in");
+        fail();
     position_ += byteCount;
     endsInHole_ = true;
 }
@@ -52,20 +52,19 @@ void FileSink::skip(std::int64_t byteCount) {
 void FileSink::finish() {
     flushBuffer();
     if (endsInHole_ && ftruncate(fileno(stream_.get()), position_) != 0)
-        fail("extend");
+        fail();
     if (std::fclose(stream_.release()) != 0)
-        fail("close");
+        fail();
 }
 
 void FileSink::flushBuffer() {
     if (std::fwrite(buffer_.data(), 1, bufferedCount_, stream_.get()) != bufferedCount_)
-        fail("write");
+        fail();
     bufferedCount_ = 0;
 }
 
-void FileSink::fail(const char* action) const {
-    const std::string reason = std::generic_category().message(errno);
-    throw WriteFault(std::string("cannot ") + action + " " + path_ + ": " + reason);
+void FileSink::fail() {
+    throw WriteFault(std::generic_category().message(errno));
 }
 
 } // namespace quorvia::plot3dwriter

@@ -26,9 +26,8 @@ private:
     };
 
     void flushBuffer();
-    [[noreturn]] void fail(const char* action) const;
+    [[noreturn]] static void fail(); ///< with the system's own words for errno
 
-    std::string path_;
     std::unique_ptr<std::FILE, Closer> stream_;
     std::vector<char> buffer_;
     std::size_t bufferedCount_ = 0;

@@ -40,8 +40,9 @@ private:
 WriteOutcome_s writePlot3DFile(const std::string& path, const FileDescription_s& description,
                                const FileForm_s& form) {
     WriteOutcome_s outcome;
+    const std::string failure = "cannot write " + path + ": ";
     if (const std::string fault = findFault(description, form); !fault.empty()) {
-        outcome.problem = "cannot write " + path + ": " + fault;
+        outcome.problem = failure + fault;
         return outcome;
     }
     try {
@@ -50,7 +51,7 @@ WriteOutcome_s writePlot3DFile(const std::string& path, const FileDescription_s&
         writeTo(sink, description, form, outcome);
         unfinished.complete();
     } catch (const WriteFault& fault) {
-        outcome.problem = fault.what();
+        outcome.problem = failure + fault.what();
     }
     return outcome;
 }

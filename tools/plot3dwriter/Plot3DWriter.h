@@ -24,8 +24,9 @@ struct BlockPosition_s {
 };
 
 struct WriteOutcome_s {
-    std::string problem;        ///< empty if all was written; one line, with the file's name
-    std::int64_t byteCount = 0; ///< size of the file
+    std::string
+        problem; ///< empty if all was written; one line, which names the file, if there is one
+    std::int64_t byteCount = 0;          ///< size of the file
     std::vector<BlockPosition_s> blocks; ///< in file order
 };
 
