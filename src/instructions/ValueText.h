@@ -20,7 +20,8 @@ int compareNoCase(const char* a, const char* b, std::int32_t limit = wholeString
 inline bool isSameWord(const char* a, const char* b) { return compareNoCase(a, b) == 0; }
 
 /// Reads blanks, an optional minus sign and at most ten digits, and moves the cursor behind them.
-/// False: no digit, or more than ten.
+/// False: no digit, or more than ten; `value` keeps what it held, negated if a sign was read, so it
+/// must come in initialised.
 bool readSignedInteger(const char*& cursor, std::int64_t& value);
 
 /// Reads items `first`, `first-last` or `first-last:skip`, separated by commas and blanks, into a new

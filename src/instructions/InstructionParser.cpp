@@ -1,0 +1,107 @@
+#include "instructions/InstructionParser.h"
+
+#include <new>
+
+#include "instructions/InstructionKeys.h"
+#include "instructions/InstructionStrings.h"
+#include "instructions/ValueText.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+constexpr const char* standardSyntaxWord = "STANDARDSYNTAX";
+constexpr bool reportMissing = true;
+
+/// What a list has to state explicitly, whatever the defaults of the record are.
+void clearStatedOptions(Plot3DLoadOptions_s& options) {
+    options.autoDetect = false;
+    options.solutionsShareStructure = false;
+    options.assignStrandIds = false;
+    options.assignStrandIdsRequested = false;
+    options.addToExistingStrands = false;
+    options.extractTimeFromSolFileNames = false;
+    options.loadBoundary = false;
+}
+
+bool nextString(InstructionParse_s& parse) {
+    return nextInstructionString(parse.current, parse.instructions, parse.index, !reportMissing);
+}
+
+/// The version behind the word is not looked at: no version is refused.
+bool beginStandardSyntax(InstructionParse_s& parse) {
+    parse.standardSyntax = true;
+    parse.options.autoDetect = true;
+    if (nextString(parse))
+        return true;
+    showMissingOption(standardSyntaxWord);
+    return false;
+}
+
+bool readKeys(InstructionParse_s& parse) {
+    for (bool isFirstString = true; nextString(parse); isFirstString = false) {
+        if (isFirstString && isSameWord(parse.current.get(), standardSyntaxWord)) {
+            if (!beginStandardSyntax(parse))
+                return false;
+            continue;
+        }
+        const InstructionKey_s* key = findInstructionKey(parse.current.get());
+        if (key == nullptr)
+            return true; // the rest of the list is ignored, and what stands before it may load
+        if (!key->read(parse))
+            return false;
+    }
+    return true;
+}
+
+bool readKeysWithinMemory(InstructionParse_s& parse) {
+    try {
+        return readKeys(parse);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+const char* findFault(const InstructionParse_s& parse) {
+    if (parse.kRangeSeen && parse.options.dataStructure != Plot3DDataStructure_3DWhole)
+        return "Error: Not allowed to use -KSet when data is not 3d whole";
+    if (!parse.standardSyntax || parse.options.autoDetect)
+        return nullptr;
+    if (!parse.styleSeen)
+        return "STYLE tag is required if AUTODETECT is FALSE.";
+    if (!parse.dataStructureSeen)
+        return "DATASTRUCTURE tag is required if AUTODETECT is FALSE.";
+    if (!parse.multiGridSeen)
+        return "ISMULTIGRID tag is required if AUTODETECT is FALSE.";
+    return nullptr;
+}
+
+} // namespace
+
+bool parseLoadInstructions(QuorStringListHandle instructions, Plot3DLoadOptions_s& options) {
+    setLoadOptionDefaults(options);
+    clearStatedOptions(options);
+    InstructionParse_s parse = {instructions, options};
+    if (!readKeysWithinMemory(parse))
+        return false;
+    if (const char* fault = findFault(parse)) {
+        QuorUtilDialogErrMsg(fault);
+        return false;
+    }
+    return validateLoadOptions(options);
+}
+
+bool validateLoadOptions(const Plot3DLoadOptions_s& options) {
+    if (options.append && !QuorUtilDataSetIsAvailable()) {
+        QuorUtilDialogErrMsg("Cannot append without an existing data set.");
+        return false;
+    }
+    if (options.gridFiles.empty() && options.solutionFiles.empty() &&
+        options.functionFiles.empty()) {
+        QuorUtilDialogErrMsg("Must have at least one grid, solution or function file.");
+        return false;
+    }
+    return true;
+}
+
+} // namespace quorvia::quorutildataio
