@@ -1,0 +1,93 @@
+#include "addon/FileSelectionRoute.h"
+
+#include "addon/LoaderCallbacks.h"
+#include "addon/state/AddOnIdentity.h"
+#include "boundary/BoundaryFileLocation.h"
+#include "dialog/filenames/FileNameClassification.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+/// A list of instructions in the making, which remembers whether the host took all of it.
+class InstructionComposer {
+public:
+    InstructionComposer() : list_(QuorUtilStringListAlloc()), isWhole_(list_) {}
+
+    void append(const std::string& text) {
+        isWhole_ = isWhole_ && QuorUtilStringListAppendString(list_.get(), text.c_str());
+    }
+    void append(const char* key, const std::string& value) {
+        append(key);
+        append(value);
+    }
+    void appendFiles(const char* key, const std::vector<std::string>& files) {
+        if (files.empty())
+            return;
+        append(key, std::to_string(files.size()));
+        for (const std::string& file : files)
+            append(file);
+    }
+
+    /// Null unless the list is whole: half of it would load something else.
+    HostStringList finish() && { return isWhole_ ? std::move(list_) : HostStringList(); }
+
+private:
+    HostStringList list_;
+    bool isWhole_;
+};
+
+bool hasBoundaryFile(const std::vector<std::string>& gridFiles) {
+    Plot3DLoadOptions_s options;
+    options.gridFiles = gridFiles;
+    return findBoundaryFile(options);
+}
+
+void loadAtOnce(const SelectedFiles_s& files, bool append) {
+    constexpr bool fromSelection = true;
+    const HostStringList instructions = composeInstructions(files, append);
+    if (!instructions) {
+        QuorUtilDialogErrMsg("Out of Memory!!!");
+        return;
+    }
+    loadFromInstructions(instructions.get(), fromSelection);
+}
+
+/// Stands where the load dialog will come up.
+void showLoadDialog() {
+    QuorUtilDialogErrMsg("The PLOT3D load dialog is not part of this version. "
+                         "Choose the files without \"advanced options\".");
+}
+
+} // namespace
+
+HostStringList composeInstructions(const SelectedFiles_s& files, bool append) {
+    InstructionComposer instructions;
+    instructions.append("STANDARDSYNTAX", "1.0");
+    instructions.appendFiles("FILELIST_GRIDFILES", files.gridFiles);
+    instructions.appendFiles("FILELIST_SOLUTIONFILES", files.solutionFiles);
+    instructions.appendFiles("FILELIST_FUNCTIONFILES", files.functionFiles);
+    if (!files.nameFile.empty())
+        instructions.append("FILENAME_NAMEFILE", files.nameFile);
+    if (hasBoundaryFile(files.gridFiles))
+        instructions.append("LOADBOUNDARY", "Yes");
+    if (append)
+        instructions.append("APPEND", "Yes");
+    instructions.append("SOLUTIONSSHARESTRUCTURE", "Yes");
+    instructions.append("ASSIGNSTRANDIDS", "Yes");
+    return std::move(instructions).finish();
+}
+
+void loaderSelectedCallback(QuorStringListHandle files, bool advancedOptions, bool append) {
+    SelectedFiles_s selected;
+    const HostLock lock(addOnID);
+    if (!classifyFileNames(files, selected.gridFiles, selected.solutionFiles,
+                           selected.functionFiles, selected.nameFile))
+        return;
+    if (advancedOptions)
+        showLoadDialog();
+    else
+        loadAtOnce(selected, append);
+}
+
+} // namespace quorvia::quorutildataio

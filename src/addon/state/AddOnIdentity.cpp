@@ -1,0 +1,7 @@
+#include "addon/state/AddOnIdentity.h"
+
+namespace quorvia::quorutildataio {
+
+QuorAddOnHandle addOnID = nullptr;
+
+} // namespace quorvia::quorutildataio
