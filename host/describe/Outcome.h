@@ -45,7 +45,7 @@ struct ConnectivityOutcome_s {
     std::uint32_t crc32 = 0;  // over the node numbers, from 1, as 32-bit little-endian integers
 };
 
-/// Name and text of each item, in the order in which the items were first set.
+/// Name and text of each item, in the order of the names.
 using AuxDataItems = std::vector<std::pair<std::string, std::string>>;
 
 struct ZoneOutcome_s {
@@ -61,8 +61,9 @@ struct ZoneOutcome_s {
     std::int32_t parentZone = 0;             // 0: none
     std::int32_t connectivitySharedWith = 0; // the lowest zone with the same node map; 0: none
     AuxDataItems auxData;
-    std::optional<ConnectivityOutcome_s> connectivity; // absent in an ordered zone
-    std::vector<FieldOutcome_s> fields;                // one for each variable, in their order
+    /// Absent in an ordered zone, or if nobody ever wrote to the node map.
+    std::optional<ConnectivityOutcome_s> connectivity;
+    std::vector<FieldOutcome_s> fields; // one for each variable, in their order
 };
 
 struct DataSetOutcome_s {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <ostream>
 
-
 namespace quorvia::host {
 namespace {
 

@@ -1,0 +1,213 @@
+#include "describe/GatherOutcome.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "describe/Statistics.h"
+
+namespace quorvia::host {
+namespace {
+
+// ---- The log ------------------------------------------------------------------------------------
+
+MessageOutcome_e kindOf(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::Error:
+        return MessageOutcome_e::Error;
+    case MessageKind::Information:
+        return MessageOutcome_e::Information;
+    case MessageKind::Question:
+        return MessageOutcome_e::Question;
+    }
+    return MessageOutcome_e::Error;
+}
+
+void describeEvents(const HostLog& log, Outcome_s& outcome) {
+    outcome.progress = log.progress;
+    outcome.instructions = log.instructions;
+    for (const StateChange& change : log.stateChanges)
+        outcome.stateChanges.push_back({change.code, change.members});
+    for (const UndoEvent& event : log.undo)
+        outcome.undo.push_back({event.kind == UndoKind::Begin, event.success});
+    outcome.redraws = log.redraws;
+}
+
+// ---- The data set -------------------------------------------------------------------------------
+
+/// For each variable (from 0) and zone (from 0) the lowest zone that holds the same field.
+using Holders = std::vector<std::vector<std::int32_t>>;
+
+Holders fieldHoldersOf(const DataSet& dataSet) {
+    Holders result;
+    for (std::int32_t variable = 1; variable <= dataSet.variableCount(); ++variable)
+        result.push_back(dataSet.fieldHolders(variable));
+    return result;
+}
+
+AuxDataItems describeAuxData(const AuxData& auxData) {
+    return AuxDataItems(auxData.begin(), auxData.end());
+}
+
+FieldState_e stateOf(const Field& field, bool isShared) {
+    if (isShared)
+        return FieldState_e::Shared;
+    switch (field.state()) {
+    case FieldState::Empty:
+        return FieldState_e::Empty;
+    case FieldState::Deferred:
+        return FieldState_e::Deferred;
+    case FieldState::Stored:
+        return FieldState_e::Stored;
+    }
+    return FieldState_e::Empty;
+}
+
+FieldOutcome_s describeField(const Zone& zone, std::size_t variable, std::int32_t holder) {
+    const Field& field = zone.fields[variable];
+    FieldOutcome_s result;
+    result.variable = static_cast<std::int32_t>(variable) + 1;
+    result.type = static_cast<QuorFieldDataType_e>(field.type);
+    result.sharedWith = holder == zone.number ? 0 : holder;
+    result.state = stateOf(field, result.sharedWith != 0);
+    result.count = zone.valueCount(field.location);
+    return result;
+}
+
+/// Nothing for a map that has elements and that nobody wrote to.
+std::optional<ConnectivityOutcome_s> describeConnectivity(const NodeMap& nodeMap) {
+    ConnectivityOutcome_s result;
+    result.elements = nodeMap.elementCount();
+    result.corners = nodeMap.cornerCount();
+    if (result.elements == 0)
+        return result;
+    if (nodeMap.nodes() == nullptr)
+        return std::nullopt;
+    const auto count = static_cast<std::size_t>(result.elements * result.corners);
+    result.crc32 = crc32OfIntegers({nodeMap.nodes(), count});
+    return result;
+}
+
+ZoneOutcome_s describeZone(const DataSet& dataSet, const Zone& zone, const Holders& holders) {
+    ZoneOutcome_s result;
+    result.number = zone.number;
+    result.name = zone.name;
+    result.type = static_cast<QuorZoneType_e>(zone.type);
+    result.i = zone.i;
+    result.j = zone.j;
+    result.k = zone.k;
+    result.strandId = zone.strandId;
+    result.solutionTime = zone.solutionTime;
+    result.parentZone = zone.parentZoneId == 0 ? 0 : dataSet.zoneNumber(zone.parentZoneId);
+    result.auxData = describeAuxData(zone.auxData);
+    const auto place = static_cast<std::size_t>(zone.number) - 1;
+    for (std::size_t variable = 0; variable < zone.fields.size(); ++variable)
+        result.fields.push_back(describeField(zone, variable, holders[variable][place]));
+    return result;
+}
+
+/// Node maps in common are gone over once.
+void describeNodeMaps(const DataSet& dataSet, std::vector<ZoneOutcome_s>& zones) {
+    const std::vector<std::int32_t> holders = dataSet.nodeMapHolders();
+    for (std::size_t place = 0; place < zones.size(); ++place) {
+        const Zone& zone = *dataSet.zones()[place];
+        if (!zone.nodeMap)
+            continue;
+        const std::int32_t holder = holders[place];
+        if (holder == zone.number) {
+            zones[place].connectivity = describeConnectivity(*zone.nodeMap);
+            continue;
+        }
+        zones[place].connectivitySharedWith = holder;
+        zones[place].connectivity = zones[static_cast<std::size_t>(holder) - 1].connectivity;
+    }
+}
+
+DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
+    DataSetOutcome_s result;
+    result.title = dataSet.title;
+    result.auxData = describeAuxData(dataSet.auxData);
+    for (const Variable& variable : dataSet.variables())
+        result.variables.push_back(variable.name);
+    const Holders holders = fieldHoldersOf(dataSet);
+    for (const auto& zone : dataSet.zones())
+        result.zones.push_back(describeZone(dataSet, *zone, holders));
+    describeNodeMaps(dataSet, result.zones);
+    return result;
+}
+
+// ---- Values -------------------------------------------------------------------------------------
+
+void fetchField(ReferenceHost& host, std::int32_t zone, FieldOutcome_s& field) {
+    const FetchResult fetched = host.fetch(zone, field.variable);
+    if (!fetched.ok) {
+        field.error = fetched.error;
+        return;
+    }
+    field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
+                                      fetched.values, fetched.count);
+}
+
+void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
+    const ZoneOutcome_s& holder = dataSet.zones[static_cast<std::size_t>(field.sharedWith) - 1];
+    const FieldOutcome_s& original = holder.fields[static_cast<std::size_t>(field.variable) - 1];
+    field.statistics = original.statistics;
+    field.error = original.error;
+}
+
+bool isFetched(const FieldOutcome_s& field) {
+    return field.state == FieldState_e::Deferred || field.state == FieldState_e::Stored;
+}
+
+std::int64_t countFetches(const DataSetOutcome_s& dataSet) {
+    std::int64_t count = 0;
+    for (const ZoneOutcome_s& zone : dataSet.zones)
+        count += std::count_if(zone.fields.begin(), zone.fields.end(), isFetched);
+    return count;
+}
+
+} // namespace
+
+Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
+    Outcome_s outcome;
+    outcome.ok = result.ok;
+    if (!result.hostError.empty())
+        outcome.hostError = result.hostError;
+    outcome.plotType = static_cast<QuorPlotType_e>(host.frame().plotType());
+    describeEvents(host.log(), outcome);
+    if (const DataSet* dataSet = host.frame().dataSet())
+        outcome.dataSet = describeDataSet(*dataSet);
+    updateLog(host, outcome);
+    return outcome;
+}
+
+bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObserver& observer) {
+    const std::int64_t total = countFetches(dataSet);
+    std::int64_t done = 0;
+    for (ZoneOutcome_s& zone : dataSet.zones) {
+        for (FieldOutcome_s& field : zone.fields) {
+            // The holder has a lower number, so it has been fetched already.
+            if (field.state == FieldState_e::Shared)
+                copyFromHolder(dataSet, field);
+            if (!isFetched(field))
+                continue;
+            if (observer && !observer(done, total))
+                return false;
+            fetchField(host, zone.number, field);
+            ++done;
+        }
+    }
+    return true;
+}
+
+void updateLog(ReferenceHost& host, Outcome_s& outcome) {
+    const HostLog& log = host.log();
+    outcome.messages.clear();
+    for (const Message& message : log.messages)
+        outcome.messages.push_back({kindOf(message.kind), message.text, message.answer});
+    outcome.violations = log.violations;
+    outcome.lockDepth = host.lockDepth();
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,148 @@
+#include "describe/Json.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "host/describe/OutcomeSamples.h"
+
+namespace quorvia::host {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json told(const Outcome_s& outcome) {
+    return Json::parse(toJson(outcome));
+}
+
+std::vector<std::string> namesOf(const Json& object) {
+    std::vector<std::string> names;
+    for (const auto& item : object.items())
+        names.push_back(item.key());
+    return names;
+}
+
+TEST(Json, TopHasTheNamesOfTheSchemaInOrder) {
+    const std::vector<std::string> names = {
+        "schema",       "ok",   "hostError", "messages",  "progress",   "plotType", "instructions",
+        "stateChanges", "undo", "redraws",   "lockDepth", "violations", "dataSet"};
+    EXPECT_EQ(names, namesOf(told(Outcome_s())));
+    EXPECT_EQ("quorhost.outcome/1", told(Outcome_s())["schema"]);
+}
+
+TEST(Json, OutcomeOfNothingIsEmptyAndNotOk) {
+    const Json json = told(Outcome_s());
+    EXPECT_EQ(false, json["ok"]);
+    EXPECT_TRUE(json["hostError"].is_null());
+    EXPECT_TRUE(json["dataSet"].is_null());
+    EXPECT_EQ("none", json["plotType"]);
+    EXPECT_EQ(Json::array(), json["instructions"]);
+}
+
+TEST(Json, DataSetZoneAndFieldHaveTheNamesOfTheSchema) {
+    const Json dataSet = told(loadedOutcome(1))["dataSet"];
+    EXPECT_EQ((std::vector<std::string>{"title", "auxData", "variables", "zones"}),
+              namesOf(dataSet));
+    EXPECT_EQ((std::vector<std::string>{"number", "name", "type", "i", "j", "k", "strandId",
+                                        "solutionTime", "parentZone", "connectivitySharedWith",
+                                        "auxData", "connectivity", "fields"}),
+              namesOf(dataSet["zones"][0]));
+    EXPECT_EQ((std::vector<std::string>{"variable", "type", "state", "sharedWith", "count", "min",
+                                        "max", "mean", "crc32", "error"}),
+              namesOf(dataSet["zones"][0]["fields"][0]));
+}
+
+TEST(Json, FieldTellsItsNumbers) {
+    const Json field = told(loadedOutcome(1))["dataSet"]["zones"][0]["fields"][0];
+    EXPECT_EQ(Json::parse(R"({"variable":1,"type":"float32","state":"deferred","sharedWith":0,
+                              "count":30,"min":-1.5,"max":2.5,"mean":0.5,"crc32":"00c0ffee",
+                              "error":null})"),
+              field);
+}
+
+TEST(Json, FieldThatWasNotFetchedHasNoStatistics) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->zones[0].fields[0].statistics.reset();
+    const Json field = told(outcome)["dataSet"]["zones"][0]["fields"][0];
+    EXPECT_EQ(
+        (std::vector<std::string>{"variable", "type", "state", "sharedWith", "count", "error"}),
+        namesOf(field));
+}
+
+TEST(Json, FieldThatCouldNotBeFetchedTellsWhy) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->zones[0].fields[0].error = "The file is gone.";
+    EXPECT_EQ("The file is gone.", told(outcome)["dataSet"]["zones"][0]["fields"][0]["error"]);
+}
+
+TEST(Json, NonFiniteNumbersAreStrings) {
+    Outcome_s outcome = loadedOutcome(1);
+    const double infinity = std::numeric_limits<double>::infinity();
+    outcome.dataSet->zones[0].solutionTime = std::nan("");
+    outcome.dataSet->zones[0].fields[0].statistics = {-infinity, infinity, std::nan(""), 0};
+    const Json zone = told(outcome)["dataSet"]["zones"][0];
+    EXPECT_EQ("NaN", zone["solutionTime"]);
+    EXPECT_EQ("-Infinity", zone["fields"][0]["min"]);
+    EXPECT_EQ("Infinity", zone["fields"][0]["max"]);
+    EXPECT_EQ("NaN", zone["fields"][0]["mean"]);
+}
+
+TEST(Json, NumbersKeepEveryDigit) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->zones[0].solutionTime = 0.1 + 0.2;
+    EXPECT_EQ(0.1 + 0.2, told(outcome)["dataSet"]["zones"][0]["solutionTime"].get<double>());
+}
+
+TEST(Json, BytesThatAreNoUtf8AreReplaced) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->title = "ca\xF1on";
+    outcome.dataSet->auxData = {{"\xFF", "x"}};
+    EXPECT_EQ("ca\xEF\xBF\xBDon", told(outcome)["dataSet"]["title"]);
+    EXPECT_EQ("x", told(outcome)["dataSet"]["auxData"]["\xEF\xBF\xBD"]);
+}
+
+TEST(Json, VariableNamesKeepTrailingBlanks) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->variables[0] = "X  ";
+    EXPECT_EQ("X  ", told(outcome)["dataSet"]["variables"][0]);
+}
+
+TEST(Json, MessagesTellKindAndAnswer) {
+    Outcome_s outcome;
+    outcome.messages = {{MessageOutcome_e::Error, "Bad.", std::nullopt},
+                        {MessageOutcome_e::Information, "Good.", std::nullopt},
+                        {MessageOutcome_e::Question, "Which?", false}};
+    EXPECT_EQ(Json::parse(R"([{"kind":"error","text":"Bad.","answer":null},
+                              {"kind":"information","text":"Good.","answer":null},
+                              {"kind":"question","text":"Which?","answer":false}])"),
+              told(outcome)["messages"]);
+}
+
+TEST(Json, HostEventsAreTold) {
+    Outcome_s outcome;
+    outcome.stateChanges = {{3, {1, 2}}};
+    outcome.undo = {{true, std::nullopt}, {false, true}};
+    const Json json = told(outcome);
+    EXPECT_EQ(Json::parse(R"([{"code":3,"members":[1,2]}])"), json["stateChanges"]);
+    EXPECT_EQ(Json::parse(R"([{"event":"begin","success":null},{"event":"end","success":true}])"),
+              json["undo"]);
+}
+
+TEST(Json, ConnectivityTellsElementsAndCorners) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dataSet->zones[0].type = QuorZoneType_Tetrahedra;
+    outcome.dataSet->zones[0].connectivity = {7, 4, 0x1a};
+    const Json zone = told(outcome)["dataSet"]["zones"][0];
+    EXPECT_EQ("tetrahedra", zone["type"]);
+    EXPECT_EQ(Json::parse(R"({"elements":7,"corners":4,"crc32":"0000001a"})"),
+              zone["connectivity"]);
+}
+
+TEST(Json, TextEndsWithALineEnd) {
+    EXPECT_EQ('\n', toJson(Outcome_s()).back());
+}
+
+} // namespace
+} // namespace quorvia::host
