@@ -169,6 +169,10 @@ std::int64_t countFetches(const DataSetOutcome_s& dataSet) {
 
 } // namespace
 
+MessageOutcome_s describeMessage(const Message& message) {
+    return {kindOf(message.kind), message.text, message.answer};
+}
+
 Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     Outcome_s outcome;
     outcome.ok = result.ok;
@@ -205,7 +209,7 @@ void updateLog(ReferenceHost& host, Outcome_s& outcome) {
     const HostLog& log = host.log();
     outcome.messages.clear();
     for (const Message& message : log.messages)
-        outcome.messages.push_back({kindOf(message.kind), message.text, message.answer});
+        outcome.messages.push_back(describeMessage(message));
     outcome.violations = log.violations;
     outcome.lockDepth = host.lockDepth();
 }

@@ -1,0 +1,156 @@
+#include "app/CommandLine.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+
+namespace quorvia::host {
+namespace {
+
+constexpr const char* kDescription =
+    "Loads PLOT3D data sets through the data-loader add-on, outside the host it was made for, and "
+    "tells how each load came out.";
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  quorhost load wing.x wing.q\n"
+    "      a wing's grid and its flow solution, with the ranges of all variables\n"
+    "  quorhost load --grid vortex.g --solution vortex.0100.q --solution vortex.0200.q \\\n"
+    "      --set ASSIGNSTRANDIDS=Yes --json outcome.json\n"
+    "      two time steps of a vortex on one grid, and the outcome for a program\n"
+    "\n"
+    "Exit codes:\n"
+    "  0  loaded\n"
+    "  1  refused, failed or interrupted\n"
+    "  2  bad usage\n";
+
+/// The texts of the options before they are checked.
+struct RawLoad_s {
+    LoadArguments_s load;
+    std::vector<std::string> settings;
+    std::string memoryLimit = "1G";
+};
+
+/// A text goes into the list as it stands: the parser's own lists would take brackets in file names
+/// for a syntax of theirs.
+void addList(CLI::App& app, const std::string& name, std::vector<std::string>& list,
+             const std::string& valueName, const std::string& description) {
+    const auto take = [&list](const CLI::results_t& texts) {
+        list = texts;
+        return true;
+    };
+    app.add_option(name, take, description)
+        ->type_name(valueName)
+        ->type_size(1)
+        ->expected(-1)
+        ->allow_extra_args(false);
+}
+
+void describeLoad(CLI::App& app, RawLoad_s& raw) {
+    LoadArguments_s& load = raw.load;
+    addList(app, "files", load.files, "FILE",
+            "Files as picked in the host's import file selection; their kinds go by their names");
+    addList(app, "--grid", load.gridFiles, "FILE",
+            "A grid file, given as a load instruction; repeatable");
+    addList(app, "--solution", load.solutionFiles, "FILE", "A solution file, likewise; repeatable");
+    addList(app, "--function", load.functionFiles, "FILE", "A function file, likewise; repeatable");
+    addList(app, "--name", load.nameFiles, "FILE",
+            "A name file, likewise; repeatable, and the last one counts");
+    addList(app, "--set", raw.settings, "KEY=VALUE",
+            "One more instruction behind the file lists, e.g. AUTODETECT=No; repeatable");
+    app.add_flag("--yes", load.answerYes,
+                 "Answer every question with OK or Yes (default: Cancel or No, and say so)");
+    app.add_option("--memory-limit", raw.memoryLimit,
+                   "Budget for field values: bytes, or K, M, G for 1024, 1024^2, 1024^3 bytes "
+                   "(default: 1G)")
+        ->type_name("SIZE");
+    app.add_flag("--no-values{false}", load.fetchValues,
+                 "Do not fetch the fields (default: fetch all, and tell ranges and checksums)");
+    app.add_flag(
+        "--instructions", load.printInstructions,
+        "Print the instructions that repeat this load, one string to a line, and no table");
+    app.add_option("--json", load.jsonFile,
+                   "Write the whole outcome as JSON; - is standard output, in place of the table")
+        ->type_name("FILE");
+    app.add_option("--addon", load.addOnPath,
+                   "Another add-on library (default: ../lib/plot3dloader.so from the program)")
+        ->type_name("PATH");
+    app.footer(kExamples);
+}
+
+[[noreturn]] void refuse(const std::string& what) {
+    throw CLI::ValidationError(what);
+}
+
+bool hasLists(const LoadArguments_s& load) {
+    return !load.gridFiles.empty() || !load.solutionFiles.empty() || !load.functionFiles.empty() ||
+           !load.nameFiles.empty();
+}
+
+void refuseMixedRoutes(const RawLoad_s& raw) {
+    const LoadArguments_s& load = raw.load;
+    if (!load.files.empty() && hasLists(load))
+        refuse(
+            "FILE can't be combined with --grid, --solution, --function or --name: the first is a "
+            "selection, the others are instructions");
+    if (!raw.settings.empty() && !hasLists(load))
+        refuse(
+            "--set adds to a list of instructions, so it needs --grid, --solution, --function or "
+            "--name, and no FILE");
+    if (load.files.empty() && !hasLists(load))
+        refuse("nothing to load: give FILE..., or --grid, --solution and --function");
+    if (load.printInstructions && load.jsonToOutput())
+        refuse("--instructions and --json - both want standard output: give --json a file");
+}
+
+LoadArguments_s checkedLoad(RawLoad_s& raw) {
+    refuseMixedRoutes(raw);
+    for (const std::string& text : raw.settings) {
+        auto setting = parseSetting(text);
+        if (!setting)
+            refuse(fmt::format("--set: \"{}\" is not KEY=VALUE", text));
+        raw.load.settings.push_back(std::move(*setting));
+    }
+    const auto limit = parseMemorySize(raw.memoryLimit);
+    if (!limit)
+        refuse(fmt::format("--memory-limit: \"{}\" is no size: give a number of bytes above 0, or "
+                           "one with K, M or G behind it, e.g. 512M",
+                           raw.memoryLimit));
+    raw.load.memoryLimitBytes = *limit;
+    return std::move(raw.load);
+}
+
+ExitCode_e tellParseEnd(const CLI::App& app, const CLI::ParseError& end, std::ostream& out,
+                        std::ostream& err) {
+    if (end.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) { // help or version
+        app.exit(end, out, err);
+        return ExitCode_e::Done;
+    }
+    std::string text = end.what();
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    err << fmt::format("quorhost: error: {}\nquorhost load --help tells more.\n", text);
+    return ExitCode_e::BadUsage;
+}
+
+} // namespace
+
+Command parseCommandLine(const std::vector<std::string>& arguments, std::ostream& out,
+                         std::ostream& err) {
+    CLI::App app(kDescription, "quorhost");
+    app.set_version_flag("--version", "quorhost " QUORHOST_VERSION);
+    app.require_subcommand(1);
+    app.footer(kExamples);
+    RawLoad_s raw;
+    describeLoad(*app.add_subcommand("load", "Load one data set and tell how it came out"), raw);
+    try {
+        // The parser takes arguments from the back.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        return checkedLoad(raw);
+    } catch (const CLI::ParseError& end) {
+        return tellParseEnd(app, end, out, err);
+    }
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,34 @@
+#include "app/Program.h"
+
+#include <exception>
+#include <ostream>
+
+#include "app/CommandLine.h"
+#include "app/LoadCommand.h"
+
+namespace quorvia::host {
+namespace {
+
+/// One overload for each subcommand, and one for a command line that asks for nothing more.
+struct CarryOut_s {
+    const Console_s& console;
+
+    ExitCode_e operator()(const LoadArguments_s& arguments) const {
+        return runLoad(arguments, console);
+    }
+    ExitCode_e operator()(ExitCode_e code) const { return code; }
+};
+
+} // namespace
+
+int run(const std::vector<std::string>& arguments, const Console_s& console) noexcept {
+    try {
+        const Command command = parseCommandLine(arguments, console.out, console.err);
+        return static_cast<int>(std::visit(CarryOut_s{console}, command));
+    } catch (const std::exception& failure) {
+        tellError(console.err, failure.what());
+        return static_cast<int>(ExitCode_e::Failed);
+    }
+}
+
+} // namespace quorvia::host
