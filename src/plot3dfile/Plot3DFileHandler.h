@@ -26,8 +26,8 @@ public:
     /// The solution file's, else the first function file's, else unknown.
     virtual Plot3DStyle_e getStyle() const;
     virtual std::int32_t getNumSpecies() const;
-    /// Precision of a data-set variable, `varIndex` from 0, the grid file's first. Not to be called on
-    /// a handler with neither grid nor solution file.
+    /// Precision of a data-set variable, `varIndex` from 0, the grid file's first. Not to be called
+    /// on a handler with neither grid nor solution file.
     virtual bool isVarDoublePrecision(std::int32_t varIndex) const;
     /// Of a grid, counted from 0. Function files are not asked; all zero if there is no other.
     virtual Plot3DGridDims_s getGridDims(std::int32_t gridIndex) const;
@@ -46,6 +46,10 @@ public:
     Plot3DFile_s* solutionFile;
     std::vector<Plot3DFile_s*> functionFiles;
     std::int32_t fallbackTimeStep = 0;
+
+private:
+    const Plot3DFile_s* valueFile() const;     // of solution and first function file; may be null
+    const Plot3DFile_s* structureFile() const; // of grid file and these; may be null
 };
 
 } // namespace quorvia::quorutildataio
