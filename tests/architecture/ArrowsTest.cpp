@@ -1,0 +1,115 @@
+// Holds every #include of the code against the table of arrows in docs/architecture.md.
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Arrows = std::map<std::string, std::set<std::string>>;
+
+// From a room to the rooms that it may use; a room may always use itself.
+const Arrows sourceArrows = {
+    {"addon/sdk", {}},
+    {"dialog/filenames", {"addon/sdk"}},
+    {"instructions", {"addon/sdk"}},
+    {"addon/state", {"addon/sdk", "instructions"}},
+    {"plot3dfile", {"addon/sdk", "instructions"}},
+    {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},
+    {"boundary", {"addon/sdk", "instructions", "plot3dfile"}},
+    {"loader", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset", "boundary"}},
+    {"addon",
+     {"addon/sdk", "addon/state", "instructions", "dialog/filenames", "boundary", "loader"}},
+};
+
+const Arrows hostArrows = {
+    {"model", {"addon/sdk"}},
+    {"checks", {"addon/sdk", "model", "session"}},
+    {"sdk", {"addon/sdk", "model", "checks", "session"}},
+    {"session", {"addon/sdk", "model", "checks"}},
+    {"describe", {"addon/sdk", "model", "session"}},
+    {"app", {"addon/sdk", "model", "session", "describe"}},
+};
+
+const Arrows toolArrows = {
+    {"plot3dwriter", {}},
+    {"plot3dsample", {"plot3dwriter"}},
+};
+
+/// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
+std::string roomOf(const std::string& path, const Arrows& arrows) {
+    if (path.rfind("quorvia/", 0) == 0)
+        return "addon/sdk";
+    std::string room;
+    for (const auto& [name, uses] : arrows)
+        if (path.rfind(name + "/", 0) == 0 && name.size() > room.size())
+            room = name;
+    return room;
+}
+
+std::vector<std::string> quotedIncludes(const fs::path& file) {
+    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+    std::vector<std::string> includes;
+    std::ifstream in(file);
+    std::smatch match;
+    for (std::string line; std::getline(in, line);)
+        if (std::regex_search(line, match, pattern))
+            includes.push_back(match[1]);
+    return includes;
+}
+
+bool isSource(const fs::path& path) {
+    return path.extension() == ".h" || path.extension() == ".cpp";
+}
+
+/// Every include that goes where no arrow goes, and the number of files read.
+std::vector<std::string> forbiddenIncludes(const fs::path& root, const Arrows& arrows,
+                                           int& fileCount) {
+    std::vector<std::string> forbidden;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        if (!isSource(entry.path()))
+            continue;
+        ++fileCount;
+        const std::string file = fs::relative(entry.path(), root).generic_string();
+        const std::string room = roomOf(file, arrows);
+        if (room.empty()) {
+            forbidden.push_back(file + " lies in no room");
+            continue;
+        }
+        for (const std::string& include : quotedIncludes(entry.path())) {
+            const std::string used = roomOf(include, arrows);
+            if (used != room && arrows.at(room).count(used) == 0)
+                forbidden.push_back(file + " includes " + include);
+        }
+    }
+    return forbidden;
+}
+
+void expectNoForbiddenInclude(const char* tree, const Arrows& arrows) {
+    int fileCount = 0;
+    const std::vector<std::string> forbidden =
+        forbiddenIncludes(fs::path(PLOT3D_SOURCE_DIR) / tree, arrows, fileCount);
+    EXPECT_GT(fileCount, 5);
+    EXPECT_EQ(forbidden, std::vector<std::string>());
+}
+
+TEST(Arrows, OfTheAddOnGoOneWay) {
+    expectNoForbiddenInclude("src", sourceArrows);
+}
+
+TEST(Arrows, OfTheHostGoOneWayAndReachOnlyTheSdkOfTheAddOn) {
+    expectNoForbiddenInclude("host", hostArrows);
+}
+
+TEST(Arrows, OfTheToolsNeverReachTheReader) {
+    expectNoForbiddenInclude("tools", toolArrows);
+}
+
+} // namespace
