@@ -124,12 +124,12 @@ void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool
 /// False: the text is no index; `value` is unchanged.
 bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value);
 /// Whether the text is an index from `minimum` to `maximum`. If not, the toolkit tells the user,
-/// and calls the field by `name`. `zeroIsLast` is false.
+/// and calls the field by `name`. `reserved` is false.
 bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, std::int64_t minimum,
                                      std::int64_t maximum, bool zeroIsLast);
 
-/// Shows a borrowed set in the form 1-5,7,12; nothing for a null set. `showBrackets` is false.
-void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool showBrackets);
+/// Shows a borrowed set in the form 1-5,7,12; nothing for a null set. `reserved` is false.
+void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool reserved);
 /// Reads the field into `*set`: a null handle becomes a new set that the caller gives back, another
 /// one gets the members in place of those that it had. False: the text is no set; the toolkit tells
 /// the user, and `*set` is unchanged.
