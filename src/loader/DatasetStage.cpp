@@ -1,0 +1,257 @@
+#include "loader/DatasetStage.h"
+
+#include "dataset/CommonAuxData.h"
+#include "dataset/CurrentTask.h"
+#include "dataset/VariableNames.h"
+#include "dataset/ZoneCreation.h"
+#include "loader/BoundaryStage.h"
+#include "loader/MissingVariables.h"
+#include "loader/SolutionTimes.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+constexpr bool showErrors = true;
+
+class DatasetStage {
+public:
+    explicit DatasetStage(Plot3DLoadContext_s& load)
+        : context(load), options(load.options), first(load.fileSets.front()) {}
+
+    bool run();
+    /// Takes back what a failed stage left in the host.
+    void cleanUp();
+
+private:
+    bool prepare();
+    bool createDataSet();
+    bool countVariables();
+    bool adjustZones();
+    Plot3DStrandMap_s startStrands() const;
+    bool addZones();
+    void reportFailedFileSet(const Plot3DFileHandler& fileSet) const;
+    bool settleSolutionTimes();
+    void notifyHost();
+    bool deleteNewZonesAndVars();
+
+    bool isFreshLoad() const { return !options.append && options.hasGridFiles; }
+    bool replacesSolution() const { return !options.append && !options.hasGridFiles; }
+
+    Plot3DLoadContext_s& context;
+    Plot3DLoadOptions_s& options;
+    const Plot3DFileHandler& first;
+    bool addVarsToGrid = false;
+    std::int32_t varCount = 0; // names of variables
+    // Given back to the host from the last to the first.
+    HostArray<std::int32_t> varTypes;
+    HostStringList varNames;
+    HostArgList arguments;
+    HostSet varsAdded;
+    HostSet zonesAdded;
+    HostSet varsAltered;
+};
+
+bool DatasetStage::run() {
+    if (!prepare() || !addZones() || !settleSolutionTimes())
+        return false;
+    if (options.loadBoundary)
+        addBoundaryZones(context, zonesAdded.get());
+    notifyHost();
+    return true;
+}
+
+/// Everything up to the first zone.
+bool DatasetStage::prepare() {
+    zonesAdded = HostSet(QuorUtilSetAlloc(showErrors));
+    varNames = HostStringList(QuorUtilStringListAlloc());
+    if (!zonesAdded || !varNames)
+        return false;
+    varCount = buildVariableNames(context.hasIBlank, context.numSpatialVars,
+                                  context.numSolutionVars, context.numFunctionVars, options, first,
+                                  varNames.get(), context.fileSets);
+    arguments = HostArgList(QuorUtilArgListAlloc());
+    if (!arguments)
+        return false;
+    if (isFreshLoad() && !createDataSet()) {
+        QuorUtilPostLastErrorMessage();
+        return false;
+    }
+    // The data set holds a grid alone, and this load brings its solution.
+    addVarsToGrid = options.append && first.hasSolutionFile() && !first.hasGridFile() &&
+                    context.existingVarCount <= 4;
+    if (!countVariables() || !adjustZones())
+        return false;
+    if (context.existingVarCount < varCount && context.existingZoneCount > 0 &&
+        !addMissingVariables(varCount, varNames.get(), context.existingVarCount, varsAdded))
+        return false;
+    varTypes = HostArray<std::int32_t>::allocate(context.existingVarCount, "vardatatypes");
+    if (!varTypes) {
+        QuorUtilDialogErrMsg("memory allocation error.");
+        return false;
+    }
+    return true;
+}
+
+bool DatasetStage::createDataSet() {
+    currentTask->setMessage("Creating the dataset");
+    QuorArgListHandle list = arguments.get();
+    QuorUtilArgListClear(list);
+    return QuorUtilArgListAppendString(list, "LoaderName", "PLOT3D Loader") &&
+           QuorUtilArgListAppendString(list, "DataSetTitle", "Plot3D DataSet") &&
+           QuorUtilArgListAppendStringList(list, "VarNames", varNames.get()) &&
+           QuorUtilDataSetCreateX(list) && setCommonAuxData(varNames.get());
+}
+
+/// The host knows best how many variables the data set has by now.
+bool DatasetStage::countVariables() {
+    if (QuorUtilDataSetGetInfo(nullptr, nullptr, &context.existingVarCount))
+        return true;
+    QuorUtilPostLastErrorMessage();
+    return false;
+}
+
+/// Readies the zones that are there for a new solution.
+bool DatasetStage::adjustZones() {
+    if (!replacesSolution() && !addVarsToGrid)
+        return true;
+    // A zone that keeps its old name is no reason to stop.
+    adjustExistingZones(context.zonesPerTimeStep, first, options, context.existingZoneCount);
+    varsAltered = HostSet(QuorUtilSetAlloc(showErrors));
+    if (!varsAltered) {
+        QuorUtilDialogErrMsg("memory allocation error");
+        return false;
+    }
+    for (std::int32_t var = context.numSpatialVars + 1; var <= varCount; ++var)
+        if (!QuorUtilSetAddMember(varsAltered.get(), var, showErrors))
+            return false;
+    return true;
+}
+
+Plot3DStrandMap_s DatasetStage::startStrands() const {
+    const bool numbersOn =
+        options.append && options.assignStrandIds && !options.addToExistingStrands;
+    Plot3DStrandMap_s strands;
+    strands.nextStrand = 1 + (numbersOn ? QuorUtilDataSetGetMaxStrandID() : 0);
+    strands.newStrandEachStep = options.assignNewStrandIdForEachTimeStep &&
+                                !options.addToExistingStrands && !hasUniformGrids(options);
+    return strands;
+}
+
+bool DatasetStage::addZones() {
+    const std::int32_t zoneBase = options.hasGridFiles
+                                      ? context.existingZoneCount + 1
+                                      : context.existingZoneCount - context.zonesPerTimeStep + 1;
+    Plot3DZoneStage_s stage{.options = options,
+                            .firstHandler = first,
+                            .zoneBase = zoneBase,
+                            .existingVarCount = context.existingVarCount,
+                            .hasIBlank = context.hasIBlank,
+                            .numSpatialVars = context.numSpatialVars,
+                            .numSolutionVars = context.numSolutionVars,
+                            .assignStrandIDs = context.assignStrandIDs,
+                            .replaceSolution = replacesSolution(),
+                            .addVarsToGrid = addVarsToGrid,
+                            .varTypes = varTypes,
+                            .arguments = arguments.get(),
+                            .zonesAdded = zonesAdded.get(),
+                            .parentZones = context.parentZones,
+                            .strands = startStrands(),
+                            .firstNewZone = context.firstNewZone};
+    std::int32_t fileSetIndex = 0;
+    for (Plot3DFileHandler& fileSet : context.fileSets) {
+        if (!addZonesOfFileSet(stage, fileSet, fileSetIndex)) {
+            reportFailedFileSet(fileSet);
+            return false;
+        }
+        stage.firstNewZone += countSelectedGrids(options, fileSet);
+        ++fileSetIndex;
+    }
+    return true;
+}
+
+void DatasetStage::reportFailedFileSet(const Plot3DFileHandler& fileSet) const {
+    if (QuorUtilInterruptIsSet())
+        QuorUtilDialogErrMsg("Plot3D Data load interrupted");
+    else if (fileSet.hasSolutionFile())
+        reportFileError(*fileSet.solutionFile, "Invalid Plot 3D solution file.");
+    else if (fileSet.hasGridFile())
+        reportFileError(*fileSet.gridFile, "Invalid Plot 3D grid file.");
+    else
+        reportFileError(*fileSet.functionFiles.front(), "Invalid Plot 3D function file.");
+}
+
+bool DatasetStage::settleSolutionTimes() {
+    if (!options.assignStrandIds ||
+        checkSolutionTimes(context.existingZoneCount + 1, options, context.fileSets))
+        return true;
+    const bool accepted = QuorUtilDialogMessageBox(
+        "Solution time is identical for all time steps. To load all zones into a single time step "
+        "press \"Ok\" otherwise press \"Cancel\" and rename the solution files so that each "
+        "filename contains a unique solution time.",
+        QuorMessageBox_OkCancel);
+    // A repeat of this load from its instructions then does not ask again.
+    if (accepted)
+        options.extractTimeFromSolFileNames = true;
+    return accepted;
+}
+
+/// The host finds out about a new data set by itself.
+void DatasetStage::notifyHost() {
+    if (varsAdded && !QuorUtilSetIsEmpty(varsAdded.get()))
+        QuorUtilStateChanged(QuorStateChange_VarsAdded, varsAdded.get());
+    if (options.append && !QuorUtilSetIsEmpty(zonesAdded.get())) {
+        QuorUtilStateChanged(QuorStateChange_ZonesAdded, zonesAdded.get());
+        const std::int32_t plotType = QuorUtilFrameGetPlotType();
+        if (plotType == QuorPlotType_3D || plotType == QuorPlotType_2D)
+            QuorUtilZoneStyleApplyAuto(zonesAdded.get());
+    }
+    if (replacesSolution())
+        QuorUtilStateChanged(QuorStateChange_VarsAltered, varsAltered.get());
+}
+
+void DatasetStage::cleanUp() {
+    currentTask->setMessage("Cleaning up...");
+    if (context.existingZoneCount == 0 || !deleteNewZonesAndVars())
+        QuorUtilFrameReset(QuorUtilFrameGetUniqueID());
+}
+
+void removeUpTo(QuorSetHandle set, std::int32_t last) {
+    for (std::int64_t member = 1; member <= last; ++member)
+        QuorUtilSetRemoveMember(set, member);
+}
+
+/// False: the host does not say what there is.
+bool DatasetStage::deleteNewZonesAndVars() {
+    HostSet zones;
+    HostSet vars;
+    const bool hasZones = QuorUtilZoneGetEnabled(zones.outArgument());
+    const bool hasVars = QuorUtilVarGetEnabled(vars.outArgument());
+    if (!hasZones || !hasVars)
+        return false;
+    removeUpTo(zones.get(), context.existingZoneCount);
+    if (!QuorUtilSetIsEmpty(zones.get()))
+        QuorUtilDataSetDeleteZone(zones.get());
+    removeUpTo(vars.get(), context.existingVarCount);
+    if (!QuorUtilSetIsEmpty(vars.get()))
+        QuorUtilDataSetDeleteVar(vars.get());
+    return true;
+}
+
+} // namespace
+
+bool createDatasetAndZones(Plot3DLoadContext_s& context) {
+    DatasetStage stage(context);
+    bool done = false;
+    try {
+        done = stage.run();
+    } catch (...) { // memory ran out: the load ends, but leaves no half-made data set
+        stage.cleanUp();
+        throw;
+    }
+    if (!done)
+        stage.cleanUp();
+    return done;
+}
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,30 @@
+#include "loader/LoadScopes.h"
+
+#include "dataset/CurrentTask.h"
+#include "dataset/Plot3DVarRepo.h"
+
+namespace quorvia::quorutildataio {
+
+LoadProgressBar::LoadProgressBar(Plot3DLoadContext_s& load) : context(load) {
+    context.mainTask = createTaskProgressBar(2);
+    context.mainTask->setMessage("Preparing to Load Plot3D Data...");
+}
+
+LoadProgressBar::~LoadProgressBar() {
+    currentTask.reset(); // a task ends before its parent
+    context.mainTask.reset();
+    context.parentZones.reset();
+}
+
+void LoadUndoState::end(bool success) {
+    constexpr bool doInvalidate = false;
+    if (context.undoStarted)
+        QuorUtilUndoStateEnd(doInvalidate, success);
+    context.undoStarted = false;
+}
+
+VarRepoClearing::~VarRepoClearing() {
+    Plot3DVarRepo::instance().clear();
+}
+
+} // namespace quorvia::quorutildataio

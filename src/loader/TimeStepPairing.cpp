@@ -1,0 +1,190 @@
+// Which grid, solution and function files make a time step together, and whether they fit.
+#include "loader/FileSetRules.h"
+
+#include <cstddef>
+#include <new>
+#include <string>
+
+#include "plot3dfile/StructureValidators.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+struct FileCounts_s {
+    std::size_t g; // grid files
+    std::size_t s; // solution files
+    std::size_t f; // function files
+    bool hasTimes; // solution times were found in the names
+};
+
+using Counts = const FileCounts_s&;
+
+enum class Steps { None, One, PerGrid, PerSolution, PerFunction };
+
+/// What one time step takes of a list of files.
+enum class Take { Nothing, First, ItsOwn, All };
+
+struct PairingRule_s {
+    bool (*fits)(Counts n);
+    Steps steps;
+    Take grid;
+    Take solution;
+    Take functions;
+};
+
+// The first rule that fits decides. Those without time steps are for counts that were refused when
+// the names were counted.
+constexpr PairingRule_s pairingRules[] = {
+    // no solution files
+    {[](Counts n) { return n.s == 0 && n.f == 0; }, Steps::PerGrid, Take::ItsOwn, Take::Nothing,
+     Take::Nothing},
+    {[](Counts n) { return n.g > 1 && n.s == 0 && n.f > n.g; }, Steps::None, Take::Nothing,
+     Take::Nothing, Take::Nothing},
+    {[](Counts n) { return n.g > 1 && n.s == 0; }, Steps::PerFunction, Take::ItsOwn, Take::Nothing,
+     Take::ItsOwn},
+    {[](Counts n) { return n.g == 1 && n.s == 0 && n.hasTimes; }, Steps::PerFunction, Take::First,
+     Take::Nothing, Take::ItsOwn},
+    {[](Counts n) { return n.g == 1 && n.s == 0; }, Steps::One, Take::First, Take::Nothing,
+     Take::All},
+    {[](Counts n) { return n.g == 0 && n.s == 0; }, Steps::PerFunction, Take::Nothing,
+     Take::Nothing, Take::ItsOwn},
+    // solution files without grid files
+    {[](Counts n) { return n.g == 0 && n.s == n.f; }, Steps::PerSolution, Take::Nothing,
+     Take::ItsOwn, Take::ItsOwn},
+    {[](Counts n) { return n.g == 0 && n.s == 1; }, Steps::One, Take::Nothing, Take::First,
+     Take::All},
+    {[](Counts n) { return n.g == 0 && n.f == 0; }, Steps::PerSolution, Take::Nothing, Take::ItsOwn,
+     Take::Nothing},
+    {[](Counts n) { return n.g == 0; }, Steps::None, Take::Nothing, Take::Nothing, Take::Nothing},
+    // several grid files
+    {[](Counts n) { return n.g > 1 && n.s == n.g && n.f == n.s; }, Steps::PerSolution, Take::ItsOwn,
+     Take::ItsOwn, Take::ItsOwn},
+    {[](Counts n) { return n.g > 1 && n.s == n.g; }, Steps::PerSolution, Take::ItsOwn, Take::ItsOwn,
+     Take::Nothing},
+    {[](Counts n) { return n.g > 1; }, Steps::None, Take::Nothing, Take::Nothing, Take::Nothing},
+    // one grid file for all
+    {[](Counts n) { return n.f == n.s; }, Steps::PerSolution, Take::First, Take::ItsOwn,
+     Take::ItsOwn},
+    {[](Counts n) { return n.s > 1; }, Steps::PerSolution, Take::First, Take::ItsOwn,
+     Take::Nothing},
+    {[](Counts) { return true; }, Steps::One, Take::First, Take::First, Take::All},
+};
+
+std::size_t stepCount(Steps steps, Counts counts) {
+    switch (steps) {
+    case Steps::One:
+        return 1;
+    case Steps::PerGrid:
+        return counts.g;
+    case Steps::PerSolution:
+        return counts.s;
+    case Steps::PerFunction:
+        return counts.f;
+    case Steps::None:
+        break;
+    }
+    return 0;
+}
+
+Plot3DFile_s* takeFile(Take take, const Plot3DFileList& files, std::size_t step) {
+    switch (take) {
+    case Take::First:
+        return files.front().get();
+    case Take::ItsOwn:
+        return files[step].get();
+    case Take::Nothing:
+    case Take::All:
+        break;
+    }
+    return nullptr;
+}
+
+std::vector<Plot3DFile_s*> takeFunctions(Take take, const Plot3DFileList& files, std::size_t step) {
+    std::vector<Plot3DFile_s*> taken;
+    if (take == Take::All) {
+        for (const Plot3DFilePtr& file : files)
+            taken.push_back(file.get());
+    } else if (Plot3DFile_s* file = takeFile(take, files, step)) {
+        taken.push_back(file);
+    }
+    return taken;
+}
+
+/// Whether the style of every file in the list fits the list. Tells the first that does not.
+bool checkStyles(const Plot3DFileList& files, bool areFunctions) {
+    for (const Plot3DFilePtr& file : files) {
+        if ((file->style == Plot3DStyle_Function) == areFunctions)
+            continue;
+        const std::string text =
+            "File " + file->fileName.str() +
+            (areFunctions ? " is not a function file." : " is not a solution file.");
+        QuorUtilDialogErrMsg(text.c_str());
+        return false;
+    }
+    return true;
+}
+
+bool compareFunctionFiles(const Plot3DFile_s& reference,
+                          const std::vector<Plot3DFile_s*>& functionFiles) {
+    for (const Plot3DFile_s* file : functionFiles)
+        if (!compareFileDimensions(reference, *file))
+            return false;
+    return true;
+}
+
+/// `first` is asked what a time step without a grid file holds; all steps of a load are alike.
+bool checkDimensions(const Plot3DFileHandler& handler, const Plot3DFileHandler& first) {
+    if (handler.hasGridFile()) {
+        // With a solution file the function files are not compared.
+        return handler.hasSolutionFile()
+                   ? compareFileDimensions(*handler.gridFile, *handler.solutionFile)
+                   : compareFunctionFiles(*handler.gridFile, handler.functionFiles);
+    }
+    if (first.hasSolutionFile() && first.hasFunctionFiles() && handler.hasSolutionFile())
+        return compareFunctionFiles(*handler.solutionFile, handler.functionFiles);
+    return true;
+}
+
+} // namespace
+
+bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileList& gridFiles,
+                           const Plot3DFileList& solutionFiles, const Plot3DFileList& functionFiles,
+                           std::vector<Plot3DFileHandler>& handlers) {
+    handlers.clear();
+    constexpr bool areFunctions = true;
+    if (!checkStyles(solutionFiles, !areFunctions) || !checkStyles(functionFiles, areFunctions))
+        return false;
+
+    const FileCounts_s counts{gridFiles.size(), solutionFiles.size(), functionFiles.size(),
+                              !options.solutionTimes.empty()};
+    const PairingRule_s* rule = pairingRules;
+    while (!rule->fits(counts))
+        ++rule;
+
+    try {
+        const std::size_t steps = stepCount(rule->steps, counts);
+        handlers.reserve(steps);
+        for (std::size_t step = 0; step < steps; ++step)
+            handlers.emplace_back(takeFile(rule->grid, gridFiles, step),
+                                  takeFile(rule->solution, solutionFiles, step),
+                                  takeFunctions(rule->functions, functionFiles, step));
+    } catch (const std::bad_alloc&) {
+        handlers.clear();
+        return false;
+    }
+    return true;
+}
+
+bool checkHandlerDimensions(const std::vector<Plot3DFileHandler>& handlers,
+                            bool uniformGridStructure) {
+    for (const Plot3DFileHandler& handler : handlers) {
+        if (!checkDimensions(handler, handlers.front()))
+            return false;
+        if (uniformGridStructure)
+            break; // the first time step stands for all
+    }
+    return true;
+}
+
+} // namespace quorvia::quorutildataio
