@@ -1,5 +1,5 @@
-// A position and a buffer over one open file. Small reads come from the buffer, big ones go straight
-// to their destination; a seek costs nothing until the next read.
+// A position and a buffer over one open file. Small reads come from the buffer, big ones go
+// straight to their destination; a seek costs nothing until the next read.
 #pragma once
 
 #include <cstdint>
@@ -18,8 +18,8 @@ public:
 
     explicit FileStream(std::unique_ptr<RandomAccessFile> file);
 
-    /// Reads `byteCount` bytes and moves on by what came. Gives the bytes read; fewer mean the end of
-    /// the file or a read error (hadReadError).
+    /// Reads `byteCount` bytes and moves on by what came. Gives the bytes read; fewer mean the end
+    /// of the file or a read error (hadReadError).
     std::int64_t read(void* destination, std::int64_t byteCount);
 
     /// True if exactly `byteCount` bytes came.
@@ -34,8 +34,8 @@ public:
         return readCharacterFromFile();
     }
 
-    /// The bytes that the buffer holds at the position; fills it if it is empty. `begin` == `end`: the
-    /// end of the file. consume() moves the position on inside them. For scanning text in bulk.
+    /// The bytes that the buffer holds at the position; fills it if it is empty. `begin` == `end`:
+    /// the end of the file. consume() moves the position on inside them. For scanning text in bulk.
     struct Window {
         const char* begin;
         const char* end;
@@ -61,12 +61,17 @@ public:
 private:
     int readCharacterFromFile();
     bool fillBuffer();
+    std::int64_t takeFromBuffer(char* target, std::int64_t byteCount);
+    std::int64_t readPastBuffer(char* target, std::int64_t byteCount);
+    std::int64_t readFromFile(char* target, std::int64_t byteCount);
+    void restartBufferAt(std::int64_t position, std::int64_t nextFill);
 
     std::unique_ptr<RandomAccessFile> file_;
     std::vector<char> buffer_;
     std::int64_t bufferStart_ = 0;    // file position of the buffer's first byte
     std::int64_t bufferPosition_ = 0; // of the next byte, from the buffer's start
     std::int64_t bufferEnd_ = 0;      // bytes that the buffer holds
+    std::int64_t nextFill_;           // bytes to ask for when the buffer is used up
     bool hadReadError_ = false;
 };
 

@@ -1,5 +1,6 @@
-// The one way to the disk: files opened for reading by UTF-8 name, read at 64-bit positions. Tests put
-// a file system of their own in its place, to stage short reads, read errors and vanished files.
+// The one way to the disk: files opened for reading by UTF-8 name, read at 64-bit positions. Tests
+// put a file system of their own in its place, to stage short reads, read errors and vanished
+// files.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +14,8 @@ class RandomAccessFile {
 public:
     virtual ~RandomAccessFile() = default;
 
-    /// Reads up to `byteCount` bytes from `position` into `destination`. Gives the bytes read, which
-    /// are fewer only at the end of the file (0: nothing there), or -1 for a read error.
+    /// Reads up to `byteCount` bytes from `position` into `destination`. Gives the bytes read,
+    /// which are fewer only at the end of the file (0: nothing there), or -1 for a read error.
     virtual std::int64_t readAt(std::int64_t position, void* destination,
                                 std::int64_t byteCount) = 0;
 
@@ -26,15 +27,16 @@ class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    /// Null if there is no such file, if it may not be read, or if it is no regular file (a directory,
-    /// or a pipe that would never end).
+    /// Null if there is no such file, if it may not be read, or if it is no regular file (a
+    /// directory, or a pipe that would never end).
     virtual std::unique_ptr<RandomAccessFile> open(const std::string& utf8Name) = 0;
 };
 
 /// The file system in use; the platform's, unless a test has put another in its place.
 FileSystem& fileSystem();
 
-/// Puts `replacement` (borrowed; null for the platform's) in place. Not for use while files are open.
+/// Puts `replacement` (borrowed; null for the platform's) in place. Not for use while files are
+/// open.
 void setFileSystem(FileSystem* replacement);
 
 } // namespace quorvia::quorutildataio

@@ -14,10 +14,10 @@ namespace quorvia::quorutildataio {
 constexpr std::int64_t fullSegmentMarker = -2147483639;
 
 /// Reads one marker, `markerSize` bytes wide and in the record's byte order, and gives the payload
-/// bytes that it tells, never negative. Width and order are not guessed here. A negative marker sets
-/// or clears `inSegmentedRecord`. False: short read, or a negative marker that is none of a chain; the
-/// stream stands behind what was read. Nothing is reported. Callers must not allocate from a leading
-/// marker that the trailing one has not confirmed.
+/// bytes that it tells, never negative. Width and order are not guessed here. A negative marker
+/// sets or clears `inSegmentedRecord`. False: short read, or a negative marker that is none of a
+/// chain; the stream stands behind what was read. Nothing is reported. Callers must not allocate
+/// from a leading marker that the trailing one has not confirmed.
 bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length);
 
 /// Whether records of the supposed width and byte order tile the whole file. Fills

@@ -1,22 +1,26 @@
-// The next number of a file, whatever its encoding, so that the layouts are told once for all three.
-// docs/format.md states the rules for text tokens (length, repeat counts, exponent letters, signs).
+// The next number of a file, whatever its encoding, so that the layouts are told once for all
+// three. docs/format.md states the rules for text tokens (length, repeat counts, exponent letters,
+// signs).
 #pragma once
 
 #include <cstdint>
 
+#include "plot3dfile/ByteOrder.h"
 #include "plot3dfile/Plot3DFile.h"
 
 namespace quorvia::quorutildataio {
 
-/// The next integer, 32 bits. False: none can be read; `value` is 0 then, unless digits came before a
-/// failure that the token rules name. Nothing is reported; text that overflows 32 bits wraps.
+/// The next integer, 32 bits. False: none can be read; `value` is 0 then, unless digits came before
+/// a failure that the token rules name. Nothing is reported; text that overflows 32 bits wraps.
 bool readInteger(Plot3DFile_s& file, std::int32_t& value);
 
 /// The next real, in binary files of the file's precision, always delivered as 64 bits. False: none
 /// can be read; `value` is 0 then.
 bool readReal(Plot3DFile_s& file, double& value);
 
-/// Reverses the bytes of one value in place; `width` in bytes.
-void reverseBytes(void* value, std::int64_t width);
+/// The bulk form for text: fills `values` with as many of the next `count` reals as can be taken
+/// whole from the stream's buffer and are spelled plainly. Gives how many, often fewer, also 0; the
+/// stream stands as if readReal had delivered them, and readReal knows what to do about the next.
+std::int64_t readPlainReals(Plot3DFile_s& file, std::int64_t count, double* values);
 
 } // namespace quorvia::quorutildataio

@@ -1,5 +1,5 @@
-// The record of one PLOT3D file on disk, grid, solution or function file: its stream, its structure,
-// its grids, and the cursors of the number stream. docs/format.md tells the format.
+// The record of one PLOT3D file on disk, grid, solution or function file: its stream, its
+// structure, its grids, and the cursors of the number stream. docs/format.md tells the format.
 #pragma once
 
 #include <cstdint>
@@ -41,9 +41,9 @@ struct Plot3DFile_s {
     bool isDoublePrecision = false; // reals are 64 bits wide, otherwise 32
     bool isMultiGrid = false;       // the file begins with a count of grids
     std::int32_t numGrids = 0;
-    std::int32_t numVars = 0;    // real variables of a grid, I-blank not counted
-    std::int32_t numScalars = 0; // scalars ahead of each grid's variables
-    std::int32_t numSpecies = 0; // Overflow only: the header's second count
+    std::int32_t numVars = 0;               // real variables of a grid, I-blank not counted
+    std::int32_t numScalars = 0;            // scalars ahead of each grid's variables
+    std::int32_t numSpecies = 0;            // Overflow only: the header's second count
     std::vector<Plot3DGridDims_s> gridDims; // by grid index from 0; may be longer than numGrids
     double solutionTime = 0.0;
     std::int32_t repeatCount = 0; // text only: how many more times repeatValue is delivered
@@ -57,12 +57,12 @@ struct Plot3DFile_s {
     std::uint32_t markerSize = 4;           // bytes of a Fortran record marker, 4 or 8
     std::int64_t recordLength = -1;         // payload bytes of the current Fortran record
     std::int64_t nextRecordStart = 0;       // position of the next record's first marker
-    bool relaxedChecks = false;     // records and files may be longer than expected
-    bool inSegmentedRecord = false; // inside a record that is stored as several segments
-    // Positions, ascending, of each payload end inside a segmented record: a trailing marker and the
-    // next leading marker stand there.
+    bool relaxedChecks = false;             // records and files may be longer than expected
+    bool inSegmentedRecord = false;         // inside a record that is stored as several segments
+    // Positions, ascending, of each payload end inside a segmented record: a trailing marker and
+    // the next leading marker stand there.
     std::vector<std::int64_t> segmentBoundaries;
-    std::int32_t lookahead = 32; // text only: character read and not consumed, -1 at the end of file
+    std::int32_t lookahead = 32; // text only: character read, not consumed; -1 at end of file
 };
 
 using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
@@ -70,15 +70,15 @@ using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
 using Plot3DFileList = std::vector<Plot3DFilePtr>;
 
 /// Makes the record of a file and leaves the file closed. Unless `deferOpen`, measures the file and
-/// sniffs its encoding; if the file does not open (told to the user), the record stays at its starting
-/// values. Null: no memory for the name.
+/// sniffs its encoding; if the file does not open (told to the user), the record stays at its
+/// starting values. Null: no memory for the name.
 Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen);
 
 /// Frees the record and all that it owns, and clears the pointer.
 void destroyPlot3DFile(Plot3DFilePtr& file);
 
-/// Makes `copy` a record of the same structure for `fileName`, closed, without offset arrays, solution
-/// time and reading state. False: no memory; `copy` is null then.
+/// Makes `copy` a record of the same structure for `fileName`, closed, without offset arrays,
+/// solution time and reading state. False: no memory; `copy` is null then.
 bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy, const std::string& fileName);
 
 /// Opens the file for reading. False: it does not open, which has been told to the user.
