@@ -10,8 +10,8 @@ namespace quorvia::host {
 namespace {
 
 constexpr const char* kDescription =
-    "Loads PLOT3D data sets through the data-loader add-on, outside the host it was made for, and "
-    "tells how each load came out.";
+    "Loads PLOT3D data sets through the data-loader add-on, outside the host that the\n"
+    "add-on was made for, and tells how each load came out.";
 
 constexpr const char* kExamples =
     "Examples:\n"
@@ -26,57 +26,81 @@ constexpr const char* kExamples =
     "  1  refused, failed or interrupted\n"
     "  2  bad usage\n";
 
-/// The texts of the options before they are checked.
+/// The options before they are checked.
 struct RawLoad_s {
     LoadArguments_s load;
     std::vector<std::string> settings;
     std::string memoryLimit = "1G";
+    bool withoutValues = false;
 };
 
-/// A text goes into the list as it stands: the parser's own lists would take brackets in file names
-/// for a syntax of theirs.
-void addList(CLI::App& app, const std::string& name, std::vector<std::string>& list,
-             const std::string& valueName, const std::string& description) {
+/// The texts go into the list as they stand: the parser's own lists would take brackets and braces
+/// in file names for a syntax of theirs.
+CLI::Option* addList(CLI::App& app, const std::string& name, std::vector<std::string>& list,
+                     const std::string& description) {
     const auto take = [&list](const CLI::results_t& texts) {
         list = texts;
         return true;
     };
-    app.add_option(name, take, description)
+    constexpr int kNoLimit = -1;
+    return app.add_option(name, take, description)->type_size(1)->expected(1, kNoLimit);
+}
+
+void addRepeatable(CLI::App& app, const std::string& name, std::vector<std::string>& list,
+                   const std::string& valueName, const std::string& description) {
+    constexpr bool kOneForEachMention = false;
+    addList(app, name, list, description)
         ->type_name(valueName)
-        ->type_size(1)
-        ->expected(-1)
-        ->allow_extra_args(false);
+        ->option_text(valueName)
+        ->allow_extra_args(kOneForEachMention);
+}
+
+void describeInput(CLI::App& app, RawLoad_s& raw) {
+    LoadArguments_s& load = raw.load;
+    addList(app, "FILE", load.files,
+            "Files as picked in the host's import file\nselection; their kinds go by their names")
+        ->option_text("...")
+        ->allow_extra_args();
+    addRepeatable(app, "--grid", load.gridFiles, "FILE",
+                  "A grid file, given as a load instruction;\nrepeatable");
+    addRepeatable(app, "--solution", load.solutionFiles, "FILE",
+                  "A solution file, likewise; repeatable");
+    addRepeatable(app, "--function", load.functionFiles, "FILE",
+                  "A function file, likewise; repeatable");
+    addRepeatable(app, "--name", load.nameFiles, "FILE",
+                  "A name file, likewise; repeatable, and the\nlast one counts");
+    addRepeatable(app, "--set", raw.settings, "KEY=VALUE",
+                  "One more instruction behind the file lists,\ne.g. AUTODETECT=No; repeatable");
+}
+
+void describeHost(CLI::App& app, RawLoad_s& raw) {
+    app.add_flag("--yes", raw.load.answerYes,
+                 "Answer every question with OK or Yes\n(default: Cancel or No, and say so)");
+    app.add_option(
+           "--memory-limit", raw.memoryLimit,
+           "Budget for field values in bytes, or with K, M,\nG in 1024, 1024^2, 1024^3 bytes "
+           "(default: 1G)")
+        ->type_name("SIZE");
+    app.add_flag("--no-values", raw.withoutValues,
+                 "Do not fetch the fields (default: fetch all,\nfor ranges and checksums)");
+    app.add_option("--addon", raw.load.addOnPath,
+                   "Another add-on library (default:\n../lib/plot3dloader.so from the program)")
+        ->type_name("PATH");
+}
+
+void describeOutput(CLI::App& app, RawLoad_s& raw) {
+    app.add_flag(
+        "--instructions", raw.load.printInstructions,
+        "Print the instructions that repeat this load,\none string to a line, and no table");
+    app.add_option("--json", raw.load.jsonFile,
+                   "Write the whole outcome as JSON; - is standard\noutput, in place of the table")
+        ->type_name("FILE");
 }
 
 void describeLoad(CLI::App& app, RawLoad_s& raw) {
-    LoadArguments_s& load = raw.load;
-    addList(app, "files", load.files, "FILE",
-            "Files as picked in the host's import file selection; their kinds go by their names");
-    addList(app, "--grid", load.gridFiles, "FILE",
-            "A grid file, given as a load instruction; repeatable");
-    addList(app, "--solution", load.solutionFiles, "FILE", "A solution file, likewise; repeatable");
-    addList(app, "--function", load.functionFiles, "FILE", "A function file, likewise; repeatable");
-    addList(app, "--name", load.nameFiles, "FILE",
-            "A name file, likewise; repeatable, and the last one counts");
-    addList(app, "--set", raw.settings, "KEY=VALUE",
-            "One more instruction behind the file lists, e.g. AUTODETECT=No; repeatable");
-    app.add_flag("--yes", load.answerYes,
-                 "Answer every question with OK or Yes (default: Cancel or No, and say so)");
-    app.add_option("--memory-limit", raw.memoryLimit,
-                   "Budget for field values: bytes, or K, M, G for 1024, 1024^2, 1024^3 bytes "
-                   "(default: 1G)")
-        ->type_name("SIZE");
-    app.add_flag("--no-values{false}", load.fetchValues,
-                 "Do not fetch the fields (default: fetch all, and tell ranges and checksums)");
-    app.add_flag(
-        "--instructions", load.printInstructions,
-        "Print the instructions that repeat this load, one string to a line, and no table");
-    app.add_option("--json", load.jsonFile,
-                   "Write the whole outcome as JSON; - is standard output, in place of the table")
-        ->type_name("FILE");
-    app.add_option("--addon", load.addOnPath,
-                   "Another add-on library (default: ../lib/plot3dloader.so from the program)")
-        ->type_name("PATH");
+    describeInput(app, raw);
+    describeHost(app, raw);
+    describeOutput(app, raw);
     app.footer(kExamples);
 }
 
@@ -119,6 +143,7 @@ LoadArguments_s checkedLoad(RawLoad_s& raw) {
                            "one with K, M or G behind it, e.g. 512M",
                            raw.memoryLimit));
     raw.load.memoryLimitBytes = *limit;
+    raw.load.fetchValues = !raw.withoutValues;
     return std::move(raw.load);
 }
 
@@ -140,13 +165,16 @@ Command parseCommandLine(const std::vector<std::string>& arguments, std::ostream
                          std::ostream& err) {
     CLI::App app(kDescription, "quorhost");
     app.set_version_flag("--version", "quorhost " QUORHOST_VERSION);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1); // a missing one gets a text of ours
+    app.get_formatter()->column_width(26);
     app.footer(kExamples);
     RawLoad_s raw;
     describeLoad(*app.add_subcommand("load", "Load one data set and tell how it came out"), raw);
     try {
         // The parser takes arguments from the back.
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        if (app.get_subcommands().empty())
+            refuse("nothing to do: give the command load");
         return checkedLoad(raw);
     } catch (const CLI::ParseError& end) {
         return tellParseEnd(app, end, out, err);

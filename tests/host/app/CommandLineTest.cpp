@@ -1,0 +1,169 @@
+#include "app/CommandLine.h"
+
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace quorvia::host {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class CommandLine : public testing::Test {
+protected:
+    LoadArguments_s load(Strings arguments) {
+        arguments.insert(arguments.begin(), "load");
+        const Command command = parseCommandLine(arguments, out, err);
+        EXPECT_TRUE(std::holds_alternative<LoadArguments_s>(command)) << err.str();
+        const auto* found = std::get_if<LoadArguments_s>(&command);
+        return found != nullptr ? *found : LoadArguments_s();
+    }
+
+    ExitCode_e exitCode(const Strings& arguments) {
+        const Command command = parseCommandLine(arguments, out, err);
+        const auto* code = std::get_if<ExitCode_e>(&command);
+        return code != nullptr ? *code : ExitCode_e::Failed;
+    }
+
+    /// Bad usage whose line on standard error is `expected`.
+    void expectRefusal(const std::string& expected, const Strings& arguments) {
+        err.str("");
+        EXPECT_EQ(ExitCode_e::BadUsage, exitCode(arguments));
+        EXPECT_EQ("quorhost: error: " + expected + "\nquorhost load --help tells more.\n",
+                  err.str());
+        EXPECT_EQ("", out.str());
+    }
+
+    std::ostringstream out;
+    std::ostringstream err;
+};
+
+TEST_F(CommandLine, FilesAreASelection) {
+    const LoadArguments_s arguments = load({"a.g", "a.q"});
+    EXPECT_EQ((Strings{"a.g", "a.q"}), arguments.files);
+    EXPECT_FALSE(arguments.usesInstructions());
+}
+
+TEST_F(CommandLine, DefaultsFetchValuesWithinABudgetAndSayNo) {
+    const LoadArguments_s arguments = load({"a.g"});
+    EXPECT_FALSE(arguments.answerYes);
+    EXPECT_TRUE(arguments.fetchValues);
+    EXPECT_FALSE(arguments.printInstructions);
+    EXPECT_EQ(1073741824, arguments.memoryLimitBytes);
+    EXPECT_EQ("", arguments.jsonFile);
+    EXPECT_EQ("", arguments.addOnPath);
+}
+
+TEST_F(CommandLine, FileListsAreRepeatableAndKeepTheirOrder) {
+    const LoadArguments_s arguments =
+        load({"--solution", "2.q", "--grid", "a.g", "--solution", "1.q", "--function=a.f", "--name",
+              "a.nam", "--name", "b.nam"});
+    EXPECT_EQ((Strings{"a.g"}), arguments.gridFiles);
+    EXPECT_EQ((Strings{"2.q", "1.q"}), arguments.solutionFiles);
+    EXPECT_EQ((Strings{"a.f"}), arguments.functionFiles);
+    EXPECT_EQ((Strings{"a.nam", "b.nam"}), arguments.nameFiles);
+    EXPECT_TRUE(arguments.usesInstructions());
+}
+
+TEST_F(CommandLine, SettingsKeepTheirOrder) {
+    const LoadArguments_s arguments =
+        load({"--set", "B=2", "--grid", "a.g", "--set", "A=1,,3", "--set=B=3"});
+    const std::vector<std::pair<std::string, std::string>> expected = {
+        {"B", "2"}, {"A", "1,,3"}, {"B", "3"}};
+    EXPECT_EQ(expected, arguments.settings);
+}
+
+TEST_F(CommandLine, OptionsAreTaken) {
+    const LoadArguments_s arguments =
+        load({"--yes", "--no-values", "--instructions", "--json", "o.json", "--memory-limit", "7M",
+              "--addon", "x.so", "a.g"});
+    EXPECT_TRUE(arguments.answerYes);
+    EXPECT_FALSE(arguments.fetchValues);
+    EXPECT_TRUE(arguments.printInstructions);
+    EXPECT_EQ("o.json", arguments.jsonFile);
+    EXPECT_EQ(7 * 1024 * 1024, arguments.memoryLimitBytes);
+    EXPECT_EQ("x.so", arguments.addOnPath);
+}
+
+TEST_F(CommandLine, DashMeansStandardOutputForJson) {
+    EXPECT_TRUE(load({"--json", "-", "a.g"}).jsonToOutput());
+    EXPECT_TRUE(load({"a.g", "--json=-"}).jsonToOutput());
+    EXPECT_FALSE(load({"a.g", "--json", "./-"}).jsonToOutput());
+}
+
+TEST_F(CommandLine, OddFileNamesStayAsTheyAre) {
+    EXPECT_EQ((Strings{"[a,b].g", "{}", "load", "a b.g"}),
+              load({"[a,b].g", "{}", "load", "a b.g"}).files);
+    EXPECT_EQ((Strings{"-odd.g"}), load({"--", "-odd.g"}).files);
+    EXPECT_EQ((Strings{"[a].g", "{}"}), load({"--grid", "[a].g", "--grid", "{}"}).gridFiles);
+}
+
+TEST_F(CommandLine, SelectionAndInstructionsExcludeEachOther) {
+    for (const char* option : {"--grid", "--solution", "--function", "--name"})
+        expectRefusal("FILE can't be combined with --grid, --solution, --function or --name: the "
+                      "first is a selection, the others are instructions",
+                      {"load", "a.g", option, "b"});
+}
+
+TEST_F(CommandLine, SettingsNeedInstructions) {
+    const std::string expected = "--set adds to a list of instructions, so it needs --grid, "
+                                 "--solution, --function or --name, and no FILE";
+    expectRefusal(expected, {"load", "a.g", "--set", "AUTODETECT=No"});
+    expectRefusal(expected, {"load", "--set", "AUTODETECT=No"});
+}
+
+TEST_F(CommandLine, SettingNeedsAnEqualsSign) {
+    expectRefusal("--set: \"AUTODETECT\" is not KEY=VALUE",
+                  {"load", "--grid", "a.g", "--set", "AUTODETECT"});
+}
+
+TEST_F(CommandLine, SomethingMustBeLoaded) {
+    expectRefusal("nothing to load: give FILE..., or --grid, --solution and --function", {"load"});
+}
+
+TEST_F(CommandLine, MemoryLimitMustBeASize) {
+    expectRefusal("--memory-limit: \"many\" is no size: give a number of bytes above 0, or one "
+                  "with K, M or G behind it, e.g. 512M",
+                  {"load", "a.g", "--memory-limit", "many"});
+}
+
+TEST_F(CommandLine, StandardOutputHoldsOneThing) {
+    expectRefusal("--instructions and --json - both want standard output: give --json a file",
+                  {"load", "a.g", "--instructions", "--json", "-"});
+}
+
+TEST_F(CommandLine, SomethingMustBeDone) {
+    expectRefusal("nothing to do: give the command load", {});
+}
+
+TEST_F(CommandLine, UnknownAndMissingWordsAreBadUsage) {
+    for (const Strings& arguments :
+         {Strings{"frob"}, Strings{"load", "a.g", "--frob"}, Strings{"--frob"},
+          Strings{"load", "--grid"}, Strings{"load", "a.g", "--json"},
+          Strings{"load", "--no-values=perhaps", "a.g"}})
+        EXPECT_EQ(ExitCode_e::BadUsage, exitCode(arguments));
+    EXPECT_EQ("", out.str());
+}
+
+TEST_F(CommandLine, HelpSaysWhatItIsAndHowItEnds) {
+    EXPECT_EQ(ExitCode_e::Done, exitCode({"load", "--help"}));
+    for (const char* part : {"--memory-limit SIZE", "--json FILE", "KEY=VALUE",
+                             "Examples:", "Exit codes:", "default: 1G", "--no-values"})
+        EXPECT_NE(std::string::npos, out.str().find(part)) << part;
+    EXPECT_EQ("", err.str());
+}
+
+TEST_F(CommandLine, HelpOfTheProgramNamesItsCommands) {
+    EXPECT_EQ(ExitCode_e::Done, exitCode({"--help"}));
+    EXPECT_EQ(0U, out.str().find("Loads PLOT3D data sets"));
+    EXPECT_NE(std::string::npos, out.str().find("load"));
+}
+
+TEST_F(CommandLine, VersionIsOneLine) {
+    EXPECT_EQ(ExitCode_e::Done, exitCode({"--version"}));
+    EXPECT_EQ(0U, out.str().find("quorhost "));
+    EXPECT_EQ(out.str().size() - 1, out.str().find('\n'));
+}
+
+} // namespace
+} // namespace quorvia::host

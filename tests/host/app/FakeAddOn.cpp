@@ -1,0 +1,228 @@
+// A small add-on library for the tests of quorhost. The name of the first file, without directory
+// and extension, says how the load goes: see kScenes. Every load hands the host the instructions
+// that it was given, or for a selection the names of the files.
+//
+// The data set of a good load: variables "X" and "Density ", two zones of 2 x 3 x 5 points whose
+// deferred values are i + 100 j + 10000 k (Density: with the zone's number as sign); the second
+// zone shares X with the first.
+#include <csignal>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "quorvia/QuorUtil.h"
+#include "quorvia/QuorUtilityLibrary.h"
+
+namespace {
+
+constexpr std::int64_t kI = 2;
+constexpr std::int64_t kJ = 3;
+constexpr std::int64_t kK = 5;
+
+QuorAddOnHandle gAddOn = nullptr;
+
+std::string takeString(char* text) {
+    const std::string result = text != nullptr ? text : "";
+    QuorUtilStringDealloc(&text);
+    return result;
+}
+
+std::vector<std::string> stringsOf(QuorStringListHandle list) {
+    std::vector<std::string> result;
+    for (std::int64_t index = 1; index <= QuorUtilStringListGetCount(list); ++index)
+        result.push_back(takeString(QuorUtilStringListGetString(list, index)));
+    return result;
+}
+
+// ---- Values -------------------------------------------------------------------------------------
+
+/// The client data of a field: its zone's number as a plain pointer value, 0 for values that can't
+/// be read.
+bool loadField(QuorFieldHandle field) {
+    const auto zone = reinterpret_cast<std::intptr_t>(QuorUtilDataValueGetClientData(field));
+    if (zone == 0) {
+        QuorUtilDialogErrMsg("The values are gone.");
+        return false;
+    }
+    auto* values = static_cast<float*>(QuorUtilDataValueGetRawPtrByRef(field));
+    for (std::int64_t k = 1; k <= kK; ++k)
+        for (std::int64_t j = 1; j <= kJ; ++j)
+            for (std::int64_t i = 1; i <= kI; ++i)
+                *values++ = static_cast<float>((i + 100 * j + 10000 * k) * (zone == 1 ? 1 : -1));
+    return true;
+}
+
+bool mayUnloadField(QuorFieldHandle) {
+    return true;
+}
+
+void cleanUpField(QuorFieldHandle) {}
+
+void defer(std::int32_t zone, std::int32_t variable, std::intptr_t clientData) {
+    QuorUtilDataValueCustomLOD(zone, variable, loadField, mayUnloadField, cleanUpField, nullptr,
+                               nullptr, reinterpret_cast<void*>(clientData));
+}
+
+// ---- Data set -----------------------------------------------------------------------------------
+
+void createDataSet() {
+    quorvia::StringList names;
+    names.append("X");
+    names.append("Density ");
+    QuorArgListHandle arguments = QuorUtilArgListAlloc();
+    QuorUtilArgListAppendString(arguments, "LoaderName", "Fake Loader");
+    QuorUtilArgListAppendString(arguments, "DataSetTitle", "Fake");
+    QuorUtilArgListAppendStringList(arguments, "VarNames", names.getRef());
+    QuorUtilDataSetCreateX(arguments);
+    QuorUtilArgListDealloc(&arguments);
+}
+
+void addZone(const char* name) {
+    const std::int32_t types[] = {QuorFieldDataType_Float, QuorFieldDataType_Float};
+    QuorArgListHandle arguments = QuorUtilArgListAlloc();
+    QuorUtilArgListAppendString(arguments, "Name", name);
+    QuorUtilArgListAppendInt(arguments, "ZoneType", QuorZoneType_Ordered);
+    QuorUtilArgListAppendInt(arguments, "IMax", kI);
+    QuorUtilArgListAppendInt(arguments, "JMax", kJ);
+    QuorUtilArgListAppendInt(arguments, "KMax", kK);
+    QuorUtilArgListAppendArray(arguments, "VarDataType", types);
+    QuorUtilArgListAppendInt(arguments, "DeferVarCreation", 1);
+    QuorUtilDataSetAddZoneX(arguments);
+    QuorUtilArgListDealloc(&arguments);
+}
+
+void loadDataSet() {
+    createDataSet();
+    addZone("First");
+    addZone("Second");
+    defer(1, 1, 1);
+    defer(1, 2, 1);
+    QuorUtilDataValueShare(1, 2, 1);
+    defer(2, 2, 2);
+    QuorUtilFrameSetPlotType(QuorPlotType_3D);
+}
+
+// ---- Scenes -------------------------------------------------------------------------------------
+
+bool loadWell() {
+    auto task = quorvia::createTaskProgressBar(1);
+    task->setMessage("Loading the fake");
+    loadDataSet();
+    task->step();
+    return true;
+}
+
+bool loadUnreadable() {
+    loadDataSet();
+    defer(2, 2, 0);
+    return true;
+}
+
+bool askFirst() {
+    return QuorUtilDialogMessageBox("Shall it be?", QuorMessageBox_YesNo) && loadWell();
+}
+
+bool inform() {
+    QuorUtilDialogMessageBox("Just so you know.", QuorMessageBox_Information);
+    return loadWell();
+}
+
+bool fail() {
+    QuorUtilDialogErrMsg("It can't be read.\nFile: fail.g");
+    return false;
+}
+
+bool failSilently() {
+    return false;
+}
+
+bool leak() {
+    QuorUtilStringListAlloc();
+    return loadWell();
+}
+
+/// What happens if the user presses Ctrl-C `times` times in the middle of a load.
+bool loadUnderCtrlC(int times) {
+    auto task = quorvia::createTaskProgressBar(2);
+    loadDataSet();
+    for (int time = 0; time < times; ++time)
+        std::raise(SIGINT);
+    if (task->step())
+        return true;
+    QuorUtilFrameReset(QuorUtilFrameGetUniqueID());
+    QuorUtilDialogErrMsg("Interrupted by the user.");
+    return false;
+}
+
+bool pressOnce() {
+    return loadUnderCtrlC(1);
+}
+
+bool pressTwice() {
+    return loadUnderCtrlC(2);
+}
+
+const std::map<std::string, bool (*)()> kScenes = {
+    {"well", loadWell},
+    {"unreadable", loadUnreadable},
+    {"ask", askFirst},
+    {"inform", inform},
+    {"fail", fail},
+    {"silent", failSilently},
+    {"leak", leak},
+    {"ctrl-c", pressOnce},
+    {"ctrl-c-twice", pressTwice},
+};
+
+std::string sceneOf(const std::string& file) {
+    const std::string name = file.substr(file.find_last_of('/') + 1);
+    return name.substr(0, name.find('.'));
+}
+
+bool play(const std::string& file, QuorStringListHandle instructions) {
+    const auto scene = kScenes.find(sceneOf(file));
+    return scene != kScenes.end() && scene->second() &&
+           QuorUtilImportSetLoaderInstr("Fake Loader", instructions);
+}
+
+// ---- Callbacks ----------------------------------------------------------------------------------
+
+bool loaderCallback(QuorStringListHandle instructions) {
+    QuorUtilLockStart(gAddOn);
+    const std::vector<std::string> strings = stringsOf(instructions);
+    const bool ok = strings.size() > 4 && play(strings[4], instructions);
+    QuorUtilLockFinish(gAddOn);
+    return ok;
+}
+
+void loaderSelectedCallback(QuorStringListHandle files, bool, bool) {
+    QuorUtilLockStart(gAddOn);
+    play(stringsOf(files).at(0), files);
+    QuorUtilLockFinish(gAddOn);
+}
+
+void registerLoader() {
+    QuorArgListHandle arguments = QuorUtilArgListAlloc();
+    QuorUtilArgListAppendString(arguments, "LoaderName", "Fake Loader");
+    QuorUtilArgListAppendString(arguments, "FileNameExtensions", "*.g");
+    QuorUtilArgListAppendInt(arguments, "LoaderCallbackVersion", 1);
+    QuorUtilArgListAppendFunction(arguments, "LoaderCallback",
+                                  reinterpret_cast<QuorFunction>(loaderCallback));
+    QuorUtilArgListAppendFunction(arguments, "LoaderSelectedCallback",
+                                  reinterpret_cast<QuorFunction>(loaderSelectedCallback));
+    QuorUtilArgListAppendInt(arguments, "AllowMultiFileSelection", 1);
+    QuorUtilArgListAppendInt(arguments, "AllowAdvancedOptions", 0);
+    QuorUtilArgListAppendInt(arguments, "AllowAppending", 0);
+    QuorUtilImportAddLoaderX(arguments);
+    QuorUtilArgListDealloc(&arguments);
+}
+
+} // namespace
+
+extern "C" void InitQuorAddOn113() {
+    QuorUtilLockOn();
+    gAddOn = QuorUtilAddOnRegister(100, "Fake Loader", "1.0", "the tests");
+    registerLoader();
+    QuorUtilLockOff();
+}

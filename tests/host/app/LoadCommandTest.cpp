@@ -1,0 +1,218 @@
+// `quorhost load` in this process, with the fake add-on (FakeAddOn.cpp) in place of the real one.
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "app/Program.h"
+#include "support/TemporaryDirectory.h"
+
+namespace quorvia::host {
+namespace {
+
+using Json = nlohmann::ordered_json;
+using Strings = std::vector<std::string>;
+
+class LoadCommand : public testing::Test {
+protected:
+    /// Gives the exit code; the streams hold what was written by this run alone.
+    int load(Strings arguments) {
+        out.str("");
+        err.str("");
+        arguments.insert(arguments.begin(), {"load", "--addon", FAKE_ADDON});
+        return run(arguments, {out, err, 0});
+    }
+
+    Json outcomeOf(Strings arguments) {
+        arguments.insert(arguments.end(), {"--json", "-"});
+        load(arguments);
+        return Json::parse(out.str());
+    }
+
+    std::ostringstream out;
+    std::ostringstream err;
+    testsupport::TemporaryDirectory directory;
+};
+
+TEST_F(LoadCommand, GoodLoadShowsATableAndNoTalk) {
+    EXPECT_EQ(0, load({"well.g"}));
+    EXPECT_EQ("Data set \"Fake\": 2 zones, 2 variables, plot type 3D\n"
+              "\n"
+              "Variables\n"
+              "  #  name      type     minimum  maximum\n"
+              "  1  X         float32    10101    50302\n"
+              "  2  Density   float32   -50302    50302\n"
+              "\n"
+              "Zones\n"
+              "  #  name    type     size       strand  time  parent  fields\n"
+              "  1  First   ordered  2 x 3 x 5       -     0       -  2 deferred\n"
+              "  2  Second  ordered  2 x 3 x 5       -     0       -  1 deferred, 1 shared\n",
+              out.str());
+    EXPECT_EQ("", err.str());
+}
+
+TEST_F(LoadCommand, JsonTellsFieldsAsTheyCameOutOfTheLoad) {
+    const Json zones = outcomeOf({"well.g"})["dataSet"]["zones"];
+    EXPECT_EQ(Json::parse(R"({"variable":1,"type":"float32","state":"deferred","sharedWith":0,
+                              "count":30,"min":10101.0,"max":50302.0,"mean":30201.5,
+                              "crc32":"CRC","error":null})"
+                          ""),
+              [&] {
+                  Json field = zones[0]["fields"][0];
+                  EXPECT_EQ(8U, field["crc32"].get<std::string>().size());
+                  field["crc32"] = "CRC";
+                  return field;
+              }());
+    EXPECT_EQ("shared", zones[1]["fields"][0]["state"]);
+    EXPECT_EQ(1, zones[1]["fields"][0]["sharedWith"]);
+    EXPECT_EQ(zones[0]["fields"][0]["crc32"], zones[1]["fields"][0]["crc32"]);
+    EXPECT_EQ(-30201.5, zones[1]["fields"][1]["mean"]);
+}
+
+TEST_F(LoadCommand, JsonTellsTheLoad) {
+    const Json outcome = outcomeOf({"well.g"});
+    EXPECT_EQ(true, outcome["ok"]);
+    EXPECT_EQ("3D", outcome["plotType"]);
+    EXPECT_EQ(Json({"well.g"}), outcome["instructions"]);
+    EXPECT_EQ(Json({"Loading the fake"}), outcome["progress"]);
+    EXPECT_EQ(0, outcome["lockDepth"]);
+    EXPECT_EQ(Json::array(), outcome["violations"]);
+    EXPECT_EQ(Json({"X", "Density "}), outcome["dataSet"]["variables"]);
+}
+
+TEST_F(LoadCommand, WithoutValuesNothingIsFetched) {
+    const Json field =
+        outcomeOf({"--no-values", "unreadable.g"})["dataSet"]["zones"][1]["fields"][1];
+    EXPECT_FALSE(field.contains("min"));
+    EXPECT_TRUE(field["error"].is_null());
+}
+
+TEST_F(LoadCommand, FieldThatCannotBeReadTellsWhy) {
+    const Json outcome = outcomeOf({"unreadable.g"});
+    EXPECT_EQ(true, outcome["ok"]);
+    const Json field = outcome["dataSet"]["zones"][1]["fields"][1];
+    EXPECT_EQ("The values are gone.", field["error"]);
+    EXPECT_FALSE(field.contains("crc32"));
+    EXPECT_EQ("quorhost: error: The values are gone.\n", err.str());
+}
+
+TEST_F(LoadCommand, ListsBecomeInstructions) {
+    EXPECT_EQ(
+        Json({"STANDARDSYNTAX", "1.0", "FILELIST_GRIDFILES", "1", "dir/well.g", "STYLE", "SWIFT"}),
+        outcomeOf({"--grid", "dir/well.g", "--set", "STYLE=SWIFT"})["instructions"]);
+}
+
+TEST_F(LoadCommand, InstructionsArePrintedAlone) {
+    EXPECT_EQ(0, load({"--instructions", "--grid", "well.g"}));
+    EXPECT_EQ("STANDARDSYNTAX\n1.0\nFILELIST_GRIDFILES\n1\nwell.g\n", out.str());
+}
+
+TEST_F(LoadCommand, PrintingInstructionsFetchesNothing) {
+    EXPECT_EQ(0, load({"--instructions", "unreadable.g"}));
+    EXPECT_EQ("", err.str());
+}
+
+TEST_F(LoadCommand, JsonFileStandsBesideTheTable) {
+    const std::string file = directory.file("outcome.json");
+    EXPECT_EQ(0, load({"well.g", "--json", file}));
+    EXPECT_EQ(0U, out.str().find("Data set \"Fake\""));
+    std::ifstream in(file);
+    EXPECT_EQ(true, Json::parse(in)["ok"]);
+}
+
+TEST_F(LoadCommand, JsonFileThatCannotBeWrittenIsAFailure) {
+    const std::string file = directory.file("nowhere/outcome.json");
+    EXPECT_EQ(1, load({"well.g", "--json", file}));
+    EXPECT_EQ("quorhost: error: " + file +
+                  ": the JSON can't be written: No such file or directory\n",
+              err.str());
+}
+
+TEST_F(LoadCommand, QuestionIsAnsweredNoAndSaysSo) {
+    EXPECT_EQ(1, load({"ask.g"}));
+    EXPECT_EQ(0U, err.str().find("quorhost: question: Shall it be?\n"
+                                 "    answered Cancel or No; --yes answers OK or Yes\n"));
+    EXPECT_EQ("", out.str());
+}
+
+TEST_F(LoadCommand, YesAnswersQuestions) {
+    const Json outcome = outcomeOf({"--yes", "ask.g"});
+    EXPECT_EQ(true, outcome["ok"]);
+    EXPECT_EQ(Json::parse(R"([{"kind":"question","text":"Shall it be?","answer":true}])"),
+              outcome["messages"]);
+}
+
+TEST_F(LoadCommand, InformationIsShown) {
+    EXPECT_EQ(0, load({"inform.g"}));
+    EXPECT_EQ("quorhost: Just so you know.\n", err.str());
+}
+
+TEST_F(LoadCommand, FailureShowsTheAddOnsErrorAndNoTable) {
+    EXPECT_EQ(1, load({"fail.g"}));
+    EXPECT_EQ("", out.str());
+    EXPECT_EQ("quorhost: error: It can't be read.\n    File: fail.g\n", err.str());
+}
+
+TEST_F(LoadCommand, FailureStillWritesJson) {
+    const Json outcome = outcomeOf({"fail.g"});
+    EXPECT_EQ(false, outcome["ok"]);
+    EXPECT_TRUE(outcome["dataSet"].is_null());
+    EXPECT_TRUE(outcome["hostError"].is_null());
+    EXPECT_EQ("It can't be read.\nFile: fail.g", outcome["messages"][0]["text"]);
+}
+
+TEST_F(LoadCommand, SilentRefusalIsTold) {
+    EXPECT_EQ(1, load({"silent.g"}));
+    EXPECT_EQ("quorhost: error: the load was refused without a message\n", err.str());
+}
+
+TEST_F(LoadCommand, ViolationsAreShownAndDoNotFailTheLoad) {
+    EXPECT_EQ(0, load({"leak.g"}));
+    EXPECT_NE(std::string::npos, err.str().find("quorhost: contract violation: "));
+    EXPECT_NE(std::string::npos, out.str().find("\n*** 1 VIOLATION of the host's contract"));
+}
+
+TEST_F(LoadCommand, CtrlCLeavesACleanFrame) {
+    const Json outcome = outcomeOf({"ctrl-c.g"});
+    EXPECT_EQ(false, outcome["ok"]);
+    EXPECT_TRUE(outcome["dataSet"].is_null());
+    EXPECT_EQ("quorhost: error: Interrupted by the user.\n"
+              "quorhost: interrupted, nothing was loaded\n",
+              err.str());
+}
+
+TEST_F(LoadCommand, LoadAfterCtrlCIsNotInterrupted) {
+    EXPECT_EQ(1, load({"ctrl-c.g"}));
+    EXPECT_EQ(0, load({"well.g"}));
+}
+
+TEST_F(LoadCommand, LibraryThatDoesNotLoadIsAHostError) {
+    const std::string missing = directory.file("missing.so");
+    out.str("");
+    EXPECT_EQ(1, run({"load", "--addon", missing, "a.g", "--json", "-"}, {out, err, 0}));
+    const Json outcome = Json::parse(out.str());
+    EXPECT_NE(std::string::npos, outcome["hostError"].get<std::string>().find(missing));
+    EXPECT_EQ(false, outcome["ok"]);
+    EXPECT_EQ("quorhost: error: " + outcome["hostError"].get<std::string>() + "\n", err.str());
+}
+
+TEST_F(LoadCommand, ProgressLineIsGoneAtTheEnd) {
+    EXPECT_EQ(0, run({"load", "--addon", FAKE_ADDON, "well.g"}, {out, err, 80}));
+    EXPECT_NE(std::string::npos, err.str().find("Loading the fake"));
+    EXPECT_EQ("\r\x1b[K", err.str().substr(err.str().size() - 4));
+}
+
+TEST_F(LoadCommand, OutputThatCannotBeWrittenIsAFailure) {
+    std::ofstream full("/dev/full");
+    EXPECT_EQ(1, run({"load", "--addon", FAKE_ADDON, "well.g"}, {full, err, 0}));
+    EXPECT_EQ("quorhost: error: standard output can't be written\n", err.str());
+}
+
+TEST_F(LoadCommand, TightBudgetTellsTheSameValues) {
+    const Json wide = outcomeOf({"well.g"});
+    EXPECT_EQ(wide, outcomeOf({"--memory-limit", "1", "well.g"}));
+}
+
+} // namespace
+} // namespace quorvia::host
