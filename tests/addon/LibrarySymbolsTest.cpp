@@ -1,0 +1,102 @@
+// What the built library gives to and takes from the program that loads it: read from the file.
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Symbol {
+    char type; // as nm gives it; U and w are undefined
+    std::string name;
+};
+
+/// The dynamic symbols of the library, names of C++ spelled out, versions kept.
+std::vector<Symbol> dynamicSymbols() {
+    const std::string command = "nm -DC --with-symbol-versions '" PLOT3DLOADER_FILE "'";
+    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+    std::string output;
+    std::array<char, 4096> chunk;
+    while (pipe && fgets(chunk.data(), static_cast<int>(chunk.size()), pipe.get()) != nullptr)
+        output += chunk.data();
+
+    std::vector<Symbol> symbols;
+    const std::regex lineForm("^[0-9a-f ]* ([A-Za-z]) (.*)$");
+    std::istringstream lines(output);
+    for (std::string line; std::getline(lines, line);)
+        if (std::smatch match; std::regex_match(line, match, lineForm))
+            symbols.push_back({match[1].str()[0], match[2]});
+    return symbols;
+}
+
+bool isUndefined(const Symbol& symbol) {
+    return symbol.type == 'U' || symbol.type == 'w' || symbol.type == 'v';
+}
+
+/// The operations that the contract with the host declares.
+std::set<std::string> hostOperations() {
+    std::ifstream header(QUORUTIL_HEADER);
+    const std::string text((std::istreambuf_iterator<char>(header)), {});
+    const std::regex declaration("\\b(Quor(?:Util|GUI)[A-Z]\\w*)\\(");
+    std::set<std::string> names;
+    for (std::sregex_iterator match(text.begin(), text.end(), declaration), end; match != end;
+         ++match)
+        names.insert((*match)[1]);
+    return names;
+}
+
+bool isOfTheRuntime(const std::string& name) {
+    static const std::regex versioned("@(GLIBC|GLIBCXX|CXXABI|GCC)_");
+    static const std::regex ofTheLinker("^(_ITM_\\w+TMCloneTable|__gmon_start__)$");
+    return std::regex_search(name, versioned) || std::regex_search(name, ofTheLinker);
+}
+
+bool isOfTheUtilityLibrary(const std::string& name) {
+    static const std::regex classes(
+        "^(typeinfo for |typeinfo name for |vtable for )?quorvia::(TaskProgress|"
+        "SolutionTimeNotificationDeferrer|StringList|InterruptedException)(::|$)");
+    static const std::regex functions("^quorvia::(createTaskProgressBar|utf8ToWideString)\\b");
+    return std::regex_search(name, classes) || std::regex_search(name, functions);
+}
+
+/// Libraries built for a sanitizer call it.
+bool isOfASanitizer(const std::string& name) {
+    return name.rfind("__asan_", 0) == 0 || name.rfind("__ubsan_", 0) == 0;
+}
+
+TEST(LibrarySymbols, ExportTheEntryAlone) {
+    std::vector<std::string> exported;
+    for (const Symbol& symbol : dynamicSymbols())
+        if (!isUndefined(symbol))
+            exported.push_back(symbol.name);
+    EXPECT_EQ(exported, std::vector<std::string>{"InitQuorAddOn113"});
+}
+
+TEST(LibrarySymbols, NeedTheHostAndTheRuntimeAlone) {
+    const std::set<std::string> operations = hostOperations();
+    ASSERT_GT(operations.size(), 50u);
+    int needed = 0;
+    for (const Symbol& symbol : dynamicSymbols()) {
+        if (!isUndefined(symbol))
+            continue;
+        ++needed;
+        EXPECT_TRUE(operations.count(symbol.name) > 0 || isOfTheUtilityLibrary(symbol.name) ||
+                    isOfTheRuntime(symbol.name) || isOfASanitizer(symbol.name))
+            << symbol.name;
+    }
+    EXPECT_GT(needed, 0);
+}
+
+TEST(LibrarySymbols, HaveNoneThatWouldKeepTheLibraryFromUnloading) {
+    for (const Symbol& symbol : dynamicSymbols())
+        EXPECT_NE(symbol.type, 'u') << symbol.name;
+}
+
+} // namespace

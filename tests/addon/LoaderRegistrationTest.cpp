@@ -1,0 +1,70 @@
+// The entry, linked in, at hosts of several versions.
+#include <algorithm>
+
+#include "addon/AddOnEntry.h"
+#include "addon/AddOnFixture.h"
+#include "addon/LoaderCallbacks.h"
+#include "addon/state/AddOnIdentity.h"
+#include "addon/state/DialogState.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+using testsupport::Texts;
+
+class LoaderRegistration : public testsupport::AddOnTest {
+protected:
+    /// How many loaders the entry adds at a host of this version.
+    static std::size_t loadersAddedAt(std::int32_t version) {
+        host().settings().version = version;
+        const std::size_t before = host().loaderNames().size();
+        InitQuorAddOn113();
+        return host().loaderNames().size() - before;
+    }
+};
+
+TEST_F(LoaderRegistration, IsRefusedByAHostThatIsTooOld) {
+    EXPECT_EQ(loadersAddedAt(1000376), 0u);
+    EXPECT_EQ(messages(),
+              Texts{"Add-On \"PLOT3D Loader\" requires Quorvia version 10.0-3-77 or greater"});
+    EXPECT_EQ(host().callCount("QuorUtilAddOnRegister"), 0);
+    EXPECT_EQ(host().callCount("QuorUtilStateChangeAddCallback"), 0);
+    EXPECT_EQ(host().lockDepth(), 0);
+}
+
+TEST_F(LoaderRegistration, SucceedsAtTheOldestVersionThatIsGoodEnough) {
+    EXPECT_EQ(loadersAddedAt(1000377), 1u);
+    EXPECT_EQ(host().loaderNames().back(), "PLOT3D Loader");
+    EXPECT_NE(addOnID, nullptr);
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(host().lockDepth(), 0);
+}
+
+TEST_F(LoaderRegistration, SucceedsAtLaterVersions) {
+    EXPECT_EQ(loadersAddedAt(2000000), 1u);
+}
+
+TEST_F(LoaderRegistration, GivesTheDialogItsDefaultsAndNoSolutionFiles) {
+    gLoadOptions.autoDetect = false;
+    gRetainedGridFiles = {"kept.x"};
+    gRetainedSolutionFiles = {"dropped.q"};
+    loadersAddedAt(1000377);
+    EXPECT_TRUE(gLoadOptions.autoDetect);
+    EXPECT_EQ(gRetainedGridFiles, Texts{"kept.x"});
+    EXPECT_EQ(gRetainedSolutionFiles, Texts());
+}
+
+TEST_F(LoaderRegistration, BuildsNoDialog) {
+    loadersAddedAt(1000377);
+    EXPECT_EQ(loadDialog, -2);
+    EXPECT_EQ(gridAddFiles, -2);
+}
+
+TEST_F(LoaderRegistration, ComesToAnEndWithoutAnArgumentList) {
+    host().failCall("QuorUtilArgListAlloc", 1);
+    EXPECT_EQ(loadersAddedAt(1000377), 0u);
+    EXPECT_EQ(host().lockDepth(), 0);
+}
+
+} // namespace
+} // namespace quorvia::quorutildataio

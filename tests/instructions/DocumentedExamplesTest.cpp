@@ -1,0 +1,70 @@
+// docs/instructions.md keeps its word: its examples parse, and its table names keys that exist.
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include "instructions/InstructionKeys.h"
+#include "instructions/ParserFixture.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+using testsupport::Texts;
+
+class DocumentedInstructions : public testsupport::ParserTest {
+protected:
+    static Texts lines() {
+        std::ifstream document(INSTRUCTIONS_DOCUMENT);
+        Texts all;
+        for (std::string line; std::getline(document, line);)
+            all.push_back(line);
+        return all;
+    }
+
+    /// The indented lists, each cut into its strings at the blanks.
+    static std::vector<Texts> examples() {
+        std::vector<Texts> lists;
+        for (const std::string& line : lines()) {
+            if (line.rfind("    ", 0) != 0)
+                continue;
+            std::istringstream words(line);
+            for (std::string word; words >> word;) {
+                if (word == "STANDARDSYNTAX")
+                    lists.emplace_back();
+                lists.back().push_back(word);
+            }
+        }
+        return lists;
+    }
+
+    /// The words of the first column of the table of keys.
+    static Texts tabulatedKeys() {
+        Texts keys;
+        const std::regex word("`([A-Z]+_?[A-Z]+)`");
+        for (const std::string& line : lines())
+            if (line.rfind("| `", 0) == 0) {
+                const std::string column = line.substr(0, line.find('|', 1));
+                for (std::sregex_iterator match(column.begin(), column.end(), word), end;
+                     match != end; ++match)
+                    keys.push_back((*match)[1]);
+            }
+        return keys;
+    }
+};
+
+TEST_F(DocumentedInstructions, Parse) {
+    ASSERT_EQ(examples().size(), 3u);
+    for (const Texts& example : examples()) {
+        EXPECT_TRUE(parse(example));
+        EXPECT_EQ(messages(), Texts());
+    }
+}
+
+TEST_F(DocumentedInstructions, AreAllRead) {
+    ASSERT_EQ(tabulatedKeys().size(), 22u);
+    for (const std::string& key : tabulatedKeys())
+        EXPECT_NE(findInstructionKey(key.c_str()), nullptr) << key;
+}
+
+} // namespace
+} // namespace quorvia::quorutildataio

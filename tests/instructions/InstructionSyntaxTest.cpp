@@ -1,0 +1,139 @@
+// The list as a whole: its first string, its end, and what must hold when it has been read.
+#include "instructions/ParserFixture.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+using testsupport::Texts;
+
+const std::string noFiles = "Must have at least one grid, solution or function file.";
+const std::string kRangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
+
+std::string missingOption(const std::string& word) {
+    return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
+}
+
+class InstructionSyntax : public testsupport::ParserTest {};
+
+TEST_F(InstructionSyntax, RefusesAListWithoutFiles) {
+    EXPECT_FALSE(parse({}));
+    EXPECT_EQ(messages(), Texts{noFiles});
+}
+
+TEST_F(InstructionSyntax, WantsAVersionBehindStandardSyntax) {
+    EXPECT_FALSE(parse({"standardsyntax"}));
+    EXPECT_EQ(messages(), Texts{missingOption("STANDARDSYNTAX")});
+}
+
+TEST_F(InstructionSyntax, TakesAnythingForTheVersion) {
+    EXPECT_TRUE(parse({"STANDARDSYNTAX", "", "FILELIST_GRIDFILES", "1", "a.x"}));
+    EXPECT_EQ(options_.gridFiles, Texts{"a.x"});
+}
+
+TEST_F(InstructionSyntax, TakesAKeyForTheVersionWhenThatIsMissing) {
+    EXPECT_FALSE(parse({"STANDARDSYNTAX", "APPEND", "Yes"}));
+    EXPECT_FALSE(options_.append);
+    EXPECT_EQ(messages(), Texts{noFiles});
+}
+
+TEST_F(InstructionSyntax, DoesNotKnowALaterStandardSyntax) {
+    EXPECT_TRUE(parseStandard({"STANDARDSYNTAX", "1.0", "ASCIIISDOUBLE", "Yes"}));
+    EXPECT_FALSE(options_.asciiIsDouble);
+}
+
+TEST_F(InstructionSyntax, StopsQuietlyAtAStringThatIsNoKey) {
+    EXPECT_TRUE(parseStandard({"SURPRISE", "ASCIIISDOUBLE", "Yes"}));
+    EXPECT_FALSE(options_.asciiIsDouble);
+    EXPECT_EQ(messages(), Texts());
+}
+
+TEST_F(InstructionSyntax, TakesASurplusNameForAKey) {
+    EXPECT_TRUE(
+        parse({"STANDARDSYNTAX", "1.0", "FILELIST_GRIDFILES", "1", "a.x", "b.x", "APPEND", "Yes"}));
+    EXPECT_EQ(options_.gridFiles, Texts{"a.x"});
+    EXPECT_FALSE(options_.append);
+}
+
+TEST_F(InstructionSyntax, ComparesKeysWholeAndWithoutCase) {
+    EXPECT_TRUE(parseStandard({"asciiIsDouble", "Yes"}));
+    EXPECT_TRUE(options_.asciiIsDouble);
+    EXPECT_TRUE(parseStandard({"ASCIIISDOUBLE ", "Yes"}));
+    EXPECT_FALSE(options_.asciiIsDouble);
+}
+
+TEST_F(InstructionSyntax, DetectsTheStructureUnlessTold) {
+    EXPECT_TRUE(parseStandard({}));
+    EXPECT_TRUE(options_.autoDetect);
+}
+
+TEST_F(InstructionSyntax, HasDefaultsOfItsOwnForWhatAListMustState) {
+    options_.loadBoundary = options_.addToExistingStrands = true;
+    EXPECT_TRUE(parseStandard({}));
+    EXPECT_FALSE(options_.solutionsShareStructure || options_.assignStrandIds);
+    EXPECT_FALSE(options_.assignStrandIdsRequested || options_.addToExistingStrands);
+    EXPECT_FALSE(options_.extractTimeFromSolFileNames || options_.loadBoundary);
+    EXPECT_TRUE(options_.isMultiGrid && options_.uniformGridStructure);
+    EXPECT_TRUE(options_.assignNewStrandIdForEachTimeStep);
+}
+
+TEST_F(InstructionSyntax, WithoutDetectionRequiresThreeTagsInTheirOrder) {
+    EXPECT_EQ(faultOf({"AUTODETECT", "No"}), "STYLE tag is required if AUTODETECT is FALSE.");
+    EXPECT_EQ(faultOf({"AUTODETECT", "No", "STYLE", "SWIFT"}),
+              "DATASTRUCTURE tag is required if AUTODETECT is FALSE.");
+    EXPECT_EQ(faultOf({"AUTODETECT", "No", "STYLE", "SWIFT", "DATASTRUCTURE", "2D"}),
+              "ISMULTIGRID tag is required if AUTODETECT is FALSE.");
+    EXPECT_TRUE(parseStandard(
+        {"STYLE", "SWIFT", "ISMULTIGRID", "No", "DATASTRUCTURE", "2D", "AUTODETECT", "No"}));
+}
+
+TEST_F(InstructionSyntax, OfOldDescribesFilesByHandAndRequiresNoTags) {
+    EXPECT_TRUE(parse({"FILELIST_GRIDFILES", "1", "a.x"}));
+    EXPECT_FALSE(options_.autoDetect);
+    EXPECT_EQ(options_.style, Plot3DStyle_Classic);
+    EXPECT_EQ(options_.dataStructure, Plot3DDataStructure_3DWhole);
+    EXPECT_TRUE(options_.isMultiGrid);
+}
+
+TEST_F(InstructionSyntax, OfOldMayAskForDetection) {
+    EXPECT_TRUE(parse({"FILELIST_GRIDFILES", "1", "a.x", "AUTODETECT", "Yes"}));
+    EXPECT_TRUE(options_.autoDetect);
+}
+
+TEST_F(InstructionSyntax, RefusesAKRangeOfOtherThan3DWhole) {
+    EXPECT_EQ(faultOf({"KINDEXRANGE", "1,,1", "DATASTRUCTURE", "2D"}), kRangeNotAllowed);
+    EXPECT_EQ(faultOf({"DATASTRUCTURE", "2D", "KINDEXRANGE", "1,,1"}), kRangeNotAllowed);
+    EXPECT_EQ(faultOf({"AUTODETECT", "No", "DATASTRUCTURE", "3DP", "KINDEXRANGE", "1,,1"}),
+              kRangeNotAllowed);
+    EXPECT_TRUE(parseStandard({"KINDEXRANGE", "1,,1"}));
+}
+
+TEST_F(InstructionSyntax, AppendsOnlyToADataSet) {
+    EXPECT_EQ(faultOf({"APPEND", "Yes"}), "Cannot append without an existing data set.");
+}
+
+TEST_F(InstructionSyntax, AppendsToTheDataSetThatIsThere) {
+    createDataSet();
+    EXPECT_TRUE(parseStandard({"APPEND", "Yes"}));
+    EXPECT_TRUE(options_.append);
+}
+
+class OlderInstruction : public testsupport::ParserTest,
+                         public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(OlderInstruction, IsRefusedWithAMessageInBothSyntaxes) {
+    const std::string fault = "Error in PLOT3D loader instructions.\n"
+                              "This version cannot read the older instruction: " +
+                              std::string(GetParam());
+    EXPECT_FALSE(parse({GetParam(), "1", "a.x"}));
+    EXPECT_EQ(messages(), Texts{fault});
+    EXPECT_EQ(faultOf({GetParam(), "1", "a.x"}), fault);
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, OlderInstruction,
+                         ::testing::Values("FILELIST_DATAFILES", "FILENAME_GRIDFILE", "-GF", "-SF",
+                                           "-NF", "-KSET", "-JSET", "-ISET", "-M", "-I", "-1D",
+                                           "-2D", "-3DP", "-3DW", "-UNSTRUCTURED", "-FUNCTION",
+                                           "-FOREIGN", "-IP", "-JP", "-KP", "-B", "-F", "-3dw"));
+
+} // namespace
+} // namespace quorvia::quorutildataio

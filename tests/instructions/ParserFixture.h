@@ -1,0 +1,51 @@
+// A test of the instruction parser: lists in, options and messages out.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "instructions/GuestFixture.h"
+#include "instructions/InstructionParser.h"
+
+namespace quorvia::testsupport {
+
+class ParserTest : public GuestTest {
+protected:
+    void TearDown() override {
+        quorutildataio::releaseLoadOptions(options_);
+        GuestTest::TearDown();
+    }
+
+    bool parse(const Texts& instructions) {
+        quorutildataio::releaseLoadOptions(options_);
+        host().clearLog();
+        return quorutildataio::parseLoadInstructions(listOf(instructions).get(), options_);
+    }
+
+    /// The standard syntax, a grid file, and `more`.
+    bool parseStandard(const Texts& more) {
+        Texts all = {"STANDARDSYNTAX", "1.0", "FILELIST_GRIDFILES", "1", "a.x"};
+        all.insert(all.end(), more.begin(), more.end());
+        return parse(all);
+    }
+
+    /// All that is shown while a list is refused, line by line as "|" where there are several.
+    std::string faultOf(const Texts& more) {
+        EXPECT_FALSE(parseStandard(more));
+        std::string all;
+        for (const std::string& text : messages())
+            all += (all.empty() ? "" : "|") + text;
+        return all;
+    }
+
+    quorutildataio::Plot3DLoadOptions_s options_ = defaults();
+
+private:
+    static quorutildataio::Plot3DLoadOptions_s defaults() {
+        quorutildataio::Plot3DLoadOptions_s options;
+        quorutildataio::setLoadOptionDefaults(options);
+        return options;
+    }
+};
+
+} // namespace quorvia::testsupport
