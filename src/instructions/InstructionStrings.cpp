@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <locale>
+#include <new>
 #include <sstream>
 
 #include "instructions/ValueText.h"
@@ -15,6 +16,8 @@ bool nextInstructionString(HostString& current, QuorStringListHandle instruction
     ++index;
     if (index <= QuorUtilStringListGetCount(instructions)) {
         current = HostString(QuorUtilStringListGetString(instructions, index));
+        if (!current)
+            throw std::bad_alloc(); // half a list must not pass for a whole one
         return true;
     }
     if (reportMissing)

@@ -10,7 +10,7 @@ namespace quorvia::quorutildataio {
 
 /// Gives back `current`, moves `index` (from 1; 0 before the first string) to the next string and
 /// fetches it. False: the list has ended; with `reportMissing` the user is told, by the string
-/// before, where a value was due.
+/// before, where a value was due. Throws std::bad_alloc if the host has no memory for the string.
 bool nextInstructionString(HostString& current, QuorStringListHandle instructions,
                            std::int64_t& index, bool reportMissing);
 

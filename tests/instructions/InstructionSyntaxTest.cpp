@@ -117,6 +117,14 @@ TEST_F(InstructionSyntax, AppendsToTheDataSetThatIsThere) {
     EXPECT_TRUE(options_.append);
 }
 
+TEST_F(InstructionSyntax, IsRefusedSilentlyIfTheHostHasNoMemoryForAString) {
+    for (std::int64_t n = 1; n <= 7; ++n) {
+        host().clearFaults();
+        host().failCall("QuorUtilStringListGetString", n);
+        EXPECT_EQ(faultOf({"FILEGRIDSET", "3"}), "") << n;
+    }
+}
+
 class OlderInstruction : public testsupport::ParserTest,
                          public ::testing::WithParamInterface<const char*> {};
 
