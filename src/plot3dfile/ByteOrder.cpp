@@ -1,7 +1,6 @@
 #include "plot3dfile/ByteOrder.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 
 namespace quorvia::quorutildataio {
@@ -34,17 +33,43 @@ void reverseWords(char* bytes, std::int64_t wordCount) {
         reverseWord<Word>(bytes + index * static_cast<std::int64_t>(sizeof(Word)));
 }
 
-// Two values at a time: reversing 64 bits also exchanges the two, and the rotation takes that back.
-// Without instructions beyond the baseline this is twice as fast as one value at a time.
-void reverseFourByteValues(char* bytes, std::int64_t valueCount) {
-    const std::int64_t pairCount = valueCount / 2;
-    for (std::int64_t index = 0; index < pairCount; ++index) {
-        std::uint64_t pair;
-        std::memcpy(&pair, bytes + 8 * index, 8);
-        pair = std::rotl(reversed(pair), 32);
-        std::memcpy(bytes + 8 * index, &pair, 8);
+using Lanes [[gnu::vector_size(16)]] = std::uint8_t;
+constexpr std::int64_t laneBytes = sizeof(Lanes);
+
+constexpr Lanes fourByteOrder = {3, 2, 1, 0, 7, 6, 5, 4, 11, 10, 9, 8, 15, 14, 13, 12};
+constexpr Lanes eightByteOrder = {7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12, 11, 10, 9, 8};
+
+#if defined(__x86_64__)
+// The x86-64 baseline reverses one register at a time, which costs more than reading the bytes from
+// the page cache. Nearly every processor in use can reorder 16 bytes with one instruction.
+bool canShuffle() {
+    return __builtin_cpu_supports("ssse3") != 0;
+}
+
+[[gnu::target("ssse3")]] void shuffleLanes(char* bytes, std::int64_t laneCount,
+                                           const Lanes& order) {
+    for (std::int64_t index = 0; index < laneCount; ++index) {
+        Lanes lanes;
+        std::memcpy(&lanes, bytes + index * laneBytes, sizeof(Lanes));
+        lanes = __builtin_shuffle(lanes, order);
+        std::memcpy(bytes + index * laneBytes, &lanes, sizeof(Lanes));
     }
-    reverseWords<std::uint32_t>(bytes + 8 * pairCount, valueCount % 2);
+}
+#else
+bool canShuffle() {
+    return false;
+}
+
+void shuffleLanes(char*, std::int64_t, const Lanes&) {}
+#endif
+
+template <typename Word>
+void reverseBlock(char* bytes, std::int64_t wordCount, const Lanes& order) {
+    constexpr std::int64_t width = sizeof(Word);
+    const std::int64_t laneCount = canShuffle() ? wordCount * width / laneBytes : 0;
+    shuffleLanes(bytes, laneCount, order);
+    const std::int64_t shuffledBytes = laneCount * laneBytes;
+    reverseWords<Word>(bytes + shuffledBytes, wordCount - shuffledBytes / width);
 }
 
 } // namespace
@@ -67,9 +92,9 @@ void reverseEach(void* values, std::int64_t width, std::int64_t valueCount) {
     char* bytes = static_cast<char*>(values);
     switch (width) {
     case 4:
-        return reverseFourByteValues(bytes, valueCount);
+        return reverseBlock<std::uint32_t>(bytes, valueCount, fourByteOrder);
     case 8:
-        return reverseWords<std::uint64_t>(bytes, valueCount);
+        return reverseBlock<std::uint64_t>(bytes, valueCount, eightByteOrder);
     default:
         for (std::int64_t index = 0; index < valueCount; ++index)
             reverseBytes(bytes + index * width, width);

@@ -1,6 +1,8 @@
 #include "plot3dfile/FortranRecords.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <limits>
 #include <string>
 

@@ -1,8 +1,7 @@
 #include "plot3dfile/NumberStream.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
-#include <cstddef>
 
 #include "plot3dfile/ByteOrder.h"
 #include "plot3dfile/FortranRecords.h"
@@ -11,10 +10,6 @@
 namespace quorvia::quorutildataio {
 
 namespace {
-
-bool isDigit(int character) {
-    return character >= '0' && character <= '9';
-}
 
 // ---- Binary and Fortran
 
@@ -77,15 +72,13 @@ bool readRealToken(Plot3DFile_s& file, double& value) {
     int character = skipSeparators(file);
     if (!beginsReal(character))
         return false;
-    std::array<char, longestRealToken> token;
-    std::size_t length = 0;
-    for (; belongsToReal(character) && length < token.size(); ++length) {
-        const bool isExponentLetter = !beginsReal(character);
-        token[length] = isExponentLetter ? 'E' : static_cast<char>(character);
+    RealTokenText text;
+    while (belongsToReal(character) && !text.isFull()) {
+        text.append(static_cast<char>(character));
         character = file.stream->readCharacter();
     }
     file.lookahead = character;
-    return convertRealToken({token.data(), length}, value);
+    return convertRealToken(text.view(), value);
 }
 
 // Reads a token, or a chain such as 2*3*7. Of several counts the first one stands; a chain is no
@@ -117,20 +110,18 @@ bool beginsPlainReal(const char* token, const char* end) {
     return first < end && (isDigit(*first) || *first == '.');
 }
 
-// Tokens without point and exponent are integers of 32 bits, which know no -0.
-bool isRealSpelling(const char* token, const char* end) {
-    for (const char* next = token; next < end; ++next)
-        if (*next == '.' || *next == 'e' || *next == 'E')
-            return true;
-    return false;
-}
-
+// Without point and exponent a token is an integer of 32 bits, which wraps and knows no -0. A value
+// that is none of those two is the same either way.
 bool isSameAsInteger(double value, const char* token) {
     return value > -2147483648.0 && value < 2147483648.0 && (value != 0.0 || *token != '-');
 }
 
+bool isRealSpelling(const char* token, const char* end) {
+    return std::any_of(token, end, [](char c) { return c == '.' || c == 'e' || c == 'E'; });
+}
+
 // Converts the token at `token` if the library's rules and ours agree on it. Gives its end, inside
-// the window, or null for a token that must go the long way.
+// the window and a separator, or null.
 const char* convertPlainReal(const char* token, const char* windowEnd, double& value) {
     if (!beginsPlainReal(token, windowEnd))
         return nullptr;
@@ -142,6 +133,24 @@ const char* convertPlainReal(const char* token, const char* windowEnd, double& v
         !isSeparator(*end))
         return nullptr;
     return isSameAsInteger(value, token) || isRealSpelling(token, end) ? end : nullptr;
+}
+
+// The same by our rules, for tokens such as 1.5D+03 and +5.
+const char* convertUnusualReal(const char* token, const char* windowEnd, double& value) {
+    if (token == windowEnd || !beginsReal(*token))
+        return nullptr;
+    RealTokenText text;
+    const char* end = token;
+    while (end < windowEnd && belongsToReal(*end) && !text.isFull())
+        text.append(*end++);
+    if (end == windowEnd || !isSeparator(*end))
+        return nullptr;
+    return convertRealToken(text.view(), value) ? end : nullptr;
+}
+
+const char* convertWholeReal(const char* token, const char* windowEnd, double& value) {
+    const char* end = convertPlainReal(token, windowEnd, value);
+    return end != nullptr ? end : convertUnusualReal(token, windowEnd, value);
 }
 
 } // namespace
@@ -175,7 +184,7 @@ std::int64_t readPlainReals(Plot3DFile_s& file, std::int64_t count, double* valu
     for (const char* token = next; delivered < count; ++delivered) {
         while (token < window.end && isSeparator(*token))
             ++token;
-        const char* end = convertPlainReal(token, window.end, values[delivered]);
+        const char* end = convertWholeReal(token, window.end, values[delivered]);
         if (end == nullptr)
             break;
         token = next = end + 1;

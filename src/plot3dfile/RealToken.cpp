@@ -13,12 +13,12 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-bool isDigit(int character) {
-    return character >= '0' && character <= '9';
-}
-
 bool hasSign(std::string_view token) {
     return !token.empty() && (token.front() == '+' || token.front() == '-');
+}
+
+bool hasPointOrExponent(std::string_view token) {
+    return std::any_of(token.begin(), token.end(), [](char c) { return c == '.' || c == 'E'; });
 }
 
 // Numbers whose decimal point is a point wherever the host runs.
@@ -69,18 +69,9 @@ bool convertInteger(std::string_view token, double& value) {
 
 } // namespace
 
-bool beginsReal(int character) {
-    return isDigit(character) || character == '+' || character == '-' || character == '.';
-}
-
-bool belongsToReal(int character) {
-    return beginsReal(character) || character == 'E' || character == 'e' || character == 'D' ||
-           character == 'd';
-}
-
 bool convertRealToken(std::string_view token, double& value) {
     value = 0.0;
-    if (token.find_first_of(".E") == std::string_view::npos)
+    if (!hasPointOrExponent(token))
         return convertInteger(token, value);
     value = convertDecimal(token);
     return true;

@@ -2,6 +2,8 @@
 // them, and the process's locale has no say.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -16,12 +18,41 @@ constexpr bool isSeparator(int character) {
            character == ',';
 }
 
-/// Whether a real may begin with the character, and whether it may go on with it. -1: no.
-bool beginsReal(int character);
-bool belongsToReal(int character);
+constexpr bool isDigit(int character) {
+    return character >= '0' && character <= '9';
+}
 
-/// The value of a token of such characters, every exponent letter already an "E". A token without
-/// point and exponent is an integer, which wraps at 32 bits. False: it is none; `value` is 0 then.
+constexpr bool isExponentLetter(int character) {
+    return character == 'E' || character == 'e' || character == 'D' || character == 'd';
+}
+
+/// Whether a real may begin with the character. -1: no.
+constexpr bool beginsReal(int character) {
+    return isDigit(character) || character == '+' || character == '-' || character == '.';
+}
+
+/// Whether the character may stand in a real. -1: no.
+constexpr bool belongsToReal(int character) {
+    return beginsReal(character) || isExponentLetter(character);
+}
+
+/// A token while it is read, every exponent letter as an "E".
+class RealTokenText {
+public:
+    bool isFull() const { return length_ == text_.size(); }
+    /// One character that belongs to a real. Not to be called on a full text.
+    void append(char character) {
+        text_[length_++] = isExponentLetter(character) ? 'E' : character;
+    }
+    std::string_view view() const { return {text_.data(), length_}; }
+
+private:
+    std::array<char, longestRealToken> text_;
+    std::size_t length_ = 0;
+};
+
+/// The value of such a token, which is not empty. Without point and exponent it is an integer,
+/// which wraps at 32 bits. False: it is none; `value` is 0 then.
 bool convertRealToken(std::string_view token, double& value);
 
 /// How many more times a value is delivered after the first, if `count` stood ahead of an asterisk:
