@@ -10,8 +10,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Reads the elements of one grid, with `include` into the node map of its zone. False: a number can't
-/// be read or is no node (told to the user if `report`).
+/// Reads the elements of one grid, with `include` into the node map of its zone. False: a number
+/// can't be read or is no node (told to the user if `report`).
 bool setUpConnectivityItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone, bool include,
                            bool report, const Plot3DItemContext_s& context);
 

@@ -1,5 +1,5 @@
-// The progress task of the dataset stage. Stages deep inside a load show their texts and count their
-// steps on it, so that they need no task argument.
+// The progress task of the dataset stage. Stages deep inside a load show their texts and count
+// their steps on it, so that they need no task argument.
 #pragma once
 
 #include <memory>

@@ -1,6 +1,6 @@
 // Sets up the fields of one file set. The first file of a kind is scanned and its positions noted;
-// later files take the positions over without a scan, or share the grid's fields. docs/time-series.md
-// tells when.
+// later files take the positions over without a scan, or share the grid's fields.
+// docs/time-series.md tells when.
 #pragma once
 
 #include <cstdint>
@@ -23,6 +23,8 @@ struct Plot3DFileSetRequest_s {
     bool isFirstFileSet;
 };
 
+/// False: a file could not be opened or scanned, does not fit its zones, or the load is to stop.
+/// What has been set up so far stays at the host.
 bool setUpFileSet(const Plot3DFileSetRequest_s& request);
 
 /// Makes the grid's fields of the zones from `destinationBaseZone` on those of the zones from

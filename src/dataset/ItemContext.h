@@ -18,8 +18,9 @@ struct Plot3DItemContext_s {
     std::int32_t firstZoneOfLoad; // zone that the first zone of the load's first time step has
     std::int32_t firstZone;       // zone of the first selected grid of this file set
     std::int32_t firstVar;        // variable that the file's variable 0 goes to
-    const std::map<std::string, double>* solutionTimes; // file path to time, borrowed of the options
-    bool extractTimes;            // times come from file names
+    const std::map<std::string, double>*
+        solutionTimes; // file path to time, borrowed of the options
+    bool extractTimes; // times come from file names
 };
 
 /// The ranges, zones and times of a load; `firstVar` is 1.

@@ -1,5 +1,5 @@
-// What a read on demand needs of a source file, shared by all fields of the file, so that nothing of a
-// load has to outlive it.
+// What a read on demand needs of a source file, shared by all fields of the file, so that nothing
+// of a load has to outlive it.
 #pragma once
 
 #include <cstdint>

@@ -20,8 +20,8 @@ std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
                                 const Plot3DFileHandler& firstHandler, QuorStringListHandle names,
                                 const std::vector<Plot3DFileHandler>& handlers);
 
-/// Raises `ordinal` until no "F<ordinal>V<k>" is the name of a variable in the frame's data set. False:
-/// a host query failed or memory ran out.
+/// Raises `ordinal` until no "F<ordinal>V<k>" is the name of a variable in the frame's data set.
+/// False: a host query failed or memory ran out.
 bool findFreeFunctionOrdinal(std::int32_t& ordinal);
 
 /// The host's type code of a variable of the load, `varIndex` from 0.
