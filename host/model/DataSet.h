@@ -36,6 +36,9 @@ public:
     std::string title;
     AuxData auxData;
 
+    /// An identity like those of zones and variables.
+    std::int64_t uniqueId() const { return uniqueId_; }
+
     const std::vector<Variable>& variables() const { return variables_; }
     const std::vector<std::unique_ptr<Zone>>& zones() const { return zones_; }
     std::int32_t zoneCount() const { return static_cast<std::int32_t>(zones_.size()); }
@@ -70,6 +73,7 @@ public:
 
 private:
     IdSource& ids_;
+    std::int64_t uniqueId_;
     std::vector<Variable> variables_;
     std::vector<std::unique_ptr<Zone>> zones_;
     std::unordered_map<std::int64_t, Zone*> zonesById_;

@@ -28,6 +28,8 @@ public:
                            const std::vector<std::string>& variableNames);
     /// No data set, and the plot type of a frame that never had one.
     void reset();
+    /// The same, and unique ids begin again.
+    void startAnew();
 
 private:
     IdSource ids_;

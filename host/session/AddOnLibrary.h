@@ -2,6 +2,7 @@
 // its symbols bound, entered through its one export, and closed again.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -23,8 +24,10 @@ public:
     void unload();
 
 private:
-    explicit AddOnLibrary(void* handle) : handle_(handle) {}
+    AddOnLibrary(void* handle, std::int64_t serialBefore)
+        : handle_(handle), serialBefore_(serialBefore) {}
     void* handle_;
+    std::int64_t serialBefore_; // what was given out later is the library's
 };
 
 } // namespace quorvia::host

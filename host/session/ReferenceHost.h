@@ -41,9 +41,9 @@ public:
     ReferenceHost& operator=(const ReferenceHost&) = delete;
 
     /// Everything as at the start: the data set is discarded (with its clean-up callbacks),
-    /// settings, log, answers, faults and counts are new, and all handles end. Loaders and
-    /// state-change callbacks of a loaded library stay registered; those of a guest that is linked
-    /// in stay too.
+    /// settings, log, answers, faults and counts are new, unique ids begin again, and the lock is
+    /// free. Loaders, state-change callbacks and the handles of guests stay; what is held from before
+    /// is no concern of later leak checks.
     void reset();
     /// Empties the log alone.
     void clearLog();

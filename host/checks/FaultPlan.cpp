@@ -1,0 +1,36 @@
+#include "checks/FaultPlan.h"
+
+namespace quorvia::host {
+
+bool FaultPlan::countCall(OperationId operation) {
+    const std::int64_t call = ++calls_[operation.index()];
+    std::set<std::int64_t>& failures = failures_[operation.index()];
+    return !failures.empty() && failures.erase(call) != 0 &&
+           operation.traits().failure == Failure::Possible;
+}
+
+void FaultPlan::failCall(OperationId operation, std::int64_t n) {
+    failures_[operation.index()].insert(calls(operation) + n);
+}
+
+bool FaultPlan::countStep() {
+    ++steps_;
+    if (interruptAt_ != 0 && steps_ >= interruptAt_)
+        interrupt();
+    return !isInterrupted();
+}
+
+void FaultPlan::interruptAtStep(std::int64_t n) {
+    interruptAt_ = n;
+    steps_ = 0;
+}
+
+void FaultPlan::clear() {
+    calls_.fill(0);
+    failures_.fill({});
+    interruptAt_ = 0;
+    steps_ = 0;
+    endInterruption();
+}
+
+} // namespace quorvia::host

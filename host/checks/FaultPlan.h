@@ -1,0 +1,45 @@
+// Counts of calls and of progress steps, and what is to go wrong at which count.
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <set>
+
+#include "checks/Operations.h"
+
+namespace quorvia::host {
+
+class FaultPlan {
+public:
+    /// Counts one call; true if it is to fail. Operations that have no way to fail never do.
+    bool countCall(OperationId operation);
+    std::int64_t calls(OperationId operation) const { return calls_[operation.index()]; }
+    /// `n` counts from 1 and from now.
+    void failCall(OperationId operation, std::int64_t n);
+
+    /// Counts one progress step; false if the guest is to stop.
+    bool countStep();
+    std::int64_t steps() const { return steps_; }
+    void restartSteps() { steps_ = 0; }
+    /// `n` counts from 1.
+    void interruptAtStep(std::int64_t n);
+
+    /// Safe in a signal handler.
+    void interrupt() noexcept { interrupted_.store(true, std::memory_order_relaxed); }
+    bool isInterrupted() const noexcept { return interrupted_.load(std::memory_order_relaxed); }
+    /// What runs has ended; the plan for later steps stands.
+    void endInterruption() noexcept { interrupted_.store(false, std::memory_order_relaxed); }
+
+    void clear();
+
+private:
+    std::array<std::int64_t, operationCount> calls_{};
+    std::array<std::set<std::int64_t>, operationCount> failures_;
+    std::int64_t steps_ = 0;
+    std::int64_t interruptAt_ = 0; // 0 for never
+    std::atomic<bool> interrupted_ = false;
+    static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets the flag");
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,160 @@
+// The handles that the host has given out. A handle is a number dressed as a pointer, never an
+// address, and no number comes twice: whatever a guest does with a handle that it gave back is
+// found.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+#include "checks/Operations.h"
+#include "model/FieldStorage.h"
+#include "model/NodeMap.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::host {
+
+struct GuestStringList {
+    std::vector<std::optional<std::string>> strings; // empty for one that was never set
+    bool isHostOwned = false;                        // borrowed by the guest for one callback
+};
+
+struct GuestArgument {
+    std::string key;
+    std::variant<std::string, std::int64_t, double, QuorStringListHandle, const void*, QuorFunction>
+        value;
+};
+
+struct GuestArgList {
+    std::vector<GuestArgument> arguments;
+};
+
+struct GuestSet {
+    std::set<std::int64_t> members;
+};
+
+struct FieldReference {
+    std::weak_ptr<FieldStorage> storage; // gone once the field has changed, and during clean-up
+    void* clientData = nullptr;
+};
+
+struct NodeMapReference {
+    std::weak_ptr<NodeMap> nodeMap;
+};
+
+struct AuxDataReference {
+    std::int64_t ownerId = 0; // of a zone or a data set
+};
+
+struct AddOnIdentity {
+    std::string name;
+};
+
+/// Numbers that tell in which order handles and blocks were given out.
+class SerialSource {
+public:
+    std::int64_t next() { return ++last_; }
+    std::int64_t last() const { return last_; }
+
+private:
+    std::int64_t last_ = 0;
+};
+
+/// What a guest did not give back, by the operation that it came from.
+struct Held {
+    OperationId origin;
+    std::int64_t serial;
+};
+
+/// The handles of one kind. `Handle` is the pointer type of the contract, `Object` what stands
+/// behind.
+template <typename Handle, typename Object>
+class HandleTable {
+public:
+    struct Entry {
+        Object object;
+        OperationId origin;
+        std::int64_t serial;
+    };
+
+    HandleTable(SerialSource& serials, std::uintptr_t kind) : serials_(serials), kind_(kind) {}
+
+    Handle add(OperationId origin, Object object) {
+        const std::int64_t serial = serials_.next();
+        const std::uintptr_t number = (static_cast<std::uintptr_t>(serial) << 4) | (kind_ << 1) | 1;
+        entries_.emplace(number, Entry{std::move(object), origin, serial});
+        return reinterpret_cast<Handle>(number);
+    }
+    /// Null if the handle is not in the table. Valid until the next `remove`.
+    Object* find(Handle handle) {
+        const auto found = entries_.find(reinterpret_cast<std::uintptr_t>(handle));
+        return found != entries_.end() ? &found->second.object : nullptr;
+    }
+    void remove(Handle handle) { entries_.erase(reinterpret_cast<std::uintptr_t>(handle)); }
+    void clear() { entries_.clear(); }
+    std::int64_t count() const { return static_cast<std::int64_t>(entries_.size()); }
+
+    /// Appends those given out after `serial`.
+    void appendHeldSince(std::int64_t serial, std::vector<Held>& held) const {
+        for (const auto& [number, entry] : entries_) {
+            if (entry.serial > serial)
+                held.push_back({entry.origin, entry.serial});
+        }
+    }
+
+private:
+    SerialSource& serials_;
+    std::uintptr_t kind_;
+    std::unordered_map<std::uintptr_t, Entry> entries_;
+};
+
+class HandleRegistry {
+public:
+    explicit HandleRegistry(SerialSource& serials) : serials_(serials) {}
+
+    HandleTable<QuorStringListHandle, GuestStringList>& of(QuorStringListHandle) { return lists_; }
+    HandleTable<QuorArgListHandle, GuestArgList>& of(QuorArgListHandle) { return argLists_; }
+    HandleTable<QuorSetHandle, GuestSet>& of(QuorSetHandle) { return sets_; }
+    HandleTable<QuorFieldHandle, FieldReference>& of(QuorFieldHandle) { return fields_; }
+    HandleTable<QuorNodeMapHandle, NodeMapReference>& of(QuorNodeMapHandle) { return nodeMaps_; }
+    HandleTable<QuorAuxDataHandle, AuxDataReference>& of(QuorAuxDataHandle) { return auxData_; }
+    HandleTable<QuorAddOnHandle, AddOnIdentity>& of(QuorAddOnHandle) { return addOns_; }
+
+    /// Why a handle is not one of its kind, in words such as "set was given back already".
+    template <typename Handle>
+    std::string whyInvalid(Handle handle) const {
+        return whyInvalid(reinterpret_cast<std::uintptr_t>(handle), kindOf(handle));
+    }
+
+    /// Lists, argument lists and sets that were given out after `serial` and not given back.
+    /// Handles that the host owns don't count.
+    std::vector<Held> heldSince(std::int64_t serial) const;
+    std::int64_t heldCount() const { return lists_.count() + argLists_.count() + sets_.count(); }
+
+private:
+    enum Kind : std::uintptr_t { StringList, ArgList, Set, Field, NodeMapKind, AuxDataKind, AddOn };
+    static Kind kindOf(QuorStringListHandle) { return StringList; }
+    static Kind kindOf(QuorArgListHandle) { return ArgList; }
+    static Kind kindOf(QuorSetHandle) { return Set; }
+    static Kind kindOf(QuorFieldHandle) { return Field; }
+    static Kind kindOf(QuorNodeMapHandle) { return NodeMapKind; }
+    static Kind kindOf(QuorAuxDataHandle) { return AuxDataKind; }
+    static Kind kindOf(QuorAddOnHandle) { return AddOn; }
+    std::string whyInvalid(std::uintptr_t number, Kind expected) const;
+
+    SerialSource& serials_;
+    HandleTable<QuorStringListHandle, GuestStringList> lists_{serials_, StringList};
+    HandleTable<QuorArgListHandle, GuestArgList> argLists_{serials_, ArgList};
+    HandleTable<QuorSetHandle, GuestSet> sets_{serials_, Set};
+    HandleTable<QuorFieldHandle, FieldReference> fields_{serials_, Field};
+    HandleTable<QuorNodeMapHandle, NodeMapReference> nodeMaps_{serials_, NodeMapKind};
+    HandleTable<QuorAuxDataHandle, AuxDataReference> auxData_{serials_, AuxDataKind};
+    HandleTable<QuorAddOnHandle, AddOnIdentity> addOns_{serials_, AddOn};
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,170 @@
+// Every operation of the contract by its name: whether it has a way to fail, and whether the guest
+// must hold the lock. The contract of this host is one step softer than the SDK's text: memory,
+// lists and sets are private to whoever holds them, so that they need no lock here.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace quorvia::host {
+
+enum class Failure : std::uint8_t { None, Possible };
+enum class LockNeed : std::uint8_t { None, Held };
+
+struct OperationTraits {
+    std::string_view name;
+    Failure failure;
+    LockNeed lock;
+};
+
+namespace detail {
+
+inline constexpr Failure certain = Failure::None; // queries, and operations without a result
+inline constexpr Failure failing = Failure::Possible;
+inline constexpr LockNeed unlocked = LockNeed::None;
+inline constexpr LockNeed locked = LockNeed::Held;
+
+// clang-format off
+inline constexpr OperationTraits operationTable[] = {
+    {"QuorUtilGetQuorviaVersion", certain, unlocked},
+    {"QuorUtilAddOnRegister", certain, locked},
+    {"QuorUtilLockOn", certain, unlocked},
+    {"QuorUtilLockOff", certain, unlocked},
+    {"QuorUtilLockStart", certain, unlocked},
+    {"QuorUtilLockFinish", certain, unlocked},
+    {"QuorUtilStateChangeAddCallback", certain, locked},
+    {"QuorUtilStateChanged", certain, locked},
+    {"QuorUtilUndoStateBegin", certain, locked},
+    {"QuorUtilUndoStateEnd", certain, locked},
+    {"QuorUtilInterruptIsSet", certain, locked},
+    {"QuorUtilImportAddLoaderX", failing, locked},
+    {"QuorUtilImportSetLoaderInstr", failing, locked},
+    {"QuorUtilDialogErrMsg", certain, unlocked},
+    {"QuorUtilDialogMessageBox", failing, locked},
+    {"QuorUtilPostLastErrorMessage", certain, locked},
+    {"QuorUtilDialogGetFileName", failing, locked},
+    {"QuorUtilDialogGetFileNames", failing, locked},
+    {"QuorUtilGetBasePath", failing, unlocked},
+    {"QuorUtilHelp", certain, locked},
+    {"QuorUtilStringAlloc", failing, unlocked},
+    {"QuorUtilStringDealloc", certain, unlocked},
+    {"QuorUtilArrayDealloc", certain, unlocked},
+    {"QuorUtilStringListAlloc", failing, unlocked},
+    {"QuorUtilStringListDealloc", certain, unlocked},
+    {"QuorUtilStringListGetCount", certain, unlocked},
+    {"QuorUtilStringListGetString", failing, unlocked},
+    {"QuorUtilStringListSetString", failing, unlocked},
+    {"QuorUtilStringListAppendString", failing, unlocked},
+    {"QuorUtilStringListAppend", failing, unlocked},
+    {"QuorUtilArgListAlloc", failing, unlocked},
+    {"QuorUtilArgListClear", certain, unlocked},
+    {"QuorUtilArgListDealloc", certain, unlocked},
+    {"QuorUtilArgListAppendString", failing, unlocked},
+    {"QuorUtilArgListAppendInt", failing, unlocked},
+    {"QuorUtilArgListAppendDouble", failing, unlocked},
+    {"QuorUtilArgListAppendStringList", failing, unlocked},
+    {"QuorUtilArgListAppendArray", failing, unlocked},
+    {"QuorUtilArgListAppendFunction", failing, unlocked},
+    {"QuorUtilSetAlloc", failing, unlocked},
+    {"QuorUtilSetDealloc", certain, unlocked},
+    {"QuorUtilSetAddMember", failing, unlocked},
+    {"QuorUtilSetRemoveMember", certain, unlocked},
+    {"QuorUtilSetIsMember", certain, unlocked},
+    {"QuorUtilSetIsEmpty", certain, unlocked},
+    {"QuorUtilSetGetMemberCount", certain, unlocked},
+    {"QuorUtilSetGetNextMember", certain, unlocked},
+    {"QuorUtilFrameGetPlotType", certain, locked},
+    {"QuorUtilFrameSetPlotType", certain, locked},
+    {"QuorUtilFrameGetUniqueID", certain, locked},
+    {"QuorUtilFrameReset", certain, locked},
+    {"QuorUtilRedraw", certain, locked},
+    {"QuorUtilDataSetIsAvailable", certain, locked},
+    {"QuorUtilDataSetGetInfo", failing, locked},
+    {"QuorUtilDataSetCreateX", failing, locked},
+    {"QuorUtilDataSetAddZoneX", failing, locked},
+    {"QuorUtilDataSetAddVarX", failing, locked},
+    {"QuorUtilDataSetDeleteZone", failing, locked},
+    {"QuorUtilDataSetDeleteVar", failing, locked},
+    {"QuorUtilZoneDelete", failing, locked},
+    {"QuorUtilDataSetGetMaxStrandID", certain, locked},
+    {"QuorUtilDataSetIsSharingAllowed", certain, locked},
+    {"QuorUtilZoneGetEnabled", failing, locked},
+    {"QuorUtilVarGetEnabled", failing, locked},
+    {"QuorUtilZoneGetInfo", certain, locked},
+    {"QuorUtilZoneGetType", certain, locked},
+    {"QuorUtilZoneRename", failing, locked},
+    {"QuorUtilZoneGetStrandID", certain, locked},
+    {"QuorUtilZoneSetStrandID", certain, locked},
+    {"QuorUtilZoneSetSolutionTime", failing, locked},
+    {"QuorUtilZoneGetUniqueID", certain, locked},
+    {"QuorUtilZoneGetNumByUniqueID", certain, locked},
+    {"QuorUtilVarGetUniqueID", certain, locked},
+    {"QuorUtilVarGetNumByUniqueID", certain, locked},
+    {"QuorUtilVarGetName", failing, locked},
+    {"QuorUtilZoneStyleApplyAuto", certain, locked},
+    {"QuorUtilExtractTimesFromFileNames", failing, locked},
+    {"QuorUtilDataValueGetLocation", certain, locked},
+    {"QuorUtilDataValueGetType", certain, locked},
+    {"QuorUtilDataValueIsPassive", certain, locked},
+    {"QuorUtilDataValueAlloc", failing, locked},
+    {"QuorUtilDataValueGetRawPtr", failing, locked},
+    {"QuorUtilDataValueGetWritableRef", failing, locked},
+    {"QuorUtilDataValueGetRawPtrByRef", certain, unlocked},
+    {"QuorUtilDataValueGetRefType", certain, unlocked},
+    {"QuorUtilDataValueRefGetSetFunc", certain, unlocked},
+    {"QuorUtilDataValueArraySetByRef", failing, unlocked},
+    {"QuorUtilDataValueCustomLOD", failing, locked},
+    {"QuorUtilDataValueGetClientData", certain, unlocked},
+    {"QuorUtilDataValueIsSharingOk", failing, locked},
+    {"QuorUtilDataValueShare", failing, locked},
+    {"QuorUtilDataValueCopy", failing, locked},
+    {"QuorUtilDataNodeGetRef", certain, locked},
+    {"QuorUtilDataNodeSetByRef", certain, locked},
+    {"QuorUtilAuxDataZoneGetRef", failing, locked},
+    {"QuorUtilAuxDataDataSetGetRef", failing, locked},
+    {"QuorUtilAuxDataSetItem", failing, locked},
+    {"createTaskProgressBar", failing, unlocked},
+    {"TaskProgress::createSubTask", certain, unlocked},
+    {"TaskProgress::setStepCount", certain, unlocked},
+    {"TaskProgress::setMessage", failing, unlocked},
+    {"TaskProgress::step", failing, unlocked},
+    {"TaskProgress::stepWithMessage", failing, unlocked},
+    {"TaskProgress::~TaskProgress", certain, unlocked},
+    {"SolutionTimeNotificationDeferrer", certain, unlocked},
+    {"~SolutionTimeNotificationDeferrer", certain, unlocked},
+    {"utf8ToWideString", certain, unlocked},
+};
+// clang-format on
+
+} // namespace detail
+
+inline constexpr std::size_t operationCount = std::size(detail::operationTable);
+
+/// The place of the name in the table; nothing for an unknown name.
+constexpr std::optional<std::size_t> findOperation(std::string_view name) {
+    for (std::size_t index = 0; index < operationCount; ++index) {
+        if (detail::operationTable[index].name == name)
+            return index;
+    }
+    return std::nullopt;
+}
+
+/// One operation, named by a literal; a name that is not in the table does not compile.
+class OperationId {
+public:
+    consteval OperationId(const char* name) : index_(findOperation(name).value()) {}
+
+    static constexpr OperationId at(std::size_t index) { return OperationId(index); }
+
+    constexpr std::size_t index() const { return index_; }
+    constexpr const OperationTraits& traits() const { return detail::operationTable[index_]; }
+    constexpr std::string_view name() const { return traits().name; }
+
+private:
+    constexpr explicit OperationId(std::size_t index) : index_(index) {}
+    std::size_t index_;
+};
+
+} // namespace quorvia::host

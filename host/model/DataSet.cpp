@@ -1,0 +1,135 @@
+#include "model/DataSet.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace quorvia::host {
+
+namespace {
+
+// Moves the items whose numbers, from 1, are in `numbers` out of `items`, which closes up. The
+// moved items must outlive every renumbering: the end of a field calls the guest back.
+template <typename Item>
+std::vector<Item> takeNumbered(std::vector<Item>& items, const std::set<std::int64_t>& numbers) {
+    std::vector<Item> taken;
+    std::vector<Item> kept;
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        const bool isTaken = numbers.count(static_cast<std::int64_t>(index) + 1) != 0;
+        (isTaken ? taken : kept).push_back(std::move(items[index]));
+    }
+    items = std::move(kept);
+    return taken;
+}
+
+template <typename Item>
+bool isNumberOf(const std::vector<Item>& items, std::int64_t number) {
+    return number >= 1 && number <= static_cast<std::int64_t>(items.size());
+}
+
+// For each zone the lowest number of a zone for which `sharedThing` gives the same pointer.
+template <typename SharedThing>
+std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>& zones,
+                                        SharedThing sharedThing) {
+    std::vector<std::int32_t> holders;
+    holders.reserve(zones.size());
+    std::unordered_map<const void*, std::int32_t> firstOf;
+    for (const std::unique_ptr<Zone>& zone : zones) {
+        const void* thing = sharedThing(*zone);
+        holders.push_back(
+            thing == nullptr ? 0 : firstOf.try_emplace(thing, zone->number).first->second);
+    }
+    return holders;
+}
+
+} // namespace
+
+DataSet::DataSet(IdSource& ids, std::string loader, std::string dataSetTitle,
+                 const std::vector<std::string>& variableNames)
+    : loaderName(std::move(loader)), title(std::move(dataSetTitle)), ids_(ids),
+      uniqueId_(ids.next()) {
+    for (const std::string& name : variableNames)
+        addVariable(name, {});
+}
+
+Zone* DataSet::zone(std::int64_t number) const {
+    return isNumberOf(zones_, number) ? zones_[static_cast<std::size_t>(number - 1)].get()
+                                      : nullptr;
+}
+
+const Variable* DataSet::variable(std::int64_t number) const {
+    return isNumberOf(variables_, number) ? &variables_[static_cast<std::size_t>(number - 1)]
+                                          : nullptr;
+}
+
+Field* DataSet::field(std::int64_t zoneNumber, std::int64_t variableNumber) const {
+    Zone* holder = zone(zoneNumber);
+    if (holder == nullptr || !isNumberOf(variables_, variableNumber))
+        return nullptr;
+    return &holder->fields[static_cast<std::size_t>(variableNumber - 1)];
+}
+
+Zone& DataSet::addZone(std::unique_ptr<Zone> zone) {
+    zone->uniqueId = ids_.next();
+    zone->number = zoneCount() + 1;
+    zonesById_[zone->uniqueId] = zone.get();
+    zones_.push_back(std::move(zone));
+    return *zones_.back();
+}
+
+void DataSet::addVariable(std::string name, std::vector<Field> fields) {
+    variables_.push_back({std::move(name), ids_.next()});
+    variableNumbersById_[variables_.back().uniqueId] = variableCount();
+    for (std::size_t index = 0; index < zones_.size(); ++index)
+        zones_[index]->fields.push_back(std::move(fields[index]));
+}
+
+void DataSet::deleteZones(const std::set<std::int64_t>& numbers) {
+    const std::vector<std::unique_ptr<Zone>> deleted = takeNumbered(zones_, numbers);
+    for (const std::unique_ptr<Zone>& zone : deleted)
+        zonesById_.erase(zone->uniqueId);
+    std::int32_t number = 0;
+    for (const std::unique_ptr<Zone>& zone : zones_)
+        zone->number = ++number;
+}
+
+void DataSet::deleteVariables(const std::set<std::int64_t>& numbers) {
+    for (const Variable& variable : takeNumbered(variables_, numbers))
+        variableNumbersById_.erase(variable.uniqueId);
+    std::int32_t number = 0;
+    for (const Variable& variable : variables_)
+        variableNumbersById_[variable.uniqueId] = ++number;
+
+    std::vector<std::vector<Field>> deleted;
+    for (const std::unique_ptr<Zone>& zone : zones_)
+        deleted.push_back(takeNumbered(zone->fields, numbers));
+}
+
+std::int32_t DataSet::zoneNumber(std::int64_t uniqueId) const {
+    const auto found = zonesById_.find(uniqueId);
+    return found != zonesById_.end() ? found->second->number : 0;
+}
+
+std::int32_t DataSet::variableNumber(std::int64_t uniqueId) const {
+    const auto found = variableNumbersById_.find(uniqueId);
+    return found != variableNumbersById_.end() ? found->second : 0;
+}
+
+std::int32_t DataSet::maxStrandId() const {
+    std::int32_t highest = 0;
+    for (const std::unique_ptr<Zone>& zone : zones_)
+        highest = std::max(highest, zone->strandId);
+    return highest;
+}
+
+std::vector<std::int32_t> DataSet::fieldHolders(std::int64_t variableNumber) const {
+    const auto index = static_cast<std::size_t>(variableNumber - 1);
+    return lowestHolders(zones_,
+                         [index](const Zone& zone) { return zone.fields[index].storage.get(); });
+}
+
+std::vector<std::int32_t> DataSet::nodeMapHolders() const {
+    return lowestHolders(zones_, [](const Zone& zone) { return zone.nodeMap.get(); });
+}
+
+} // namespace quorvia::host

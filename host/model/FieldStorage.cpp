@@ -1,0 +1,39 @@
+#include "model/FieldStorage.h"
+
+#include <utility>
+
+#include "model/FieldCache.h"
+
+namespace quorvia::host {
+
+std::int64_t valueWidth(std::int32_t type) {
+    switch (type) {
+    case QuorFieldDataType_Float:
+    case QuorFieldDataType_Int32:
+        return 4;
+    case QuorFieldDataType_Double:
+        return 8;
+    default:
+        return 0;
+    }
+}
+
+std::shared_ptr<FieldStorage> FieldStorage::stored(std::int32_t type, std::int64_t valueCount) {
+    std::shared_ptr<FieldStorage> storage(new FieldStorage(type, valueCount));
+    storage->block_ = ValueBlock::zeroed(storage->byteCount());
+    return storage->block_ ? storage : nullptr;
+}
+
+std::shared_ptr<FieldStorage> FieldStorage::deferred(std::int32_t type, std::int64_t valueCount,
+                                                     std::unique_ptr<Deferral> deferral) {
+    std::shared_ptr<FieldStorage> storage(new FieldStorage(type, valueCount));
+    storage->deferral_ = std::move(deferral);
+    return storage;
+}
+
+FieldStorage::~FieldStorage() {
+    if (cache_ != nullptr)
+        cache_->forget(*this);
+}
+
+} // namespace quorvia::host

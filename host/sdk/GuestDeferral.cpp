@@ -1,0 +1,67 @@
+#include "sdk/GuestDeferral.h"
+
+#include <exception>
+#include <utility>
+
+#include "sdk/GuestWatch.h"
+#include "sdk/HostState.h"
+
+namespace quorvia::host {
+
+namespace {
+
+// Calls the guest. Nothing may be thrown at a host, which could not know what to do about it.
+template <typename Callback>
+bool callGuest(const char* which, Callback callback) {
+    HostState& host = hostState();
+    GuestWatch watch(host);
+    bool result = false;
+    try {
+        result = callback();
+    } catch (...) {
+        host.addViolation(std::string("QuorUtilDataValueCustomLOD: the ") + which +
+                          " callback has thrown an exception");
+    }
+    watch.finish();
+    return result;
+}
+
+} // namespace
+
+GuestDeferral::GuestDeferral(const FieldCallbacks& callbacks)
+    : callbacks_(callbacks), ownsBlock_(hostState().memory.contains(callbacks.clientData)) {
+    hostState().clientDataBlocks += ownsBlock_ ? 1 : 0;
+}
+
+GuestDeferral::~GuestDeferral() {
+    const QuorFieldHandle handle = handleFor({});
+    callGuest("clean-up", [&] {
+        callbacks_.cleanUp(handle);
+        return true;
+    });
+    HostState& host = hostState();
+    host.clientDataBlocks -= ownsBlock_ ? 1 : 0;
+    host.handles.of(handle).remove(handle);
+}
+
+bool GuestDeferral::load(FieldStorage& storage) {
+    const QuorFieldHandle handle = handleFor(storage.weak_from_this());
+    return callGuest("load", [&] { return callbacks_.load(handle); });
+}
+
+bool GuestDeferral::mayUnload(FieldStorage& storage) {
+    if (callbacks_.unload == nullptr)
+        return true;
+    const QuorFieldHandle handle = handleFor(storage.weak_from_this());
+    return callGuest("unload", [&] { return callbacks_.unload(handle); });
+}
+
+QuorFieldHandle GuestDeferral::handleFor(std::weak_ptr<FieldStorage> storage) {
+    HostState& host = hostState();
+    if (handle_ == nullptr)
+        handle_ = host.handles.of(handle_).add("QuorUtilDataValueCustomLOD",
+                                               {std::move(storage), callbacks_.clientData});
+    return handle_;
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,40 @@
+// A guest's registration of a deferred field: its callbacks, its client data, and the handle under
+// which it meets the field again.
+#pragma once
+
+#include <memory>
+
+#include "model/FieldStorage.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::host {
+
+struct FieldCallbacks {
+    QuorFieldLoadCallback load = nullptr;
+    QuorFieldUnloadCallback unload = nullptr; // may be null: the array may always be dropped
+    QuorFieldCleanupCallback cleanUp = nullptr;
+    void* clientData = nullptr;
+};
+
+class GuestDeferral : public Deferral {
+public:
+    explicit GuestDeferral(const FieldCallbacks& callbacks);
+    /// Calls the clean-up callback, unless the registration was given up before it stood.
+    ~GuestDeferral() override;
+    GuestDeferral(const GuestDeferral&) = delete;
+    GuestDeferral& operator=(const GuestDeferral&) = delete;
+
+    bool load(FieldStorage& storage) override;
+    bool mayUnload(FieldStorage& storage) override;
+
+    const FieldCallbacks& callbacks() const { return callbacks_; }
+
+private:
+    QuorFieldHandle handleFor(std::weak_ptr<FieldStorage> storage);
+
+    FieldCallbacks callbacks_;
+    QuorFieldHandle handle_ = nullptr; // made when it is first needed
+    bool ownsBlock_;                   // the client data is a block of host memory
+};
+
+} // namespace quorvia::host

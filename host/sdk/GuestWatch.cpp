@@ -1,0 +1,74 @@
+#include "sdk/GuestWatch.h"
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "sdk/HostState.h"
+
+namespace quorvia::host {
+
+GuestWatch::GuestWatch(HostState& host)
+    : GuestWatch(host, {host.serials.last(), host.handles.heldCount(), host.memory.count(),
+                        host.entryLockDepth, host.guestLockDepth, host.openUndoStates,
+                        host.openProgressBars, host.timeDeferrers}) {}
+
+GuestWatch GuestWatch::since(HostState& host, std::int64_t serial) {
+    return GuestWatch(host, {serial, 0, 0, 0, 0, 0, 0, 0});
+}
+
+void GuestWatch::finish() {
+    if (host_.handles.heldCount() > before_.handles)
+        reportHandles();
+    if (host_.memory.count() > before_.blocks)
+        reportBlocks();
+    checkBalance(host_.entryLockDepth, before_.entryLocks, "QuorUtilLockOn", "lock");
+    checkBalance(host_.guestLockDepth, before_.guestLocks, "QuorUtilLockStart", "lock");
+    checkBalance(host_.openUndoStates, before_.undoStates, "QuorUtilUndoStateBegin", "undo state");
+    checkBalance(host_.openProgressBars, before_.progressBars, "createTaskProgressBar",
+                 "progress bar");
+    checkBalance(host_.timeDeferrers, before_.timeDeferrers, "SolutionTimeNotificationDeferrer",
+                 "deferrer");
+}
+
+void GuestWatch::reportHandles() {
+    std::map<std::string, int> countsByOrigin;
+    for (const Held& held : host_.handles.heldSince(before_.serial))
+        ++countsByOrigin[std::string(held.origin.name())];
+    for (const auto& [origin, count] : countsByOrigin)
+        host_.addViolation(origin + ": " + std::to_string(count) + " not given back");
+}
+
+void GuestWatch::reportBlocks() {
+    // What hangs on client data is held rightly until the clean-up, and the host can't see how far
+    // that reaches.
+    if (host_.clientDataBlocks > 0)
+        return;
+    struct Sum {
+        int count = 0;
+        std::int64_t bytes = 0;
+    };
+    std::map<std::pair<std::string, std::string>, Sum> sums;
+    for (const HeldBlock& held : host_.memory.heldSince(before_.serial)) {
+        Sum& sum = sums[{std::string(held.origin.name()), held.label}];
+        ++sum.count;
+        sum.bytes += held.byteCount;
+    }
+    for (const auto& [source, sum] : sums)
+        host_.addViolation(source.first + ": " + std::to_string(sum.count) +
+                           " not given back, labelled \"" + source.second + "\" (" +
+                           std::to_string(sum.bytes) + " bytes)");
+}
+
+void GuestWatch::checkBalance(std::int64_t& now, std::int64_t before, const char* operation,
+                              const char* what) {
+    if (now > before)
+        host_.addViolation(std::string(operation) + ": " + what + " not ended (" +
+                           std::to_string(now - before) + " too many)");
+    if (now < before)
+        host_.addViolation(std::string(operation) + ": " + what + " ended once too often (" +
+                           std::to_string(before - now) + " too few)");
+    now = before;
+}
+
+} // namespace quorvia::host

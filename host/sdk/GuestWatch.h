@@ -1,0 +1,39 @@
+// Watches a guest over one stretch of its work (a load, a fetch, its life): what it took in that
+// time and did not give back, and whether it left the lock and the rest as it found them.
+#pragma once
+
+#include <cstdint>
+
+namespace quorvia::host {
+
+struct HostState;
+
+class GuestWatch {
+public:
+    /// Begins now.
+    explicit GuestWatch(HostState& host);
+    /// Begins where handles with greater serial numbers were given out, with everything else at
+    /// rest.
+    static GuestWatch since(HostState& host, std::int64_t serial);
+
+    /// Adds a violation for each fault found, and puts locks and counters right, so that one
+    /// guest's fault is not blamed on the next. Quick if nothing is held that was not held before.
+    void finish();
+
+private:
+    struct Counts {
+        std::int64_t serial, handles, blocks, entryLocks, guestLocks, undoStates, progressBars,
+            timeDeferrers;
+    };
+    GuestWatch(HostState& host, const Counts& before) : host_(host), before_(before) {}
+
+    void reportHandles();
+    void reportBlocks();
+    void checkBalance(std::int64_t& now, std::int64_t before, const char* operation,
+                      const char* what);
+
+    HostState& host_;
+    Counts before_;
+};
+
+} // namespace quorvia::host

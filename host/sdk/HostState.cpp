@@ -1,0 +1,20 @@
+#include "sdk/HostState.h"
+
+#include <utility>
+
+namespace quorvia::host {
+
+void HostState::showMessage(Message message) {
+    log.messages.push_back(std::move(message));
+    if (settings.messageObserver)
+        settings.messageObserver(log.messages.back());
+}
+
+void HostState::tellSolutionTimes() {
+    if (!solutionTimesChanged || timeDeferrers > 0)
+        return;
+    solutionTimesChanged = false;
+    ++log.solutionTimeNotifications;
+}
+
+} // namespace quorvia::host

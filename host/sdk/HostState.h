@@ -1,0 +1,70 @@
+// All that the reference host knows, in one place that its services share.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "checks/FaultPlan.h"
+#include "checks/HandleRegistry.h"
+#include "checks/MemoryLedger.h"
+#include "checks/Transcript.h"
+#include "model/FieldCache.h"
+#include "model/Frame.h"
+#include "session/HostLog.h"
+#include "session/HostSettings.h"
+
+namespace quorvia::host {
+
+/// A registered data loader.
+struct Loader {
+    std::string name;
+    std::string fileNameExtensions;
+    bool allowsSeveralFiles = false;
+    bool allowsAdvancedOptions = false;
+    bool allowsAppending = false;
+    QuorLoaderCallback load = nullptr;
+    QuorLoaderSelectedCallback select = nullptr;
+};
+
+struct HostState {
+    HostSettings settings;
+    HostLog log;
+    FaultPlan faults;
+    Transcript transcript;
+
+    SerialSource serials;
+    std::int64_t resetSerial = 0; // what was given out up to here is no concern of leak checks
+    HandleRegistry handles{serials};
+    MemoryLedger memory{serials};
+
+    std::int64_t entryLockDepth = 0; // of QuorUtilLockOn
+    std::int64_t guestLockDepth = 0; // of QuorUtilLockStart
+    std::int64_t openUndoStates = 0;
+    std::int64_t openProgressBars = 0;
+    std::int64_t timeDeferrers = 0;
+    bool solutionTimesChanged = false; // and nobody was told yet
+    std::int64_t clientDataBlocks = 0; // deferrals whose client data is a block of host memory
+    std::string lastError;
+
+    std::vector<Loader> loaders;
+    std::vector<QuorStateChangeCallback> stateChangeCallbacks;
+    std::deque<bool> answers;
+    bool laterAnswers = false;
+    std::deque<std::vector<std::string>> fileChoices;
+
+    FieldCache cache; // outlives the frame, whose fields it counts
+    Frame frame;
+
+    std::int64_t lockDepth() const { return entryLockDepth + guestLockDepth; }
+    void addViolation(std::string text) { log.violations.push_back(std::move(text)); }
+    void showMessage(Message message);
+    void tellSolutionTimes();
+};
+
+/// The state of the one host.
+HostState& hostState();
+
+} // namespace quorvia::host

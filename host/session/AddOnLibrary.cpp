@@ -1,0 +1,112 @@
+#include "session/AddOnLibrary.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <dlfcn.h>
+
+#include "sdk/GuestDeferral.h"
+#include "sdk/GuestWatch.h"
+#include "sdk/HostState.h"
+
+namespace quorvia::host {
+
+namespace {
+
+constexpr const char* entryName = "InitQuorAddOn113";
+using Entry = void (*)();
+
+std::string lastLinkError() {
+    const char* text = dlerror();
+    return text != nullptr ? text : "unknown reason";
+}
+
+// Where the library that holds the code lies in memory; null if no library does.
+const void* libraryOf(const void* code) {
+    Dl_info info = {};
+    return dladdr(code, &info) != 0 ? info.dli_fbase : nullptr;
+}
+
+template <typename Result, typename... Arguments>
+const void* libraryOf(Result (*function)(Arguments...)) {
+    return libraryOf(reinterpret_cast<const void*>(function));
+}
+
+bool comesFrom(const FieldStorage* storage, const void* library) {
+    const auto* deferral =
+        storage != nullptr ? dynamic_cast<const GuestDeferral*>(storage->deferral()) : nullptr;
+    return deferral != nullptr && libraryOf(deferral->callbacks().load) == library;
+}
+
+void emptyFieldsOf(const DataSet* data, const void* library) {
+    if (data == nullptr)
+        return;
+    std::vector<std::shared_ptr<FieldStorage>> ended; // their clean-up finds all fields empty
+    for (const std::unique_ptr<Zone>& zone : data->zones()) {
+        for (Field& field : zone->fields) {
+            if (comesFrom(field.storage.get(), library))
+                ended.push_back(std::move(field.storage));
+        }
+    }
+}
+
+void forgetCallbacksOf(HostState& host, const void* library) {
+    const auto isLoader = [library](const Loader& loader) {
+        return libraryOf(loader.load) == library;
+    };
+    const auto isCallback = [library](QuorStateChangeCallback callback) {
+        return libraryOf(callback) == library;
+    };
+    host.loaders.erase(std::remove_if(host.loaders.begin(), host.loaders.end(), isLoader),
+                       host.loaders.end());
+    host.stateChangeCallbacks.erase(std::remove_if(host.stateChangeCallbacks.begin(),
+                                                   host.stateChangeCallbacks.end(), isCallback),
+                                    host.stateChangeCallbacks.end());
+}
+
+} // namespace
+
+std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::string& error) {
+    HostState& host = hostState();
+    const std::int64_t serial = host.serials.last();
+    dlerror();
+    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (handle == nullptr) {
+        error = "The add-on can't be loaded: " + lastLinkError();
+        return nullptr;
+    }
+    std::unique_ptr<AddOnLibrary> library(new AddOnLibrary(handle, serial));
+    void* entry = dlsym(handle, entryName);
+    if (entry == nullptr) {
+        error = "The library " + path + " is no add-on: it does not export " + entryName + ".";
+        return nullptr;
+    }
+    try {
+        reinterpret_cast<Entry>(entry)();
+    } catch (...) {
+        error = "The entry of the add-on " + path + " has thrown an exception.";
+        return nullptr;
+    }
+    return library;
+}
+
+AddOnLibrary::~AddOnLibrary() {
+    unload();
+}
+
+void AddOnLibrary::unload() {
+    if (handle_ == nullptr)
+        return;
+    HostState& host = hostState();
+    const void* entry = dlsym(handle_, entryName);
+    const void* library = entry != nullptr ? libraryOf(entry) : nullptr;
+    if (library != nullptr) {
+        forgetCallbacksOf(host, library);
+        emptyFieldsOf(host.frame.dataSet(), library);
+    }
+    dlclose(handle_);
+    handle_ = nullptr;
+    GuestWatch::since(host, serialBefore_).finish();
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,16 @@
+// One run of a registered loader, as the host's import menu or a macro starts it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/ReferenceHost.h"
+
+namespace quorvia::host {
+
+/// See ReferenceHost::importSelection and importInstructions.
+LoadResult runSelection(HostState& host, const std::vector<std::string>& files, bool advanced,
+                        bool append);
+LoadResult runInstructions(HostState& host, const std::vector<std::string>& instructions);
+
+} // namespace quorvia::host

@@ -1,0 +1,210 @@
+#include "session/ReferenceHost.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "sdk/GuestWatch.h"
+#include "sdk/HostState.h"
+#include "session/Import.h"
+
+namespace quorvia::host {
+
+namespace {
+
+OperationId operationNamed(std::string_view name) {
+    const std::optional<std::size_t> index = findOperation(name);
+    if (!index.has_value())
+        throw std::invalid_argument("no operation is called " + std::string(name));
+    return OperationId::at(*index);
+}
+
+std::vector<std::string> namesWhere(bool (*isWanted)(const OperationTraits&)) {
+    std::vector<std::string> names;
+    for (const OperationTraits& traits : detail::operationTable) {
+        if (isWanted(traits))
+            names.emplace_back(traits.name);
+    }
+    return names;
+}
+
+std::string joinedErrors(const std::vector<Message>& messages, std::size_t first) {
+    std::string joined;
+    for (std::size_t index = first; index < messages.size(); ++index) {
+        if (messages[index].kind == MessageKind::Error)
+            joined += (joined.empty() ? "" : "\n") + messages[index].text;
+    }
+    return joined;
+}
+
+} // namespace
+
+HostState& hostState() {
+    return ReferenceHost::instance().state();
+}
+
+// Never destroyed: guests that are linked in may still give things back after main has ended.
+ReferenceHost& ReferenceHost::instance() {
+    static ReferenceHost* const host = new ReferenceHost;
+    return *host;
+}
+
+ReferenceHost::ReferenceHost() : state_(std::make_unique<HostState>()) {}
+
+ReferenceHost::~ReferenceHost() = default;
+
+void ReferenceHost::reset() {
+    HostState& host = *state_;
+    host.frame.startAnew();
+    host.cache.dropAll();
+    host.settings = {};
+    host.log = {};
+    host.faults.clear();
+    host.transcript.turnOn(false);
+    host.entryLockDepth = 0;
+    host.guestLockDepth = 0;
+    host.openUndoStates = 0;
+    host.solutionTimesChanged = false;
+    host.lastError.clear();
+    host.answers.clear();
+    host.laterAnswers = false;
+    host.fileChoices.clear();
+    host.resetSerial = host.serials.last();
+}
+
+void ReferenceHost::clearLog() {
+    state_->log = {};
+}
+
+HostSettings& ReferenceHost::settings() {
+    return state_->settings;
+}
+
+const HostLog& ReferenceHost::log() const {
+    return state_->log;
+}
+
+Frame& ReferenceHost::frame() {
+    return state_->frame;
+}
+
+std::int64_t ReferenceHost::lockDepth() const {
+    return state_->lockDepth();
+}
+
+std::int64_t ReferenceHost::fetchedBytes() const {
+    return state_->cache.bytesInMemory();
+}
+
+std::vector<std::string> ReferenceHost::loaderNames() const {
+    std::vector<std::string> names;
+    for (const Loader& loader : state_->loaders)
+        names.push_back(loader.name);
+    return names;
+}
+
+LoadResult ReferenceHost::importSelection(const std::vector<std::string>& files, bool advanced,
+                                          bool append) {
+    return runSelection(*state_, files, advanced, append);
+}
+
+LoadResult ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
+    return runInstructions(*state_, instructions);
+}
+
+void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
+    state_->answers = std::move(answers);
+    state_->laterAnswers = afterwards;
+}
+
+void ReferenceHost::setFileChoices(std::deque<std::vector<std::string>> choices) {
+    state_->fileChoices = std::move(choices);
+}
+
+void ReferenceHost::requestInterrupt() noexcept {
+    state_->faults.interrupt();
+}
+
+bool ReferenceHost::interruptRequested() const noexcept {
+    return state_->faults.isInterrupted();
+}
+
+FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
+    FetchResult result;
+    const DataSet* data = state_->frame.dataSet();
+    const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
+    if (field == nullptr || field->storage == nullptr) {
+        result.error = field == nullptr ? "There is no such field." : "The field is empty.";
+        return result;
+    }
+    const std::shared_ptr<FieldStorage> storage = field->storage;
+    const std::size_t messagesBefore = state_->log.messages.size();
+    state_->cache.setLimit(state_->settings.memoryLimitBytes);
+    result.ok = state_->cache.fetch(*storage);
+    if (!result.ok) {
+        result.error = joinedErrors(state_->log.messages, messagesBefore);
+        if (result.error.empty())
+            result.error = "The values could not be read.";
+        return result;
+    }
+    result.values = storage->values();
+    result.count = storage->valueCount();
+    result.type = storage->type();
+    return result;
+}
+
+bool ReferenceHost::unload(std::int32_t zone, std::int32_t variable) {
+    const DataSet* data = state_->frame.dataSet();
+    const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
+    return field != nullptr && field->storage != nullptr && state_->cache.drop(*field->storage);
+}
+
+void ReferenceHost::unloadAll() {
+    state_->cache.dropAll();
+}
+
+void ReferenceHost::sendStateChange(std::int32_t code) {
+    const std::vector<QuorStateChangeCallback> callbacks = state_->stateChangeCallbacks;
+    for (const QuorStateChangeCallback callback : callbacks)
+        callback(code);
+}
+
+void ReferenceHost::failCall(std::string_view operation, std::int64_t n) {
+    state_->faults.failCall(operationNamed(operation), n);
+}
+
+std::int64_t ReferenceHost::callCount(std::string_view operation) const {
+    return state_->faults.calls(operationNamed(operation));
+}
+
+void ReferenceHost::interruptAtStep(std::int64_t n) {
+    state_->faults.interruptAtStep(n);
+}
+
+std::int64_t ReferenceHost::stepCount() const {
+    return state_->faults.steps();
+}
+
+void ReferenceHost::clearFaults() {
+    state_->faults.clear();
+}
+
+std::vector<std::string> ReferenceHost::operationNames() {
+    return namesWhere([](const OperationTraits&) { return true; });
+}
+
+std::vector<std::string> ReferenceHost::operationsThatCanFail() {
+    return namesWhere(
+        [](const OperationTraits& traits) { return traits.failure == Failure::Possible; });
+}
+
+void ReferenceHost::recordTranscript(bool on) {
+    state_->transcript.turnOn(on);
+    if (on)
+        state_->log.transcript.clear();
+}
+
+void ReferenceHost::checkForLeaks() {
+    GuestWatch::since(*state_, state_->resetSerial).finish();
+}
+
+} // namespace quorvia::host
