@@ -11,6 +11,11 @@ class InstructionStrings : public testsupport::GuestTest {
 protected:
     static constexpr bool reportMissing = true;
 
+    void TearDown() override {
+        current_.reset();
+        GuestTest::TearDown();
+    }
+
     HostString current_;
     std::int64_t index_ = 0;
 };
