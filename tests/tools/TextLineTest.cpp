@@ -49,7 +49,7 @@ TEST(TextLines, SurfaceOfFourNodesAndTwoTriangles) {
         describe(FileKind_e::Grid, Layout_e::Unstructured, {{4, 2, 0}});
     EXPECT_EQ(written(surface, form(Encoding_e::Text)),
               "4 2 0\n0. 1. 2. 3.\n1000. 1001. 1002. 1003.\n2000. 2001. 2002. 2003.\n"
-              "1 2 3 2 3\n4\n0 0\n");
+              "1 2 3 2 3 4\n0 0\n");
 }
 
 TEST(TextLines, CommasAndCarriageReturnsAreAMatterOfTaste) {

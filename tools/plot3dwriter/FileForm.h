@@ -28,7 +28,11 @@ enum class OverflowTail_e { AcceptedPadding, Nothing };
 /// (a count of grids alone on its line, a grid's dimensions on one line, a line end after the
 /// header and after each grid's scalars) are always kept.
 struct TextOptions_s {
-    std::int32_t tokensPerLine = 5;     ///< in blocks of values; a repeat token counts once
+    /// In blocks of values; a repeat token counts once. Readers that find a file's structure by
+    /// trial tell a solution by a line that ends after its scalars, 4 or 5 of them. So a function
+    /// file whose lines end after 4 or 5 values may be taken for a solution with one direction
+    /// more.
+    std::int32_t tokensPerLine = 6;
     std::int32_t significantDigits = 0; ///< 0: the fewest digits that read back as the same value
     bool repeatCounts = false;          ///< equal neighbours in a block become one token, 24*1
     bool commas = false;                ///< tokens are separated by a comma and a blank
