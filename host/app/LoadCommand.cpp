@@ -27,6 +27,12 @@ std::string defaultAddOnPath() {
     return (program.parent_path().parent_path() / "lib" / "plot3dloader.so").string();
 }
 
+/// As a path of a file: a name without a directory would be searched among the system's libraries.
+std::string addOnPath(const LoadArguments_s& arguments) {
+    return arguments.addOnPath.empty() ? defaultAddOnPath()
+                                       : std::filesystem::absolute(arguments.addOnPath).string();
+}
+
 /// The host lives as long as the program; what one run set up there must not outlive the run.
 class CleanHost {
 public:
@@ -63,6 +69,11 @@ LoadResult importData(ReferenceHost& host, const LoadArguments_s& arguments) {
     return host.importSelection(arguments.files, kWithoutDialog, kInPlaceOfTheDataSet);
 }
 
+bool wantsValues(const LoadArguments_s& arguments) {
+    const bool onlyInstructions = arguments.printInstructions && arguments.jsonFile.empty();
+    return arguments.fetchValues && !onlyInstructions;
+}
+
 /// False if the user ended the fetching.
 bool fetchAllValues(ReferenceHost& host, Outcome_s& outcome, ProgressLine& progress,
                     const InterruptOnSignal& interrupt) {
@@ -76,9 +87,27 @@ bool fetchAllValues(ReferenceHost& host, Outcome_s& outcome, ProgressLine& progr
     return complete && !interrupt.happened();
 }
 
-bool wantsValues(const LoadArguments_s& arguments) {
-    const bool onlyInstructions = arguments.printInstructions && arguments.jsonFile.empty();
-    return arguments.fetchValues && !onlyInstructions;
+/// One load from the opening of the library to its end.
+struct Run_s {
+    Outcome_s outcome;
+    bool interrupted = false; // the load was
+    bool fetchedAll = true;   // of the values that were wanted
+};
+
+Run_s carryOut(ReferenceHost& host, const LoadArguments_s& arguments, ProgressLine& progress) {
+    const InterruptOnSignal interrupt;
+    LoadResult result;
+    const std::unique_ptr<AddOnLibrary> library =
+        AddOnLibrary::open(addOnPath(arguments), result.hostError);
+    if (library)
+        result = importData(host, arguments);
+    Run_s run{describeOutcome(host, result), result.interrupted};
+    if (run.outcome.dataSet && wantsValues(arguments))
+        run.fetchedAll = fetchAllValues(host, run.outcome, progress, interrupt);
+    if (library)
+        library->unload(); // tells what the add-on still holds
+    updateLog(host, run.outcome);
+    return run;
 }
 
 void tellWhyNot(const Outcome_s& outcome, bool interrupted, std::ostream& err) {
@@ -93,8 +122,12 @@ void tellWhyNot(const Outcome_s& outcome, bool interrupted, std::ostream& err) {
         tellError(err, "the load was refused without a message");
 }
 
-void tellViolations(const std::vector<std::string>& violations, std::ostream& err) {
-    for (const std::string& violation : violations)
+void tellProblems(const Run_s& run, std::ostream& err) {
+    if (!run.outcome.ok)
+        tellWhyNot(run.outcome, run.interrupted, err);
+    if (!run.fetchedAll)
+        err << "quorhost: interrupted, not all values were fetched\n";
+    for (const std::string& violation : run.outcome.violations)
         err << fmt::format("quorhost: contract violation: {}\n", violation);
 }
 
@@ -133,32 +166,13 @@ bool printResults(const LoadArguments_s& arguments, const Outcome_s& outcome,
 
 ExitCode_e runLoad(const LoadArguments_s& arguments, const Console_s& console) {
     const CleanHost clean;
-    ReferenceHost& host = CleanHost::host();
     ProgressLine progress(console);
-    const InterruptOnSignal interrupt;
-    setUpHost(host, arguments, console, progress);
-
-    LoadResult result;
-    const std::string path = arguments.addOnPath.empty() ? defaultAddOnPath() : arguments.addOnPath;
-    const std::unique_ptr<AddOnLibrary> library = AddOnLibrary::open(path, result.hostError);
-    if (library)
-        result = importData(host, arguments);
-    Outcome_s outcome = describeOutcome(host, result);
-    bool fetchedAll = true;
-    if (outcome.dataSet && wantsValues(arguments))
-        fetchedAll = fetchAllValues(host, outcome, progress, interrupt);
+    setUpHost(CleanHost::host(), arguments, console, progress);
+    const Run_s run = carryOut(CleanHost::host(), arguments, progress);
     progress.clear();
-    if (library)
-        library->unload(); // reports what the add-on still holds
-    updateLog(host, outcome);
-
-    if (!outcome.ok)
-        tellWhyNot(outcome, result.interrupted, console.err);
-    if (!fetchedAll)
-        console.err << "quorhost: interrupted, not all values were fetched\n";
-    tellViolations(outcome.violations, console.err);
-    const bool written = printResults(arguments, outcome, console);
-    return outcome.ok && fetchedAll && written ? ExitCode_e::Done : ExitCode_e::Failed;
+    tellProblems(run, console.err);
+    const bool written = printResults(arguments, run.outcome, console);
+    return run.outcome.ok && run.fetchedAll && written ? ExitCode_e::Done : ExitCode_e::Failed;
 }
 
 } // namespace quorvia::host

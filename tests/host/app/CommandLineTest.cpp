@@ -11,8 +11,9 @@ using Strings = std::vector<std::string>;
 
 class CommandLine : public testing::Test {
 protected:
-    LoadArguments_s load(Strings arguments) {
-        arguments.insert(arguments.begin(), "load");
+    LoadArguments_s load(const Strings& options) {
+        Strings arguments = {"load"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
         const Command command = parseCommandLine(arguments, out, err);
         EXPECT_TRUE(std::holds_alternative<LoadArguments_s>(command)) << err.str();
         const auto* found = std::get_if<LoadArguments_s>(&command);

@@ -1,4 +1,5 @@
 // `quorhost load` in this process, with the fake add-on (FakeAddOn.cpp) in place of the real one.
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -17,16 +18,17 @@ using Strings = std::vector<std::string>;
 class LoadCommand : public testing::Test {
 protected:
     /// Gives the exit code; the streams hold what was written by this run alone.
-    int load(Strings arguments) {
+    int load(const Strings& options) {
         out.str("");
         err.str("");
-        arguments.insert(arguments.begin(), {"load", "--addon", FAKE_ADDON});
+        Strings arguments = {"load", "--addon", FAKE_ADDON};
+        arguments.insert(arguments.end(), options.begin(), options.end());
         return run(arguments, {out, err, 0});
     }
 
-    Json outcomeOf(Strings arguments) {
-        arguments.insert(arguments.end(), {"--json", "-"});
-        load(arguments);
+    Json outcomeOf(Strings options) {
+        options.insert(options.end(), {"--json", "-"});
+        load(options);
         return Json::parse(out.str());
     }
 
@@ -54,18 +56,17 @@ TEST_F(LoadCommand, GoodLoadShowsATableAndNoTalk) {
 
 TEST_F(LoadCommand, JsonTellsFieldsAsTheyCameOutOfTheLoad) {
     const Json zones = outcomeOf({"well.g"})["dataSet"]["zones"];
-    EXPECT_EQ(Json::parse(R"({"variable":1,"type":"float32","state":"deferred","sharedWith":0,
-                              "count":30,"min":10101.0,"max":50302.0,"mean":30201.5,
-                              "crc32":"CRC","error":null})"
-                          ""),
-              [&] {
-                  Json field = zones[0]["fields"][0];
-                  EXPECT_EQ(8U, field["crc32"].get<std::string>().size());
-                  field["crc32"] = "CRC";
-                  return field;
-              }());
+    EXPECT_EQ("deferred", zones[0]["fields"][0]["state"]);
     EXPECT_EQ("shared", zones[1]["fields"][0]["state"]);
     EXPECT_EQ(1, zones[1]["fields"][0]["sharedWith"]);
+}
+
+TEST_F(LoadCommand, JsonTellsTheValues) {
+    const Json zones = outcomeOf({"well.g"})["dataSet"]["zones"];
+    EXPECT_EQ(Json::parse(R"({"variable":1,"type":"float32","state":"deferred","sharedWith":0,
+                              "count":30,"min":10101.0,"max":50302.0,"mean":30201.5,
+                              "crc32":"f6a131b8","error":null})"),
+              zones[0]["fields"][0]);
     EXPECT_EQ(zones[0]["fields"][0]["crc32"], zones[1]["fields"][0]["crc32"]);
     EXPECT_EQ(-30201.5, zones[1]["fields"][1]["mean"]);
 }
@@ -170,7 +171,7 @@ TEST_F(LoadCommand, SilentRefusalIsTold) {
 TEST_F(LoadCommand, ViolationsAreShownAndDoNotFailTheLoad) {
     EXPECT_EQ(0, load({"leak.g"}));
     EXPECT_NE(std::string::npos, err.str().find("quorhost: contract violation: "));
-    EXPECT_NE(std::string::npos, out.str().find("\n*** 1 VIOLATION of the host's contract"));
+    EXPECT_NE(std::string::npos, out.str().find("\n*** QuorUtilStringListAlloc: "));
 }
 
 TEST_F(LoadCommand, CtrlCLeavesACleanFrame) {
@@ -195,6 +196,12 @@ TEST_F(LoadCommand, LibraryThatDoesNotLoadIsAHostError) {
     EXPECT_NE(std::string::npos, outcome["hostError"].get<std::string>().find(missing));
     EXPECT_EQ(false, outcome["ok"]);
     EXPECT_EQ("quorhost: error: " + outcome["hostError"].get<std::string>() + "\n", err.str());
+}
+
+TEST_F(LoadCommand, AddOnWithoutDirectoryIsAFileHere) {
+    EXPECT_EQ(1, run({"load", "--addon", "missing.so", "a.g"}, {out, err, 0}));
+    const std::string file = (std::filesystem::current_path() / "missing.so").string();
+    EXPECT_NE(std::string::npos, err.str().find(file));
 }
 
 TEST_F(LoadCommand, ProgressLineIsGoneAtTheEnd) {
