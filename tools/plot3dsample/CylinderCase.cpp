@@ -26,27 +26,20 @@ constexpr std::int32_t wall = 2;
 constexpr std::int32_t fromGrid1 = -1; ///< interpolated from the grid with this number
 constexpr std::int32_t fromGrid2 = -2;
 
-double fraction(std::int32_t index, std::int32_t count) {
-    return count < 2 ? 0 : static_cast<double>(index) / (count - 1);
-}
-
-double between(const std::array<double, 2>& ends, double part) {
-    return ends[0] + (ends[1] - ends[0]) * part;
-}
-
 /// I runs clockwise round the cylinder, so that I, J (outwards) and K form a right-handed system.
 Point_t bodyGridPoint(const GridDims_s& grid, const PointIndex_s& index) {
-    const double angle = -2 * std::numbers::pi * fraction(index.i, grid.i);
+    const double angle = along(0, -2 * std::numbers::pi, index.i, grid.i);
     constexpr double clustering = 2;
     const double outwards =
-        std::expm1(clustering * fraction(index.j, grid.j)) / std::expm1(clustering);
+        std::expm1(along(0, clustering, index.j, grid.j)) / std::expm1(clustering);
     const double radius = 1 + (outerRadius - 1) * outwards;
-    return {radius * std::cos(angle), radius * std::sin(angle), span * fraction(index.k, grid.k)};
+    return {radius * std::cos(angle), radius * std::sin(angle), along(0, span, index.k, grid.k)};
 }
 
 Point_t backgroundPoint(const GridDims_s& grid, const PointIndex_s& index) {
-    return {between(backgroundX, fraction(index.i, grid.i)),
-            between(backgroundY, fraction(index.j, grid.j)), span * fraction(index.k, grid.k)};
+    return {along(backgroundX[0], backgroundX[1], index.i, grid.i),
+            along(backgroundY[0], backgroundY[1], index.j, grid.j),
+            along(0, span, index.k, grid.k)};
 }
 
 bool isInHole(const GridDims_s& grid, PointIndex_s index, std::int32_t iStep, std::int32_t jStep) {

@@ -42,6 +42,10 @@ FileDescription_s describe(const SampleOptions_s& options, FileKind_e kind, Layo
 
 } // namespace
 
+double along(double first, double last, std::int32_t index, std::int32_t count) {
+    return count < 2 ? first : first + (last - first) * index / (count - 1);
+}
+
 Layout_e chooseLayout(const SampleOptions_s& options, const std::vector<Layout_e>& accepted) {
     return choose(options, "layout", options.layout, accepted);
 }

@@ -28,6 +28,9 @@ struct Mesh_s {
 
 using FlowField = std::function<FlowState_s(const PointIndex_s&)>;
 
+/// Equidistant points from `first` to `last`, of which there are `count`; `first` if only one.
+double along(double first, double last, std::int32_t index, std::int32_t count);
+
 /// The layout asked for, or the first of `accepted` if none is. Throws UsageError if the case does
 /// not have it.
 Layout_e chooseLayout(const SampleOptions_s& options, const std::vector<Layout_e>& accepted);

@@ -58,10 +58,6 @@ double mixtureVariable(const Mixture_s& mixture, std::int32_t variable) {
     return variable == turbulenceVariable ? mixture.turbulence : mixture.dissipation;
 }
 
-double along(double first, double last, std::int32_t index, std::int32_t count) {
-    return first + (last - first) * index / (count - 1);
-}
-
 /// Grid 1 lies below the layer's middle plane and grid 2 above it; a single grid holds both.
 Mesh_s layerMesh(const GridDims_s& size, bool isSingleGrid) {
     Mesh_s mesh;

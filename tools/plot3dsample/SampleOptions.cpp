@@ -1,6 +1,7 @@
 #include "plot3dsample/SampleOptions.h"
 
 #include <charconv>
+#include <tuple>
 #include <utility>
 
 namespace quorvia::plot3dsample {

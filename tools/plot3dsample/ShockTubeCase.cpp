@@ -18,16 +18,12 @@ constexpr double width = 0.1;
 constexpr double timeStep = 0.05;
 constexpr std::int32_t usualSteps = 5;
 
-double along(double length, std::int32_t index, std::int32_t count) {
-    return count < 2 ? 0 : length * index / (count - 1);
-}
-
 Mesh_s tubeMesh(const GridDims_s& size) {
     Mesh_s mesh;
     mesh.grids = {size};
     mesh.point = [size](const PointIndex_s& index) {
-        return Point_t{along(1, index.i, size.i), along(width, index.j, size.j),
-                       along(width, index.k, size.k)};
+        return Point_t{along(0, 1, index.i, size.i), along(0, width, index.j, size.j),
+                       along(0, width, index.k, size.k)};
     };
     return mesh;
 }

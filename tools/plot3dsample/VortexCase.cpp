@@ -17,10 +17,6 @@ constexpr double startX = -2.5;
 constexpr double timeStep = 0.25;
 constexpr std::int32_t usualSteps = 5;
 
-double along(double first, double last, std::int32_t index, std::int32_t count) {
-    return count < 2 ? first : first + (last - first) * index / (count - 1);
-}
-
 Mesh_s vortexMesh(const GridDims_s& size) {
     Mesh_s mesh;
     mesh.grids = {size};
