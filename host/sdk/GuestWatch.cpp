@@ -22,13 +22,12 @@ void GuestWatch::finish() {
         reportHandles();
     if (host_.memory.count() > before_.blocks)
         reportBlocks();
-    checkBalance(host_.entryLockDepth, before_.entryLocks, "QuorUtilLockOn", "lock");
-    checkBalance(host_.guestLockDepth, before_.guestLocks, "QuorUtilLockStart", "lock");
-    checkBalance(host_.openUndoStates, before_.undoStates, "QuorUtilUndoStateBegin", "undo state");
-    checkBalance(host_.openProgressBars, before_.progressBars, "createTaskProgressBar",
-                 "progress bar");
-    checkBalance(host_.timeDeferrers, before_.timeDeferrers, "SolutionTimeNotificationDeferrer",
-                 "deferrer");
+    checkBalance(host_.entryLockDepth, before_.entryLocks, "QuorUtilLockOn: lock");
+    checkBalance(host_.guestLockDepth, before_.guestLocks, "QuorUtilLockStart: lock");
+    checkBalance(host_.openUndoStates, before_.undoStates, "QuorUtilUndoStateBegin: undo state");
+    checkEnded(host_.openProgressBars, before_.progressBars, "createTaskProgressBar: progress bar");
+    checkEnded(host_.timeDeferrers, before_.timeDeferrers,
+               "SolutionTimeNotificationDeferrer: deferrer");
 }
 
 void GuestWatch::reportHandles() {
@@ -60,15 +59,18 @@ void GuestWatch::reportBlocks() {
                            std::to_string(sum.bytes) + " bytes)");
 }
 
-void GuestWatch::checkBalance(std::int64_t& now, std::int64_t before, const char* operation,
-                              const char* what) {
-    if (now > before)
-        host_.addViolation(std::string(operation) + ": " + what + " not ended (" +
-                           std::to_string(now - before) + " too many)");
+void GuestWatch::checkBalance(std::int64_t& now, std::int64_t before, const char* what) {
+    checkEnded(now, before, what);
     if (now < before)
-        host_.addViolation(std::string(operation) + ": " + what + " ended once too often (" +
-                           std::to_string(before - now) + " too few)");
+        host_.addViolation(std::string(what) + " ended too often (by " +
+                           std::to_string(before - now) + ")");
     now = before;
+}
+
+void GuestWatch::checkEnded(std::int64_t now, std::int64_t before, const char* what) {
+    if (now > before)
+        host_.addViolation(std::string(what) + " not ended (" + std::to_string(now - before) +
+                           " too many)");
 }
 
 } // namespace quorvia::host

@@ -16,7 +16,7 @@ public:
     /// rest.
     static GuestWatch since(HostState& host, std::int64_t serial);
 
-    /// Adds a violation for each fault found, and puts locks and counters right, so that one
+    /// Adds a violation for each fault found, and puts the lock right, so that one
     /// guest's fault is not blamed on the next. Quick if nothing is held that was not held before.
     void finish();
 
@@ -29,8 +29,9 @@ private:
 
     void reportHandles();
     void reportBlocks();
-    void checkBalance(std::int64_t& now, std::int64_t before, const char* operation,
-                      const char* what);
+    /// `now` is put right; an object that still lives is only told, for it will end by itself.
+    void checkBalance(std::int64_t& now, std::int64_t before, const char* what);
+    void checkEnded(std::int64_t now, std::int64_t before, const char* what);
 
     HostState& host_;
     Counts before_;

@@ -1,0 +1,123 @@
+// A guest at the reference host: it has registered, holds the lock, and does what the tests say. At
+// the end of a test every violation must have been expected.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "quorvia/HostHandles.h"
+#include "quorvia/QuorUtil.h"
+#include "session/ReferenceHost.h"
+
+namespace quorvia::host {
+
+using Texts = std::vector<std::string>;
+
+class HostTest : public ::testing::Test {
+protected:
+    HostTest() {
+        host().reset();
+        QuorUtilLockOn();
+        static const QuorAddOnHandle guest = QuorUtilAddOnRegister(100, "Guest", "1", "Tests");
+        QuorUtilLockOff();
+        addOn_ = guest;
+        host().clearFaults();
+        QuorUtilLockStart(addOn_);
+    }
+    ~HostTest() override {
+        if (!lockIsFree_)
+            QuorUtilLockFinish(addOn_);
+        EXPECT_EQ(host().log().violations, expected_);
+        host().reset();
+    }
+
+    static ReferenceHost& host() { return ReferenceHost::instance(); }
+    QuorAddOnHandle addOn() const { return addOn_; }
+    void freeLock() {
+        QuorUtilLockFinish(addOn_);
+        lockIsFree_ = true;
+    }
+    /// The violations of the whole test, in order.
+    void expectViolations(Texts violations) { expected_ = std::move(violations); }
+
+    static void createDataSet(const Texts& variableNames) {
+        HostStringList names(QuorUtilStringListAlloc());
+        for (const std::string& name : variableNames)
+            QuorUtilStringListAppendString(names.get(), name.c_str());
+        HostArgList arguments(QuorUtilArgListAlloc());
+        QuorUtilArgListAppendString(arguments.get(), "LoaderName", "Guest Loader");
+        QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Tests");
+        QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
+        ASSERT_TRUE(QuorUtilDataSetCreateX(arguments.get()));
+    }
+
+    /// The arguments that every zone needs.
+    static HostArgList zoneArguments(std::int64_t i, std::int64_t j, std::int64_t k,
+                                     std::int64_t type = QuorZoneType_Ordered) {
+        HostArgList arguments(QuorUtilArgListAlloc());
+        QuorUtilArgListAppendString(arguments.get(), "Name", "zone");
+        QuorUtilArgListAppendInt(arguments.get(), "ZoneType", type);
+        QuorUtilArgListAppendInt(arguments.get(), "IMax", i);
+        QuorUtilArgListAppendInt(arguments.get(), "JMax", j);
+        QuorUtilArgListAppendInt(arguments.get(), "KMax", k);
+        QuorUtilArgListAppendInt(arguments.get(), "DeferVarCreation", 1);
+        return arguments;
+    }
+    /// A zone of empty fields.
+    static void addZone(std::int64_t i, std::int64_t j, std::int64_t k,
+                        std::int64_t type = QuorZoneType_Ordered) {
+        ASSERT_TRUE(QuorUtilDataSetAddZoneX(zoneArguments(i, j, k, type).get()));
+    }
+    static HostSet setOf(const std::vector<std::int64_t>& members) {
+        HostSet set(QuorUtilSetAlloc(true));
+        for (const std::int64_t member : members)
+            QuorUtilSetAddMember(set.get(), member, true);
+        return set;
+    }
+    static Field& field(std::int32_t zone, std::int32_t var) {
+        return *host().frame().dataSet()->field(zone, var);
+    }
+    static float firstFloat(const FetchResult& fetched) {
+        return fetched.ok ? *static_cast<const float*>(fetched.values) : -1.0F;
+    }
+
+private:
+    QuorAddOnHandle addOn_ = nullptr;
+    bool lockIsFree_ = false;
+    Texts expected_;
+};
+
+/// A field that its source keeps: counts what the host asks of it. Must outlive the registration.
+struct FakeSource {
+    float firstValue = 0.0F;
+    bool loads = true;
+    bool allowsUnload = true;
+    int loadCount = 0;
+    int unloadCount = 0;
+    int cleanUpCount = 0;
+
+    bool registerAt(std::int32_t zone, std::int32_t var) {
+        return QuorUtilDataValueCustomLOD(zone, var, load, unload, cleanUp, nullptr, nullptr, this);
+    }
+
+    static FakeSource& of(QuorFieldHandle field) {
+        return *static_cast<FakeSource*>(QuorUtilDataValueGetClientData(field));
+    }
+    static bool load(QuorFieldHandle field) {
+        FakeSource& source = of(field);
+        ++source.loadCount;
+        if (source.loads)
+            *static_cast<float*>(QuorUtilDataValueGetRawPtrByRef(field)) = source.firstValue;
+        return source.loads;
+    }
+    static bool unload(QuorFieldHandle field) {
+        ++of(field).unloadCount;
+        return of(field).allowsUnload;
+    }
+    static void cleanUp(QuorFieldHandle field) { ++of(field).cleanUpCount; }
+};
+
+} // namespace quorvia::host
