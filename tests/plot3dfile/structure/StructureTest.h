@@ -1,0 +1,49 @@
+// What the tests of layouts and detection share: a disk in memory, the host's messages, and the
+// words for building files and records.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Bytes.h"
+#include "MemoryFileSystem.h"
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/LayoutParsers.h"
+#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/StructureDetection.h"
+
+namespace quorvia::quorutildataio {
+
+constexpr bool gridFile = false;          // for `isSolutionOrFunction`
+constexpr bool solutionOrFunction = true; // for `isSolutionOrFunction`
+
+class StructureTest : public testing::Test {
+protected:
+    StructureTest();
+    ~StructureTest() override;
+
+    /// Errors that the user has seen so far, in order.
+    std::vector<std::string> messages() const;
+
+    /// The open record of a file of these bytes, its encoding sniffed, its structure as told.
+    Plot3DFilePtr openRecord(const std::string& bytes, Plot3DDataStructure_e dataStructure,
+                             bool isSolutionOrFunction = gridFile,
+                             Plot3DStyle_e style = Plot3DStyle_Classic);
+
+    /// Detects a file of these bytes, as the first of a list. Null: refused.
+    Plot3DFilePtr detect(const std::string& bytes, bool isSolutionOrFunction = gridFile);
+
+    /// Whether the parser of the record's structure accepts it.
+    static bool judge(Plot3DFile_s& file) { return parseLayout(file, false, nullptr, nullptr); }
+
+    /// A manual description, to be used by detect and by builders.
+    void describe(Plot3DDataStructure_e dataStructure, Plot3DStyle_e style, bool isMultiGrid);
+
+    MemoryFileSystem disk;
+    Plot3DLoadOptions_s options;
+};
+
+} // namespace quorvia::quorutildataio
