@@ -1,0 +1,37 @@
+#include "AllocationFaults.h"
+
+#include <cstdlib>
+#include <new>
+#include <utility>
+
+namespace quorvia::testsupport {
+
+namespace {
+bool isArmed = false;
+}
+
+void failNextAllocation() {
+    isArmed = true;
+}
+
+bool cancelAllocationFault() {
+    return std::exchange(isArmed, false);
+}
+
+} // namespace quorvia::testsupport
+
+void* operator new(std::size_t size) {
+    if (quorvia::testsupport::cancelAllocationFault())
+        throw std::bad_alloc();
+    if (void* block = std::malloc(size != 0 ? size : 1))
+        return block;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept {
+    std::free(block);
+}

@@ -1,0 +1,235 @@
+// The dataset stage by itself, on data sets that other programs left in the frame.
+#include "loader/DatasetStage.h"
+#include "LoaderFixture.h"
+#include "addon/state/AddOnIdentity.h"
+#include "dataset/CurrentTask.h"
+#include "loader/FileSetRules.h"
+#include "plot3dfile/StructureDetection.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using namespace quorutildataio;
+
+const GridList twoGrids = {{2, 3, 5}, {2, 3, 5}};
+const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+
+/// The context stands as the driver leaves it before the stage.
+class DatasetStage : public LoaderTest {
+protected:
+    DatasetStage() : context(options, false) {
+        currentTask = createTaskProgressBar(1);
+        context.numSpatialVars = 3;
+        context.assignStrandIDs = true;
+        context.parentZones = HostArray<std::int32_t>::allocate(100, "Parent Zone Array");
+    }
+    ~DatasetStage() override { currentTask.reset(); }
+    void build(const Texts& names, Plot3DFileList& files, bool isSolutionOrFunction) {
+        Plot3DFileBuilder builder(options);
+        for (const std::string& name : names)
+            files.push_back(buildPlot3DFile(builder, name, isSolutionOrFunction));
+    }
+    /// Files of two grids each; the solutions' times are 1, 2, ...
+    void useSteps(bool hasGridFile, int solutions) {
+        Texts names;
+        for (int step = 1; step <= solutions; ++step)
+            names.push_back(solutionFile("s" + std::to_string(step) + ".q", twoGrids, step));
+        useFiles(hasGridFile ? Texts{gridFile("a.x", twoGrids)} : Texts(), names);
+        build(options.gridFiles, context.gridFiles, false);
+        build(options.solutionFiles, context.solutionFiles, true);
+        ASSERT_TRUE(pairFilesIntoHandlers(options, context.gridFiles, context.solutionFiles, {},
+                                          context.fileSets));
+        context.numSolutionVars = solutions > 0 ? 5 : 0;
+        context.zonesPerTimeStep = 2;
+        context.firstNewZone = 1;
+    }
+    /// As the check of the data set leaves the counts.
+    void joinOldDataSet(const Texts& variables, std::int32_t zones) {
+        makeOldDataSet(variables, zones);
+        context.existingZoneCount = zones;
+        context.existingVarCount = static_cast<std::int32_t>(variables.size());
+        context.firstNewZone = options.append ? zones + 1 : 1;
+    }
+    bool run() { return createDatasetAndZones(context); }
+
+    static Texts zoneNames() {
+        Texts names;
+        for (const auto& zone : host().frame().dataSet()->zones())
+            names.push_back(zone->name);
+        return names;
+    }
+    static std::vector<std::int64_t> toldMembers(std::int32_t code) {
+        for (const host::StateChange& change : host().log().stateChanges)
+            if (change.code == code)
+                return change.members;
+        return {};
+    }
+
+    HostLock lock{addOnID};
+    Plot3DLoadContext_s context;
+};
+
+TEST_F(DatasetStage, OfAFreshLoadSendsNoStateChange) {
+    useSteps(true, 2);
+    EXPECT_TRUE(run());
+    EXPECT_EQ(zoneCount(), 4);
+    EXPECT_TRUE(host().log().stateChanges.empty());
+}
+
+TEST_F(DatasetStage, ShowsTheHostsOwnErrorWhenTheDataSetIsRefused) {
+    useSteps(true, 1);
+    host().failCall("QuorUtilDataSetCreateX", 1);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"QuorUtilDataSetCreateX: failed on purpose"});
+    EXPECT_EQ(progress(), (Texts{"Creating the dataset", "Cleaning up..."}));
+}
+
+TEST_F(DatasetStage, ThrowsADataSetWithoutCommonItemsAway) {
+    useSteps(true, 1);
+    host().failCall("QuorUtilAuxDataSetItem", 1);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"QuorUtilAuxDataSetItem: failed on purpose"});
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(DatasetStage, EndsInSilenceWithoutItsFirstSetOrLists) {
+    for (const char* operation :
+         {"QuorUtilSetAlloc", "QuorUtilStringListAlloc", "QuorUtilArgListAlloc"}) {
+        useSteps(true, 1);
+        host().failCall(operation, 1);
+        EXPECT_FALSE(run()) << operation;
+        EXPECT_EQ(messages(), Texts()) << operation;
+    }
+}
+
+TEST_F(DatasetStage, NamesTheGridFileOfAStepThatFails) {
+    useSteps(true, 0);
+    host().failCall("QuorUtilDataSetAddZoneX", 1);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()});
+}
+
+TEST_F(DatasetStage, NamesTheSolutionFileOfTheStepThatFails) {
+    useSteps(true, 3);
+    host().failCall("QuorUtilDataSetAddZoneX", 5);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(),
+              Texts{"Invalid Plot 3D solution file.\nFile: " + options.solutionFiles[2]});
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(DatasetStage, PutsANewSolutionOnZonesThatAreThere) {
+    useSteps(false, 2);
+    joinOldDataSet(gridAndSolution, 3);
+    EXPECT_TRUE(run()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2", "s2.q:1", "s2.q:2"}));
+    EXPECT_EQ(toldMembers(QuorStateChange_VarsAltered), (std::vector<std::int64_t>{4, 5, 6, 7, 8}));
+    EXPECT_EQ(host().log().stateChanges.size(), 1U);
+}
+
+TEST_F(DatasetStage, TellsWhenTheAlteredVariablesHaveNoMemory) {
+    useSteps(false, 1);
+    joinOldDataSet(gridAndSolution, 2);
+    host().failCall("QuorUtilSetAlloc", 2);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"memory allocation error"});
+    EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2"})); // new names stay
+}
+
+TEST_F(DatasetStage, EndsInSilenceWhenAnAlteredVariableIsNotTaken) {
+    useSteps(false, 1);
+    joinOldDataSet(gridAndSolution, 2);
+    host().failCall("QuorUtilSetAddMember", 2);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(zoneCount(), 2);
+}
+
+TEST_F(DatasetStage, AppendsZonesBehindThoseThatAreThere) {
+    useSteps(true, 1);
+    options.append = true;
+    joinOldDataSet(gridAndSolution, 3);
+    host().frame().setPlotType(QuorPlotType_3D);
+    EXPECT_TRUE(run()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(zoneNames(), (Texts{"old", "old", "old", "s1.q:1", "s1.q:2"}));
+    EXPECT_EQ(toldMembers(QuorStateChange_ZonesAdded), (std::vector<std::int64_t>{4, 5}));
+    EXPECT_EQ(host().log().autoStyledZones, (std::vector<std::vector<std::int64_t>>{{4, 5}}));
+}
+
+TEST_F(DatasetStage, StylesNoAppendedZonesOfAnXYPlot) {
+    useSteps(true, 1);
+    options.append = true;
+    joinOldDataSet(gridAndSolution, 3);
+    host().frame().setPlotType(QuorPlotType_XY);
+    EXPECT_TRUE(run());
+    EXPECT_TRUE(host().log().autoStyledZones.empty());
+}
+
+TEST_F(DatasetStage, NumbersStrandsOnFromThoseThatAreThere) {
+    useSteps(true, 2);
+    options.append = true;
+    joinOldDataSet(gridAndSolution, 1);
+    QuorUtilZoneSetStrandID(1, 7);
+    EXPECT_TRUE(run());
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{7, 8, 9, 8, 9}));
+}
+
+TEST_F(DatasetStage, JoinsStrandsThatAreThere) {
+    useSteps(true, 1);
+    options.append = true;
+    options.addToExistingStrands = true;
+    joinOldDataSet(gridAndSolution, 1);
+    QuorUtilZoneSetStrandID(1, 7);
+    EXPECT_TRUE(run());
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{7, 1, 2}));
+}
+
+TEST_F(DatasetStage, TakesAppendedZonesBackOnInterruption) {
+    useSteps(true, 3);
+    options.append = true;
+    joinOldDataSet(gridAndSolution, 3);
+    host().interruptAtStep(12);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"Plot3D Data load interrupted"});
+    EXPECT_EQ(zoneNames(), (Texts{"old", "old", "old"}));
+    EXPECT_EQ(variableNames(), gridAndSolution);
+}
+
+TEST_F(DatasetStage, DeletesNewVariablesOnFailure) {
+    useSteps(true, 1);
+    options.append = true;
+    joinOldDataSet(gridAndSolution, 3);
+    // The stage counts the variables itself; a failed count leaves those of the check.
+    context.existingVarCount = 5;
+    host().failCall("QuorUtilDataSetGetInfo", 1);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages().size(), 1U); // the host's own words
+    EXPECT_EQ(variableNames().size(), 5U);
+    EXPECT_EQ(zoneCount(), 3);
+}
+
+TEST_F(DatasetStage, ResetsTheFrameWhenTheHostDoesNotSayWhatIsThere) {
+    for (const char* operation : {"QuorUtilZoneGetEnabled", "QuorUtilVarGetEnabled"}) {
+        useSteps(true, 1);
+        options.append = true;
+        joinOldDataSet(gridAndSolution, 3);
+        host().failCall("QuorUtilDataSetAddZoneX", 1);
+        host().failCall(operation, 1);
+        EXPECT_FALSE(run());
+        EXPECT_EQ(host().frame().dataSet(), nullptr) << operation;
+    }
+}
+
+TEST_F(DatasetStage, DoesNotAddVariablesToADataSetYet) {
+    useSteps(false, 1);
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z"}, 2);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(),
+              Texts{"This version of the PLOT3D loader cannot add variables to a data set."});
+    EXPECT_EQ(variableNames().size(), 3U);
+}
+
+} // namespace
+} // namespace quorvia::testsupport

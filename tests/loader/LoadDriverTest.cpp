@@ -1,0 +1,284 @@
+// One load from its options to its end, as the user and the host see it.
+#include <algorithm>
+
+#include "LoaderFixture.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using namespace quorutildataio;
+
+const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
+
+class LoadDriver : public LoaderTest {
+protected:
+    /// The value behind a key of the instructions that were handed over.
+    static std::string instruction(const std::string& key) {
+        const Texts& all = host().log().instructions;
+        const auto found = std::find(all.begin(), all.end(), key);
+        return found != all.end() && found + 1 != all.end() ? *(found + 1) : "(none)";
+    }
+};
+
+TEST_F(LoadDriver, MakesAZoneOfEachGridAndTimeStep) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("a.q", twoGrids, 0.25), solutionFile("b.q", twoGrids, 0.75)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"}));
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.25, 0.75, 0.75}));
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 1, 2}));
+}
+
+TEST_F(LoadDriver, TellsTheHostOfANewDataSetByPlotTypeAndRedrawAlone) {
+    useFiles({gridFile("a.x", twoGrids)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(host().frame().plotType(), QuorPlotType_3D);
+    EXPECT_EQ(host().log().redraws, 1);
+    EXPECT_TRUE(host().log().stateChanges.empty());
+    EXPECT_TRUE(host().log().undo.empty());
+    EXPECT_TRUE(host().log().instructionsHandedOver);
+}
+
+TEST_F(LoadDriver, HoldsNotificationsOfTimesBackToTheEnd) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("a.q", twoGrids, 0.25), solutionFile("b.q", twoGrids, 0.75)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(host().log().solutionTimeNotifications, 1);
+}
+
+TEST_F(LoadDriver, EndsATwoDimensionalGridInAPlotOfTwoDimensions) {
+    useFiles({gridFile("a.x", {{5, 7, 1}, {3, 11, 1}}, Layout_e::TwoD)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(host().frame().plotType(), QuorPlotType_2D);
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y"}));
+}
+
+TEST_F(LoadDriver, EndsAOneDimensionalGridInAnXYPlot) {
+    useFiles({gridFile("a.x", {{7, 1, 1}}, Layout_e::OneD)});
+    options.autoDetect = false;
+    options.isMultiGrid = false;
+    options.dataStructure = Plot3DDataStructure_1D;
+    EXPECT_TRUE(load()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(host().frame().plotType(), QuorPlotType_XY);
+}
+
+TEST_F(LoadDriver, CountsIBlankAmongTheVariables) {
+    useFiles({iblankGridFile("a.x", twoGrids)}, {solutionFile("a.q", twoGrids, 0)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(variableNames(),
+              (Texts{"X", "Y", "Z", "IBlank", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"}));
+}
+
+TEST_F(LoadDriver, TakesTheSelectedGridsAlone) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("a.q", twoGrids, 0.25), solutionFile("b.q", twoGrids, 0.75)});
+    selectGrids({2});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.75}));
+}
+
+TEST_F(LoadDriver, GoesOnWithoutABoundaryFileThatIsNotThere) {
+    useFiles({gridFile("a.x", twoGrids)});
+    options.loadBoundary = true;
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(),
+              Texts{"The boundary file does not exist in the same directory as the grid file and "
+                    "will not be loaded.This may have an effect on the dataset if anything relies "
+                    "on the boundary zones."});
+    EXPECT_EQ(instruction("LOADBOUNDARY"), "No");
+}
+
+TEST_F(LoadDriver, ExaminesFilesWithoutAGridForABoundaryFile) {
+    useFiles({}, {solutionFile("a.q", twoGrids, 0.25)});
+    options.loadBoundary = true;
+    load();
+    EXPECT_FALSE(options.loadBoundary);
+    EXPECT_TRUE(showedProgress("Examining file headers... "));
+}
+
+TEST_F(LoadDriver, TakesFunctionFilesThatWereNamedAsSolutions) {
+    const Texts functions = {functionFile("f_2.fun", twoGrids, 2),
+                             functionFile("f_5.fun", twoGrids, 2)};
+    useFiles({gridFile("a.x", twoGrids)}, functions);
+    EXPECT_TRUE(load());
+    EXPECT_EQ(options.functionFiles, functions);
+    EXPECT_EQ(options.solutionFiles, Texts());
+    EXPECT_FALSE(options.hasSolutionFiles);
+    EXPECT_EQ(instruction("FILELIST_FUNCTIONFILES"), "2");
+    EXPECT_EQ(instruction("FILELIST_SOLUTIONFILES"), "(none)");
+}
+
+TEST_F(LoadDriver, MakesOneStepOfFunctionFilesWithoutTimes) {
+    useFiles({gridFile("a.x", twoGrids)}, {},
+             {functionFile("f_2.fun", twoGrids, 2), functionFile("f_5.fun", twoGrids, 2)});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(zoneCount(), 2);
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z", "F1V1", "F1V2", "F2V1", "F2V2"}));
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{0, 0})); // no time, no strand
+}
+
+TEST_F(LoadDriver, MakesATimeSeriesOfSelectedFunctionFiles) {
+    useFiles({gridFile("a.x", twoGrids)}, {},
+             {functionFile("f_2.fun", twoGrids, 2), functionFile("f_5.fun", twoGrids, 2)});
+    EXPECT_TRUE(load(fromSelection));
+    EXPECT_TRUE(options.extractTimeFromSolFileNames);
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{2, 2, 5, 5}));
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 1, 2}));
+}
+
+TEST_F(LoadDriver, LeavesTheTimesOfSelectedSolutionFilesAlone) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("q_2.q", twoGrids, 0.25), solutionFile("q_5.q", twoGrids, 0.75)});
+    EXPECT_TRUE(load(fromSelection));
+    EXPECT_FALSE(options.extractTimeFromSolFileNames);
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.25, 0.75, 0.75}));
+}
+
+TEST_F(LoadDriver, TakesTheTimesOfNamesThatWereAskedFor) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("q_2.q", twoGrids, 0.25), solutionFile("q_5.q", twoGrids, 0.75)});
+    options.extractTimeFromSolFileNames = true;
+    EXPECT_TRUE(load());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{2, 2, 5, 5}));
+}
+
+TEST_F(LoadDriver, GivesNoStrandsToFunctionStyleWithoutTimes) {
+    useFiles({gridFile("a.x", twoGrids)}, {}, {functionFile("f.fun", twoGrids, 2)});
+    options.style = Plot3DStyle_Function;
+    EXPECT_TRUE(load());
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{0, 0}));
+    EXPECT_FALSE(options.assignStrandIds);
+    EXPECT_EQ(instruction("ASSIGNSTRANDIDS"), "Yes"); // as it was asked
+}
+
+TEST_F(LoadDriver, TakesTimesFromNamesAlsoWhenTheCountsWereRefused) {
+    useFiles({"a.x", "b.x"}, {"q_2.q", "q_5.q", "q_7.q"});
+    options.extractTimeFromSolFileNames = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"If you select more than one grid file, the number of grid files "
+                                "must match the number of solution files."});
+    EXPECT_EQ(options.solutionTimes.size(), 3U);
+    EXPECT_FALSE(showedProgress("Examining file headers... "));
+}
+
+TEST_F(LoadDriver, LeavesTheFrameAloneWhenAFileIsRefused) {
+    makeOldDataSet({"X"}, 3);
+    useFiles({directory.write("a.x", std::string(64, '\x7f'))});
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(zoneCount(), 3);
+    EXPECT_FALSE(host().log().instructionsHandedOver);
+}
+
+// It is opened to see how it is encoded, and again to find its structure.
+TEST_F(LoadDriver, TellsOfTheFirstFileThatIsNotThereAlone) {
+    useFiles({directory.file("a.x"), directory.file("b.x")});
+    EXPECT_FALSE(load());
+    const std::string told = "The file " + directory.file("a.x") + " could not be opened.";
+    EXPECT_EQ(messages(), (Texts{told, told}));
+}
+
+TEST_F(LoadDriver, RefusesASolutionWithOtherNumbersOfGrids) {
+    useFiles({gridFile("a.x", twoGrids)}, {solutionFile("a.q", {{2, 3, 5}}, 0)});
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"The number of grids in the solution files (1) does not match the "
+                                "number of grids in the grid files (2)"});
+}
+
+TEST_F(LoadDriver, RefusesASolutionOfOtherDimensions) {
+    const std::string solution = solutionFile("a.q", {{2, 3, 5}, {3, 5, 11}}, 0);
+    useFiles({gridFile("a.x", twoGrids)}, {solution});
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"Grid 1 in file " + solution +
+                                " does not have the same dimensions as the corresponding grid in "
+                                "the previous datafile."});
+}
+
+TEST_F(LoadDriver, RefusesToLoadNothing) {
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"There are no files to load."});
+}
+
+TEST_F(LoadDriver, FailsWhenTheHostRefusesTheInstructionsThoughTheZonesStand) {
+    useFiles({gridFile("a.x", twoGrids)});
+    host().settings().refuseInstructions = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(zoneCount(), 2);
+    EXPECT_EQ(host().log().redraws, 1);
+}
+
+TEST_F(LoadDriver, ShowsHowFarItIs) {
+    useFiles({gridFile("a.x", twoGrids)});
+    EXPECT_TRUE(load());
+    const std::string name = options.gridFiles.front();
+    const std::string tail = name.size() > 40 ? name.substr(name.size() - 40) : name;
+    ASSERT_GE(progress().size(), 4U);
+    EXPECT_EQ(progress()[0], "Preparing to Load Plot3D Data...");
+    EXPECT_EQ(progress()[1], "Examining file headers... ");
+    EXPECT_EQ(progress()[2], "Examining file header ..." + tail);
+    EXPECT_EQ(progress()[3], "Creating the dataset");
+}
+
+TEST_F(LoadDriver, ShowsTheLastFortyCharactersOfALongName) {
+    const std::string tail = "\xC3\xA9" + std::string(37, 'n') + ".x"; // 40 characters, 41 bytes
+    useFiles({gridFile("x" + tail, twoGrids)});
+    EXPECT_TRUE(load());
+    EXPECT_TRUE(showedProgress("Examining file header ..." + tail));
+}
+
+TEST_F(LoadDriver, LoadsAgainInPlaceOfWhatIsThere) {
+    makeOldDataSet({"X"}, 3);
+    useFiles({gridFile("a.x", twoGrids)});
+    EXPECT_TRUE(load());
+    EXPECT_TRUE(load());
+    EXPECT_EQ(zoneCount(), 2);
+}
+
+// What this version does not do must never pass in silence, nor touch what is in the frame.
+
+TEST_F(LoadDriver, DoesNotAppendYet) {
+    makeOldDataSet({"X", "Y", "Z"}, 3);
+    useFiles({gridFile("a.x", twoGrids)});
+    options.append = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader always starts a new data set. "
+                                "Load the grid files too, and do not append."});
+    EXPECT_TRUE(showedProgress("Checking dataset compatibility"));
+    EXPECT_EQ(zoneCount(), 3);
+    EXPECT_TRUE(host().log().undo.empty());
+}
+
+TEST_F(LoadDriver, DoesNotReplaceASolutionYet) {
+    makeOldDataSet({"X", "Y", "Z"}, 3);
+    useFiles({}, {solutionFile("a.q", twoGrids, 0)});
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader always starts a new data set. "
+                                "Load the grid files too, and do not append."});
+    EXPECT_EQ(zoneCount(), 3);
+}
+
+TEST_F(LoadDriver, DoesNotAppendFunctionFilesYet) {
+    makeOldDataSet({"X", "Y", "Z"}, 2);
+    useFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
+    options.append = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader cannot append function files to "
+                                "a data set. Load them together with their grid files."});
+    EXPECT_EQ(variableNames().size(), 3U);
+}
+
+TEST_F(LoadDriver, DoesNotLoadABoundaryFileYet) {
+    makeOldDataSet({"X"}, 3);
+    useFiles({gridFile("a.x", twoGrids)});
+    const std::string boundaries = directory.write("a.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n");
+    options.loadBoundary = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader cannot load boundary files. "
+                                "Load without boundaries.\nFile: " +
+                                boundaries});
+    EXPECT_EQ(zoneCount(), 3);
+}
+
+} // namespace
+} // namespace quorvia::testsupport

@@ -1,0 +1,93 @@
+// Loads whose time steps all have one time, from the files to the question and its answers.
+#include "LoaderFixture.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+constexpr const char* question =
+    "Solution time is identical for all time steps. To load all zones into a single time step "
+    "press \"Ok\" otherwise press \"Cancel\" and rename the solution files so that each filename "
+    "contains a unique solution time.";
+
+constexpr bool yes = true;
+
+const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
+
+class TimeStepsOfOneTime : public LoaderTest {
+protected:
+    void useSteps(const Texts& names) {
+        Texts solutions;
+        for (const std::string& name : names)
+            solutions.push_back(solutionFile(name, twoGrids, 0.25));
+        useFiles({gridFile("a.x", twoGrids)}, solutions);
+    }
+};
+
+TEST_F(TimeStepsOfOneTime, TakeTheTimesOfTheirNamesWithoutAQuestion) {
+    useSteps({"q_2.q", "q_5.q"});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{2, 2, 5, 5}));
+}
+
+TEST_F(TimeStepsOfOneTime, AreLoadedAsOneOnOk) {
+    useSteps({"a.q", "b.q"});
+    host().setAnswers({}, yes);
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts{question});
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.25, 0.25, 0.25}));
+}
+
+TEST_F(TimeStepsOfOneTime, AreNotAskedForAgainAfterOk) {
+    useSteps({"a.q", "b.q"});
+    host().setAnswers({}, yes);
+    EXPECT_TRUE(load());
+    EXPECT_TRUE(options.extractTimeFromSolFileNames);
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts{question});
+}
+
+TEST_F(TimeStepsOfOneTime, LeaveAnEmptyFrameOnCancel) {
+    makeOldDataSet({"X"}, 3);
+    useSteps({"a.q", "b.q"});
+    host().setAnswers({}, !yes);
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{question});
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+    EXPECT_TRUE(showedProgress("Cleaning up..."));
+    EXPECT_FALSE(host().log().instructionsHandedOver);
+}
+
+TEST_F(TimeStepsOfOneTime, AreAskedForOnEveryRoute) {
+    useSteps({"a.q", "b.q"});
+    host().setAnswers({}, yes);
+    EXPECT_TRUE(load(fromSelection));
+    EXPECT_EQ(messages(), Texts{question});
+}
+
+TEST_F(TimeStepsOfOneTime, AreNoMatterWithoutStrands) {
+    useSteps({"a.q", "b.q"});
+    options.assignStrandIds = false;
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{0, 0, 0, 0}));
+}
+
+TEST_F(TimeStepsOfOneTime, AreNoMatterForASingleStep) {
+    useSteps({"a.q"});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(messages(), Texts());
+}
+
+// Zones are counted by all grids of the files here, so the second step's number lies behind the
+// last zone; the host says so.
+TEST_F(TimeStepsOfOneTime, RunAheadOfTheZonesWhenGridsAreLeftOut) {
+    useSteps({"q_2.q", "q_5.q"});
+    selectGrids({2});
+    EXPECT_TRUE(load());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 2}));
+    expectedViolations = {"QuorUtilZoneSetSolutionTime: there is no zone 4"};
+}
+
+} // namespace
+} // namespace quorvia::testsupport
