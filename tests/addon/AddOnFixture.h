@@ -22,10 +22,10 @@ protected:
         forgetFiles();
     }
     void TearDown() override {
+        forgetFiles();
         host().checkForLeaks();
         EXPECT_EQ(host().log().violations, std::vector<std::string>());
         EXPECT_EQ(host().lockDepth(), 0);
-        forgetFiles();
         host().reset();
     }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -97,6 +98,16 @@ TEST(LibrarySymbols, NeedTheHostAndTheRuntimeAlone) {
 TEST(LibrarySymbols, HaveNoneThatWouldKeepTheLibraryFromUnloading) {
     for (const Symbol& symbol : dynamicSymbols())
         EXPECT_NE(symbol.type, 'u') << symbol.name;
+}
+
+TEST(LibrarySymbols, LetTheLibraryBeLoadedUnloadedAndLoadedAgain) {
+    for (int round = 1; round <= 2; ++round) {
+        void* library = dlopen(PLOT3DLOADER_FILE, RTLD_NOW | RTLD_LOCAL);
+        ASSERT_NE(library, nullptr) << dlerror();
+        EXPECT_NE(dlsym(library, "InitQuorAddOn113"), nullptr);
+        EXPECT_EQ(dlclose(library), 0);
+        EXPECT_EQ(dlopen(PLOT3DLOADER_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
+    }
 }
 
 } // namespace

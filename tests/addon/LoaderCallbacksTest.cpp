@@ -61,6 +61,14 @@ TEST_F(StateChange, OfCode15KeepsTheOtherRememberedFiles) {
     EXPECT_EQ(gRetainedNameFile, "a");
 }
 
+TEST_F(StateChange, OfCode15ReleasesTheOptionsBeforeItTakesTheLock) {
+    host().recordTranscript(true);
+    stateChangeCallback(15);
+    const Texts expected = {"QuorUtilSetDealloc(set#1)", "QuorUtilLockStart(addon#1)",
+                            "QuorUtilLockFinish(addon#1)"};
+    EXPECT_EQ(host().log().transcript, expected);
+}
+
 TEST_F(StateChange, OfAnyOtherCodeDoesNothing) {
     for (const std::int32_t code : {-1, 0, 1, 3, 14, 16})
         stateChangeCallback(code);

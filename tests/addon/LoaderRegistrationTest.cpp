@@ -54,6 +54,29 @@ TEST_F(LoaderRegistration, GivesTheDialogItsDefaultsAndNoSolutionFiles) {
     EXPECT_EQ(gRetainedSolutionFiles, Texts());
 }
 
+TEST_F(LoaderRegistration, AsksTheHostInThisOrder) {
+    host().recordTranscript(true);
+    loadersAddedAt(1000377);
+    const Texts expected = {
+        R"(QuorUtilLockOn())",
+        R"(QuorUtilGetQuorviaVersion() = 1000377)",
+        R"(QuorUtilAddOnRegister(100, "PLOT3D Loader") = addon#1)",
+        R"(QuorUtilArgListAlloc() = args#1)",
+        R"(QuorUtilArgListAppendString(args#1, "LoaderName", "PLOT3D Loader") = true)",
+        R"(QuorUtilArgListAppendString(args#1, "FileNameExtensions", "g.* *.g x.* *.x xyz.* *.xyz *.in *.in.* in.* *.p3d q.* *.q *.qfile f.* *.f fun.* *.fun *.nam") = true)",
+        R"(QuorUtilArgListAppendInt(args#1, "LoaderCallbackVersion", 1) = true)",
+        R"(QuorUtilArgListAppendFunction(args#1, "LoaderCallback", given) = true)",
+        R"(QuorUtilArgListAppendFunction(args#1, "LoaderSelectedCallback", given) = true)",
+        R"(QuorUtilArgListAppendInt(args#1, "AllowMultiFileSelection", 1) = true)",
+        R"(QuorUtilArgListAppendInt(args#1, "AllowAdvancedOptions", 1) = true)",
+        R"(QuorUtilArgListAppendInt(args#1, "AllowAppending", 1) = true)",
+        R"(QuorUtilImportAddLoaderX(args#1) = true)",
+        R"(QuorUtilArgListDealloc(args#1))",
+        R"(QuorUtilStateChangeAddCallback(given))",
+        R"(QuorUtilLockOff())"};
+    EXPECT_EQ(host().log().transcript, expected);
+}
+
 TEST_F(LoaderRegistration, BuildsNoDialog) {
     loadersAddedAt(1000377);
     EXPECT_EQ(loadDialog, -2);
