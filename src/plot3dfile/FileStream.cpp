@@ -92,6 +92,8 @@ std::int64_t FileStream::readPastBuffer(char* target, std::int64_t byteCount) {
 }
 
 std::int64_t FileStream::readFromFile(char* target, std::int64_t byteCount) {
+    if (hadReadError_)
+        return 0;
     const std::int64_t reachable = std::numeric_limits<std::int64_t>::max() - bufferStart_;
     const std::int64_t got = file_->readAt(bufferStart_, target, std::min(byteCount, reachable));
     if (got < 0)

@@ -55,7 +55,8 @@ public:
     /// Size of the file in bytes, -1 if it can't be told. The position stays.
     std::int64_t size() { return file_->size(); }
 
-    /// Whether any read so far failed with an error, rather than met the end of the file.
+    /// Whether a read has failed with an error, rather than met the end of the file. Nothing more
+    /// comes from the disk then, so that values behind a hole are never taken for those in it.
     bool hadReadError() const { return hadReadError_; }
 
 private:

@@ -53,6 +53,11 @@ int skipSeparators(Plot3DFile_s& file) {
     return file.lookahead;
 }
 
+// A token ends at the end of the file, but not where the disk failed: half a number is none.
+bool isCutOff(const Plot3DFile_s& file) {
+    return file.lookahead == -1 && file.stream->hadReadError();
+}
+
 bool readIntegerToken(Plot3DFile_s& file, std::int32_t& value) {
     int character = skipSeparators(file);
     const bool isNegative = character == '-';
@@ -64,7 +69,7 @@ bool readIntegerToken(Plot3DFile_s& file, std::int32_t& value) {
         magnitude = magnitude * 10U + static_cast<std::uint32_t>(character - '0');
     file.lookahead = character;
     value = static_cast<std::int32_t>(isNegative ? 0U - magnitude : magnitude);
-    return hasDigits;
+    return hasDigits && !isCutOff(file);
 }
 
 bool readRealToken(Plot3DFile_s& file, double& value) {
@@ -78,7 +83,7 @@ bool readRealToken(Plot3DFile_s& file, double& value) {
         character = file.stream->readCharacter();
     }
     file.lookahead = character;
-    return convertRealToken(text.view(), value);
+    return !isCutOff(file) && convertRealToken(text.view(), value);
 }
 
 // Reads a token, or a chain such as 2*3*7. Of several counts the first one stands; a chain is no
