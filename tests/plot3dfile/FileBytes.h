@@ -1,0 +1,66 @@
+// The bytes of a small file, made by hand: numbers, text, markers and records, in either byte
+// order.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace quorvia::testsupport {
+
+enum class Order { Native, Swapped };
+
+class FileBytes {
+public:
+    explicit FileBytes(Order order = Order::Native, int markerWidth = 4)
+        : order_(order), markerWidth_(markerWidth) {}
+
+    FileBytes& integers(const std::vector<std::int32_t>& values) { return appendAll(values); }
+    FileBytes& reals(const std::vector<float>& values) { return appendAll(values); }
+    FileBytes& doubles(const std::vector<double>& values) { return appendAll(values); }
+    FileBytes& raw(const std::string& bytes) {
+        bytes_ += bytes;
+        return *this;
+    }
+    FileBytes& zeros(std::size_t count) { return raw(std::string(count, '\0')); }
+
+    FileBytes& marker(std::int64_t value) {
+        if (markerWidth_ == 8)
+            append(value);
+        else
+            append(static_cast<std::int32_t>(value));
+        return *this;
+    }
+    /// A record of these bytes between its two markers.
+    FileBytes& record(const std::string& payload) {
+        const auto length = static_cast<std::int64_t>(payload.size());
+        return marker(length).raw(payload).marker(length);
+    }
+
+    const std::string& str() const { return bytes_; }
+
+private:
+    template <typename Number>
+    FileBytes& appendAll(const std::vector<Number>& values) {
+        for (const Number value : values)
+            append(value);
+        return *this;
+    }
+
+    template <typename Number>
+    void append(Number value) {
+        std::string bytes(sizeof(value), '\0');
+        std::memcpy(bytes.data(), &value, sizeof(value));
+        if (order_ == Order::Swapped)
+            std::reverse(bytes.begin(), bytes.end());
+        bytes_ += bytes;
+    }
+
+    Order order_;
+    int markerWidth_;
+    std::string bytes_;
+};
+
+} // namespace quorvia::testsupport

@@ -1,0 +1,179 @@
+#include "plot3dfile/FileStream.h"
+
+#include <limits>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "FakeDisk.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+std::string numberedBytes(std::size_t count) {
+    std::string bytes(count, '\0');
+    for (std::size_t index = 0; index < count; ++index)
+        bytes[index] = static_cast<char>((index * 7 + index / 251) % 256);
+    return bytes;
+}
+
+class Stream : public ::testing::Test {
+protected:
+    FileStream& open(const std::string& bytes) {
+        disk.put("f", bytes);
+        stream = FileStream::open("f");
+        return *stream;
+    }
+    std::string read(std::int64_t count) {
+        std::string bytes(static_cast<std::size_t>(count), '\0');
+        bytes.resize(static_cast<std::size_t>(stream->read(bytes.data(), count)));
+        return bytes;
+    }
+
+    testsupport::FakeDisk disk;
+    std::unique_ptr<FileStream> stream;
+};
+
+TEST_F(Stream, ReadsNothingBeforeItIsAsked) {
+    open("0123456789").seek(5);
+    EXPECT_EQ(disk.readCount, 0);
+}
+
+TEST_F(Stream, DeliversTheSameBytesInPiecesOfAnySize) {
+    const std::string bytes = numberedBytes(200003);
+    for (const std::int64_t piece : {1, 3, 4095, 4096, 4097, 65537, 199999, 300000}) {
+        open(bytes);
+        std::string all;
+        for (std::string part = read(piece); !part.empty(); part = read(piece))
+            all += part;
+        EXPECT_EQ(all, bytes) << "in pieces of " << piece;
+    }
+}
+
+TEST_F(Stream, TellsItsPositionAcrossBufferedAndDirectReads) {
+    open(numberedBytes(200003));
+    read(7);
+    EXPECT_EQ(stream->tell(), 7);
+    read(150000);
+    EXPECT_EQ(stream->tell(), 150007);
+    stream->readCharacter();
+    EXPECT_EQ(stream->tell(), 150008);
+}
+
+TEST_F(Stream, SeeksInsideTheBufferWithoutReadingAgain) {
+    open(numberedBytes(200003));
+    read(100);
+    stream->seek(0);
+    read(4096);
+    stream->seek(11);
+    EXPECT_EQ(read(5), numberedBytes(16).substr(11));
+    EXPECT_EQ(disk.readCount, 1);
+}
+
+TEST_F(Stream, BeginsSmallAndAsksForMoreWhenReadingGoesOn) {
+    open(numberedBytes(200003));
+    read(1);
+    EXPECT_EQ(disk.largestRead, 4096);
+    for (int index = 0; index < 150000; ++index)
+        stream->readCharacter();
+    EXPECT_EQ(disk.largestRead, 65536);
+    EXPECT_LE(disk.readCount, 6);
+}
+
+TEST_F(Stream, BeginsSmallAgainBehindAJump) {
+    open(numberedBytes(200003));
+    while (stream->tell() < 100000)
+        stream->readCharacter();
+    disk.largestRead = 0;
+    stream->seek(3);
+    read(1);
+    EXPECT_EQ(disk.largestRead, 4096);
+}
+
+TEST_F(Stream, ReadsBigBlocksStraightToTheirDestination) {
+    open(numberedBytes(200003));
+    read(150000);
+    EXPECT_EQ(disk.readCount, 1);
+    EXPECT_EQ(disk.bytesRead, 150000);
+}
+
+TEST_F(Stream, GivesWhatIsThereAtTheEnd) {
+    open("0123456789").seek(7);
+    EXPECT_EQ(read(5), "789");
+    EXPECT_EQ(stream->readCharacter(), -1);
+    EXPECT_FALSE(stream->hadReadError());
+}
+
+TEST_F(Stream, MayStandBehindTheEnd) {
+    EXPECT_TRUE(open("0123456789").seek(std::int64_t{1} << 40));
+    EXPECT_EQ(stream->tell(), std::int64_t{1} << 40);
+    EXPECT_EQ(read(5), "");
+    EXPECT_EQ(stream->readCharacter(), -1);
+}
+
+TEST_F(Stream, ReadsUpToTheLastPositionThereIs) {
+    constexpr std::int64_t last = std::numeric_limits<std::int64_t>::max();
+    EXPECT_TRUE(open("0123456789").seek(last));
+    EXPECT_EQ(stream->readCharacter(), -1);
+    EXPECT_EQ(read(5000), "");
+}
+
+TEST_F(Stream, RefusesNegativePosition) {
+    EXPECT_FALSE(open("0123456789").seek(-1));
+    EXPECT_FALSE(stream->skip(-1));
+    EXPECT_EQ(stream->tell(), 0);
+}
+
+TEST_F(Stream, RefusesSkipPast64Bits) {
+    open("0123456789").seek(2);
+    EXPECT_FALSE(stream->skip(std::numeric_limits<std::int64_t>::max()));
+    EXPECT_TRUE(stream->skip(std::numeric_limits<std::int64_t>::max() - 2));
+}
+
+TEST_F(Stream, SkipsBackwards) {
+    open("0123456789").seek(7);
+    EXPECT_TRUE(stream->skip(-5));
+    EXPECT_EQ(read(2), "23");
+}
+
+TEST_F(Stream, TellsReadErrorFromEndOfFile) {
+    open("0123456789");
+    disk.failingRead = 1;
+    EXPECT_EQ(stream->readCharacter(), -1);
+    EXPECT_TRUE(stream->hadReadError());
+}
+
+TEST_F(Stream, TellsErrorOfADirectRead) {
+    open(numberedBytes(200003));
+    disk.failingRead = 1;
+    EXPECT_EQ(read(150000), "");
+    EXPECT_TRUE(stream->hadReadError());
+    EXPECT_EQ(stream->tell(), 0);
+}
+
+TEST_F(Stream, WindowShowsTheBufferAndConsumeMovesOn) {
+    open("0123456789");
+    const FileStream::Window window = stream->window();
+    EXPECT_EQ(std::string(window.begin, window.end), "0123456789");
+    stream->consume(4);
+    EXPECT_EQ(read(2), "45");
+}
+
+TEST_F(Stream, WindowIsEmptyAtTheEnd) {
+    open("0123456789").seek(10);
+    const FileStream::Window window = stream->window();
+    EXPECT_EQ(window.begin, window.end);
+}
+
+TEST_F(Stream, BytesAbove127AreNoNegativeCharacters) {
+    open("\xff\x80");
+    EXPECT_EQ(stream->readCharacter(), 255);
+    EXPECT_EQ(stream->readCharacter(), 128);
+}
+
+TEST_F(Stream, MissingFileDoesNotOpen) {
+    EXPECT_EQ(FileStream::open("missing"), nullptr);
+}
+
+} // namespace
+} // namespace quorvia::quorutildataio

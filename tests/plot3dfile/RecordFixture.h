@@ -1,0 +1,83 @@
+// A test of a file record: its disk is in memory, it holds the host's lock, and at the end the host
+// must have seen no violation and miss nothing that it handed out.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "FakeDisk.h"
+#include "FileBytes.h"
+#include "plot3dfile/Plot3DFile.h"
+#include "session/ReferenceHost.h"
+
+namespace quorvia::testsupport {
+
+class RecordFixture : public ::testing::Test {
+protected:
+    void SetUp() override {
+        host().reset();
+        QuorUtilLockOn();
+    }
+    void TearDown() override {
+        file = nullptr;
+        EXPECT_EQ(disk.openFiles, 0);
+        QuorUtilLockOff();
+        host().checkForLeaks();
+        EXPECT_EQ(host().log().violations, std::vector<std::string>());
+        host().reset();
+    }
+
+    static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
+
+    static std::vector<std::string> messages() {
+        std::vector<std::string> texts;
+        for (const host::Message& message : host().log().messages)
+            texts.push_back(message.text);
+        return texts;
+    }
+
+    /// The record of a file of these bytes, sniffed and closed.
+    quorutildataio::Plot3DFile_s& sniff(const std::string& bytes) {
+        disk.put("wing.x", bytes);
+        return sniffStored();
+    }
+    quorutildataio::Plot3DFile_s& sniffStored() {
+        file = quorutildataio::createPlot3DFile("wing.x", false);
+        return *file;
+    }
+
+    /// The open record of a file of these bytes, not sniffed: its encoding is as told.
+    quorutildataio::Plot3DFile_s& open(quorutildataio::Plot3DEncoding_e encoding,
+                                       const std::string& bytes) {
+        disk.put("wing.x", bytes);
+        return openStored(encoding, std::ssize(bytes));
+    }
+    quorutildataio::Plot3DFile_s& openStored(quorutildataio::Plot3DEncoding_e encoding,
+                                             std::int64_t size) {
+        file = quorutildataio::createPlot3DFile("wing.x", true);
+        file->encoding = encoding;
+        file->fileSize = size;
+        EXPECT_TRUE(quorutildataio::openPlot3DFile(*file));
+        quorutildataio::rewindPlot3DFile(*file);
+        return *file;
+    }
+    quorutildataio::Plot3DFile_s& openText(const std::string& text) {
+        return open(quorutildataio::Plot3DEncoding_Ascii, text);
+    }
+    quorutildataio::Plot3DFile_s& openBinary(const std::string& bytes) {
+        return open(quorutildataio::Plot3DEncoding_Binary, bytes);
+    }
+    quorutildataio::Plot3DFile_s& openFortran(const std::string& bytes) {
+        return open(quorutildataio::Plot3DEncoding_FortranUnformatted, bytes);
+    }
+
+    FakeDisk disk;
+    quorutildataio::Plot3DFilePtr file;
+};
+
+using Texts = std::vector<std::string>;
+
+} // namespace quorvia::testsupport
