@@ -10,11 +10,22 @@ namespace {
 
 const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
 
-class LoadFaults : public LoaderTest {
+/// What makes a load take another road through the dataset stage.
+struct FaultCase_s {
+    const char* name;
+    plot3dwriter::Encoding_e encoding;
+    bool sharingAllowed;
+    bool plainArrays;
+};
+
+class LoadFaults : public LoaderTest, public ::testing::WithParamInterface<FaultCase_s> {
 protected:
     enum class Outcome_e { Loaded, Failed, OutOfMemory };
 
     LoadFaults() {
+        form.encoding = GetParam().encoding;
+        host().settings().sharingAllowed = GetParam().sharingAllowed;
+        host().settings().plainArrays = GetParam().plainArrays;
         files = {gridFile("a.x", twoGrids), solutionFile("a.q", twoGrids, 0.25),
                  solutionFile("b.q", twoGrids, 0.75), functionFile("a.fun", twoGrids, 2),
                  functionFile("b.fun", twoGrids, 2)};
@@ -74,7 +85,7 @@ protected:
     Texts files;
 };
 
-TEST_F(LoadFaults, OfEveryHostCallEndCleanly) {
+TEST_P(LoadFaults, OfEveryHostCallEndCleanly) {
     for (const std::string& operation : host::ReferenceHost::operationsThatCanFail()) {
         for (std::int64_t n = 1; true; ++n) {
             begin();
@@ -92,14 +103,14 @@ TEST_F(LoadFaults, OfEveryHostCallEndCleanly) {
     }
 }
 
-TEST_F(LoadFaults, OfHandedOverInstructionsAloneLeaveZonesBehind) {
+TEST_P(LoadFaults, OfHandedOverInstructionsAloneLeaveZonesBehind) {
     begin();
     host().failCall("QuorUtilImportSetLoaderInstr", 1);
     EXPECT_EQ(attempt(), Outcome_e::Failed);
     EXPECT_TRUE(isWhole());
 }
 
-TEST_F(LoadFaults, OfMemoryForNamesPassOutOfTheLoad) {
+TEST_P(LoadFaults, OfMemoryForNamesPassOutOfTheLoad) {
     begin();
     host().failCall("QuorUtilStringListSetString", 1);
     EXPECT_EQ(attempt(), Outcome_e::OutOfMemory);
@@ -107,7 +118,7 @@ TEST_F(LoadFaults, OfMemoryForNamesPassOutOfTheLoad) {
     EXPECT_TRUE(isEmpty());
 }
 
-TEST_F(LoadFaults, OfMemoryForParentZonesAreSilent) {
+TEST_P(LoadFaults, OfMemoryForParentZonesAreSilent) {
     begin();
     const std::int64_t parentZones = allocationNumber("Parent Zone Array");
     begin();
@@ -117,7 +128,7 @@ TEST_F(LoadFaults, OfMemoryForParentZonesAreSilent) {
     EXPECT_TRUE(isUntouched());
 }
 
-TEST_F(LoadFaults, OfMemoryForTheTypesOfVariablesAreTold) {
+TEST_P(LoadFaults, OfMemoryForTheTypesOfVariablesAreTold) {
     begin();
     const std::int64_t types = allocationNumber("vardatatypes");
     begin();
@@ -127,7 +138,7 @@ TEST_F(LoadFaults, OfMemoryForTheTypesOfVariablesAreTold) {
     EXPECT_TRUE(isEmpty());
 }
 
-TEST_F(LoadFaults, OfTheUserAtEveryStepEndCleanly) {
+TEST_P(LoadFaults, OfTheUserAtEveryStepEndCleanly) {
     begin();
     host().interruptAtStep(1000000);
     ASSERT_EQ(attempt(), Outcome_e::Loaded);
@@ -150,7 +161,7 @@ TEST_F(LoadFaults, OfTheUserAtEveryStepEndCleanly) {
     expectSecondLoad("after interruptions");
 }
 
-TEST_F(LoadFaults, OfTheUserInTheThirdOfFiveStepsLeaveAnEmptyFrame) {
+TEST_P(LoadFaults, OfTheUserInTheThirdOfFiveStepsLeaveAnEmptyFrame) {
     begin();
     Texts solutions;
     for (const char* name : {"1.q", "2.q", "3.q", "4.q", "5.q"})
@@ -165,6 +176,17 @@ TEST_F(LoadFaults, OfTheUserInTheThirdOfFiveStepsLeaveAnEmptyFrame) {
     EXPECT_EQ(messages(), Texts{"Plot3D Data load interrupted"});
     EXPECT_TRUE(isEmpty());
 }
+
+using plot3dwriter::Encoding_e;
+
+INSTANTIATE_TEST_SUITE_P(
+    Roads, LoadFaults,
+    ::testing::Values(FaultCase_s{"Binary", Encoding_e::Binary, true, true},
+                      FaultCase_s{"BinaryWithoutSharing", Encoding_e::Binary, false, true},
+                      FaultCase_s{"Fortran", Encoding_e::Fortran, true, true},
+                      FaultCase_s{"Text", Encoding_e::Text, true, true},
+                      FaultCase_s{"TextWithoutPlainArrays", Encoding_e::Text, true, false}),
+    [](const ::testing::TestParamInfo<FaultCase_s>& row) { return std::string(row.param.name); });
 
 } // namespace
 } // namespace quorvia::testsupport

@@ -116,7 +116,7 @@ std::string LoaderTest::functionFile(const std::string& name, const GridList& gr
 
 std::string LoaderTest::write(const std::string& name, const FileDescription_s& description) {
     const std::string file = directory.file(name);
-    const WriteOutcome_s outcome = writePlot3DFile(file, description, FileForm_s());
+    const WriteOutcome_s outcome = writePlot3DFile(file, description, form);
     if (!outcome.problem.empty())
         throw std::runtime_error(outcome.problem);
     return file;

@@ -37,7 +37,8 @@ protected:
     /// The lists of names and their flags, as instructions set them.
     void useFiles(const Texts& grids, const Texts& solutions = {}, const Texts& functions = {});
 
-    // Files of multi-grid plain binary, 32-bit, with values that name their places.
+    // Multi-grid files with values that name their places, in plain binary unless `form` says else.
+    plot3dwriter::FileForm_s form;
     std::string gridFile(const std::string& name, const GridList& grids,
                          Layout_e layout = Layout_e::ThreeDWhole);
     std::string iblankGridFile(const std::string& name, const GridList& grids);
