@@ -41,14 +41,17 @@ std::string bar(double fraction) {
                        std::string(kWidth - filled, '.'), part * 100);
 }
 
-/// Lines behind the first are indented, so that they can't be taken for lines of their own.
+/// Lines behind the first are indented, so that they can't be taken for lines of their own; empty
+/// ones are left out.
 std::string withIndentedLines(std::string_view text) {
     std::string result;
     for (std::size_t start = 0; start <= text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
-        if (start > 0)
-            result += "\n    ";
-        result += onOneLine(text.substr(start, end - start));
+        const std::string line = onOneLine(text.substr(start, end - start));
+        if (start == 0)
+            result = line;
+        else if (line.find_first_not_of(' ') != std::string::npos)
+            result += "\n    " + line;
         start = end + 1;
     }
     return result;

@@ -153,35 +153,53 @@ std::string numberRanges(const std::vector<std::int32_t>& numbers) {
     return fmt::format("{}", fmt::join(parts, ", "));
 }
 
-std::string itemsOnOneLine(const AuxDataItems& items) {
-    std::vector<std::string> parts;
+void printItems(std::ostream& out, const AuxDataItems& items) {
+    std::size_t widest = 0;
     for (const auto& [name, text] : items)
-        parts.push_back(onOneLine(name) + " = " + onOneLine(text));
-    return fmt::format("{}", fmt::join(parts, ", "));
+        widest = std::max(widest, name.size());
+    for (const auto& [name, text] : items)
+        out << fmt::format("    {:<{}}  {}\n", onOneLine(name), widest, onOneLine(text));
 }
 
+struct AuxDataGroup_s {
+    const AuxDataItems* items;
+    std::vector<std::int32_t> zones; // numbers, ascending
+};
+
 /// Most zones of a time step carry the same items; zones that agree stand together.
-void printAuxData(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_s limits) {
-    std::vector<std::pair<const AuxDataItems*, std::vector<std::int32_t>>> groups;
-    std::map<AuxDataItems, std::size_t> groupOf;
+std::vector<AuxDataGroup_s> groupByAuxData(const DataSetOutcome_s& dataSet) {
+    const auto isLess = [](const AuxDataItems* left, const AuxDataItems* right) {
+        return *left < *right;
+    };
+    std::map<const AuxDataItems*, std::size_t, decltype(isLess)> placeOf(isLess);
+    std::vector<AuxDataGroup_s> groups;
     for (const ZoneOutcome_s& zone : dataSet.zones) {
         if (zone.auxData.empty())
             continue;
-        const auto [place, isNew] = groupOf.try_emplace(zone.auxData, groups.size());
+        const auto [place, isNew] = placeOf.try_emplace(&zone.auxData, groups.size());
         if (isNew)
-            groups.emplace_back(&place->first, std::vector<std::int32_t>());
-        groups[place->second].second.push_back(zone.number);
+            groups.push_back({&zone.auxData, {}});
+        groups[place->second].zones.push_back(zone.number);
     }
+    return groups;
+}
+
+void printAuxData(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_s limits) {
+    const std::vector<AuxDataGroup_s> groups = groupByAuxData(dataSet);
     if (groups.empty() && dataSet.auxData.empty())
         return;
     out << "\nAuxiliary data\n";
-    if (!dataSet.auxData.empty())
-        out << fmt::format("  data set: {}\n", itemsOnOneLine(dataSet.auxData));
-    const std::size_t shown = std::min(groups.size(), limits.lines);
-    for (std::size_t index = 0; index < shown; ++index) {
-        const auto& [items, zones] = groups[index];
-        out << fmt::format("  {} {}: {}\n", zones.size() == 1 ? "zone" : "zones",
-                           numberRanges(zones), itemsOnOneLine(*items));
+    if (!dataSet.auxData.empty()) {
+        out << "  data set\n";
+        printItems(out, dataSet.auxData);
+    }
+    std::size_t shown = 0;
+    for (std::size_t lines = 0; shown < groups.size() && lines < limits.lines; ++shown) {
+        const AuxDataGroup_s& group = groups[shown];
+        out << fmt::format("  {} {}\n", group.zones.size() == 1 ? "zone" : "zones",
+                           numberRanges(group.zones));
+        printItems(out, *group.items);
+        lines += 1 + group.items->size();
     }
     printLeftOut(out, groups.size(), shown, "groups of zones");
 }

@@ -27,6 +27,7 @@ std::string onOneLine(std::string_view text) {
         return code < 0x20U || code == 0x7FU;
     };
     std::string result(text);
+    std::replace(result.begin(), result.end(), '\t', ' ');
     std::replace_if(result.begin(), result.end(), isControl, '?');
     return result;
 }

@@ -9,7 +9,7 @@
 
 namespace quorvia::host {
 
-/// `text` on one line, its control characters replaced by `?`.
+/// `text` on one line: a tab becomes a blank, other control characters become `?`.
 std::string onOneLine(std::string_view text);
 
 class TextGrid {

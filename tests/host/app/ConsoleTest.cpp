@@ -52,6 +52,11 @@ TEST_F(Console, ErrorOfSeveralLinesIsIndented) {
     EXPECT_EQ("quorhost: error: Not readable.\n    File: a.q\n", err.str());
 }
 
+TEST_F(Console, EmptyLinesAndTabsOfAnErrorAreLeftOut) {
+    tellError(err, "Unknown:\n\t\n\t*.bin\n");
+    EXPECT_EQ("quorhost: error: Unknown:\n     *.bin\n", err.str());
+}
+
 TEST_F(Console, AnswersAreTold) {
     tellMessage(err, {MessageOutcome_e::Question, "Replace?", true});
     tellMessage(err, {MessageOutcome_e::Question, "Replace?", false});

@@ -80,9 +80,22 @@ TEST(Table, ZonesWithTheSameAuxiliaryDataStandTogether) {
     outcome.dataSet->zones[3].auxData = {{"Alpha", "2.5"}};
     outcome.dataSet->auxData = {{"Mach", "0.2"}};
     EXPECT_TRUE(contains(table(outcome), "\nAuxiliary data\n"
-                                         "  data set: Mach = 0.2\n"
-                                         "  zones 1-3, 5: Alpha = 1.5, Re = 7\n"
-                                         "  zone 4: Alpha = 2.5\n"));
+                                         "  data set\n"
+                                         "    Mach  0.2\n"
+                                         "  zones 1-3, 5\n"
+                                         "    Alpha  1.5\n"
+                                         "    Re     7\n"
+                                         "  zone 4\n"
+                                         "    Alpha  2.5\n"));
+}
+
+TEST(Table, AuxiliaryDataOfManyZonesIsCutShort) {
+    Outcome_s outcome = loadedOutcome(613);
+    for (ZoneOutcome_s& zone : outcome.dataSet->zones)
+        zone.auxData = {{"Time", zone.name}, {"Re", "7"}};
+    const std::string text = table(outcome, {6});
+    EXPECT_TRUE(contains(text, "  zone 2\n    Time  Zone 2\n    Re    7\n  ... and 611 more "
+                               "groups of zones; --json FILE lists every one\n"));
 }
 
 TEST(Table, ListsValuesThatCouldNotBeFetched) {
