@@ -21,7 +21,8 @@ std::int64_t countSegmentBoundariesInRange(const std::vector<std::int64_t>& segm
 
 /// Reads `byteCount` bytes from the stream's position, stepping over the markers between segments
 /// of a Fortran file. Every stretch is measured from the block's start, also behind a second
-/// boundary. False: short read or failed seek; the destination is partly written.
+/// boundary; one that would run past the destination by that rule fails. False: that, a short read,
+/// a failed seek or a negative count; the destination is partly written.
 bool readBytesAcrossSegments(FileStream& stream, std::uint32_t markerSize,
                              const std::vector<std::int64_t>& segmentBoundaries,
                              Plot3DEncoding_e encoding, void* destination, std::int64_t byteCount);
