@@ -7,7 +7,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 bool isAbsentOrPlausible(const Plot3DFile_s* file) {
-    return file == nullptr || isFieldCountPlausible(*file);
+    return file == nullptr || (isFieldCountPlausible(*file) && isElementCountPlausible(*file));
 }
 
 } // namespace
@@ -24,7 +24,22 @@ bool isFieldCountPlausible(const Plot3DFile_s& file) {
     return file.numVars >= 0 && fields <= fieldCountLimit(file);
 }
 
-bool areFieldCountsPlausible(const Plot3DFileHandler& handler) {
+bool isElementCountPlausible(const Plot3DFile_s& file) {
+    if (file.dataStructure != Plot3DDataStructure_Unstructured || file.isSolutionOrFunction)
+        return true;
+    constexpr std::int64_t bytesOfElement = 16;
+    const std::int64_t limit = file.encoding == Plot3DEncoding_Ascii
+                                   ? fieldCountLimit(file)
+                                   : file.fileSize / bytesOfElement;
+    std::int64_t elements = 0; // 2^31 grids of 2^32 elements fit into 64 bits
+    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
+        const Plot3DGridDims_s& dims = file.gridDims[static_cast<std::size_t>(grid)];
+        elements += std::int64_t{dims.j} + dims.k;
+    }
+    return elements <= limit;
+}
+
+bool areCountsPlausible(const Plot3DFileHandler& handler) {
     return isAbsentOrPlausible(handler.gridFile) && isAbsentOrPlausible(handler.solutionFile) &&
            std::all_of(handler.functionFiles.begin(), handler.functionFiles.end(),
                        isAbsentOrPlausible);

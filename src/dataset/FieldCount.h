@@ -19,7 +19,11 @@ std::int64_t fieldCountLimit(const Plot3DFile_s& file);
 /// not plausible.
 bool isFieldCountPlausible(const Plot3DFile_s& file);
 
-/// The same for all files of a time step.
-bool areFieldCountsPlausible(const Plot3DFileHandler& handler);
+/// Whether the elements of all grids of an unstructured grid file, of 16 bytes each, fit into it;
+/// in text they are held against the limit of fields. Of other files: true.
+bool isElementCountPlausible(const Plot3DFile_s& file);
+
+/// Both for all files of a time step.
+bool areCountsPlausible(const Plot3DFileHandler& handler);
 
 } // namespace quorvia::quorutildataio

@@ -153,7 +153,7 @@ bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler&
 bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                        std::int32_t fileSetIndex) {
     const ClearRepoAtEnd guard;
-    if (!areFieldCountsPlausible(handler))
+    if (!areCountsPlausible(handler))
         return false;
     stage.strands.beginFileSet();
     fillTypes(stage, handler);

@@ -205,6 +205,18 @@ TEST_F(ZoneCreation, RefusesCountsThatNoFileBearsOut) {
     }
 }
 
+// Text of a few bytes that claims two milliard triangles.
+TEST_F(ZoneCreation, RefusesElementsThatNoFileBearsOut) {
+    const FileDescription_s surface = describeGrid({{11, 5, 0}}, Layout_e::Unstructured);
+    for (const FileForm_s& form : {text(), fortran()}) {
+        Plot3DFile_s& x = write("x", surface, form);
+        ASSERT_TRUE(load({step(&x)}));
+        x.gridDims[0].j = 2000000000;
+        EXPECT_FALSE(load({step(&x)}));
+        EXPECT_EQ(zoneCount(), 0);
+    }
+}
+
 class ExistingZones : public ZoneCreation {
 protected:
     void SetUp() override {
