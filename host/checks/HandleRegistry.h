@@ -92,11 +92,20 @@ public:
     }
     /// Null if the handle is not in the table. Valid until the next `remove`.
     Object* find(Handle handle) {
-        const auto found = entries_.find(reinterpret_cast<std::uintptr_t>(handle));
-        return found != entries_.end() ? &found->second.object : nullptr;
+        const auto number = reinterpret_cast<std::uintptr_t>(handle);
+        if (found_ != nullptr && foundNumber_ == number)
+            return found_;
+        const auto place = entries_.find(number);
+        if (place == entries_.end())
+            return nullptr;
+        foundNumber_ = number;
+        found_ = &place->second.object;
+        return found_;
     }
-    void remove(Handle handle) { entries_.erase(reinterpret_cast<std::uintptr_t>(handle)); }
-    void clear() { entries_.clear(); }
+    void remove(Handle handle) {
+        found_ = nullptr;
+        entries_.erase(reinterpret_cast<std::uintptr_t>(handle));
+    }
     std::int64_t count() const { return static_cast<std::int64_t>(entries_.size()); }
 
     /// Appends those given out after `serial`.
@@ -111,6 +120,9 @@ private:
     SerialSource& serials_;
     std::uintptr_t kind_;
     std::unordered_map<std::uintptr_t, Entry> entries_;
+    // A guest asks for the same handle many times in a row, once for each node of a zone.
+    std::uintptr_t foundNumber_ = 0;
+    Object* found_ = nullptr;
 };
 
 class HandleRegistry {

@@ -14,6 +14,11 @@ GuestWatch::GuestWatch(HostState& host)
                         host.openProgressBars, host.timeDeferrers}) {}
 
 GuestWatch GuestWatch::since(HostState& host, std::int64_t serial) {
+    return GuestWatch(host, {serial, 0, 0, host.entryLockDepth, host.guestLockDepth,
+                             host.openUndoStates, host.openProgressBars, host.timeDeferrers});
+}
+
+GuestWatch GuestWatch::sinceRest(HostState& host, std::int64_t serial) {
     return GuestWatch(host, {serial, 0, 0, 0, 0, 0, 0, 0});
 }
 
@@ -22,6 +27,10 @@ void GuestWatch::finish() {
         reportHandles();
     if (host_.memory.count() > before_.blocks)
         reportBlocks();
+    checkBalances();
+}
+
+void GuestWatch::checkBalances() {
     checkBalance(host_.entryLockDepth, before_.entryLocks, "QuorUtilLockOn: lock");
     checkBalance(host_.guestLockDepth, before_.guestLocks, "QuorUtilLockStart: lock");
     checkBalance(host_.openUndoStates, before_.undoStates, "QuorUtilUndoStateBegin: undo state");

@@ -12,13 +12,17 @@ class GuestWatch {
 public:
     /// Begins now.
     explicit GuestWatch(HostState& host);
-    /// Begins where handles with greater serial numbers were given out, with everything else at
-    /// rest.
+    /// As if begun when handles with greater serial numbers were given out, with the lock and the
+    /// rest as they are now.
     static GuestWatch since(HostState& host, std::int64_t serial);
+    /// The same, with the lock free and everything else at rest.
+    static GuestWatch sinceRest(HostState& host, std::int64_t serial);
 
     /// Adds a violation for each fault found, and puts the lock right, so that one
     /// guest's fault is not blamed on the next. Quick if nothing is held that was not held before.
     void finish();
+    /// The same for the lock, undo states and progress alone, where a guest may keep what it took.
+    void checkBalances();
 
 private:
     struct Counts {

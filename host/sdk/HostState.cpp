@@ -4,6 +4,11 @@
 
 namespace quorvia::host {
 
+bool HostState::fetch(FieldStorage& storage) {
+    cache.setLimit(settings.memoryLimitBytes);
+    return cache.fetch(storage);
+}
+
 void HostState::showMessage(Message message) {
     log.messages.push_back(std::move(message));
     if (settings.messageObserver)

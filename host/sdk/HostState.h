@@ -60,6 +60,8 @@ struct HostState {
 
     std::int64_t lockDepth() const { return entryLockDepth + guestLockDepth; }
     void addViolation(std::string text) { log.violations.push_back(std::move(text)); }
+    /// Brings a field into memory, within the budget that is set now.
+    bool fetch(FieldStorage& storage);
     void showMessage(Message message);
     void tellSolutionTimes();
 };

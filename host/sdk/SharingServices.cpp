@@ -47,7 +47,7 @@ bool copy(Call& call, const FieldPair& pair) {
         return call.violate("the destination has no storage of its own");
     const std::shared_ptr<FieldStorage> source = pair.source->storage;
     const std::shared_ptr<FieldStorage> destination = pair.destination->storage;
-    if (!call.host().cache.fetch(*source))
+    if (!call.host().fetch(*source))
         return call.refuse("the source field could not be fetched");
     if (source != destination)
         std::memcpy(destination->values(), source->values(),

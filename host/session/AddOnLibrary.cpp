@@ -82,7 +82,9 @@ std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::s
         return nullptr;
     }
     try {
+        GuestWatch watch(host);
         reinterpret_cast<Entry>(entry)();
+        watch.checkBalances();
     } catch (...) {
         error = "The entry of the add-on " + path + " has thrown an exception.";
         return nullptr;

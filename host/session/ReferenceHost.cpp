@@ -138,8 +138,7 @@ FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
     }
     const std::shared_ptr<FieldStorage> storage = field->storage;
     const std::size_t messagesBefore = state_->log.messages.size();
-    state_->cache.setLimit(state_->settings.memoryLimitBytes);
-    result.ok = state_->cache.fetch(*storage);
+    result.ok = state_->fetch(*storage);
     if (!result.ok) {
         result.error = joinedErrors(state_->log.messages, messagesBefore);
         if (result.error.empty())
@@ -204,7 +203,7 @@ void ReferenceHost::recordTranscript(bool on) {
 }
 
 void ReferenceHost::checkForLeaks() {
-    GuestWatch::since(*state_, state_->resetSerial).finish();
+    GuestWatch::sinceRest(*state_, state_->resetSerial).finish();
 }
 
 } // namespace quorvia::host

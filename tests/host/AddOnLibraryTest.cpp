@@ -58,6 +58,15 @@ TEST_F(AddOnLibraryTest, WhatItHoldsIsToldWhenItGoes) {
     expectViolations({"QuorUtilSetAlloc: 1 not given back", "QuorUtilSetAlloc: 1 not given back"});
 }
 
+TEST_F(AddOnLibraryTest, CanGoWhileSomeoneElseHoldsTheLock) {
+    auto library = AddOnLibrary::open(GUEST_LIBRARY, error_);
+    ASSERT_NE(library, nullptr) << error_;
+    QuorUtilLockStart(addOn());
+    library->unload();
+    EXPECT_EQ(host().lockDepth(), 1);
+    QuorUtilLockFinish(addOn());
+}
+
 TEST_F(AddOnLibraryTest, ThatIsMissingIsTold) {
     EXPECT_EQ(AddOnLibrary::open("/nowhere/addon.so", error_), nullptr);
     EXPECT_EQ(error_, "The add-on can't be loaded: /nowhere/addon.so: cannot open shared object "
