@@ -38,6 +38,17 @@ TEST_F(Detection, TellsPlanesOfFortranByTheirRecords) {
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DPlanes);
 }
 
+// Only the first grid's records are compared, and one plane is a whole field.
+TEST_F(Detection, TakesPlanesOfFortranForWholeIfTheFirstGridHasOnePlane) {
+    Bytes bytes;
+    bytes.record(payload().integers({2})).record(payload().integers({5, 7, 1, 2, 3, 2}));
+    bytes.record(payload().reals(3 * 35));
+    bytes.record(payload().reals(3 * 6)).record(payload().reals(3 * 6));
+    auto file = detect(bytes.str());
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
+}
+
 TEST_F(Detection, TakesTextFor3DWholeIfAny3DReadingFits) {
     auto file = detect("2 3 5\n" + std::string(60, '1'));
     ASSERT_NE(file, nullptr);
