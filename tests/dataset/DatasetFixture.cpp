@@ -226,23 +226,30 @@ bool DatasetTest::load(TimeSteps steps) {
     const std::int32_t functionVars =
         first.hasFunctionFiles() ? first.functionFiles.front()->numVars : 0;
     const HostStringList names(QuorUtilStringListAlloc());
+    if (!names)
+        return false;
     buildVariableNames(hasIBlank, numSpatialVars, numSolutionVars, functionVars, options, first,
                        names.get(), steps);
     const HostArgList arguments(QuorUtilArgListAlloc());
-    QuorUtilArgListAppendString(arguments.get(), "LoaderName", "PLOT3D Loader");
-    QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Plot3D DataSet");
-    QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
-    return QuorUtilDataSetCreateX(arguments.get()) && setCommonAuxData(names.get()) &&
+    if (!arguments)
+        return false;
+    return QuorUtilArgListAppendString(arguments.get(), "LoaderName", "PLOT3D Loader") &&
+           QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Plot3D DataSet") &&
+           QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get()) &&
+           QuorUtilDataSetCreateX(arguments.get()) && setCommonAuxData(names.get()) &&
            addZones(steps);
 }
 
 bool DatasetTest::addZones(TimeSteps& steps) {
     std::int32_t varCount = 0;
-    QuorUtilDataSetGetInfo(nullptr, nullptr, &varCount);
+    if (!QuorUtilDataSetGetInfo(nullptr, nullptr, &varCount))
+        return false;
     HostArray<std::int32_t> types = HostArray<std::int32_t>::allocate(varCount, "vardatatypes");
     parentZones = HostArray<std::int32_t>::allocate(100, "Parent Zone Array");
-    std::fill(parentZones.begin(), parentZones.end(), 0);
     const HostArgList arguments(QuorUtilArgListAlloc());
+    if (!types || !parentZones || !arguments)
+        return false;
+    std::fill(parentZones.begin(), parentZones.end(), 0);
     const std::int32_t zonesPerStep = countSelected(options, steps.front());
     currentTask = createTaskProgressBar(1);
     Plot3DZoneStage_s stage{.options = options,

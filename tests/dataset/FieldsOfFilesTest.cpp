@@ -169,6 +169,7 @@ TEST_F(FieldsOfFiles, AreSetUpNoFurtherAfterAnInterruption) {
     host().interruptAtStep(2);
     EXPECT_FALSE(load({step(&grid)}));
     EXPECT_EQ(deferredCount(), 1);
+    EXPECT_EQ(grid.varOffsets[5], -1);
     EXPECT_EQ(messages(), Texts());
 }
 

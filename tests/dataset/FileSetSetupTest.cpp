@@ -321,6 +321,15 @@ TEST_F(FileSetSetup, RefusesPrimariesWithoutPositions) {
     EXPECT_FALSE(reuseSolutionOffsets(q, options, 1, 1, 3));
 }
 
+TEST_F(FileSetSetup, TakesNoPositionsThatNoScanHasNoted) {
+    Plot3DFile_s& x = write("x", describeGrid(oneGrid));
+    Plot3DFile_s& q = write("q", describeSolution(oneGrid, 1));
+    TimeSteps steps = {step(&x, &q)};
+    ASSERT_TRUE(load(steps));
+    EXPECT_FALSE(setUpFileSet({options, steps[0], steps[0], 1, 1, 3, 5, false, false}));
+    EXPECT_EQ(messages(), Texts());
+}
+
 TEST_F(FileSetSetup, StopsAtAnInterruptionOfTheReuse) {
     Plot3DFile_s& x = write("x", describeGrid(oneGrid));
     Plot3DFile_s& q1 = write("q1", solutionAt(oneGrid, 1));

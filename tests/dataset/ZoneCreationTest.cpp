@@ -261,10 +261,10 @@ TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
     const FileDescription_s q = describeSolution(oneGrid, 0.5);
     TimeSteps steps = {step(nullptr, &write("q", q))};
     numSolutionVars = 5;
-    existingZoneCount = 1;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zoneCount(), 3);
     EXPECT_EQ(state(1, 3), host::FieldState::Stored);
+    EXPECT_EQ(sharedWith(3, 1), 3);
     EXPECT_EQ(values(1, 4), fieldOf(q, 0, 0));
     EXPECT_EQ(zone(1).solutionTime, 0.5);
     EXPECT_EQ(membersOf(zonesAdded.get()), std::vector<std::int64_t>());
