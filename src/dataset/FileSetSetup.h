@@ -1,6 +1,6 @@
 // Sets up the fields of one file set. The first file of a kind is scanned and its positions noted;
 // later files take the positions over without a scan, or share the grid's fields.
-// docs/time-series.md tells when.
+// docs/values-on-demand.md tells when.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // The scalars ahead of a grid's variables: reference numbers as auxiliary data, and the solution
-// time. docs/format.md holds the table of scalars of each style.
+// time. docs/variables.md holds the table of scalars of each style.
 #pragma once
 
 #include <cstdint>
