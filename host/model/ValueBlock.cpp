@@ -7,6 +7,13 @@ namespace quorvia::host {
 
 namespace {
 
+// No machine has so much. Sizes beyond it are mistakes, for which some allocators end the program.
+constexpr std::int64_t largestBlock = std::int64_t{1} << 39;
+
+bool isPossible(std::int64_t byteCount) {
+    return byteCount >= 0 && byteCount <= largestBlock;
+}
+
 // The allocator may answer a request for nothing with null, which would read as no memory.
 std::size_t bytesToRequest(std::int64_t byteCount) {
     return byteCount > 0 ? static_cast<std::size_t>(byteCount) : 1;
@@ -19,13 +26,13 @@ void ValueBlock::Free::operator()(void* bytes) const {
 }
 
 ValueBlock ValueBlock::zeroed(std::int64_t byteCount) {
-    if (byteCount < 0)
+    if (!isPossible(byteCount))
         return {};
     return ValueBlock(std::calloc(bytesToRequest(byteCount), 1), byteCount);
 }
 
 ValueBlock ValueBlock::uninitialised(std::int64_t byteCount) {
-    if (byteCount < 0)
+    if (!isPossible(byteCount))
         return {};
     return ValueBlock(std::malloc(bytesToRequest(byteCount)), byteCount);
 }

@@ -13,8 +13,9 @@ class ValueBlock {
 public:
     ValueBlock() = default;
 
-    /// Blocks of `byteCount` bytes, aligned for any number; empty if there is no memory or the
-    /// count is negative. A block of no bytes is a block all the same: its address is not null.
+    /// Blocks of `byteCount` bytes, aligned for any number; empty if there is no memory, if the
+    /// count is negative, or if it is beyond every machine (512 GiB). A block of no bytes is a
+    /// block all the same: its address is not null.
     static ValueBlock zeroed(std::int64_t byteCount);
     static ValueBlock uninitialised(std::int64_t byteCount);
 
