@@ -49,7 +49,7 @@ FileDescription_s describeFile(FileKind_e kind, Layout_e layout, bool isMultiGri
     description.numVars = 7;
     description.numSpecies = 3;
     std::vector<double> scalars(static_cast<std::size_t>(scalarCount(description)), 1.25);
-    if (kind == FileKind_e::OverflowSolution)
+    if (scalars.size() > overflowIntegerIndex) // 1-D has fewer, and no such file is written
         scalars[overflowIntegerIndex] = 2.0;
     description.scalars.assign(description.grids.size(), scalars);
     description.value = placeValue;
