@@ -140,5 +140,11 @@ TEST_F(FileNames, HavePatternsInOneText) {
               "*.fun *.nam");
 }
 
+TEST_F(FileNames, ThatTheHostWithholdsAreNotLeftOut) {
+    host().failCall("QuorUtilStringListGetString", 2);
+    EXPECT_FALSE(classify({"a.x", "a.q", "b.q"}));
+    EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+}
+
 } // namespace
 } // namespace quorvia::quorutildataio

@@ -71,7 +71,12 @@ bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gri
     bool result = true;
     const std::int64_t count = names != nullptr ? QuorUtilStringListGetCount(names) : 0;
     for (std::int64_t index = 1; result && index <= count; ++index) {
-        const std::string path = HostString(QuorUtilStringListGetString(names, index)).str();
+        const HostString name(QuorUtilStringListGetString(names, index));
+        if (!name) { // a selection is loaded whole or not at all
+            QuorUtilDialogErrMsg("Out of Memory!!!");
+            return false;
+        }
+        const std::string path = name.str();
         const std::string fileName = fileNameOf(path);
         switch (sorter.kindOf(fileName)) {
         case FileKind::Grid:
