@@ -19,11 +19,11 @@ using Texts = std::vector<std::string>;
 
 /// The files of one load and what else it is told.
 struct Load_s {
-    Texts gridFiles;
-    Texts solutionFiles;
-    Texts functionFiles;
-    std::string nameFile;                                      // empty: none
-    std::vector<std::pair<std::string, std::string>> settings; // key and value, in this order
+    Texts gridFiles = {};
+    Texts solutionFiles = {};
+    Texts functionFiles = {};
+    std::string nameFile = {};                                      // empty: none
+    std::vector<std::pair<std::string, std::string>> settings = {}; // key and value, in this order
 };
 
 /// The load as a list of instructions: the head of the standard syntax, the files, the settings.

@@ -1,0 +1,45 @@
+// The road of a file selection has host calls of its own ahead of the load; where one of them fails
+// nothing may be loaded but the whole selection.
+#include "acceptance/behaviour/SmallFiles.h"
+#include "acceptance/support/LoadedAddOn.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+class FaultySelection : public LoadedAddOnTest {
+protected:
+    SmallFiles files_{directory().path().string()};
+};
+
+TEST_F(FaultySelection, OfEveryHostCallEndsCleanly) {
+    const Texts selected = {files_.grid("a.x"), files_.solution("a.q", 0.25)};
+    expectSelectionLoads(selected);
+    const Texts zones = zoneNames(); // named after the solution file
+    for (const std::string& operation : host::ReferenceHost::operationsThatCanFail()) {
+        for (std::int64_t n = 1; true; ++n) {
+            host().reset();
+            host().failCall(operation, n);
+            const host::LoadResult result = select(selected);
+            const bool happened = host().callCount(operation) >= n;
+            host().clearFaults();
+            EXPECT_EQ(host().log().violations, Texts()) << operation << ' ' << n;
+            EXPECT_EQ(host().lockDepth(), 0) << operation << ' ' << n;
+            if (result.ok) {
+                EXPECT_EQ(zoneNames(), zones) << operation << ' ' << n;
+            }
+            if (!happened)
+                break;
+        }
+    }
+}
+
+TEST_F(FaultySelection, OfANameThatTheHostWithholdsLoadsNothing) {
+    const Texts selected = {files_.grid("a.x"), files_.solution("a.q", 0.25)};
+    host().failCall("QuorUtilStringListGetString", 2);
+    EXPECT_FALSE(select(selected).ok);
+    EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+} // namespace
+} // namespace quorvia::testsupport
