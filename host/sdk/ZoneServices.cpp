@@ -1,6 +1,7 @@
 // Zones and variables one by one.
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "sdk/Call.h"
 #include "sdk/FileNameTimes.h"
@@ -87,9 +88,12 @@ void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand) {
 
 bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime) {
     Call call("QuorUtilZoneSetSolutionTime", zone, solutionTime);
-    Zone* found = call.fails() ? nullptr : call.zone(zone);
-    if (found == nullptr)
+    DataSet* data = call.fails() ? nullptr : call.dataSet();
+    if (data == nullptr)
         return call.result(false);
+    Zone* found = data->zone(zone);
+    if (found == nullptr) // not blamed: a loader may number on over grids that have no zone
+        return call.result(call.refuse("there is no zone " + std::to_string(zone)));
     found->solutionTime = solutionTime;
     call.host().solutionTimesChanged = true;
     call.host().tellSolutionTimes();

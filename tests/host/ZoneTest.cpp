@@ -168,6 +168,12 @@ TEST_F(ZoneTest, SolutionTimesAreToldOnceAfterTheDeferrer) {
     EXPECT_EQ(host().log().solutionTimeNotifications, 2);
 }
 
+TEST_F(ZoneTest, ThatDoesNotExistGetsNoSolutionTimeAndNoBlame) {
+    addZone(2, 3, 5);
+    EXPECT_FALSE(QuorUtilZoneSetSolutionTime(2, 0.5));
+    EXPECT_EQ(host().log().solutionTimeNotifications, 0);
+}
+
 TEST_F(ZoneTest, AutomaticStyleIsNoted) {
     addZone(2, 3, 5);
     QuorUtilZoneStyleApplyAuto(setOf({1}).get());

@@ -67,8 +67,6 @@ protected:
     /// A data set that another program left: the variables and as many zones of 2 x 3 x 5 points.
     void makeOldDataSet(const Texts& variables, std::int32_t zones);
 
-    /// The violations that a test is about; the end of the test asks for no others.
-    Texts expectedViolations;
     TemporaryDirectory directory;
     quorutildataio::Plot3DLoadOptions_s options;
 

@@ -280,6 +280,7 @@ std::int32_t QuorUtilZoneGetType(std::int32_t zone);
 bool QuorUtilZoneRename(std::int32_t zone, const char* name);
 std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone);
 void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand);
+/// False: there is no such zone. Asking is allowed all the same.
 bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime);
 
 /// Identities that outlive renumbering; never 0. The number of an identity that is gone is 0.
