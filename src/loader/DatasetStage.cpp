@@ -159,13 +159,15 @@ bool DatasetStage::addZones() {
                             .strands = startStrands(),
                             .firstNewZone = context.firstNewZone};
     std::int32_t fileSetIndex = 0;
+    const Plot3DFileHandler* previous = nullptr;
     for (Plot3DFileHandler& fileSet : context.fileSets) {
-        if (!addZonesOfFileSet(stage, fileSet, fileSetIndex)) {
+        if (previous != nullptr)
+            stage.firstNewZone += countSelectedGrids(options, *previous);
+        if (!addZonesOfFileSet(stage, fileSet, fileSetIndex++)) {
             reportFailedFileSet(fileSet);
             return false;
         }
-        stage.firstNewZone += countSelectedGrids(options, fileSet);
-        ++fileSetIndex;
+        previous = &fileSet;
     }
     return true;
 }
