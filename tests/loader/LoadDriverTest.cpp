@@ -10,6 +10,10 @@ using namespace quorutildataio;
 
 const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
 
+const std::string noBoundaryFile =
+    "The boundary file does not exist in the same directory as the grid file and will not be "
+    "loaded.This may have an effect on the dataset if anything relies on the boundary zones.";
+
 class LoadDriver : public LoaderTest {
 protected:
     /// The value behind a key of the instructions that were handed over.
@@ -82,18 +86,17 @@ TEST_F(LoadDriver, GoesOnWithoutABoundaryFileThatIsNotThere) {
     useFiles({gridFile("a.x", twoGrids)});
     options.loadBoundary = true;
     EXPECT_TRUE(load());
-    EXPECT_EQ(messages(),
-              Texts{"The boundary file does not exist in the same directory as the grid file and "
-                    "will not be loaded.This may have an effect on the dataset if anything relies "
-                    "on the boundary zones."});
+    EXPECT_EQ(messages(), Texts{noBoundaryFile});
     EXPECT_EQ(instruction("LOADBOUNDARY"), "No");
 }
 
-TEST_F(LoadDriver, ExaminesFilesWithoutAGridForABoundaryFile) {
+TEST_F(LoadDriver, GoesOnToTheHeadersWithoutAGridForABoundaryFile) {
     useFiles({}, {solutionFile("a.q", twoGrids, 0.25)});
     options.loadBoundary = true;
     load();
     EXPECT_FALSE(options.loadBoundary);
+    ASSERT_FALSE(messages().empty());
+    EXPECT_EQ(messages().front(), noBoundaryFile);
     EXPECT_TRUE(showedProgress("Examining file headers... "));
 }
 
@@ -107,6 +110,29 @@ TEST_F(LoadDriver, TakesFunctionFilesThatWereNamedAsSolutions) {
     EXPECT_FALSE(options.hasSolutionFiles);
     EXPECT_EQ(instruction("FILELIST_FUNCTIONFILES"), "2");
     EXPECT_EQ(instruction("FILELIST_SOLUTIONFILES"), "(none)");
+}
+
+TEST_F(LoadDriver, TakesMisnamedFunctionFilesAlsoWhenALaterFileIsRefused) {
+    const std::string function = functionFile("f_2.fun", twoGrids, 2);
+    const std::string damaged = directory.write("f_5.fun", std::string(64, '\x7f'));
+    useFiles({gridFile("a.x", twoGrids)}, {function, damaged});
+    options.uniformGridStructure = false; // one grid file would have the second file taken on trust
+    options.solutionsShareStructure = false;
+    EXPECT_FALSE(load(fromSelection));
+    EXPECT_EQ(options.functionFiles, (Texts{function, damaged}));
+    EXPECT_FALSE(options.hasSolutionFiles);
+    EXPECT_TRUE(options.extractTimeFromSolFileNames);
+    EXPECT_EQ(options.solutionTimes.size(), 2U);
+}
+
+// A list of no names sets the flag all the same, and the solution file turns out to be none.
+TEST_F(LoadDriver, RefusesFunctionFilesForANewDataSetWithoutAGrid) {
+    const std::string function = functionFile("a.fun", twoGrids, 2);
+    useFiles({}, {function});
+    options.hasGridFiles = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D function file.\nFile: " + function});
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
 }
 
 TEST_F(LoadDriver, MakesOneStepOfFunctionFilesWithoutTimes) {
