@@ -1,4 +1,5 @@
-// The functions that the host calls: the doors into a load, and the state-change notice.
+// The functions that the host calls: the doors into a load, and the state-change notice. When
+// memory runs out, std::bad_alloc passes on to the host, with everything given back.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +8,12 @@
 
 namespace quorvia::quorutildataio {
 
-/// A finished list of instructions (borrowed), from a macro or a layout. Nothing is asked of the user.
+/// A finished list of instructions (borrowed), from a macro or a layout. Nothing is asked of the
+/// user.
 bool loaderCallback(QuorStringListHandle instructions);
 
-/// The files (borrowed) of the host's import file selection: composes instructions and loads at once,
-/// or, with `advancedOptions`, shows the load dialog, which has its own control for `append`.
+/// The files (borrowed) of the host's import file selection: composes instructions and loads at
+/// once, or, with `advancedOptions`, shows the load dialog, which has its own control for `append`.
 void loaderSelectedCallback(QuorStringListHandle files, bool advancedOptions, bool append);
 
 /// Reacts to the host's code 15 and to no other: drops the dialog's files.
