@@ -48,6 +48,19 @@ Load_s someGridsOfFunctionFiles(SmallFiles& files) {
             .settings = {{"FILEGRIDSET", "2"}}};
 }
 
+Load_s fortranGridFiles(SmallFiles& files) {
+    files.form.encoding = Encoding_e::Fortran;
+    return {.gridFiles = {files.grid("1.x", true), files.grid("2.x", true)},
+            .solutionFiles = {files.solution("1.q", 0.25), files.solution("2.q", 0.75)},
+            .settings = {{"SOLUTIONSSHARESTRUCTURE", "Yes"}, {"ASSIGNSTRANDIDS", "Yes"}}};
+}
+
+Load_s subset(SmallFiles& files) {
+    Load_s load = gridAndSolution(files);
+    load.settings = {{"IINDEXRANGE", "1,,2"}, {"KINDEXRANGE", "2,,1"}};
+    return load;
+}
+
 /// A load goes on without what these refused: a zone's auxiliary data, its time, a shared field.
 const std::set<std::string> toleratedOperations = {
     "QuorUtilAuxDataZoneGetRef",
@@ -186,7 +199,9 @@ INSTANTIATE_TEST_SUITE_P(
                       Road_s{"SurfaceInTwoSteps", surfaceInTwoSteps},
                       Road_s{"TwoTimeSteps", twoTimeSteps},
                       Road_s{"TwoTimeStepsWithoutSharing", twoTimeSteps, false, true},
-                      Road_s{"SomeGridsOfFunctionFiles", someGridsOfFunctionFiles}),
+                      Road_s{"SomeGridsOfFunctionFiles", someGridsOfFunctionFiles},
+                      Road_s{"FortranGridFiles", fortranGridFiles}, Road_s{"Subset", subset},
+                      Road_s{"SubsetWithoutPlainArrays", subset, true, false}),
     [](const ::testing::TestParamInfo<Road_s>& row) { return std::string(row.param.name); });
 
 } // namespace
