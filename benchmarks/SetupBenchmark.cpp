@@ -1,0 +1,131 @@
+// What it costs to set up a time series of one grid file and many solution files, against a loop
+// that opens each file, reads its first 4 KiB and closes it. That no field data is read is shown by
+// the bytes read: they are the same for small fields and for big ones.
+#include <array>
+#include <cstdint>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <benchmark/benchmark.h>
+#include <fmt/core.h>
+
+#include "session/AddOnLibrary.h"
+#include "session/ReferenceHost.h"
+#include "support/RatioReport.h"
+#include "support/SampleFiles.h"
+#include "support/TemporaryDirectory.h"
+
+namespace {
+
+using namespace quorvia;
+
+/// A time series on disk, written once for all benchmarks of its length.
+class Series {
+public:
+    static const Series& ofLength(std::int32_t steps) {
+        static const Series thousand(1000);
+        static const Series twoThousand(2000);
+        return steps == 1000 ? thousand : twoThousand;
+    }
+    const std::vector<std::string>& files() const { return files_; }
+
+private:
+    explicit Series(std::int32_t steps)
+        : files_(benchmarks::writeTimeSeries(directory_.path(), steps)) {}
+
+    testsupport::TemporaryDirectory directory_;
+    std::vector<std::string> files_;
+};
+
+void setUp(benchmark::State& state, std::int32_t steps) {
+    std::string error;
+    const auto library = host::AddOnLibrary::open(PLOT3D_ADDON_PATH, error);
+    host::ReferenceHost& quorhost = host::ReferenceHost::instance();
+    const std::vector<std::string>& files = Series::ofLength(steps).files();
+    for (auto _ : state) {
+        if (library == nullptr || !quorhost.importSelection(files, false, false).ok)
+            state.SkipWithError("the load failed");
+        state.PauseTiming(); // taking the data set down again is no part of setting it up
+        if (quorhost.frame().dataSet() == nullptr || !quorhost.log().violations.empty())
+            state.SkipWithError("the data set is not as it should be");
+        quorhost.reset();
+        state.ResumeTiming();
+    }
+}
+
+/// Bytes that this process has read so far, from files of any kind.
+std::int64_t bytesReadSoFar() {
+    std::ifstream counters("/proc/self/io");
+    std::string name;
+    std::int64_t count = 0;
+    counters >> name >> count;
+    return count;
+}
+
+/// Bytes read while one grid file and `steps` solution files of that size are set up.
+std::int64_t bytesReadBySetUp(std::int32_t steps, const benchmarks::Points_s& points) {
+    const testsupport::TemporaryDirectory directory;
+    const std::vector<std::string> files =
+        benchmarks::writeTimeSeries(directory.path(), steps, points);
+    host::ReferenceHost& quorhost = host::ReferenceHost::instance();
+    const std::int64_t before = bytesReadSoFar();
+    if (!quorhost.importSelection(files, false, false).ok)
+        throw std::runtime_error("the load failed");
+    const std::int64_t bytes = bytesReadSoFar() - before;
+    quorhost.reset();
+    return bytes;
+}
+
+/// The second series has fields of 30 times the size. A few bytes are allowed for the counters.
+int printBytesRead() {
+    std::string error;
+    const auto library = host::AddOnLibrary::open(PLOT3D_ADDON_PATH, error);
+    if (library == nullptr) {
+        fmt::print(stderr, "{}\n", error);
+        return 1;
+    }
+    constexpr std::int32_t steps = 50;
+    const std::int64_t small = bytesReadBySetUp(steps, {17, 11, 7});
+    const std::int64_t big = bytesReadBySetUp(steps, {53, 37, 19});
+    fmt::print("\nBytes read to set up one grid file and {} solution files\n"
+               "  {} with fields of 5 KB, {} with fields of 146 KB\n",
+               steps, small, big);
+    benchmarks::printCount("Growth of that number", static_cast<double>(big - small), 1024,
+                           "bytes");
+    return 0;
+}
+
+void touchFiles(benchmark::State& state, std::int32_t steps) {
+    std::array<char, 4096> start{};
+    for (auto _ : state)
+        for (const std::string& name : Series::ofLength(steps).files()) {
+            const int file = open(name.c_str(), O_RDONLY | O_CLOEXEC);
+            if (file < 0 || read(file, start.data(), start.size()) <= 0)
+                state.SkipWithError("cannot read");
+            close(file);
+        }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    using quorvia::benchmarks::Ratio;
+    for (const std::int32_t steps : {1000, 2000}) {
+        const std::string count = std::to_string(steps);
+        benchmark::RegisterBenchmark(("SetUp" + count).c_str(), setUp, steps)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark(("Touch" + count).c_str(), touchFiles, steps)
+            ->Unit(benchmark::kMillisecond);
+    }
+    const int outcome = quorvia::benchmarks::runAndCompare(
+        argc, argv,
+        {{"One grid file with 1,000 solution files, to opening and reading 4 KiB of each",
+          "SetUp1000", "Touch1000", Ratio::CostAtMost, 8.0},
+         {"2,000 solution files, to 1,000", "SetUp2000", "SetUp1000", Ratio::CostAtMost, 2.2}});
+    return outcome != 0 ? outcome : printBytesRead();
+}

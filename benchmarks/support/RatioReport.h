@@ -1,0 +1,31 @@
+// Runs benchmarks in pairs and prints each ratio beside its target. Both sides are measured in one
+// run, their repetitions interleaved, so that a machine that slows down slows both.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvia::benchmarks {
+
+/// How two times become the number that is claimed.
+enum class Ratio {
+    SpeedAtLeast, // reference time / our time must reach the target
+    CostAtMost    // our time / reference time must not pass the target
+};
+
+struct RatioClaim {
+    std::string claim; // what is claimed, in words
+    std::string ours;  // name of a registered benchmark
+    std::string reference;
+    Ratio ratio;
+    double target;
+};
+
+/// Runs all registered benchmarks and prints machine, compiler, spread and ratios. Gives the exit
+/// code of a program: 0 also when a target is missed, since these are measurements and no tests.
+int runAndCompare(int argc, char** argv, const std::vector<RatioClaim>& claims);
+
+/// Prints a measured count beside its target, for claims that are no times.
+void printCount(const std::string& claim, double measured, double target, const std::string& unit);
+
+} // namespace quorvia::benchmarks

@@ -1,0 +1,72 @@
+#include "support/SampleFiles.h"
+
+#include <cmath>
+#include <stdexcept>
+
+#include <fmt/core.h>
+
+#include "plot3dwriter/Plot3DWriter.h"
+
+namespace quorvia::benchmarks {
+
+namespace {
+
+using namespace plot3dwriter;
+
+void write(const std::string& path, const FileDescription_s& description, const FileForm_s& form) {
+    const WriteOutcome_s outcome = writePlot3DFile(path, description, form);
+    if (!outcome.problem.empty())
+        throw std::runtime_error(outcome.problem);
+}
+
+FileDescription_s describe(FileKind_e kind, GridDims_s dims) {
+    FileDescription_s description;
+    description.kind = kind;
+    description.grids = {dims};
+    if (kind == FileKind_e::ClassicSolution)
+        description.scalars = {{0.8, 2.0, 1e6, 0.0}};
+    description.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
+                           std::int32_t k) {
+        return 0.25 * variable + std::sin(0.01 * i) + 1e-3 * (j + 7 * k);
+    };
+    return description;
+}
+
+} // namespace
+
+std::vector<std::string> writeTimeSeries(const std::filesystem::path& directory, std::int32_t steps,
+                                         const Points_s& points) {
+    const GridDims_s dims{points.i, points.j, points.k};
+    std::vector<std::string> files = {(directory / "series.x").string()};
+    write(files.front(), describe(FileKind_e::Grid, dims), {});
+    for (std::int32_t step = 0; step < steps; ++step) {
+        FileDescription_s solution = describe(FileKind_e::ClassicSolution, dims);
+        solution.scalars.front()[3] = 0.5 * step;
+        files.push_back((directory / fmt::format("series_{:04}.q", step)).string());
+        write(files.back(), solution, {});
+    }
+    return files;
+}
+
+void writeTextGrid(const std::string& path, std::int32_t points) {
+    FileForm_s form;
+    form.encoding = Encoding_e::Text;
+    form.text.significantDigits = 9;
+    write(path, describe(FileKind_e::Grid, {points, points, points}), form);
+}
+
+void writeSparseBinary(const std::string& path, std::int64_t megabytes, bool isSolution,
+                       bool isBigEndian) {
+    const FileKind_e kind = isSolution ? FileKind_e::ClassicSolution : FileKind_e::Grid;
+    const double valueCount =
+        static_cast<double>(megabytes) * 1048576.0 / 8.0 / (isSolution ? 5 : 3);
+    const auto points = static_cast<std::int32_t>(std::cbrt(valueCount));
+    FileDescription_s description = describe(kind, {points, points, points});
+    description.isHole = [](std::int32_t, std::int32_t, std::int32_t) { return true; };
+    FileForm_s form;
+    form.precision = Precision_e::Double;
+    form.byteOrder = isBigEndian ? ByteOrder_e::Big : ByteOrder_e::Little;
+    write(path, description, form);
+}
+
+} // namespace quorvia::benchmarks
