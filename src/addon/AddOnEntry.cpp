@@ -16,7 +16,6 @@ namespace {
 constexpr std::int32_t oldestHostVersion = 1000377;
 constexpr const char* oldestHostVersionText = "10.0-3-77";
 constexpr std::int32_t registrationWord = 100;
-constexpr const char* loaderName = "PLOT3D Loader";
 constexpr const char* authorText = "The PLOT3D Loader developers";
 
 /// The host's lock while there is no identity yet to take it with.

@@ -1,5 +1,6 @@
 #include "loader/DatasetStage.h"
 
+#include "addon/state/AddOnIdentity.h"
 #include "dataset/CommonAuxData.h"
 #include "dataset/CurrentTask.h"
 #include "dataset/VariableNames.h"
@@ -97,7 +98,7 @@ bool DatasetStage::createDataSet() {
     currentTask->setMessage("Creating the dataset");
     QuorArgListHandle list = arguments.get();
     QuorUtilArgListClear(list);
-    return QuorUtilArgListAppendString(list, "LoaderName", "PLOT3D Loader") &&
+    return QuorUtilArgListAppendString(list, "LoaderName", loaderName) &&
            QuorUtilArgListAppendString(list, "DataSetTitle", "Plot3D DataSet") &&
            QuorUtilArgListAppendStringList(list, "VarNames", varNames.get()) &&
            QuorUtilDataSetCreateX(list) && setCommonAuxData(varNames.get());

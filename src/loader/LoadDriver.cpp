@@ -169,7 +169,7 @@ void showNewDataSet(Plot3DDataStructure_e dataStructure) {
 
 bool handOverInstructions(const Plot3DLoadOptions_s& options) {
     const HostStringList instructions = writeLoadInstructions(options);
-    return QuorUtilImportSetLoaderInstr("PLOT3D Loader", instructions.get());
+    return QuorUtilImportSetLoaderInstr(loaderName, instructions.get());
 }
 
 } // namespace
