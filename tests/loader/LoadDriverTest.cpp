@@ -22,6 +22,16 @@ protected:
         const auto found = std::find(all.begin(), all.end(), key);
         return found != all.end() && found + 1 != all.end() ? *(found + 1) : "(none)";
     }
+    /// How much host memory a load, which must succeed, takes for the parents of its zones.
+    std::int64_t bytesForParents() {
+        host().recordTranscript(true);
+        EXPECT_TRUE(load()) << ::testing::PrintToString(messages());
+        const std::string start = "QuorUtilStringAlloc(";
+        for (const std::string& call : host().log().transcript)
+            if (call.find("Parent Zone Array") != std::string::npos)
+                return std::stoll(call.substr(start.size()));
+        return -1;
+    }
 };
 
 TEST_F(LoadDriver, MakesAZoneOfEachGridAndTimeStep) {
@@ -80,6 +90,22 @@ TEST_F(LoadDriver, TakesTheSelectedGridsAlone) {
     selectGrids({2});
     EXPECT_TRUE(load());
     EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.75}));
+}
+
+TEST_F(LoadDriver, KeepsParentsOfSelectedGridsForEachStepOfAUniformLoad) {
+    useFiles({gridFile("a.x", twoGrids)},
+             {solutionFile("a.q", twoGrids, 0.25), solutionFile("b.q", twoGrids, 0.75),
+              solutionFile("c.q", twoGrids, 1.25)});
+    selectGrids({2});
+    EXPECT_EQ(bytesForParents(), 4 * 3 * 1);
+}
+
+TEST_F(LoadDriver, KeepsParentsOfAllGridsOfUnlikeFiles) {
+    useFiles({gridFile("a.x", twoGrids), gridFile("b.x", {{2, 3, 5}, {3, 5, 7}, {5, 7, 11}})});
+    options.uniformGridStructure = false;
+    selectGrids({2});
+    EXPECT_EQ(bytesForParents(), 4 * (2 + 3)); // also of those that are not selected
+    EXPECT_EQ(zoneCount(), 2);
 }
 
 TEST_F(LoadDriver, GoesOnWithoutABoundaryFileThatIsNotThere) {
