@@ -180,6 +180,22 @@ TEST_F(FieldsOfFiles, WithoutMemoryAtTheHostAreTold) {
     EXPECT_EQ(messages(), Texts{"Unable to allocate memory for variable."});
 }
 
+// A host that gives neither an array nor a handle has no type for the field; that of I-blank is not
+// asked for.
+TEST_F(FieldsOfFiles, WithoutAWayToWriteThemAreTold) {
+    host().settings().plainArrays = false;
+    FileDescription_s grid = describeGrid(oneGrid);
+    grid.hasIBlank = true;
+    Plot3DFile_s& file = write("x", grid, text());
+    for (const int field : {2, 4}) {
+        host().clearFaults();
+        host().failCall("QuorUtilDataValueGetWritableRef", field);
+        EXPECT_FALSE(load({step(&file)}));
+    }
+    EXPECT_EQ(messages(), (Texts{"Datatype mismatch while attempting to replace a solution var.",
+                                 "Error loading IBlank Variable."}));
+}
+
 TEST_F(FieldsOfFiles, ThatTheHostDoesNotTakeAreToldTwice) {
     Plot3DFile_s& grid = write("x", describeGrid(oneGrid));
     host().failCall("QuorUtilDataValueCustomLOD", 1);

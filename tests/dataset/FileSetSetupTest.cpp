@@ -75,6 +75,16 @@ TEST_F(FileSetSetup, TakesLaterSolutionsFromThePositionsOfTheFirst) {
     }
 }
 
+// The number of the variable in its file, where a scan tells that at the host.
+TEST_F(FileSetSetup, AnnouncesFieldsAtPositionsOfTheFirstByTheirPlaceInTheFile) {
+    Plot3DFile_s& x = write("x", describeGrid(oneGrid));
+    Plot3DFile_s& q1 = write("q1", solutionAt(oneGrid, 1));
+    ASSERT_TRUE(
+        load({step(&x, &q1), step(&x, &write("0123456789.later", solutionAt(oneGrid, 2)))}));
+    EXPECT_EQ(host().log().progress.back(),
+              "Setting up Zone=002, Var=005 from Grid 001 in .../0123456789.later");
+}
+
 TEST_F(FileSetSetup, LeavesTheDataSetsItemsToTheFirstTimeStep) {
     Plot3DFile_s& x = write("x", describeGrid(oneGrid));
     FileDescription_s later = solutionAt(oneGrid, 2);

@@ -1,5 +1,7 @@
 #include "dataset/Scalars.h"
 
+#include <filesystem>
+
 #include "DatasetFixture.h"
 #include "dataset/ItemContext.h"
 #include "plot3dfile/FortranRecords.h"
@@ -102,6 +104,46 @@ TEST_F(Scalars, OfSwiftEndWithTheirOwn) {
     loadWith(solution);
     EXPECT_EQ(item(1, "OMAR"), "0.125");
     EXPECT_EQ(itemOfDataSet("OMAR"), "(none)");
+}
+
+class ScalarsOfLaterFiles : public Scalars {
+protected:
+    bool loadBoth(Plot3DFile_s& first, Plot3DFile_s& later) {
+        Plot3DFile_s& grid = write("x", describeGrid({{2, 3, 5}}));
+        return load({step(&grid, &first), step(&grid, &later)});
+    }
+};
+
+TEST_F(ScalarsOfLaterFiles, OfOverflowAreThoseOfAScan) {
+    for (const FileForm_s& form : {fortran(ByteOrder_e::Big, Precision_e::Double), binary()}) {
+        const FileDescription_s solution = overflow({{2, 3, 5}}, 3);
+        ASSERT_TRUE(loadBoth(write("q1", solution, form), write("q2", solution, form)));
+        EXPECT_EQ(zone(2).auxData, zone(1).auxData);
+        EXPECT_EQ(item(2, "I"), "7");
+        EXPECT_EQ(item(2, "G3"), "1.3");
+        EXPECT_EQ(zone(2).solutionTime, 0.75);
+    }
+}
+
+TEST_F(ScalarsOfLaterFiles, OfSwiftAreThoseOfAScan) {
+    FileDescription_s solution =
+        describeSolution({{2, 3, 5}}, 0.5, Layout_e::ThreeDWhole, FileKind_e::SwiftSolution);
+    solution.scalars[0].push_back(0.125);
+    ASSERT_TRUE(loadBoth(write("q1", solution), write("q2", solution)));
+    EXPECT_EQ(item(2, "OMAR"), "0.125");
+    EXPECT_EQ(zone(2).auxData, zone(1).auxData);
+}
+
+// The later file breaks off behind its first gamma: neither that nor its fields are looked at.
+TEST_F(ScalarsOfLaterFiles, OfOverflowMayLackGammas) {
+    const FileDescription_s solution = overflow({{2, 3, 5}}, 3);
+    Plot3DFile_s& later = write("q2", solution);
+    constexpr std::uintmax_t header = 5 * 4;
+    std::filesystem::resize_file(later.fileName.str(), header + 12 * 4);
+    ASSERT_TRUE(loadBoth(write("q1", solution), later));
+    EXPECT_EQ(item(2, "G1"), "1.1");
+    EXPECT_EQ(item(2, "G2"), "(none)");
+    EXPECT_EQ(messages(), Texts());
 }
 
 /// One zone, and a record whose numbers are all read as scalars.

@@ -1,6 +1,7 @@
 #include "dataset/ZoneCreation.h"
 
 #include "DatasetFixture.h"
+#include "dataset/CurrentTask.h"
 #include "dataset/Plot3DVarRepo.h"
 
 using namespace quorvia;
@@ -163,11 +164,9 @@ TEST_F(ZoneCreation, AsksTheHostForTypesOfTheFiles) {
 
 TEST_F(ZoneCreation, RefusesZonesBeyondTheHighestNumber) {
     makeDataSet({"X", "Y", "Z"});
-    firstNewZone = maximumZoneNumber;
     TimeSteps steps = {step(&grid("x", {{2, 3, 5}, {2, 3, 5}}))};
     selectGrids({2});
-    firstNewZone = maximumZoneNumber;
-    ++firstNewZone;
+    firstNewZone = maximumZoneNumber + 1;
     EXPECT_FALSE(addZones(steps));
     EXPECT_EQ(messages(), Texts{"Failed to load grid 0 from " + options.gridFiles[0] +
                                 "\nMaximum number of zones is 2147483646."});
@@ -235,6 +234,13 @@ TEST_F(ExistingZones, BeyondTheFilesAreDeletedAndTheOthersRenamed) {
     EXPECT_EQ(zoneNames(), (Texts{"q:1", "q:2"}));
 }
 
+TEST_F(ExistingZones, ThatAreDeletedAreAnnounced) {
+    const Plot3DFileHandler handler = step(nullptr, &solution("q", two));
+    currentTask = createTaskProgressBar(1);
+    adjustExistingZones(2, handler, options, existingZoneCount);
+    EXPECT_EQ(host().log().progress, Texts{"Adjusting existing zones"});
+}
+
 TEST_F(ExistingZones, TakeTheNamesOfSelectedGrids) {
     selectGrids({2, 4});
     const Plot3DFileHandler handler = step(nullptr, &solution("q", fourGrids));
@@ -268,6 +274,31 @@ TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
     EXPECT_EQ(values(1, 4), fieldOf(q, 0, 0));
     EXPECT_EQ(zone(1).solutionTime, 0.5);
     EXPECT_EQ(membersOf(zonesAdded.get()), std::vector<std::int64_t>());
+}
+
+TEST_F(ExistingZones, GetTheNewSolutionOfATextInPlaceOfTheirValues) {
+    const FileDescription_s q = describeSolution(oneGrid, 0.5);
+    TimeSteps steps = {step(nullptr, &write("q", q, text()))};
+    numSolutionVars = 5;
+    ASSERT_TRUE(addZones(steps));
+    EXPECT_EQ(values(1, 8), fieldOf(q, 0, 4));
+}
+
+// Appended beside the zones that are there, a solution of nodes takes elements and grid of those of
+// the last time step.
+TEST_F(ExistingZones, LendNodeMapAndGridToASolutionThatIsAppendedBesideThem) {
+    makeElementZone(11, 5, 8);
+    TimeSteps steps = {
+        step(nullptr, &write("q", describeSolution({{11, 5, 0}}, 1, Layout_e::Unstructured)))};
+    options.append = true;
+    numSolutionVars = 5;
+    existingZoneCount = 4;
+    firstNewZone = 5;
+    ASSERT_TRUE(addZones(steps));
+    EXPECT_EQ(zone(5).j, 5);
+    EXPECT_EQ(host().frame().dataSet()->nodeMapHolders()[4], 4);
+    EXPECT_EQ(sharedWith(5, 3), 4);
+    EXPECT_EQ(sharedWith(5, 4), 5);
 }
 
 TEST_F(ExistingZones, LendTheirGridToLaterTimeStepsOfASolution) {
