@@ -1,9 +1,9 @@
-// What a PLOT3D file may look like: one parser for each of the 1-D, 2-D, 3-D and unstructured layouts.
-// Without a receiver a parser judges: it reads the header by the structure that stands in the record,
-// applies every plausibility test, fills `numGrids`, `numVars`, `numScalars`, `numSpecies` and
-// `gridDims`, and reports nothing. With a receiver it walks: it hands every item of every grid, in file
-// order, to the receiver. A parser begins by rewinding the open file and leaves the stream where it
-// stopped. docs/format.md tells the layouts.
+// What a PLOT3D file may look like: one parser for each of the 1-D, 2-D, 3-D and unstructured
+// layouts. Without a receiver a parser judges: it reads the header by the structure that stands in
+// the record, applies every plausibility test, fills `numGrids`, `numVars`, `numScalars`,
+// `numSpecies` and `gridDims`, and reports nothing. With a receiver it walks: it hands every item
+// of every grid, in file order, to the receiver. A parser begins by rewinding the open file and
+// leaves the stream where it stopped. docs/format.md tells the layouts.
 #pragma once
 
 #include <cstdint>
@@ -20,14 +20,14 @@ enum Plot3DItemKind_e : std::int32_t {
     Plot3DItem_Connectivity = 3
 };
 
-constexpr std::int32_t wholeField = -1;  // `plane` of a field that is stored as one block
-constexpr std::int32_t noPlane = -999;   // `plane` of scalars and of unstructured data
+constexpr std::int32_t wholeField = -1; // `plane` of a field that is stored as one block
+constexpr std::int32_t noPlane = -999;  // `plane` of scalars and of unstructured data
 
 /// Takes one item, with the stream at its first value. `grid` counts the grids of the file from 0;
-/// `zone` counts the selected ones from 0 and keeps its value (-1 at first) across others; `include`
-/// says whether this grid is selected. The item must be consumed in any case, since the stream moves
-/// on only by what is read. `varIndex` counts from 0; of I-blank it is numVars. `plane`: wholeField,
-/// noPlane, or the K plane's index from 0 in 3-D Planes. False stops the walk.
+/// `zone` counts the selected ones from 0 and keeps its value (-1 at first) across others;
+/// `include` says whether this grid is selected. The item must be consumed in any case, since the
+/// stream moves on only by what is read. `varIndex` counts from 0; of I-blank it is numVars.
+/// `plane`: wholeField, noPlane, or the K plane's index from 0 in 3-D Planes. False stops the walk.
 using Plot3DItemCallback = bool (*)(Plot3DFile_s& file, Plot3DItemKind_e kind, std::int32_t grid,
                                     std::int32_t zone, bool include, std::int32_t varIndex,
                                     std::int32_t plane, bool report, void* clientData);

@@ -10,8 +10,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// The next integer, 32 bits. False: none can be read; `value` is 0 then, unless digits came before
-/// a failure that the token rules name. Nothing is reported; text that overflows 32 bits wraps.
+/// The next integer, 32 bits. False: none can be read; `value` is 0 then. Nothing is reported; text
+/// that overflows 32 bits wraps.
 bool readInteger(Plot3DFile_s& file, std::int32_t& value);
 
 /// The next real, in binary files of the file's precision, always delivered as 64 bits. False: none

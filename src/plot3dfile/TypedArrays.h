@@ -27,8 +27,9 @@ bool readBytesAcrossSegments(FileStream& stream, std::uint32_t markerSize,
                              const std::vector<std::int64_t>& segmentBoundaries,
                              Plot3DEncoding_e encoding, void* destination, std::int64_t byteCount);
 
-/// The same for a block of numbers of `width` bytes each, delivered in the machine's byte order:
-/// one positioned read, with the bytes reversed while they are still in the cache.
+/// The same for a block of numbers of `width` bytes each, delivered in the machine's byte order. In
+/// that order the block is one read; in the other it comes in pieces of 256 KiB, so that the bytes
+/// are reversed while they are still in the cache.
 bool readNumbersAcrossSegments(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
                                const std::vector<std::int64_t>& segmentBoundaries,
                                Plot3DEncoding_e encoding, std::int64_t width,
