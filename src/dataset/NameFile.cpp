@@ -1,5 +1,6 @@
 #include "dataset/NameFile.h"
 
+#include <memory>
 #include <new>
 #include <string_view>
 

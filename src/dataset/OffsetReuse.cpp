@@ -1,6 +1,5 @@
 // Later file sets: grids shared with the first one, and fields registered at the positions that the
 // scan of the first file noted.
-#include <limits>
 #include <optional>
 
 #include "dataset/FileSetSetup.h"
