@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "sdk/HostState.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 

@@ -3,8 +3,8 @@
 #include <exception>
 #include <utility>
 
-#include "sdk/GuestWatch.h"
-#include "sdk/HostState.h"
+#include "checks/GuestWatch.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 
@@ -54,6 +54,10 @@ bool GuestDeferral::mayUnload(FieldStorage& storage) {
         return true;
     const QuorFieldHandle handle = handleFor(storage.weak_from_this());
     return callGuest("unload", [&] { return callbacks_.unload(handle); });
+}
+
+const void* GuestDeferral::code() const {
+    return reinterpret_cast<const void*>(callbacks_.load);
 }
 
 QuorFieldHandle GuestDeferral::handleFor(std::weak_ptr<FieldStorage> storage) {

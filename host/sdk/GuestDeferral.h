@@ -27,7 +27,7 @@ public:
     bool load(FieldStorage& storage) override;
     bool mayUnload(FieldStorage& storage) override;
 
-    const FieldCallbacks& callbacks() const { return callbacks_; }
+    const void* code() const override;
 
 private:
     QuorFieldHandle handleFor(std::weak_ptr<FieldStorage> storage);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "sdk/HostState.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 

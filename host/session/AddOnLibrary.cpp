@@ -5,9 +5,8 @@
 
 #include <dlfcn.h>
 
-#include "sdk/GuestDeferral.h"
-#include "sdk/GuestWatch.h"
-#include "sdk/HostState.h"
+#include "checks/GuestWatch.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 
@@ -33,9 +32,8 @@ const void* libraryOf(Result (*function)(Arguments...)) {
 }
 
 bool comesFrom(const FieldStorage* storage, const void* library) {
-    const auto* deferral =
-        storage != nullptr ? dynamic_cast<const GuestDeferral*>(storage->deferral()) : nullptr;
-    return deferral != nullptr && libraryOf(deferral->callbacks().load) == library;
+    return storage != nullptr && storage->isDeferred() &&
+           libraryOf(storage->deferral()->code()) == library;
 }
 
 void emptyFieldsOf(const DataSet* data, const void* library) {

@@ -4,8 +4,8 @@
 #include <new>
 #include <optional>
 
-#include "sdk/GuestWatch.h"
-#include "sdk/HostState.h"
+#include "checks/GuestWatch.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 

@@ -3,8 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
-#include "sdk/GuestWatch.h"
-#include "sdk/HostState.h"
+#include "checks/GuestWatch.h"
+#include "checks/HostState.h"
 #include "session/Import.h"
 
 namespace quorvia::host {

@@ -1,10 +1,10 @@
-#include "sdk/GuestWatch.h"
+#include "checks/GuestWatch.h"
 
 #include <map>
 #include <string>
 #include <utility>
 
-#include "sdk/HostState.h"
+#include "checks/HostState.h"
 
 namespace quorvia::host {
 

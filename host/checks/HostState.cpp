@@ -1,4 +1,4 @@
-#include "sdk/HostState.h"
+#include "checks/HostState.h"
 
 #include <utility>
 
