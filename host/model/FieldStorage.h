@@ -26,8 +26,9 @@ public:
     virtual bool load(FieldStorage& storage) = 0;
     /// Whether the array may be dropped; `load` may be called again afterwards.
     virtual bool mayUnload(FieldStorage& storage) = 0;
-    /// An address in the code that fills the field; the field ends before that code is unloaded.
-    virtual const void* code() const = 0;
+    /// An address in the code that fills the field, which must end before that code is unloaded;
+    /// null if the code always stays.
+    virtual const void* code() const { return nullptr; }
 };
 
 class FieldStorage : public std::enable_shared_from_this<FieldStorage> {
