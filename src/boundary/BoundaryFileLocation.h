@@ -5,8 +5,9 @@
 
 namespace quorvia::quorutildataio {
 
-/// Looks for the first grid file's whole name with ".fvbnd", then ".FVBND", appended, and stores the
-/// one that opens in `boundaryFile`. False: there is none, or no grid file; `boundaryFile` is empty.
+/// Looks for the first grid file's whole name with ".fvbnd", then ".FVBND", appended, and stores
+/// the one that opens in `boundaryFile`. False: there is none, or no grid file; `boundaryFile` is
+/// empty.
 bool findBoundaryFile(Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio
