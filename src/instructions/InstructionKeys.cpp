@@ -8,21 +8,12 @@
 #include "instructions/IndexRangeText.h"
 #include "instructions/InstructionStrings.h"
 #include "instructions/InstructionWords.h"
+#include "instructions/OlderInstructions.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
-
-bool fetchValue(InstructionParse_s& parse) {
-    constexpr bool reportMissing = true;
-    return nextInstructionString(parse.current, parse.instructions, parse.index, reportMissing);
-}
-
-/// An empty name is refused without a message.
-bool fetchName(InstructionParse_s& parse) {
-    return fetchValue(parse) && !parse.current.view().empty();
-}
 
 template <bool Plot3DLoadOptions_s::*flag>
 bool readFlag(InstructionParse_s& parse) {
@@ -44,18 +35,20 @@ bool readAssignStrandIds(InstructionParse_s& parse) {
 /// A word that stands for no style is refused without a message.
 bool readStyle(InstructionParse_s& parse) {
     parse.styleSeen = true;
-    return fetchValue(parse) && findValue(styleWords, parse.current.get(), parse.options.style);
+    return fetchInstructionValue(parse) &&
+           findValue(styleWords, parse.current.get(), parse.options.style);
 }
 
 /// A word that stands for no layout is refused without a message.
 bool readDataStructure(InstructionParse_s& parse) {
     parse.dataStructureSeen = true;
-    return fetchValue(parse) &&
+    return fetchInstructionValue(parse) &&
            findValue(dataStructureWords, parse.current.get(), parse.options.dataStructure);
 }
 
 bool readRange(InstructionParse_s& parse, Plot3DIndexRange_s& range, const char* label) {
-    return fetchValue(parse) && parseIndexRange(parse.current.view().data(), range, label);
+    return fetchInstructionValue(parse) &&
+           parseIndexRange(parse.current.view().data(), range, label);
 }
 
 bool readIRange(InstructionParse_s& parse) {
@@ -73,7 +66,7 @@ bool readKRange(InstructionParse_s& parse) {
 
 bool readGridSet(InstructionParse_s& parse) {
     constexpr bool withBrackets = true;
-    if (!fetchValue(parse))
+    if (!fetchInstructionValue(parse))
         return false;
     HostSet set;
     const bool isGood = parseSetText(parse.current.view().data(), set, !withBrackets);
@@ -89,10 +82,10 @@ bool readGridSet(InstructionParse_s& parse) {
 bool readFileList(InstructionParse_s& parse, std::vector<std::string>& files) {
     files.clear();
     std::int32_t count = 0;
-    if (!fetchValue(parse) || !parseCount(parse.current.str(), count))
+    if (!fetchInstructionValue(parse) || !parseCount(parse.current.str(), count))
         return false;
     for (; count > 0; --count) {
-        if (!fetchName(parse))
+        if (!fetchInstructionName(parse))
             return false;
         files.push_back(trimFileName(parse.current.str()));
     }
@@ -115,20 +108,34 @@ bool readFunctionFiles(InstructionParse_s& parse) {
 
 bool readNameFile(InstructionParse_s& parse) {
     parse.options.hasNameFile = true;
-    if (!fetchName(parse))
+    if (!fetchInstructionName(parse))
         return false;
     parse.options.nameFile = parse.current.str();
     return true;
 }
 
-/// Stands where the switches of older layouts and macros will be read: until then a list that uses
-/// one must not load as something else.
-bool refuseOlderInstruction(InstructionParse_s& parse) {
-    const std::string text =
-        "Error in PLOT3D loader instructions.\nThis version cannot read the older instruction: " +
-        parse.current.str();
-    QuorUtilDialogErrMsg(text.c_str());
-    return false;
+/// A switch that no longer means anything.
+bool skipSwitch(InstructionParse_s& /*parse*/) {
+    return true;
+}
+
+// The switches below do not stand in for the tags that a standard list needs: `...Seen` stays.
+
+template <bool Plot3DLoadOptions_s::*flag>
+bool setFlag(InstructionParse_s& parse) {
+    parse.options.*flag = true;
+    return true;
+}
+
+template <Plot3DDataStructure_e dataStructure>
+bool setDataStructure(InstructionParse_s& parse) {
+    parse.options.dataStructure = dataStructure;
+    return true;
+}
+
+bool setFunctionStyle(InstructionParse_s& parse) {
+    parse.options.style = Plot3DStyle_Function;
+    return true;
 }
 
 using Options = Plot3DLoadOptions_s;
@@ -158,31 +165,40 @@ constexpr InstructionKey_s keys[] = {
     {"EXTRACTTIMEFROMSOLFILENAMES", readFlag<&Options::extractTimeFromSolFileNames>},
 
     // Of older layouts and macros.
-    {"FILELIST_DATAFILES", refuseOlderInstruction},
-    {"FILENAME_GRIDFILE", refuseOlderInstruction},
-    {"-GF", refuseOlderInstruction},
-    {"-SF", refuseOlderInstruction},
-    {"-NF", refuseOlderInstruction},
-    {"-KSET", refuseOlderInstruction},
-    {"-JSET", refuseOlderInstruction},
-    {"-ISET", refuseOlderInstruction},
-    {"-M", refuseOlderInstruction},
-    {"-I", refuseOlderInstruction},
-    {"-1D", refuseOlderInstruction},
-    {"-2D", refuseOlderInstruction},
-    {"-3DP", refuseOlderInstruction},
-    {"-3DW", refuseOlderInstruction},
-    {"-UNSTRUCTURED", refuseOlderInstruction},
-    {"-FUNCTION", refuseOlderInstruction},
-    {"-FOREIGN", refuseOlderInstruction},
-    {"-IP", refuseOlderInstruction},
-    {"-JP", refuseOlderInstruction},
-    {"-KP", refuseOlderInstruction},
-    {"-B", refuseOlderInstruction},
-    {"-F", refuseOlderInstruction},
+    {"FILELIST_DATAFILES", readDataFiles},
+    {"FILENAME_GRIDFILE", readOneGridFile},
+    {"-GF", readOneGridFile},
+    {"-SF", readOneSolutionFile},
+    {"-NF", readNameFile},
+    {"-KSET", readKRange},
+    {"-JSET", readJRange},
+    {"-ISET", readIRange},
+    {"-M", setFlag<&Options::isMultiGrid>},
+    {"-I", setFlag<&Options::asciiHasIBlank>},
+    {"-1D", setDataStructure<Plot3DDataStructure_1D>},
+    {"-2D", setDataStructure<Plot3DDataStructure_2D>},
+    {"-3DP", setDataStructure<Plot3DDataStructure_3DPlanes>},
+    {"-3DW", setDataStructure<Plot3DDataStructure_3DWhole>},
+    {"-UNSTRUCTURED", setDataStructure<Plot3DDataStructure_Unstructured>},
+    {"-FUNCTION", setFunctionStyle},
+    {"-FOREIGN", skipSwitch},
+    {"-IP", skipSwitch},
+    {"-JP", skipSwitch},
+    {"-KP", skipSwitch},
+    {"-B", skipSwitch},
+    {"-F", skipSwitch},
 };
 
 } // namespace
+
+bool fetchInstructionValue(InstructionParse_s& parse) {
+    constexpr bool reportMissing = true;
+    return nextInstructionString(parse.current, parse.instructions, parse.index, reportMissing);
+}
+
+bool fetchInstructionName(InstructionParse_s& parse) {
+    return fetchInstructionValue(parse) && !parse.current.view().empty();
+}
 
 const InstructionKey_s* findInstructionKey(const char* word) {
     const auto* found = std::find_if(std::begin(keys), std::end(keys), [word](const auto& key) {

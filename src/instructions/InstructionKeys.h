@@ -29,6 +29,12 @@ struct InstructionKey_s {
     bool (*read)(InstructionParse_s& parse);
 };
 
+/// Fetches the value that is due. False: the list has ended (told).
+bool fetchInstructionValue(InstructionParse_s& parse);
+
+/// The same for a name; an empty one is refused without a message.
+bool fetchInstructionName(InstructionParse_s& parse);
+
 /// Finds a key, whatever its case. Null: `word` (which may be null) is no key.
 const InstructionKey_s* findInstructionKey(const char* word);
 

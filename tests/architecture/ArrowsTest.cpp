@@ -19,7 +19,7 @@ using Arrows = std::map<std::string, std::set<std::string>>;
 const Arrows sourceArrows = {
     {"addon/sdk", {}},
     {"dialog/filenames", {"addon/sdk"}},
-    {"instructions", {"addon/sdk"}},
+    {"instructions", {"addon/sdk", "dialog/filenames"}},
     {"addon/state", {"addon/sdk", "instructions"}},
     {"plot3dfile", {"addon/sdk", "instructions"}},
     {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},

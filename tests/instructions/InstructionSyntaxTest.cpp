@@ -125,23 +125,5 @@ TEST_F(InstructionSyntax, IsRefusedSilentlyIfTheHostHasNoMemoryForAString) {
     }
 }
 
-class OlderInstruction : public testsupport::ParserTest,
-                         public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(OlderInstruction, IsRefusedWithAMessageInBothSyntaxes) {
-    const std::string fault = "Error in PLOT3D loader instructions.\n"
-                              "This version cannot read the older instruction: " +
-                              std::string(GetParam());
-    EXPECT_FALSE(parse({GetParam(), "1", "a.x"}));
-    EXPECT_EQ(messages(), Texts{fault});
-    EXPECT_EQ(faultOf({GetParam(), "1", "a.x"}), fault);
-}
-
-INSTANTIATE_TEST_SUITE_P(Words, OlderInstruction,
-                         ::testing::Values("FILELIST_DATAFILES", "FILENAME_GRIDFILE", "-GF", "-SF",
-                                           "-NF", "-KSET", "-JSET", "-ISET", "-M", "-I", "-1D",
-                                           "-2D", "-3DP", "-3DW", "-UNSTRUCTURED", "-FUNCTION",
-                                           "-FOREIGN", "-IP", "-JP", "-KP", "-B", "-F", "-3dw"));
-
 } // namespace
 } // namespace quorvia::quorutildataio
