@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "checks/HostState.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

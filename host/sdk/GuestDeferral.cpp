@@ -3,8 +3,8 @@
 #include <exception>
 #include <utility>
 
-#include "checks/GuestWatch.h"
-#include "checks/HostState.h"
+#include "state/GuestWatch.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

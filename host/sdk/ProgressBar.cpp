@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "checks/HostState.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

@@ -5,8 +5,8 @@
 
 #include <dlfcn.h>
 
-#include "checks/GuestWatch.h"
-#include "checks/HostState.h"
+#include "state/GuestWatch.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

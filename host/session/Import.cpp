@@ -4,8 +4,8 @@
 #include <new>
 #include <optional>
 
-#include "checks/GuestWatch.h"
-#include "checks/HostState.h"
+#include "state/GuestWatch.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

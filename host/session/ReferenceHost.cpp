@@ -3,8 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
-#include "checks/GuestWatch.h"
-#include "checks/HostState.h"
+#include "state/GuestWatch.h"
+#include "state/HostState.h"
 #include "session/Import.h"
 
 namespace quorvia::host {

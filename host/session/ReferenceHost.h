@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "model/Frame.h"
-#include "session/HostLog.h"
-#include "session/HostSettings.h"
+#include "state/HostLog.h"
+#include "state/HostSettings.h"
 
 namespace quorvia::host {
 

@@ -23,7 +23,7 @@ const Arrows sourceArrows = {
     {"addon/state", {"addon/sdk", "instructions"}},
     {"plot3dfile", {"addon/sdk", "instructions"}},
     {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},
-    {"boundary", {"addon/sdk", "instructions", "plot3dfile"}},
+    {"boundary", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset"}},
     {"loader", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset", "boundary"}},
     {"addon",
      {"addon/sdk", "addon/state", "instructions", "dialog/filenames", "boundary", "loader"}},
@@ -31,11 +31,12 @@ const Arrows sourceArrows = {
 
 const Arrows hostArrows = {
     {"model", {"addon/sdk"}},
-    {"checks", {"addon/sdk", "model", "session"}},
-    {"sdk", {"addon/sdk", "model", "checks", "session"}},
-    {"session", {"addon/sdk", "model", "checks"}},
-    {"describe", {"addon/sdk", "model", "session"}},
-    {"app", {"addon/sdk", "model", "session", "describe"}},
+    {"checks", {"addon/sdk", "model"}},
+    {"state", {"addon/sdk", "model", "checks"}},
+    {"sdk", {"addon/sdk", "model", "checks", "state"}},
+    {"session", {"addon/sdk", "model", "checks", "state"}},
+    {"describe", {"addon/sdk", "model", "state", "session"}},
+    {"app", {"addon/sdk", "model", "state", "session", "describe"}},
 };
 
 const Arrows toolArrows = {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "session/HostLog.h"
+#include "state/HostLog.h"
 
 namespace quorvia::host {
 

@@ -1,10 +1,10 @@
-#include "checks/GuestWatch.h"
+#include "state/GuestWatch.h"
 
 #include <map>
 #include <string>
 #include <utility>
 
-#include "checks/HostState.h"
+#include "state/HostState.h"
 
 namespace quorvia::host {
 

@@ -13,8 +13,8 @@
 #include "checks/Transcript.h"
 #include "model/FieldCache.h"
 #include "model/Frame.h"
-#include "session/HostLog.h"
-#include "session/HostSettings.h"
+#include "state/HostLog.h"
+#include "state/HostSettings.h"
 
 namespace quorvia::host {
 

@@ -1,4 +1,4 @@
-#include "checks/HostState.h"
+#include "state/HostState.h"
 
 #include <utility>
 
