@@ -26,6 +26,22 @@ constexpr const char* kExamples =
     "  1  refused, failed or interrupted\n"
     "  2  bad usage\n";
 
+constexpr const char* kMacroNotes =
+    "FILE holds {\"commands\": [...]} with one object for each command: select, instructions,\n"
+    "replay, answers, host, dataSet, interruptAtStep, fail, stateChange, fetch, unload,\n"
+    "deleteZones, resetFrame, describe. docs/macros.md tells them all.\n"
+    "\n"
+    "Examples:\n"
+    "  quorhost macro session.json\n"
+    "      plays the session and shows what each command did and what is there at the end\n"
+    "  quorhost macro session.json --yes --json outcome.json\n"
+    "      answers every question with OK or Yes, and writes each outcome for a program\n"
+    "\n"
+    "Exit codes:\n"
+    "  0  played, and the last load came in, or there was none\n"
+    "  1  the last load was refused, failed or interrupted, or a command can't be carried out\n"
+    "  2  bad usage, or a bad macro, of which nothing was played\n";
+
 /// The options before they are checked.
 struct RawLoad_s {
     LoadArguments_s load;
@@ -73,6 +89,12 @@ void describeInput(CLI::App& app, RawLoad_s& raw) {
                   "One more instruction behind the file lists,\ne.g. AUTODETECT=No; repeatable");
 }
 
+void addAddOn(CLI::App& app, std::string& path) {
+    app.add_option("--addon", path,
+                   "Another add-on library (default:\n../lib/plot3dloader.so from the program)")
+        ->type_name("PATH");
+}
+
 void describeHost(CLI::App& app, RawLoad_s& raw) {
     app.add_flag("--yes", raw.load.answerYes,
                  "Answer every question with OK or Yes\n(default: Cancel or No, and say so)");
@@ -83,9 +105,7 @@ void describeHost(CLI::App& app, RawLoad_s& raw) {
         ->type_name("SIZE");
     app.add_flag("--no-values", raw.withoutValues,
                  "Do not fetch the fields (default: fetch all,\nfor ranges and checksums)");
-    app.add_option("--addon", raw.load.addOnPath,
-                   "Another add-on library (default:\n../lib/plot3dloader.so from the program)")
-        ->type_name("PATH");
+    addAddOn(app, raw.load.addOnPath);
 }
 
 void describeOutput(CLI::App& app, RawLoad_s& raw) {
@@ -102,6 +122,18 @@ void describeLoad(CLI::App& app, RawLoad_s& raw) {
     describeHost(app, raw);
     describeOutput(app, raw);
     app.footer(kExamples);
+}
+
+void describeMacro(CLI::App& app, MacroArguments_s& macro) {
+    app.add_option("FILE", macro.file, "The macro, as JSON")->required()->option_text(" ");
+    app.add_option("--json", macro.jsonFile,
+                   "Write every outcome as JSON; - is standard\noutput, in place of the account")
+        ->type_name("FILE");
+    app.add_flag("--yes", macro.answerYes,
+                 "Answer the questions behind the macro's own\nanswers with OK or Yes (default: "
+                 "Cancel or No)");
+    addAddOn(app, macro.addOnPath);
+    app.footer(kMacroNotes);
 }
 
 [[noreturn]] void refuse(const std::string& what) {
@@ -155,7 +187,9 @@ ExitCode_e tellParseEnd(const CLI::App& app, const CLI::ParseError& end, std::os
     }
     std::string text = end.what();
     std::replace(text.begin(), text.end(), '\n', ' ');
-    err << fmt::format("quorhost: error: {}\nquorhost load --help tells more.\n", text);
+    const auto chosen = app.get_subcommands();
+    err << fmt::format("quorhost: error: {}\nquorhost {} --help tells more.\n", text,
+                       chosen.empty() ? "load" : chosen.front()->get_name());
     return ExitCode_e::BadUsage;
 }
 
@@ -169,12 +203,18 @@ Command parseCommandLine(const std::vector<std::string>& arguments, std::ostream
     app.get_formatter()->column_width(26);
     app.footer(kExamples);
     RawLoad_s raw;
+    MacroArguments_s macro;
     describeLoad(*app.add_subcommand("load", "Load one data set and tell how it came out"), raw);
+    const CLI::App* macroCommand =
+        app.add_subcommand("macro", "Play a session of several loads from a file");
+    describeMacro(*app.get_subcommand("macro"), macro);
     try {
         // The parser takes arguments from the back.
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         if (app.get_subcommands().empty())
-            refuse("nothing to do: give the command load");
+            refuse("nothing to do: give the command load or macro");
+        if (macroCommand->parsed())
+            return macro;
         return checkedLoad(raw);
     } catch (const CLI::ParseError& end) {
         return tellParseEnd(app, end, out, err);

@@ -7,17 +7,18 @@
 #include <vector>
 
 #include "app/LoadArguments.h"
+#include "app/MacroArguments.h"
 
 namespace quorvia::host {
 
 enum class ExitCode_e : int {
     Done = 0,     // loaded; help or version was shown
     Failed = 1,   // refused, failed or interrupted
-    BadUsage = 2, // the command line can't be carried out
+    BadUsage = 2, // the command line or the macro can't be carried out
 };
 
 /// One alternative for each subcommand, or the exit code if there is nothing left to do.
-using Command = std::variant<LoadArguments_s, ExitCode_e>;
+using Command = std::variant<LoadArguments_s, MacroArguments_s, ExitCode_e>;
 
 /// `arguments` are those behind the program's name. Help and version go to `out`; what is wrong
 /// with the command line goes to `err`, in one line and a hint.

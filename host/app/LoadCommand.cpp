@@ -1,16 +1,14 @@
 #include "app/LoadCommand.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <ostream>
 
 #include <fmt/core.h>
 
+#include "app/HostSession.h"
 #include "app/InterruptOnSignal.h"
+#include "app/Output.h"
 #include "describe/GatherOutcome.h"
 #include "describe/Json.h"
 #include "describe/Table.h"
@@ -19,47 +17,6 @@
 
 namespace quorvia::host {
 namespace {
-
-/// The library that is built with this program lies beside it, wherever both are moved.
-std::string defaultAddOnPath() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (program.parent_path().parent_path() / "lib" / "plot3dloader.so").string();
-}
-
-/// As a path of a file: a name without a directory would be searched among the system's libraries.
-std::string addOnPath(const LoadArguments_s& arguments) {
-    return arguments.addOnPath.empty() ? defaultAddOnPath()
-                                       : std::filesystem::absolute(arguments.addOnPath).string();
-}
-
-/// The host lives as long as the program; what one run set up there must not outlive the run.
-class CleanHost {
-public:
-    CleanHost() { host().reset(); }
-    ~CleanHost() { host().reset(); }
-    CleanHost(const CleanHost&) = delete;
-    CleanHost& operator=(const CleanHost&) = delete;
-
-    static ReferenceHost& host() { return ReferenceHost::instance(); }
-};
-
-void setUpHost(ReferenceHost& host, const LoadArguments_s& arguments, const Console_s& console,
-               ProgressLine& progress) {
-    host.setAnswers({}, arguments.answerYes);
-    HostSettings& settings = host.settings();
-    settings.memoryLimitBytes = arguments.memoryLimitBytes;
-    settings.progressObserver = [&progress](const ProgressState& state) {
-        if (state.open)
-            progress.show(state.fraction, state.text);
-        else
-            progress.clear();
-    };
-    settings.messageObserver = [&progress, &console](const Message& message) {
-        progress.clear();
-        tellMessage(console.err, describeMessage(message));
-    };
-}
 
 LoadResult importData(ReferenceHost& host, const LoadArguments_s& arguments) {
     if (arguments.usesInstructions())
@@ -98,7 +55,7 @@ Run_s carryOut(ReferenceHost& host, const LoadArguments_s& arguments, ProgressLi
     const InterruptOnSignal interrupt;
     LoadResult result;
     const std::unique_ptr<AddOnLibrary> library =
-        AddOnLibrary::open(addOnPath(arguments), result.hostError);
+        AddOnLibrary::open(addOnPath(arguments.addOnPath), result.hostError);
     if (library)
         result = importData(host, arguments);
     Run_s run{describeOutcome(host, result), result.interrupted};
@@ -131,24 +88,10 @@ void tellProblems(const Run_s& run, std::ostream& err) {
         err << fmt::format("quorhost: contract violation: {}\n", violation);
 }
 
-bool writeJson(const Outcome_s& outcome, const std::string& file, const Console_s& console) {
-    errno = 0;
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out << toJson(outcome);
-    out.close();
-    if (out)
-        return true;
-    tellError(console.err, fmt::format("{}: the JSON can't be written: {}", file,
-                                       errno != 0 ? std::strerror(errno) : "unknown failure"));
-    return false;
-}
-
 /// False if it could not be written.
 bool printResults(const LoadArguments_s& arguments, const Outcome_s& outcome,
                   const Console_s& console) {
-    if (arguments.jsonToOutput())
-        console.out << toJson(outcome);
-    else if (!arguments.jsonFile.empty() && !writeJson(outcome, arguments.jsonFile, console))
+    if (!arguments.jsonFile.empty() && !writeJson(toJson(outcome), arguments.jsonFile, console))
         return false;
     if (arguments.printInstructions) {
         for (const std::string& instruction : outcome.instructions)
@@ -156,19 +99,16 @@ bool printResults(const LoadArguments_s& arguments, const Outcome_s& outcome,
     } else if (outcome.dataSet && !arguments.jsonToOutput()) {
         printTable(outcome, console.out);
     }
-    console.out.flush();
-    if (!console.out)
-        tellError(console.err, "standard output can't be written");
-    return static_cast<bool>(console.out);
+    return finishOutput(console);
 }
 
 } // namespace
 
 ExitCode_e runLoad(const LoadArguments_s& arguments, const Console_s& console) {
-    const CleanHost clean;
     ProgressLine progress(console);
-    setUpHost(CleanHost::host(), arguments, console, progress);
-    const Run_s run = carryOut(CleanHost::host(), arguments, progress);
+    const HostSession session(console, progress, arguments.memoryLimitBytes);
+    session.host().setAnswers({}, arguments.answerYes);
+    const Run_s run = carryOut(session.host(), arguments, progress);
     progress.clear();
     tellProblems(run, console.err);
     const bool written = printResults(arguments, run.outcome, console);

@@ -5,6 +5,7 @@
 
 #include "app/CommandLine.h"
 #include "app/LoadCommand.h"
+#include "app/MacroCommand.h"
 
 namespace quorvia::host {
 namespace {
@@ -15,6 +16,9 @@ struct CarryOut_s {
 
     ExitCode_e operator()(const LoadArguments_s& arguments) const {
         return runLoad(arguments, console);
+    }
+    ExitCode_e operator()(const MacroArguments_s& arguments) const {
+        return runMacro(arguments, console);
     }
     ExitCode_e operator()(ExitCode_e code) const { return code; }
 };

@@ -1,6 +1,7 @@
 #include "describe/Json.h"
 
 #include <cmath>
+#include <utility>
 
 #include <fmt/core.h>
 #include <nlohmann/json.hpp>
@@ -104,24 +105,40 @@ Json dataSet(const std::optional<DataSetOutcome_s>& told) {
             {"zones", list(told->zones, zone)}};
 }
 
+Json outcomeJson(const Outcome_s& outcome) {
+    return {{"schema", "quorhost.outcome/1"},
+            {"ok", outcome.ok},
+            {"hostError", orNull(outcome.hostError)},
+            {"messages", list(outcome.messages, message)},
+            {"progress", Json(outcome.progress)},
+            {"plotType", wordOf(outcome.plotType)},
+            {"instructions", Json(outcome.instructions)},
+            {"stateChanges", list(outcome.stateChanges, stateChange)},
+            {"undo", list(outcome.undo, undoEvent)},
+            {"redraws", outcome.redraws},
+            {"lockDepth", outcome.lockDepth},
+            {"violations", Json(outcome.violations)},
+            {"dataSet", dataSet(outcome.dataSet)}};
+}
+
+std::string textOf(const Json& json) {
+    constexpr int kIndent = 2;
+    return json.dump(kIndent, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
 } // namespace
 
 std::string toJson(const Outcome_s& outcome) {
-    const Json result = {{"schema", "quorhost.outcome/1"},
-                         {"ok", outcome.ok},
-                         {"hostError", orNull(outcome.hostError)},
-                         {"messages", list(outcome.messages, message)},
-                         {"progress", Json(outcome.progress)},
-                         {"plotType", wordOf(outcome.plotType)},
-                         {"instructions", Json(outcome.instructions)},
-                         {"stateChanges", list(outcome.stateChanges, stateChange)},
-                         {"undo", list(outcome.undo, undoEvent)},
-                         {"redraws", outcome.redraws},
-                         {"lockDepth", outcome.lockDepth},
-                         {"violations", Json(outcome.violations)},
-                         {"dataSet", dataSet(outcome.dataSet)}};
-    constexpr int kIndent = 2;
-    return result.dump(kIndent, ' ', false, Json::error_handler_t::replace) + '\n';
+    return textOf(outcomeJson(outcome));
+}
+
+std::string toJson(const SessionOutcome_s& session) {
+    Json descriptions = Json::object();
+    for (const auto& [name, outcome] : session.descriptions)
+        descriptions[name] = outcomeJson(outcome);
+    return textOf({{"schema", "quorhost.session/1"},
+                   {"descriptions", std::move(descriptions)},
+                   {"final", outcomeJson(session.final)}});
 }
 
 } // namespace quorvia::host

@@ -13,4 +13,8 @@ namespace quorvia::host {
 /// `crc32` of a field are there only if its values were fetched.
 std::string toJson(const Outcome_s& outcome);
 
+/// {"schema", "descriptions", "final"}: the schema is "quorhost.session/1", each description stands
+/// under its name, and every outcome has the form of its own schema.
+std::string toJson(const SessionOutcome_s& session);
+
 } // namespace quorvia::host

@@ -106,4 +106,10 @@ struct Outcome_s {
     std::optional<DataSetOutcome_s> dataSet;
 };
 
+/// How a session of several loads came out.
+struct SessionOutcome_s {
+    std::vector<std::pair<std::string, Outcome_s>> descriptions; // by different names, in order
+    Outcome_s final;                                             // behind its last command
+};
+
 } // namespace quorvia::host

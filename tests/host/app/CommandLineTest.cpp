@@ -26,6 +26,15 @@ protected:
         return code != nullptr ? *code : ExitCode_e::Failed;
     }
 
+    MacroArguments_s macro(const Strings& options) {
+        Strings arguments = {"macro"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const Command command = parseCommandLine(arguments, out, err);
+        EXPECT_TRUE(std::holds_alternative<MacroArguments_s>(command)) << err.str();
+        const auto* found = std::get_if<MacroArguments_s>(&command);
+        return found != nullptr ? *found : MacroArguments_s();
+    }
+
     /// Bad usage whose line on standard error is `expected`.
     void expectRefusal(const std::string& expected, const Strings& arguments) {
         err.str("");
@@ -134,7 +143,7 @@ TEST_F(CommandLine, StandardOutputHoldsOneThing) {
 }
 
 TEST_F(CommandLine, SomethingMustBeDone) {
-    expectRefusal("nothing to do: give the command load", {});
+    expectRefusal("nothing to do: give the command load or macro", {});
 }
 
 TEST_F(CommandLine, UnknownAndMissingWordsAreBadUsage) {
@@ -144,6 +153,35 @@ TEST_F(CommandLine, UnknownAndMissingWordsAreBadUsage) {
           Strings{"load", "--no-values=perhaps", "a.g"}})
         EXPECT_EQ(ExitCode_e::BadUsage, exitCode(arguments));
     EXPECT_EQ("", out.str());
+}
+
+TEST_F(CommandLine, MacroIsOneFileWithoutOptions) {
+    const MacroArguments_s arguments = macro({"[a].json"});
+    EXPECT_EQ("[a].json", arguments.file);
+    EXPECT_EQ("", arguments.jsonFile);
+    EXPECT_EQ("", arguments.addOnPath);
+    EXPECT_FALSE(arguments.answerYes);
+}
+
+TEST_F(CommandLine, OptionsOfAMacroAreTaken) {
+    const MacroArguments_s arguments = macro({"--yes", "a.json", "--json", "-", "--addon", "x.so"});
+    EXPECT_TRUE(arguments.answerYes);
+    EXPECT_TRUE(arguments.jsonToOutput());
+    EXPECT_EQ("x.so", arguments.addOnPath);
+}
+
+TEST_F(CommandLine, MacroNeedsItsFileAndTakesNoSecond) {
+    EXPECT_EQ(ExitCode_e::BadUsage, exitCode({"macro"}));
+    EXPECT_EQ("quorhost: error: FILE is required\nquorhost macro --help tells more.\n", err.str());
+    EXPECT_EQ(ExitCode_e::BadUsage, exitCode({"macro", "a.json", "b.json"}));
+}
+
+TEST_F(CommandLine, HelpOfMacroNamesEveryCommand) {
+    EXPECT_EQ(ExitCode_e::Done, exitCode({"macro", "--help"}));
+    for (const char* part :
+         {"select", "instructions", "replay", "answers", "host", "dataSet", "interruptAtStep",
+          "fail", "stateChange", "fetch", "unload", "deleteZones", "resetFrame", "describe"})
+        EXPECT_NE(std::string::npos, out.str().find(part)) << part;
 }
 
 TEST_F(CommandLine, HelpSaysWhatItIsAndHowItEnds) {
@@ -158,6 +196,7 @@ TEST_F(CommandLine, HelpOfTheProgramNamesItsCommands) {
     EXPECT_EQ(ExitCode_e::Done, exitCode({"--help"}));
     EXPECT_EQ(0U, out.str().find("Loads PLOT3D data sets"));
     EXPECT_NE(std::string::npos, out.str().find("load"));
+    EXPECT_NE(std::string::npos, out.str().find("macro"));
 }
 
 TEST_F(CommandLine, VersionIsOneLine) {

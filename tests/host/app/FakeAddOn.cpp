@@ -123,6 +123,57 @@ bool askFirst() {
     return QuorUtilDialogMessageBox("Shall it be?", QuorMessageBox_YesNo) && loadWell();
 }
 
+/// Stops where the host says so, and where it refuses.
+bool loadInSteps() {
+    auto task = quorvia::createTaskProgressBar(3);
+    for (int step = 1; step <= 3; ++step) {
+        if (task->step())
+            continue;
+        QuorUtilDialogErrMsg(QuorUtilInterruptIsSet() ? "Interrupted by the user."
+                                                      : "A step failed.");
+        return false;
+    }
+    loadDataSet();
+    return true;
+}
+
+/// Tells what of the settings a loader can see.
+bool tellHost() {
+    const std::string text = "sharing " + std::to_string(QuorUtilDataSetIsSharingAllowed()) +
+                             ", plot type " + std::to_string(QuorUtilFrameGetPlotType()) +
+                             ", version " + std::to_string(QuorUtilGetQuorviaVersion());
+    QuorUtilDialogErrMsg(text.c_str());
+    return true;
+}
+
+/// Tells where the values of the first zone's variables stand, if it has any.
+bool tellFields() {
+    std::int32_t zones = 0;
+    std::int32_t variables = 0;
+    QuorUtilDataSetGetInfo(nullptr, &zones, &variables);
+    std::string text;
+    for (std::int32_t variable = 1; variable <= variables; ++variable)
+        text += std::to_string(QuorUtilDataValueGetType(1, variable)) +
+                (QuorUtilDataValueGetLocation(1, variable) == QuorValueLocation_Nodal ? "nodal"
+                                                                                      : "cells") +
+                (QuorUtilDataValueIsPassive(1, variable) ? " passive;" : ";");
+    QuorUtilDialogErrMsg(text.c_str());
+    return true;
+}
+
+/// Tells the times that the host finds for two names.
+bool tellTimes() {
+    quorvia::StringList names;
+    names.append("flow_3.q");
+    names.append("flow_5.q");
+    double times[] = {0, 0};
+    constexpr bool kLast = false;
+    const bool found = QuorUtilExtractTimesFromFileNames(names.getRef(), times, kLast);
+    QuorUtilDialogErrMsg(found ? (std::to_string(times[0]) + " " + std::to_string(times[1])).c_str()
+                               : "none");
+    return true;
+}
+
 bool inform() {
     QuorUtilDialogMessageBox("Just so you know.", QuorMessageBox_Information);
     return loadWell();
@@ -140,6 +191,21 @@ bool failSilently() {
 bool leak() {
     QuorUtilStringListAlloc();
     return loadWell();
+}
+
+/// All that a host notes of a load besides messages and progress.
+bool loadWithEvents() {
+    constexpr bool kInvalidate = false;
+    constexpr bool kFullDrawing = true;
+    QuorUtilUndoStateBegin(9);
+    const bool ok = loadWell();
+    QuorSetHandle zones = nullptr;
+    QuorUtilZoneGetEnabled(&zones);
+    QuorUtilStateChanged(QuorStateChange_ZonesAdded, zones);
+    QuorUtilSetDealloc(&zones);
+    QuorUtilRedraw(kFullDrawing);
+    QuorUtilUndoStateEnd(kInvalidate, ok);
+    return ok;
 }
 
 /// What happens if the user presses Ctrl-C `times` times in the middle of a load.
@@ -164,15 +230,13 @@ bool pressTwice() {
 }
 
 const std::map<std::string, bool (*)()> kScenes = {
-    {"well", loadWell},
-    {"unreadable", loadUnreadable},
-    {"ask", askFirst},
-    {"inform", inform},
-    {"fail", fail},
-    {"silent", failSilently},
-    {"leak", leak},
-    {"ctrl-c", pressOnce},
-    {"ctrl-c-twice", pressTwice},
+    {"well", loadWell},        {"unreadable", loadUnreadable},
+    {"ask", askFirst},         {"events", loadWithEvents},
+    {"inform", inform},        {"steps", loadInSteps},
+    {"tell-host", tellHost},   {"tell-fields", tellFields},
+    {"tell-times", tellTimes}, {"fail", fail},
+    {"silent", failSilently},  {"leak", leak},
+    {"ctrl-c", pressOnce},     {"ctrl-c-twice", pressTwice},
 };
 
 std::string sceneOf(const std::string& file) {
@@ -202,6 +266,10 @@ void loaderSelectedCallback(QuorStringListHandle files, bool, bool) {
     QuorUtilLockFinish(gAddOn);
 }
 
+void stateChangeCallback(std::int32_t code) {
+    QuorUtilDialogErrMsg(("State change " + std::to_string(code)).c_str());
+}
+
 void registerLoader() {
     QuorArgListHandle arguments = QuorUtilArgListAlloc();
     QuorUtilArgListAppendString(arguments, "LoaderName", "Fake Loader");
@@ -224,5 +292,6 @@ extern "C" void InitQuorAddOn113() {
     QuorUtilLockOn();
     gAddOn = QuorUtilAddOnRegister(100, "Fake Loader", "1.0", "the tests");
     registerLoader();
+    QuorUtilStateChangeAddCallback(stateChangeCallback);
     QuorUtilLockOff();
 }

@@ -1,0 +1,18 @@
+// The commands of a macro in few words, for the account that people read.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/macro/Macro.h"
+#include "describe/Outcome.h"
+
+namespace quorvia::host {
+
+/// The command's name and what matters most of it. Texts stand as they came.
+std::string commandText(const MacroCommand& command);
+
+/// "3 zones, 6 variables", or "no data set".
+std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet);
+
+} // namespace quorvia::host

@@ -1,0 +1,256 @@
+#include "app/macro/MacroPlayer.h"
+
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+#include <fmt/core.h>
+
+#include "app/macro/CommandText.h"
+#include "app/macro/OutcomeSlices.h"
+#include "session/AddOnLibrary.h"
+#include "session/ReferenceHost.h"
+
+namespace quorvia::host {
+namespace {
+
+/// Why a command can't be carried out.
+class CommandProblem : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The add-on can't be opened; the last load's result holds the reason.
+class NoAddOn : public std::runtime_error {
+public:
+    NoAddOn() : std::runtime_error("no add-on") {}
+};
+
+/// What is to go wrong in the next load, and in no other.
+class PlannedFaults {
+public:
+    void add(const InterruptCommand_s& command) { interruptAtStep_ = command.step; }
+    void add(const FailCommand_s& command) { failures_.push_back(command); }
+
+    /// Runs `load` under the faults and forgets them.
+    template <typename Load>
+    LoadResult during(ReferenceHost& host, Load load) {
+        if (interruptAtStep_ != 0)
+            host.interruptAtStep(interruptAtStep_);
+        for (const FailCommand_s& failure : failures_)
+            host.failCall(failure.operation, failure.call);
+        LoadResult result = load();
+        host.clearFaults();
+        *this = {};
+        return result;
+    }
+
+private:
+    std::int64_t interruptAtStep_ = 0; // 0: never
+    std::vector<FailCommand_s> failures_;
+};
+
+class Player {
+public:
+    Player(const PlaySettings_s& settings, ReferenceHost& host) : settings_(settings), host_(host) {
+        host_.setAnswers({}, settings_.answerYes);
+        lastLoad_.ok = true; // of a session without a load, nothing has failed
+    }
+
+    /// Each gives how the command ended, for people.
+    std::string operator()(const SelectCommand_s& command) {
+        return load(
+            [&] { return host_.importSelection(command.files, command.advanced, command.append); });
+    }
+    std::string operator()(const InstructionsCommand_s& command) {
+        return load([&] { return host_.importInstructions(command.instructions); });
+    }
+    std::string operator()(const ReplayCommand_s&) {
+        const std::vector<std::string> instructions = host_.log().instructions;
+        if (instructions.empty())
+            throw CommandProblem("no load has left instructions to replay");
+        return load([&] { return host_.importInstructions(instructions); });
+    }
+
+    std::string operator()(const AnswersCommand_s& command) {
+        host_.setAnswers(command.answers, settings_.answerYes);
+        return "done";
+    }
+    std::string operator()(const HostCommand_s& command);
+    std::string operator()(const DataSetCommand_s& command) {
+        if (!putIntoFrame(command.dataSet, host_.frame()))
+            throw CommandProblem("there is no memory for the values of the data set");
+        return "done";
+    }
+    std::string operator()(const InterruptCommand_s& command) {
+        faults_.add(command);
+        return "done";
+    }
+    std::string operator()(const FailCommand_s& command) {
+        faults_.add(command);
+        return "done";
+    }
+    std::string operator()(const StateChangeCommand_s& command) {
+        host_.sendStateChange(command.code);
+        return "done";
+    }
+
+    std::string operator()(const FetchCommand_s& command) {
+        return command.zone == 0 ? fetchAll() : fetchOne(command);
+    }
+    std::string operator()(const UnloadCommand_s&) {
+        host_.unloadAll();
+        return "done";
+    }
+    std::string operator()(const DeleteZonesCommand_s& command);
+    std::string operator()(const ResetFrameCommand_s&) {
+        host_.frame().reset();
+        return "done";
+    }
+
+    std::string operator()(const DescribeCommand_s& command) {
+        Outcome_s outcome = describe();
+        slices_.cut(outcome);
+        std::string ending = sizeText(outcome.dataSet);
+        descriptions_.emplace_back(command.name, std::move(outcome));
+        return ending;
+    }
+
+    /// Once, before the first command that needs it.
+    void loadAddOn() {
+        if (library_ != nullptr)
+            return;
+        LoadResult result = lastLoad_;
+        library_ = AddOnLibrary::open(settings_.addOnPath, result.hostError);
+        if (library_ != nullptr)
+            return;
+        result.ok = false;
+        lastLoad_ = result;
+        throw NoAddOn();
+    }
+
+    /// Ends the session.
+    SessionOutcome_s finish() {
+        Outcome_s outcome = describe();
+        if (library_ != nullptr)
+            library_->unload(); // tells what the add-on still holds
+        updateLog(host_, outcome);
+        slices_.cut(outcome);
+        return {std::move(descriptions_), std::move(outcome)};
+    }
+
+private:
+    template <typename Import>
+    std::string load(Import import) {
+        lastLoad_ = faults_.during(host_, import);
+        if (lastLoad_.ok)
+            return "loaded";
+        if (!lastLoad_.hostError.empty())
+            return "failed: " + lastLoad_.hostError;
+        return lastLoad_.interrupted ? "interrupted" : "failed";
+    }
+
+    Outcome_s describe() {
+        Outcome_s outcome = describeOutcome(host_, lastLoad_);
+        if (outcome.dataSet)
+            fetchValues(host_, *outcome.dataSet, settings_.fetchObserver);
+        updateLog(host_, outcome);
+        return outcome;
+    }
+
+    std::string fetchOne(const FetchCommand_s& command);
+    std::string fetchAll();
+
+    const PlaySettings_s& settings_;
+    ReferenceHost& host_;
+    std::unique_ptr<AddOnLibrary> library_;
+    LoadResult lastLoad_;
+    PlannedFaults faults_;
+    OutcomeSlices slices_;
+    std::vector<std::pair<std::string, Outcome_s>> descriptions_;
+};
+
+std::string Player::operator()(const HostCommand_s& command) {
+    HostSettings& settings = host_.settings();
+    settings.sharingAllowed = command.sharingAllowed.value_or(settings.sharingAllowed);
+    settings.version = command.version.value_or(settings.version);
+    settings.refuseInstructions = command.refuseInstructions.value_or(settings.refuseInstructions);
+    settings.memoryLimitBytes = command.memoryLimitBytes.value_or(settings.memoryLimitBytes);
+    if (command.timesFromFileNames)
+        settings.timesFromFileNames = *command.timesFromFileNames;
+    if (command.plotType)
+        host_.frame().setPlotType(*command.plotType);
+    return "done";
+}
+
+std::string Player::fetchOne(const FetchCommand_s& command) {
+    const DataSet* dataSet = host_.frame().dataSet();
+    if (dataSet == nullptr || dataSet->field(command.zone, command.variable) == nullptr)
+        throw CommandProblem(
+            fmt::format("there is no variable {} of a zone {}", command.variable, command.zone));
+    const FetchResult result = host_.fetch(command.zone, command.variable);
+    return result.ok ? fmt::format("{} values", result.count) : "failed: " + result.error;
+}
+
+std::string Player::fetchAll() {
+    const DataSet* dataSet = host_.frame().dataSet();
+    if (dataSet == nullptr)
+        throw CommandProblem("there is no data set to fetch values of");
+    std::int64_t fetched = 0;
+    std::int64_t total = 0;
+    for (const auto& zone : dataSet->zones()) {
+        for (std::int32_t variable = 1; variable <= dataSet->variableCount(); ++variable) {
+            if (dataSet->field(zone->number, variable)->storage == nullptr)
+                continue;
+            ++total;
+            fetched += host_.fetch(zone->number, variable).ok ? 1 : 0;
+        }
+    }
+    return fmt::format("{} of {} fields", fetched, total);
+}
+
+std::string Player::operator()(const DeleteZonesCommand_s& command) {
+    DataSet* dataSet = host_.frame().dataSet();
+    const std::int64_t last = *command.zones.rbegin();
+    if (dataSet == nullptr || last > dataSet->zoneCount())
+        throw CommandProblem(fmt::format("there is no zone {}", last));
+    dataSet->deleteZones(command.zones);
+    return "done";
+}
+
+bool mayGoOn(const PlaySettings_s& settings) {
+    return !settings.mayGoOn || settings.mayGoOn();
+}
+
+/// Whether all of them were carried out.
+bool playCommands(const Macro_s& macro, const PlaySettings_s& settings, Player& player,
+                  PlayedMacro_s& played) {
+    for (const MacroCommand& command : macro.commands) {
+        if (!mayGoOn(settings))
+            return false;
+        try {
+            if (needsAddOn(command))
+                player.loadAddOn();
+            played.account.push_back({commandText(command), std::visit(player, command)});
+        } catch (const NoAddOn&) {
+            return false;
+        } catch (const CommandProblem& problem) {
+            played.problem =
+                fmt::format("command {}: {}", played.account.size() + 1, problem.what());
+            return false;
+        }
+    }
+    return mayGoOn(settings);
+}
+
+} // namespace
+
+PlayedMacro_s playMacro(const Macro_s& macro, const PlaySettings_s& settings, ReferenceHost& host) {
+    PlayedMacro_s played;
+    Player player(settings, host);
+    played.complete = playCommands(macro, settings, player, played);
+    played.session = player.finish();
+    return played;
+}
+
+} // namespace quorvia::host
