@@ -4,6 +4,7 @@
 
 #include "dataset/ItemContext.h"
 #include "dataset/ItemDispatch.h"
+#include "dataset/OpenedFile.h"
 #include "dataset/ZoneFit.h"
 
 namespace quorvia::quorutildataio {
@@ -13,20 +14,6 @@ namespace {
 using Offsets = HostArray<std::int64_t>;
 
 constexpr std::int64_t notNoted = -1; // the entry of an item that no scan has come to
-
-/// Opens a file for a scope; the file is closed on every way out.
-class OpenedFile {
-public:
-    explicit OpenedFile(Plot3DFile_s& file) : file_(file), isOpen_(openPlot3DFile(file)) {}
-    ~OpenedFile() { closePlot3DFile(file_); }
-    OpenedFile(const OpenedFile&) = delete;
-    OpenedFile& operator=(const OpenedFile&) = delete;
-    explicit operator bool() const { return isOpen_; }
-
-private:
-    Plot3DFile_s& file_;
-    const bool isOpen_;
-};
 
 bool allocateOffsets(Offsets& offsets, std::int64_t count, const char* label) {
     offsets = Offsets::allocate(count, label);
@@ -57,7 +44,8 @@ public:
         if (!handler_.hasGridFile())
             return true;
         Plot3DFile_s& file = *handler_.gridFile;
-        if (!allocateGridOffsets(file))
+        context_.firstVar = 1;
+        if (!hasVariablesFor(file) || !allocateGridOffsets(file))
             return false;
         if (isPrimary() || !hasUniformGrids(options_))
             return scanGridFile(file);
@@ -80,7 +68,7 @@ public:
         if (takesGridFromEarlierZones() && !shareGrid())
             return false;
         context_.firstVar = variablesAheadOfSolution() + 1;
-        if (!allocateSolutionOffsets(file) || !fitsZones(file, request_))
+        if (!hasVariablesFor(file) || !allocateSolutionOffsets(file) || !fitsZones(file, request_))
             return false;
         if (!isPrimary() && options_.solutionsShareStructure && canReuse(file))
             return takeOverOffsets(file) &&
@@ -92,7 +80,7 @@ public:
     bool setUpFunctionFiles() {
         context_.firstVar = variablesAheadOfFunctions() + 1;
         for (Plot3DFile_s* file : handler_.functionFiles) {
-            if (!scanFunctionFile(*file))
+            if (!hasVariablesFor(*file) || !scanFunctionFile(*file))
                 return false;
             context_.firstVar += file->numVars;
         }
@@ -102,6 +90,14 @@ public:
 private:
     /// Whether this file set is the one that later ones take positions and grids from.
     bool isPrimary() const { return request_.isFirstFileSet; }
+
+    /// Whether the data set has all variables from `firstVar` on that the file fills. A load onto
+    /// a data set that is there may have had no memory to add them.
+    bool hasVariablesFor(const Plot3DFile_s& file) const {
+        const std::int64_t last = std::int64_t{context_.firstVar} - 1 + file.numVars +
+                                  (file.hasIBlank && !file.isSolutionOrFunction ? 1 : 0);
+        return last <= request_.existingVarCount;
+    }
 
     /// Positions stand for whole fields of a binary file; the rest has to be read through.
     bool canReuse(const Plot3DFile_s& file) const {
@@ -166,10 +162,7 @@ private:
                                   request_.firstZoneOfLoad, request_.firstZone, request_.hasIBlank);
     }
 
-    bool scanGridFile(Plot3DFile_s& file) {
-        context_.firstVar = 1;
-        return openAndScan(file);
-    }
+    bool scanGridFile(Plot3DFile_s& file) { return openAndScan(file); }
 
     bool scanFunctionFile(Plot3DFile_s& file) {
         const OpenedFile opened(file);

@@ -19,6 +19,7 @@ struct Plot3DFileSetRequest_s {
     std::int32_t firstZone; // of this file set
     std::int32_t numSpatialVars;
     std::int32_t numSolutionVars;
+    std::int32_t existingVarCount; // variables of the data set
     bool hasIBlank;
     bool isFirstFileSet;
 };

@@ -82,10 +82,16 @@ private:
         return true;
     }
 
-    /// A zone that is there gets the solution; it counts as new to the host.
+    /// A zone that is there gets the solution; it counts as new to the host. The zone goes by the
+    /// grid's place in the file, so that for one behind grids that are left out there may be none.
     bool adoptZone(std::int32_t grid, std::int32_t strand) {
         const std::int32_t zone = grid + 1;
         stage_.firstNewZone = 1;
+        std::int32_t zoneCount = 0;
+        if (!QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr))
+            return false;
+        if (zone > zoneCount)
+            return true;
         if (stage_.assignStrandIDs)
             QuorUtilZoneSetStrandID(zone, strand);
         return QuorUtilSetAddMember(stage_.zonesAdded, zone, true);
@@ -117,6 +123,12 @@ std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s
         return QuorZoneType_Ordered;
     constexpr std::int64_t triangleCorners = 3;
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
+}
+
+bool hasElements(std::int32_t zone) {
+    std::int32_t zoneCount = 0;
+    return QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
+           QuorUtilZoneGetType(zone) != QuorZoneType_Ordered;
 }
 
 bool deleteZones(std::int32_t first, std::int32_t last) {
@@ -162,14 +174,17 @@ bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
         return false;
     return setUpFileSet({stage.options, handler, stage.firstHandler, stage.zoneBase,
                          stage.firstNewZone, stage.numSpatialVars, stage.numSolutionVars,
-                         stage.hasIBlank, fileSetIndex == 0});
+                         stage.existingVarCount, stage.hasIBlank, fileSetIndex == 0});
 }
 
 bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
                     std::int32_t gridIndex, const Plot3DZoneRequest_s& request) {
+    const bool isUnstructured = handler.getDataStructure() == Plot3DDataStructure_Unstructured;
+    // A solution file knows no elements; they are those of the zone that the grid came with.
+    if (isUnstructured && !handler.hasGridFile() && !hasElements(request.baseZone))
+        return false;
     const Plot3DZoneDims_s dims =
         zoneDimensionsForGrid(stage.options, handler, gridIndex, request.baseZone);
-    const bool isUnstructured = handler.getDataStructure() == Plot3DDataStructure_Unstructured;
     const QuorArgListHandle arguments = stage.arguments;
     const auto append = [arguments](const char* key, std::int64_t value) {
         return QuorUtilArgListAppendInt(arguments, key, value);

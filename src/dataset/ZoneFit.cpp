@@ -63,6 +63,23 @@ bool fitsZones(const Plot3DFile_s& file, const Plot3DFileSetRequest_s& request) 
     return true;
 }
 
+bool fitsExistingZones(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options,
+                       std::int32_t firstZone, std::int32_t zoneCount) {
+    std::int32_t zone = firstZone;
+    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
+        if (!isWalked(file, options, grid))
+            continue;
+        if (zone > zoneCount)
+            return false;
+        const std::optional<std::int64_t> points =
+            countSelected(resolveGridRanges(options, file, grid));
+        if (!points || points != pointsOfExistingZone(zone))
+            return false;
+        ++zone;
+    }
+    return true;
+}
+
 bool isSubsetTaken(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options) {
     for (std::int32_t grid = 0; grid < file.numGrids; ++grid)
         if (isWalked(file, options, grid) && resolveGridRanges(options, file, grid).isSubset)

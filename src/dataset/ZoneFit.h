@@ -11,6 +11,10 @@ namespace quorvia::quorutildataio {
 /// points as the load selects of the grid.
 bool fitsZones(const Plot3DFile_s& file, const Plot3DFileSetRequest_s& request);
 
+/// The same for zones that other loads have made, from `firstZone` on, all up to `zoneCount`.
+bool fitsExistingZones(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options,
+                       std::int32_t firstZone, std::int32_t zoneCount);
+
 /// Whether the load leaves out points of a selected grid.
 bool isSubsetTaken(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options);
 

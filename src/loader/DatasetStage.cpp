@@ -1,12 +1,12 @@
 #include "loader/DatasetStage.h"
 
 #include "addon/state/AddOnIdentity.h"
+#include "dataset/AddedVariables.h"
 #include "dataset/CommonAuxData.h"
 #include "dataset/CurrentTask.h"
 #include "dataset/VariableNames.h"
 #include "dataset/ZoneCreation.h"
 #include "loader/BoundaryStage.h"
-#include "loader/MissingVariables.h"
 #include "loader/SolutionTimes.h"
 
 namespace quorvia::quorutildataio {
@@ -29,6 +29,7 @@ private:
     bool createDataSet();
     bool countVariables();
     bool adjustZones();
+    bool confirmZones();
     Plot3DStrandMap_s startStrands() const;
     bool addZones();
     void reportFailedFileSet(const Plot3DFileHandler& fileSet) const;
@@ -78,13 +79,12 @@ bool DatasetStage::prepare() {
         QuorUtilPostLastErrorMessage();
         return false;
     }
-    // The data set holds a grid alone, and this load brings its solution.
-    addVarsToGrid = options.append && first.hasSolutionFile() && !first.hasGridFile() &&
-                    context.existingVarCount <= 4;
+    addVarsToGrid = joinsLoneGrid(context);
     if (!countVariables() || !adjustZones())
         return false;
     if (context.existingVarCount < varCount && context.existingZoneCount > 0 &&
-        !addMissingVariables(varCount, varNames.get(), context.existingVarCount, varsAdded))
+        !addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
+                             context.existingVarCount, varsAdded))
         return false;
     varTypes = HostArray<std::int32_t>::allocate(context.existingVarCount, "vardatatypes");
     if (!varTypes) {
@@ -118,6 +118,8 @@ bool DatasetStage::adjustZones() {
         return true;
     // A zone that keeps its old name is no reason to stop.
     adjustExistingZones(context.zonesPerTimeStep, first, options, context.existingZoneCount);
+    if (!confirmZones())
+        return false;
     varsAltered = HostSet(QuorUtilSetAlloc(showErrors));
     if (!varsAltered) {
         QuorUtilDialogErrMsg("memory allocation error");
@@ -127,6 +129,21 @@ bool DatasetStage::adjustZones() {
         if (!QuorUtilSetAddMember(varsAltered.get(), var, showErrors))
             return false;
     return true;
+}
+
+/// Zones are addressed by number from here on; one that could not be deleted would take the place
+/// of a new one.
+bool DatasetStage::confirmZones() {
+    std::int32_t present = 0;
+    if (!QuorUtilDataSetGetInfo(nullptr, &present, nullptr)) {
+        QuorUtilPostLastErrorMessage();
+        return false;
+    }
+    if (present == context.existingZoneCount)
+        return true;
+    context.existingZoneCount = present;
+    QuorUtilDialogErrMsg("The zones that the new solution has no grids for could not be deleted.");
+    return false;
 }
 
 Plot3DStrandMap_s DatasetStage::startStrands() const {

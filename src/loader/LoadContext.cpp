@@ -2,6 +2,13 @@
 
 namespace quorvia::quorutildataio {
 
+bool joinsLoneGrid(const Plot3DLoadContext_s& context) {
+    constexpr std::int32_t mostVarsOfGrid = 4; // X, Y, Z, IBlank
+    const Plot3DFileHandler& first = context.fileSets.front();
+    return context.options.append && first.hasSolutionFile() && !first.hasGridFile() &&
+           context.existingVarCount <= mostVarsOfGrid;
+}
+
 std::int32_t countSelectedGrids(const Plot3DLoadOptions_s& options,
                                 const Plot3DFileHandler& fileSet) {
     const std::int32_t gridCount = fileSet.getNumGrids();

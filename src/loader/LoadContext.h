@@ -38,6 +38,10 @@ struct Plot3DLoadContext_s {
     std::unique_ptr<TaskProgress> mainTask;
 };
 
+/// Whether a solution is appended to a data set that holds a grid alone: it goes onto the zones
+/// that are there, like one that replaces another.
+bool joinsLoneGrid(const Plot3DLoadContext_s& context);
+
 /// How many of the file set's grids `gridSet` selects.
 std::int32_t countSelectedGrids(const Plot3DLoadOptions_s& options,
                                 const Plot3DFileHandler& fileSet);

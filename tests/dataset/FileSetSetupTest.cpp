@@ -336,7 +336,7 @@ TEST_F(FileSetSetup, TakesNoPositionsThatNoScanHasNoted) {
     Plot3DFile_s& q = write("q", describeSolution(oneGrid, 1));
     TimeSteps steps = {step(&x, &q)};
     ASSERT_TRUE(load(steps));
-    EXPECT_FALSE(setUpFileSet({options, steps[0], steps[0], 1, 1, 3, 5, false, false}));
+    EXPECT_FALSE(setUpFileSet({options, steps[0], steps[0], 1, 1, 3, 5, 8, false, false}));
     EXPECT_EQ(messages(), Texts());
 }
 

@@ -221,14 +221,81 @@ TEST_F(DatasetStage, ResetsTheFrameWhenTheHostDoesNotSayWhatIsThere) {
     }
 }
 
-TEST_F(DatasetStage, DoesNotAddVariablesToADataSetYet) {
+TEST_F(DatasetStage, TellsOfVariablesThatZonesGetWithASolution) {
+    useSteps(false, 1);
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z", "a", "b"}, 2);
+    EXPECT_TRUE(run());
+    EXPECT_EQ(messages(), Texts{"The existing zones in quorvia do not have as many variables per "
+                                "datapoint as the appended plot3d file thus variables will be "
+                                "created for them and initialized to zero."});
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z", "a", "b", "RHO-V", "RHO-W", "E"}));
+    EXPECT_EQ(toldMembers(QuorStateChange_VarsAdded), (std::vector<std::int64_t>{6, 7, 8}));
+    EXPECT_EQ(toldMembers(QuorStateChange_ZonesAdded), (std::vector<std::int64_t>{3, 4}));
+}
+
+TEST_F(DatasetStage, PutsASolutionOnALoneGridThatIsThere) {
+    useSteps(false, 2);
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z"}, 3);
+    EXPECT_TRUE(run()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2", "s2.q:1", "s2.q:2"}));
+    EXPECT_EQ(variableNames(), gridAndSolution);
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 1, 2}));
+    EXPECT_EQ(toldMembers(QuorStateChange_VarsAdded), (std::vector<std::int64_t>{4, 5, 6, 7, 8}));
+    EXPECT_EQ(toldMembers(QuorStateChange_ZonesAdded), (std::vector<std::int64_t>{1, 2, 3, 4}));
+    EXPECT_EQ(host().log().stateChanges.size(), 2U);
+}
+
+TEST_F(DatasetStage, GivesNoStrandToAZoneThatIsNotThere) {
+    useSteps(false, 1);
+    selectGrids({2});
+    context.zonesPerTimeStep = 1;
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z"}, 1);
+    EXPECT_TRUE(run()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(zoneCount(), 1);
+    EXPECT_EQ(strands(), std::vector<std::int32_t>{0});
+}
+
+TEST_F(DatasetStage, KeepsVariablesThatItAddedWhenALaterStepFails) {
+    useSteps(false, 2);
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z"}, 2);
+    host().failCall("QuorUtilDataSetAddZoneX", 2);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(variableNames(), gridAndSolution);
+    EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2"}));
+}
+
+TEST_F(DatasetStage, TakesVariablesBackThatCouldNotAllBeAdded) {
     useSteps(false, 1);
     options.append = true;
     joinOldDataSet({"X", "Y", "Z"}, 2);
+    host().failCall("QuorUtilDataSetAddVarX", 3);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z"}));
+}
+
+TEST_F(DatasetStage, FailsAtTheFirstFieldWithoutAVariable) {
+    useSteps(false, 1);
+    options.append = true;
+    joinOldDataSet({"X", "Y", "Z"}, 2);
+    host().failCall("QuorUtilSetAlloc", 3); // of the variables that are added
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages().back(),
+              "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.front());
+    EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z"}));
+}
+
+TEST_F(DatasetStage, ReplacesNothingWhileSurplusZonesStay) {
+    useSteps(false, 1);
+    joinOldDataSet(gridAndSolution, 3);
+    host().failCall("QuorUtilZoneDelete", 1);
     EXPECT_FALSE(run());
     EXPECT_EQ(messages(),
-              Texts{"This version of the PLOT3D loader cannot add variables to a data set."});
-    EXPECT_EQ(variableNames().size(), 3U);
+              Texts{"The zones that the new solution has no grids for could not be deleted."});
+    EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2", "old"}));
 }
 
 } // namespace

@@ -289,48 +289,5 @@ TEST_F(LoadDriver, LoadsAgainInPlaceOfWhatIsThere) {
 
 // What this version does not do must never pass in silence, nor touch what is in the frame.
 
-TEST_F(LoadDriver, DoesNotAppendYet) {
-    makeOldDataSet({"X", "Y", "Z"}, 3);
-    useFiles({gridFile("a.x", twoGrids)});
-    options.append = true;
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader always starts a new data set. "
-                                "Load the grid files too, and do not append."});
-    EXPECT_TRUE(showedProgress("Checking dataset compatibility"));
-    EXPECT_EQ(zoneCount(), 3);
-    EXPECT_TRUE(host().log().undo.empty());
-}
-
-TEST_F(LoadDriver, DoesNotReplaceASolutionYet) {
-    makeOldDataSet({"X", "Y", "Z"}, 3);
-    useFiles({}, {solutionFile("a.q", twoGrids, 0)});
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader always starts a new data set. "
-                                "Load the grid files too, and do not append."});
-    EXPECT_EQ(zoneCount(), 3);
-}
-
-TEST_F(LoadDriver, DoesNotAppendFunctionFilesYet) {
-    makeOldDataSet({"X", "Y", "Z"}, 2);
-    useFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
-    options.append = true;
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader cannot append function files to "
-                                "a data set. Load them together with their grid files."});
-    EXPECT_EQ(variableNames().size(), 3U);
-}
-
-TEST_F(LoadDriver, DoesNotLoadABoundaryFileYet) {
-    makeOldDataSet({"X"}, 3);
-    useFiles({gridFile("a.x", twoGrids)});
-    const std::string boundaries = directory.write("a.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n");
-    options.loadBoundary = true;
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"This version of the PLOT3D loader cannot load boundary files. "
-                                "Load without boundaries.\nFile: " +
-                                boundaries});
-    EXPECT_EQ(zoneCount(), 3);
-}
-
 } // namespace
 } // namespace quorvia::testsupport
