@@ -13,6 +13,9 @@ namespace quorvia::quorutildataio {
 namespace {
 
 constexpr std::int64_t largestPosition = std::numeric_limits<std::int64_t>::max();
+// A segment holds 2 GB, so that no file has so many. But zeros behind a chain that was never closed
+// would each be a segment of it, with a boundary to remember for every 8 bytes of the file.
+constexpr std::int64_t mostSegmentBoundaries = 1'000'000;
 // What a sum past 64 bits becomes: every seek to it fails.
 constexpr std::int64_t noPosition = -1;
 
@@ -40,9 +43,19 @@ std::int64_t negatedWithin64Bits(std::int64_t number) {
     return number == std::numeric_limits<std::int64_t>::min() ? largestPosition : -number;
 }
 
+bool isAllZeros(FileStream::Window window) {
+    const std::int64_t byteCount = window.end - window.begin;
+    // Each byte is the one ahead of it: a library's comparison is far quicker than a loop of ours.
+    return byteCount > 0 && *window.begin == 0 &&
+           std::memcmp(window.begin, window.begin + 1, static_cast<std::size_t>(byteCount - 1)) ==
+               0;
+}
+
 // Bytes of the window that belong to empty records in a row, which are nothing but zeros.
 std::int64_t countEmptyRecordBytes(FileStream::Window window, std::int64_t recordBytes) {
-    const char* end = std::find_if(window.begin, window.end, [](char byte) { return byte != 0; });
+    const char* end = window.end;
+    if (!isAllZeros(window))
+        end = std::find_if(window.begin, window.end, [](char byte) { return byte != 0; });
     return (end - window.begin) / recordBytes * recordBytes;
 }
 
@@ -60,6 +73,8 @@ bool passOverEmptyRecords(Plot3DFile_s& file) {
 bool passOverSegment(Plot3DFile_s& file) {
     std::int64_t length = 0;
     const bool isMoved = readRecordMarker(file, length) && file.stream->skip(length);
+    if (std::ssize(file.segmentBoundaries) == mostSegmentBoundaries)
+        return false;
     if (file.inSegmentedRecord)
         file.segmentBoundaries.push_back(file.stream->tell());
     if (!isMoved)
