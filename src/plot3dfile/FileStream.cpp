@@ -42,7 +42,7 @@ std::int64_t FileStream::read(void* destination, std::int64_t byteCount) {
 FileStream::Window FileStream::window() {
     if (bufferPosition_ == bufferEnd_)
         fillBuffer();
-    return {buffer_.data() + bufferPosition_, buffer_.data() + bufferEnd_};
+    return {buffer_.get() + bufferPosition_, buffer_.get() + bufferEnd_};
 }
 
 bool FileStream::seek(std::int64_t position) {
@@ -69,9 +69,11 @@ int FileStream::readCharacterFromFile() {
 bool FileStream::fillBuffer() {
     const std::int64_t fill = nextFill_;
     restartBufferAt(tell(), std::min(fill * fillGrowth, largestFill));
-    if (std::ssize(buffer_) < fill)
-        buffer_.resize(static_cast<std::size_t>(fill));
-    bufferEnd_ = readFromFile(buffer_.data(), fill);
+    if (capacity_ < fill) {
+        buffer_ = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(fill));
+        capacity_ = fill;
+    }
+    bufferEnd_ = readFromFile(buffer_.get(), fill);
     return bufferEnd_ > 0;
 }
 
@@ -79,7 +81,7 @@ std::int64_t FileStream::takeFromBuffer(char* target, std::int64_t byteCount) {
     const std::int64_t taken = std::min(byteCount, bufferEnd_ - bufferPosition_);
     if (taken <= 0)
         return 0;
-    std::memcpy(target, buffer_.data() + bufferPosition_, static_cast<std::size_t>(taken));
+    std::memcpy(target, buffer_.get() + bufferPosition_, static_cast<std::size_t>(taken));
     bufferPosition_ += taken;
     return taken;
 }

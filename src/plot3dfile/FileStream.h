@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "plot3dfile/FileSystem.h"
 
@@ -68,7 +67,8 @@ private:
     void restartBufferAt(std::int64_t position, std::int64_t nextFill);
 
     std::unique_ptr<RandomAccessFile> file_;
-    std::vector<char> buffer_;
+    std::unique_ptr<char[]> buffer_;  // never cleared, since it is filled by reading
+    std::int64_t capacity_ = 0;       // bytes of the buffer
     std::int64_t bufferStart_ = 0;    // file position of the buffer's first byte
     std::int64_t bufferPosition_ = 0; // of the next byte, from the buffer's start
     std::int64_t bufferEnd_ = 0;      // bytes that the buffer holds

@@ -1,5 +1,6 @@
 #include "plot3dfile/Plot3DFile.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -25,6 +26,13 @@ void measureAndSniff(Plot3DFile_s& file) {
     sniffEncoding(file);
 }
 
+/// Without what earlier trials left behind the last grid: it would cost each file of a long list as
+/// much memory as all the rest of its record.
+std::vector<Plot3DGridDims_s> gridsInUse(const Plot3DFile_s& file) {
+    const auto length = std::clamp<std::int64_t>(file.numGrids, 0, std::ssize(file.gridDims));
+    return {file.gridDims.begin(), file.gridDims.begin() + length};
+}
+
 void copyStructure(const Plot3DFile_s& source, Plot3DFile_s& copy) {
     copy.byteSwap = source.byteSwap;
     copy.encoding = source.encoding;
@@ -44,7 +52,7 @@ void copyStructure(const Plot3DFile_s& source, Plot3DFile_s& copy) {
     copy.inSegmentedRecord = source.inSegmentedRecord;
     copy.segmentBoundaries = source.segmentBoundaries;
     copy.solutionsShareStructure = source.solutionsShareStructure;
-    copy.gridDims = source.gridDims;
+    copy.gridDims = gridsInUse(source);
 }
 
 } // namespace

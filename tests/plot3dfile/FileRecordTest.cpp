@@ -103,7 +103,8 @@ TEST_F(FileRecord, CopyHasTheStructureAndItsOwnName) {
     file->numVars = 5;
     file->relaxedChecks = true;
     file->segmentBoundaries = {17, 19};
-    file->gridDims = {{2, 3, 5}};
+    file->numGrids = 1;
+    file->gridDims = {{2, 3, 5}, {7, 11, 13}}; // the second is left over from a trial
     Plot3DFilePtr copy;
     ASSERT_TRUE(copyPlot3DFile(*file, copy, "other.x"));
     EXPECT_EQ(copy->fileName.str(), "other.x");
@@ -114,7 +115,7 @@ TEST_F(FileRecord, CopyHasTheStructureAndItsOwnName) {
     EXPECT_EQ(copy->numVars, 5);
     EXPECT_TRUE(copy->relaxedChecks);
     EXPECT_EQ(copy->segmentBoundaries, file->segmentBoundaries);
-    EXPECT_EQ(copy->gridDims, file->gridDims);
+    EXPECT_EQ(copy->gridDims, std::vector<Plot3DGridDims_s>({{2, 3, 5}}));
 }
 
 TEST_F(FileRecord, CopyHasNoTimeNoOffsetsAndNoReadingState) {
