@@ -1,0 +1,102 @@
+#include <cstdlib>
+#include <iostream>
+#include <vector>
+
+#include "FuzzInput.h"
+#include "addon/AddOnEntry.h"
+#include "plot3dfile/structure/MemoryFileSystem.h"
+#include "session/ReferenceHost.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+Texts descriptionByHand(int choice) {
+    static const char* const structures[] = {"3DW", "3DP", "2D", "1D", "UNSTRUCTURED"};
+    static const char* const styles[] = {"PLOT3DCLASSIC", "PLOT3DFUNCTION", "OVERFLOW", "SWIFT"};
+    return {"AUTODETECT",    "No",
+            "DATASTRUCTURE", structures[choice % 5],
+            "STYLE",         styles[choice / 5 % 4],
+            "ISMULTIGRID",   choice / 20 % 2 == 0 ? "Yes" : "No"};
+}
+
+Texts settingsOf(int choice) {
+    switch (choice) {
+    case 0:
+        return {};
+    case 1:
+        return {"IINDEXRANGE", "1,,2", "KINDEXRANGE", "2,2,1"};
+    case 2:
+        return {"FILEGRIDSET", "2-3", "ASCIIISDOUBLE", "Yes"};
+    case 3:
+        return {"ASCIIHASIBLANK", "Yes", "SOLUTIONSSHARESTRUCTURE", "Yes"};
+    default:
+        return descriptionByHand(choice - 4);
+    }
+}
+
+/// The other file comes twice, so that the later time step takes its road too.
+Texts instructionsOf(const FuzzInput_s& input) {
+    Texts instructions = {"STANDARDSYNTAX", "1.0", "FILELIST_GRIDFILES", "1", "grid"};
+    const int fileChoice = input.fileChoice % 3;
+    if (fileChoice == 1)
+        instructions.insert(instructions.end(),
+                            {"FILELIST_SOLUTIONFILES", "2", "other1", "other2"});
+    if (fileChoice == 2)
+        instructions.insert(instructions.end(), {"FILELIST_FUNCTIONFILES", "1", "other1"});
+    const Texts settings = settingsOf(input.readingChoice % readingChoiceCount);
+    instructions.insert(instructions.end(), settings.begin(), settings.end());
+    return instructions;
+}
+
+host::ReferenceHost& enteredHost() {
+    static const bool isEntered = [] {
+        InitQuorAddOn113();
+        return true;
+    }();
+    static_cast<void>(isEntered);
+    return host::ReferenceHost::instance();
+}
+
+void fetchEverything(host::ReferenceHost& host) {
+    const host::DataSet* const dataSet = host.frame().dataSet();
+    if (dataSet == nullptr)
+        return;
+    for (std::int32_t zone = 1; zone <= dataSet->zoneCount(); ++zone)
+        for (std::int32_t variable = 1; variable <= dataSet->variableCount(); ++variable)
+            host.fetch(zone, variable);
+}
+
+void endOnViolation(host::ReferenceHost& host) {
+    host.checkForLeaks();
+    for (const std::string& violation : host.log().violations)
+        std::cerr << violation << '\n';
+    if (!host.log().violations.empty() || host.lockDepth() != 0)
+        std::abort();
+}
+
+} // namespace
+
+bool loadInput(const FuzzInput_s& input) {
+    host::ReferenceHost& host = enteredHost();
+    quorutildataio::MemoryFileSystem disk;
+    disk.put("grid", input.grid);
+    disk.put("other1", input.other);
+    disk.put("other2", input.other);
+    quorutildataio::setFileSystem(&disk);
+    const bool isLoaded = host.importInstructions(instructionsOf(input)).ok;
+    fetchEverything(host);
+    host.frame().reset();
+    quorutildataio::setFileSystem(nullptr);
+    endOnViolation(host);
+    host.reset();
+    return isLoaded;
+}
+
+} // namespace quorvia::testsupport
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    quorvia::testsupport::loadInput(quorvia::testsupport::fromBytes(data, size));
+    return 0;
+}
