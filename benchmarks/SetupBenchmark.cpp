@@ -102,8 +102,9 @@ int printBytesRead() {
 
 void touchFiles(benchmark::State& state, std::int32_t steps) {
     std::array<char, 4096> start{};
+    const std::vector<std::string>& files = Series::ofLength(steps).files();
     for (auto _ : state)
-        for (const std::string& name : Series::ofLength(steps).files()) {
+        for (const std::string& name : files) {
             const int file = open(name.c_str(), O_RDONLY | O_CLOEXEC);
             if (file < 0 || read(file, start.data(), start.size()) <= 0)
                 state.SkipWithError("cannot read");
