@@ -1,27 +1,21 @@
 #include "loader/BoundaryStage.h"
 
-#include <string>
+#include "boundary/BoundaryFile.h"
+#include "boundary/BoundaryZones.h"
+#include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
 
-namespace {
-
-void reportNoBoundaries(const Plot3DLoadOptions_s& options) {
-    const std::string text = "This version of the PLOT3D loader cannot load boundary files. Load "
-                             "without boundaries.\nFile: " +
-                             options.boundaryFile;
-    QuorUtilDialogErrMsg(text.c_str());
-}
-
-} // namespace
-
-bool canLoadBoundaryFile(const Plot3DLoadOptions_s& options) {
-    reportNoBoundaries(options);
-    return false;
-}
-
-void addBoundaryZones(Plot3DLoadContext_s& context, QuorSetHandle /*zonesAdded*/) {
-    reportNoBoundaries(context.options);
+void addBoundaryZones(Plot3DLoadContext_s& context, QuorSetHandle zonesAdded) {
+    const Plot3DFileHandler& first = context.fileSets.front();
+    if (!first.hasGridFile())
+        return;
+    Plot3DBoundaryList boundaries;
+    HostStringList names;
+    std::int64_t count = 0;
+    if (readBoundaryFile(context.options, *first.gridFile, boundaries, names, count))
+        createBoundaryZones(context.options, context.fileSets, boundaries.get(), names.get(),
+                            context.assignStrandIDs, context.parentZones, zonesAdded);
 }
 
 } // namespace quorvia::quorutildataio

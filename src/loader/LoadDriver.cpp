@@ -6,7 +6,6 @@
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/CurrentTask.h"
 #include "instructions/InstructionWriter.h"
-#include "loader/BoundaryStage.h"
 #include "loader/DatasetCompatibility.h"
 #include "loader/DatasetStage.h"
 #include "loader/FileSetRules.h"
@@ -21,16 +20,13 @@ namespace quorvia::quorutildataio {
 namespace {
 
 /// A load without its boundary file goes on.
-bool settleBoundaryFile(Plot3DLoadOptions_s& options) {
-    if (!options.loadBoundary)
-        return true;
-    if (findBoundaryFile(options))
-        return canLoadBoundaryFile(options);
+void settleBoundaryFile(Plot3DLoadOptions_s& options) {
+    if (!options.loadBoundary || findBoundaryFile(options))
+        return;
     options.loadBoundary = false;
     QuorUtilDialogErrMsg("The boundary file does not exist in the same directory as the grid file "
                          "and will not be loaded.This may have an effect on the dataset if "
                          "anything relies on the boundary zones.");
-    return true;
 }
 
 /// Headers of all files, and the times of their names, which are taken also from refused files.
@@ -137,8 +133,7 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
 /// Everything that happens while the progress bar is open.
 bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
     const LoadProgressBar bar(context);
-    if (!settleBoundaryFile(context.options))
-        return false;
+    settleBoundaryFile(context.options);
     normaliseStrandOptions(context.options);
     if (!examineNamesAndHeaders(context) || !makeFileSets(context))
         return false;

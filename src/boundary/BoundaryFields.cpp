@@ -1,0 +1,227 @@
+#include "boundary/BoundaryFields.h"
+
+#include <memory>
+#include <new>
+#include <optional>
+
+#include "addon/state/AddOnIdentity.h"
+#include "boundary/OpenScope.h"
+#include "plot3dfile/CheckedSize.h"
+#include "plot3dfile/TypedArrays.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+struct EndClientData {
+    void operator()(Plot3DBoundaryClientData_s* data) const {
+        data->~Plot3DBoundaryClientData_s();
+        char* block = static_cast<char*>(static_cast<void*>(data));
+        QuorUtilStringDealloc(&block);
+    }
+};
+using ClientDataPtr = std::unique_ptr<Plot3DBoundaryClientData_s, EndClientData>;
+
+ClientDataPtr allocateClientData() {
+    void* block = QuorUtilStringAlloc(sizeof(Plot3DBoundaryClientData_s), "Client Data");
+    return ClientDataPtr(block != nullptr ? new (block) Plot3DBoundaryClientData_s : nullptr);
+}
+
+Plot3DBoundaryClientData_s* clientDataOf(QuorFieldHandle field) {
+    return static_cast<Plot3DBoundaryClientData_s*>(QuorUtilDataValueGetClientData(field));
+}
+
+/// Where the first variable of a grid stands; empty if no scan has come to it.
+std::optional<std::int64_t> gridOffsetOf(const Plot3DFile_s& file, std::int32_t gridNumber) {
+    const std::int64_t index = (std::int64_t{gridNumber} - 1) * file.numVars;
+    if (index < 0 || index >= file.varOffsets.count() || file.varOffsets[index] < 0)
+        return std::nullopt;
+    return file.varOffsets[index];
+}
+
+bool isInside(const Plot3DBoundary_s& boundary, const Plot3DGridDims_s& dims) {
+    return boundary.iEnd <= dims.i && boundary.jEnd <= dims.j && boundary.kEnd <= dims.k;
+}
+
+/// Copies the selected values of a whole field, I fastest.
+template <typename Number>
+void copySelected(const Number* whole, const Plot3DGridDims_s& dims,
+                  const Plot3DBoundaryRanges_s& ranges, Number* selected) {
+    for (std::int64_t k = ranges.k.start; k <= ranges.k.end; ++k) {
+        for (std::int64_t j = ranges.j.start; isInRange(ranges.k, k) && j <= ranges.j.end; ++j) {
+            if (!isInRange(ranges.j, j))
+                continue;
+            const Number* row = whole + ((k - 1) * dims.j + (j - 1)) * dims.i;
+            for (std::int64_t i = ranges.i.start; i <= ranges.i.end; ++i)
+                if (isInRange(ranges.i, i))
+                    *selected++ = row[i - 1];
+        }
+    }
+}
+
+/// One fetch: the whole field of the parent grid, from which the boundary's points are kept.
+class BoundaryFetch {
+public:
+    BoundaryFetch(const Plot3DBoundaryClientData_s& data, QuorFieldHandle field)
+        : data_(data), file_(*data.file), field_(field),
+          ranges_(boundaryRanges(*data.boundary, data.skipI, data.skipJ, data.skipK)) {}
+
+    bool run() {
+        const OpenScope opened(file_);
+        return opened && file_.stream->seek(data_.gridOffset) && measureGrid() &&
+               passOverOthers() && deliver();
+    }
+
+private:
+    /// The record was filled from a header; what it says must suffice for the boundary.
+    bool measureGrid() {
+        const auto grid = static_cast<std::size_t>(data_.boundary->gridNumber) - 1;
+        if (grid >= file_.gridDims.size())
+            return false;
+        dims_ = file_.gridDims[grid];
+        CheckedSize points;
+        points.addProduct({dims_.i, dims_.j, dims_.k});
+        CheckedSize bytes;
+        bytes.addProduct({points.value().value_or(-1), width()});
+        if (!points.value() || !bytes.value() || !isInside(*data_.boundary, dims_))
+            return false;
+        points_ = *points.value();
+        byteCount_ = *bytes.value();
+        return true;
+    }
+
+    std::int64_t width() const { return file_.isDoublePrecision ? 8 : 4; }
+
+    /// Moves on to the variable. The way there is counted in 32 bits, so that a variable which
+    /// begins 2 GiB or more behind its grid's first is not found.
+    bool passOverOthers() {
+        const std::int64_t ahead = data_.varOrdinal - 1;
+        if (ahead < 1)
+            return true;
+        CheckedSize values;
+        values.addProduct({ahead, points_});
+        if (!values.value())
+            return false;
+        if (file_.encoding == Plot3DEncoding_Ascii) {
+            constexpr bool store = false;
+            return readReals(file_, store, 0, *values.value(), nullptr, nullptr);
+        }
+        const auto distance = static_cast<std::int32_t>(
+            static_cast<std::uint32_t>(*values.value()) * static_cast<std::uint32_t>(width()));
+        return distance <= 0 || file_.stream->skip(distance);
+    }
+
+    bool deliver() {
+        switch (fieldType()) {
+        case QuorFieldDataType_Int32:
+            return deliverAs<std::int32_t>();
+        case QuorFieldDataType_Float:
+            return !file_.isDoublePrecision && deliverAs<float>();
+        case QuorFieldDataType_Double:
+            return file_.isDoublePrecision && deliverAs<double>();
+        default:
+            return false;
+        }
+    }
+
+    /// Of the field, whatever its numbers are by now.
+    std::int32_t fieldType() const {
+        const std::int32_t zone = QuorUtilZoneGetNumByUniqueID(data_.zoneId);
+        const std::int32_t var = QuorUtilVarGetNumByUniqueID(data_.varId);
+        return zone > 0 && var > 0 ? QuorUtilDataValueGetType(zone, var)
+                                   : std::int32_t{QuorFieldDataType_Invalid};
+    }
+
+    template <typename Number>
+    bool deliverAs() {
+        const HostArray<char> whole = HostArray<char>::allocate(byteCount_, "Var Array");
+        auto* const values = static_cast<Number*>(static_cast<void*>(whole.data()));
+        if (!whole || !readValues(values))
+            return false;
+        const std::int64_t count =
+            countInRange(ranges_.i) * countInRange(ranges_.j) * countInRange(ranges_.k);
+        const HostArray<Number> selected = HostArray<Number>::allocate(count, "SubVarArray");
+        if (!selected)
+            return false;
+        copySelected(values, dims_, ranges_, selected.data());
+        QuorUtilDataValueArraySetByRef(field_, 1, count, selected.data());
+        return true;
+    }
+
+    bool readValues(std::int32_t* values) {
+        return readIntegers(file_, /*store=*/true, 0, points_, values, nullptr);
+    }
+    template <typename Real>
+    bool readValues(Real* values) {
+        return readReals(file_, /*store=*/true, 0, points_, values, nullptr);
+    }
+
+    const Plot3DBoundaryClientData_s& data_;
+    Plot3DFile_s& file_;
+    QuorFieldHandle field_;
+    Plot3DBoundaryRanges_s ranges_;
+    Plot3DGridDims_s dims_ = {0, 0, 0};
+    std::int64_t points_ = 0;
+    std::int64_t byteCount_ = 0; // of the whole field
+};
+
+bool setUpBoundaryVar(ClientDataPtr data, std::int32_t zone, std::int32_t var) {
+    if (!QuorUtilDataValueCustomLOD(zone, var, loadBoundaryVar, unloadBoundaryVar,
+                                    cleanUpBoundaryVar, nullptr, nullptr, data.get()))
+        return false;
+    static_cast<void>(data.release()); // the host's from now on
+    return true;
+}
+
+} // namespace
+
+Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int32_t skipI,
+                                      std::int32_t skipJ, std::int32_t skipK) {
+    return {{boundary.iStart, boundary.iEnd, skipI},
+            {boundary.jStart, boundary.jEnd, skipJ},
+            {boundary.kStart, boundary.kEnd, skipK}};
+}
+
+bool setUpBoundaryVars(const Plot3DFile_s& file, std::int32_t skipI, std::int32_t skipJ,
+                       std::int32_t skipK, const Plot3DBoundary_s& boundary, std::int32_t zone,
+                       std::int32_t lastVar, std::int32_t firstVar) {
+    const std::optional<std::int64_t> gridOffset = gridOffsetOf(file, boundary.gridNumber);
+    for (std::int32_t var = firstVar; var <= lastVar; ++var) {
+        ClientDataPtr data = allocateClientData();
+        if (data == nullptr || !gridOffset)
+            return false;
+        data->gridOffset = *gridOffset;
+        data->varOrdinal = std::int64_t{var} - firstVar + 1;
+        data->zoneId = QuorUtilZoneGetUniqueID(zone);
+        data->varId = QuorUtilVarGetUniqueID(var);
+        data->skipI = skipI;
+        data->skipJ = skipJ;
+        data->skipK = skipK;
+        data->boundary = copyBoundary(boundary);
+        if (data->boundary == nullptr || !copyPlot3DFile(file, data->file, file.fileName.str()) ||
+            !setUpBoundaryVar(std::move(data), zone, var))
+            return false;
+    }
+    return true;
+}
+
+bool loadBoundaryVar(QuorFieldHandle field) {
+    const HostLock lock(addOnID);
+    try {
+        const Plot3DBoundaryClientData_s* data = clientDataOf(field);
+        return data != nullptr && BoundaryFetch(*data, field).run();
+    } catch (...) { // an interruption, or no memory; nothing may be thrown at the host
+        return false;
+    }
+}
+
+bool unloadBoundaryVar(QuorFieldHandle /*field*/) {
+    return true; // the values can be read again at any time
+}
+
+void cleanUpBoundaryVar(QuorFieldHandle field) {
+    const ClientDataPtr ended(clientDataOf(field));
+}
+
+} // namespace quorvia::quorutildataio

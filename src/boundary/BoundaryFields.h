@@ -1,0 +1,50 @@
+// The fields of boundary zones. They stay in the files until the host asks: then the whole field of
+// the parent grid is read and the boundary's points are kept.
+#pragma once
+
+#include <cstdint>
+
+#include "boundary/BoundaryFile.h"
+#include "plot3dfile/Plot3DFile.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::quorutildataio {
+
+/// What the host keeps for one variable of one boundary zone, in a block of its own memory. Nothing
+/// of the load has to live on for it; each field has its own copy of the file's record, so that two
+/// fetches can't disturb each other.
+struct Plot3DBoundaryClientData_s {
+    std::int64_t gridOffset = 0; // file position of the first variable of the parent grid
+    std::int64_t varOrdinal = 0; // the variable's place among those of the grid, from 1
+    std::int64_t zoneId = 0;     // identities at the host
+    std::int64_t varId = 0;
+    Plot3DBoundaryList boundary; // alone, without what follows it
+    std::int32_t skipI = 1;
+    std::int32_t skipJ = 1;
+    std::int32_t skipK = 1;
+    Plot3DFilePtr file; // closed; holds no positions
+};
+
+/// The boundary's range along a direction, with the load's stride; its end is always selected.
+struct Plot3DBoundaryRanges_s {
+    Plot3DIndexRange_s i;
+    Plot3DIndexRange_s j;
+    Plot3DIndexRange_s k;
+};
+Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int32_t skipI,
+                                      std::int32_t skipJ, std::int32_t skipK);
+
+/// Has the host fetch the variables from `firstVar` to `lastVar` of a zone from `file` on demand.
+/// `file` must have been scanned, since its `varOffsets` tell where the grids are. False: they
+/// don't, or the host refuses a variable; those ahead of it stay set up.
+bool setUpBoundaryVars(const Plot3DFile_s& file, std::int32_t skipI, std::int32_t skipJ,
+                       std::int32_t skipK, const Plot3DBoundary_s& boundary, std::int32_t zone,
+                       std::int32_t lastVar, std::int32_t firstVar);
+
+/// The callbacks of a boundary zone's fields. A failed fetch, also an interrupted one, leaves the
+/// file closed and holds nothing; it may be tried again. Only a file that does not open is told.
+bool loadBoundaryVar(QuorFieldHandle field);
+bool unloadBoundaryVar(QuorFieldHandle field);
+void cleanUpBoundaryVar(QuorFieldHandle field);
+
+} // namespace quorvia::quorutildataio

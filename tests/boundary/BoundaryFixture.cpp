@@ -1,0 +1,107 @@
+#include "BoundaryFixture.h"
+
+#include <stdexcept>
+
+namespace quorvia::testsupport {
+
+namespace {
+
+template <typename Number>
+Numbers widened(const void* values, std::int64_t count) {
+    const auto* numbers = static_cast<const Number*>(values);
+    return Numbers(numbers, numbers + count);
+}
+
+std::vector<std::int64_t> selected(std::int32_t start, std::int32_t end, std::int32_t skip) {
+    std::vector<std::int64_t> indices;
+    for (std::int64_t index = start; index < end; index += skip)
+        indices.push_back(index);
+    indices.push_back(end);
+    return indices;
+}
+
+} // namespace
+
+void BoundaryTest::writeBoundaries(const std::string& gridFile, const Texts& names,
+                                   const Texts& lines) {
+    std::string content = "FVBND 1 4\n";
+    for (const std::string& name : names)
+        content += name + "\n";
+    content += "BOUNDARIES\n";
+    for (const std::string& line : lines)
+        content += line + "\n";
+    directory.write(gridFile + ".fvbnd", content);
+}
+
+void BoundaryTest::loadWell() {
+    ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
+    ASSERT_EQ(messages(), Texts());
+}
+
+const host::Zone& BoundaryTest::zone(std::int32_t number) {
+    const host::Zone* found = host().frame().dataSet()->zone(number);
+    if (found == nullptr)
+        throw std::out_of_range("no zone " + std::to_string(number));
+    return *found;
+}
+
+Numbers BoundaryTest::values(std::int32_t zoneNumber, std::int32_t var) {
+    const host::FetchResult field = host().fetch(zoneNumber, var);
+    if (!field.ok)
+        throw std::runtime_error("no values: " + field.error);
+    switch (field.type) {
+    case QuorFieldDataType_Double:
+        return widened<double>(field.values, field.count);
+    case QuorFieldDataType_Int32:
+        return widened<std::int32_t>(field.values, field.count);
+    default:
+        return widened<float>(field.values, field.count);
+    }
+}
+
+std::int32_t BoundaryTest::fieldType(std::int32_t zoneNumber, std::int32_t var) {
+    return host().frame().dataSet()->field(zoneNumber, var)->type;
+}
+
+host::FieldState BoundaryTest::state(std::int32_t zoneNumber, std::int32_t var) {
+    return host().frame().dataSet()->field(zoneNumber, var)->state();
+}
+
+std::int32_t BoundaryTest::holder(std::int32_t zoneNumber, std::int32_t var) {
+    return host().frame().dataSet()->fieldHolders(var)[static_cast<std::size_t>(zoneNumber - 1)];
+}
+
+std::int32_t BoundaryTest::parentOf(std::int32_t zoneNumber) {
+    const std::int64_t parent = zone(zoneNumber).parentZoneId;
+    return parent != 0 ? host().frame().dataSet()->zoneNumber(parent) : 0;
+}
+
+std::string BoundaryTest::auxData(std::int32_t zoneNumber, const std::string& item) {
+    const host::AuxData& all = zone(zoneNumber).auxData;
+    const auto found = all.find(item);
+    return found != all.end() ? found->second : "(none)";
+}
+
+Numbers BoundaryTest::partOf(std::int32_t zoneNumber, std::int32_t var, const Part_s& part,
+                             std::int32_t skipI, std::int32_t skipJ, std::int32_t skipK) {
+    const host::Zone& parent = zone(zoneNumber);
+    const Numbers whole = values(zoneNumber, var);
+    Numbers some;
+    for (const std::int64_t k : selected(part.kStart, part.kEnd, skipK))
+        for (const std::int64_t j : selected(part.jStart, part.jEnd, skipJ))
+            for (const std::int64_t i : selected(part.iStart, part.iEnd, skipI))
+                some.push_back(whole.at(
+                    static_cast<std::size_t>(((k - 1) * parent.j + (j - 1)) * parent.i + i - 1)));
+    return some;
+}
+
+void BoundaryTest::expectShows(std::int32_t boundaryZone, std::int32_t parent, const Part_s& part) {
+    const auto count = static_cast<std::int32_t>(variableNames().size());
+    ASSERT_GT(count, 0);
+    for (std::int32_t var = 1; var <= count; ++var) {
+        EXPECT_EQ(values(boundaryZone, var), partOf(parent, var, part)) << "variable " << var;
+        EXPECT_EQ(fieldType(boundaryZone, var), fieldType(parent, var)) << "variable " << var;
+    }
+}
+
+} // namespace quorvia::testsupport
