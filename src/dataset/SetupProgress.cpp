@@ -1,7 +1,7 @@
 #include "dataset/SetupProgress.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
 #include <string>
 
 #include "dataset/CurrentTask.h"
@@ -11,34 +11,47 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-// The words, three numbers of at most 11 characters, the tail of a path and the closing zero.
-using ProgressText = std::array<char, 128>;
-
-int tailLength(std::string_view tail) {
-    return static_cast<int>(tail.size());
+// Appends a number, which is positive, with at least three digits.
+void appendNumber(std::string& text, std::int32_t number) {
+    std::array<char, 12> digits;
+    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const auto length = static_cast<std::size_t>(end - digits.data());
+    if (length < 3)
+        text.append(3 - length, '0');
+    text.append(digits.data(), length);
 }
 
 } // namespace
 
+// Put together by hand: a long list of files shows one text for each of its fields, and a format
+// string would take as long as the registration of the field.
 bool stepForField(std::int32_t zone, std::int32_t var, std::int32_t gridNumber,
                   const Plot3DFile_s& file) {
     if (!currentTask)
         return true;
-    const std::string_view tail = fileTail(file.fileName.view());
-    ProgressText text;
-    std::snprintf(text.data(), text.size(),
-                  "Setting up Zone=%03d, Var=%03d from Grid %03d in ...%.*s", zone, var, gridNumber,
-                  tailLength(tail), tail.data());
-    return currentTask->stepWithMessage(text.data());
+    constexpr std::size_t longestText = 128;
+    std::string text;
+    text.reserve(longestText);
+    text += "Setting up Zone=";
+    appendNumber(text, zone);
+    text += ", Var=";
+    appendNumber(text, var);
+    text += " from Grid ";
+    appendNumber(text, gridNumber);
+    text += " in ...";
+    text += fileTail(file.fileName.view());
+    return currentTask->stepWithMessage(text);
 }
 
 void showConnectivity(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
-    const std::string_view tail = fileTail(file.fileName.view());
-    ProgressText text;
-    std::snprintf(text.data(), text.size(),
-                  "Loading Connectivity for Zone=%03d, from Grid %03d in ...%.*s.", zone,
-                  gridNumber, tailLength(tail), tail.data());
-    showOnCurrentTask(text.data());
+    std::string text = "Loading Connectivity for Zone=";
+    appendNumber(text, zone);
+    text += ", from Grid ";
+    appendNumber(text, gridNumber);
+    text += " in ...";
+    text += fileTail(file.fileName.view());
+    text += '.';
+    showOnCurrentTask(text.c_str());
 }
 
 void showOnCurrentTask(const char* text) {
