@@ -10,7 +10,10 @@ char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::st
     if (!memory)
         return nullptr;
     void* address = memory.data();
-    blocks_.emplace(address, Block{std::move(memory), origin, std::string(label), serials_.next()});
+    auto known = labels_.find(label);
+    if (known == labels_.end())
+        known = labels_.emplace(label).first;
+    blocks_.emplace(address, Block{std::move(memory), origin, &*known, serials_.next()});
     return static_cast<char*>(address);
 }
 
@@ -31,7 +34,7 @@ std::vector<HeldBlock> MemoryLedger::heldSince(std::int64_t serial) const {
     std::vector<HeldBlock> held;
     for (const auto& [address, block] : blocks_) {
         if (block.serial > serial)
-            held.push_back({block.origin, block.label, block.memory.byteCount()});
+            held.push_back({block.origin, *block.label, block.memory.byteCount()});
     }
     return held;
 }

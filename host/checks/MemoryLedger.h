@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -37,11 +39,12 @@ private:
     struct Block {
         ValueBlock memory;
         OperationId origin;
-        std::string label;
+        const std::string* label; // in labels_
         std::int64_t serial;
     };
     SerialSource& serials_;
     std::unordered_map<const void*, Block> blocks_;
+    std::set<std::string, std::less<>> labels_; // a guest has few, and uses them over and over
 };
 
 } // namespace quorvia::host
