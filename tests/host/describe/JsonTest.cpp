@@ -144,5 +144,16 @@ TEST(Json, TextEndsWithALineEnd) {
     EXPECT_EQ('\n', toJson(Outcome_s()).back());
 }
 
+TEST(Json, SessionHoldsEachDescriptionUnderItsNameAndTheEnd) {
+    const SessionOutcome_s session = {{{"b", loadedOutcome(2)}, {"a \xff", Outcome_s()}},
+                                      loadedOutcome(1)};
+    const auto told = nlohmann::ordered_json::parse(toJson(session));
+    EXPECT_EQ("quorhost.session/1", told["schema"]);
+    EXPECT_EQ("b", told["descriptions"].begin().key());
+    EXPECT_EQ(nlohmann::ordered_json::parse(toJson(loadedOutcome(2))), told["descriptions"]["b"]);
+    EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].is_null());
+    EXPECT_EQ(nlohmann::ordered_json::parse(toJson(loadedOutcome(1))), told["final"]);
+}
+
 } // namespace
 } // namespace quorvia::host
