@@ -142,6 +142,33 @@ TEST_F(BoundaryZones, HaveTheParentOfTheirTimeStep) {
     EXPECT_EQ(parentOf(8), 3);
 }
 
+TEST_F(BoundaryZones, ThatJoinStrandsFollowOnThatOfTheLastZone) {
+    makeOldDataSet({"X", "Y", "Z"}, 1);
+    host().frame().setPlotType(QuorPlotType_3D);
+    useFiles({grid});
+    useTwoFaces();
+    options.append = true;
+    options.assignStrandIds = options.assignStrandIdsRequested = true;
+    options.addToExistingStrands = true;
+    loadWell();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(parentOf(4), 3);
+    EXPECT_EQ(parentOf(5), 2);
+}
+
+TEST_F(BoundaryZones, OfAnAppendedGridStandBehindAllZones) {
+    makeOldDataSet({"X", "Y", "Z"}, 3);
+    host().frame().setPlotType(QuorPlotType_3D);
+    useFiles({grid});
+    useTwoFaces();
+    options.append = true;
+    loadWell();
+    ASSERT_EQ(zoneCount(), 3 + 2 + 2);
+    EXPECT_EQ(parentOf(6), 5);
+    expectShows(6, 5, {1, 5, 1, 3, 1, 1});
+    ASSERT_EQ(host().log().stateChanges.size(), 1U);
+}
+
 TEST_F(BoundaryZones, AreNoneForAFileWithoutBoundaries) {
     useFiles({grid});
     writeBoundaries("a.x", {}, {});
