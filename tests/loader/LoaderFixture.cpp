@@ -39,19 +39,12 @@ void registerLoader() {
     QuorUtilLockOff();
 }
 
-/// Exact in 32 bits.
-double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
-                  std::int32_t k) {
-    return i + 100 * j + 10000 * k + 100000 * variable + 1000000 * grid;
-}
-
 FileDescription_s describe(FileKind_e kind, Layout_e layout, const GridList& grids) {
     FileDescription_s description;
     description.kind = kind;
     description.layout = layout;
     description.isMultiGrid = layout != Layout_e::OneD;
     description.grids = grids;
-    description.value = placeValue;
     description.iblank = [](std::int32_t, std::int32_t i, std::int32_t, std::int32_t) {
         return i % 2;
     };
@@ -60,6 +53,11 @@ FileDescription_s describe(FileKind_e kind, Layout_e layout, const GridList& gri
 }
 
 } // namespace
+
+double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
+                  std::int32_t k) {
+    return i + 100 * j + 10000 * k + 100000 * variable + 1000000 * grid;
+}
 
 LoaderTest::LoaderTest() {
     host().reset();
@@ -116,7 +114,12 @@ std::string LoaderTest::functionFile(const std::string& name, const GridList& gr
 
 std::string LoaderTest::write(const std::string& name, const FileDescription_s& description) {
     const std::string file = directory.file(name);
-    const WriteOutcome_s outcome = writePlot3DFile(file, description, form);
+    FileDescription_s shifted = description;
+    shifted.value = [this](std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
+                           std::int32_t k) {
+        return placeValue(grid, variable, i, j, k) + valueShift;
+    };
+    const WriteOutcome_s outcome = writePlot3DFile(file, shifted, form);
     if (!outcome.problem.empty())
         throw std::runtime_error(outcome.problem);
     return file;

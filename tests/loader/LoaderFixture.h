@@ -23,6 +23,10 @@ using GridList = std::vector<GridDims_s>;
 
 constexpr bool fromSelection = true; // for loads: the user chose the files
 
+/// The value at a place of a file, all counted from 0. Exact in 32 bits.
+double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
+                  std::int32_t k);
+
 class LoaderTest : public ::testing::Test {
 protected:
     LoaderTest();
@@ -39,6 +43,7 @@ protected:
 
     // Multi-grid files with values that name their places, in plain binary unless `form` says else.
     plot3dwriter::FileForm_s form;
+    double valueShift = 0; // is added to every value that is written
     std::string gridFile(const std::string& name, const GridList& grids,
                          Layout_e layout = Layout_e::ThreeDWhole);
     std::string iblankGridFile(const std::string& name, const GridList& grids);
