@@ -107,6 +107,30 @@ TEST_F(SampleProgram, CutsTheCylinderOutOfItsBackground) {
         EXPECT_NE(iblank.find(value), std::string::npos) << value;
 }
 
+TEST_F(SampleProgram, WritesABoundaryFileIfAsked) {
+    EXPECT_EQ(run("vortex DIR --boundaries --steps 1 --size 3x2"), 0);
+    EXPECT_EQ(contents("vortex.x.fvbnd"),
+              "FVBND 1 4\ninflow\noutflow\nsymmetry\nBOUNDARIES\n1 1 1 1 1 $ 1 $ F 0\n"
+              "2 1 $ $ 1 $ 1 $ F 0\n3 1 1 $ 1 1 1 $ F 0\n3 1 1 $ $ $ 1 $ F 0\n");
+    EXPECT_NE(out().find("vortex.x.fvbnd           boundary           125 bytes\n"),
+              std::string::npos)
+        << out();
+}
+
+TEST_F(SampleProgram, PutsTheWallRoundTheCylinder) {
+    EXPECT_EQ(run("cylinder DIR --boundaries --size 7x5x2"), 0);
+    EXPECT_EQ(contents("cylinder.x.fvbnd"),
+              "FVBND 1 4\nwall\nsubsonic_inflow\nsubsonic_outflow\nsymmetry\nBOUNDARIES\n"
+              "1 1 1 $ 1 1 1 $ F 0\n2 2 1 1 1 $ 1 $ F 0\n3 2 $ $ 1 $ 1 $ F 0\n"
+              "4 1 1 $ 1 $ 1 1 F 0\n4 1 1 $ 1 $ $ $ F 0\n4 2 1 $ 1 $ 1 1 F 0\n"
+              "4 2 1 $ 1 $ $ $ F 0\n");
+}
+
+TEST_F(SampleProgram, RefusesBoundariesWhereACaseHasNone) {
+    EXPECT_EQ(refusal("ball DIR --boundaries"),
+              "plot3d-sample: error: the case ball takes no --boundaries here\n");
+}
+
 TEST_F(SampleProgram, WritesTheShockTubeInOneDirection) {
     EXPECT_EQ(run("shocktube DIR --steps 1 --size 3 --encoding text"), 0);
     EXPECT_EQ(contents("shocktube.x"), "3\n0. 0.5 1.\n");

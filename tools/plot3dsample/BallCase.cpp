@@ -62,6 +62,7 @@ FlowField ballFlow(const Mesh_s& mesh) {
 } // namespace
 
 std::vector<SampleFile_s> ballFiles(const SampleOptions_s& options) {
+    refuseBoundaries(options);
     refuseSteps(options);
     refuseIBlank(options);
     const Layout_e layout = chooseLayout(options, {Layout_e::Unstructured});

@@ -51,6 +51,8 @@ void addOptions(CLI::App& app, SampleOptions_s& options, Words_s& words) {
                  "One grid, without a count of grids (default with the count)");
     app.add_flag("--surface", options.isSurface,
                  "ball: triangles of the surface (default tetrahedra)");
+    app.add_flag("--boundaries", options.hasBoundaries,
+                 "cylinder, vortex: a boundary file beside the grid file (default without)");
     app.add_option("--style", words.style,
                    "Style of the values: classic, function, overflow or swift (default: the case's "
                    "own)");

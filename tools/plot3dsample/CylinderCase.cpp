@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "plot3dsample/BoundaryText.h"
 #include "plot3dsample/CylinderFlow.h"
 #include "plot3dsample/FlowFiles.h"
 
@@ -89,6 +90,24 @@ Mesh_s cylinderMesh(const SampleOptions_s& options, Layout_e layout) {
     return mesh;
 }
 
+/// What lies where; grid 1 alone is cut off in the free stream. Planes at both ends of the span are
+/// boundaries only where there is one.
+SampleFile_s cylinderBoundaries(const Mesh_s& mesh) {
+    std::vector<SampleBoundary_s> boundaries = {{"wall", 1, "1 $ 1 1 1 $"}};
+    if (mesh.grids.size() == 1) {
+        boundaries.push_back({"subsonic_inflow", 1, "1 $ $ $ 1 $"});
+    } else {
+        boundaries.push_back({"subsonic_inflow", 2, "1 1 1 $ 1 $"});
+        boundaries.push_back({"subsonic_outflow", 2, "$ $ 1 $ 1 $"});
+    }
+    const bool hasSpan = mesh.grids.front().k > 1;
+    for (int grid = 1; hasSpan && grid <= static_cast<int>(mesh.grids.size()); ++grid) {
+        boundaries.push_back({"symmetry", grid, "1 $ 1 $ 1 1"});
+        boundaries.push_back({"symmetry", grid, "1 $ 1 $ $ $"});
+    }
+    return boundaryFile("cylinder", boundaries);
+}
+
 } // namespace
 
 std::vector<SampleFile_s> cylinderFiles(const SampleOptions_s& options) {
@@ -108,6 +127,8 @@ std::vector<SampleFile_s> cylinderFiles(const SampleOptions_s& options) {
         flowFile(options, "cylinder", style, layout, mesh, flow, reference)};
     if (style == FileKind_e::Function)
         files.push_back(flowNameFile("cylinder", layout));
+    if (options.hasBoundaries)
+        files.push_back(cylinderBoundaries(mesh));
     return files;
 }
 

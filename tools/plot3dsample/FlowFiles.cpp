@@ -92,6 +92,10 @@ void refuseSurface(const SampleOptions_s& options) {
     refuse(options, "--surface", options.isSurface);
 }
 
+void refuseBoundaries(const SampleOptions_s& options) {
+    refuse(options, "--boundaries", options.hasBoundaries);
+}
+
 SampleFile_s gridFile(const SampleOptions_s& options, std::string_view stem, Layout_e layout,
                       const Mesh_s& mesh) {
     FileDescription_s grid = describe(options, FileKind_e::Grid, layout, mesh);

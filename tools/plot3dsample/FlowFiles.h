@@ -50,6 +50,7 @@ plot3dwriter::GridDims_s chooseSize(const SampleOptions_s& options, Layout_e lay
 void refuseSteps(const SampleOptions_s& options);
 void refuseIBlank(const SampleOptions_s& options);
 void refuseSurface(const SampleOptions_s& options);
+void refuseBoundaries(const SampleOptions_s& options);
 
 /// The grid file `stem`.x.
 SampleFile_s gridFile(const SampleOptions_s& options, std::string_view stem, Layout_e layout,

@@ -71,6 +71,7 @@ SampleFile_s functionFile(const SampleOptions_s& options, std::string_view stem,
 } // namespace
 
 std::vector<SampleFile_s> functionFiles(const SampleOptions_s& options) {
+    refuseBoundaries(options);
     refuseSteps(options);
     refuseSurface(options);
     const Layout_e layout = chooseLayout(options, {Layout_e::ThreeDWhole, Layout_e::ThreeDPlanes});

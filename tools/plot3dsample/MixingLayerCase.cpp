@@ -83,6 +83,7 @@ std::vector<double> layerScalars(Layout_e layout) {
 } // namespace
 
 std::vector<SampleFile_s> mixingLayerFiles(const SampleOptions_s& options) {
+    refuseBoundaries(options);
     refuseSteps(options);
     refuseSurface(options);
     const Layout_e layout = chooseLayout(options, {Layout_e::ThreeDWhole, Layout_e::ThreeDPlanes});

@@ -24,7 +24,7 @@ public:
 
 std::string kindWord(const SampleFile_s& file) {
     if (!file.text.empty())
-        return "names";
+        return file.name.ends_with(".fvbnd") ? "boundary" : "names";
     switch (file.description.kind) {
     case FileKind_e::Grid:
         return "grid";

@@ -9,7 +9,8 @@
 
 namespace quorvia::plot3dsample {
 
-/// A file to be written: a PLOT3D file, or text as it stands (a name file) if `text` isn't empty.
+/// A file to be written: a PLOT3D file, or text as it stands (a name or boundary file) if `text`
+/// isn't empty.
 struct SampleFile_s {
     std::string name; ///< without a directory, such that an import menu sorts it by its ending
     plot3dwriter::FileDescription_s description;

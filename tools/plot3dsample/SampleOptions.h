@@ -29,6 +29,7 @@ struct SampleOptions_s {
     bool hasIBlank = false;
     bool isSingleGrid = false;
     bool isSurface = false;
+    bool hasBoundaries = false;      ///< a boundary file beside the grid file
     std::optional<FileKind_e> style; ///< kind of the files beside the grid file
     std::optional<Layout_e> layout;
     std::optional<std::int32_t> steps;     ///< at least 1

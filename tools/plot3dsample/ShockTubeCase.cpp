@@ -51,6 +51,7 @@ FlowField tubeAt(const Mesh_s& mesh, double time) {
 } // namespace
 
 std::vector<SampleFile_s> shockTubeFiles(const SampleOptions_s& options) {
+    refuseBoundaries(options);
     refuseSurface(options);
     const Layout_e layout = chooseLayout(
         options, {Layout_e::OneD, Layout_e::TwoD, Layout_e::ThreeDWhole, Layout_e::ThreeDPlanes});

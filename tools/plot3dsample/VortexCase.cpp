@@ -1,6 +1,7 @@
 // A time series on one grid. The domain is periodic along X: what leaves comes back.
 #include <cmath>
 
+#include "plot3dsample/BoundaryText.h"
 #include "plot3dsample/FlowFiles.h"
 #include "plot3dsample/VortexFlow.h"
 
@@ -59,6 +60,11 @@ std::vector<SampleFile_s> vortexFiles(const SampleOptions_s& options) {
     }
     if (style == FileKind_e::Function)
         files.push_back(flowNameFile("vortex", layout));
+    if (options.hasBoundaries)
+        files.push_back(boundaryFile("vortex", {{"inflow", 1, "1 1 1 $ 1 $"},
+                                                {"outflow", 1, "$ $ 1 $ 1 $"},
+                                                {"symmetry", 1, "1 $ 1 1 1 $"},
+                                                {"symmetry", 1, "1 $ $ $ 1 $"}}));
     return files;
 }
 
