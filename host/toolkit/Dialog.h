@@ -1,0 +1,49 @@
+// A guest's modal dialog: at most one tab control with pages, and controls on the pages or on the
+// dialog itself.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "toolkit/Control.h"
+
+namespace quorvia::host {
+
+struct Page {
+    std::int32_t id = QuorGUIId_None;
+    std::string caption;
+};
+
+struct TabControl {
+    std::int32_t id = QuorGUIId_None;
+    Geometry geometry;
+    std::vector<Page> pages;                 ///< in their order
+    std::int32_t frontPage = QuorGUIId_None; ///< the one that is seen; the first once there is one
+    QuorGUIValueCallback activate = nullptr;
+    QuorGUIValueCallback deactivate = nullptr;
+};
+
+/// The buttons at the foot of a dialog. Those without a callback are not there.
+enum class DialogButton { Ok, Apply, Cancel, Help };
+
+struct Dialog {
+    std::int32_t id = QuorGUIId_None;
+    std::int32_t parent = QuorGUIId_MainWindow;
+    std::int32_t width = 0; ///< layout units, without the row of buttons
+    std::int32_t height = 0;
+    std::string title;
+    QuorGUICallback init = nullptr;
+    QuorGUICallback ok = nullptr;
+    QuorGUICallback apply = nullptr;
+    QuorGUICallback cancel = nullptr;
+    QuorGUICallback help = nullptr;
+    std::optional<TabControl> tabs;
+    std::vector<Control> controls;       ///< in the order in which they were made
+    std::int32_t focus = QuorGUIId_None; ///< the control that gets the next key
+    std::int64_t launches = 0; ///< so far; the dialog is open from a launch until it is dropped
+    bool open = false;
+};
+
+} // namespace quorvia::host

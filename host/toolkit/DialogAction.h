@@ -1,0 +1,46 @@
+// The one thing that a user does next at a dialog. Controls are told by their identifiers, items
+// and positions from 1.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "toolkit/Dialog.h"
+
+namespace quorvia::host {
+
+struct ShowPage {
+    std::int32_t page;
+};
+struct SetToggle {
+    std::int32_t toggle;
+    bool on;
+};
+/// Of a radio box or an option menu.
+struct ChooseItem {
+    std::int32_t control;
+    std::int32_t item;
+};
+struct PressButton {
+    std::int32_t button;
+};
+/// In place of what was selected. The guest is told of the last position, or 0 for none.
+struct SelectItems {
+    std::int32_t list;
+    std::vector<std::int32_t> positions;
+};
+/// The field's whole text, as it stands when the user leaves the field.
+struct TypeText {
+    std::int32_t field;
+    std::string text;
+};
+struct PressDialogButton {
+    DialogButton button;
+};
+
+using DialogAction = std::variant<ShowPage, SetToggle, ChooseItem, PressButton, SelectItems,
+                                  TypeText, PressDialogButton>;
+
+} // namespace quorvia::host

@@ -1,0 +1,49 @@
+// Who sits before the host: reads what a guest shows and does the next thing. One kind of user
+// plays a script, another is a person before a window. The host calls a user on the thread on which
+// the guest runs, and waits for the answer.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/Dialog.h"
+#include "toolkit/DialogAction.h"
+
+namespace quorvia::host {
+
+/// What a guest asks files for.
+struct FileRequest {
+    bool severalFiles = false;
+    std::string kind;        ///< a word for the files, such as "Grid"
+    std::string defaultName; ///< empty for none
+    std::string filter;      ///< a pattern such as "*.nam"
+};
+
+class User {
+public:
+    virtual ~User() = default;
+
+    /// The next thing that the user does at the open dialog; waits until there is one. What can't
+    /// be done (a control that is not sensitive, or not on the dialog) is no answer: a window does
+    /// not offer it, and a script that wants it is wrong.
+    virtual DialogAction nextAction(const Dialog& dialog) = 0;
+    /// True for OK or Yes.
+    virtual bool answer(const std::string& question) = 0;
+    /// Whole paths; none for Cancel.
+    virtual std::vector<std::string> chooseFiles(const FileRequest& request) = 0;
+
+    // What a window needs to draw. The dialog and its controls are borrowed for the call.
+
+    virtual void dialogShown(const Dialog& dialog) { (void)dialog; }
+    virtual void dialogDropped(const Dialog& dialog) { (void)dialog; }
+    virtual void pageShown(const Dialog& dialog) { (void)dialog; }
+    virtual void controlChanged(const Dialog& dialog, const Control& control) {
+        (void)dialog, (void)control;
+    }
+    virtual void focusMoved(const Dialog& dialog) { (void)dialog; }
+    /// A text that only tells: an error or information. Returns when the user has read it.
+    virtual void read(const std::string& text, bool isError) { (void)text, (void)isError; }
+    virtual void showHelp(const std::string& target) { (void)target; }
+};
+
+} // namespace quorvia::host
