@@ -31,12 +31,14 @@ const Arrows sourceArrows = {
 
 const Arrows hostArrows = {
     {"model", {"addon/sdk"}},
+    {"toolkit", {"addon/sdk"}},
     {"checks", {"addon/sdk", "model"}},
-    {"state", {"addon/sdk", "model", "checks"}},
-    {"sdk", {"addon/sdk", "model", "checks", "state"}},
-    {"session", {"addon/sdk", "model", "checks", "state"}},
-    {"describe", {"addon/sdk", "model", "state", "session"}},
-    {"app", {"addon/sdk", "model", "state", "session", "describe"}},
+    {"state", {"addon/sdk", "model", "toolkit", "checks"}},
+    {"sdk", {"addon/sdk", "model", "toolkit", "checks", "state"}},
+    {"session", {"addon/sdk", "model", "toolkit", "checks", "state"}},
+    {"describe", {"addon/sdk", "model", "toolkit", "state", "session"}},
+    {"app", {"addon/sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"desktop", {"addon/sdk", "model", "toolkit", "state", "session", "describe"}},
 };
 
 const Arrows toolArrows = {
