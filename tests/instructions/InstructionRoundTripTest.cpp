@@ -4,6 +4,8 @@
 #include <iostream>
 #include <random>
 
+#include "dialog/filenames/FileNameClassification.h"
+#include "dialog/filenames/FilePatternTables.h"
 #include "instructions/InstructionWriter.h"
 #include "instructions/ParserFixture.h"
 
@@ -185,6 +187,125 @@ TEST_F(InstructionRoundTrip, KeepsAnEmptyGridSetApartFromNone) {
     EXPECT_TRUE(parseWritten(options));
     EXPECT_NE(options_.gridSet, nullptr);
     releaseLoadOptions(options);
+}
+
+// ---- Lists of any keys and switches, of both syntaxes
+// ---------------------------------------------
+
+class RandomInstructions : public InstructionRoundTrip {
+protected:
+    static void SetUpTestSuite() {
+        if (gGridPatterns.empty())
+            buildFilePatternTables();
+    }
+
+    /// Keys and switches in any order and number. What rules of the whole list ask for stands at
+    /// its end, so that it is accepted.
+    Texts randomList() {
+        list_.clear();
+        if (flag())
+            list_ = {"StandardSyntax", "1.0"};
+        // First, since it takes the names of an earlier key away and leaves its flag.
+        if (flag())
+            addFiles("FILELIST_DATAFILES");
+        for (int left = number(0, 40); left > 0; --left)
+            addEntry();
+        add({"-SF", "last.q"});
+        const bool hasKRange = std::any_of(list_.begin(), list_.end(), isKRange);
+        add({"STYLE", oneOf(styles), "ISMULTIGRID", oneOf({"Yes", "No"})});
+        add({"DATASTRUCTURE", hasKRange ? "3DW" : oneOf(structures)});
+        return list_;
+    }
+
+private:
+    static bool isKRange(const std::string& text) {
+        return text == "KINDEXRANGE" || text == "-KSET";
+    }
+    void add(const Texts& texts) { list_.insert(list_.end(), texts.begin(), texts.end()); }
+
+    template <std::size_t count>
+    const char* oneOf(const char* const (&words)[count]) {
+        return words[static_cast<std::size_t>(number(0, static_cast<int>(count) - 1))];
+    }
+
+    void addEntry() {
+        switch (number(0, 7)) {
+        case 0:
+        case 1:
+            add({oneOf(boolKeys), oneOf({"Yes", "no", "T", "YouBetcha", "On", "true", "y"})});
+            break;
+        case 2:
+            add({oneOf(switches)});
+            break;
+        case 3:
+            add({oneOf({"IINDEXRANGE", "JINDEXRANGE", "KINDEXRANGE", "-ISET", "-JSET", "-KSET"}),
+                 oneOf({"1,,1", ",,2", "2,7,3", "5,0,1", ",7,", "3,11,1"})});
+            break;
+        case 4:
+            add({oneOf({"-GF", "FILENAME_GRIDFILE", "-SF", "-NF", "FILENAME_NAMEFILE"}),
+                 oneOf({"a.x", "b c.q", "names.nam"})});
+            break;
+        case 5:
+            addFileList();
+            break;
+        case 6:
+            add({"FILEGRIDSET", oneOf({"1-5,7,12", "3", "2,4-9:2"})});
+            break;
+        case 7:
+            addWord();
+            break;
+        }
+    }
+    void addFileList() {
+        addFiles(oneOf({"FILELIST_GRIDFILES", "FILELIST_SOLUTIONFILES", "FILELIST_FUNCTIONFILES"}));
+    }
+    void addFiles(const std::string& key) {
+        const int count = number(1, 3);
+        add({key, std::to_string(count)});
+        for (int left = count; left > 0; --left)
+            add({oneOf({"a.x", "APPEND.q", " c.f ", "d 1.q", "e.xyz"})});
+    }
+    void addWord() {
+        if (flag())
+            add({"STYLE", oneOf(styles)});
+        else
+            add({"DATASTRUCTURE", oneOf(structures)});
+    }
+
+    static constexpr const char* styles[] = {"PLOT3DCLASSIC", "plot3dfunction", "OVERFLOW",
+                                             "Swift"};
+    static constexpr const char* structures[] = {"1D", "2d", "3DP", "3dw", "UNSTRUCTURED"};
+    static constexpr const char* boolKeys[] = {"APPEND",
+                                               "ISMULTIGRID",
+                                               "AUTODETECT",
+                                               "LOADBOUNDARY",
+                                               "asciiIsDouble",
+                                               "ASCIIHASIBLANK",
+                                               "SOLUTIONSSHARESTRUCTURE",
+                                               "ASSIGNSTRANDIDS",
+                                               "ADDTOEXISTINGSTRANDS",
+                                               "UNIFORMGRIDSTRUCTURE",
+                                               "ASSIGNNEWSTRANDIDFOREACHTIMESTEP",
+                                               "EXTRACTTIMEFROMSOLFILENAMES"};
+    static constexpr const char* switches[] = {
+        "-M",        "-I",  "-1D", "-2D",      "-3DP", "-3dw", "-UNSTRUCTURED",
+        "-FUNCTION", "-IP", "-JP", "-FOREIGN", "-KP",  "-B",   "-f"};
+
+    Texts list_;
+};
+
+TEST_F(RandomInstructions, MeanTheSameOnceTheyAreWritten) {
+    for (int run = 0; run < 500 && !HasFailure(); ++run) {
+        const Texts list = randomList();
+        ASSERT_TRUE(parse(list)) << ::testing::PrintToString(list)
+                                 << ::testing::PrintToString(messages());
+        Plot3DLoadOptions_s first = std::move(options_);
+        options_ = Plot3DLoadOptions_s();
+        setLoadOptionDefaults(options_);
+        EXPECT_TRUE(parseWritten(first)) << ::testing::PrintToString(list);
+        expectSame(first);
+        releaseLoadOptions(first);
+    }
 }
 
 } // namespace
