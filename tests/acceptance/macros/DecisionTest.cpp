@@ -1,5 +1,5 @@
-// Which numbers of files go together, how they pair into time steps, and what is told of those that
-// don't. Every line of the two tables of docs/time-series.md, and the tests behind them.
+// Which numbers of files go together, how they pair into time steps (docs/time-series.md), and what
+// is told of those that don't.
 #include "acceptance/macros/KindSession.h"
 
 namespace quorvia::testsupport {
