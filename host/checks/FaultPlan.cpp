@@ -4,13 +4,12 @@ namespace quorvia::host {
 
 bool FaultPlan::countCall(OperationId operation) {
     const std::int64_t call = ++calls_[operation.index()];
-    std::set<std::int64_t>& failures = failures_[operation.index()];
-    return !failures.empty() && failures.erase(call) != 0 &&
+    return !failures_.empty() && failures_.erase({operation.index(), call}) != 0 &&
            operation.traits().failure == Failure::Possible;
 }
 
 void FaultPlan::failCall(OperationId operation, std::int64_t n) {
-    failures_[operation.index()].insert(calls(operation) + n);
+    failures_.insert({operation.index(), calls(operation) + n});
 }
 
 bool FaultPlan::countStep() {
@@ -27,7 +26,7 @@ void FaultPlan::interruptAtStep(std::int64_t n) {
 
 void FaultPlan::clear() {
     calls_.fill(0);
-    failures_.fill({});
+    failures_.clear();
     interruptAt_ = 0;
     steps_ = 0;
     endInterruption();

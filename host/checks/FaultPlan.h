@@ -3,8 +3,10 @@
 
 #include <array>
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <set>
+#include <utility>
 
 #include "checks/Operations.h"
 
@@ -35,7 +37,7 @@ public:
 
 private:
     std::array<std::int64_t, operationCount> calls_{};
-    std::array<std::set<std::int64_t>, operationCount> failures_;
+    std::set<std::pair<std::size_t, std::int64_t>> failures_; // operation and call
     std::int64_t steps_ = 0;
     std::int64_t interruptAt_ = 0; // 0 for never
     std::atomic<bool> interrupted_ = false;

@@ -1,5 +1,6 @@
 #include "checks/MemoryLedger.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -10,10 +11,7 @@ char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::st
     if (!memory)
         return nullptr;
     void* address = memory.data();
-    auto known = labels_.find(label);
-    if (known == labels_.end())
-        known = labels_.emplace(label).first;
-    blocks_.emplace(address, Block{std::move(memory), origin, &*known, serials_.next()});
+    blocks_.emplace(address, Block{std::move(memory), origin, &kept(label), serials_.next()});
     return static_cast<char*>(address);
 }
 
@@ -24,6 +22,11 @@ char* MemoryLedger::copyText(OperationId origin, std::string_view text) {
         copy[text.size()] = '\0';
     }
     return copy;
+}
+
+const std::string& MemoryLedger::kept(std::string_view label) {
+    const auto known = std::find(labels_.begin(), labels_.end(), label);
+    return known != labels_.end() ? *known : labels_.emplace_back(label);
 }
 
 bool MemoryLedger::giveBack(const void* address) {

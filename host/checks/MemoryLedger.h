@@ -2,8 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <set>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -42,9 +41,11 @@ private:
         const std::string* label; // in labels_
         std::int64_t serial;
     };
+    const std::string& kept(std::string_view label);
+
     SerialSource& serials_;
     std::unordered_map<const void*, Block> blocks_;
-    std::set<std::string, std::less<>> labels_; // a guest has few, and uses them over and over
+    std::deque<std::string> labels_; // a guest has few, and uses them over and over
 };
 
 } // namespace quorvia::host

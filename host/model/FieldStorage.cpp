@@ -19,14 +19,14 @@ std::int64_t valueWidth(std::int32_t type) {
 }
 
 std::shared_ptr<FieldStorage> FieldStorage::stored(std::int32_t type, std::int64_t valueCount) {
-    std::shared_ptr<FieldStorage> storage(new FieldStorage(type, valueCount));
+    auto storage = std::make_shared<FieldStorage>(Key(), type, valueCount);
     storage->block_ = ValueBlock::zeroed(storage->byteCount());
     return storage->block_ ? storage : nullptr;
 }
 
 std::shared_ptr<FieldStorage> FieldStorage::deferred(std::int32_t type, std::int64_t valueCount,
                                                      std::unique_ptr<Deferral> deferral) {
-    std::shared_ptr<FieldStorage> storage(new FieldStorage(type, valueCount));
+    auto storage = std::make_shared<FieldStorage>(Key(), type, valueCount);
     storage->deferral_ = std::move(deferral);
     return storage;
 }

@@ -29,10 +29,19 @@ public:
     /// An address in the code that fills the field, which must end before that code is unloaded;
     /// null if the code always stays.
     virtual const void* code() const { return nullptr; }
+    /// What the one who made the promise keeps for it; null for none.
+    virtual const void* clientData() const { return nullptr; }
 };
 
 class FieldStorage : public std::enable_shared_from_this<FieldStorage> {
+    /// Storage is always shared, so that only `stored` and `deferred` make it.
+    struct Key {
+        explicit Key() = default;
+    };
+
 public:
+    FieldStorage(Key, std::int32_t type, std::int64_t valueCount)
+        : type_(type), valueCount_(valueCount) {}
     /// `valueCount` zeros of `type`; null if there is no memory.
     static std::shared_ptr<FieldStorage> stored(std::int32_t type, std::int64_t valueCount);
     /// A field that is fetched when someone asks for it (FieldCache::fetch).
@@ -52,8 +61,6 @@ public:
 
 private:
     friend class FieldCache;
-    FieldStorage(std::int32_t type, std::int64_t valueCount)
-        : type_(type), valueCount_(valueCount) {}
 
     std::int32_t type_;
     bool loading_ = false;

@@ -15,8 +15,9 @@ bool addVariable(Call& call, QuorArgListHandle arguments) {
     std::string name = reader.text("Name");
     const bool isDeferred = reader.integerOr("DeferVarCreation", 0) == 1;
     const std::size_t zoneCount = data->zones().size();
-    const std::vector<std::int32_t> types = readTypes(
-        call, reader, zoneCount, std::vector<std::int32_t>(zoneCount, QuorFieldDataType_Float));
+    const std::vector<std::int32_t> types =
+        reader.has("VarDataType") ? readTypes(call, reader, zoneCount)
+                                  : std::vector<std::int32_t>(zoneCount, QuorFieldDataType_Float);
     if (!reader.ok() || types.size() != zoneCount)
         return false;
     std::vector<Field> fields(zoneCount);

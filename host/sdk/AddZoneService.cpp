@@ -75,9 +75,10 @@ bool readZone(Call& call, const DataSet& data, QuorArgListHandle arguments, NewZ
     zoneToAdd.parent = reader.integerOr("ParentZone", 0);
     zoneToAdd.connectShare = reader.integerOr("ConnectShareZone", 0);
     zoneToAdd.defersFields = reader.integerOr("DeferVarCreation", 0) == 1;
-    zoneToAdd.types =
-        readTypes(call, reader, data.variables().size(), inheritedTypes(data, zoneToAdd.parent));
-    return reader.ok() && zoneToAdd.types.size() == data.variables().size();
+    const std::size_t varCount = data.variables().size();
+    zoneToAdd.types = reader.has("VarDataType") ? readTypes(call, reader, varCount)
+                                                : inheritedTypes(data, zoneToAdd.parent);
+    return reader.ok() && zoneToAdd.types.size() == varCount;
 }
 
 bool checkNumbers(Call& call, const DataSet& data, NewZone& zoneToAdd) {

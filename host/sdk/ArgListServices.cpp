@@ -17,10 +17,11 @@ bool append(Call& call, QuorArgListHandle arguments, const char* key, Value valu
         return false;
     if (key == nullptr)
         return call.violate("key is null");
-    const auto isSameKey = [key](const GuestArgument& argument) { return argument.key == key; };
+    const std::string_view name = key;
+    const auto isSameKey = [name](const GuestArgument& argument) { return argument.key == name; };
     if (std::any_of(list->arguments.begin(), list->arguments.end(), isSameKey))
         return call.violate("the key " + Transcript::quoted(key) + " stands in the list already");
-    list->arguments.push_back({key, std::move(value)});
+    list->arguments.push_back({std::string(name), std::move(value)});
     return true;
 }
 

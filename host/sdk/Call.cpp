@@ -56,9 +56,10 @@ const Variable* Call::variable(std::int32_t number) {
 }
 
 Field* Call::field(std::int32_t zoneNumber, std::int32_t variableNumber) {
-    if (zone(zoneNumber) == nullptr || variable(variableNumber) == nullptr)
+    Zone* holder = zone(zoneNumber);
+    if (holder == nullptr || variable(variableNumber) == nullptr)
         return nullptr;
-    return host_.frame.dataSet()->field(zoneNumber, variableNumber);
+    return &holder->fields[static_cast<std::size_t>(variableNumber - 1)];
 }
 
 void Call::beginLine(std::initializer_list<std::string> arguments) {

@@ -1,5 +1,6 @@
 #include "sdk/FileNameTimes.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 
@@ -27,7 +28,9 @@ bool isAllDigits(std::string_view text) {
 
 // What of the path may hold the time.
 std::string_view searchedPart(std::string_view path) {
-    const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
+    const auto start = std::find_if(path.rbegin(), path.rend(), isSeparator);
+    const std::string_view name = path.substr(static_cast<std::size_t>(path.rend() - start));
     const std::size_t point = name.rfind('.');
     if (point == std::string_view::npos || isAllDigits(name.substr(point + 1)))
         return name;

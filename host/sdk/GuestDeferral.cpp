@@ -28,10 +28,7 @@ bool callGuest(const char* which, Callback callback) {
 
 } // namespace
 
-GuestDeferral::GuestDeferral(const FieldCallbacks& callbacks)
-    : callbacks_(callbacks), ownsBlock_(hostState().memory.contains(callbacks.clientData)) {
-    hostState().clientDataBlocks += ownsBlock_ ? 1 : 0;
-}
+GuestDeferral::GuestDeferral(const FieldCallbacks& callbacks) : callbacks_(callbacks) {}
 
 GuestDeferral::~GuestDeferral() {
     const QuorFieldHandle handle = handleFor({});
@@ -39,9 +36,7 @@ GuestDeferral::~GuestDeferral() {
         callbacks_.cleanUp(handle);
         return true;
     });
-    HostState& host = hostState();
-    host.clientDataBlocks -= ownsBlock_ ? 1 : 0;
-    host.handles.of(handle).remove(handle);
+    hostState().handles.of(handle).remove(handle);
 }
 
 bool GuestDeferral::load(FieldStorage& storage) {

@@ -28,13 +28,13 @@ public:
     bool mayUnload(FieldStorage& storage) override;
 
     const void* code() const override;
+    const void* clientData() const override { return callbacks_.clientData; }
 
 private:
     QuorFieldHandle handleFor(std::weak_ptr<FieldStorage> storage);
 
     FieldCallbacks callbacks_;
     QuorFieldHandle handle_ = nullptr; // made when it is first needed
-    bool ownsBlock_;                   // the client data is a block of host memory
 };
 
 } // namespace quorvia::host

@@ -1,4 +1,6 @@
 // Blocks of host memory.
+#include <algorithm>
+
 #include "sdk/Call.h"
 
 using namespace quorvia::host;
@@ -60,9 +62,10 @@ char* QuorUtilGetBasePath(const char* path) {
         return call.result<char*>(nullptr);
     }
     const std::string_view whole = path;
-    const std::size_t separator = whole.find_last_of("/\\");
+    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
+    const auto end = std::find_if(whole.rbegin(), whole.rend(), isSeparator);
     const std::string_view directory =
-        separator == std::string_view::npos ? "" : whole.substr(0, separator + 1);
+        whole.substr(0, static_cast<std::size_t>(whole.rend() - end));
     return call.result(call.host().memory.copyText(call.operation(), directory));
 }
 

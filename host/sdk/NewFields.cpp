@@ -5,13 +5,10 @@
 
 namespace quorvia::host {
 
-std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::size_t count,
-                                    std::vector<std::int32_t> otherwise) {
+std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::size_t count) {
     const void* array = reader.arrayOrNull("VarDataType");
-    if (array == nullptr)
-        return otherwise;
     std::vector<std::int32_t> types(count);
-    if (count > 0)
+    if (array != nullptr && count > 0)
         std::memcpy(types.data(), array, count * sizeof(std::int32_t));
     const auto wrong = std::find_if(types.begin(), types.end(),
                                     [](std::int32_t type) { return valueWidth(type) == 0; });

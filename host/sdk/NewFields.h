@@ -9,10 +9,9 @@
 
 namespace quorvia::host {
 
-/// The types in the argument "VarDataType", `count` of them; `otherwise` if the argument is absent.
-/// Empty, and a violation, if one is no type of a field (`count` is at least 1 in that case).
-std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::size_t count,
-                                    std::vector<std::int32_t> otherwise);
+/// The types in the argument "VarDataType", which is there, `count` of them. Empty, and a
+/// violation, if one is no type of a field (`count` is at least 1 in that case).
+std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::size_t count);
 
 /// Gives the field the storage that "DeferVarCreation" asks for: none (1), or zeros. False: no
 /// memory.

@@ -14,7 +14,7 @@ bool addMember(Call& call, QuorSetHandle set, std::int64_t member) {
     // No breach of the contract: numbers out of a file or from a user may come here.
     if (member < 1 || member > largestMember)
         return call.refuse(std::to_string(member) + " can't be a member of a set");
-    found->members.insert(member);
+    found->members.insert(found->members.end(), member); // most guests add in ascending order
     return true;
 }
 

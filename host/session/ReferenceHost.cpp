@@ -3,9 +3,9 @@
 #include <stdexcept>
 #include <utility>
 
+#include "session/Import.h"
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
-#include "session/Import.h"
 
 namespace quorvia::host {
 
@@ -38,22 +38,22 @@ std::string joinedErrors(const std::vector<Message>& messages, std::size_t first
 
 } // namespace
 
+// Never destroyed, like the host itself: guests that are linked in may still give things back after
+// main has ended.
 HostState& hostState() {
-    return ReferenceHost::instance().state();
+    static HostState* const state = new HostState;
+    return *state;
 }
 
-// Never destroyed: guests that are linked in may still give things back after main has ended.
+ReferenceHost::ReferenceHost() : state_(hostState()) {}
+
 ReferenceHost& ReferenceHost::instance() {
     static ReferenceHost* const host = new ReferenceHost;
     return *host;
 }
 
-ReferenceHost::ReferenceHost() : state_(std::make_unique<HostState>()) {}
-
-ReferenceHost::~ReferenceHost() = default;
-
 void ReferenceHost::reset() {
-    HostState& host = *state_;
+    HostState& host = state_;
     host.frame.startAnew();
     host.cache.dropAll();
     host.settings = {};
@@ -72,75 +72,75 @@ void ReferenceHost::reset() {
 }
 
 void ReferenceHost::clearLog() {
-    state_->log = {};
+    state_.log = {};
 }
 
 HostSettings& ReferenceHost::settings() {
-    return state_->settings;
+    return state_.settings;
 }
 
 const HostLog& ReferenceHost::log() const {
-    return state_->log;
+    return state_.log;
 }
 
 Frame& ReferenceHost::frame() {
-    return state_->frame;
+    return state_.frame;
 }
 
 std::int64_t ReferenceHost::lockDepth() const {
-    return state_->lockDepth();
+    return state_.lockDepth();
 }
 
 std::int64_t ReferenceHost::fetchedBytes() const {
-    return state_->cache.bytesInMemory();
+    return state_.cache.bytesInMemory();
 }
 
 std::vector<std::string> ReferenceHost::loaderNames() const {
     std::vector<std::string> names;
-    for (const Loader& loader : state_->loaders)
+    for (const Loader& loader : state_.loaders)
         names.push_back(loader.name);
     return names;
 }
 
 LoadResult ReferenceHost::importSelection(const std::vector<std::string>& files, bool advanced,
                                           bool append) {
-    return runSelection(*state_, files, advanced, append);
+    return runSelection(state_, files, advanced, append);
 }
 
 LoadResult ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
-    return runInstructions(*state_, instructions);
+    return runInstructions(state_, instructions);
 }
 
 void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
-    state_->answers = std::move(answers);
-    state_->laterAnswers = afterwards;
+    state_.answers = std::move(answers);
+    state_.laterAnswers = afterwards;
 }
 
 void ReferenceHost::setFileChoices(std::deque<std::vector<std::string>> choices) {
-    state_->fileChoices = std::move(choices);
+    state_.fileChoices = std::move(choices);
 }
 
 void ReferenceHost::requestInterrupt() noexcept {
-    state_->faults.interrupt();
+    state_.faults.interrupt();
 }
 
 bool ReferenceHost::interruptRequested() const noexcept {
-    return state_->faults.isInterrupted();
+    return state_.faults.isInterrupted();
 }
 
 FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
     FetchResult result;
-    const DataSet* data = state_->frame.dataSet();
+    const DataSet* data = state_.frame.dataSet();
     const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
     if (field == nullptr || field->storage == nullptr) {
         result.error = field == nullptr ? "There is no such field." : "The field is empty.";
         return result;
     }
     const std::shared_ptr<FieldStorage> storage = field->storage;
-    const std::size_t messagesBefore = state_->log.messages.size();
-    result.ok = state_->fetch(*storage);
+    const std::size_t messagesBefore = state_.log.messages.size();
+    result.ok = state_.fetch(*storage);
     if (!result.ok) {
-        result.error = joinedErrors(state_->log.messages, messagesBefore);
+        result.error = joinedErrors(state_.log.messages, messagesBefore);
         if (result.error.empty())
             result.error = "The values could not be read.";
         return result;
@@ -152,39 +152,39 @@ FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
 }
 
 bool ReferenceHost::unload(std::int32_t zone, std::int32_t variable) {
-    const DataSet* data = state_->frame.dataSet();
+    const DataSet* data = state_.frame.dataSet();
     const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
-    return field != nullptr && field->storage != nullptr && state_->cache.drop(*field->storage);
+    return field != nullptr && field->storage != nullptr && state_.cache.drop(*field->storage);
 }
 
 void ReferenceHost::unloadAll() {
-    state_->cache.dropAll();
+    state_.cache.dropAll();
 }
 
 void ReferenceHost::sendStateChange(std::int32_t code) {
-    const std::vector<QuorStateChangeCallback> callbacks = state_->stateChangeCallbacks;
+    const std::vector<QuorStateChangeCallback> callbacks = state_.stateChangeCallbacks;
     for (const QuorStateChangeCallback callback : callbacks)
         callback(code);
 }
 
 void ReferenceHost::failCall(std::string_view operation, std::int64_t n) {
-    state_->faults.failCall(operationNamed(operation), n);
+    state_.faults.failCall(operationNamed(operation), n);
 }
 
 std::int64_t ReferenceHost::callCount(std::string_view operation) const {
-    return state_->faults.calls(operationNamed(operation));
+    return state_.faults.calls(operationNamed(operation));
 }
 
 void ReferenceHost::interruptAtStep(std::int64_t n) {
-    state_->faults.interruptAtStep(n);
+    state_.faults.interruptAtStep(n);
 }
 
 std::int64_t ReferenceHost::stepCount() const {
-    return state_->faults.steps();
+    return state_.faults.steps();
 }
 
 void ReferenceHost::clearFaults() {
-    state_->faults.clear();
+    state_.faults.clear();
 }
 
 std::vector<std::string> ReferenceHost::operationNames() {
@@ -197,13 +197,13 @@ std::vector<std::string> ReferenceHost::operationsThatCanFail() {
 }
 
 void ReferenceHost::recordTranscript(bool on) {
-    state_->transcript.turnOn(on);
+    state_.transcript.turnOn(on);
     if (on)
-        state_->log.transcript.clear();
+        state_.log.transcript.clear();
 }
 
 void ReferenceHost::checkForLeaks() {
-    GuestWatch::sinceRest(*state_, state_->resetSerial).finish();
+    GuestWatch::sinceRest(state_, state_.resetSerial).finish();
 }
 
 } // namespace quorvia::host

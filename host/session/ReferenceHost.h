@@ -42,8 +42,8 @@ public:
 
     /// Everything as at the start: the data set is discarded (with its clean-up callbacks),
     /// settings, log, answers, faults and counts are new, unique ids begin again, and the lock is
-    /// free. Loaders, state-change callbacks and the handles of guests stay; what is held from before
-    /// is no concern of later leak checks.
+    /// free. Loaders, state-change callbacks and the handles of guests stay; what is held from
+    /// before is no concern of later leak checks.
     void reset();
     /// Empties the log alone.
     void clearLog();
@@ -114,12 +114,11 @@ public:
     void checkForLeaks();
 
     /// For the services and the session; not for programs.
-    HostState& state() { return *state_; }
+    HostState& state() { return state_; }
 
 private:
     ReferenceHost();
-    ~ReferenceHost();
-    std::unique_ptr<HostState> state_;
+    HostState& state_;
 };
 
 } // namespace quorvia::host

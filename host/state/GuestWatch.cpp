@@ -1,5 +1,6 @@
 #include "state/GuestWatch.h"
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <utility>
@@ -50,7 +51,7 @@ void GuestWatch::reportHandles() {
 void GuestWatch::reportBlocks() {
     // What hangs on client data is held rightly until the clean-up, and the host can't see how far
     // that reaches.
-    if (host_.clientDataBlocks > 0)
+    if (isAnyBlockClientData())
         return;
     struct Sum {
         int count = 0;
@@ -66,6 +67,19 @@ void GuestWatch::reportBlocks() {
         host_.addViolation(source.first + ": " + std::to_string(sum.count) +
                            " not given back, labelled \"" + source.second + "\" (" +
                            std::to_string(sum.bytes) + " bytes)");
+}
+
+bool GuestWatch::isAnyBlockClientData() const {
+    const DataSet* data = host_.frame.dataSet();
+    if (data == nullptr)
+        return false;
+    const auto holdsBlock = [this](const Field& field) {
+        const Deferral* deferral = field.storage != nullptr ? field.storage->deferral() : nullptr;
+        return deferral != nullptr && host_.memory.contains(deferral->clientData());
+    };
+    return std::any_of(data->zones().begin(), data->zones().end(), [&](const auto& zone) {
+        return std::any_of(zone->fields.begin(), zone->fields.end(), holdsBlock);
+    });
 }
 
 void GuestWatch::checkBalance(std::int64_t& now, std::int64_t before, const char* what) {

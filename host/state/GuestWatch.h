@@ -33,6 +33,7 @@ private:
 
     void reportHandles();
     void reportBlocks();
+    bool isAnyBlockClientData() const;
     /// `now` is put right; an object that still lives is only told, for it will end by itself.
     void checkBalance(std::int64_t& now, std::int64_t before, const char* what);
     void checkEnded(std::int64_t now, std::int64_t before, const char* what);

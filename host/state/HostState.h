@@ -46,7 +46,6 @@ struct HostState {
     std::int64_t openProgressBars = 0;
     std::int64_t timeDeferrers = 0;
     bool solutionTimesChanged = false; // and nobody was told yet
-    std::int64_t clientDataBlocks = 0; // deferrals whose client data is a block of host memory
     std::string lastError;
 
     std::vector<Loader> loaders;

@@ -68,13 +68,13 @@ public:
         if (takesGridFromEarlierZones() && !shareGrid())
             return false;
         context_.firstVar = variablesAheadOfSolution() + 1;
-        if (!hasVariablesFor(file) || !allocateSolutionOffsets(file) || !fitsZones(file, request_))
+        if (!hasVariablesFor(file) || !fitsZones(file, request_))
             return false;
         if (!isPrimary() && options_.solutionsShareStructure && canReuse(file))
             return takeOverOffsets(file) &&
                    reuseSolutionOffsets(file, options_, request_.firstZoneOfLoad,
                                         request_.firstZone, variablesAheadOfSolution());
-        return scanFile(file, options_.gridSet, context_);
+        return allocateSolutionOffsets(file) && scanFile(file, options_.gridSet, context_);
     }
 
     bool setUpFunctionFiles() {

@@ -1,5 +1,6 @@
 // Later file sets: grids shared with the first one, and fields registered at the positions that the
 // scan of the first file noted.
+#include <memory>
 #include <optional>
 
 #include "dataset/FileSetSetup.h"
@@ -48,7 +49,9 @@ class GridReuse {
 public:
     GridReuse(const Plot3DFile_s& layout, const Plot3DFile_s& source, std::int32_t grid,
               std::int32_t hostZone)
-        : layout_(layout), source_(source), grid_(grid), hostZone_(hostZone) {}
+        : layout_(layout), source_(source), grid_(grid), hostZone_(hostZone),
+          variable_(Plot3DVarRepo::instance().getVariable(source)),
+          points_(countPoints(layout, grid)) {}
 
     bool registerVariables(std::int32_t varBase) const {
         for (std::int32_t v = 1; v <= layout_.numVars; ++v)
@@ -67,16 +70,16 @@ public:
 private:
     bool registerField(std::int32_t shownVar, std::int32_t var,
                        const std::optional<std::int64_t>& offset) const {
-        const std::optional<std::int64_t> points = countPoints(layout_, grid_);
-        return stepForField(hostZone_, shownVar, grid_ + 1, source_) && offset && points &&
-               registerLodVariable(Plot3DVarRepo::instance().getVariable(source_), hostZone_, var,
-                                   *offset, *points);
+        return stepForField(hostZone_, shownVar, grid_ + 1, source_) && offset && points_ &&
+               registerLodVariable(variable_, hostZone_, var, *offset, *points_);
     }
 
     const Plot3DFile_s& layout_; // tells the positions
     const Plot3DFile_s& source_; // holds the values
     std::int32_t grid_;          // from 0
     std::int32_t hostZone_;
+    std::shared_ptr<Plot3DVariable_s> variable_;
+    std::optional<std::int64_t> points_;
 };
 
 bool rereadScalarsAt(Plot3DFile_s& file, std::int64_t selected, std::int32_t zone,

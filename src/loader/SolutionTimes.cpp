@@ -63,7 +63,8 @@ void extractSolutionTimes(Plot3DLoadOptions_s& options) {
         return;
     std::int64_t index = 0;
     for (const std::string& name : names)
-        options.solutionTimes.emplace(name, times[index++]); // a name's first time stays
+        options.solutionTimes.emplace_hint(options.solutionTimes.end(), name,
+                                           times[index++]); // a name's first time stays
 }
 
 bool checkSolutionTimes(std::int32_t firstZone, Plot3DLoadOptions_s& options,

@@ -1,5 +1,6 @@
 #include "plot3dfile/Plot3DFileHandler.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -14,10 +15,11 @@ std::string nameOf(const Plot3DFile_s* file) {
 
 /// The name behind its last separator. A separator in the first place is kept.
 std::string baseName(const std::string& path) {
-    const std::size_t separator = path.find_last_of("/\\:");
-    if (separator == std::string::npos || separator == 0)
-        return path;
-    return path.substr(separator + 1);
+    const auto isSeparator = [](char letter) {
+        return letter == '/' || letter == '\\' || letter == ':';
+    };
+    const auto name = std::find_if(path.rbegin(), path.rend(), isSeparator).base();
+    return name - path.begin() <= 1 ? path : std::string(name, path.end());
 }
 
 Plot3DFile_s* firstOf(const std::vector<Plot3DFile_s*>& files) {

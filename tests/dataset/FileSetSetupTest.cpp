@@ -268,7 +268,6 @@ TEST_F(FileSetSetup, AsksForItsArraysUnderTheirLabels) {
               (Texts{"Parent Zone Array", "Primary Grid Offset Array",
                      "Primary IBlank Offset Array", "Primary Solution Offset Array",
                      "Primary Solution Aux Data Offset Array", "Primary Function Offset Array",
-                     "Primary Solution Offset Array", "Primary Solution Aux Data Offset Array",
                      "Subsequent Offset Array", "Aux Data Offset Array"}));
 }
 
