@@ -1,7 +1,5 @@
 #include "dataset/SetupProgress.h"
 
-#include <array>
-#include <charconv>
 #include <string>
 
 #include "dataset/CurrentTask.h"
@@ -13,12 +11,11 @@ namespace {
 
 // Appends a number, which is positive, with at least three digits.
 void appendNumber(std::string& text, std::int32_t number) {
-    std::array<char, 12> digits;
-    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    const auto length = static_cast<std::size_t>(end - digits.data());
-    if (length < 3)
-        text.append(3 - length, '0');
-    text.append(digits.data(), length);
+    if (number < 100)
+        text += '0';
+    if (number < 10)
+        text += '0';
+    text += std::to_string(number);
 }
 
 } // namespace
