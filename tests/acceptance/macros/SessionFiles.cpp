@@ -35,6 +35,26 @@ std::vector<std::int32_t> indicesOf(const Range_s& range, std::int32_t points) {
     return indices;
 }
 
+std::int32_t iBlankAt(std::int32_t i) {
+    return i % 2;
+}
+
+template <typename Value>
+bool holdsAs(const nlohmann::ordered_json& field, const FieldOfFile_s& expected,
+             QuorFieldDataType_e type) {
+    std::vector<Value> values;
+    for (const std::int32_t k : indicesOf(expected.k, expected.dims.k))
+        for (const std::int32_t j : indicesOf(expected.j, expected.dims.j))
+            for (const std::int32_t i : indicesOf(expected.i, expected.dims.i))
+                values.push_back(static_cast<Value>(
+                    expected.form == FieldForm_e::IBlank
+                        ? iBlankAt(i)
+                        : placeValue(expected.grid, expected.variable, i, j, k) + expected.shift));
+    const auto count = static_cast<std::int64_t>(values.size());
+    const std::uint32_t crc32 = host::describeValues(type, values.data(), count).crc32;
+    return field["count"] == count && field.value("crc32", "") == fmt::format("{:08x}", crc32);
+}
+
 } // namespace
 
 std::string SessionFiles::grid(const std::string& name, bool hasIBlank) const {
@@ -42,7 +62,7 @@ std::string SessionFiles::grid(const std::string& name, bool hasIBlank) const {
     FileDescription_s description = describeFile(*this, FileKind_e::Grid, unshifted);
     description.hasIBlank = hasIBlank;
     description.iblank = [](std::int32_t, std::int32_t i, std::int32_t, std::int32_t) {
-        return i % 2;
+        return iBlankAt(i);
     };
     return write(name, description);
 }
@@ -70,16 +90,15 @@ std::string SessionFiles::write(const std::string& name,
 }
 
 bool holds(const nlohmann::ordered_json& field, const FieldOfFile_s& expected) {
-    std::vector<float> values;
-    for (const std::int32_t k : indicesOf(expected.k, expected.dims.k))
-        for (const std::int32_t j : indicesOf(expected.j, expected.dims.j))
-            for (const std::int32_t i : indicesOf(expected.i, expected.dims.i))
-                values.push_back(static_cast<float>(
-                    placeValue(expected.grid, expected.variable, i, j, k) + expected.shift));
-    const auto count = static_cast<std::int64_t>(values.size());
-    const std::uint32_t crc32 =
-        host::describeValues(QuorFieldDataType_Float, values.data(), count).crc32;
-    return field["count"] == count && field.value("crc32", "") == fmt::format("{:08x}", crc32);
+    switch (expected.form) {
+    case FieldForm_e::Single:
+        return holdsAs<float>(field, expected, QuorFieldDataType_Float);
+    case FieldForm_e::Double:
+        return holdsAs<double>(field, expected, QuorFieldDataType_Double);
+    case FieldForm_e::IBlank:
+        return holdsAs<std::int32_t>(field, expected, QuorFieldDataType_Int32);
+    }
+    return false;
 }
 
 } // namespace quorvia::testsupport

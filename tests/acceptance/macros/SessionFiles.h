@@ -43,8 +43,10 @@ struct Range_s {
     std::int32_t skip = 1;
 };
 
+enum class FieldForm_e { Single, Double, IBlank };
+
 /// What a field of `grid` should hold: the values of the file's `variable`, both from 0, at the
-/// points of the three ranges, in 32-bit reals.
+/// points of the three ranges. Of the form IBlank the variable does not matter.
 struct FieldOfFile_s {
     plot3dwriter::GridDims_s dims;
     std::int32_t grid = 0;
@@ -53,6 +55,7 @@ struct FieldOfFile_s {
     Range_s i = {};
     Range_s j = {};
     Range_s k = {};
+    FieldForm_e form = FieldForm_e::Single;
 };
 
 /// Whether the field of an outcome has as many values as expected, with their CRC-32.
