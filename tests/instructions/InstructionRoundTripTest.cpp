@@ -300,8 +300,7 @@ TEST_F(RandomInstructions, MeanTheSameOnceTheyAreWritten) {
         ASSERT_TRUE(parse(list)) << ::testing::PrintToString(list)
                                  << ::testing::PrintToString(messages());
         Plot3DLoadOptions_s first = std::move(options_);
-        options_ = Plot3DLoadOptions_s();
-        setLoadOptionDefaults(options_);
+        options_ = defaults();
         EXPECT_TRUE(parseWritten(first)) << ::testing::PrintToString(list);
         expectSame(first);
         releaseLoadOptions(first);

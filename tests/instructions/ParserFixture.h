@@ -40,7 +40,6 @@ protected:
 
     quorutildataio::Plot3DLoadOptions_s options_ = defaults();
 
-private:
     static quorutildataio::Plot3DLoadOptions_s defaults() {
         quorutildataio::Plot3DLoadOptions_s options;
         quorutildataio::setLoadOptionDefaults(options);
