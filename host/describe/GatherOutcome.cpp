@@ -25,7 +25,7 @@ MessageOutcome_e kindOf(MessageKind kind) {
 }
 
 void describeEvents(const HostLog& log, Outcome_s& outcome) {
-    outcome.progress = log.progress;
+    outcome.progress = log.progress.texts();
     outcome.instructions = log.instructions;
     for (const StateChange& change : log.stateChanges)
         outcome.stateChanges.push_back({change.code, change.members});

@@ -47,7 +47,7 @@ ProgressBar::~ProgressBar() {
 
 void ProgressBar::showText(const std::string& text) {
     text_ = text;
-    hostState().log.progress.push_back(text);
+    hostState().log.progress.add(text);
     showFraction();
 }
 

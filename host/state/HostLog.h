@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "state/TextLog.h"
+
 namespace quorvia::host {
 
 enum class MessageKind { Error, Information, Question };
@@ -32,7 +34,7 @@ struct UndoEvent {
 
 struct HostLog {
     std::vector<Message> messages;
-    std::vector<std::string> progress;     // every text that a progress bar showed
+    TextLog progress;                      // every text that a progress bar showed
     std::vector<std::string> instructions; // the list handed over last, also when it was refused
     bool instructionsHandedOver = false;   // some list was handed over and the host took it
     std::vector<StateChange> stateChanges; // told by the guest

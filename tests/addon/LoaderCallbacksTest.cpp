@@ -18,7 +18,7 @@ protected:
 TEST_F(LoaderCallbacks, BeginNoLoadOfInstructionsThatDoNotParse) {
     EXPECT_FALSE(importInstructions({"STANDARDSYNTAX", "1.0", "FILEGRIDSET", "1-3"}));
     EXPECT_EQ(messages(), Texts{"Must have at least one grid, solution or function file."});
-    EXPECT_EQ(host().log().progress, Texts());
+    EXPECT_EQ(host().log().progress.texts(), Texts());
     EXPECT_EQ(host().callCount("createTaskProgressBar"), 0);
 }
 

@@ -68,9 +68,10 @@ INSTANTIATE_TEST_SUITE_P(All, ConnectivityInEveryForm,
 TEST_F(Connectivity, IsAnnounced) {
     ASSERT_TRUE(load({step(&write("x", describeGrid(surface, Layout_e::Unstructured)))}));
     const std::string path = options.gridFiles[0];
-    EXPECT_EQ(host().log().progress.back(), "Loading Connectivity for Zone=001, from Grid 001 in "
-                                            "..." +
-                                                path.substr(path.size() - 17) + ".");
+    EXPECT_EQ(host().log().progress.texts().back(),
+              "Loading Connectivity for Zone=001, from Grid 001 in "
+              "..." +
+                  path.substr(path.size() - 17) + ".");
 }
 
 TEST_F(Connectivity, RefusesNodesOutsideTheGrid) {

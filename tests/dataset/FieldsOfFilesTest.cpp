@@ -158,7 +158,7 @@ TEST_F(FieldsOfFiles, OfUnstructuredGridsTakeNoRange) {
 TEST_F(FieldsOfFiles, AreAnnouncedWithTheTailOfTheFilesName) {
     const std::string name = std::string(150, 'n') + "0123456789.abcdef";
     ASSERT_TRUE(load({step(&write(name, describeGrid(oneGrid)))}));
-    EXPECT_EQ(host().log().progress,
+    EXPECT_EQ(host().log().progress.texts(),
               (Texts{"Setting up Zone=001, Var=001 from Grid 001 in ...0123456789.abcdef",
                      "Setting up Zone=001, Var=002 from Grid 001 in ...0123456789.abcdef",
                      "Setting up Zone=001, Var=003 from Grid 001 in ...0123456789.abcdef"}));

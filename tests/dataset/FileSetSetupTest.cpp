@@ -81,7 +81,7 @@ TEST_F(FileSetSetup, AnnouncesFieldsAtPositionsOfTheFirstByTheirPlaceInTheFile) 
     Plot3DFile_s& q1 = write("q1", solutionAt(oneGrid, 1));
     ASSERT_TRUE(
         load({step(&x, &q1), step(&x, &write("0123456789.later", solutionAt(oneGrid, 2)))}));
-    EXPECT_EQ(host().log().progress.back(),
+    EXPECT_EQ(host().log().progress.texts().back(),
               "Setting up Zone=002, Var=005 from Grid 001 in .../0123456789.later");
 }
 

@@ -238,7 +238,7 @@ TEST_F(ExistingZones, ThatAreDeletedAreAnnounced) {
     const Plot3DFileHandler handler = step(nullptr, &solution("q", two));
     currentTask = createTaskProgressBar(1);
     adjustExistingZones(2, handler, options, existingZoneCount);
-    EXPECT_EQ(host().log().progress, Texts{"Adjusting existing zones"});
+    EXPECT_EQ(host().log().progress.texts(), Texts{"Adjusting existing zones"});
 }
 
 TEST_F(ExistingZones, TakeTheNamesOfSelectedGrids) {

@@ -14,7 +14,7 @@ TEST_F(ProgressTest, TextsAreKeptInOrder) {
     EXPECT_TRUE(bar_->setMessage("Preparing"));
     EXPECT_TRUE(bar_->step());
     EXPECT_TRUE(bar_->stepWithMessage("Cleaning up..."));
-    EXPECT_EQ(host().log().progress, (Texts{"Preparing", "Cleaning up..."}));
+    EXPECT_EQ(host().log().progress.texts(), (Texts{"Preparing", "Cleaning up..."}));
 }
 
 TEST_F(ProgressTest, InterruptsAtTheNthStepAndAllAfterIt) {

@@ -145,7 +145,8 @@ Texts LoaderTest::messages() {
 }
 
 bool LoaderTest::showedProgress(const std::string& text) {
-    return std::find(progress().begin(), progress().end(), text) != progress().end();
+    const Texts shown = progress();
+    return std::find(shown.begin(), shown.end(), text) != shown.end();
 }
 
 std::int32_t LoaderTest::zoneCount() {

@@ -60,7 +60,7 @@ protected:
 
     // What the user saw.
     static Texts messages();
-    static const Texts& progress() { return host().log().progress; }
+    static Texts progress() { return host().log().progress.texts(); }
     static bool showedProgress(const std::string& text);
 
     // What is in the frame.

@@ -103,7 +103,7 @@ protected:
     }
 
     static bool showed(const std::string& progress) {
-        const Texts& shown = host().log().progress;
+        const Texts shown = host().log().progress.texts();
         return std::find(shown.begin(), shown.end(), progress) != shown.end();
     }
 
