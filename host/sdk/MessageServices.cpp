@@ -5,15 +5,6 @@ using namespace quorvia::host;
 
 namespace {
 
-// The answer that the user has ready.
-bool nextAnswer(HostState& host) {
-    if (host.answers.empty())
-        return host.laterAnswers;
-    const bool answer = host.answers.front();
-    host.answers.pop_front();
-    return answer;
-}
-
 bool showBox(Call& call, const char* text, std::int32_t kind) {
     HostState& host = call.host();
     const bool isInformation = kind == QuorMessageBox_Information;
@@ -24,19 +15,14 @@ bool showBox(Call& call, const char* text, std::int32_t kind) {
         host.showMessage({MessageKind::Information, text, std::nullopt});
         return !call.fails();
     }
-    const bool answer = !call.fails() && nextAnswer(host);
+    const bool answer = !call.fails() && host.user->answer(text);
     host.showMessage({MessageKind::Question, text, answer});
     return answer;
 }
 
 // The files that the user picks; none for Cancel.
-std::vector<std::string> nextChoice(Call& call) {
-    std::deque<std::vector<std::string>>& choices = call.host().fileChoices;
-    if (call.fails() || choices.empty())
-        return {};
-    std::vector<std::string> choice = std::move(choices.front());
-    choices.pop_front();
-    return choice;
+std::vector<std::string> chosenFiles(Call& call, const FileRequest& request) {
+    return call.fails() ? std::vector<std::string>() : call.host().user->chooseFiles(request);
 }
 
 } // namespace
@@ -70,7 +56,8 @@ bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char*
     if (name == nullptr || dialogKind != 0 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *name = nullptr;
-    const std::vector<std::string> choice = nextChoice(call);
+    const std::vector<std::string> choice = chosenFiles(
+        call, {false, typeWord, defaultName != nullptr ? defaultName : "", filter});
     if (choice.empty())
         return call.result(false);
     *name = call.host().memory.copyText(call.operation(), choice.front());
@@ -86,7 +73,7 @@ bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* n
     if (names == nullptr || dialogKind != 1 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *names = nullptr;
-    const std::vector<std::string> choice = nextChoice(call);
+    const std::vector<std::string> choice = chosenFiles(call, {true, typeWord, "", filter});
     if (choice.empty())
         return call.result(false);
     GuestStringList list;
@@ -101,8 +88,10 @@ void QuorUtilHelp(const char* target, bool goToId, std::int32_t id) {
     Call call("QuorUtilHelp", target, goToId, id);
     if (target == nullptr || goToId || id != 0)
         call.violation("target is null, or the other arguments are not false and 0");
-    else
+    else {
         call.host().log.helpTargets.emplace_back(target);
+        call.host().user->showHelp(target);
+    }
 }
 
 } // extern "C"

@@ -60,6 +60,9 @@ void forgetCallbacksOf(HostState& host, const void* library) {
     host.stateChangeCallbacks.erase(std::remove_if(host.stateChangeCallbacks.begin(),
                                                    host.stateChangeCallbacks.end(), isCallback),
                                     host.stateChangeCallbacks.end());
+    host.toolkit.removeWhere([library](const Dialog& dialog) {
+        return dialog.maker != nullptr && libraryOf(dialog.maker) == library;
+    });
 }
 
 } // namespace

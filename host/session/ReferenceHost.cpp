@@ -65,9 +65,9 @@ void ReferenceHost::reset() {
     host.openUndoStates = 0;
     host.solutionTimesChanged = false;
     host.lastError.clear();
-    host.answers.clear();
-    host.laterAnswers = false;
-    host.fileChoices.clear();
+    host.toolkit.closeAll();
+    host.script = {};
+    host.user = &host.script;
     host.resetSerial = host.serials.last();
 }
 
@@ -112,12 +112,23 @@ LoadResult ReferenceHost::importInstructions(const std::vector<std::string>& ins
 }
 
 void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
-    state_.answers = std::move(answers);
-    state_.laterAnswers = afterwards;
+    state_.script.setAnswers(std::move(answers), afterwards);
 }
 
 void ReferenceHost::setFileChoices(std::deque<std::vector<std::string>> choices) {
-    state_.fileChoices = std::move(choices);
+    state_.script.setFileChoices(std::move(choices));
+}
+
+void ReferenceHost::setUser(User* user) {
+    state_.user = user != nullptr ? user : &state_.script;
+}
+
+ScriptedUser& ReferenceHost::script() {
+    return state_.script;
+}
+
+const Toolkit& ReferenceHost::toolkit() const {
+    return state_.toolkit;
 }
 
 void ReferenceHost::requestInterrupt() noexcept {

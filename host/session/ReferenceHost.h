@@ -13,6 +13,8 @@
 #include "model/Frame.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
+#include "toolkit/ScriptedUser.h"
+#include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
 
@@ -41,9 +43,10 @@ public:
     ReferenceHost& operator=(const ReferenceHost&) = delete;
 
     /// Everything as at the start: the data set is discarded (with its clean-up callbacks),
-    /// settings, log, answers, faults and counts are new, unique ids begin again, and the lock is
-    /// free. Loaders, state-change callbacks and the handles of guests stay; what is held from
-    /// before is no concern of later leak checks.
+    /// settings, log, script, faults and counts are new, unique ids begin again, the lock is free,
+    /// and the user is the scripted one. Loaders, state-change callbacks, dialogs (closed, with
+    /// their values) and the handles of guests stay; what is held from before is no concern of
+    /// later leak checks.
     void reset();
     /// Empties the log alone.
     void clearLog();
@@ -65,9 +68,15 @@ public:
     /// Hands the loader instructions, as a macro or a layout does.
     LoadResult importInstructions(const std::vector<std::string>& instructions);
 
-    /// Answers to the questions to come, in order; once they are used up, `afterwards` answers all.
+    /// Who answers the host and works with its dialogs: `user`, which must live on; null for the
+    /// scripted user, who does at first.
+    void setUser(User* user);
+    ScriptedUser& script();
+    /// The dialogs that guests have made.
+    const Toolkit& toolkit() const;
+    /// Of the scripted user: answers to the questions to come, in order; once they are used up, `afterwards` answers all.
     void setAnswers(std::deque<bool> answers, bool afterwards);
-    /// What the user picks in file dialogs, one entry for each; none left means Cancel.
+    /// What the scripted user picks in file dialogs, one entry for each; none left means Cancel.
     void setFileChoices(std::deque<std::vector<std::string>> choices);
     /// Stops the load or read that runs. Safe in a signal handler. It stands until an import ends,
     /// or until clearFaults or reset.

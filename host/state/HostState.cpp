@@ -10,9 +10,12 @@ bool HostState::fetch(FieldStorage& storage) {
 }
 
 void HostState::showMessage(Message message) {
+    const MessageKind kind = message.kind;
     log.messages.push_back(std::move(message));
     if (settings.messageObserver)
         settings.messageObserver(log.messages.back());
+    if (kind != MessageKind::Question)
+        user->read(log.messages.back().text, kind == MessageKind::Error);
 }
 
 void HostState::tellSolutionTimes() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <set>
 #include <string>
 #include <vector>
@@ -15,6 +14,8 @@
 #include "model/Frame.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
+#include "toolkit/ScriptedUser.h"
+#include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
 
@@ -50,9 +51,9 @@ struct HostState {
 
     std::vector<Loader> loaders;
     std::vector<QuorStateChangeCallback> stateChangeCallbacks;
-    std::deque<bool> answers;
-    bool laterAnswers = false;
-    std::deque<std::vector<std::string>> fileChoices;
+    Toolkit toolkit;
+    ScriptedUser script;
+    User* user = &script; // never null
 
     FieldCache cache; // outlives the frame, whose fields it counts
     Frame frame;
@@ -61,6 +62,7 @@ struct HostState {
     void addViolation(std::string text) { log.violations.push_back(std::move(text)); }
     /// Brings a field into memory, within the budget that is set now.
     bool fetch(FieldStorage& storage);
+    /// Logs the message; a text that only tells is shown to the user, a question was.
     void showMessage(Message message);
     void tellSolutionTimes();
 };

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -12,6 +13,9 @@
 namespace quorvia::host {
 
 enum class ControlKind { Frame, Label, Toggle, Button, List, TextField, RadioBox, OptionMenu };
+
+/// "frame", "label" and so on, "textField" for two words.
+std::string_view wordFor(ControlKind kind);
 
 /// In layout units, from the upper left corner of the dialog or page: x to the right, y down.
 /// Labels have no width and height (0).

@@ -39,11 +39,13 @@ struct Dialog {
     QuorGUICallback apply = nullptr;
     QuorGUICallback cancel = nullptr;
     QuorGUICallback help = nullptr;
+    QuorGUICallback maker =
+        nullptr; ///< any callback of the guest that made it; null if it has none
     std::optional<TabControl> tabs;
     std::vector<Control> controls;       ///< in the order in which they were made
     std::int32_t focus = QuorGUIId_None; ///< the control that gets the next key
-    std::int64_t launches = 0; ///< so far; the dialog is open from a launch until it is dropped
-    bool open = false;
+    bool open = false;                   ///< from a launch until it is dropped
+    std::int64_t lastLaunch = 0; ///< which launch of any dialog was its last, from 1; 0 for none
 };
 
 } // namespace quorvia::host

@@ -24,8 +24,7 @@ public:
     virtual ~User() = default;
 
     /// The next thing that the user does at the open dialog; waits until there is one. What can't
-    /// be done (a control that is not sensitive, or not on the dialog) is no answer: a window does
-    /// not offer it, and a script that wants it is wrong.
+    /// be done (a control that is not sensitive, or not on the front page) is passed over.
     virtual DialogAction nextAction(const Dialog& dialog) = 0;
     /// True for OK or Yes.
     virtual bool answer(const std::string& question) = 0;

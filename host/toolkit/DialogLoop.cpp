@@ -1,0 +1,192 @@
+#include "toolkit/DialogLoop.h"
+
+#include <utility>
+
+namespace quorvia::host {
+
+namespace {
+
+template <typename Callback, typename... Arguments>
+void callControl(const Control& control, Arguments... arguments) {
+    const auto* callback = std::get_if<Callback>(&control.callback);
+    if (callback != nullptr && *callback != nullptr)
+        (*callback)(arguments...);
+}
+
+void callValue(const Control& control, std::int32_t value) {
+    callControl<QuorGUIValueCallback, const std::int32_t*>(control, &value);
+}
+
+/// Does one action. A callback may add controls, which moves those that are there: each operation
+/// calls the guest last.
+class ActionAtDialog {
+public:
+    ActionAtDialog(Dialog& dialog, User& user) : dialog_(dialog), user_(user) {}
+
+    void operator()(const ShowPage& action) const {
+        TabControl& tabs = *dialog_.tabs;
+        if (tabs.frontPage == action.page)
+            return;
+        const std::int32_t left = std::exchange(tabs.frontPage, action.page);
+        user_.pageShown(dialog_);
+        const QuorGUIValueCallback activate = tabs.activate;
+        if (tabs.deactivate != nullptr)
+            tabs.deactivate(&left);
+        if (activate != nullptr)
+            activate(&action.page);
+    }
+    void operator()(const SetToggle& action) const { setValue(action.toggle, action.on ? 1 : 0); }
+    void operator()(const ChooseItem& action) const { setValue(action.control, action.item); }
+    void operator()(const PressButton& action) const {
+        callControl<QuorGUICallback>(*findControl(dialog_, action.button));
+    }
+    void operator()(const SelectItems& action) const {
+        Control& list = *findControl(dialog_, action.list);
+        list.selected = action.positions;
+        user_.controlChanged(dialog_, list);
+        callValue(list, list.selected.empty() ? 0 : list.selected.back());
+    }
+    void operator()(const TypeText& action) const {
+        Control& field = *findControl(dialog_, action.field);
+        field.text = action.text;
+        user_.controlChanged(dialog_, field);
+        callControl<QuorGUITextCallback, const char*>(field, action.text.c_str());
+    }
+    void operator()(const PressDialogButton& action) const {
+        if (const QuorGUICallback callback = callbackOf(action.button); callback != nullptr)
+            callback();
+        else if (action.button == DialogButton::Cancel)
+            drop(dialog_, user_);
+    }
+
+private:
+    void setValue(std::int32_t id, std::int32_t value) const {
+        Control& control = *findControl(dialog_, id);
+        control.value = value;
+        user_.controlChanged(dialog_, control);
+        callValue(control, value);
+    }
+    QuorGUICallback callbackOf(DialogButton button) const {
+        switch (button) {
+        case DialogButton::Ok:
+            return dialog_.ok;
+        case DialogButton::Apply:
+            return dialog_.apply;
+        case DialogButton::Cancel:
+            return dialog_.cancel;
+        case DialogButton::Help:
+            return dialog_.help;
+        }
+        return nullptr;
+    }
+
+    Dialog& dialog_;
+    User& user_;
+};
+
+class PossibleAtDialog {
+public:
+    explicit PossibleAtDialog(const Dialog& dialog) : dialog_(dialog) {}
+
+    std::string operator()(const ShowPage& action) const {
+        return findPage(dialog_, action.page) != nullptr ? "" : "the dialog has no such page";
+    }
+    std::string operator()(const SetToggle& action) const {
+        return use(action.toggle, {ControlKind::Toggle});
+    }
+    std::string operator()(const ChooseItem& action) const {
+        std::string why = use(action.control, {ControlKind::RadioBox, ControlKind::OptionMenu});
+        return why.empty() ? positions(action.control, {action.item}) : why;
+    }
+    std::string operator()(const PressButton& action) const {
+        return use(action.button, {ControlKind::Button});
+    }
+    std::string operator()(const SelectItems& action) const {
+        std::string why = use(action.list, {ControlKind::List});
+        if (!why.empty())
+            return why;
+        if (action.positions.size() > 1 && !findControl(dialog_, action.list)->allowsSeveral)
+            return "the list allows one item at a time";
+        return positions(action.list, action.positions);
+    }
+    std::string operator()(const TypeText& action) const {
+        return use(action.field, {ControlKind::TextField});
+    }
+    // Cancel is always there: it closes the window.
+    std::string operator()(const PressDialogButton& action) const {
+        const bool isThere = action.button == DialogButton::Cancel ||
+                             (action.button == DialogButton::Ok && dialog_.ok != nullptr) ||
+                             (action.button == DialogButton::Apply && dialog_.apply != nullptr) ||
+                             (action.button == DialogButton::Help && dialog_.help != nullptr);
+        return isThere ? "" : "the dialog has no such button";
+    }
+
+private:
+    std::string use(std::int32_t id, std::initializer_list<ControlKind> kinds) const {
+        const Control* control = findControl(dialog_, id);
+        if (control == nullptr)
+            return "the dialog has no such control";
+        bool isOfKind = false;
+        for (const ControlKind kind : kinds)
+            isOfKind |= control->kind == kind;
+        if (!isOfKind)
+            return "the control is of another kind";
+        if (!isInFront(dialog_, *control))
+            return "the control is on a page that is not in front";
+        return control->sensitive ? "" : "the control is not sensitive";
+    }
+    std::string positions(std::int32_t id, const std::vector<std::int32_t>& positions) const {
+        const auto count = static_cast<std::int64_t>(findControl(dialog_, id)->items.size());
+        std::int32_t last = 0;
+        for (const std::int32_t position : positions) {
+            if (position < 1 || position > count)
+                return "there is no item " + std::to_string(position);
+            if (position <= last)
+                return "the positions are not in ascending order";
+            last = position;
+        }
+        return "";
+    }
+
+    const Dialog& dialog_;
+};
+
+/// A dialog that an exception leaves can't be worked with any more.
+class ClosedAtTheEnd {
+public:
+    explicit ClosedAtTheEnd(Dialog& dialog) : dialog_(dialog) {}
+    ~ClosedAtTheEnd() { dialog_.open = false; }
+    ClosedAtTheEnd(const ClosedAtTheEnd&) = delete;
+    ClosedAtTheEnd& operator=(const ClosedAtTheEnd&) = delete;
+
+private:
+    Dialog& dialog_;
+};
+
+} // namespace
+
+std::string whyImpossible(const Dialog& dialog, const DialogAction& action) {
+    return std::visit(PossibleAtDialog(dialog), action);
+}
+
+void drop(Dialog& dialog, User& user) {
+    dialog.open = false;
+    user.dialogDropped(dialog);
+}
+
+void launch(Toolkit& toolkit, Dialog& dialog, User& user) {
+    const ClosedAtTheEnd closed(dialog);
+    toolkit.opened(dialog);
+    if (dialog.init != nullptr)
+        dialog.init();
+    if (dialog.open)
+        user.dialogShown(dialog);
+    while (dialog.open) {
+        const DialogAction action = user.nextAction(dialog);
+        // A window may have been used in the moment in which its control was greyed.
+        if (whyImpossible(dialog, action).empty())
+            std::visit(ActionAtDialog(dialog, user), action);
+    }
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,85 @@
+#include "toolkit/ScriptedUser.h"
+
+#include <utility>
+
+#include "toolkit/DialogLoop.h"
+
+namespace quorvia::host {
+
+namespace {
+
+constexpr PressDialogButton cancel{DialogButton::Cancel};
+
+} // namespace
+
+void ScriptedUser::setAnswers(std::deque<bool> answers, bool afterwards) {
+    answers_ = std::move(answers);
+    laterAnswers_ = afterwards;
+}
+
+void ScriptedUser::setFileChoices(std::deque<FileChoice> choices) {
+    fileChoices_ = std::move(choices);
+}
+
+void ScriptedUser::addToScript(std::vector<ScriptEntry> entries) {
+    for (ScriptEntry& entry : entries)
+        script_.push_back(std::move(entry));
+}
+
+void ScriptedUser::clearScript() {
+    script_.clear();
+    problem_.clear();
+    cancelledDialogs_ = 0;
+}
+
+ScriptEntry ScriptedUser::takeEntry() {
+    ScriptEntry entry = std::move(script_.front());
+    script_.pop_front();
+    return entry;
+}
+
+DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
+    while (!script_.empty()) {
+        ScriptEntry entry = takeEntry();
+        if (FileChoice* choice = std::get_if<FileChoice>(&entry)) {
+            fileChoices_.push_back(std::move(*choice));
+            continue;
+        }
+        DialogMove move = std::get<DialogStep>(entry)(dialog);
+        if (move.action.has_value() && move.problem.empty())
+            move.problem = whyImpossible(dialog, *move.action);
+        if (!move.problem.empty()) {
+            script_.clear();
+            problem_ = std::move(move.problem);
+            return cancel;
+        }
+        if (move.action.has_value())
+            return *std::move(move.action);
+    }
+    if (problem_.empty())
+        ++cancelledDialogs_;
+    return cancel;
+}
+
+bool ScriptedUser::answer(const std::string& question) {
+    (void)question; // the script answers in the order of the questions
+    if (answers_.empty())
+        return laterAnswers_;
+    const bool answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
+FileChoice ScriptedUser::chooseFiles(const FileRequest& request) {
+    (void)request; // likewise
+    if (fileChoices_.empty() && !script_.empty() &&
+        std::holds_alternative<FileChoice>(script_.front()))
+        return std::get<FileChoice>(takeEntry());
+    if (fileChoices_.empty())
+        return {};
+    FileChoice choice = std::move(fileChoices_.front());
+    fileChoices_.pop_front();
+    return choice;
+}
+
+} // namespace quorvia::host

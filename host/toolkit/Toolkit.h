@@ -1,0 +1,61 @@
+// All dialogs that guests have made, with their controls. They live as long as the host, or until
+// the guest's library goes; identifiers count from 1 over dialogs, tab controls, pages and controls
+// alike, and none comes twice.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+
+#include "toolkit/Dialog.h"
+
+namespace quorvia::host {
+
+class Toolkit {
+public:
+    /// Takes the dialog in and gives it its identifier.
+    std::int32_t add(Dialog dialog);
+    /// `dialog` must be one of this toolkit's, without tabs so far. Gives the tab control's
+    /// identifier.
+    std::int32_t addTabs(Dialog& dialog, TabControl tabs);
+    std::int32_t addPage(TabControl& tabs, std::string caption);
+    /// `dialog` must hold the control's parent.
+    std::int32_t addControl(Dialog& dialog, Control control);
+
+    /// Null if there is none. Dialogs stay where they are; controls move when one is added.
+    Dialog* dialog(std::int32_t id);
+    Dialog* dialogWithTabs(std::int32_t tabs);
+    /// The dialog that is the parent, or has it as a page.
+    Dialog* dialogOfParent(std::int32_t parent);
+    Dialog* dialogWithControl(std::int32_t control);
+
+    /// The dialog that was launched last of those that are open; null if none is.
+    const Dialog* front() const;
+    /// In the order in which they were made.
+    const std::deque<Dialog>& dialogs() const { return dialogs_; }
+
+    void opened(Dialog& dialog);
+    void closeAll();
+    /// Forgets the dialogs for which `isGone` holds.
+    void removeWhere(const std::function<bool(const Dialog&)>& isGone);
+
+private:
+    std::int32_t nextId() { return ++lastId_; }
+
+    std::deque<Dialog> dialogs_;
+    std::int32_t lastId_ = 0;
+    std::int64_t launches_ = 0; // of all dialogs
+};
+
+/// Null if the dialog has no such control.
+const Control* findControl(const Dialog& dialog, std::int32_t id);
+Control* findControl(Dialog& dialog, std::int32_t id);
+
+/// Null if the dialog has no such page.
+const Page* findPage(const Dialog& dialog, std::int32_t id);
+
+/// Whether the user sees the control once the dialog is open: it stands on the front page, or on
+/// the dialog itself.
+bool isInFront(const Dialog& dialog, const Control& control);
+
+} // namespace quorvia::host
