@@ -28,8 +28,8 @@ constexpr const char* kExamples =
 
 constexpr const char* kMacroNotes =
     "FILE holds {\"commands\": [...]} with one object for each command: select, instructions,\n"
-    "replay, answers, host, dataSet, interruptAtStep, fail, stateChange, fetch, unload,\n"
-    "deleteZones, resetFrame, describe. docs/macros.md tells them all.\n"
+    "replay, answers, dialog, host, dataSet, interruptAtStep, fail, stateChange, fetch,\n"
+    "unload, deleteZones, resetFrame, describe. docs/macros.md tells them all.\n"
     "\n"
     "Examples:\n"
     "  quorhost macro session.json\n"

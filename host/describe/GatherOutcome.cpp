@@ -32,6 +32,7 @@ void describeEvents(const HostLog& log, Outcome_s& outcome) {
     for (const UndoEvent& event : log.undo)
         outcome.undo.push_back({event.kind == UndoKind::Begin, event.success});
     outcome.redraws = log.redraws;
+    outcome.helpShown = log.helpTargets;
 }
 
 // ---- The data set -------------------------------------------------------------------------------
@@ -182,6 +183,8 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     describeEvents(host.log(), outcome);
     if (const DataSet* dataSet = host.frame().dataSet())
         outcome.dataSet = describeDataSet(*dataSet);
+    if (const Dialog* dialog = host.toolkit().latest())
+        outcome.dialog = *dialog;
     updateLog(host, outcome);
     return outcome;
 }

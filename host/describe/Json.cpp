@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "describe/Words.h"
+#include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
 namespace {
@@ -105,6 +106,46 @@ Json dataSet(const std::optional<DataSetOutcome_s>& told) {
             {"zones", list(told->zones, zone)}};
 }
 
+Json valueOf(const Control& control) {
+    switch (control.kind) {
+    case ControlKind::Toggle:
+        return control.value != 0;
+    case ControlKind::RadioBox:
+    case ControlKind::OptionMenu:
+        return control.value;
+    case ControlKind::TextField:
+        return control.text;
+    default:
+        return nullptr;
+    }
+}
+
+Json control(const Dialog& dialog, const Control& told) {
+    const Page* page = findPage(dialog, told.parent);
+    return {{"page", page != nullptr ? Json(page->caption) : Json(nullptr)},
+            {"kind", std::string(wordFor(told.kind))},
+            {"caption", told.caption},
+            {"x", told.geometry.x},
+            {"y", told.geometry.y},
+            {"w", told.geometry.width},
+            {"h", told.geometry.height},
+            {"value", valueOf(told)},
+            {"items", Json(told.items)},
+            {"selected", Json(told.selected)},
+            {"sensitive", told.sensitive},
+            {"focus", told.id == dialog.focus}};
+}
+
+Json dialogJson(const std::optional<Dialog>& told) {
+    if (!told)
+        return nullptr;
+    const Page* front = told->tabs ? findPage(*told, told->tabs->frontPage) : nullptr;
+    return {{"open", told->open},
+            {"page", front != nullptr ? Json(front->caption) : Json(nullptr)},
+            {"controls",
+             list(told->controls, [&](const Control& each) { return control(*told, each); })}};
+}
+
 Json outcomeJson(const Outcome_s& outcome) {
     return {{"schema", "quorhost.outcome/1"},
             {"ok", outcome.ok},
@@ -121,6 +162,14 @@ Json outcomeJson(const Outcome_s& outcome) {
             {"dataSet", dataSet(outcome.dataSet)}};
 }
 
+/// Of a session, in which dialogs can be worked with.
+Json sessionOutcomeJson(const Outcome_s& outcome) {
+    Json result = outcomeJson(outcome);
+    result["dialog"] = dialogJson(outcome.dialog);
+    result["helpShown"] = outcome.helpShown;
+    return result;
+}
+
 std::string textOf(const Json& json) {
     constexpr int kIndent = 2;
     return json.dump(kIndent, ' ', false, Json::error_handler_t::replace) + '\n';
@@ -135,10 +184,10 @@ std::string toJson(const Outcome_s& outcome) {
 std::string toJson(const SessionOutcome_s& session) {
     Json descriptions = Json::object();
     for (const auto& [name, outcome] : session.descriptions)
-        descriptions[name] = outcomeJson(outcome);
+        descriptions[name] = sessionOutcomeJson(outcome);
     return textOf({{"schema", "quorhost.session/1"},
                    {"descriptions", std::move(descriptions)},
-                   {"final", outcomeJson(session.final)}});
+                   {"final", sessionOutcomeJson(session.final)}});
 }
 
 } // namespace quorvia::host

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "quorvia/QuorUtil.h"
+#include "toolkit/Dialog.h"
 
 namespace quorvia::host {
 
@@ -104,6 +105,9 @@ struct Outcome_s {
     std::int64_t lockDepth = 0;
     std::vector<std::string> violations; // of the contract, by the add-on
     std::optional<DataSetOutcome_s> dataSet;
+    /// The add-on's dialog, open or as it was left; absent if none was ever launched.
+    std::optional<Dialog> dialog;
+    std::vector<std::string> helpShown; // targets
 };
 
 /// How a session of several loads came out.

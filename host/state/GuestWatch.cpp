@@ -9,6 +9,15 @@
 
 namespace quorvia::host {
 
+namespace {
+
+// What the user typed into a dialog is the guest's to keep, as the dialog is: until the host ends.
+bool isReadFromField(const Held& held) {
+    return held.origin.name() == "QuorGUITextFieldGetSet";
+}
+
+} // namespace
+
 GuestWatch::GuestWatch(HostState& host)
     : GuestWatch(host, {host.serials.last(), host.handles.heldCount(), host.memory.count(),
                         host.entryLockDepth, host.guestLockDepth, host.openUndoStates,
@@ -43,16 +52,11 @@ void GuestWatch::checkBalances() {
 void GuestWatch::reportHandles() {
     std::map<std::string, int> countsByOrigin;
     for (const Held& held : host_.handles.heldSince(before_.serial)) {
-        if (!isOfDialog(held))
+        if (!isReadFromField(held))
             ++countsByOrigin[std::string(held.origin.name())];
     }
     for (const auto& [origin, count] : countsByOrigin)
         host_.addViolation(origin + ": " + std::to_string(count) + " not given back");
-}
-
-// What the user typed into a dialog is the guest's to keep for as long as it has the dialog.
-bool GuestWatch::isOfDialog(const Held& held) const {
-    return held.origin.name() == "QuorGUITextFieldGetSet" && !host_.toolkit.dialogs().empty();
 }
 
 void GuestWatch::reportBlocks() {

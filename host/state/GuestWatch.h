@@ -6,7 +6,6 @@
 
 namespace quorvia::host {
 
-struct Held;
 struct HostState;
 
 class GuestWatch {
@@ -33,7 +32,6 @@ private:
     GuestWatch(HostState& host, const Counts& before) : host_(host), before_(before) {}
 
     void reportHandles();
-    bool isOfDialog(const Held& held) const;
     void reportBlocks();
     bool isAnyBlockClientData() const;
     /// `now` is put right; an object that still lives is only told, for it will end by itself.

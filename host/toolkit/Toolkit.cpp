@@ -13,6 +13,15 @@ auto* findWhere(Things& things, IsWanted isWanted) {
     return found != things.end() ? &*found : nullptr;
 }
 
+template <typename IsWanted>
+const Dialog* latestWhere(const std::deque<Dialog>& dialogs, IsWanted isWanted) {
+    const Dialog* latest = nullptr;
+    for (const Dialog& dialog : dialogs)
+        if (isWanted(dialog) && (latest == nullptr || dialog.lastLaunch > latest->lastLaunch))
+            latest = &dialog;
+    return latest;
+}
+
 } // namespace
 
 std::int32_t Toolkit::add(Dialog dialog) {
@@ -63,11 +72,14 @@ Dialog* Toolkit::dialogWithControl(std::int32_t control) {
 }
 
 const Dialog* Toolkit::front() const {
-    const Dialog* latest = nullptr;
-    for (const Dialog& dialog : dialogs_)
-        if (dialog.open && (latest == nullptr || dialog.lastLaunch > latest->lastLaunch))
-            latest = &dialog;
-    return latest;
+    return latestWhere(dialogs_, [](const Dialog& dialog) { return dialog.open; });
+}
+
+const Dialog* Toolkit::latest() const {
+    const Dialog* open = front();
+    return open != nullptr
+               ? open
+               : latestWhere(dialogs_, [](const Dialog& dialog) { return dialog.lastLaunch > 0; });
 }
 
 void Toolkit::opened(Dialog& dialog) {

@@ -31,6 +31,10 @@ public:
 
     /// The dialog that was launched last of those that are open; null if none is.
     const Dialog* front() const;
+    /// The open dialog in front, else the one that was launched last; null without a launch so far.
+    const Dialog* latest() const;
+    /// Of all dialogs, so far.
+    std::int64_t launches() const { return launches_; }
     /// In the order in which they were made.
     const std::deque<Dialog>& dialogs() const { return dialogs_; }
 
@@ -44,7 +48,7 @@ private:
 
     std::deque<Dialog> dialogs_;
     std::int32_t lastId_ = 0;
-    std::int64_t launches_ = 0; // of all dialogs
+    std::int64_t launches_ = 0;
 };
 
 /// Null if the dialog has no such control.

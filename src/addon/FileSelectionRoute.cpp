@@ -2,8 +2,11 @@
 
 #include "addon/LoaderCallbacks.h"
 #include "addon/state/AddOnIdentity.h"
+#include "addon/state/DialogState.h"
 #include "boundary/BoundaryFileLocation.h"
+#include "dialog/LoadDialog.h"
 #include "dialog/filenames/FileNameClassification.h"
+#include "quorvia/QuorGUI.h"
 
 namespace quorvia::quorutildataio {
 
@@ -53,10 +56,18 @@ void loadAtOnce(const SelectedFiles_s& files, bool append) {
     loadFromInstructions(instructions.get(), fromSelection);
 }
 
-/// Stands where the load dialog will come up.
-void showLoadDialog() {
-    QuorUtilDialogErrMsg("The PLOT3D load dialog is not part of this version. "
-                         "Choose the files without \"advanced options\".");
+void showLoadDialog(SelectedFiles_s&& files) {
+    const bool isFirstLaunch = loadDialog == noControl;
+    createLoadDialog();
+    gRetainedGridFiles = std::move(files.gridFiles);
+    gRetainedSolutionFiles = std::move(files.solutionFiles);
+    gRetainedFunctionFiles = std::move(files.functionFiles);
+    gRetainedNameFile = std::move(files.nameFile);
+    if (loadDialog == noControl)
+        return;
+    if (isFirstLaunch)
+        QuorGUISetInputFocus(gridAddFiles);
+    QuorGUIDialogLaunch(loadDialog);
 }
 
 } // namespace
@@ -85,7 +96,7 @@ void loaderSelectedCallback(QuorStringListHandle files, bool advancedOptions, bo
                            selected.functionFiles, selected.nameFile))
         return;
     if (advancedOptions)
-        showLoadDialog();
+        showLoadDialog(std::move(selected));
     else
         loadAtOnce(selected, append);
 }

@@ -8,6 +8,7 @@
 
 #include "addon/AddOnEntry.h"
 #include "addon/state/DialogState.h"
+#include "dialog/DialogControls.h"
 #include "session/ReferenceHost.h"
 
 namespace quorvia::testsupport {
@@ -19,10 +20,10 @@ protected:
         InitQuorAddOn113();
         host().clearFaults();
         host().clearLog();
-        forgetFiles();
+        startAnew();
     }
     void TearDown() override {
-        forgetFiles();
+        startAnew();
         host().checkForLeaks();
         EXPECT_EQ(host().log().violations, std::vector<std::string>());
         EXPECT_EQ(host().lockDepth(), 0);
@@ -39,12 +40,19 @@ protected:
     }
 
 private:
-    static void forgetFiles() {
-        quorutildataio::releaseLoadOptions(quorutildataio::gLoadOptions);
-        quorutildataio::gRetainedGridFiles.clear();
-        quorutildataio::gRetainedSolutionFiles.clear();
-        quorutildataio::gRetainedFunctionFiles.clear();
-        quorutildataio::gRetainedNameFile.clear();
+    /// As if the add-on had just been entered for the first time. Dialogs of earlier tests stay at
+    /// the host, and nothing refers to them any more.
+    static void startAnew() {
+        using namespace quorutildataio;
+        for (std::int32_t* id : {&loadDialog, &loadTabs, &fileSelectionPage, &fileStructurePage,
+                                 &dataSubsetPage, &gridAddFiles})
+            *id = noControl;
+        releaseLoadOptions(gLoadOptions);
+        setLoadOptionDefaults(gLoadOptions);
+        gRetainedGridFiles.clear();
+        gRetainedSolutionFiles.clear();
+        gRetainedFunctionFiles.clear();
+        gRetainedNameFile.clear();
     }
 };
 

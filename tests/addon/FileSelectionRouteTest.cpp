@@ -93,14 +93,34 @@ TEST_F(FileSelection, OfUnknownFilesAloneBeginsNoLoad) {
     EXPECT_FALSE(aLoadWasBegun());
 }
 
-TEST_F(FileSelection, WithAdvancedOptionsIsRefusedWithAMessage) {
+TEST_F(FileSelection, WithAdvancedOptionsShowsTheDialogAndIgnoresAppend) {
     for (const bool isAppending : {append, !append}) {
         host().clearLog();
-        host().importSelection({grid_}, advanced, isAppending);
-        EXPECT_EQ(messages(), Texts{"The PLOT3D load dialog is not part of this version. "
-                                    "Choose the files without \"advanced options\"."});
+        host().importSelection({grid_, solution_, "n.nam"}, advanced, isAppending);
+        EXPECT_EQ(host().toolkit().latest()->title, "Plot3D Loader");
+        EXPECT_EQ(gRetainedGridFiles, Texts{grid_});
+        EXPECT_EQ(gRetainedSolutionFiles, Texts{solution_});
+        EXPECT_EQ(gRetainedFunctionFiles, Texts());
+        EXPECT_EQ(gRetainedNameFile, "n.nam");
+        EXPECT_FALSE(gLoadOptions.append);
+        EXPECT_EQ(messages(), Texts());
         EXPECT_FALSE(aLoadWasBegun());
     }
+    EXPECT_EQ(host().callCount("QuorGUIDialogLaunch"), 2);
+}
+
+TEST_F(FileSelection, GivesTheFocusToAddFilesOnlyWhenTheDialogIsNew) {
+    host().importSelection({grid_}, advanced, !append);
+    EXPECT_EQ(host().callCount("QuorGUISetInputFocus"), 1);
+    EXPECT_EQ(host().toolkit().latest()->focus, gridAddFiles);
+    host().importSelection({grid_}, advanced, !append);
+    EXPECT_EQ(host().callCount("QuorGUISetInputFocus"), 1);
+}
+
+TEST_F(FileSelection, ThatIsRefusedShowsNoDialog) {
+    host().importSelection({grid_, "a.nam", "b.nam"}, advanced, !append);
+    EXPECT_EQ(loadDialog, noControl);
+    EXPECT_EQ(host().callCount("QuorGUIDialogLaunch"), 0);
 }
 
 } // namespace

@@ -43,13 +43,15 @@ bool isUndefined(const Symbol& symbol) {
 
 /// The operations that the contract with the host declares.
 std::set<std::string> hostOperations() {
-    std::ifstream header(QUORUTIL_HEADER);
-    const std::string text((std::istreambuf_iterator<char>(header)), {});
     const std::regex declaration("\\b(Quor(?:Util|GUI)[A-Z]\\w*)\\(");
     std::set<std::string> names;
-    for (std::sregex_iterator match(text.begin(), text.end(), declaration), end; match != end;
-         ++match)
-        names.insert((*match)[1]);
+    for (const char* name : {"/QuorUtil.h", "/QuorGUI.h"}) {
+        std::ifstream header(std::string(SDK_HEADERS) + name);
+        const std::string text((std::istreambuf_iterator<char>(header)), {});
+        for (std::sregex_iterator match(text.begin(), text.end(), declaration), end; match != end;
+             ++match)
+            names.insert((*match)[1]);
+    }
     return names;
 }
 

@@ -25,8 +25,10 @@ const Arrows sourceArrows = {
     {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},
     {"boundary", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset"}},
     {"loader", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset", "boundary"}},
+    {"dialog", {"addon/sdk", "addon/state", "instructions", "boundary", "loader"}},
     {"addon",
-     {"addon/sdk", "addon/state", "instructions", "dialog/filenames", "boundary", "loader"}},
+     {"addon/sdk", "addon/state", "instructions", "dialog/filenames", "boundary", "loader",
+      "dialog"}},
 };
 
 const Arrows hostArrows = {

@@ -34,6 +34,9 @@ struct Tell_s {
             words.emplace_back(answer ? "yes" : "no");
         return fmt::format("answers {}", fmt::join(words, ", "));
     }
+    std::string operator()(const DialogCommand_s& command) const {
+        return "dialog, " + counted(command.actions.size(), "action");
+    }
     std::string operator()(const HostCommand_s&) const { return "host"; }
     std::string operator()(const DataSetCommand_s& command) const {
         return fmt::format("dataSet \"{}\"", command.dataSet.title);

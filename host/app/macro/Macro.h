@@ -11,6 +11,7 @@
 #include <variant>
 #include <vector>
 
+#include "app/macro/DialogCommand.h"
 #include "app/macro/HandMadeDataSet.h"
 
 namespace quorvia::host {
@@ -84,9 +85,9 @@ struct DescribeCommand_s {
 
 using MacroCommand =
     std::variant<SelectCommand_s, InstructionsCommand_s, ReplayCommand_s, AnswersCommand_s,
-                 HostCommand_s, DataSetCommand_s, InterruptCommand_s, FailCommand_s,
-                 StateChangeCommand_s, FetchCommand_s, UnloadCommand_s, DeleteZonesCommand_s,
-                 ResetFrameCommand_s, DescribeCommand_s>;
+                 DialogCommand_s, HostCommand_s, DataSetCommand_s, InterruptCommand_s,
+                 FailCommand_s, StateChangeCommand_s, FetchCommand_s, UnloadCommand_s,
+                 DeleteZonesCommand_s, ResetFrameCommand_s, DescribeCommand_s>;
 
 struct Macro_s {
     std::vector<MacroCommand> commands;

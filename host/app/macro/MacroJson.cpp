@@ -66,7 +66,7 @@ std::string unknownName(const std::string& kind, std::string_view name,
 }
 
 ObjectReader::ObjectReader(const MacroJson& value, const std::string& what,
-                           std::initializer_list<std::string_view> known)
+                           const std::vector<std::string_view>& known)
     : value_(value), what_(what) {
     if (!value.is_object())
         throw MacroError(what + " must be an object");

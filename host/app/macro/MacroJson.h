@@ -64,7 +64,7 @@ class ObjectReader {
 public:
     /// Refuses what is no object, and keys that are not among `known`. `value` is borrowed.
     ObjectReader(const MacroJson& value, const std::string& what,
-                 std::initializer_list<std::string_view> known);
+                 const std::vector<std::string_view>& known);
 
     /// Null if the key is absent.
     const MacroJson* find(std::string_view key) const;

@@ -7,6 +7,7 @@
 #include <fmt/core.h>
 
 #include "app/macro/DataSetCommandParser.h"
+#include "app/macro/DialogCommandParser.h"
 #include "app/macro/MacroJson.h"
 #include "session/ReferenceHost.h"
 
@@ -41,6 +42,10 @@ MacroCommand parseFlag(const MacroJson& value, const std::string& what) {
 MacroCommand parseAnswers(const MacroJson& value, const std::string& what) {
     const std::vector<bool> answers = toList(value, what, toBool);
     return AnswersCommand_s{{answers.begin(), answers.end()}};
+}
+
+MacroCommand parseDialog(const MacroJson& value, const std::string& what) {
+    return parseDialogCommand(value, what);
 }
 
 /// The words are those of the outcome (describe/Words.h).
@@ -153,6 +158,7 @@ Parse parserOf(const std::string& name) {
         {"instructions", parseInstructions},
         {"replay", parseFlag<ReplayCommand_s>},
         {"answers", parseAnswers},
+        {"dialog", parseDialog},
         {"host", parseHost},
         {"dataSet", parseDataSet},
         {"interruptAtStep", parseInterrupt},
@@ -198,6 +204,10 @@ public:
             addOnNumber_ = number_;
         if (const auto* describe = std::get_if<DescribeCommand_s>(&command))
             takeName(describe->name);
+        if (const auto* dialog = std::get_if<DialogCommand_s>(&command))
+            for (const MacroDialogAction& action : dialog->actions)
+                if (const auto* describe = std::get_if<DescribeAction_s>(&action))
+                    takeName(describe->name);
     }
 
 private:

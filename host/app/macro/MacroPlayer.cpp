@@ -7,6 +7,7 @@
 #include <fmt/core.h>
 
 #include "app/macro/CommandText.h"
+#include "app/macro/DialogSteps.h"
 #include "app/macro/OutcomeSlices.h"
 #include "session/AddOnLibrary.h"
 #include "session/ReferenceHost.h"
@@ -76,6 +77,11 @@ public:
         host_.setAnswers(command.answers, settings_.answerYes);
         return "done";
     }
+    std::string operator()(const DialogCommand_s& command) {
+        host_.script().addToScript(
+            dialogSteps(command, [this](const std::string& name) { describeAs(name); }));
+        return "done";
+    }
     std::string operator()(const HostCommand_s& command);
     std::string operator()(const DataSetCommand_s& command) {
         if (!putIntoFrame(command.dataSet, host_.frame()))
@@ -109,11 +115,7 @@ public:
     }
 
     std::string operator()(const DescribeCommand_s& command) {
-        Outcome_s outcome = describe();
-        slices_.cut(outcome);
-        std::string ending = sizeText(outcome.dataSet);
-        descriptions_.emplace_back(command.name, std::move(outcome));
-        return ending;
+        return sizeText(describeAs(command.name).dataSet);
     }
 
     /// Once, before the first command that needs it.
@@ -142,12 +144,40 @@ public:
 private:
     template <typename Import>
     std::string load(Import import) {
+        const std::int64_t launchesBefore = host_.toolkit().launches();
         lastLoad_ = faults_.during(host_, import);
+        if (host_.toolkit().launches() == launchesBefore)
+            return endingOfLoad();
+        return endingOfLoad() + endDialogScript();
+    }
+
+    std::string endingOfLoad() const {
         if (lastLoad_.ok)
             return "loaded";
         if (!lastLoad_.hostError.empty())
             return "failed: " + lastLoad_.hostError;
         return lastLoad_.interrupted ? "interrupted" : "failed";
+    }
+
+    /// Behind an import that has shown a dialog: what became of the actions for it.
+    std::string endDialogScript() {
+        ScriptedUser& script = host_.script();
+        const std::string problem = script.problem();
+        std::string account;
+        if (script.cancelledDialogs() > 0)
+            account += ", the dialog was still open and was cancelled";
+        if (script.entriesLeft() > 0)
+            account += fmt::format(", {} dialog actions were left", script.entriesLeft());
+        script.clearScript();
+        if (!problem.empty())
+            throw CommandProblem(problem);
+        return account;
+    }
+
+    const Outcome_s& describeAs(const std::string& name) {
+        Outcome_s outcome = describe();
+        slices_.cut(outcome);
+        return descriptions_.emplace_back(name, std::move(outcome)).second;
     }
 
     Outcome_s describe() {

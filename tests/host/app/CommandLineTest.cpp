@@ -178,9 +178,9 @@ TEST_F(CommandLine, MacroNeedsItsFileAndTakesNoSecond) {
 
 TEST_F(CommandLine, HelpOfMacroNamesEveryCommand) {
     EXPECT_EQ(ExitCode_e::Done, exitCode({"macro", "--help"}));
-    for (const char* part :
-         {"select", "instructions", "replay", "answers", "host", "dataSet", "interruptAtStep",
-          "fail", "stateChange", "fetch", "unload", "deleteZones", "resetFrame", "describe"})
+    for (const char* part : {"select", "instructions", "replay", "answers", "dialog", "host",
+                             "dataSet", "interruptAtStep", "fail", "stateChange", "fetch", "unload",
+                             "deleteZones", "resetFrame", "describe"})
         EXPECT_NE(std::string::npos, out.str().find(part)) << part;
 }
 

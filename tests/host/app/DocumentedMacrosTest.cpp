@@ -30,7 +30,7 @@ std::vector<std::string> examplesOf(const std::string& text) {
 
 TEST(DocumentedMacros, AreSound) {
     const std::vector<std::string> examples = examplesOf(documentText());
-    EXPECT_EQ(3U, examples.size());
+    EXPECT_EQ(4U, examples.size());
     for (const std::string& example : examples) {
         std::string error;
         EXPECT_TRUE(parseMacro(example, error).has_value()) << error << " in\n" << example;
@@ -40,8 +40,8 @@ TEST(DocumentedMacros, AreSound) {
 TEST(DocumentedMacros, TellOfEveryCommand) {
     const std::string text = documentText();
     for (const char* name :
-         {"select", "instructions", "replay", "answers", "host", "dataSet", "interruptAtStep",
-          "fail", "stateChange", "fetch", "unload", "deleteZones", "resetFrame"})
+         {"select", "instructions", "replay", "answers", "dialog", "host", "dataSet",
+          "interruptAtStep", "fail", "stateChange", "fetch", "unload", "deleteZones", "resetFrame"})
         EXPECT_NE(std::string::npos, text.find("| `" + std::string(name) + "` |")) << name;
     EXPECT_NE(std::string::npos, text.find("\n`describe` takes a name"));
 }

@@ -204,5 +204,51 @@ TEST(NearestName, IsQuickWithTextsOfAnyLength) {
     EXPECT_EQ("b", nearestName(std::string(10'000'000, 'b'), std::vector<std::string_view>{"b"}));
 }
 
+TEST(MacroParser, TakesEveryDialogAction) {
+    const auto command = parsed<DialogCommand_s>(
+        R"({"dialog": [{"page": "P"}, {"toggle": "T", "value": true}, {"radio": "R"},
+                       {"menu": "M"}, {"press": "OK"}, {"press": "B", "list": "Function"},
+                       {"selectItems": [1, 3], "list": "Solution"},
+                       {"type": "", "field": "Grid Set"}, {"choose": ["a", "b"]},
+                       {"choose": null}, {"describe": "D"}]})");
+    ASSERT_EQ(11U, command.actions.size());
+    EXPECT_EQ("P", std::get<ShowPageAction_s>(command.actions[0]).caption);
+    EXPECT_TRUE(std::get<ToggleAction_s>(command.actions[1]).value);
+    EXPECT_EQ("R", std::get<RadioAction_s>(command.actions[2]).item);
+    EXPECT_EQ("M", std::get<MenuAction_s>(command.actions[3]).item);
+    EXPECT_EQ(std::nullopt, std::get<PressAction_s>(command.actions[4]).column);
+    EXPECT_EQ(FileColumn_e::Function, std::get<PressAction_s>(command.actions[5]).column);
+    const auto& select = std::get<SelectItemsAction_s>(command.actions[6]);
+    EXPECT_EQ((std::vector<std::int32_t>{1, 3}), select.positions);
+    EXPECT_EQ(FileColumn_e::Solution, select.column);
+    EXPECT_EQ("Grid Set", std::get<TypeAction_s>(command.actions[7]).field);
+    EXPECT_EQ((std::vector<std::string>{"a", "b"}),
+              std::get<ChooseAction_s>(command.actions[8]).files);
+    EXPECT_TRUE(std::get<ChooseAction_s>(command.actions[9]).files.empty());
+    EXPECT_EQ("D", std::get<DescribeAction_s>(command.actions[10]).name);
+}
+
+TEST(MacroParser, TellsWhatIsWrongWithADialogAction) {
+    const std::string form = "\"dialog\", entry 1";
+    const auto errorOfAction = [](const std::string& action) {
+        return errorOfCommand(R"({"dialog": [)" + action + "]}");
+    };
+    EXPECT_EQ("\"dialog\" must be a list", errorOfCommand(R"({"dialog": {}})"));
+    EXPECT_EQ(form + " must be an object with the action's name as a key", errorOfAction("7"));
+    EXPECT_EQ(form + ": there is no action \"pres\"; the nearest known name is \"press\"",
+              errorOfAction(R"({"pres": "OK"})"));
+    EXPECT_EQ(form + ": there is no key \"valu\"; the nearest known name is \"value\"",
+              errorOfAction(R"({"toggle": "T", "valu": true})"));
+    EXPECT_EQ(form + " needs \"value\"", errorOfAction(R"({"toggle": "T"})"));
+    EXPECT_EQ(form + " needs \"list\"", errorOfAction(R"({"selectItems": [1]})"));
+    EXPECT_EQ("\"selectItems\", entry 1 must be a whole number from 1 to 2147483647",
+              errorOfAction(R"({"selectItems": [0], "list": "Grid"})"));
+}
+
+TEST(MacroParser, RefusesADescriptionOfADialogUnderAUsedName) {
+    EXPECT_EQ("command 2: command 1 has a description \"D\" already",
+              errorOf(R"({"commands": [{"describe": "D"}, {"dialog": [{"describe": "D"}]}]})"));
+}
+
 } // namespace
 } // namespace quorvia::host

@@ -144,15 +144,74 @@ TEST(Json, TextEndsWithALineEnd) {
     EXPECT_EQ('\n', toJson(Outcome_s()).back());
 }
 
+/// An outcome of a session in which no dialog was shown.
+Json inSession(const Outcome_s& outcome) {
+    Json json = told(outcome);
+    json["dialog"] = nullptr;
+    json["helpShown"] = Json::array();
+    return json;
+}
+
 TEST(Json, SessionHoldsEachDescriptionUnderItsNameAndTheEnd) {
     const SessionOutcome_s session = {{{"b", loadedOutcome(2)}, {"a \xff", Outcome_s()}},
                                       loadedOutcome(1)};
     const auto told = nlohmann::ordered_json::parse(toJson(session));
     EXPECT_EQ("quorhost.session/1", told["schema"]);
     EXPECT_EQ("b", told["descriptions"].begin().key());
-    EXPECT_EQ(nlohmann::ordered_json::parse(toJson(loadedOutcome(2))), told["descriptions"]["b"]);
+    EXPECT_EQ(inSession(loadedOutcome(2)), told["descriptions"]["b"]);
     EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].is_null());
-    EXPECT_EQ(nlohmann::ordered_json::parse(toJson(loadedOutcome(1))), told["final"]);
+    EXPECT_EQ(inSession(loadedOutcome(1)), told["final"]);
+}
+
+/// A dialog with a page that holds a control of each kind that has a value.
+Dialog sampleDialog() {
+    Dialog dialog;
+    dialog.open = true;
+    dialog.tabs.emplace();
+    dialog.tabs->pages = {{2, "Files"}, {3, "Options"}};
+    dialog.tabs->frontPage = 3;
+    const auto add = [&dialog](ControlKind kind, const char* caption) -> Control& {
+        Control& control = dialog.controls.emplace_back();
+        control.id = 10 + static_cast<std::int32_t>(dialog.controls.size());
+        control.parent = 2;
+        control.kind = kind;
+        control.caption = caption;
+        control.geometry = {1, 2, 3, 4};
+        return control;
+    };
+    add(ControlKind::Label, "Name:").sensitive = false;
+    add(ControlKind::Toggle, "Swirl ").value = 1;
+    Control& menu = add(ControlKind::OptionMenu, "");
+    menu.items = {"Red", "Green"};
+    menu.value = 2;
+    add(ControlKind::TextField, "").text = "wing";
+    Control& list = add(ControlKind::List, "");
+    list.items = {"a", "b"};
+    list.selected = {2};
+    dialog.focus = list.id;
+    return dialog;
+}
+
+TEST(Json, SessionTellsTheDialogAndTheHelp) {
+    Outcome_s outcome;
+    outcome.dialog = sampleDialog();
+    outcome.helpShown = {"page.html#target"};
+    const Json json = Json::parse(toJson(SessionOutcome_s{{}, outcome}))["final"];
+    EXPECT_EQ(json["helpShown"], Json({"page.html#target"}));
+    const Json& dialog = json["dialog"];
+    EXPECT_EQ(dialog["open"], true);
+    EXPECT_EQ(dialog["page"], "Options");
+    EXPECT_EQ(dialog["controls"][0],
+              Json::parse(R"({"page":"Files","kind":"label","caption":"Name:","x":1,"y":2,"w":3,
+                              "h":4,"value":null,"items":[],"selected":[],"sensitive":false,
+                              "focus":false})"));
+    EXPECT_EQ(dialog["controls"][1]["value"], true);
+    EXPECT_EQ(dialog["controls"][1]["caption"], "Swirl ");
+    EXPECT_EQ(dialog["controls"][2]["kind"], "optionMenu");
+    EXPECT_EQ(dialog["controls"][2]["value"], 2);
+    EXPECT_EQ(dialog["controls"][3]["value"], "wing");
+    EXPECT_EQ(dialog["controls"][4]["selected"], Json({2}));
+    EXPECT_EQ(dialog["controls"][4]["focus"], true);
 }
 
 } // namespace

@@ -1,0 +1,128 @@
+#include "dialog/FileSelectionPage.h"
+
+#include "dialog/DialogControls.h"
+#include "dialog/FileLists.h"
+#include "dialog/OptionCallbacks.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+template <bool Plot3DLoadOptions_s::*flag>
+void storeFlagAndRefresh(const std::int32_t* value) {
+    const HostLock lock(addOnID);
+    gLoadOptions.*flag = *value != 0;
+    refreshFileSelectionPage(gLoadOptions);
+}
+
+void appendToggled(const std::int32_t* value) {
+    const HostLock lock(addOnID);
+    gLoadOptions.append = *value != 0;
+    if (!gLoadOptions.append)
+        gLoadOptions.addToExistingStrands = false;
+    refreshFileSelectionPage(gLoadOptions);
+}
+
+bool nameFileTyped(const char* text) {
+    const HostLock lock(addOnID);
+    gLoadOptions.nameFile = text;
+    return true;
+}
+
+void nameFileBrowsed() {
+    constexpr std::int32_t oneExistingFile = 0;
+    const HostLock lock(addOnID);
+    const std::vector<std::string>& grids = gLoadOptions.gridFiles;
+    HostString name;
+    if (!QuorUtilDialogGetFileName(oneExistingFile, name.outArgument(), "Name",
+                                   grids.empty() ? nullptr : grids.front().c_str(), "*.nam"))
+        return;
+    gLoadOptions.nameFile = name.str();
+    QuorGUITextFieldSetString(nameFileField, name.get());
+}
+
+void refreshFileLists(const Plot3DLoadOptions_s& options) {
+    showFiles(gridList, options.gridFiles);
+    showFiles(solutionList, options.solutionFiles);
+    showFiles(functionList, options.functionFiles);
+    for (const std::int32_t button :
+         {gridRemoveSelected, solutionRemoveSelected, functionRemoveSelected})
+        QuorGUISetSensitivity(button, false); // nothing is selected in a list that was just filled
+    QuorGUISetSensitivity(gridRemoveAll, !options.gridFiles.empty());
+    QuorGUISetSensitivity(solutionRemoveAll, !options.solutionFiles.empty());
+    QuorGUISetSensitivity(functionRemoveAll, !options.functionFiles.empty());
+}
+
+void refreshNameFile(const Plot3DLoadOptions_s& options) {
+    QuorGUITextFieldSetString(nameFileField, options.nameFile.c_str());
+    const bool hasVariablesToName = !options.gridFiles.empty() && (!options.functionFiles.empty() ||
+                                                                   !options.solutionFiles.empty());
+    for (const std::int32_t control : {nameFileLabel, nameFileBrowse, nameFileField})
+        QuorGUISetSensitivity(control, hasVariablesToName);
+}
+
+bool canAddToStrands(const Plot3DLoadOptions_s& options) {
+    return options.append && !options.solutionFiles.empty() &&
+           options.style != Plot3DStyle_Function && options.assignStrandIds &&
+           !options.assignNewStrandIdForEachTimeStep;
+}
+
+bool canAssignStrandPerStep(const Plot3DLoadOptions_s& options) {
+    return !options.uniformGridStructure && options.assignStrandIds &&
+           !options.addToExistingStrands;
+}
+
+void refreshStrands(const Plot3DLoadOptions_s& options) {
+    QuorGUISetSensitivity(addToStrandsToggle, canAddToStrands(options));
+    QuorGUISetSensitivity(newStrandPerStepToggle, canAssignStrandPerStep(options));
+    QuorGUISetSensitivity(uniformGridToggle, options.gridFiles.size() != 1);
+    QuorGUIToggleSet(assignStrandToggle, options.assignStrandIds);
+    QuorGUIToggleSet(uniformGridToggle, options.uniformGridStructure);
+    QuorGUIToggleSet(addToStrandsToggle, options.addToExistingStrands);
+    QuorGUIToggleSet(newStrandPerStepToggle, options.assignNewStrandIdForEachTimeStep);
+}
+
+} // namespace
+
+bool buildFileSelectionPage() {
+    if (fileSelectionPage != noControl)
+        return true;
+    fileSelectionPage = QuorGUITabAddPage(loadTabs, "File Selection");
+    if (fileSelectionPage == noControl)
+        return false;
+    PageBuilder page(fileSelectionPage);
+    nameFileLabel = page.label(151, 2785, "Name File (Optional):");
+    page.label(137, 2012, "Function File(s):");
+    page.label(151, 1263, "Solution File(s):");
+    page.label(151, 501, "Grid File(s):");
+    appendToggle = page.toggle(178, 74, 3515, 121, "Append to Existing Data Set", appendToggled);
+    uniformGridToggle =
+        page.toggle(178, 207, 2979, 121, "Uniform Grid Structure",
+                    storeFlagAndRefresh<&Plot3DLoadOptions_s::uniformGridStructure>);
+    newStrandPerStepToggle =
+        page.toggle(4586, 74, 5012, 121, "Assign New Strand IDs for Each Time Step",
+                    storeFlagAndRefresh<&Plot3DLoadOptions_s::assignNewStrandIdForEachTimeStep>);
+    assignStrandToggle = page.toggle(4586, 201, 3529, 121, "Assign Strand IDs for Zones",
+                                     storeFlagAndRefresh<&Plot3DLoadOptions_s::assignStrandIds>);
+    addToStrandsToggle =
+        page.toggle(4586, 328, 3762, 121, "Add Zones to Existing Strands",
+                    storeFlagAndRefresh<&Plot3DLoadOptions_s::addToExistingStrands>);
+    buildGridFileList(page);
+    buildSolutionFileList(page);
+    buildFunctionFileList(page);
+    nameFileField = page.textField(151, 2889, 7099, 144, nameFileTyped);
+    nameFileBrowse = page.button(7401, 2889, 370, 144, "...", nameFileBrowsed);
+    return page.isWhole();
+}
+
+void refreshFileSelectionPage(Plot3DLoadOptions_s& options) {
+    const bool isDataSetThere = QuorUtilDataSetIsAvailable();
+    options.append = options.append && isDataSetThere;
+    QuorGUIToggleSet(appendToggle, options.append);
+    QuorGUISetSensitivity(appendToggle, isDataSetThere);
+    refreshFileLists(options);
+    refreshNameFile(options);
+    refreshStrands(options);
+}
+
+} // namespace quorvia::quorutildataio

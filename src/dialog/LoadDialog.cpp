@@ -1,0 +1,88 @@
+#include "dialog/LoadDialog.h"
+
+#include "addon/state/AddOnIdentity.h"
+#include "dialog/DataSubsetPage.h"
+#include "dialog/DialogControls.h"
+#include "dialog/DialogLock.h"
+#include "dialog/DialogOk.h"
+#include "dialog/FileSelectionPage.h"
+#include "dialog/FileStructurePage.h"
+#include "quorvia/HostHandles.h"
+#include "quorvia/QuorGUI.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+void takeIfNotEmpty(std::vector<std::string>& files, const std::vector<std::string>& retained) {
+    files.clear();
+    if (!retained.empty())
+        files = retained;
+}
+
+void dialogLaunched() {
+    startDialogLock();
+    gLoadOptions.nameFile = gRetainedNameFile;
+    takeIfNotEmpty(gLoadOptions.gridFiles, gRetainedGridFiles);
+    takeIfNotEmpty(gLoadOptions.solutionFiles, gRetainedSolutionFiles);
+    takeIfNotEmpty(gLoadOptions.functionFiles, gRetainedFunctionFiles);
+    refreshDialogPage(fileSelectionPage, gLoadOptions);
+}
+
+// The function files stay: the next launch empties them.
+void cancelPressed() {
+    const DialogLockEnd lock;
+    gLoadOptions.gridFiles.clear();
+    gLoadOptions.solutionFiles.clear();
+    gLoadOptions.nameFile.clear();
+    QuorGUITextFieldSetString(nameFileField, "");
+    QuorGUIDialogDrop(loadDialog);
+}
+
+void helpPressed() {
+    const HostLock lock(addOnID);
+    QuorUtilHelp("data-loading.html#data-loading/plot3d", false, 0);
+}
+
+void pageActivated(const std::int32_t* page) {
+    const HostLock lock(addOnID);
+    refreshDialogPage(*page, gLoadOptions);
+}
+
+void pageDeactivated(const std::int32_t*) {
+    const HostLock lock(addOnID);
+}
+
+bool buildLoadDialog() {
+    loadDialog =
+        QuorGUIDialogCreateModal(QuorGUIId_MainWindow, 10015, 3397, "Plot3D Loader", dialogLaunched,
+                                 okPressed, nullptr, cancelPressed, helpPressed);
+    if (loadDialog == noControl)
+        return false;
+    loadTabs = QuorGUITabAdd(loadDialog, 219, 224, 9639, 3143, pageActivated, pageDeactivated);
+    return loadTabs != noControl && buildFileSelectionPage() && buildFileStructurePage() &&
+           buildDataSubsetPage();
+}
+
+} // namespace
+
+void createLoadDialog() {
+    if (loadDialog != noControl || buildLoadDialog())
+        return;
+    // The next launch makes another one, since a dialog with missing controls is of no use.
+    for (std::int32_t* id :
+         {&loadDialog, &loadTabs, &fileSelectionPage, &fileStructurePage, &dataSubsetPage})
+        *id = noControl;
+    QuorUtilDialogErrMsg("Out of Memory!!!");
+}
+
+void refreshDialogPage(std::int32_t page, Plot3DLoadOptions_s& options) {
+    if (page == fileSelectionPage)
+        refreshFileSelectionPage(options);
+    else if (page == fileStructurePage)
+        refreshFileStructurePage(options);
+    else if (page == dataSubsetPage)
+        refreshDataSubsetPage(options);
+}
+
+} // namespace quorvia::quorutildataio
