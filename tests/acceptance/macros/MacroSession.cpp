@@ -56,7 +56,8 @@ void MacroSession::play(const Commands& commands, const Texts& options) {
     exitCode_ = host::run(arguments, {out, err, kNoTerminal});
     ASSERT_NE(exitCode_, 2) << err.str();
     outcomes_ = Json::parse(out.str());
-    EXPECT_EQ(last()["violations"], Json::array());
+    shown_ = err.str();
+    EXPECT_EQ(last()["violations"].get<Texts>(), expectedViolations_);
     EXPECT_EQ(last()["lockDepth"], 0);
 }
 

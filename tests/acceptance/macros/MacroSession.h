@@ -35,7 +35,7 @@ Json load(const Files_s& files,
 class MacroSession : public ::testing::Test {
 protected:
     /// Plays a session of its own and keeps its outcomes. The test fails if the macro is bad, and
-    /// if the add-on breaks the contract or leaves the lock held.
+    /// if the add-on breaks the contract otherwise than expected or leaves the lock held.
     void play(const Commands& commands, const Texts& options = {});
 
     const Json& described(const std::string& name) const;
@@ -56,6 +56,8 @@ private:
 protected:
     SmallFiles files_{directory_.path().string()};
     int exitCode_ = -1;
+    Texts expectedViolations_;
+    std::string shown_; // on standard error by the last session
 
 private:
     Json outcomes_;
