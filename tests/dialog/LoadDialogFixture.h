@@ -1,0 +1,144 @@
+// The add-on's load dialog before a user who does what a test says.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "addon/AddOnFixture.h"
+#include "addon/state/AddOnIdentity.h"
+#include "dialog/DialogControls.h"
+#include "dialog/LoadDialog.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::quorutildataio {
+
+using host::Control;
+using host::ControlKind;
+using testsupport::Texts;
+
+/// Each test has a dialog of its own, made and hidden.
+class LoadDialogTest : public testsupport::AddOnTest {
+protected:
+    using Script = std::vector<host::ScriptEntry>;
+
+    void SetUp() override {
+        AddOnTest::SetUp();
+        const HostLock lock(addOnID);
+        createLoadDialog();
+        host().clearFaults();
+    }
+
+    // ---- What the user does ---------------------------------------------------------------------
+
+    static host::ScriptEntry show(std::int32_t page) { return act(host::ShowPage{page}); }
+    static host::ScriptEntry set(std::int32_t toggle, bool on) {
+        return act(host::SetToggle{toggle, on});
+    }
+    static host::ScriptEntry choose(std::int32_t control, std::int32_t item) {
+        return act(host::ChooseItem{control, item});
+    }
+    static host::ScriptEntry press(std::int32_t button) { return act(host::PressButton{button}); }
+    static host::ScriptEntry select(std::int32_t list, std::vector<std::int32_t> positions) {
+        return act(host::SelectItems{list, std::move(positions)});
+    }
+    static host::ScriptEntry type(std::int32_t field, const std::string& text) {
+        return act(host::TypeText{field, text});
+    }
+    static host::ScriptEntry pick(Texts files) { return host::FileChoice(std::move(files)); }
+    static host::ScriptEntry pickNothing() { return host::FileChoice(); }
+    static host::ScriptEntry pressOk() { return press(host::DialogButton::Ok); }
+    static host::ScriptEntry pressCancel() { return press(host::DialogButton::Cancel); }
+    static host::ScriptEntry pressHelp() { return press(host::DialogButton::Help); }
+    /// The test looks, or does something at the host, while the dialog waits for the user.
+    static host::ScriptEntry meanwhile(std::function<void()> look) {
+        return host::DialogStep([look = std::move(look)](const host::Dialog&) {
+            look();
+            return host::DialogMove{};
+        });
+    }
+
+    /// Launches the dialog before the user, who cancels when the script is played.
+    void open(Script script = {}) {
+        host().script().addToScript(std::move(script));
+        {
+            const HostLock lock(addOnID);
+            QuorGUIDialogLaunch(loadDialog);
+        }
+        expectPlayed();
+    }
+    /// The user picks files in the host's import menu, and the advanced options.
+    void import(const Texts& files, Script script = {}) {
+        constexpr bool advanced = true;
+        constexpr bool append = true;
+        host().script().addToScript(std::move(script));
+        host().importSelection(files, advanced, !append);
+        expectPlayed();
+    }
+
+    /// What the next launch starts from.
+    static void retain(const Texts& grids, const Texts& solutions = {}, const Texts& functions = {},
+                       const std::string& nameFile = {}) {
+        gRetainedGridFiles = grids;
+        gRetainedSolutionFiles = solutions;
+        gRetainedFunctionFiles = functions;
+        gRetainedNameFile = nameFile;
+    }
+
+    /// A data set that another program left at the host.
+    static void makeDataSet() {
+        const HostLock lock(addOnID);
+        const HostStringList names(QuorUtilStringListAlloc());
+        QuorUtilStringListAppendString(names.get(), "old");
+        const HostArgList arguments(QuorUtilArgListAlloc());
+        QuorUtilArgListAppendString(arguments.get(), "LoaderName", "Another Loader");
+        QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Old");
+        QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
+        ASSERT_TRUE(QuorUtilDataSetCreateX(arguments.get()));
+    }
+
+    // ---- What the user sees ---------------------------------------------------------------------
+
+    static const host::Dialog& dialog() {
+        for (const host::Dialog& dialog : host().toolkit().dialogs())
+            if (dialog.id == loadDialog)
+                return dialog;
+        throw std::logic_error("there is no dialog");
+    }
+    static const Control& control(std::int32_t id) {
+        const Control* found = findControl(dialog(), id);
+        if (found == nullptr)
+            throw std::logic_error("there is no control " + std::to_string(id));
+        return *found;
+    }
+    /// A button that the add-on itself needs no more once it is made.
+    static std::int32_t buttonAt(std::int32_t y) {
+        for (const Control& control : dialog().controls)
+            if (control.kind == ControlKind::Button && control.geometry.y == y)
+                return control.id;
+        throw std::logic_error("there is no button at " + std::to_string(y));
+    }
+    static bool isSensitive(std::int32_t id) { return control(id).sensitive; }
+    static bool isOn(std::int32_t toggle) { return control(toggle).value == 1; }
+    static std::int32_t chosen(std::int32_t id) { return control(id).value; }
+    static const std::string& text(std::int32_t field) { return control(field).text; }
+    static const Texts& items(std::int32_t list) { return control(list).items; }
+
+private:
+    static host::ScriptEntry act(host::DialogAction action) {
+        return host::DialogStep([action = std::move(action)](const host::Dialog&) {
+            return host::DialogMove{action, ""};
+        });
+    }
+    static host::ScriptEntry press(host::DialogButton button) {
+        return act(host::PressDialogButton{button});
+    }
+    static void expectPlayed() {
+        EXPECT_EQ(host().script().problem(), "");
+        EXPECT_EQ(host().script().entriesLeft(), 0);
+    }
+};
+
+} // namespace quorvia::quorutildataio
