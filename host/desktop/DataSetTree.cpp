@@ -1,0 +1,297 @@
+#include "desktop/DataSetTree.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPainter>
+
+#include "describe/Words.h"
+#include "desktop/Texts.h"
+#include "desktop/ZoneGroups.h"
+
+namespace quorvia::host {
+namespace {
+
+enum Column_e { kName, kDetails, kType, kMinimum, kMaximum, kColumnCount };
+
+/// What an item stands for, from 1; 0 or nothing for neither. An item with a zone and a variable is
+/// a field.
+constexpr int kZoneRole = Qt::UserRole;
+constexpr int kVariableRole = Qt::UserRole + 1;
+
+std::int32_t zoneOf(const QTreeWidgetItem* item) {
+    return item->data(kName, kZoneRole).toInt();
+}
+
+std::int32_t variableOf(const QTreeWidgetItem* item) {
+    return item->data(kName, kVariableRole).toInt();
+}
+
+QString sizeOf(const ZoneOutcome_s& zone) {
+    if (zone.type == QuorZoneType_Ordered)
+        return QStringLiteral("%1 x %2 x %3").arg(zone.i).arg(zone.j).arg(zone.k);
+    return QStringLiteral("%1 nodes, %2 elements").arg(zone.i).arg(zone.j);
+}
+
+QString stateOf(const FieldOutcome_s& field) {
+    if (field.error)
+        return QStringLiteral("failed");
+    if (field.state == FieldState_e::Shared)
+        return QStringLiteral("shared with zone %1").arg(field.sharedWith);
+    return QString::fromLatin1(wordOf(field.state));
+}
+
+QString timeText(double time) {
+    return QStringLiteral("Time %1").arg(shownNumber(time));
+}
+
+QString spanOf(const StrandGroup_s& group) {
+    std::size_t zones = 0;
+    for (const TimeGroup_s& time : group.times)
+        zones += time.zones.size();
+    const QString count = counted(zones, "zone", "zones");
+    if (group.times.size() < 2)
+        return count;
+    return QStringLiteral("%1, times %2 to %3")
+        .arg(count, shownNumber(group.times.front().time), shownNumber(group.times.back().time));
+}
+
+} // namespace
+
+DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
+    : QTreeWidget(parent), fetchWanted_(std::move(fetchWanted)) {
+    setColumnCount(kColumnCount);
+    setHeaderLabels({QStringLiteral("Name"), QStringLiteral("Details"), QStringLiteral("Type"),
+                     QStringLiteral("Minimum"), QStringLiteral("Maximum")});
+    setSelectionMode(ExtendedSelection);
+    setAlternatingRowColors(true);
+    setUniformRowHeights(true); // quick with thousands of zones
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(kDetails, QHeaderView::Stretch);
+    constexpr int kNameLetters = 34;
+    constexpr int kNumberLetters = 14;
+    const int letter = fontMetrics().averageCharWidth();
+    setColumnWidth(kName, kNameLetters * letter);
+    for (const int column : {kType, kMinimum, kMaximum})
+        setColumnWidth(column, kNumberLetters * letter);
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem* item) { fillZone(item); });
+}
+
+void DataSetTree::showNothing() {
+    clear();
+    dataSet_.reset();
+    viewport()->update();
+}
+
+void DataSetTree::showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
+    clear();
+    dataSet_ = std::move(dataSet);
+    auto* root = new QTreeWidgetItem(this);
+    root->setText(kName, shown(dataSet_->title));
+    root->setText(kDetails, QStringLiteral("%1, %2, plot type %3")
+                                .arg(counted(dataSet_->zones.size(), "zone", "zones"),
+                                     counted(dataSet_->variables.size(), "variable", "variables"),
+                                     QLatin1String(wordOf(plotType))));
+    addVariables(root);
+    addZones(root);
+    addAuxData(root, dataSet_->auxData);
+    root->setExpanded(true);
+}
+
+QTreeWidgetItem* DataSetTree::addItem(QTreeWidgetItem* parent, const QString& name,
+                                      const QString& details) {
+    auto* item = new QTreeWidgetItem(parent);
+    item->setText(kName, name);
+    item->setText(kDetails, details);
+    for (const int column : {kMinimum, kMaximum})
+        item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    return item;
+}
+
+void DataSetTree::addVariables(QTreeWidgetItem* root) {
+    QTreeWidgetItem* group = addItem(root, QStringLiteral("Variables"),
+                                     counted(dataSet_->variables.size(), "variable", "variables"));
+    std::int32_t number = 0;
+    for (const std::string& name : dataSet_->variables) {
+        QTreeWidgetItem* item = addItem(group, shown(name), QString());
+        item->setData(kName, kVariableRole, ++number);
+        showVariableValues(item);
+    }
+    group->setExpanded(true);
+}
+
+void DataSetTree::addZones(QTreeWidgetItem* root) {
+    QTreeWidgetItem* all =
+        addItem(root, QStringLiteral("Zones"), counted(dataSet_->zones.size(), "zone", "zones"));
+    all->setExpanded(true);
+    for (const StrandGroup_s& group : groupZones(*dataSet_)) {
+        const QString name = group.strand == 0 ? QStringLiteral("Static zones")
+                                               : QStringLiteral("Strand %1").arg(group.strand);
+        QTreeWidgetItem* strand = addItem(all, name, spanOf(group));
+        strand->setExpanded(true);
+        for (const TimeGroup_s& time : group.times) {
+            QTreeWidgetItem* step =
+                addItem(strand, timeText(time.time), counted(time.zones.size(), "zone", "zones"));
+            for (const std::size_t place : time.zones)
+                addZone(step, dataSet_->zones[place]);
+            step->setExpanded(group.times.size() == 1);
+        }
+    }
+}
+
+void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
+    const QString of = zone.parentZone == 0
+                           ? QString()
+                           : QStringLiteral(", boundary of zone %1").arg(zone.parentZone);
+    QTreeWidgetItem* item = addItem(
+        parent, QStringLiteral("%1  %2").arg(zone.number).arg(shown(zone.name)), sizeOf(zone) + of);
+    item->setText(kType, QString::fromLatin1(wordOf(zone.type)));
+    item->setData(kName, kZoneRole, zone.number);
+    item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator); // filled once it is opened
+}
+
+void DataSetTree::addAuxData(QTreeWidgetItem* parent, const AuxDataItems& auxData) {
+    if (auxData.empty())
+        return;
+    QTreeWidgetItem* group =
+        addItem(parent, QStringLiteral("Auxiliary data"), counted(auxData.size(), "item", "items"));
+    for (const auto& [name, text] : auxData)
+        addItem(group, shown(name), shown(text));
+}
+
+void DataSetTree::fillZone(QTreeWidgetItem* item) {
+    const std::int32_t number = zoneOf(item);
+    if (number == 0 || variableOf(item) != 0 || item->childCount() > 0)
+        return;
+    const ZoneOutcome_s& zone = dataSet_->zones[static_cast<std::size_t>(number) - 1];
+    for (const FieldOutcome_s& field : zone.fields) {
+        const auto place = static_cast<std::size_t>(field.variable) - 1;
+        QTreeWidgetItem* child = addItem(item, shown(dataSet_->variables[place]), QString());
+        child->setData(kName, kZoneRole, number);
+        child->setData(kName, kVariableRole, field.variable);
+        showFieldValues(child);
+    }
+    if (zone.connectivity)
+        addItem(item, QStringLiteral("Connectivity"),
+                QStringLiteral("%1 elements of %2 nodes")
+                    .arg(zone.connectivity->elements)
+                    .arg(zone.connectivity->corners));
+    addAuxData(item, zone.auxData);
+}
+
+// ---- Values -------------------------------------------------------------------------------------
+
+void DataSetTree::showFieldValues(QTreeWidgetItem* item) const {
+    const FieldOutcome_s* field = findField(*dataSet_, {zoneOf(item), variableOf(item)});
+    item->setText(kDetails, stateOf(*field));
+    item->setText(kType, QString::fromLatin1(wordOf(field->type)));
+    item->setToolTip(kDetails, field->error ? shown(*field->error) : QString());
+    item->setText(kMinimum, field->statistics ? shownNumber(field->statistics->min) : QString());
+    item->setText(kMaximum, field->statistics ? shownNumber(field->statistics->max) : QString());
+}
+
+/// The range over the zones whose values were fetched.
+void DataSetTree::showVariableValues(QTreeWidgetItem* item) const {
+    double least = std::numeric_limits<double>::infinity();
+    double most = -least;
+    std::size_t fetched = 0;
+    std::size_t fields = 0;
+    for (const ZoneOutcome_s& zone : dataSet_->zones) {
+        const FieldOutcome_s* field = findField(*dataSet_, {zone.number, variableOf(item)});
+        if (field == nullptr || field->state == FieldState_e::Empty)
+            continue;
+        ++fields;
+        item->setText(kType, QString::fromLatin1(wordOf(field->type)));
+        if (!field->statistics)
+            continue;
+        ++fetched;
+        least = std::min(least, field->statistics->min);
+        most = std::max(most, field->statistics->max);
+    }
+    item->setText(kDetails,
+                  fetched == fields || fetched == 0
+                      ? QString()
+                      : QStringLiteral("range of %1 zones of %2").arg(fetched).arg(fields));
+    item->setText(kMinimum, least <= most ? shownNumber(least) : QString());
+    item->setText(kMaximum, least <= most ? shownNumber(most) : QString());
+}
+
+void DataSetTree::showValuesBelow(QTreeWidgetItem* item) const {
+    if (variableOf(item) != 0 && zoneOf(item) != 0)
+        showFieldValues(item);
+    else if (variableOf(item) != 0)
+        showVariableValues(item);
+    for (int index = 0; index < item->childCount(); ++index)
+        showValuesBelow(item->child(index));
+}
+
+void DataSetTree::showValues(DataSetOutcome_s dataSet) {
+    dataSet_ = std::move(dataSet);
+    showValuesBelow(invisibleRootItem());
+}
+
+// ---- What the user means ------------------------------------------------------------------------
+
+void DataSetTree::addFieldsOfZone(std::int32_t zone, std::vector<FieldAddress_s>& fields) const {
+    for (std::int32_t variable = 1; findField(*dataSet_, {zone, variable}) != nullptr; ++variable)
+        fields.push_back({zone, variable});
+}
+
+void DataSetTree::collectFields(const QTreeWidgetItem* item,
+                                std::vector<FieldAddress_s>& fields) const {
+    const std::int32_t zone = zoneOf(item);
+    const std::int32_t variable = variableOf(item);
+    if (zone != 0 && variable != 0)
+        fields.push_back({zone, variable});
+    else if (zone != 0)
+        addFieldsOfZone(zone, fields);
+    else if (variable != 0)
+        for (const ZoneOutcome_s& each : dataSet_->zones)
+            fields.push_back({each.number, variable});
+    else
+        for (int index = 0; index < item->childCount(); ++index)
+            collectFields(item->child(index), fields);
+}
+
+std::vector<FieldAddress_s> DataSetTree::allFields() const {
+    std::vector<FieldAddress_s> fields;
+    if (dataSet_)
+        for (const ZoneOutcome_s& zone : dataSet_->zones)
+            addFieldsOfZone(zone.number, fields);
+    return fields;
+}
+
+std::vector<FieldAddress_s> DataSetTree::selectedFields() const {
+    std::vector<FieldAddress_s> fields;
+    for (const QTreeWidgetItem* item : selectedItems())
+        collectFields(item, fields);
+    return fields;
+}
+
+void DataSetTree::contextMenuEvent(QContextMenuEvent* event) {
+    const std::vector<FieldAddress_s> fields = selectedFields();
+    if (fields.empty())
+        return;
+    QMenu menu(this);
+    const QAction* fetch = menu.addAction(QStringLiteral("Fetch Values"));
+    if (menu.exec(event->globalPos()) == fetch)
+        fetchWanted_(fields);
+}
+
+void DataSetTree::paintEvent(QPaintEvent* event) {
+    QTreeWidget::paintEvent(event);
+    if (dataSet_)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter,
+                     QStringLiteral("No data set.\n\nImport files with File > Import,\n"
+                                    "or drop them here."));
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,132 @@
+#include "desktop/DesktopSession.h"
+
+#include <utility>
+
+#include "describe/GatherOutcome.h"
+#include "desktop/MessageBoxes.h"
+#include "desktop/Texts.h"
+#include "state/HostState.h"
+
+namespace quorvia::host {
+namespace {
+
+constexpr std::int64_t kMemoryForValues = std::int64_t{1} << 30; // bytes
+
+ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult& result) {
+    Outcome_s outcome = describeOutcome(host, result);
+    return {result, outcome.plotType, std::move(outcome.dataSet)};
+}
+
+} // namespace
+
+DesktopSession::DesktopSession(QWidget& mainWindow)
+    : mainWindow_(mainWindow), windows_(mainWindow, actions_), user_(windows_, actions_),
+      progress_(
+          feed_, [] { host().requestInterrupt(); }, &mainWindow) {
+    setUpHost();
+}
+
+DesktopSession::~DesktopSession() {
+    user_.leave(); // nobody is there to read what the guest may still have to say
+    host().frame().reset();
+    if (library_)
+        library_->unload();
+    host().reset();
+}
+
+void DesktopSession::setUpHost() {
+    host().reset();
+    host().setUser(&user_);
+    host().settings().memoryLimitBytes = kMemoryForValues;
+    host().settings().progressObserver = [this](const ProgressState& state) { feed_.put(state); };
+}
+
+void DesktopSession::start(const QString& title, GuestWork::Work work, std::function<void()> done) {
+    host().clearLog(); // it would grow with every load
+    progress_.begin(title);
+    work_.start(std::move(work), [this, done = std::move(done)](const std::string& failure) {
+        progress_.end();
+        collectViolations();
+        if (!failure.empty())
+            showText(&mainWindow_, failure, TextKind_e::Error);
+        done();
+    });
+}
+
+void DesktopSession::collectViolations() {
+    for (const std::string& violation : host().log().violations)
+        violations_.push_back(violation);
+}
+
+std::vector<std::string> DesktopSession::takeViolations() {
+    return std::exchange(violations_, {});
+}
+
+void DesktopSession::openAddOn(const std::string& path,
+                               std::function<void(std::string error)> done) {
+    const auto error = std::make_shared<std::string>();
+    start(
+        QStringLiteral("Opening the Add-on"),
+        [this, path, error] { library_ = AddOnLibrary::open(path, *error); },
+        [this, error, done = std::move(done)] {
+            readLoader();
+            done(*error);
+        });
+}
+
+void DesktopSession::readLoader() {
+    loader_.reset();
+    if (host().state().loaders.empty())
+        return;
+    const Loader& loader = host().state().loaders.back();
+    loader_ = LoaderTraits_s{loader.name, loader.fileNameExtensions, loader.allowsSeveralFiles,
+                             loader.allowsAdvancedOptions, loader.allowsAppending};
+}
+
+void DesktopSession::import(const FileSelection_s& selection,
+                            std::function<void(ImportOutcome_s)> done) {
+    const auto outcome = std::make_shared<ImportOutcome_s>();
+    start(
+        QStringLiteral("Importing"),
+        [selection, outcome] {
+            const LoadResult result =
+                host().importSelection(selection.files, selection.advanced, selection.append);
+            *outcome = describeImport(host(), result);
+        },
+        [outcome, done = std::move(done)] { done(std::move(*outcome)); });
+}
+
+void DesktopSession::fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s> fields,
+                           std::function<void(DataSetOutcome_s, FetchEnd_e)> done) {
+    struct Fetch_s {
+        DataSetOutcome_s dataSet;
+        FetchEnd_e end = FetchEnd_e::Failed;
+    };
+    const auto fetch = std::make_shared<Fetch_s>(Fetch_s{std::move(dataSet)});
+    const auto tell = [this](std::int64_t number, std::int64_t total) {
+        feed_.put({static_cast<double>(number) / static_cast<double>(total),
+                   "Fetching values: field " + std::to_string(number + 1) + " of " +
+                       std::to_string(total),
+                   true});
+        return !host().interruptRequested();
+    };
+    start(
+        QStringLiteral("Fetching Values"),
+        [fetch, tell, fields = std::move(fields)] {
+            fetch->end = fetchFields(host(), fetch->dataSet, fields, tell);
+            host().clearFaults(); // an interruption of this must not stop the next load
+        },
+        [fetch, done = std::move(done)] { done(std::move(fetch->dataSet), fetch->end); });
+}
+
+void DesktopSession::discardDataSet(std::function<void()> done) {
+    start(
+        QStringLiteral("Discarding"), [] { host().frame().reset(); }, std::move(done));
+}
+
+void DesktopSession::leave() {
+    user_.leave();
+    host().requestInterrupt();
+}
+
+} // namespace quorvia::host

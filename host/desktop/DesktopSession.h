@@ -1,0 +1,85 @@
+// The reference host in the hands of a person: the add-on's library, imports and fetches, each on
+// the guest's thread, with the windows that the guest brings up meanwhile.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QWidget>
+
+#include "desktop/ActionQueue.h"
+#include "desktop/DesktopUser.h"
+#include "desktop/GuestWindows.h"
+#include "desktop/GuestWork.h"
+#include "desktop/ImportFileDialog.h"
+#include "desktop/ProgressFeed.h"
+#include "desktop/ProgressWindow.h"
+#include "desktop/ValueFetch.h"
+#include "session/AddOnLibrary.h"
+#include "session/ReferenceHost.h"
+
+namespace quorvia::host {
+
+/// How an import came out.
+struct ImportOutcome_s {
+    LoadResult result;
+    QuorPlotType_e plotType = QuorPlotType_None;
+    std::optional<DataSetOutcome_s> dataSet; // as it is now, whether the import succeeded or not
+};
+
+/// Everything is called, and calls back, on the windows' thread. One session at a time: there is
+/// one host. Only one piece of work runs at a time; starting another meanwhile is a mistake.
+class DesktopSession {
+public:
+    /// Resets the host and sits down before it. `mainWindow` is borrowed.
+    explicit DesktopSession(QWidget& mainWindow);
+    /// Nothing may be running. Discards the data set, unloads the library and leaves the host
+    /// reset.
+    ~DesktopSession();
+    DesktopSession(const DesktopSession&) = delete;
+    DesktopSession& operator=(const DesktopSession&) = delete;
+
+    bool isBusy() const { return work_.isRunning(); }
+
+    /// Gets why the library could not be opened; empty if it could.
+    void openAddOn(const std::string& path, std::function<void(std::string error)> done);
+    /// The loader that was registered last; nothing if there is none.
+    const std::optional<LoaderTraits_s>& loader() const { return loader_; }
+
+    void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
+    /// Adds the statistics of `fields` to `dataSet`, which is the one that is there.
+    void fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s> fields,
+               std::function<void(DataSetOutcome_s, FetchEnd_e)> done);
+    void discardDataSet(std::function<void()> done);
+
+    /// The program ends: what runs is stopped, and the guest is shown no more windows.
+    void leave();
+    /// What the guest has done against the contract, since the last call.
+    std::vector<std::string> takeViolations();
+
+    ProgressWindow& progressWindow() { return progress_; }
+    GuestWindows& guestWindows() { return windows_; }
+
+private:
+    static ReferenceHost& host() { return ReferenceHost::instance(); }
+    void setUpHost();
+    void readLoader();
+    void start(const QString& title, GuestWork::Work work, std::function<void()> done);
+    void collectViolations();
+
+    QWidget& mainWindow_;
+    ActionQueue actions_;
+    ProgressFeed feed_;
+    GuestWindows windows_;
+    DesktopUser user_;
+    ProgressWindow progress_;
+    std::unique_ptr<AddOnLibrary> library_;
+    std::optional<LoaderTraits_s> loader_;
+    std::vector<std::string> violations_;
+    GuestWork work_; // goes first: its thread uses all the others
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,157 @@
+#include "desktop/DialogWindow.h"
+
+#include <utility>
+
+#include <QCloseEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabBar>
+
+#include "desktop/InsensitiveHints.h"
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+namespace {
+
+constexpr int kMargin = 9;
+
+} // namespace
+
+DialogWindow::DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent)
+    : QDialog(parent), sink_(std::move(act)), scale_(DialogScale::fitting(dialog, *this)) {
+    setWindowTitle(shown(dialog.title));
+    setObjectName(QStringLiteral("dialog%1").arg(dialog.id));
+    setWindowModality(Qt::ApplicationModal);
+    if (dialog.tabs)
+        addTabs(dialog);
+    addControls(dialog);
+    addButtons(dialog);
+    placeParts(dialog);
+    showFrontPage(dialog);
+    moveFocus(dialog);
+}
+
+DialogWindow::~DialogWindow() = default;
+
+void DialogWindow::addTabs(const Dialog& dialog) {
+    tabs_ = new QTabWidget(this);
+    tabs_->setObjectName(QStringLiteral("tabs"));
+    addPages(dialog);
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
+        for (const auto& [id, page] : pages_)
+            if (page == tabs_->widget(index))
+                act(ShowPage{id});
+    });
+}
+
+void DialogWindow::addPages(const Dialog& dialog) {
+    const QSignalBlocker silence(tabs_);
+    for (const Page& page : dialog.tabs->pages) {
+        if (pages_.count(page.id) != 0)
+            continue;
+        auto* widget = new QWidget;
+        tabs_->addTab(widget, shownCaption(page.caption));
+        pages_[page.id] = widget;
+    }
+}
+
+void DialogWindow::addButtons(const Dialog& dialog) {
+    buttons_ = new QDialogButtonBox(this);
+    const auto add = [this](QuorGUICallback callback, QDialogButtonBox::StandardButton standard,
+                            DialogButton button) {
+        if (callback == nullptr)
+            return;
+        const QPushButton* widget = buttons_->addButton(standard);
+        connect(widget, &QPushButton::clicked, this,
+                [this, button] { act(PressDialogButton{button}); });
+    };
+    add(dialog.ok, QDialogButtonBox::Ok, DialogButton::Ok);
+    add(dialog.apply, QDialogButtonBox::Apply, DialogButton::Apply);
+    add(dialog.cancel, QDialogButtonBox::Cancel, DialogButton::Cancel);
+    add(dialog.help, QDialogButtonBox::Help, DialogButton::Help);
+    if (QPushButton* ok = buttons_->button(QDialogButtonBox::Ok))
+        ok->setDefault(true);
+}
+
+QWidget* DialogWindow::parentOf(const Control& control) {
+    const auto page = pages_.find(control.parent);
+    return page != pages_.end() ? page->second : this;
+}
+
+void DialogWindow::addControls(const Dialog& dialog) {
+    for (const Control& control : dialog.controls) {
+        if (views_.count(control.id) != 0)
+            continue;
+        const auto tell = [this](const DialogAction& action) {
+            if (std::holds_alternative<TypeText>(action))
+                sink_(action);
+            else
+                act(action);
+        };
+        views_[control.id] =
+            makeControlView(control, nameOf(dialog, control), tell, scale_, parentOf(control));
+        views_[control.id]->widget()->show();
+    }
+}
+
+// The tab control's place is that of its pages: the tabs stand above it.
+void DialogWindow::placeParts(const Dialog& dialog) {
+    const int buttonHeight = buttons_->sizeHint().height();
+    const QSize size(scale_.width(dialog.width), scale_.height(dialog.height));
+    int top = 0;
+    if (tabs_ != nullptr) {
+        QRect place = scale_.rect(dialog.tabs->geometry);
+        place.setTop(place.top() - tabs_->tabBar()->sizeHint().height());
+        top = place.top() < 0 ? -place.top() : 0;
+        tabs_->setGeometry(place.translated(0, top));
+    }
+    buttons_->setGeometry(kMargin, size.height() + top + kMargin, size.width() - 2 * kMargin,
+                          buttonHeight);
+    setFixedSize(size.width(), size.height() + top + buttonHeight + 2 * kMargin);
+}
+
+void DialogWindow::refresh(const Dialog& dialog) {
+    if (tabs_ != nullptr)
+        addPages(dialog);
+    addControls(dialog);
+    for (const Control& control : dialog.controls)
+        views_.at(control.id)->refresh(control);
+    showFrontPage(dialog);
+    moveFocus(dialog);
+}
+
+void DialogWindow::showFrontPage(const Dialog& dialog) {
+    if (tabs_ == nullptr)
+        return;
+    const QSignalBlocker silence(tabs_);
+    const auto page = pages_.find(dialog.tabs->frontPage);
+    if (page != pages_.end())
+        tabs_->setCurrentWidget(page->second);
+}
+
+// The guest's focus is taken once: afterwards the user goes where he likes.
+void DialogWindow::moveFocus(const Dialog& dialog) {
+    if (dialog.focus == focus_)
+        return;
+    focus_ = dialog.focus;
+    const auto view = views_.find(focus_);
+    if (view != views_.end())
+        view->second->widget()->setFocus();
+}
+
+void DialogWindow::act(const DialogAction& action) {
+    for (const auto& [id, view] : views_)
+        view->commit();
+    sink_(action);
+}
+
+void DialogWindow::reject() {
+    act(PressDialogButton{DialogButton::Cancel});
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    reject();
+}
+
+} // namespace quorvia::host

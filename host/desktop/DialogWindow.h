@@ -1,0 +1,54 @@
+// A guest's dialog on the screen. It shows what it is told, and tells what the user does; nothing
+// that the user does closes it, since that is the guest's to say.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QTabWidget>
+
+#include "desktop/ControlView.h"
+#include "toolkit/Dialog.h"
+
+namespace quorvia::host {
+
+class DialogWindow : public QDialog {
+public:
+    /// Modal for the whole program.
+    DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent);
+    ~DialogWindow() override;
+
+    /// `dialog` is a later state of the same dialog; controls may have come to it.
+    void refresh(const Dialog& dialog);
+
+    /// Esc asks for Cancel.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void addTabs(const Dialog& dialog);
+    void addPages(const Dialog& dialog);
+    void addButtons(const Dialog& dialog);
+    void addControls(const Dialog& dialog);
+    void showFrontPage(const Dialog& dialog);
+    void moveFocus(const Dialog& dialog);
+    void placeParts(const Dialog& dialog);
+    /// What was typed comes before what the user does next.
+    void act(const DialogAction& action);
+    QWidget* parentOf(const Control& control);
+
+    ActionSink sink_;
+    DialogScale scale_;
+    QTabWidget* tabs_ = nullptr;
+    QDialogButtonBox* buttons_ = nullptr;
+    std::map<std::int32_t, QWidget*> pages_; // by their identifiers
+    std::map<std::int32_t, std::unique_ptr<ControlView>> views_;
+    std::int32_t focus_ = QuorGUIId_None;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,68 @@
+#include "desktop/GuestWindows.h"
+
+#include <utility>
+
+#include <QApplication>
+
+#include "desktop/DialogWindow.h"
+#include "desktop/HelpWindow.h"
+#include "desktop/ImportFileDialog.h"
+#include "desktop/MessageBoxes.h"
+
+namespace quorvia::host {
+
+GuestWindows::GuestWindows(QWidget& mainWindow, ActionQueue& actions)
+    : mainWindow_(mainWindow), actions_(actions) {}
+
+GuestWindows::~GuestWindows() = default;
+
+// Boxes and nested dialogs belong before the dialog that is open.
+QWidget* GuestWindows::front() const {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : &mainWindow_;
+}
+
+void GuestWindows::showDialog(const Dialog& dialog) {
+    const auto act = [this](DialogAction action) { actions_.push(std::move(action)); };
+    auto window = std::make_unique<DialogWindow>(dialog, act, &mainWindow_);
+    const auto position = positions_.find(dialog.id);
+    if (position != positions_.end())
+        window->move(position->second);
+    window->show();
+    window->activateWindow();
+    dialogs_[dialog.id] = std::move(window);
+}
+
+void GuestWindows::refreshDialog(const Dialog& dialog, std::int64_t pushedCount) {
+    const auto found = dialogs_.find(dialog.id);
+    if (found != dialogs_.end() && actions_.pushedCount() == pushedCount)
+        found->second->refresh(dialog);
+}
+
+void GuestWindows::dropDialog(std::int32_t dialog) {
+    const auto found = dialogs_.find(dialog);
+    if (found == dialogs_.end())
+        return;
+    positions_[dialog] = found->second->pos();
+    found->second->hide();
+    found->second.release()->deleteLater(); // it may be in the middle of an event of its own
+    dialogs_.erase(found);
+}
+
+void GuestWindows::tell(const std::string& text, bool isError) {
+    showText(front(), text, isError ? TextKind_e::Error : TextKind_e::Information);
+}
+
+bool GuestWindows::ask(const std::string& question) {
+    return askQuestion(front(), question);
+}
+
+std::vector<std::string> GuestWindows::chooseFiles(const FileRequest& request) {
+    return chooseExistingFiles(front(), request);
+}
+
+void GuestWindows::showHelp(const std::string& target) {
+    HelpWindow::show(front(), target);
+}
+
+} // namespace quorvia::host

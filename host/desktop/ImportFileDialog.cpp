@@ -1,0 +1,114 @@
+#include "desktop/ImportFileDialog.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QRegularExpression>
+
+#include "desktop/Preferences.h"
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+namespace {
+
+/// The host's own dialog everywhere, since options are added to it.
+void prepare(QFileDialog& dialog, const QString& title, bool severalFiles) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setWindowTitle(title);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    dialog.setDirectory(Preferences().folder());
+    constexpr QSize kRoomForLongNames(760, 480);
+    dialog.resize(kRoomForLongNames);
+}
+
+QString filterText(const QString& kind, const std::string& patterns) {
+    static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
+    const QStringList list = shown(patterns).split(separators, Qt::SkipEmptyParts);
+    return QStringLiteral("%1 (%2)").arg(kind, list.join(QLatin1Char(' ')));
+}
+
+const QString kAllFiles = QStringLiteral("All files (*)");
+
+/// Empty if the user cancels.
+std::vector<std::string> runDialog(QFileDialog& dialog) {
+    std::vector<std::string> files;
+    if (dialog.exec() != QDialog::Accepted)
+        return files;
+    for (const QString& file : dialog.selectedFiles())
+        files.push_back(QDir::cleanPath(file).toStdString());
+    if (!files.empty())
+        Preferences().setFolderOf(shown(files.front()));
+    return files;
+}
+
+/// The row of options below the file name and the filter.
+struct Options_s {
+    QCheckBox* advanced;
+    QCheckBox* append;
+};
+
+Options_s addOptions(QFileDialog& dialog, const LoaderTraits_s& loader, bool hasDataSet) {
+    const Options_s options{new QCheckBox(QStringLiteral("A&dvanced options"), &dialog),
+                            new QCheckBox(QStringLiteral("&Append to the data set"), &dialog)};
+    options.advanced->setObjectName(QStringLiteral("advanced"));
+    options.append->setObjectName(QStringLiteral("append"));
+    options.advanced->setEnabled(loader.allowsAdvancedOptions);
+    options.advanced->setToolTip(
+        loader.allowsAdvancedOptions
+            ? QStringLiteral("Show the loader's dialog before the files are loaded.")
+            : QStringLiteral("This loader has no advanced options."));
+    options.append->setEnabled(loader.allowsAppending && hasDataSet);
+    if (!loader.allowsAppending)
+        options.append->setToolTip(QStringLiteral("This loader can't append."));
+    else
+        options.append->setToolTip(
+            hasDataSet ? QStringLiteral("Keep the data set, and add what is in the files.")
+                       : QStringLiteral("There is no data set to append to yet."));
+    auto* row = new QHBoxLayout;
+    row->addWidget(options.advanced);
+    row->addWidget(options.append);
+    row->addStretch();
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+        constexpr int kColumnOfFields = 1;
+        grid->addLayout(row, grid->rowCount(), kColumnOfFields);
+    }
+    return options;
+}
+
+} // namespace
+
+FileSelection_s selectFilesToImport(QWidget* parent, const LoaderTraits_s& loader,
+                                    bool hasDataSet) {
+    QFileDialog dialog(parent);
+    prepare(dialog, QStringLiteral("Import: %1").arg(shown(loader.name)),
+            loader.allowsSeveralFiles);
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Import"));
+    dialog.setNameFilters({filterText(shown(loader.name), loader.fileNameExtensions), kAllFiles});
+    const Options_s options = addOptions(dialog, loader, hasDataSet);
+    FileSelection_s selection;
+    selection.files = runDialog(dialog);
+    selection.advanced = options.advanced->isChecked();
+    selection.append = options.append->isChecked();
+    return selection;
+}
+
+std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest& request) {
+    QFileDialog dialog(parent);
+    const QString files = request.severalFiles ? QStringLiteral("Files") : QStringLiteral("File");
+    prepare(dialog, QStringLiteral("Choose %1 %2").arg(shown(request.kind), files),
+            request.severalFiles);
+    // "*.*" would hide the files without an extension.
+    if (request.filter.empty() || request.filter == "*.*")
+        dialog.setNameFilter(kAllFiles);
+    else
+        dialog.setNameFilters(
+            {filterText(QStringLiteral("%1 files").arg(shown(request.kind)), request.filter),
+             kAllFiles});
+    if (!request.defaultName.empty())
+        dialog.setDirectory(QFileInfo(shown(request.defaultName)).absolutePath());
+    return runDialog(dialog);
+}
+
+} // namespace quorvia::host

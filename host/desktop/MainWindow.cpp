@@ -1,0 +1,268 @@
+#include "desktop/MainWindow.h"
+
+#include <utility>
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+
+#include "desktop/MessageBoxes.h"
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+namespace {
+
+constexpr const char* kImportPage = "data-loading.html#data-loading/plot3d";
+
+QString sizeText(const std::optional<DataSetOutcome_s>& dataSet) {
+    if (!dataSet)
+        return QStringLiteral("no data set");
+    return QStringLiteral("%1, %2").arg(
+        counted(dataSet->zones.size(), "zone", "zones"),
+        counted(dataSet->variables.size(), "variable", "variables"));
+}
+
+std::vector<std::string> localFiles(const QMimeData& data) {
+    std::vector<std::string> files;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            files.push_back(url.toLocalFile().toStdString());
+    return files;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> files)
+    : filesAtStart_(std::move(files)), session_(*this) {
+    setWindowTitle(QStringLiteral("Quorvia Reference Host"));
+    setObjectName(QStringLiteral("main"));
+    setAcceptDrops(true);
+    tree_ = new DataSetTree(
+        [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
+    setCentralWidget(tree_);
+    addMenus();
+    addTools();
+    constexpr QSize kAtFirst(860, 600);
+    resize(kAtFirst);
+    restoreGeometry(preferences_.windowGeometry());
+    connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] { showWhatIsPossible(); });
+    showWhatIsPossible();
+    QTimer::singleShot(0, this, [this, addOnPath] { openAddOn(addOnPath); });
+}
+
+// ---- Menus --------------------------------------------------------------------------------------
+
+QAction* MainWindow::action(const QString& text, const QKeySequence& keys,
+                            void (MainWindow::*operation)()) {
+    auto* made = new QAction(text, this);
+    made->setShortcut(keys);
+    connect(made, &QAction::triggered, this, [this, operation] { (this->*operation)(); });
+    return made;
+}
+
+void MainWindow::addMenus() {
+    addFileMenu();
+    addValuesMenu();
+    addHelpMenu();
+}
+
+void MainWindow::addFileMenu() {
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    QMenu* import = file->addMenu(QStringLiteral("&Import"));
+    import_ = action(QStringLiteral("No Loader"), QKeySequence(Qt::CTRL | Qt::Key_I),
+                     &MainWindow::importByHand);
+    import->addAction(import_);
+    discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
+    file->addAction(discard_);
+    file->addSeparator();
+    auto* quit = new QAction(QStringLiteral("&Quit"), this);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    file->addAction(quit);
+}
+
+void MainWindow::addValuesMenu() {
+    QMenu* values = menuBar()->addMenu(QStringLiteral("&Values"));
+    fetchSelected_ = action(QStringLiteral("&Fetch Values of Selection"), QKeySequence(Qt::Key_F5),
+                            &MainWindow::fetchSelected);
+    fetchAll_ = action(QStringLiteral("Fetch &All Values"), QKeySequence(Qt::SHIFT | Qt::Key_F5),
+                       &MainWindow::fetchAll);
+    values->addActions({fetchSelected_, fetchAll_});
+}
+
+void MainWindow::addHelpMenu() {
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->addAction(action(QStringLiteral("&Importing PLOT3D Files"), QKeySequence(Qt::Key_F1),
+                           &MainWindow::showHelp));
+    help->addAction(action(QStringLiteral("&About"), {}, &MainWindow::showAbout));
+}
+
+void MainWindow::addTools() {
+    import_->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+    fetchAll_->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
+    QToolBar* tools = addToolBar(QStringLiteral("Tools"));
+    tools->setMovable(false);
+    tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    tools->addAction(import_);
+    tools->addAction(fetchAll_);
+    tools->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be taken away by accident
+}
+
+bool MainWindow::mayImport() const {
+    return session_.loader().has_value() && !session_.isBusy();
+}
+
+void MainWindow::showWhatIsPossible() {
+    const bool hasDataSet = tree_->dataSet() != nullptr && !session_.isBusy();
+    const auto set = [](QAction* action, bool isPossible, const char* whyNot) {
+        action->setEnabled(isPossible);
+        action->setToolTip(isPossible ? action->text().remove(QLatin1Char('&'))
+                                      : QString::fromLatin1(whyNot));
+    };
+    set(import_, mayImport(), "No add-on has registered a loader, or work goes on.");
+    set(discard_, hasDataSet, "There is no data set, or work goes on.");
+    set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
+    set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
+        "Select variables, zones or fields of the data set first.");
+}
+
+void MainWindow::workBegins(const QString& what) {
+    statusBar()->showMessage(what);
+    showWhatIsPossible();
+}
+
+void MainWindow::workEnded(const QString& what) {
+    statusBar()->showMessage(what);
+    showWhatIsPossible();
+    if (wantsToClose_)
+        close();
+}
+
+// ---- The add-on ---------------------------------------------------------------------------------
+
+void MainWindow::openAddOn(const std::string& path) {
+    session_.openAddOn(path, [this](const std::string& error) { showOpened(error); });
+    workBegins(QStringLiteral("Opening the add-on"));
+}
+
+void MainWindow::showOpened(const std::string& error) {
+    isOpened_ = true;
+    if (session_.loader())
+        import_->setText(shown(session_.loader()->name) + QStringLiteral("..."));
+    workEnded(session_.loader() ? QStringLiteral("Ready") : QStringLiteral("No add-on"));
+    if (!error.empty())
+        showText(this, error, TextKind_e::Error);
+    if (session_.loader() && !filesAtStart_.empty())
+        import({std::exchange(filesAtStart_, {}), false, false});
+}
+
+// ---- Imports ------------------------------------------------------------------------------------
+
+void MainWindow::importByHand() {
+    const bool hasDataSet = tree_->dataSet() != nullptr;
+    const FileSelection_s selection = selectFilesToImport(this, *session_.loader(), hasDataSet);
+    if (!selection.files.empty())
+        import(selection);
+}
+
+void MainWindow::import(const FileSelection_s& selection) {
+    session_.import(selection, [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
+    workBegins(
+        QStringLiteral("Importing %1").arg(counted(selection.files.size(), "file", "files")));
+}
+
+void MainWindow::showImport(ImportOutcome_s outcome) {
+    QString what = outcome.result.interrupted ? QStringLiteral("Import cancelled: %1")
+                   : outcome.result.ok        ? QStringLiteral("Imported: %1")
+                                              : QStringLiteral("Nothing was imported: %1");
+    what = what.arg(sizeText(outcome.dataSet));
+    if (outcome.dataSet)
+        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
+    else
+        tree_->showNothing();
+    workEnded(what);
+    if (!outcome.result.hostError.empty())
+        showText(this, outcome.result.hostError, TextKind_e::Error);
+}
+
+void MainWindow::importDropped(const std::vector<std::string>& files) {
+    if (files.empty() || !mayImport())
+        return;
+    FileSelection_s selection{files, false, false};
+    if (tree_->dataSet() != nullptr) {
+        const Replacement_e choice = askReplacement(this);
+        if (choice == Replacement_e::Cancel)
+            return;
+        selection.append = choice == Replacement_e::Append;
+    }
+    import(selection);
+}
+
+void MainWindow::discardDataSet() {
+    session_.discardDataSet([this] {
+        tree_->showNothing();
+        workEnded(QStringLiteral("Discarded"));
+    });
+    workBegins(QStringLiteral("Discarding the data set"));
+}
+
+// ---- Values -------------------------------------------------------------------------------------
+
+void MainWindow::fetch(std::vector<FieldAddress_s> fields) {
+    if (fields.empty() || session_.isBusy())
+        return;
+    const QString count = counted(fields.size(), "field", "fields");
+    session_.fetch(
+        *tree_->dataSet(), std::move(fields),
+        [this](DataSetOutcome_s dataSet, FetchEnd_e end) { showFetched(std::move(dataSet), end); });
+    workBegins(QStringLiteral("Fetching the values of %1").arg(count));
+}
+
+void MainWindow::showFetched(DataSetOutcome_s dataSet, FetchEnd_e end) {
+    tree_->showValues(std::move(dataSet));
+    workEnded(end == FetchEnd_e::Done      ? QStringLiteral("Values fetched")
+              : end == FetchEnd_e::Stopped ? QStringLiteral("Fetching cancelled")
+                                           : QStringLiteral("Not all values could be fetched"));
+}
+
+// ---- Help, and the rest of a window's life ------------------------------------------------------
+
+void MainWindow::showHelp() {
+    session_.guestWindows().showHelp(kImportPage);
+}
+
+void MainWindow::showAbout() {
+    QMessageBox::about(this, QStringLiteral("About"),
+                       QStringLiteral("Quorvia reference host %1\n\nImports PLOT3D files through "
+                                      "the add-on, by hand.")
+                           .arg(QLatin1String(QUORHOST_VERSION)));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    preferences_.setWindowGeometry(saveGeometry());
+    if (!session_.isBusy()) {
+        event->accept();
+        return;
+    }
+    wantsToClose_ = true; // once what runs has stopped
+    session_.leave();
+    event->ignore();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (mayImport() && !localFiles(*event->mimeData()).empty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    importDropped(localFiles(*event->mimeData()));
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,72 @@
+// The window of the program: the import menu, the tree of the data set, and a line that tells what
+// happened last.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QAction>
+#include <QMainWindow>
+
+#include "desktop/DataSetTree.h"
+#include "desktop/DesktopSession.h"
+#include "desktop/Preferences.h"
+
+namespace quorvia::host {
+
+class MainWindow : public QMainWindow {
+public:
+    /// The add-on at `addOnPath` is opened once the program's event loop runs; then `files` are
+    /// imported in one selection, if there are any.
+    MainWindow(const std::string& addOnPath, std::vector<std::string> files);
+
+    /// The add-on is open, or can't be opened, and nothing runs.
+    bool isReady() const { return isOpened_ && !session_.isBusy(); }
+    DesktopSession& session() { return session_; }
+    DataSetTree& tree() { return *tree_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void addMenus();
+    void addFileMenu();
+    void addValuesMenu();
+    void addHelpMenu();
+    void addTools();
+    QAction* action(const QString& text, const QKeySequence& keys, void (MainWindow::*operation)());
+
+    void openAddOn(const std::string& path);
+    void showOpened(const std::string& error);
+    void importByHand();
+    void import(const FileSelection_s& selection);
+    void showImport(ImportOutcome_s outcome);
+    void importDropped(const std::vector<std::string>& files);
+    void fetch(std::vector<FieldAddress_s> fields);
+    void showFetched(DataSetOutcome_s dataSet, FetchEnd_e end);
+    void fetchSelected() { fetch(tree_->selectedFields()); }
+    void fetchAll() { fetch(tree_->allFields()); }
+    void discardDataSet();
+    void showHelp();
+    void showAbout();
+
+    void workBegins(const QString& what);
+    void workEnded(const QString& what);
+    void showWhatIsPossible();
+    bool mayImport() const;
+
+    Preferences preferences_;
+    DataSetTree* tree_ = nullptr;
+    QAction* import_ = nullptr;
+    QAction* discard_ = nullptr;
+    QAction* fetchSelected_ = nullptr;
+    QAction* fetchAll_ = nullptr;
+    bool isOpened_ = false;
+    bool wantsToClose_ = false;
+    std::vector<std::string> filesAtStart_;
+    DesktopSession session_;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,17 @@
+#include "desktop/ProgressFeed.h"
+
+#include <utility>
+
+namespace quorvia::host {
+
+void ProgressFeed::put(const ProgressState& state) {
+    const std::lock_guard lock(mutex_);
+    last_ = state;
+}
+
+std::optional<ProgressState> ProgressFeed::take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(last_, std::nullopt);
+}
+
+} // namespace quorvia::host

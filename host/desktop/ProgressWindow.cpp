@@ -1,0 +1,108 @@
+#include "desktop/ProgressWindow.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+namespace {
+
+constexpr int kMillisecondsBetweenLooks = 33;
+constexpr qint64 kMillisecondsBeforeShown = 300;
+constexpr int kBarLength = 1000; // steps of the bar from 0 to 1
+constexpr int kWidth = 480;
+
+} // namespace
+
+ProgressWindow::ProgressWindow(ProgressFeed& feed, std::function<void()> cancel, QWidget* parent)
+    : QDialog(parent), feed_(feed), cancel_(std::move(cancel)),
+      cancelButton_(QStringLiteral("Cancel")) {
+    setObjectName(QStringLiteral("progress"));
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    text_.setTextFormat(Qt::PlainText);
+    text_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    text_.setObjectName(QStringLiteral("progressText"));
+    bar_.setRange(0, kBarLength);
+    bar_.setFormat(QStringLiteral("%p%"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(layout->spacing() * 2);
+    layout->addWidget(&text_);
+    layout->addWidget(&bar_);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(&cancelButton_);
+    layout->addLayout(buttons);
+    setFixedWidth(kWidth);
+    connect(&cancelButton_, &QPushButton::clicked, this, [this] { reject(); });
+    connect(&lookTimer_, &QTimer::timeout, this, [this] { look(); });
+}
+
+void ProgressWindow::begin(const QString& title) {
+    setWindowTitle(title);
+    cancelled_ = false;
+    barIsOpen_ = false;
+    cancelButton_.setEnabled(true);
+    bar_.setValue(0);
+    fullText_.clear();
+    feed_.take(); // what is left of earlier work
+    sinceBegin_.start();
+    lookTimer_.start(kMillisecondsBetweenLooks);
+}
+
+void ProgressWindow::end() {
+    lookTimer_.stop();
+    hide();
+}
+
+void ProgressWindow::look() {
+    if (const std::optional<ProgressState> state = feed_.take())
+        showState(*state);
+    if (barIsOpen_ && !isVisible() && sinceBegin_.elapsed() >= kMillisecondsBeforeShown)
+        comeUp();
+}
+
+void ProgressWindow::showState(const ProgressState& state) {
+    barIsOpen_ = state.open;
+    if (!state.open) {
+        hide();
+        return;
+    }
+    bar_.setValue(static_cast<int>(state.fraction * kBarLength));
+    fullText_ = shown(state.text);
+    showText();
+}
+
+void ProgressWindow::comeUp() {
+    // A box that waits for an answer must stay in front.
+    if (QApplication::activeModalWidget() != nullptr)
+        return;
+    show();
+    cancelButton_.setFocus();
+}
+
+void ProgressWindow::showText() {
+    const QString text = cancelled_ ? QStringLiteral("Cancelling...") : fullText_;
+    text_.setText(text_.fontMetrics().elidedText(text, Qt::ElideMiddle, text_.width()));
+    text_.setToolTip(text);
+}
+
+void ProgressWindow::reject() {
+    if (cancelled_)
+        return;
+    cancelled_ = true;
+    cancelButton_.setEnabled(false);
+    showText();
+    cancel_();
+}
+
+void ProgressWindow::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    showText();
+}
+
+} // namespace quorvia::host

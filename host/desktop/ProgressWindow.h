@@ -1,0 +1,52 @@
+// How far the guest's work has come, with a button to stop it.
+#pragma once
+
+#include <functional>
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+#include "desktop/ProgressFeed.h"
+
+namespace quorvia::host {
+
+class ProgressWindow : public QDialog {
+public:
+    /// `feed` is borrowed; `cancel` is called once for each piece of work at most.
+    ProgressWindow(ProgressFeed& feed, std::function<void()> cancel, QWidget* parent);
+
+    /// From the beginning of a piece of work to its end the window looks at the feed. It comes up
+    /// once there is something to tell, and not for work that is over at once.
+    void begin(const QString& title);
+    void end();
+    /// Looks at the feed now.
+    void look();
+
+    /// Esc and the window's frame ask for the same as Cancel.
+    void reject() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void showState(const ProgressState& state);
+    void showText();
+    void comeUp();
+
+    ProgressFeed& feed_;
+    std::function<void()> cancel_;
+    QLabel text_;
+    QProgressBar bar_;
+    QPushButton cancelButton_;
+    QTimer lookTimer_;
+    QElapsedTimer sinceBegin_;
+    QString fullText_;
+    bool barIsOpen_ = false; // the guest has something to tell
+    bool cancelled_ = false;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,31 @@
+#include "desktop/TextFieldView.h"
+
+#include <utility>
+
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+
+TextFieldView::TextFieldView(const Control& control, ActionSink act, QWidget* parent)
+    : ControlView(new QLineEdit(parent)), field_(*static_cast<QLineEdit*>(widget())),
+      id_(control.id), act_(std::move(act)) {
+    QObject::connect(&field_, &QLineEdit::editingFinished, &field_, [this] { commit(); });
+}
+
+void TextFieldView::commit() {
+    if (!field_.isModified())
+        return;
+    field_.setModified(false);
+    act_(TypeText{id_, field_.text().toStdString()});
+}
+
+// What is being typed is the user's until he leaves the field.
+void TextFieldView::showValue(const Control& control) {
+    const QString text = shown(control.text);
+    if (field_.isModified() || field_.text() == text)
+        return;
+    field_.setText(text);
+    field_.setCursorPosition(0);
+}
+
+} // namespace quorvia::host

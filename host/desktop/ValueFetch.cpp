@@ -1,0 +1,80 @@
+#include "desktop/ValueFetch.h"
+
+#include "describe/Statistics.h"
+
+namespace quorvia::host {
+namespace {
+
+/// The field itself, or the one of another zone that it shares its values with.
+FieldAddress_s holderOf(const DataSetOutcome_s& dataSet, FieldAddress_s address) {
+    const FieldOutcome_s* field = findField(dataSet, address);
+    if (field != nullptr && field->sharedWith != 0)
+        return {field->sharedWith, address.variable};
+    return address;
+}
+
+bool isWanted(const FieldOutcome_s* field) {
+    return field != nullptr && field->state != FieldState_e::Empty && !field->statistics;
+}
+
+/// In the order asked for, each once: what was fetched is not wanted any more.
+bool fetchHolder(ReferenceHost& host, FieldAddress_s address, FieldOutcome_s& field) {
+    const FetchResult fetched = host.fetch(address.zone, address.variable);
+    if (!fetched.ok) {
+        field.error = fetched.error;
+        return false;
+    }
+    field.error.reset();
+    field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
+                                      fetched.values, fetched.count);
+    return true;
+}
+
+void copyFromHolders(DataSetOutcome_s& dataSet) {
+    for (ZoneOutcome_s& zone : dataSet.zones) {
+        for (FieldOutcome_s& field : zone.fields) {
+            if (const auto* holder = findField(dataSet, {field.sharedWith, field.variable})) {
+                field.statistics = holder->statistics;
+                field.error = holder->error;
+            }
+        }
+    }
+}
+
+FetchEnd_e fetchHolders(ReferenceHost& host, DataSetOutcome_s& dataSet,
+                        const std::vector<FieldAddress_s>& fields, const FetchObserver& observer) {
+    std::int64_t done = 0;
+    for (const FieldAddress_s asked : fields) {
+        const FieldAddress_s address = holderOf(dataSet, asked);
+        if (!observer(done++, static_cast<std::int64_t>(fields.size())))
+            return FetchEnd_e::Stopped;
+        FieldOutcome_s* field = findField(dataSet, address);
+        if (isWanted(field) && !fetchHolder(host, address, *field))
+            return host.interruptRequested() ? FetchEnd_e::Stopped : FetchEnd_e::Failed;
+    }
+    return FetchEnd_e::Done;
+}
+
+} // namespace
+
+FieldOutcome_s* findField(DataSetOutcome_s& dataSet, FieldAddress_s address) {
+    return const_cast<FieldOutcome_s*>(
+        findField(static_cast<const DataSetOutcome_s&>(dataSet), address));
+}
+
+const FieldOutcome_s* findField(const DataSetOutcome_s& dataSet, FieldAddress_s address) {
+    const auto zone = static_cast<std::size_t>(address.zone) - 1;
+    const auto variable = static_cast<std::size_t>(address.variable) - 1;
+    if (zone >= dataSet.zones.size() || variable >= dataSet.zones[zone].fields.size())
+        return nullptr;
+    return &dataSet.zones[zone].fields[variable];
+}
+
+FetchEnd_e fetchFields(ReferenceHost& host, DataSetOutcome_s& dataSet,
+                       const std::vector<FieldAddress_s>& fields, const FetchObserver& observer) {
+    const FetchEnd_e end = fetchHolders(host, dataSet, fields, observer);
+    copyFromHolders(dataSet);
+    return end;
+}
+
+} // namespace quorvia::host
