@@ -1,0 +1,113 @@
+// How a macro's actions are played: where they go on, what becomes of those that are left, and what
+// is said of one that can't be done.
+#include <sstream>
+
+#include "acceptance/dialog/DialogSession.h"
+#include "app/Program.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+class DialogScript : public DialogSession {
+protected:
+    /// What is said on standard error of a session that ends at the action.
+    std::string problemOf(const Json& action) {
+        play(atDialog({grid_}, {action, press("OK")}));
+        EXPECT_EQ(exitCode_, 1);
+        EXPECT_TRUE(last()["dataSet"].is_null());
+        const std::string head = "macro.json: command 2: dialog, action 1: ";
+        const std::size_t start = shown_.find(head);
+        EXPECT_NE(start, std::string::npos) << shown_;
+        return start == std::string::npos
+                   ? ""
+                   : shown_.substr(start + head.size(),
+                                   shown_.find('\n', start) - start - head.size());
+    }
+    /// The account of a session for people.
+    std::string account(const Commands& commands) {
+        const std::string file =
+            directory().write("account.json", command("commands", Json(commands)).dump());
+        std::ostringstream out;
+        std::ostringstream err;
+        host::run({"macro", file, "--addon", PLOT3D_ADDON_PATH}, {out, err, 0});
+        return out.str();
+    }
+    static void expectIn(const std::string& text, const std::string& part) {
+        EXPECT_NE(text.find(part), std::string::npos) << text;
+    }
+
+    const std::string grid_ = series_.grid("wing.x");
+    const std::string solution_ = series_.solution("wing.q", 1);
+};
+
+TEST_F(DialogScript, TellsWhatCannotBeFound) {
+    EXPECT_EQ(problemOf(toPage("Files")), "there is no page \"Files\"");
+    EXPECT_EQ(problemOf(toggle("Swirl", true)), "there is no toggle \"Swirl\"");
+    EXPECT_EQ(problemOf(radio("4-D")), "there is no radio box with an item \"4-D\"");
+    EXPECT_EQ(problemOf(menu("Plot4D")), "there is no menu with an item \"Plot4D\"");
+    EXPECT_EQ(problemOf(press("Go")), "there is no button \"Go\"");
+    EXPECT_EQ(problemOf(press("...", "Solution")), "there is no such button \"...\"");
+    EXPECT_EQ(problemOf(type("1", "L-Index Start")), "there is no field \"L-Index Start\"");
+    EXPECT_EQ(problemOf(type("1", "Start")), "there is more than one field \"Start\"");
+    EXPECT_EQ(problemOf(press("Apply")), "the dialog has no such button");
+}
+
+TEST_F(DialogScript, TellsWhatCannotBeUsed) {
+    EXPECT_EQ(problemOf(press("Remove All")),
+              "there are 3 buttons \"Remove All\"; \"list\" says which");
+    EXPECT_EQ(problemOf(press("Remove All", "Solution")), "the control is not sensitive");
+    EXPECT_EQ(problemOf(type("1", "I-Index Start")),
+              "the control is on a page that is not in front");
+    EXPECT_EQ(problemOf(selectItems({2}, "Grid")), "there is no item 2");
+}
+
+TEST_F(DialogScript, WaitsForALaunch) {
+    Commands commands = {command("dialog", Actions{press("OK")}), select({grid_, solution_}),
+                         command("answers", Json::array({true})),
+                         command("select", Json{{"files", {grid_}}, {"advanced", true}})};
+    play(commands);
+    EXPECT_EQ(exitCode_, 0);
+    EXPECT_EQ(last()["dataSet"]["variables"].size(), 3U);
+}
+
+TEST_F(DialogScript, OfTwoCommandsIsOneScript) {
+    play({command("dialog", Actions{press("Remove All", "Solution")}),
+          command("dialog", Actions{press("OK")}),
+          command("select", Json{{"files", {grid_, solution_}}, {"advanced", true}})});
+    EXPECT_EQ(exitCode_, 0);
+    EXPECT_EQ(last()["dataSet"]["variables"].size(), 3U);
+}
+
+TEST_F(DialogScript, FileChoiceStandsBeforeOrBehindTheButton) {
+    for (const Actions& order : {Actions{choose({solution_}), press("Add Files...", "Solution")},
+                                 Actions{press("Add Files...", "Solution"), choose({solution_})}})
+        EXPECT_EQ(listOf(shownAfter({grid_}, order), "Solution")["items"], Json({solution_}));
+}
+
+TEST_F(DialogScript, DescribesTheMomentWithItsMessagesSoFar) {
+    playAtDialog({grid_}, {press("Remove All", "Grid"), describe("before"), press("OK"),
+                           describe("behind"), press("Cancel")});
+    EXPECT_EQ(messages(described("before")), Texts());
+    EXPECT_EQ(messages(described("behind")).size(), 1U);
+    EXPECT_EQ(messages(last()), Texts());
+}
+
+TEST_F(DialogScript, AccountTellsOfADialogThatWasLeftOpen) {
+    expectIn(account(atDialog({grid_}, {toPage(subsetPage)})),
+             "failed, the dialog was still open and was cancelled");
+}
+
+TEST_F(DialogScript, AccountTellsOfActionsThatWereLeft) {
+    expectIn(account(atDialog({grid_}, {press("OK"), toPage(subsetPage), press("OK")})),
+             "loaded, 2 dialog actions were left");
+}
+
+TEST_F(DialogScript, NoneAtAllCancelsTheDialog) {
+    play({command("select", Json{{"files", {grid_}}, {"advanced", true}})});
+    EXPECT_EQ(exitCode_, 1);
+    EXPECT_EQ(last()["dialog"]["open"], false);
+    EXPECT_EQ(messages(last()), Texts());
+}
+
+} // namespace
+} // namespace quorvia::testsupport
