@@ -3,7 +3,7 @@
 #include "boundary/BoundaryFileLocation.h"
 #include "dialog/DialogControls.h"
 #include "dialog/DialogLock.h"
-#include "dialog/FileLists.h"
+#include "dialog/FileSelectionRefresh.h"
 #include "dialog/LoadDialog.h"
 #include "loader/LoadDriver.h"
 #include "quorvia/HostHandles.h"

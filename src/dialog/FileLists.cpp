@@ -1,10 +1,10 @@
 #include "dialog/FileLists.h"
 
-#include <cstddef>
+#include <iterator>
 
 #include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
-#include "dialog/FileSelectionPage.h"
+#include "dialog/FileSelectionRefresh.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
@@ -55,9 +55,11 @@ private:
 
 void removeSelectedFiles(std::int32_t list, Files& files) {
     const SelectedItems selected(list);
-    // Backwards, so that the positions that are left stay true.
+    // Backwards, so that the positions that are left stay true. The host may have made the record
+    // forget its files while the list still shows them.
     for (std::int32_t index = selected.count() - 1; index >= 0; --index)
-        files.erase(files.begin() + (selected[index] - 1));
+        if (selected[index] <= std::ssize(files))
+            files.erase(files.begin() + (selected[index] - 1));
     showFiles(list, files);
 }
 
@@ -153,12 +155,6 @@ void buildFunctionFileList(PageBuilder& page) {
     functionRemoveAll =
         page.button(7387, 2335, 2018, 144, removeAllCaption, removeAllPressed<functionColumn>);
     page.button(7387, 2531, 1977, 144, addFilesCaption, addFilesPressed<functionColumn>);
-}
-
-void showFiles(std::int32_t list, const Files& files) {
-    QuorGUIListDeleteAllItems(list);
-    for (const std::string& file : files)
-        QuorGUIListAppendItem(list, file.c_str());
 }
 
 } // namespace quorvia::quorutildataio

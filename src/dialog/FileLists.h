@@ -2,10 +2,6 @@
 // a list with the buttons Remove Selected, Remove All and Add Files.
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <vector>
-
 #include "dialog/PageBuilder.h"
 
 namespace quorvia::quorutildataio {
@@ -14,8 +10,5 @@ namespace quorvia::quorutildataio {
 void buildGridFileList(PageBuilder& page);
 void buildSolutionFileList(PageBuilder& page);
 void buildFunctionFileList(PageBuilder& page);
-
-/// Shows `files` in the list in place of its items.
-void showFiles(std::int32_t list, const std::vector<std::string>& files);
 
 } // namespace quorvia::quorutildataio

@@ -2,6 +2,7 @@
 
 #include "dialog/DialogControls.h"
 #include "dialog/FileLists.h"
+#include "dialog/FileSelectionRefresh.h"
 #include "dialog/OptionCallbacks.h"
 
 namespace quorvia::quorutildataio {
@@ -41,47 +42,6 @@ void nameFileBrowsed() {
     QuorGUITextFieldSetString(nameFileField, name.get());
 }
 
-void refreshFileLists(const Plot3DLoadOptions_s& options) {
-    showFiles(gridList, options.gridFiles);
-    showFiles(solutionList, options.solutionFiles);
-    showFiles(functionList, options.functionFiles);
-    for (const std::int32_t button :
-         {gridRemoveSelected, solutionRemoveSelected, functionRemoveSelected})
-        QuorGUISetSensitivity(button, false); // nothing is selected in a list that was just filled
-    QuorGUISetSensitivity(gridRemoveAll, !options.gridFiles.empty());
-    QuorGUISetSensitivity(solutionRemoveAll, !options.solutionFiles.empty());
-    QuorGUISetSensitivity(functionRemoveAll, !options.functionFiles.empty());
-}
-
-void refreshNameFile(const Plot3DLoadOptions_s& options) {
-    QuorGUITextFieldSetString(nameFileField, options.nameFile.c_str());
-    const bool hasVariablesToName = !options.gridFiles.empty() && (!options.functionFiles.empty() ||
-                                                                   !options.solutionFiles.empty());
-    for (const std::int32_t control : {nameFileLabel, nameFileBrowse, nameFileField})
-        QuorGUISetSensitivity(control, hasVariablesToName);
-}
-
-bool canAddToStrands(const Plot3DLoadOptions_s& options) {
-    return options.append && !options.solutionFiles.empty() &&
-           options.style != Plot3DStyle_Function && options.assignStrandIds &&
-           !options.assignNewStrandIdForEachTimeStep;
-}
-
-bool canAssignStrandPerStep(const Plot3DLoadOptions_s& options) {
-    return !options.uniformGridStructure && options.assignStrandIds &&
-           !options.addToExistingStrands;
-}
-
-void refreshStrands(const Plot3DLoadOptions_s& options) {
-    QuorGUISetSensitivity(addToStrandsToggle, canAddToStrands(options));
-    QuorGUISetSensitivity(newStrandPerStepToggle, canAssignStrandPerStep(options));
-    QuorGUISetSensitivity(uniformGridToggle, options.gridFiles.size() != 1);
-    QuorGUIToggleSet(assignStrandToggle, options.assignStrandIds);
-    QuorGUIToggleSet(uniformGridToggle, options.uniformGridStructure);
-    QuorGUIToggleSet(addToStrandsToggle, options.addToExistingStrands);
-    QuorGUIToggleSet(newStrandPerStepToggle, options.assignNewStrandIdForEachTimeStep);
-}
-
 } // namespace
 
 bool buildFileSelectionPage() {
@@ -113,16 +73,6 @@ bool buildFileSelectionPage() {
     nameFileField = page.textField(151, 2889, 7099, 144, nameFileTyped);
     nameFileBrowse = page.button(7401, 2889, 370, 144, "...", nameFileBrowsed);
     return page.isWhole();
-}
-
-void refreshFileSelectionPage(Plot3DLoadOptions_s& options) {
-    const bool isDataSetThere = QuorUtilDataSetIsAvailable();
-    options.append = options.append && isDataSetThere;
-    QuorGUIToggleSet(appendToggle, options.append);
-    QuorGUISetSensitivity(appendToggle, isDataSetThere);
-    refreshFileLists(options);
-    refreshNameFile(options);
-    refreshStrands(options);
 }
 
 } // namespace quorvia::quorutildataio

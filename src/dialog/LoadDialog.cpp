@@ -6,6 +6,7 @@
 #include "dialog/DialogLock.h"
 #include "dialog/DialogOk.h"
 #include "dialog/FileSelectionPage.h"
+#include "dialog/FileSelectionRefresh.h"
 #include "dialog/FileStructurePage.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorGUI.h"
