@@ -1,0 +1,107 @@
+#include "host/desktop/DesktopFixture.h"
+
+#include <sstream>
+#include <stdexcept>
+
+#include <QApplication>
+#include <QSettings>
+#include <QTest>
+#include <QTreeWidgetItemIterator>
+
+#include "plot3dsample/Run.h"
+
+namespace quorvia::host {
+namespace {
+
+constexpr int kPatience = 10000; // milliseconds
+
+} // namespace
+
+void DesktopTest::SetUp() {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       QString::fromStdString(directory_.file("settings")));
+    openWindow();
+}
+
+void DesktopTest::TearDown() {
+    EXPECT_EQ(person_.waitsFor(), "");
+    if (window_ == nullptr)
+        return;
+    if (window_->session().isBusy()) {
+        ADD_FAILURE() << "work still runs";
+        window_->session().leave();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->session().isBusy(); }, kPatience));
+    }
+    EXPECT_EQ(window_->session().takeViolations(), std::vector<std::string>());
+    window_.reset();
+}
+
+void DesktopTest::openWindow(const std::string& addOnPath) {
+    if (window_ != nullptr)
+        window_->close();
+    window_.reset();
+    window_ = std::make_unique<MainWindow>(addOnPath, std::vector<std::string>());
+    window_->show();
+    waitUntilDone();
+}
+
+void DesktopTest::waitUntilDone() {
+    const bool isDone = QTest::qWaitFor(
+        [this] {
+            return person_.isDone() && window_->isReady() &&
+                   QApplication::activeModalWidget() == nullptr;
+        },
+        kPatience);
+    if (!isDone)
+        ADD_FAILURE() << "the person waits in vain for: " << person_.waitsFor();
+}
+
+QAction& DesktopTest::action(const QString& text) {
+    for (QAction* each : window_->findChildren<QAction*>())
+        if (each->text().remove(QLatin1Char('&')) == text)
+            return *each;
+    throw std::runtime_error("no action is called " + text.toStdString());
+}
+
+void DesktopTest::choose(const QString& actionText) {
+    action(actionText).trigger();
+    waitUntilDone();
+}
+
+void DesktopTest::import(const std::vector<std::string>& names, bool append) {
+    person_.pickFiles(files(names), false, append);
+    choose(QStringLiteral("PLOT3D Loader..."));
+}
+
+void DesktopTest::writeSample(const std::vector<std::string>& arguments) {
+    std::vector<std::string> all = arguments;
+    all.insert(all.begin() + 1, directory_.path().string());
+    std::ostringstream out;
+    std::ostringstream err;
+    if (plot3dsample::run(all, out, err) != 0)
+        throw std::runtime_error(err.str());
+}
+
+std::vector<std::string> DesktopTest::files(const std::vector<std::string>& names) const {
+    std::vector<std::string> paths;
+    for (const std::string& name : names)
+        paths.push_back(file(name));
+    return paths;
+}
+
+std::vector<float> DesktopTest::values(std::int32_t zone, std::int32_t variable) {
+    const FetchResult fetched = host().fetch(zone, variable);
+    if (!fetched.ok || fetched.type != QuorFieldDataType_Float)
+        throw std::runtime_error("no such field of 32-bit reals: " + fetched.error);
+    const auto* first = static_cast<const float*>(fetched.values);
+    return {first, first + fetched.count};
+}
+
+QTreeWidgetItem* DesktopTest::treeItem(const QString& name) {
+    for (QTreeWidgetItemIterator item(&window_->tree()); *item != nullptr; ++item)
+        if ((*item)->text(0) == name)
+            return *item;
+    return nullptr;
+}
+
+} // namespace quorvia::host

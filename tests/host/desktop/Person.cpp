@@ -1,0 +1,192 @@
+#include "host/desktop/Person.h"
+
+#include <utility>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
+namespace quorvia::host {
+namespace {
+
+constexpr int kMillisecondsBetweenLooks = 10;
+
+template <typename Window>
+Window* findVisible() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* window = qobject_cast<Window*>(widget); window != nullptr && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+bool isMarked(const QWidget& widget) {
+    return qobject_cast<const QCheckBox*>(&widget) != nullptr ||
+           qobject_cast<const QRadioButton*>(&widget) != nullptr;
+}
+
+QString textOf(const QWidget& widget) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    return button != nullptr ? button->text().remove(QLatin1Char('&')) : QString();
+}
+
+/// Names in quotation marks, as several files are written in a file selection.
+QString quoted(const std::vector<std::string>& files) {
+    QStringList names;
+    for (const std::string& file : files)
+        names.append(QStringLiteral("\"%1\"").arg(QString::fromStdString(file)));
+    return names.join(QLatin1Char(' '));
+}
+
+void setOption(QFileDialog& dialog, const char* name, bool on) {
+    auto* box = dialog.findChild<QCheckBox*>(QLatin1String(name));
+    if (box != nullptr && box->isChecked() != on)
+        click(*box);
+}
+
+void accept(QFileDialog& dialog) {
+    auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    for (QAbstractButton* button : buttons->buttons())
+        if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
+            click(*button);
+}
+
+} // namespace
+
+template <>
+QFileDialog* visibleWindow<QFileDialog>() {
+    return findVisible<QFileDialog>();
+}
+template <>
+QMessageBox* visibleWindow<QMessageBox>() {
+    return findVisible<QMessageBox>();
+}
+
+QDialog* guestDialog() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->objectName().startsWith(QLatin1String("dialog")))
+            return qobject_cast<QDialog*>(widget);
+    return nullptr;
+}
+
+QWidget* namedWidget(QWidget& window, const QString& name, int which) {
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisible() && (widget->accessibleName() == name || textOf(*widget) == name) &&
+            !widget->inherits("QLabel") && which-- == 0)
+            return widget;
+    return nullptr;
+}
+
+void click(QWidget& widget) {
+    constexpr int kOnTheMark = 8;
+    const QPoint where =
+        isMarked(widget) ? QPoint(kOnTheMark, widget.height() / 2) : widget.rect().center();
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, where);
+}
+
+Person::Person() {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { act(); });
+    timer_.start(kMillisecondsBetweenLooks);
+}
+
+// A step may bring up a modal window, which runs this timer from within the step.
+void Person::act() {
+    if (acting_ || steps_.empty())
+        return;
+    acting_ = true;
+    NamedStep_s next = std::move(steps_.front());
+    steps_.pop_front();
+    acting_ = false;
+    if (!next.step())
+        steps_.push_front(std::move(next));
+}
+
+void Person::then(std::string what, Step step) {
+    steps_.push_back({std::move(what), std::move(step)});
+}
+
+void Person::pickFiles(std::vector<std::string> files, bool advanced, bool append) {
+    then("a file selection", [files = std::move(files), advanced, append] {
+        QFileDialog* dialog = findVisible<QFileDialog>();
+        if (dialog == nullptr)
+            return false;
+        setOption(*dialog, "advanced", advanced);
+        setOption(*dialog, "append", append);
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(quoted(files));
+        accept(*dialog);
+        return true;
+    });
+}
+
+void Person::cancelFileSelection() {
+    then("a file selection to cancel", [] {
+        QFileDialog* dialog = findVisible<QFileDialog>();
+        if (dialog != nullptr)
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        return dialog != nullptr;
+    });
+}
+
+void Person::answerBox(QMessageBox::StandardButton button) {
+    then("a box", [this, button] {
+        QMessageBox* box = findVisible<QMessageBox>();
+        if (box == nullptr || box->button(button) == nullptr)
+            return false;
+        boxTexts_.push_back(box->text().toStdString());
+        click(*box->button(button));
+        return true;
+    });
+}
+
+void Person::inDialog(std::string what, std::function<void(QDialog&)> act) {
+    then(std::move(what), [act = std::move(act)] {
+        QDialog* dialog = guestDialog();
+        if (dialog == nullptr || findVisible<QMessageBox>() != nullptr ||
+            findVisible<QFileDialog>() != nullptr)
+            return false;
+        act(*dialog);
+        return true;
+    });
+}
+
+void Person::pressInDialog(const QString& button) {
+    clickInDialog(button);
+}
+
+void Person::showPage(int index) {
+    inDialog("the dialog with its tabs", [index](QDialog& dialog) {
+        QTabBar* tabs = dialog.findChild<QTabWidget*>()->tabBar();
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(index).center());
+    });
+}
+
+void Person::clickInDialog(const QString& text, int which) {
+    then("\"" + text.toStdString() + "\" to be usable in the dialog", [text, which] {
+        QDialog* dialog = guestDialog();
+        if (dialog == nullptr || findVisible<QMessageBox>() != nullptr)
+            return false;
+        QWidget* widget = namedWidget(*dialog, text, which);
+        if (widget == nullptr || !widget->isEnabled())
+            return false;
+        click(*widget);
+        return true;
+    });
+}
+
+void Person::typeInto(const QString& fieldName, const QString& text) {
+    inDialog("the field " + fieldName.toStdString(), [fieldName, text](QDialog& dialog) {
+        auto* field = dialog.findChild<QLineEdit*>(fieldName);
+        click(*field);
+        field->selectAll();
+        QTest::keyClicks(field, text);
+        QTest::keyClick(field, Qt::Key_Tab);
+    });
+}
+
+} // namespace quorvia::host
