@@ -5,13 +5,13 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "desktop/FrameWidget.h"
 #include "desktop/InsensitiveHints.h"
 #include "desktop/TextFieldView.h"
 #include "desktop/Texts.h"
@@ -22,7 +22,7 @@ namespace {
 class FrameView : public ControlView {
 public:
     FrameView(const Control& control, QWidget* parent)
-        : ControlView(new QGroupBox(shownCaption(control.caption), parent)) {
+        : ControlView(new FrameWidget(shown(control.caption).trimmed(), parent)) {
         widget()->lower(); // controls stand over it, also those that were made before
     }
 

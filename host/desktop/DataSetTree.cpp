@@ -72,12 +72,14 @@ DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
     setUniformRowHeights(true); // quick with thousands of zones
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(kDetails, QHeaderView::Stretch);
-    constexpr int kNameLetters = 34;
+    constexpr int kNameLetters = 44;
     constexpr int kNumberLetters = 14;
     const int letter = fontMetrics().averageCharWidth();
     setColumnWidth(kName, kNameLetters * letter);
     for (const int column : {kType, kMinimum, kMaximum})
         setColumnWidth(column, kNumberLetters * letter);
+    for (const int column : {kMinimum, kMaximum})
+        headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::itemExpanded, this,
             [this](QTreeWidgetItem* item) { fillZone(item); });
 }

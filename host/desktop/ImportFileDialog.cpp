@@ -85,6 +85,7 @@ FileSelection_s selectFilesToImport(QWidget* parent, const LoaderTraits_s& loade
     prepare(dialog, QStringLiteral("Import: %1").arg(shown(loader.name)),
             loader.allowsSeveralFiles);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Import"));
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // there are many patterns
     dialog.setNameFilters({filterText(shown(loader.name), loader.fileNameExtensions), kAllFiles});
     const Options_s options = addOptions(dialog, loader, hasDataSet);
     FileSelection_s selection;

@@ -104,6 +104,7 @@ void MainWindow::addHelpMenu() {
 }
 
 void MainWindow::addTools() {
+    import_->setIconText(QStringLiteral("Import..."));
     import_->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
     fetchAll_->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
     QToolBar* tools = addToolBar(QStringLiteral("Tools"));

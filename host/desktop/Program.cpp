@@ -5,10 +5,10 @@
 #include <iostream>
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include "desktop/AddOnPath.h"
 #include "desktop/CommandLine.h"
+#include "desktop/DesktopStyle.h"
 #include "desktop/MainWindow.h"
 
 namespace quorvia::host {
@@ -29,7 +29,7 @@ bool hasDisplay() {
 int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new DesktopStyle);
     MainWindow window(desktopAddOnPath(arguments.addOnPath), arguments.files);
     window.show();
     const int code = QApplication::exec();
