@@ -5,6 +5,7 @@
 #include "dialog/DialogLock.h"
 #include "dialog/FileSelectionRefresh.h"
 #include "dialog/LoadDialog.h"
+#include "dialog/WithinMemory.h"
 #include "loader/LoadDriver.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorGUI.h"
@@ -19,14 +20,20 @@ bool isAnyVariableNamed(const Plot3DLoadOptions_s& options) {
            !options.nameFile.empty();
 }
 
-/// What the record holds beside the controls' own values.
-void settleOptions() {
+/// What the record holds beside the controls' own values. False: the user was told why not.
+bool settleOptions() {
     gLoadOptions.hasGridFiles = !gLoadOptions.gridFiles.empty();
     gLoadOptions.hasSolutionFiles = !gLoadOptions.solutionFiles.empty();
     gLoadOptions.assignStrandIdsRequested = gLoadOptions.assignStrandIds;
-    gLoadOptions.nameFile = HostString(QuorGUITextFieldGetString(nameFileField)).str();
+    const HostString nameFile(QuorGUITextFieldGetString(nameFileField));
+    if (!nameFile) {
+        QuorUtilDialogErrMsg("Out of Memory!!!");
+        return false;
+    }
+    gLoadOptions.nameFile = nameFile.str();
     // A name file that names nothing is kept, but not used.
     gLoadOptions.hasNameFile = isAnyVariableNamed(gLoadOptions);
+    return true;
 }
 
 /// False: the user was told what is missing.
@@ -70,8 +77,7 @@ bool loadCopyOfOptions() {
 
 /// False: the dialog is to come back.
 bool loadWhatIsChosen() {
-    settleOptions();
-    if (!areOptionsComplete())
+    if (!settleOptions() || !areOptionsComplete())
         return false;
     showFiles(solutionList, gLoadOptions.solutionFiles);
     showFiles(functionList, gLoadOptions.functionFiles);
@@ -87,7 +93,7 @@ bool loadWhatIsChosen() {
 void okPressed() {
     const DialogLockEnd lock;
     QuorGUIDialogDrop(loadDialog);
-    if (loadWhatIsChosen())
+    if (runWithinMemory(loadWhatIsChosen))
         return;
     createLoadDialog();
     QuorGUIDialogLaunch(loadDialog);

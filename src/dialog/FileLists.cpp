@@ -5,6 +5,7 @@
 #include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
 #include "dialog/FileSelectionRefresh.h"
+#include "dialog/WithinMemory.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
@@ -119,7 +120,7 @@ void removeAllPressed() {
 template <const Column& column>
 void addFilesPressed() {
     const HostLock lock(addOnID);
-    if (addFilesToList(column.fileTypeWord, column.chosen()))
+    if (runWithinMemory([] { return addFilesToList(column.fileTypeWord, column.chosen()); }))
         QuorGUISetSensitivity(column.removeAll, !column.chosen().empty());
 }
 

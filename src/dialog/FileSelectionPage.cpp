@@ -4,6 +4,7 @@
 #include "dialog/FileLists.h"
 #include "dialog/FileSelectionRefresh.h"
 #include "dialog/OptionCallbacks.h"
+#include "dialog/WithinMemory.h"
 
 namespace quorvia::quorutildataio {
 
@@ -26,20 +27,28 @@ void appendToggled(const std::int32_t* value) {
 
 bool nameFileTyped(const char* text) {
     const HostLock lock(addOnID);
-    gLoadOptions.nameFile = text;
-    return true;
+    return runWithinMemory([text] {
+        gLoadOptions.nameFile = text;
+        return true;
+    });
 }
 
-void nameFileBrowsed() {
+/// False: cancelled.
+bool browseForNameFile() {
     constexpr std::int32_t oneExistingFile = 0;
-    const HostLock lock(addOnID);
     const std::vector<std::string>& grids = gLoadOptions.gridFiles;
     HostString name;
     if (!QuorUtilDialogGetFileName(oneExistingFile, name.outArgument(), "Name",
                                    grids.empty() ? nullptr : grids.front().c_str(), "*.nam"))
-        return;
+        return false;
     gLoadOptions.nameFile = name.str();
     QuorGUITextFieldSetString(nameFileField, name.get());
+    return true;
+}
+
+void nameFileBrowsed() {
+    const HostLock lock(addOnID);
+    runWithinMemory(browseForNameFile);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "dialog/FileSelectionPage.h"
 #include "dialog/FileSelectionRefresh.h"
 #include "dialog/FileStructurePage.h"
+#include "dialog/WithinMemory.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorGUI.h"
 
@@ -16,17 +17,29 @@ namespace quorvia::quorutildataio {
 namespace {
 
 void takeIfNotEmpty(std::vector<std::string>& files, const std::vector<std::string>& retained) {
-    files.clear();
     if (!retained.empty())
         files = retained;
 }
 
-void dialogLaunched() {
-    startDialogLock();
+bool takeRetainedFiles() {
     gLoadOptions.nameFile = gRetainedNameFile;
     takeIfNotEmpty(gLoadOptions.gridFiles, gRetainedGridFiles);
     takeIfNotEmpty(gLoadOptions.solutionFiles, gRetainedSolutionFiles);
     takeIfNotEmpty(gLoadOptions.functionFiles, gRetainedFunctionFiles);
+    return true;
+}
+
+void emptyFiles() {
+    gLoadOptions.nameFile.clear();
+    gLoadOptions.gridFiles.clear();
+    gLoadOptions.solutionFiles.clear();
+    gLoadOptions.functionFiles.clear();
+}
+
+void dialogLaunched() {
+    startDialogLock();
+    emptyFiles();
+    runWithinMemory(takeRetainedFiles);
     refreshDialogPage(fileSelectionPage, gLoadOptions);
 }
 

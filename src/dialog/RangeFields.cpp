@@ -1,8 +1,8 @@
 #include "dialog/RangeFields.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <limits>
-#include <string>
 
 #include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
@@ -62,6 +62,13 @@ bool endsBeforeStart(const Plot3DIndexRange_s& range) {
     return range.end >= 1 && range.end < range.start;
 }
 
+void tellRangeIsTurnedRound(const char* rangeName) {
+    char text[512];
+    std::snprintf(text, sizeof text, "%s Error: end must be greater than or equal to start.",
+                  rangeName);
+    QuorUtilDialogErrMsg(text);
+}
+
 /// False: the value does not stand, and the user was told.
 bool storeIndex(const RangeField& field) {
     std::int64_t value = 0;
@@ -73,9 +80,7 @@ bool storeIndex(const RangeField& field) {
     range.*field.member = static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
     if (field.rangeName == nullptr || !endsBeforeStart(range))
         return true;
-    QuorUtilDialogErrMsg(
-        (std::string(field.rangeName) + " Error: end must be greater than or equal to start.")
-            .c_str());
+    tellRangeIsTurnedRound(field.rangeName);
     return false;
 }
 

@@ -1,0 +1,420 @@
+// What OK does: what it settles and refuses, what is remembered, and the load.
+#include "dialog/LoadDialogFixture.h"
+#include "support/TemporaryDirectory.h"
+#include "tools/SmallFiles.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+using namespace plot3dwriter;
+using plot3dwriter::tests::describe;
+using plot3dwriter::tests::form;
+using plot3dwriter::tests::written;
+
+class DialogOk : public LoadDialogTest {
+protected:
+    static constexpr bool yes = true;
+    static constexpr bool no = false;
+
+    std::string write(const std::string& name, const FileDescription_s& description) const {
+        return directory_.write(name, written(description, form(Encoding_e::Binary)));
+    }
+    std::string gridFile(const std::string& name, const std::vector<GridDims_s>& grids) const {
+        return write(name, describe(FileKind_e::Grid, Layout_e::ThreeDWhole, grids));
+    }
+    std::string solutionFile(const std::string& name) const {
+        FileDescription_s description =
+            describe(FileKind_e::ClassicSolution, Layout_e::ThreeDWhole, {{2, 3, 5}});
+        description.scalars = {{0.5, 2.0, 1000.0, 0.0}};
+        return write(name, description);
+    }
+    std::string functionFile(const std::string& name) const {
+        FileDescription_s description =
+            describe(FileKind_e::Function, Layout_e::ThreeDWhole, {{2, 3, 5}});
+        description.numVars = 2;
+        return write(name, description);
+    }
+
+    static bool isAnythingLoaded() { return host().frame().dataSet() != nullptr; }
+    static bool aLoadWasBegun() { return host().callCount("createTaskProgressBar") > 0; }
+    static std::int32_t zoneCount() { return host().frame().dataSet()->zoneCount(); }
+    static const host::Zone& zone(std::int32_t number) {
+        return *host().frame().dataSet()->zone(number);
+    }
+    static std::int64_t launches() { return host().callCount("QuorGUIDialogLaunch"); }
+
+    testsupport::TemporaryDirectory directory_;
+    const std::string grid_ = gridFile("a.x", {{2, 3, 5}});
+    const std::string damaged_ = directory_.write("damaged.x", "wing");
+};
+
+// ---- A load that goes through -------------------------------------------------------------------
+
+TEST_F(DialogOk, LoadsAndStaysClosed) {
+    import({grid_, solutionFile("a.q")}, {pressOk()});
+    EXPECT_EQ(messages(), Texts());
+    ASSERT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(zoneCount(), 1);
+    EXPECT_FALSE(dialog().open);
+    EXPECT_EQ(launches(), 1);
+    EXPECT_EQ(host().script().cancelledDialogs(), 0);
+    EXPECT_EQ(host().lockDepth(), 0);
+}
+
+TEST_F(DialogOk, DropsTheDialogBeforeAnythingElse) {
+    retain({grid_});
+    host().recordTranscript(true);
+    open({pressOk()});
+    const Texts& calls = host().log().transcript;
+    const std::string id = std::to_string(loadDialog);
+    const auto drop = std::find(calls.begin(), calls.end(), "QuorGUIDialogDrop(" + id + ")");
+    ASSERT_NE(drop, calls.end());
+    EXPECT_EQ(drop[1].find("QuorGUITextFieldGetString("), 0u) << drop[1];
+    EXPECT_EQ(calls.back().find("QuorUtilLockFinish("), 0u);
+}
+
+TEST_F(DialogOk, LoadsTheIndexSubsetThatWasTyped) {
+    import({gridFile("b.x",
+                     {{ 5,
+                        7,
+                        11 }})},
+           {show(dataSubsetPage), type(iStartField, "2"), type(iEndField, "5"),
+            type(jSkipField, "3"), type(kStartField, "4"), pressOk()});
+    ASSERT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(zone(1).i, 4);
+    EXPECT_EQ(zone(1).j, 3);
+    EXPECT_EQ(zone(1).k, 8);
+}
+
+TEST_F(DialogOk, LoadsTheGridsOfTheSetAndKeepsTheSet) {
+    const std::string grids = gridFile("b.x", {{2, 3, 5}, {3, 5, 7}, {5, 7, 11}});
+    import({grids}, {show(dataSubsetPage), type(gridSetField, "2,3"), pressOk()});
+    ASSERT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(zoneCount(), 2);
+    host().setAnswers({}, yes);
+    import({grids}, {pressOk()});
+    EXPECT_EQ(zoneCount(), 2);
+    const HostLock lock(addOnID);
+    EXPECT_EQ(QuorUtilSetGetMemberCount(gLoadOptions.gridSet), 2);
+}
+
+TEST_F(DialogOk, LoadMayFindAnotherStructureAndTheDialogKeepsItsOwn) {
+    import({write("flat.x", describe(FileKind_e::Grid, Layout_e::TwoD,
+                                     {{ 2,
+                                        3,
+                                        1 }}))},
+           {pressOk()});
+    ASSERT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(gLoadOptions.dataStructure, Plot3DDataStructure_3DWhole);
+    EXPECT_TRUE(gLoadOptions.isMultiGrid);
+}
+
+TEST_F(DialogOk, LoadMayTakeStrandsAwayAndTheDialogKeepsItsChoice) {
+    import({grid_}, {pressOk()});
+    EXPECT_TRUE(gLoadOptions.assignStrandIds);
+    EXPECT_TRUE(gLoadOptions.assignNewStrandIdForEachTimeStep);
+    EXPECT_TRUE(gLoadOptions.solutionTimes.empty());
+}
+
+// ---- What is settled before the load ------------------------------------------------------------
+
+TEST_F(DialogOk, SettlesWhichFilesAreThere) {
+    gLoadOptions.hasGridFiles = gLoadOptions.hasSolutionFiles = false;
+    retain({grid_}, {solutionFile("a.q")});
+    open({pressOk()});
+    EXPECT_TRUE(gLoadOptions.hasGridFiles);
+    EXPECT_TRUE(gLoadOptions.hasSolutionFiles);
+    open({press(gridRemoveAll), press(solutionRemoveAll), pressOk()});
+    EXPECT_FALSE(gLoadOptions.hasGridFiles);
+    EXPECT_FALSE(gLoadOptions.hasSolutionFiles);
+}
+
+TEST_F(DialogOk, TellsTheLoadWhetherStrandsWereAskedFor) {
+    for (const bool asked : {false, true}) {
+        open({set(assignStrandToggle, asked), pressOk()});
+        EXPECT_EQ(gLoadOptions.assignStrandIdsRequested, asked);
+    }
+}
+
+TEST_F(DialogOk, StrandsReachTheLoadByOkAlone) {
+    open({set(assignStrandToggle, false)});
+    EXPECT_FALSE(gLoadOptions.assignStrandIds);
+    EXPECT_TRUE(gLoadOptions.assignStrandIdsRequested);
+}
+
+TEST_F(DialogOk, TakesTheNameFileFromTheField) {
+    retain({}, {}, {}, "old.nam");
+    Texts names;
+    open({meanwhile([] { QuorGUITextFieldSetString(nameFileField, "late.nam"); }), pressOk(),
+          meanwhile([&] {
+              names = {gRetainedNameFile, gLoadOptions.nameFile};
+          })});
+    // The refusal comes before anything is remembered.
+    EXPECT_EQ(names, (Texts{"old.nam", "old.nam"}));
+    retain({damaged_}, {}, {}, "old.nam");
+    open({meanwhile([] { QuorGUITextFieldSetString(nameFileField, "late.nam"); }), pressOk(),
+          meanwhile([&] {
+              names = {gRetainedNameFile, gLoadOptions.nameFile};
+          })});
+    EXPECT_EQ(names, (Texts{"late.nam", "late.nam"}));
+}
+
+TEST_F(DialogOk, UsesTheNameFileOnlyForAGridFileWithDataFiles) {
+    const auto isUsed = [this](const Texts& grids, const Texts& solutions, const Texts& functions,
+                               const std::string& nameFile) {
+        retain(grids, solutions, functions, nameFile);
+        open({pressOk()});
+        return gLoadOptions.hasNameFile;
+    };
+    EXPECT_TRUE(isUsed({damaged_}, {damaged_}, {}, "n.nam"));
+    EXPECT_TRUE(isUsed({damaged_}, {}, {damaged_}, "n.nam"));
+    EXPECT_FALSE(isUsed({damaged_}, {damaged_}, {}, ""));
+    EXPECT_FALSE(isUsed({damaged_}, {}, {}, "n.nam"));
+    EXPECT_EQ(gRetainedNameFile, "n.nam") << "kept, though not used";
+    EXPECT_FALSE(isUsed({}, {damaged_}, {damaged_}, "n.nam"));
+}
+
+TEST_F(DialogOk, LoadsTheBoundaryFileThatIsThere) {
+    import({grid_}, {pressOk()});
+    EXPECT_FALSE(gLoadOptions.loadBoundary);
+    EXPECT_EQ(gLoadOptions.boundaryFile, "");
+    const std::string boundary =
+        directory_.write("a.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n1 1 1 $ 1 $ 1 1 F 0\n");
+    host().setAnswers({}, yes);
+    import({grid_}, {pressOk()});
+    EXPECT_TRUE(gLoadOptions.loadBoundary);
+    EXPECT_EQ(gLoadOptions.boundaryFile, boundary);
+    EXPECT_EQ(zoneCount(), 2) << ::testing::PrintToString(messages());
+}
+
+TEST_F(DialogOk, ShowsTheSolutionAndFunctionFilesAnewAndLeavesTheGridList) {
+    retain({damaged_}, {"a.q"}, {"a.f"});
+    Texts calls;
+    open({meanwhile([] { host().recordTranscript(true); }), pressOk()});
+    for (const std::string& call : host().log().transcript) {
+        if (call.find("createTaskProgressBar") == 0)
+            break;
+        if (call.find("QuorGUIList") == 0)
+            calls.push_back(call);
+    }
+    const std::string solutions = std::to_string(solutionList);
+    const std::string functions = std::to_string(functionList);
+    EXPECT_EQ(calls, (Texts{"QuorGUIListDeleteAllItems(" + solutions + ")",
+                            "QuorGUIListAppendItem(" + solutions + ", \"a.q\")",
+                            "QuorGUIListDeleteAllItems(" + functions + ")",
+                            "QuorGUIListAppendItem(" + functions + ", \"a.f\")"}));
+}
+
+// ---- Refusals, each of which brings the dialog back ---------------------------------------------
+
+TEST_F(DialogOk, WithoutFilesIsToldAndTheDialogComesBack) {
+    open({pressOk(), meanwhile([] { EXPECT_TRUE(dialog().open); })});
+    EXPECT_EQ(messages(), Texts{"Must have at least one grid, solution or function file."});
+    EXPECT_EQ(launches(), 2);
+    EXPECT_FALSE(aLoadWasBegun());
+}
+
+TEST_F(DialogOk, AppendWithoutADataSetIsToldAndTheDialogComesBack) {
+    makeDataSet();
+    retain({grid_});
+    open({set(appendToggle, true), meanwhile([] { host().frame().reset(); }), pressOk(),
+          meanwhile([] { EXPECT_FALSE(isOn(appendToggle)); })});
+    EXPECT_EQ(messages(), Texts{"Cannot append without an existing data set."});
+    EXPECT_EQ(launches(), 2);
+    EXPECT_FALSE(aLoadWasBegun());
+}
+
+TEST_F(DialogOk, AppendIsJudgedBeforeTheFiles) {
+    makeDataSet();
+    open({set(appendToggle, true), meanwhile([] { host().frame().reset(); }), pressOk()});
+    EXPECT_EQ(messages(), Texts{"Cannot append without an existing data set."});
+}
+
+TEST_F(DialogOk, AsksBeforeDataIsLostAndComesBackAtNo) {
+    makeDataSet();
+    retain({grid_}, {"a.q"});
+    host().setAnswers({no}, yes);
+    open({pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_}); })});
+    ASSERT_EQ(host().log().messages.size(), 1u);
+    EXPECT_EQ(host().log().messages[0].text, "Warning: All current data will be lost. Continue?");
+    EXPECT_EQ(host().log().messages[0].kind, host::MessageKind::Question);
+    EXPECT_EQ(launches(), 2);
+    EXPECT_FALSE(aLoadWasBegun());
+}
+
+TEST_F(DialogOk, QuestionIsOneOfYesOrNo) {
+    makeDataSet();
+    retain({grid_});
+    host().recordTranscript(true);
+    open({pressOk()});
+    const Texts& calls = host().log().transcript;
+    EXPECT_NE(std::find(calls.begin(), calls.end(),
+                        "QuorUtilDialogMessageBox(\"Warning: All current data will be lost. "
+                        "Continue?\", 4) = false"),
+              calls.end());
+}
+
+TEST_F(DialogOk, ReplacesTheDataAtYes) {
+    makeDataSet();
+    retain({grid_});
+    host().setAnswers({yes}, no);
+    open({pressOk()});
+    EXPECT_EQ(launches(), 1);
+    EXPECT_EQ(zoneCount(), 1);
+    EXPECT_EQ(messages().size(), 1u);
+}
+
+TEST_F(DialogOk, WithAppendAsksNothingAndWarnsOfNothing) {
+    import({grid_}, {pressOk()});
+    import({gridFile("b.x", {{ 2, 3, 5 }})}, {set(appendToggle, true), pressOk()});
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(zoneCount(), 2);
+}
+
+TEST_F(DialogOk, WithoutADataSetAsksNothing) {
+    import({grid_}, {pressOk()});
+    EXPECT_EQ(host().callCount("QuorUtilDialogMessageBox"), 0);
+}
+
+TEST_F(DialogOk, LoadThatFailsTellsItselfAndTheDialogComesBack) {
+    Texts again;
+    import({damaged_}, {pressOk(), meanwhile([&] { again = items(gridList);
+})
+} // namespace
+);
+EXPECT_EQ(messages().size(), 1u);
+EXPECT_EQ(again, Texts{damaged_});
+EXPECT_EQ(launches(), 2);
+EXPECT_FALSE(isAnythingLoaded());
+} // namespace quorvia::quorutildataio
+
+TEST_F(DialogOk, FilesCanBeMendedAfterALoadThatFailed) {
+    import({damaged_},
+           {pressOk(), press(gridRemoveAll), press(gridAddFiles), pick({grid_}), pressOk()});
+    EXPECT_EQ(launches(), 2);
+    EXPECT_EQ(zoneCount(), 1);
+    EXPECT_EQ(host().script().cancelledDialogs(), 0);
+}
+
+TEST_F(DialogOk, EachLaunchTakesALockOfItsOwnAndAllAreGivenBack) {
+    std::vector<std::int64_t> depths;
+    const auto note = meanwhile([&] { depths.push_back(host().lockDepth()); });
+    open({note, pressOk(), note, pressOk(), note, pressOk(), note, pressCancel()});
+    EXPECT_EQ(depths, (std::vector<std::int64_t>{2, 3, 4, 5}));
+    EXPECT_EQ(host().lockDepth(), 0);
+}
+
+// ---- What the next launch starts from -----------------------------------------------------------
+
+class RetainedFiles : public DialogOk {
+protected:
+    /// What the dialog shows when it comes back after OK.
+    struct Shown {
+        Texts grids;
+        Texts solutions;
+        Texts functions;
+        std::string nameFile;
+    };
+    Shown afterRefusedOk() {
+        Shown shown;
+        makeDataSet();
+        open({pressOk(), meanwhile([&shown] {
+                  shown = {items(gridList), items(solutionList), items(functionList),
+                           text(nameFileField)};
+              })});
+        return shown;
+    }
+};
+
+TEST_F(RetainedFiles, ComeBackAfterARefusedOk) {
+    retain({"a.x", "b.x"}, {"a.q"}, {}, "n.nam");
+    const Shown shown = afterRefusedOk();
+    EXPECT_EQ(shown.grids, (Texts{"a.x", "b.x"}));
+    EXPECT_EQ(shown.solutions, Texts{"a.q"});
+    EXPECT_EQ(shown.functions, Texts());
+    EXPECT_EQ(shown.nameFile, "n.nam");
+}
+
+TEST_F(RetainedFiles, OfFunctionsComeBackInPlaceOfTheSolutions) {
+    retain({"a.x"}, {"a.q"}, {"a.f", "b.f"});
+    const Shown shown = afterRefusedOk();
+    EXPECT_EQ(shown.grids, Texts{"a.x"});
+    EXPECT_EQ(shown.solutions, (Texts{"a.f", "b.f"}));
+    EXPECT_EQ(shown.functions, Texts());
+    EXPECT_EQ(gRetainedSolutionFiles, (Texts{"a.f", "b.f"}));
+    EXPECT_EQ(gRetainedFunctionFiles, Texts());
+}
+
+TEST_F(RetainedFiles, AreThoseOfTheDialogAlsoWhereAListIsEmpty) {
+    makeDataSet();
+    retain({"a.x"}, {"a.q"});
+    open({press(gridRemoveAll), pressOk()});
+    EXPECT_EQ(gRetainedGridFiles, Texts());
+    EXPECT_EQ(gRetainedSolutionFiles, Texts{"a.q"});
+    retain({"a.x"}, {"a.q"});
+    open({press(solutionRemoveAll), pressOk()});
+    EXPECT_EQ(gRetainedGridFiles, Texts{"a.x"});
+    EXPECT_EQ(gRetainedSolutionFiles, Texts());
+}
+
+TEST_F(RetainedFiles, AreLeftAloneByARefusalForMissingFiles) {
+    retain({"a.x"}, {}, {}, "n.nam");
+    open({press(gridRemoveAll), pressOk()});
+    EXPECT_EQ(gRetainedGridFiles, Texts{"a.x"});
+    EXPECT_EQ(gRetainedNameFile, "n.nam");
+}
+
+TEST_F(RetainedFiles, AreStoredAlsoByALoadThatGoesThrough) {
+    retain({grid_}, {}, {functionFile("a.f")});
+    open({pressOk()});
+    EXPECT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(gRetainedGridFiles, Texts{grid_});
+    EXPECT_EQ(gRetainedSolutionFiles, Texts{directory_.file("a.f")});
+}
+
+// ---- When the host fails ------------------------------------------------------------------------
+
+TEST_F(DialogOk, HostCallThatFailsLeavesNothingBehindAndTheNextOkLoads) {
+    for (const char* operation :
+         {"QuorUtilArgListAlloc", "QuorUtilStringListAlloc", "QuorUtilDataSetCreateX",
+          "QuorUtilDataSetAddZoneX", "createTaskProgressBar"}) {
+        host().clearFaults();
+        host().failCall(operation, 1);
+        host().frame().reset();
+        import({grid_}, {pressOk(), pressOk()});
+        EXPECT_EQ(launches(), 2) << operation;
+        EXPECT_EQ(zoneCount(), 1) << operation;
+        EXPECT_EQ(host().lockDepth(), 0) << operation;
+        EXPECT_EQ(host().log().violations, Texts()) << operation;
+    }
+}
+
+TEST_F(DialogOk, LoadThatRunsOutOfMemoryIsToldAndTheDialogComesBack) {
+    host().failCall("createTaskProgressBar", 1);
+    import({grid_}, {pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_});
+})
+});
+EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+EXPECT_EQ(launches(), 2);
+}
+
+TEST_F(DialogOk, FailedAnswerCountsAsNo) {
+    makeDataSet();
+    retain({grid_});
+    host().setAnswers({}, yes);
+    host().failCall("QuorUtilDialogMessageBox", 1);
+    open({pressOk()});
+    EXPECT_EQ(launches(), 2);
+    EXPECT_FALSE(aLoadWasBegun());
+}
+
+TEST_F(DialogOk, NameFileThatTheHostCannotHandOutIsToldAndTheDialogComesBack) {
+    retain({grid_}, {solutionFile("a.q")}, {}, "n.nam");
+    host().failCall("QuorGUITextFieldGetString", 1);
+    open({pressOk(), meanwhile([] { EXPECT_EQ(text(nameFileField), "n.nam"); })});
+    EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+    EXPECT_FALSE(aLoadWasBegun());
+}
+
+} // namespace
+} // namespace quorvia::quorutildataio
