@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -42,5 +43,8 @@ struct PressDialogButton {
 
 using DialogAction = std::variant<ShowPage, SetToggle, ChooseItem, PressButton, SelectItems,
                                   TypeText, PressDialogButton>;
+
+/// The control that the user works with; nothing for pages and the dialog's own buttons.
+std::optional<std::int32_t> controlOf(const DialogAction& action);
 
 } // namespace quorvia::host

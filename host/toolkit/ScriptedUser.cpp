@@ -53,6 +53,8 @@ DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
             problem_ = std::move(move.problem);
             return cancel;
         }
+        if (move.isOnlyTheWay)
+            script_.push_front(std::move(entry));
         if (move.action.has_value())
             return *std::move(move.action);
     }

@@ -19,6 +19,7 @@ namespace quorvia::host {
 struct DialogMove {
     std::optional<DialogAction> action;
     std::string problem;
+    bool isOnlyTheWay = false; // behind this action the step is called again
 };
 
 /// Called once the dialog waits for the user.

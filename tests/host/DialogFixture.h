@@ -67,7 +67,7 @@ protected:
         std::vector<ScriptEntry> entries;
         for (DialogAction& action : actions)
             entries.emplace_back(DialogStep([action = std::move(action)](const Dialog&) {
-                return DialogMove{action, ""};
+                return DialogMove{action, "", false};
             }));
         host().script().addToScript(std::move(entries));
     }

@@ -122,6 +122,16 @@ TEST_F(DialogLoopTest, ScriptThatWantsTheImpossibleIsGivenUp) {
     EXPECT_FALSE(model().open);
 }
 
+TEST_F(DialogLoopTest, StepThatWasOnlyTheWayIsCalledAgain) {
+    int calls = 0;
+    host().script().addToScript({DialogStep([&](const Dialog&) {
+        ++calls;
+        return DialogMove{SetToggle{toggle_, calls == 2}, "", calls == 1};
+    })});
+    QuorGUIDialogLaunch(dialog());
+    EXPECT_EQ(GuestDialog::told, (Texts{"init", "toggle 0", "toggle 1"}));
+}
+
 TEST_F(DialogLoopTest, ImpossibleActionsSayWhy) {
     QuorGUIListAppendItem(list_, "a");
     const std::int32_t single = QuorGUIListAdd(dialog(), 0, 0, 9, 9, false, nullptr);
@@ -198,7 +208,7 @@ TEST_F(DialogLoopTest, UserSeesWhatChangesWhileTheDialogIsOpen) {
         QuorUtilDialogMessageBox("fine", QuorMessageBox_Information);
         QuorUtilHelp("page.html", false, 0);
     };
-    user.addToScript({DialogStep([](const Dialog&) { return DialogMove{ok, ""}; })});
+    user.addToScript({DialogStep([](const Dialog&) { return DialogMove{ok, "", false}; })});
     QuorGUIDialogLaunch(dialog());
     EXPECT_EQ(user.seen, (Texts{"shown Guest", "changed Swirl ", "changed Swirl ", "focus",
                                 "error broken", "information fine", "help page.html", "dropped"}));

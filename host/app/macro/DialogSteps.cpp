@@ -31,7 +31,7 @@ std::vector<const Control*> controlsWhere(const Dialog& dialog, IsWanted isWante
 }
 
 DialogMove problem(std::string why) {
-    return {std::nullopt, std::move(why)};
+    return {std::nullopt, std::move(why), false};
 }
 
 std::optional<DialogButton> dialogButton(const std::string& caption) {
@@ -61,7 +61,7 @@ public:
         if (dialog_.tabs.has_value())
             for (const Page& page : dialog_.tabs->pages)
                 if (page.caption == action.caption)
-                    return {ShowPage{page.id}, ""};
+                    return {ShowPage{page.id}, "", false};
         return problem(fmt::format("there is no page \"{}\"", action.caption));
     }
     DialogMove operator()(const ToggleAction_s& action) const {
@@ -70,7 +70,7 @@ public:
         });
         if (toggles.empty())
             return problem(fmt::format("there is no toggle \"{}\"", action.caption));
-        return {SetToggle{toggles.front()->id, action.value}, ""};
+        return {SetToggle{toggles.front()->id, action.value}, "", false};
     }
     DialogMove operator()(const RadioAction_s& action) const {
         return chooseItem(ControlKind::RadioBox, "radio box", action.item);
@@ -85,7 +85,7 @@ public:
         if (buttons.empty()) {
             const std::optional<DialogButton> button = dialogButton(action.caption);
             return button.has_value()
-                       ? DialogMove{PressDialogButton{*button}, ""}
+                       ? DialogMove{PressDialogButton{*button}, "", false}
                        : problem(fmt::format("there is no button \"{}\"", action.caption));
         }
         if (!action.column.has_value() && buttons.size() > 1)
@@ -95,7 +95,7 @@ public:
             action.column.has_value() ? inColumn(buttons, *action.column) : buttons.front();
         if (button == nullptr)
             return problem(fmt::format("there is no such button \"{}\"", action.caption));
-        return {PressButton{button->id}, ""};
+        return {PressButton{button->id}, "", false};
     }
     DialogMove operator()(const SelectItemsAction_s& action) const {
         const Control* list = inColumn(
@@ -104,7 +104,7 @@ public:
             action.column);
         if (list == nullptr)
             return problem("there is no such list");
-        return {SelectItems{list->id, action.positions}, ""};
+        return {SelectItems{list->id, action.positions}, "", false};
     }
     DialogMove operator()(const TypeAction_s& action) const {
         const auto fields = controlsWhere(dialog_, [&](const Control& control) {
@@ -115,7 +115,7 @@ public:
             return problem(fmt::format("there {} \"{}\"",
                                        fields.empty() ? "is no field" : "is more than one field",
                                        action.field));
-        return {TypeText{fields.front()->id, action.text}, ""};
+        return {TypeText{fields.front()->id, action.text}, "", false};
     }
 
 private:
@@ -127,7 +127,7 @@ private:
             if (place != control.items.end())
                 return {ChooseItem{control.id,
                                    static_cast<std::int32_t>(place - control.items.begin() + 1)},
-                        ""};
+                        "", false};
         }
         return problem(fmt::format("there is no {} with an item \"{}\"", word, item));
     }
@@ -135,11 +135,23 @@ private:
     const Dialog& dialog_;
 };
 
+/// The page to turn to before a person could do this; nothing if it is in front, or there is none.
+std::optional<ShowPage> pageBefore(const Dialog& dialog, const DialogAction& action) {
+    const std::optional<std::int32_t> id = controlOf(action);
+    const Control* control = id.has_value() ? findControl(dialog, *id) : nullptr;
+    if (control == nullptr || isInFront(dialog, *control))
+        return std::nullopt;
+    return ShowPage{control->parent};
+}
+
 template <typename Action>
 DialogMove doableMove(const Dialog& dialog, const Action& action, std::size_t number) {
     DialogMove move = MoveAtDialog(dialog)(action);
-    if (move.action.has_value())
+    if (move.action.has_value()) {
+        if (const std::optional<ShowPage> page = pageBefore(dialog, *move.action))
+            return {*page, "", true};
         move.problem = whyImpossible(dialog, *move.action);
+    }
     if (!move.problem.empty())
         move.problem = fmt::format("dialog, action {}: {}", number, move.problem);
     return move;

@@ -56,9 +56,16 @@ TEST_F(DialogScript, TellsWhatCannotBeUsed) {
     EXPECT_EQ(problemOf(press("Remove All")),
               "there are 3 buttons \"Remove All\"; \"list\" says which");
     EXPECT_EQ(problemOf(press("Remove All", "Solution")), "the control is not sensitive");
-    EXPECT_EQ(problemOf(type("1", "I-Index Start")),
-              "the control is on a page that is not in front");
+    EXPECT_EQ(problemOf(menu("Swift")), "the control is not sensitive");
     EXPECT_EQ(problemOf(selectItems({2}, "Grid")), "there is no item 2");
+}
+
+TEST_F(DialogScript, TurnsToThePageOfAControl) {
+    const Json& shown = shownAfter({grid_}, {type("7", "I-Index Start")});
+    EXPECT_EQ(shown["dialog"]["page"], subsetPage);
+    EXPECT_EQ(nthControl(shown, subsetPage, "textField", 1)["value"], "7");
+    EXPECT_EQ(nthControl(shown, subsetPage, "textField", 2)["value"],
+              "Last"); // as activation shows
 }
 
 TEST_F(DialogScript, WaitsForALaunch) {
