@@ -47,13 +47,14 @@ std::optional<std::int64_t> offsetAt(const Offsets& offsets, std::int64_t index)
 /// One grid of a file whose fields are registered without a scan.
 class GridReuse {
 public:
+    /// `layout` tells the positions, `source` holds the values.
     GridReuse(const Plot3DFile_s& layout, const Plot3DFile_s& source, std::int32_t grid,
               std::int32_t hostZone)
-        : layout_(layout), source_(source), grid_(grid), hostZone_(hostZone),
+        : layout_(layout), grid_(grid), hostZone_(hostZone), steps_(hostZone, grid + 1, source),
           variable_(Plot3DVarRepo::instance().getVariable(source)),
           points_(countPoints(layout, grid)) {}
 
-    bool registerVariables(std::int32_t varBase) const {
+    bool registerVariables(std::int32_t varBase) {
         for (std::int32_t v = 1; v <= layout_.numVars; ++v)
             if (!registerField(
                     v, varBase + v,
@@ -62,22 +63,22 @@ public:
         return true;
     }
 
-    bool registerIBlank() const {
+    bool registerIBlank() {
         const std::int32_t var = layout_.numVars + 1;
         return registerField(var, var, offsetAt(layout_.iBlankOffsets, grid_));
     }
 
 private:
     bool registerField(std::int32_t shownVar, std::int32_t var,
-                       const std::optional<std::int64_t>& offset) const {
-        return stepForField(hostZone_, shownVar, grid_ + 1, source_) && offset && points_ &&
+                       const std::optional<std::int64_t>& offset) {
+        return steps_.step(shownVar) && offset && points_ &&
                registerLodVariable(variable_, hostZone_, var, *offset, *points_);
     }
 
-    const Plot3DFile_s& layout_; // tells the positions
-    const Plot3DFile_s& source_; // holds the values
-    std::int32_t grid_;          // from 0
+    const Plot3DFile_s& layout_;
+    std::int32_t grid_; // from 0
     std::int32_t hostZone_;
+    FieldSteps steps_;
     std::shared_ptr<Plot3DVariable_s> variable_;
     std::optional<std::int64_t> points_;
 };
@@ -117,7 +118,7 @@ bool reuseGridOffsets(const Plot3DFile_s& primary, const Plot3DLoadOptions_s& op
     for (std::int32_t grid = 0; grid < primary.numGrids; ++grid) {
         if (!isGridSelected(options.gridSet, std::int64_t{grid} + 1))
             continue;
-        const GridReuse reuse(primary, current, grid, zone++);
+        GridReuse reuse(primary, current, grid, zone++);
         if (!reuse.registerVariables(0) || (primary.hasIBlank && !reuse.registerIBlank()))
             return false;
     }

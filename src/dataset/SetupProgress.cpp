@@ -20,24 +20,28 @@ void appendNumber(std::string& text, std::int32_t number) {
 
 } // namespace
 
-// Put together by hand: a long list of files shows one text for each of its fields, and a format
-// string would take as long as the registration of the field.
-bool stepForField(std::int32_t zone, std::int32_t var, std::int32_t gridNumber,
-                  const Plot3DFile_s& file) {
+FieldSteps::FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
+    constexpr std::size_t longestText = 128;
+    constexpr std::size_t longestTail = 64;
+    text_.reserve(longestText);
+    tail_.reserve(longestTail);
+    text_ += "Setting up Zone=";
+    appendNumber(text_, zone);
+    text_ += ", Var=";
+    headLength_ = text_.size();
+    tail_ += " from Grid ";
+    appendNumber(tail_, gridNumber);
+    tail_ += " in ...";
+    tail_ += fileTail(file.fileName.view());
+}
+
+bool FieldSteps::step(std::int32_t var) {
     if (!currentTask)
         return true;
-    constexpr std::size_t longestText = 128;
-    std::string text;
-    text.reserve(longestText);
-    text += "Setting up Zone=";
-    appendNumber(text, zone);
-    text += ", Var=";
-    appendNumber(text, var);
-    text += " from Grid ";
-    appendNumber(text, gridNumber);
-    text += " in ...";
-    text += fileTail(file.fileName.view());
-    return currentTask->stepWithMessage(text);
+    text_.resize(headLength_);
+    appendNumber(text_, var);
+    text_ += tail_;
+    return currentTask->stepWithMessage(text_);
 }
 
 void showConnectivity(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {

@@ -1,17 +1,30 @@
 // The texts of the dataset stage on the progress bar.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <string_view>
+#include <string>
 
 #include "plot3dfile/Plot3DFile.h"
 
 namespace quorvia::quorutildataio {
 
-/// One field is about to be set up: one step on currentTask. Zone, variable and grid count from 1.
-/// False: stop.
-bool stepForField(std::int32_t zone, std::int32_t var, std::int32_t gridNumber,
-                  const Plot3DFile_s& file);
+/// The steps for the fields of one zone. A long list of files shows a text for each of its fields,
+/// so that the words around the variable's number are put together once.
+class FieldSteps {
+public:
+    /// Zone and grid count from 1.
+    FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file);
+
+    /// The field of variable `var`, from 1, is about to be set up: one step on currentTask. False:
+    /// stop.
+    bool step(std::int32_t var);
+
+private:
+    std::string text_;       // of the latest step
+    std::size_t headLength_; // of text_, up to the variable's number
+    std::string tail_;
+};
 
 /// The connectivity of a grid is about to be read: a text, no step. Numbers from 1.
 void showConnectivity(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file);

@@ -154,7 +154,7 @@ bool setUpVariableItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone,
     item.isIBlank = isIBlank;
     item.isWholeField = plane == wholeField || isUnstructured;
 
-    const bool go = !include || stepForField(item.hostZone, item.hostVar, grid + 1, file);
+    const bool go = !include || FieldSteps(item.hostZone, grid + 1, file).step(item.hostVar);
     item.dims = file.gridDims[static_cast<std::size_t>(grid)];
     item.ranges = resolveGridRanges(context.iRange, context.jRange, context.kRange, item.dims,
                                     isUnstructured);
