@@ -33,21 +33,27 @@ void ArgumentReader::complain(std::string_view key, std::string_view what) {
 }
 
 template <typename Value>
-Value ArgumentReader::optional(std::string_view key, Value otherwise, const char* kind) {
-    const GuestArgument* argument = find(key);
-    if (argument == nullptr)
-        return otherwise;
-    if (const Value* value = std::get_if<Value>(&argument->value))
+Value ArgumentReader::valueOf(std::string_view key, const GuestArgument& argument, Value otherwise,
+                              const char* kind) {
+    if (const Value* value = std::get_if<Value>(&argument.value))
         return *value;
     complain(key, std::string("is not ") + kind);
     return otherwise;
 }
 
 template <typename Value>
+Value ArgumentReader::optional(std::string_view key, Value otherwise, const char* kind) {
+    const GuestArgument* argument = find(key);
+    return argument != nullptr ? valueOf(key, *argument, otherwise, kind) : otherwise;
+}
+
+template <typename Value>
 Value ArgumentReader::required(std::string_view key, const char* kind) {
-    if (!has(key))
-        complain(key, "is missing");
-    return optional<Value>(key, Value{}, kind);
+    const GuestArgument* argument = find(key);
+    if (argument != nullptr)
+        return valueOf(key, *argument, Value{}, kind);
+    complain(key, "is missing");
+    return Value{};
 }
 
 std::string ArgumentReader::text(std::string_view key) {

@@ -36,6 +36,9 @@ private:
     const GuestArgument* find(std::string_view key) const;
     void complain(std::string_view key, std::string_view what);
     template <typename Value>
+    Value valueOf(std::string_view key, const GuestArgument& argument, Value otherwise,
+                  const char* kind);
+    template <typename Value>
     Value required(std::string_view key, const char* kind);
     template <typename Value>
     Value optional(std::string_view key, Value otherwise, const char* kind);
