@@ -1,17 +1,30 @@
 #include "checks/MemoryLedger.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
-#include <utility>
+#include <memory>
+#include <new>
+
+#include "model/ValueBlock.h"
 
 namespace quorvia::host {
 
+MemoryLedger::~MemoryLedger() {
+    blocks_.forEach([](void* address) { Free()(headOf(address)); });
+}
+
 char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::string_view label) {
-    ValueBlock memory = ValueBlock::uninitialised(byteCount);
-    if (!memory)
+    if (byteCount < 0 || byteCount > ValueBlock::largest)
         return nullptr;
-    void* address = memory.data();
-    blocks_.emplace(address, Block{std::move(memory), origin, &kept(label), serials_.next()});
+    std::unique_ptr<Head, Free> head(
+        static_cast<Head*>(std::malloc(sizeof(Head) + static_cast<std::size_t>(byteCount))));
+    if (head == nullptr)
+        return nullptr;
+    new (head.get()) Head{origin, &kept(label), serials_.next(), byteCount};
+    void* const address = head.get() + 1;
+    blocks_.add(address);
+    static_cast<void>(head.release()); // the table's from now on
     return static_cast<char*>(address);
 }
 
@@ -30,16 +43,25 @@ const std::string& MemoryLedger::kept(std::string_view label) {
 }
 
 bool MemoryLedger::giveBack(const void* address) {
-    return blocks_.erase(address) != 0;
+    void* const given = blocks_.remove(address);
+    if (given == nullptr)
+        return false;
+    Free()(headOf(given));
+    return true;
 }
 
 std::vector<HeldBlock> MemoryLedger::heldSince(std::int64_t serial) const {
     std::vector<HeldBlock> held;
-    for (const auto& [address, block] : blocks_) {
-        if (block.serial > serial)
-            held.push_back({block.origin, *block.label, block.memory.byteCount()});
-    }
+    blocks_.forEach([&](void* address) {
+        const Head& head = *headOf(address);
+        if (head.serial > serial)
+            held.push_back({head.origin, *head.label, head.byteCount});
+    });
     return held;
+}
+
+void MemoryLedger::Free::operator()(Head* head) const {
+    std::free(head);
 }
 
 } // namespace quorvia::host

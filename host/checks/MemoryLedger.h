@@ -1,15 +1,16 @@
-// The blocks of host memory that a guest holds, with the labels that it gave them.
+// The blocks of host memory that a guest holds, with the labels that it gave them. What is known of
+// a block stands ahead of it, but is only looked at for an address that the host has given out.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "checks/AddressTable.h"
 #include "checks/HandleRegistry.h"
-#include "model/ValueBlock.h"
 
 namespace quorvia::host {
 
@@ -22,29 +23,38 @@ struct HeldBlock {
 class MemoryLedger {
 public:
     explicit MemoryLedger(SerialSource& serials) : serials_(serials) {}
+    ~MemoryLedger();
+    MemoryLedger(const MemoryLedger&) = delete;
+    MemoryLedger& operator=(const MemoryLedger&) = delete;
 
-    /// A block of undefined contents; null if there is no memory or `byteCount` is negative.
+    /// A block of undefined contents, aligned for any number; null if there is no memory or if
+    /// `byteCount` is negative or beyond every machine.
     char* allocate(OperationId origin, std::int64_t byteCount, std::string_view label);
     /// A zero-terminated copy of `text`.
     char* copyText(OperationId origin, std::string_view text);
     /// False: the host has no such block; nothing is touched.
     bool giveBack(const void* address);
 
-    bool contains(const void* address) const { return blocks_.count(address) != 0; }
-    std::int64_t count() const { return static_cast<std::int64_t>(blocks_.size()); }
+    bool contains(const void* address) const { return blocks_.contains(address); }
+    std::int64_t count() const { return blocks_.count(); }
     std::vector<HeldBlock> heldSince(std::int64_t serial) const;
 
 private:
-    struct Block {
-        ValueBlock memory;
+    struct alignas(std::max_align_t) Head {
         OperationId origin;
         const std::string* label; // in labels_
         std::int64_t serial;
+        std::int64_t byteCount;
     };
+    struct Free {
+        void operator()(Head* head) const;
+    };
+    /// `address` is one in blocks_.
+    static Head* headOf(void* address) { return static_cast<Head*>(address) - 1; }
     const std::string& kept(std::string_view label);
 
     SerialSource& serials_;
-    std::unordered_map<const void*, Block> blocks_;
+    AddressTable blocks_;            // where they begin for the guest, behind their heads
     std::deque<std::string> labels_; // a guest has few, and uses them over and over
 };
 

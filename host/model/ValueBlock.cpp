@@ -7,11 +7,8 @@ namespace quorvia::host {
 
 namespace {
 
-// No machine has so much. Sizes beyond it are mistakes, for which some allocators end the program.
-constexpr std::int64_t largestBlock = std::int64_t{1} << 39;
-
 bool isPossible(std::int64_t byteCount) {
-    return byteCount >= 0 && byteCount <= largestBlock;
+    return byteCount >= 0 && byteCount <= ValueBlock::largest;
 }
 
 // The allocator may answer a request for nothing with null, which would read as no memory.

@@ -13,8 +13,12 @@ class ValueBlock {
 public:
     ValueBlock() = default;
 
+    /// In bytes. No machine has so much; sizes beyond it are mistakes, for which some allocators
+    /// end the program.
+    static constexpr std::int64_t largest = std::int64_t{1} << 39;
+
     /// Blocks of `byteCount` bytes, aligned for any number; empty if there is no memory, if the
-    /// count is negative, or if it is beyond every machine (512 GiB). A block of no bytes is a
+    /// count is negative, or if it is above `largest`. A block of no bytes is a
     /// block all the same: its address is not null.
     static ValueBlock zeroed(std::int64_t byteCount);
     static ValueBlock uninitialised(std::int64_t byteCount);
