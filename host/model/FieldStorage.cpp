@@ -1,7 +1,5 @@
 #include "model/FieldStorage.h"
 
-#include <utility>
-
 #include "model/FieldCache.h"
 
 namespace quorvia::host {
@@ -24,14 +22,11 @@ std::shared_ptr<FieldStorage> FieldStorage::stored(std::int32_t type, std::int64
     return storage->block_ ? storage : nullptr;
 }
 
-std::shared_ptr<FieldStorage> FieldStorage::deferred(std::int32_t type, std::int64_t valueCount,
-                                                     std::unique_ptr<Deferral> deferral) {
-    auto storage = std::make_shared<FieldStorage>(Key(), type, valueCount);
-    storage->deferral_ = std::move(deferral);
-    return storage;
+FieldStorage::~FieldStorage() {
+    leaveCache();
 }
 
-FieldStorage::~FieldStorage() {
+void FieldStorage::leaveCache() {
     if (cache_ != nullptr)
         cache_->forget(*this);
 }

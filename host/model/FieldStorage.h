@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <list>
 #include <memory>
+#include <utility>
 
 #include "model/ValueBlock.h"
 #include "quorvia/QuorUtil.h"
@@ -44,9 +45,14 @@ public:
         : type_(type), valueCount_(valueCount) {}
     /// `valueCount` zeros of `type`; null if there is no memory.
     static std::shared_ptr<FieldStorage> stored(std::int32_t type, std::int64_t valueCount);
-    /// A field that is fetched when someone asks for it (FieldCache::fetch).
+    /// A field that is fetched when someone asks for it (FieldCache::fetch). `Promise` is the
+    /// Deferral to make from `arguments`; it stands in one block with the storage.
+    template <typename Promise, typename... Arguments>
     static std::shared_ptr<FieldStorage> deferred(std::int32_t type, std::int64_t valueCount,
-                                                  std::unique_ptr<Deferral> deferral);
+                                                  Arguments&&... arguments) {
+        return std::make_shared<Promised<Promise>>(type, valueCount,
+                                                   std::forward<Arguments>(arguments)...);
+    }
     ~FieldStorage();
     FieldStorage(const FieldStorage&) = delete;
     FieldStorage& operator=(const FieldStorage&) = delete;
@@ -55,20 +61,40 @@ public:
     std::int64_t valueCount() const { return valueCount_; }
     std::int64_t byteCount() const { return valueCount_ * valueWidth(type_); }
     bool isDeferred() const { return deferral_ != nullptr; }
-    const Deferral* deferral() const { return deferral_.get(); }
+    const Deferral* deferral() const { return deferral_; }
     /// Index order I fastest, then J, then K. Null for a deferred field that is not in memory.
     void* values() const { return block_.data(); }
 
 private:
     friend class FieldCache;
+    template <typename Promise>
+    class Promised;
+    void leaveCache();
 
     std::int32_t type_;
     bool loading_ = false;
     std::int64_t valueCount_;
     ValueBlock block_;
-    std::unique_ptr<Deferral> deferral_;
-    FieldCache* cache_ = nullptr; // set while fetched values are accounted there
+    Deferral* deferral_ = nullptr; // null if the values are stored
+    FieldCache* cache_ = nullptr;  // set while fetched values are accounted there
     std::list<FieldStorage*>::iterator place_;
+};
+
+/// A storage with the promise of its values.
+template <typename Promise>
+class FieldStorage::Promised final : public FieldStorage {
+public:
+    template <typename... Arguments>
+    Promised(std::int32_t type, std::int64_t valueCount, Arguments&&... arguments)
+        : FieldStorage(Key(), type, valueCount), promise_(std::forward<Arguments>(arguments)...) {
+        deferral_ = &promise_;
+    }
+    ~Promised() { leaveCache(); } // before the promise ends, which calls the guest
+    Promised(const Promised&) = delete;
+    Promised& operator=(const Promised&) = delete;
+
+private:
+    Promise promise_;
 };
 
 } // namespace quorvia::host

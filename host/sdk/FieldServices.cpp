@@ -46,8 +46,7 @@ bool deferField(Call& call, std::int32_t zone, std::int32_t var, const FieldCall
     const std::optional<std::int64_t> count = storableCount(call, *call.zone(zone), *field);
     if (!count.has_value())
         return false;
-    replaceStorage(*field, FieldStorage::deferred(field->type, *count,
-                                                  std::make_unique<GuestDeferral>(callbacks)));
+    replaceStorage(*field, FieldStorage::deferred<GuestDeferral>(field->type, *count, callbacks));
     return true;
 }
 

@@ -19,7 +19,7 @@ struct FieldCallbacks {
 class GuestDeferral : public Deferral {
 public:
     explicit GuestDeferral(const FieldCallbacks& callbacks);
-    /// Calls the clean-up callback, unless the registration was given up before it stood.
+    /// Calls the clean-up callback.
     ~GuestDeferral() override;
     GuestDeferral(const GuestDeferral&) = delete;
     GuestDeferral& operator=(const GuestDeferral&) = delete;

@@ -43,8 +43,8 @@ protected:
         return field;
     }
     std::shared_ptr<FieldStorage> deferred(bool works = true) {
-        return FieldStorage::deferred(QuorFieldDataType_Float, kValueCount,
-                                      std::make_unique<CountingDeferral>(loads, works));
+        return FieldStorage::deferred<CountingDeferral>(QuorFieldDataType_Float, kValueCount, loads,
+                                                        works);
     }
     static std::shared_ptr<FieldStorage> stored() {
         return FieldStorage::stored(QuorFieldDataType_Float, kValueCount);
