@@ -1,4 +1,6 @@
 // The third page: the nine fields of the index ranges, and the set of grids.
+#include <algorithm>
+
 #include "dialog/LoadDialogFixture.h"
 
 namespace quorvia::quorutildataio {

@@ -1,57 +1,15 @@
-// What OK does: what it settles and refuses, what is remembered, and the load.
-#include "dialog/LoadDialogFixture.h"
-#include "support/TemporaryDirectory.h"
-#include "tools/SmallFiles.h"
+// What OK does: what it settles and refuses, and the load.
+#include <algorithm>
+
+#include "dialog/DialogOkFixture.h"
 
 namespace quorvia::quorutildataio {
 namespace {
 
-using namespace plot3dwriter;
-using plot3dwriter::tests::describe;
-using plot3dwriter::tests::form;
-using plot3dwriter::tests::written;
-
-class DialogOk : public LoadDialogTest {
-protected:
-    static constexpr bool yes = true;
-    static constexpr bool no = false;
-
-    std::string write(const std::string& name, const FileDescription_s& description) const {
-        return directory_.write(name, written(description, form(Encoding_e::Binary)));
-    }
-    std::string gridFile(const std::string& name, const std::vector<GridDims_s>& grids) const {
-        return write(name, describe(FileKind_e::Grid, Layout_e::ThreeDWhole, grids));
-    }
-    std::string solutionFile(const std::string& name) const {
-        FileDescription_s description =
-            describe(FileKind_e::ClassicSolution, Layout_e::ThreeDWhole, {{2, 3, 5}});
-        description.scalars = {{0.5, 2.0, 1000.0, 0.0}};
-        return write(name, description);
-    }
-    std::string functionFile(const std::string& name) const {
-        FileDescription_s description =
-            describe(FileKind_e::Function, Layout_e::ThreeDWhole, {{2, 3, 5}});
-        description.numVars = 2;
-        return write(name, description);
-    }
-
-    static bool isAnythingLoaded() { return host().frame().dataSet() != nullptr; }
-    static bool aLoadWasBegun() { return host().callCount("createTaskProgressBar") > 0; }
-    static std::int32_t zoneCount() { return host().frame().dataSet()->zoneCount(); }
-    static const host::Zone& zone(std::int32_t number) {
-        return *host().frame().dataSet()->zone(number);
-    }
-    static std::int64_t launches() { return host().callCount("QuorGUIDialogLaunch"); }
-
-    testsupport::TemporaryDirectory directory_;
-    const std::string grid_ = gridFile("a.x", {{2, 3, 5}});
-    const std::string damaged_ = directory_.write("damaged.x", "wing");
-};
-
 // ---- A load that goes through -------------------------------------------------------------------
 
 TEST_F(DialogOk, LoadsAndStaysClosed) {
-    import({grid_, solutionFile("a.q")}, {pressOk()});
+    importFiles({grid_, solutionFile("a.q")}, {pressOk()});
     EXPECT_EQ(messages(), Texts());
     ASSERT_TRUE(isAnythingLoaded());
     EXPECT_EQ(zoneCount(), 1);
@@ -74,12 +32,9 @@ TEST_F(DialogOk, DropsTheDialogBeforeAnythingElse) {
 }
 
 TEST_F(DialogOk, LoadsTheIndexSubsetThatWasTyped) {
-    import({gridFile("b.x",
-                     {{ 5,
-                        7,
-                        11 }})},
-           {show(dataSubsetPage), type(iStartField, "2"), type(iEndField, "5"),
-            type(jSkipField, "3"), type(kStartField, "4"), pressOk()});
+    importFiles({gridFile("b.x", {{5, 7, 11}})},
+                {show(dataSubsetPage), type(iStartField, "2"), type(iEndField, "5"),
+                 type(jSkipField, "3"), type(kStartField, "4"), pressOk()});
     ASSERT_TRUE(isAnythingLoaded());
     EXPECT_EQ(zone(1).i, 4);
     EXPECT_EQ(zone(1).j, 3);
@@ -88,29 +43,26 @@ TEST_F(DialogOk, LoadsTheIndexSubsetThatWasTyped) {
 
 TEST_F(DialogOk, LoadsTheGridsOfTheSetAndKeepsTheSet) {
     const std::string grids = gridFile("b.x", {{2, 3, 5}, {3, 5, 7}, {5, 7, 11}});
-    import({grids}, {show(dataSubsetPage), type(gridSetField, "2,3"), pressOk()});
+    importFiles({grids}, {show(dataSubsetPage), type(gridSetField, "2,3"), pressOk()});
     ASSERT_TRUE(isAnythingLoaded());
     EXPECT_EQ(zoneCount(), 2);
     host().setAnswers({}, yes);
-    import({grids}, {pressOk()});
+    importFiles({grids}, {pressOk()});
     EXPECT_EQ(zoneCount(), 2);
     const HostLock lock(addOnID);
     EXPECT_EQ(QuorUtilSetGetMemberCount(gLoadOptions.gridSet), 2);
 }
 
 TEST_F(DialogOk, LoadMayFindAnotherStructureAndTheDialogKeepsItsOwn) {
-    import({write("flat.x", describe(FileKind_e::Grid, Layout_e::TwoD,
-                                     {{ 2,
-                                        3,
-                                        1 }}))},
-           {pressOk()});
+    importFiles({write("flat.x", describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}}))},
+                {pressOk()});
     ASSERT_TRUE(isAnythingLoaded());
     EXPECT_EQ(gLoadOptions.dataStructure, Plot3DDataStructure_3DWhole);
     EXPECT_TRUE(gLoadOptions.isMultiGrid);
 }
 
 TEST_F(DialogOk, LoadMayTakeStrandsAwayAndTheDialogKeepsItsChoice) {
-    import({grid_}, {pressOk()});
+    importFiles({grid_}, {pressOk()});
     EXPECT_TRUE(gLoadOptions.assignStrandIds);
     EXPECT_TRUE(gLoadOptions.assignNewStrandIdForEachTimeStep);
     EXPECT_TRUE(gLoadOptions.solutionTimes.empty());
@@ -175,13 +127,13 @@ TEST_F(DialogOk, UsesTheNameFileOnlyForAGridFileWithDataFiles) {
 }
 
 TEST_F(DialogOk, LoadsTheBoundaryFileThatIsThere) {
-    import({grid_}, {pressOk()});
+    importFiles({grid_}, {pressOk()});
     EXPECT_FALSE(gLoadOptions.loadBoundary);
     EXPECT_EQ(gLoadOptions.boundaryFile, "");
     const std::string boundary =
         directory_.write("a.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n1 1 1 $ 1 $ 1 1 F 0\n");
     host().setAnswers({}, yes);
-    import({grid_}, {pressOk()});
+    importFiles({grid_}, {pressOk()});
     EXPECT_TRUE(gLoadOptions.loadBoundary);
     EXPECT_EQ(gLoadOptions.boundaryFile, boundary);
     EXPECT_EQ(zoneCount(), 2) << ::testing::PrintToString(messages());
@@ -265,32 +217,29 @@ TEST_F(DialogOk, ReplacesTheDataAtYes) {
 }
 
 TEST_F(DialogOk, WithAppendAsksNothingAndWarnsOfNothing) {
-    import({grid_}, {pressOk()});
-    import({gridFile("b.x", {{ 2, 3, 5 }})}, {set(appendToggle, true), pressOk()});
+    importFiles({grid_}, {pressOk()});
+    importFiles({gridFile("b.x", {{2, 3, 5}})}, {set(appendToggle, true), pressOk()});
     EXPECT_EQ(messages(), Texts());
     EXPECT_EQ(zoneCount(), 2);
 }
 
 TEST_F(DialogOk, WithoutADataSetAsksNothing) {
-    import({grid_}, {pressOk()});
+    importFiles({grid_}, {pressOk()});
     EXPECT_EQ(host().callCount("QuorUtilDialogMessageBox"), 0);
 }
 
 TEST_F(DialogOk, LoadThatFailsTellsItselfAndTheDialogComesBack) {
     Texts again;
-    import({damaged_}, {pressOk(), meanwhile([&] { again = items(gridList);
-})
-} // namespace
-);
-EXPECT_EQ(messages().size(), 1u);
-EXPECT_EQ(again, Texts{damaged_});
-EXPECT_EQ(launches(), 2);
-EXPECT_FALSE(isAnythingLoaded());
-} // namespace quorvia::quorutildataio
+    importFiles({damaged_}, {pressOk(), meanwhile([&] { again = items(gridList); })});
+    EXPECT_EQ(messages().size(), 1u);
+    EXPECT_EQ(again, Texts{damaged_});
+    EXPECT_EQ(launches(), 2);
+    EXPECT_FALSE(isAnythingLoaded());
+}
 
 TEST_F(DialogOk, FilesCanBeMendedAfterALoadThatFailed) {
-    import({damaged_},
-           {pressOk(), press(gridRemoveAll), press(gridAddFiles), pick({grid_}), pressOk()});
+    importFiles({damaged_},
+                {pressOk(), press(gridRemoveAll), press(gridAddFiles), pick({grid_}), pressOk()});
     EXPECT_EQ(launches(), 2);
     EXPECT_EQ(zoneCount(), 1);
     EXPECT_EQ(host().script().cancelledDialogs(), 0);
@@ -304,74 +253,6 @@ TEST_F(DialogOk, EachLaunchTakesALockOfItsOwnAndAllAreGivenBack) {
     EXPECT_EQ(host().lockDepth(), 0);
 }
 
-// ---- What the next launch starts from -----------------------------------------------------------
-
-class RetainedFiles : public DialogOk {
-protected:
-    /// What the dialog shows when it comes back after OK.
-    struct Shown {
-        Texts grids;
-        Texts solutions;
-        Texts functions;
-        std::string nameFile;
-    };
-    Shown afterRefusedOk() {
-        Shown shown;
-        makeDataSet();
-        open({pressOk(), meanwhile([&shown] {
-                  shown = {items(gridList), items(solutionList), items(functionList),
-                           text(nameFileField)};
-              })});
-        return shown;
-    }
-};
-
-TEST_F(RetainedFiles, ComeBackAfterARefusedOk) {
-    retain({"a.x", "b.x"}, {"a.q"}, {}, "n.nam");
-    const Shown shown = afterRefusedOk();
-    EXPECT_EQ(shown.grids, (Texts{"a.x", "b.x"}));
-    EXPECT_EQ(shown.solutions, Texts{"a.q"});
-    EXPECT_EQ(shown.functions, Texts());
-    EXPECT_EQ(shown.nameFile, "n.nam");
-}
-
-TEST_F(RetainedFiles, OfFunctionsComeBackInPlaceOfTheSolutions) {
-    retain({"a.x"}, {"a.q"}, {"a.f", "b.f"});
-    const Shown shown = afterRefusedOk();
-    EXPECT_EQ(shown.grids, Texts{"a.x"});
-    EXPECT_EQ(shown.solutions, (Texts{"a.f", "b.f"}));
-    EXPECT_EQ(shown.functions, Texts());
-    EXPECT_EQ(gRetainedSolutionFiles, (Texts{"a.f", "b.f"}));
-    EXPECT_EQ(gRetainedFunctionFiles, Texts());
-}
-
-TEST_F(RetainedFiles, AreThoseOfTheDialogAlsoWhereAListIsEmpty) {
-    makeDataSet();
-    retain({"a.x"}, {"a.q"});
-    open({press(gridRemoveAll), pressOk()});
-    EXPECT_EQ(gRetainedGridFiles, Texts());
-    EXPECT_EQ(gRetainedSolutionFiles, Texts{"a.q"});
-    retain({"a.x"}, {"a.q"});
-    open({press(solutionRemoveAll), pressOk()});
-    EXPECT_EQ(gRetainedGridFiles, Texts{"a.x"});
-    EXPECT_EQ(gRetainedSolutionFiles, Texts());
-}
-
-TEST_F(RetainedFiles, AreLeftAloneByARefusalForMissingFiles) {
-    retain({"a.x"}, {}, {}, "n.nam");
-    open({press(gridRemoveAll), pressOk()});
-    EXPECT_EQ(gRetainedGridFiles, Texts{"a.x"});
-    EXPECT_EQ(gRetainedNameFile, "n.nam");
-}
-
-TEST_F(RetainedFiles, AreStoredAlsoByALoadThatGoesThrough) {
-    retain({grid_}, {}, {functionFile("a.f")});
-    open({pressOk()});
-    EXPECT_TRUE(isAnythingLoaded());
-    EXPECT_EQ(gRetainedGridFiles, Texts{grid_});
-    EXPECT_EQ(gRetainedSolutionFiles, Texts{directory_.file("a.f")});
-}
-
 // ---- When the host fails ------------------------------------------------------------------------
 
 TEST_F(DialogOk, HostCallThatFailsLeavesNothingBehindAndTheNextOkLoads) {
@@ -381,7 +262,7 @@ TEST_F(DialogOk, HostCallThatFailsLeavesNothingBehindAndTheNextOkLoads) {
         host().clearFaults();
         host().failCall(operation, 1);
         host().frame().reset();
-        import({grid_}, {pressOk(), pressOk()});
+        importFiles({grid_}, {pressOk(), pressOk()});
         EXPECT_EQ(launches(), 2) << operation;
         EXPECT_EQ(zoneCount(), 1) << operation;
         EXPECT_EQ(host().lockDepth(), 0) << operation;
@@ -391,11 +272,10 @@ TEST_F(DialogOk, HostCallThatFailsLeavesNothingBehindAndTheNextOkLoads) {
 
 TEST_F(DialogOk, LoadThatRunsOutOfMemoryIsToldAndTheDialogComesBack) {
     host().failCall("createTaskProgressBar", 1);
-    import({grid_}, {pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_});
-})
-});
-EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
-EXPECT_EQ(launches(), 2);
+    importFiles({grid_},
+                {pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_}); })});
+    EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+    EXPECT_EQ(launches(), 2);
 }
 
 TEST_F(DialogOk, FailedAnswerCountsAsNo) {

@@ -70,7 +70,7 @@ protected:
         expectPlayed();
     }
     /// The user picks files in the host's import menu, and the advanced options.
-    void import(const Texts& files, Script script = {}) {
+    void importFiles(const Texts& files, Script script = {}) {
         constexpr bool advanced = true;
         constexpr bool append = true;
         host().script().addToScript(std::move(script));
