@@ -2,9 +2,8 @@
 
 namespace quorvia::host {
 
-bool FaultPlan::countCall(OperationId operation) {
-    const std::int64_t call = ++calls_[operation.index()];
-    return !failures_.empty() && failures_.erase({operation.index(), call}) != 0 &&
+bool FaultPlan::isPlanned(OperationId operation, std::int64_t call) {
+    return failures_.erase({operation.index(), call}) != 0 &&
            operation.traits().failure == Failure::Possible;
 }
 

@@ -15,7 +15,10 @@ namespace quorvia::host {
 class FaultPlan {
 public:
     /// Counts one call; true if it is to fail. Operations that have no way to fail never do.
-    bool countCall(OperationId operation);
+    bool countCall(OperationId operation) {
+        const std::int64_t call = ++calls_[operation.index()];
+        return !failures_.empty() && isPlanned(operation, call);
+    }
     std::int64_t calls(OperationId operation) const { return calls_[operation.index()]; }
     /// `n` counts from 1 and from now.
     void failCall(OperationId operation, std::int64_t n);
@@ -36,6 +39,9 @@ public:
     void clear();
 
 private:
+    /// Takes the failure of that call out of the plan.
+    bool isPlanned(OperationId operation, std::int64_t call);
+
     std::array<std::int64_t, operationCount> calls_{};
     std::set<std::pair<std::size_t, std::int64_t>> failures_; // operation and call
     std::int64_t steps_ = 0;

@@ -21,7 +21,7 @@ char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::st
         static_cast<Head*>(std::malloc(sizeof(Head) + static_cast<std::size_t>(byteCount))));
     if (head == nullptr)
         return nullptr;
-    new (head.get()) Head{origin, &kept(label), serials_.next(), byteCount};
+    new (head.get()) Head{origin, keep(label), serials_.next(), byteCount};
     void* const address = head.get() + 1;
     blocks_.add(address);
     static_cast<void>(head.release()); // the table's from now on
@@ -37,9 +37,12 @@ char* MemoryLedger::copyText(OperationId origin, std::string_view text) {
     return copy;
 }
 
-const std::string& MemoryLedger::kept(std::string_view label) {
+std::size_t MemoryLedger::keep(std::string_view label) {
     const auto known = std::find(labels_.begin(), labels_.end(), label);
-    return known != labels_.end() ? *known : labels_.emplace_back(label);
+    const auto place = static_cast<std::size_t>(known - labels_.begin());
+    if (known == labels_.end())
+        labels_.emplace_back(label);
+    return place;
 }
 
 bool MemoryLedger::giveBack(const void* address) {
@@ -55,7 +58,7 @@ std::vector<HeldBlock> MemoryLedger::heldSince(std::int64_t serial) const {
     blocks_.forEach([&](void* address) {
         const Head& head = *headOf(address);
         if (head.serial > serial)
-            held.push_back({head.origin, *head.label, head.byteCount});
+            held.push_back({head.origin, labels_[head.label], head.byteCount});
     });
     return held;
 }

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,7 +41,7 @@ public:
 private:
     struct alignas(std::max_align_t) Head {
         OperationId origin;
-        const std::string* label; // in labels_
+        std::size_t label; // in labels_
         std::int64_t serial;
         std::int64_t byteCount;
     };
@@ -51,11 +50,12 @@ private:
     };
     /// `address` is one in blocks_.
     static Head* headOf(void* address) { return static_cast<Head*>(address) - 1; }
-    const std::string& kept(std::string_view label);
+    /// The place of the label in labels_.
+    std::size_t keep(std::string_view label);
 
     SerialSource& serials_;
-    AddressTable blocks_;            // where they begin for the guest, behind their heads
-    std::deque<std::string> labels_; // a guest has few, and uses them over and over
+    AddressTable blocks_;             // where they begin for the guest, behind their heads
+    std::vector<std::string> labels_; // a guest has few, and uses them over and over
 };
 
 } // namespace quorvia::host
