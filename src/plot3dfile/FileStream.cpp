@@ -9,10 +9,9 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-// The first read behind an open or a jump is small, since most of them want a header or one marker;
-// whoever reads on is given more and more. Allocators keep blocks of 1 KiB at hand, while one of
-// 4 KiB makes them tidy up, which for a long list of files costs more than the reading.
-constexpr std::int64_t smallestFill = 1024;
+// The first read behind an open or a jump is small, since most of them want a header, a few scalars
+// or one marker, and a long list of files has many; whoever reads on is given more and more.
+constexpr std::int64_t smallestFill = 256;
 constexpr std::int64_t largestFill = 64 * 1024;
 constexpr std::int64_t fillGrowth = 4;
 
