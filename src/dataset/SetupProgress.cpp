@@ -9,46 +9,41 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-// Appends a number, which is positive, with at least three digits.
-void appendNumber(std::string& text, std::int32_t number) {
-    if (number < 100)
-        text += '0';
-    if (number < 10)
-        text += '0';
-    text += std::to_string(number);
+// A number, which is positive, with at least three digits.
+std::string digitsOf(std::int32_t number) {
+    const std::string digits = std::to_string(number);
+    return digits.size() < 3 ? std::string(3 - digits.size(), '0') + digits : digits;
 }
 
 } // namespace
 
 FieldSteps::FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
     constexpr std::size_t longestText = 128;
-    constexpr std::size_t longestTail = 64;
     text_.reserve(longestText);
-    tail_.reserve(longestTail);
     text_ += "Setting up Zone=";
-    appendNumber(text_, zone);
+    text_ += digitsOf(zone);
     text_ += ", Var=";
-    headLength_ = text_.size();
-    tail_ += " from Grid ";
-    appendNumber(tail_, gridNumber);
-    tail_ += " in ...";
-    tail_ += fileTail(file.fileName.view());
+    place_ = text_.size();
+    text_ += " from Grid ";
+    text_ += digitsOf(gridNumber);
+    text_ += " in ...";
+    text_ += fileTail(file.fileName.view());
 }
 
 bool FieldSteps::step(std::int32_t var) {
     if (!currentTask)
         return true;
-    text_.resize(headLength_);
-    appendNumber(text_, var);
-    text_ += tail_;
+    const std::string digits = digitsOf(var);
+    text_.replace(place_, digitCount_, digits);
+    digitCount_ = digits.size();
     return currentTask->stepWithMessage(text_);
 }
 
 void showConnectivity(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
     std::string text = "Loading Connectivity for Zone=";
-    appendNumber(text, zone);
+    text += digitsOf(zone);
     text += ", from Grid ";
-    appendNumber(text, gridNumber);
+    text += digitsOf(gridNumber);
     text += " in ...";
     text += fileTail(file.fileName.view());
     text += '.';

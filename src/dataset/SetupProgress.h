@@ -21,9 +21,9 @@ public:
     bool step(std::int32_t var);
 
 private:
-    std::string text_;       // of the latest step
-    std::size_t headLength_; // of text_, up to the variable's number
-    std::string tail_;
+    std::string text_;           // of the latest step
+    std::size_t place_;          // of the variable's number
+    std::size_t digitCount_ = 0; // of that number
 };
 
 /// The connectivity of a grid is about to be read: a text, no step. Numbers from 1.

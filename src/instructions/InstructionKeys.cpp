@@ -87,7 +87,7 @@ bool readFileList(InstructionParse_s& parse, std::vector<std::string>& files) {
     for (; count > 0; --count) {
         if (!fetchInstructionName(parse))
             return false;
-        files.push_back(trimFileName(parse.current.str()));
+        files.push_back(trimFileName(parse.current.view()));
     }
     return true;
 }

@@ -51,12 +51,12 @@ bool parseCount(const std::string& text, std::int32_t& count) {
     return static_cast<bool>(stream >> count);
 }
 
-std::string trimFileName(const std::string& text) {
+std::string trimFileName(std::string_view text) {
     constexpr const char* white = " \t\r\n";
     const auto first = text.find_first_not_of(white);
-    if (first == std::string::npos)
+    if (first == std::string_view::npos)
         return {};
-    return text.substr(first, text.find_last_not_of(white) - first + 1);
+    return std::string(text.substr(first, text.find_last_not_of(white) - first + 1));
 }
 
 } // namespace quorvia::quorutildataio

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "quorvia/HostHandles.h"
 
@@ -30,6 +31,6 @@ bool isTrueString(const char* text);
 bool parseCount(const std::string& text, std::int32_t& count);
 
 /// The name without blanks, tabs, carriage returns and line feeds at its ends.
-std::string trimFileName(const std::string& text);
+std::string trimFileName(std::string_view text);
 
 } // namespace quorvia::quorutildataio

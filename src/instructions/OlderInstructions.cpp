@@ -38,7 +38,7 @@ bool readOneGridFile(InstructionParse_s& parse) {
     options.gridFiles.clear();
     if (!fetchInstructionName(parse))
         return false;
-    options.gridFiles.push_back(trimFileName(parse.current.str()));
+    options.gridFiles.push_back(trimFileName(parse.current.view()));
     return true;
 }
 
@@ -46,7 +46,7 @@ bool readOneSolutionFile(InstructionParse_s& parse) {
     parse.options.hasSolutionFiles = true;
     if (!fetchInstructionName(parse))
         return false;
-    parse.options.solutionFiles.push_back(trimFileName(parse.current.str()));
+    parse.options.solutionFiles.push_back(trimFileName(parse.current.view()));
     return true;
 }
 
@@ -57,7 +57,7 @@ bool readDataFiles(InstructionParse_s& parse) {
             return false; // told; the names that are left will never come
         if (parse.current.view().empty())
             continue;
-        appendName(names, trimFileName(parse.current.str()));
+        appendName(names, trimFileName(parse.current.view()));
         --count;
     }
     std::vector<std::string> gridFiles;

@@ -11,7 +11,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 /// The last `count` characters of a UTF-8 text, whole ones.
-std::string lastCharacters(const std::string& text, int count) {
+std::string_view lastCharacters(std::string_view text, int count) {
     std::size_t start = text.size();
     while (start > 0 && count > 0) {
         --start;
@@ -30,8 +30,11 @@ bool examineFileList(Plot3DLoadOptions_s& options, const std::vector<std::string
     parent.createSubTask(task, 0);
     task->setStepCount(static_cast<std::int64_t>(names.size()));
     Plot3DFileBuilder builder(options);
+    std::string text;
     for (const std::string& name : names) {
-        task->setMessage("Examining file header ..." + lastCharacters(name, shownCharacters));
+        text = "Examining file header ...";
+        text += lastCharacters(name, shownCharacters);
+        task->setMessage(text);
         Plot3DFilePtr file = buildPlot3DFile(builder, name, isSolutionOrFunction);
         const bool isBuilt = file != nullptr;
         if (isBuilt)

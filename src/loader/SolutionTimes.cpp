@@ -1,10 +1,11 @@
 #include "loader/SolutionTimes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <new>
 #include <string>
-#include <unordered_set>
+#include <vector>
 
 #include "dataset/ZoneCreation.h"
 #include "quorvia/HostHandles.h"
@@ -25,13 +26,15 @@ HostStringList copyToHost(const std::vector<std::string>& names) {
 
 /// A time that is no number equals none, and minus zero equals zero.
 bool hasEqualTimes(std::vector<Plot3DFileHandler>& fileSets) {
-    std::unordered_set<double> times;
+    std::vector<double> times;
+    times.reserve(fileSets.size());
     for (Plot3DFileHandler& fileSet : fileSets) {
         const double time = fileSet.getSolutionTime();
-        if (!std::isnan(time) && !times.insert(time).second)
-            return true;
+        if (!std::isnan(time))
+            times.push_back(time);
     }
-    return false;
+    std::sort(times.begin(), times.end());
+    return std::adjacent_find(times.begin(), times.end()) != times.end();
 }
 
 } // namespace
