@@ -62,10 +62,29 @@ TEST_F(DialogOk, LoadMayFindAnotherStructureAndTheDialogKeepsItsOwn) {
 }
 
 TEST_F(DialogOk, LoadMayTakeStrandsAwayAndTheDialogKeepsItsChoice) {
-    importFiles({grid_}, {pressOk()});
+    importFiles({grid_, functionFile("a.f")},
+                {show(fileStructurePage), choose(fileOrganizationRadio, 2), choose(styleMenu, 2),
+                 set(multiGridToggle, false), pressOk()});
+    ASSERT_TRUE(isAnythingLoaded());
     EXPECT_TRUE(gLoadOptions.assignStrandIds);
-    EXPECT_TRUE(gLoadOptions.assignNewStrandIdForEachTimeStep);
-    EXPECT_TRUE(gLoadOptions.solutionTimes.empty());
+}
+
+TEST_F(DialogOk, LoadMaySortFilesAnewAndTheDialogKeepsItsLists) {
+    const std::string functions = functionFile("a.f");
+    retain({grid_}, {functions});
+    open({pressOk()});
+    ASSERT_TRUE(isAnythingLoaded());
+    EXPECT_EQ(gLoadOptions.solutionFiles, Texts{functions});
+    EXPECT_EQ(gLoadOptions.functionFiles, Texts());
+}
+
+TEST_F(DialogOk, LoadIsOneOfFilesThatTheUserChose) {
+    importFiles({grid_, functionFile("a_0.5.f")}, {pressOk()});
+    const Texts& repeated = host().log().instructions;
+    const auto key = std::find(repeated.begin(), repeated.end(), "EXTRACTTIMEFROMSOLFILENAMES");
+    ASSERT_NE(key, repeated.end());
+    EXPECT_EQ(key[1], "Yes");
+    EXPECT_FALSE(gLoadOptions.extractTimeFromSolFileNames);
 }
 
 // ---- What is settled before the load ------------------------------------------------------------

@@ -65,6 +65,37 @@ TEST_P(FileColumn, RemoveAllEmptiesThisColumnAlone) {
           })});
 }
 
+TEST_P(FileColumn, RemoveAllEmptiesItsListBeforeThePageIsRefreshed) {
+    retainHere({"a"});
+    open({meanwhile([] { host().recordTranscript(true); }), press(removeAll()), meanwhile([] {
+              EXPECT_EQ(host().log().transcript[1],
+                        "QuorGUIListDeleteAllItems(" + std::to_string(list()) + ")");
+              EXPECT_EQ(host().log().transcript[2], "QuorUtilDataSetIsAvailable() = false");
+          })});
+}
+
+TEST_P(FileColumn, AddFilesSettlesRemoveAllBehindTheRefresh) {
+    open({meanwhile([] { host().recordTranscript(true); }), press(addFiles()), pick({"a"}),
+          meanwhile([] {
+              const Texts& calls = host().log().transcript;
+              EXPECT_EQ(calls[calls.size() - 2],
+                        "QuorGUISetSensitivity(" + std::to_string(removeAll()) + ", true)");
+          })});
+}
+
+TEST_P(FileColumn, ListOfChosenNamesIsGivenBackBeforeThePageIsRefreshed) {
+    Texts order;
+    open({meanwhile([] { host().recordTranscript(true); }), press(addFiles()), pick({"a"}),
+          meanwhile([&order] {
+              for (const std::string& call : host().log().transcript)
+                  for (const char* operation :
+                       {"QuorUtilStringListDealloc", "QuorUtilDataSetIsAvailable"})
+                      if (call.find(operation) == 0)
+                          order.emplace_back(operation);
+          })});
+    EXPECT_EQ(order, (Texts{"QuorUtilStringListDealloc", "QuorUtilDataSetIsAvailable"}));
+}
+
 TEST_P(FileColumn, ChosenFilesAreAppendedWhateverTheyAreCalled) {
     retainHere({"a"});
     open({press(addFiles()), pick({"wing.q", "wing.x", "README"}),
