@@ -65,7 +65,8 @@ class ButtonView : public ControlView {
 public:
     ButtonView(const Control& control, ActionSink act, QWidget* parent)
         : ControlView(new QPushButton(shownCaption(control.caption), parent)) {
-        const auto* button = static_cast<QPushButton*>(widget());
+        auto* button = static_cast<QPushButton*>(widget());
+        button->setAutoDefault(false); // Return in a field means OK, whatever had the focus before
         QObject::connect(button, &QPushButton::clicked, button,
                          [id = control.id, act = std::move(act)] { act(PressButton{id}); });
     }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabBar>
@@ -147,6 +148,14 @@ void DialogWindow::act(const DialogAction& action) {
 
 void DialogWindow::reject() {
     act(PressDialogButton{DialogButton::Cancel});
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (button != nullptr && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

@@ -29,6 +29,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Return presses the button that has the focus, and elsewhere OK.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void addTabs(const Dialog& dialog);

@@ -27,7 +27,6 @@ ProgressWindow::ProgressWindow(ProgressFeed& feed, std::function<void()> cancel,
     text_.setTextFormat(Qt::PlainText);
     text_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     text_.setObjectName(QStringLiteral("progressText"));
-    bar_.setRange(0, kBarLength);
     bar_.setFormat(QStringLiteral("%p%"));
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(layout->spacing() * 2);
@@ -47,7 +46,7 @@ void ProgressWindow::begin(const QString& title) {
     cancelled_ = false;
     barIsOpen_ = false;
     cancelButton_.setEnabled(true);
-    bar_.setValue(0);
+    showFraction(0.0);
     fullText_.clear();
     feed_.take(); // what is left of earlier work
     sinceBegin_.start();
@@ -72,9 +71,16 @@ void ProgressWindow::showState(const ProgressState& state) {
         hide();
         return;
     }
-    bar_.setValue(static_cast<int>(state.fraction * kBarLength));
+    showFraction(state.fraction);
     fullText_ = shown(state.text);
     showText();
+}
+
+// A guest that has not counted a step yet, or never does, is at work all the same: the bar moves
+// without an end.
+void ProgressWindow::showFraction(double fraction) {
+    bar_.setRange(0, fraction > 0.0 ? kBarLength : 0);
+    bar_.setValue(static_cast<int>(fraction * kBarLength));
 }
 
 void ProgressWindow::comeUp() {

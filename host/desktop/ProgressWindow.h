@@ -35,6 +35,7 @@ protected:
 private:
     void showState(const ProgressState& state);
     void showText();
+    void showFraction(double fraction);
     void comeUp();
 
     ProgressFeed& feed_;

@@ -1,1 +1,201 @@
+// The add-on's own dialog in a window, worked with mouse and keys.
+#include <gtest/gtest.h>
 
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTest>
+
+#include "host/desktop/DesktopFixture.h"
+
+namespace quorvia::host {
+namespace {
+
+enum Page_e { kFilesPage, kStructurePage, kSubsetPage };
+enum Field_e { kIStart, kIEnd, kISkip, kJStart, kJEnd, kJSkip, kKStart, kKEnd, kKSkip, kGridSet };
+
+/// A selection of a grid of 7 x 5 points and one solution, shown in the dialog.
+class LoadDialogTest : public DesktopTest {
+protected:
+    void SetUp() override {
+        DesktopTest::SetUp();
+        writeSample({"vortex", "--steps", "2", "--size", "7x5"});
+    }
+    void pickWithDialog() {
+        constexpr bool kAdvanced = true;
+        person().pickFiles(files({"vortex.x", "vortex_t0.00.q"}), kAdvanced);
+    }
+    void press(const char* button) { person().clickInDialog(QLatin1String(button)); }
+    /// Does what was asked of the person.
+    void begin() { choose(QStringLiteral("PLOT3D Loader...")); }
+    /// Of the control of that name, once the dialog is there.
+    void expectHint(const char* name, const char* hint, int which = 0) {
+        person().inDialog("a hint", [name, hint, which](QDialog& dialog) {
+            const QWidget* widget = namedWidget(dialog, QLatin1String(name), which);
+            ASSERT_NE(widget, nullptr) << name;
+            EXPECT_FALSE(widget->isEnabled()) << name;
+            EXPECT_EQ(widget->toolTip().toStdString(), hint);
+        });
+    }
+};
+
+TEST_F(LoadDialogTest, BringsInTheSameValuesAsAnImportWithoutIt) {
+    import({"vortex.x", "vortex_t0.00.q"});
+    std::vector<std::vector<float>> expected;
+    for (std::int32_t variable = 1; variable <= 6; ++variable)
+        expected.push_back(values(1, variable));
+    choose(QStringLiteral("Discard Data Set"));
+    pickWithDialog();
+    press("OK");
+    begin();
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    for (std::int32_t variable = 1; variable <= 6; ++variable)
+        EXPECT_EQ(values(1, variable), expected[static_cast<std::size_t>(variable) - 1]);
+}
+
+TEST_F(LoadDialogTest, RefusedFieldIsCorrectedAndItsRangeLoaded) {
+    pickWithDialog();
+    person().showPage(kSubsetPage);
+    person().typeInto(kIStart, QStringLiteral("4"));
+    person().typeInto(kIEnd, QStringLiteral("2"));
+    person().answerBox();
+    person().typeInto(kIEnd, QStringLiteral("6"));
+    press("OK");
+    begin();
+    EXPECT_EQ(
+        person().boxTexts(),
+        std::vector<std::string>{"I-Range Error: end must be greater than or equal to start."});
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->zones.front().i, 3);
+    const std::vector<float> x = values(1, 1);
+    EXPECT_EQ(std::vector<float>(x.begin(), x.begin() + 3),
+              (std::vector<float>{0.0F, 10.0F / 6, 20.0F / 6}));
+}
+
+TEST_F(LoadDialogTest, OkThatWasPressedOverARefusedFieldWaitsForAnother) {
+    pickWithDialog();
+    person().showPage(kSubsetPage);
+    person().typeInto(kJEnd, QStringLiteral("no number"), Person::Leave_e::NotYet);
+    press("OK");
+    person().answerBox();
+    person().inDialog("the field as it was before", [this](QDialog& dialog) {
+        EXPECT_EQ(host().frame().dataSet(), nullptr);
+        EXPECT_EQ(dialog.findChild<QTabWidget*>()->currentIndex(), kSubsetPage);
+    });
+    press("OK");
+    begin();
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->zones.front().j, 5);
+}
+
+TEST_F(LoadDialogTest, StructureIsDescribedByHand) {
+    pickWithDialog();
+    person().showPage(kStructurePage);
+    press("Manually Describe");
+    press("2-D");
+    press("OK");
+    begin();
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->variables.size(), 6U);
+}
+
+TEST_F(LoadDialogTest, FilesAreRemovedAndAdded) {
+    pickWithDialog();
+    person().inDialog("a selected file", [](QDialog& dialog) {
+        auto* solutions = dialog.findChildren<QListWidget*>().at(1);
+        QTest::mouseClick(solutions->viewport(), Qt::LeftButton, {},
+                          solutions->visualItemRect(solutions->item(0)).center());
+    });
+    constexpr int kOfSolutions = 1;
+    person().clickInDialog(QStringLiteral("Remove Selected"), kOfSolutions);
+    person().clickInDialog(QStringLiteral("Add Files..."), kOfSolutions);
+    person().pickFiles(files({"vortex_t0.25.q"}));
+    press("OK");
+    begin();
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.25.q:1");
+}
+
+TEST_F(LoadDialogTest, EscapeCancelsIt) {
+    pickWithDialog();
+    person().pressKeyInDialog(Qt::Key_Escape);
+    begin();
+    EXPECT_EQ(guestDialog(), nullptr);
+    EXPECT_EQ(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(LoadDialogTest, ReturnPressesOk) {
+    pickWithDialog();
+    person().showPage(kSubsetPage);
+    person().typeInto(kISkip, QStringLiteral("2"), Person::Leave_e::NotYet);
+    person().inDialog("the field for Return", [](QDialog& dialog) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    });
+    begin();
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->zones.front().i, 4);
+}
+
+TEST_F(LoadDialogTest, ReturnPressesTheButtonThatHasTheFocus) {
+    pickWithDialog();
+    person().inDialog("the focus on a button", [](QDialog& dialog) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    });
+    person().cancelFileSelection();
+    press("Cancel");
+    begin();
+    EXPECT_EQ(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(LoadDialogTest, NoToTheWarningBringsItBack) {
+    import({"vortex.x", "vortex_t0.25.q"});
+    pickWithDialog();
+    press("OK");
+    person().answerBox(QMessageBox::No);
+    press("OK");
+    person().answerBox(QMessageBox::Yes);
+    begin();
+    EXPECT_EQ(person().boxTexts(),
+              std::vector<std::string>(2, "Warning: All current data will be lost. Continue?"));
+    EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.00.q:1");
+}
+
+TEST_F(LoadDialogTest, InsensitiveControlsSayWhy) {
+    pickWithDialog();
+    expectHint("Append to Existing Data Set", "There is no data set to append to yet.");
+    expectHint("Remove Selected", "Nothing is selected in the list.");
+    constexpr int kOfFunctions = 2;
+    expectHint("Remove All", "The list is empty.", kOfFunctions);
+    person().showPage(kStructurePage);
+    expectHint("Multi-Grid",
+               "Auto Detect finds this out. Choose Manually Describe to set it by hand.");
+    expectHint("Solution file style:",
+               "Auto Detect finds this out. Choose Manually Describe to set it by hand.");
+    press("Cancel");
+    begin();
+}
+
+TEST_F(LoadDialogTest, HintGoesOnceTheControlCanBeUsed) {
+    pickWithDialog();
+    person().showPage(kStructurePage);
+    press("Manually Describe");
+    person().then("Multi-Grid without a hint", [] {
+        QWidget* toggle = namedWidget(*guestDialog(), QStringLiteral("Multi-Grid"));
+        return toggle->isEnabled() && toggle->toolTip().isEmpty();
+    });
+    press("Cancel");
+    begin();
+}
+
+TEST_F(LoadDialogTest, FirstKeyGoesToTheGridFiles) {
+    pickWithDialog();
+    person().inDialog("the focus", [](QDialog& dialog) {
+        ASSERT_NE(dialog.focusWidget(), nullptr);
+        EXPECT_EQ(dialog.focusWidget(), namedWidget(dialog, QStringLiteral("Add Files...")));
+    });
+    press("Cancel");
+    begin();
+}
+
+} // namespace
+} // namespace quorvia::host

@@ -1,1 +1,122 @@
+// Long work: the windows stay awake, and Cancel stops it.
+#include <chrono>
+#include <thread>
 
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+
+#include "host/desktop/DesktopFixture.h"
+
+namespace quorvia::host {
+namespace {
+
+/// A series of files that takes a long time to load.
+class InterruptionTest : public DesktopTest {
+protected:
+    void SetUp() override {
+        DesktopTest::SetUp();
+        writeSample({"vortex", "--steps", "40", "--size", "7x5"});
+    }
+    /// As on a slow disk.
+    static void slowDown() {
+        const auto observer = host().settings().progressObserver;
+        host().settings().progressObserver = [observer](const ProgressState& state) {
+            observer(state);
+            std::this_thread::sleep_for(std::chrono::milliseconds(state.open ? 20 : 0));
+        };
+    }
+    void pickSeries(bool append = false) {
+        slowDown();
+        std::vector<std::string> names = {"vortex.x"};
+        for (int step = 0; step < 40; ++step)
+            names.push_back("vortex_t" + std::to_string(step / 4) + "." +
+                            std::to_string(step % 4 * 25) + (step % 4 == 0 ? "0" : "") + ".q");
+        constexpr bool kWithoutDialog = false;
+        person().pickFiles(files(names), kWithoutDialog, append);
+    }
+    void whenProgressShows(const std::function<void(ProgressWindow&)>& act) {
+        person().then("the progress window", [this, act] {
+            ProgressWindow& progress = window().session().progressWindow();
+            if (!progress.isVisible())
+                return false;
+            act(progress);
+            return true;
+        });
+    }
+    QString status() { return window().statusBar()->currentMessage(); }
+};
+
+TEST_F(InterruptionTest, CancelStopsALongLoad) {
+    pickSeries();
+    whenProgressShows([](ProgressWindow& progress) {
+        click(*progress.findChild<QPushButton*>());
+        EXPECT_FALSE(progress.findChild<QPushButton*>()->isEnabled());
+    });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: no data set"));
+    EXPECT_FALSE(window().session().progressWindow().isVisible());
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(InterruptionTest, EscapeStopsALongLoad) {
+    pickSeries();
+    whenProgressShows([](ProgressWindow& progress) { QTest::keyClick(&progress, Qt::Key_Escape); });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: no data set"));
+}
+
+TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
+    import({"vortex.x", "vortex_t0.25.q"});
+    constexpr bool kAppend = true;
+    pickSeries(kAppend);
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
+    EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.25.q:1");
+}
+
+TEST_F(InterruptionTest, NextLoadIsNotStopped) {
+    pickSeries();
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    import({"vortex.x", "vortex_t0.25.q"});
+    EXPECT_NE(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(InterruptionTest, WindowThatIsClosedMeanwhileClosesOnceTheLoadHasStopped) {
+    pickSeries();
+    whenProgressShows([this](ProgressWindow&) {
+        window().close();
+        EXPECT_TRUE(window().isVisible());
+    });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(InterruptionTest, NothingElseCanBeStartedMeanwhile) {
+    pickSeries();
+    whenProgressShows([this](ProgressWindow& progress) {
+        EXPECT_FALSE(action(QStringLiteral("PLOT3D Loader...")).isEnabled());
+        EXPECT_FALSE(action(QStringLiteral("Fetch All Values")).isEnabled());
+        click(*progress.findChild<QPushButton*>());
+    });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_TRUE(action(QStringLiteral("PLOT3D Loader...")).isEnabled());
+}
+
+TEST(ProgressFeed, GivesTheLastStateOnce) {
+    ProgressFeed feed;
+    feed.put({0.25, "first", true});
+    feed.put({0.5, "second", true});
+    const std::optional<ProgressState> state = feed.take();
+    ASSERT_TRUE(state.has_value());
+    EXPECT_EQ(state->text, "second");
+    EXPECT_FALSE(feed.take().has_value());
+}
+
+} // namespace
+} // namespace quorvia::host

@@ -155,8 +155,8 @@ void Person::inDialog(std::string what, std::function<void(QDialog&)> act) {
     });
 }
 
-void Person::pressInDialog(const QString& button) {
-    clickInDialog(button);
+void Person::pressKeyInDialog(Qt::Key key) {
+    inDialog("the dialog for a key", [key](QDialog& dialog) { QTest::keyClick(&dialog, key); });
 }
 
 void Person::showPage(int index) {
@@ -179,13 +179,16 @@ void Person::clickInDialog(const QString& text, int which) {
     });
 }
 
-void Person::typeInto(const QString& fieldName, const QString& text) {
-    inDialog("the field " + fieldName.toStdString(), [fieldName, text](QDialog& dialog) {
-        auto* field = dialog.findChild<QLineEdit*>(fieldName);
-        click(*field);
-        field->selectAll();
-        QTest::keyClicks(field, text);
-        QTest::keyClick(field, Qt::Key_Tab);
+void Person::typeInto(int field, const QString& text, Leave_e leave) {
+    inDialog("field " + std::to_string(field), [field, text, leave](QDialog& dialog) {
+        QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
+        fields.removeIf([](const QLineEdit* each) { return !each->isVisible(); });
+        QLineEdit* const edit = fields.at(field);
+        click(*edit);
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        if (leave == Leave_e::WithTab)
+            QTest::keyClick(edit, Qt::Key_Tab);
     });
 }
 

@@ -18,6 +18,7 @@ namespace quorvia::host {
 
 class Person {
 public:
+    enum class Leave_e { WithTab, NotYet };
     /// False as long as what the step waits for is not there.
     using Step = std::function<bool()>;
 
@@ -34,12 +35,12 @@ public:
     void answerBox(QMessageBox::StandardButton button = QMessageBox::Ok);
     /// Once the guest's dialog is there and shows what was done before.
     void inDialog(std::string what, std::function<void(QDialog&)> act);
-    void pressInDialog(const QString& button);
     void showPage(int index);
     /// Clicks the toggle, radio button or button of that text; the n-th from 0 of those with it.
     void clickInDialog(const QString& text, int which = 0);
-    /// Types the text in place of the field's own, and leaves the field with Tab.
-    void typeInto(const QString& fieldName, const QString& text);
+    /// Types the text in place of the field's own. `field` counts the fields of the page, from 0.
+    void typeInto(int field, const QString& text, Leave_e leave = Leave_e::WithTab);
+    void pressKeyInDialog(Qt::Key key);
 
     bool isDone() const { return steps_.empty(); }
     /// What the person still waits for; empty when done.
