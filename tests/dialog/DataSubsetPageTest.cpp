@@ -102,6 +102,12 @@ TEST_F(SubsetPage, RefusedSetOfGridsLeavesTheFormerOne) {
     EXPECT_TRUE(QuorUtilSetIsMember(gLoadOptions.gridSet, 7));
 }
 
+TEST_F(SubsetPage, SetOfGridsThatTheHostCannotMakeIsNoSet) {
+    host().failCall("QuorGUITextFieldGetSet", 1);
+    openHere({type(gridSetField, "7")});
+    EXPECT_EQ(gLoadOptions.gridSet, nullptr);
+}
+
 TEST_F(SubsetPage, SetOfGridsComesBackAtTheNextLaunch) {
     openHere({type(gridSetField, "2,3,5"), pressCancel()});
     openHere({show(fileSelectionPage), show(dataSubsetPage),
@@ -201,10 +207,15 @@ TEST_P(RangeField, RefusedInputIsReplacedByTheFormerValue) {
 
 TEST_P(RangeField, ValueThatCannotBeReadIsReplacedByTheFormerOne) {
     stored() = 13;
-    host().failCall("QuorGUITextFieldGetLgIndex", 1);
-    EXPECT_FALSE(typed("17"));
-    EXPECT_EQ(stored(), 13);
-    EXPECT_EQ(text(field()), "13");
+    for (const char* operation :
+         {"QuorGUITextFieldValidateLgIndex", "QuorGUITextFieldGetLgIndex"}) {
+        host().failCall(operation, 1);
+        EXPECT_FALSE(typed("17")) << operation;
+        EXPECT_EQ(stored(), 13) << operation;
+        EXPECT_EQ(text(field()), "13") << operation;
+        QuorUtilLockStart(addOnID); // in place of the one that an end field may have taken
+        host().clearFaults();
+    }
 }
 
 TEST_P(RangeField, FormerValueIsShownAsAPlainNumber) {

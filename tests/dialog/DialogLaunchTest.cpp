@@ -38,6 +38,16 @@ TEST_F(DialogLaunch, ForgetsTheFilesOfTheLaunchBefore) {
                 })});
 }
 
+TEST_F(DialogLaunch, EmptiesWhatALoadHasLeftInTheRecord) {
+    gLoadOptions.gridFiles = gLoadOptions.solutionFiles = gLoadOptions.functionFiles = {"left"};
+    gLoadOptions.nameFile = "left.nam";
+    open({meanwhile([] {
+        for (const std::int32_t list : {gridList, solutionList, functionList})
+            EXPECT_EQ(items(list), Texts());
+        EXPECT_EQ(text(nameFileField), "");
+    })});
+}
+
 TEST_F(DialogLaunch, WithOneGridFileGreysUniformGridsAndWithNoneLeavesThem) {
     importFiles({"a.x"}, {meanwhile([] { EXPECT_FALSE(isSensitive(uniformGridToggle)); })});
     importFiles({"a.q"}, {meanwhile([] { EXPECT_TRUE(isSensitive(uniformGridToggle)); })});

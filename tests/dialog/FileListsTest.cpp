@@ -121,6 +121,13 @@ TEST_P(FileColumn, CancelledChoiceChangesNothing) {
           expectSensitive(removeSelected(), true)});
 }
 
+TEST_P(FileColumn, ChoiceThatTheHostFailsChangesNothing) {
+    retainHere({"a"});
+    host().failCall("QuorUtilDialogGetFileNames", 1);
+    open({press(addFiles()), expectFiles({"a"})});
+    EXPECT_EQ(messages(), Texts());
+}
+
 TEST_P(FileColumn, NameThatTheHostCannotHandOutIsToldAndNothingIsAdded) {
     retainHere({"a"});
     host().failCall("QuorUtilStringListGetString", 2);
