@@ -16,19 +16,15 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-void takeIfNotEmpty(std::vector<std::string>& files, const std::vector<std::string>& retained) {
-    if (!retained.empty())
-        files = retained;
-}
-
 bool takeRetainedFiles() {
     gLoadOptions.nameFile = gRetainedNameFile;
-    takeIfNotEmpty(gLoadOptions.gridFiles, gRetainedGridFiles);
-    takeIfNotEmpty(gLoadOptions.solutionFiles, gRetainedSolutionFiles);
-    takeIfNotEmpty(gLoadOptions.functionFiles, gRetainedFunctionFiles);
+    gLoadOptions.gridFiles = gRetainedGridFiles;
+    gLoadOptions.solutionFiles = gRetainedSolutionFiles;
+    gLoadOptions.functionFiles = gRetainedFunctionFiles;
     return true;
 }
 
+/// So that nothing of the launch before is left if there is no memory for the new files.
 void emptyFiles() {
     gLoadOptions.nameFile.clear();
     gLoadOptions.gridFiles.clear();
