@@ -44,7 +44,8 @@ parseDesktopCommandLine(std::vector<std::string> arguments, std::ostream& out, s
     app.add_option("FILE", takeFiles, "Files to import at the start, as one selection")
         ->type_size(1)
         ->expected(1, kNoLimit)
-        ->option_text("...");
+        ->option_text("...")
+        ->allow_extra_args();
     app.add_option("--addon", result.addOnPath,
                    "Another add-on library (default:\n../lib/plot3dloader.so from the program)")
         ->type_name("PATH");

@@ -218,7 +218,7 @@ void DataSetTree::showVariableValues(QTreeWidgetItem* item) const {
     item->setText(kDetails,
                   fetched == fields || fetched == 0
                       ? QString()
-                      : QStringLiteral("range of %1 zones of %2").arg(fetched).arg(fields));
+                      : QStringLiteral("range of %1 of %2 zones").arg(fetched).arg(fields));
     item->setText(kMinimum, least <= most ? shownNumber(least) : QString());
     item->setText(kMaximum, least <= most ? shownNumber(most) : QString());
 }

@@ -73,9 +73,10 @@ void DesktopTest::import(const std::vector<std::string>& names, bool append) {
     choose(QStringLiteral("PLOT3D Loader..."));
 }
 
-void DesktopTest::writeSample(const std::vector<std::string>& arguments) {
+void DesktopTest::writeSample(const std::vector<std::string>& arguments,
+                              const std::string& folder) {
     std::vector<std::string> all = arguments;
-    all.insert(all.begin() + 1, directory_.path().string());
+    all.insert(all.begin() + 1, folder.empty() ? directory_.path().string() : folder);
     std::ostringstream out;
     std::ostringstream err;
     if (plot3dsample::run(all, out, err) != 0)

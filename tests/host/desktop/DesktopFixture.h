@@ -36,8 +36,8 @@ protected:
     /// Without the dialog.
     void import(const std::vector<std::string>& names, bool append = false);
 
-    /// Sample data: see plot3d-sample --help.
-    void writeSample(const std::vector<std::string>& arguments);
+    /// Sample data: see plot3d-sample --help. Into the test's directory, or another one.
+    void writeSample(const std::vector<std::string>& arguments, const std::string& folder = {});
     std::vector<std::string> files(const std::vector<std::string>& names) const;
 
     /// From the host, whatever the tree shows.

@@ -1,12 +1,17 @@
 // The pictures of docs/importing.md, taken of the program as it is.
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QHeaderView>
+#include <QAbstractItemView>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHash>
+#include <QImage>
 #include <QTest>
 
 #include "host/desktop/DesktopFixture.h"
@@ -41,15 +46,19 @@ QImage withFewColours(const QImage& image) {
 
 class PicturesTest : public DesktopTest {
 protected:
+    void SetUp() override {
+        DesktopTest::SetUp();
+        writeSample({"vortex", "--steps", "6"}, samples_);
+    }
     /// Takes a picture of the window. It must show something: its own size, and several colours.
     void take(const QString& name, QWidget& widget) {
-        const QPixmap picture = widget.grab();
         const QString folder = updatesGolden()
                                    ? QStringLiteral(PLOT3D_SOURCE_DIR "/docs/images")
                                    : QString::fromStdString(directory().path().string());
         const QString file = QStringLiteral("%1/%2.png").arg(folder, name);
-        const QImage image = withFewColours(picture.toImage());
-        ASSERT_TRUE(image.save(file, "PNG", 0));
+        const QImage image = withFewColours(widget.grab().toImage());
+        constexpr int kSmallest = 0; // of the qualities, and the file
+        ASSERT_TRUE(image.save(file, "PNG", kSmallest));
         EXPECT_EQ(QImage(file).size(), widget.size());
         EXPECT_GT(coloursOf(image).size(), 8);
         EXPECT_LT(QFileInfo(file).size(), kLargestFile);
@@ -58,12 +67,28 @@ protected:
         person().inDialog("the dialog to be pictured",
                           [this, name](QDialog& dialog) { take(name, dialog); });
     }
-    void writeSamples() { writeSample({"vortex", "--steps", "3"}); }
+    void pick(bool advanced) {
+        std::vector<std::string> paths = {samples_ + "/vortex.x"};
+        for (const char* time : {"0.00", "0.25", "0.50", "0.75", "1.00", "1.25"})
+            paths.push_back(samples_ + "/vortex_t" + time + ".q");
+        person().pickFiles(paths, advanced);
+    }
+    void importSeries() {
+        constexpr bool kWithoutDialog = false;
+        pick(kWithoutDialog);
+        choose(QStringLiteral("PLOT3D Loader..."));
+    }
+
+private:
+    // Readers of the pictures see this name.
+    std::string samples_ = updatesGolden()
+                               ? (std::filesystem::temp_directory_path() / "samples").string()
+                               : directory().file("samples");
 };
 
 TEST_F(PicturesTest, ShowEachPageOfTheDialog) {
-    writeSamples();
-    person().pickFiles(files({"vortex.x", "vortex_t0.00.q", "vortex_t0.25.q"}), true);
+    constexpr bool kWithDialog = true;
+    pick(kWithDialog);
     takeOfDialog(QStringLiteral("dialog-files"));
     person().showPage(1);
     takeOfDialog(QStringLiteral("dialog-structure"));
@@ -74,10 +99,11 @@ TEST_F(PicturesTest, ShowEachPageOfTheDialog) {
 }
 
 TEST_F(PicturesTest, ShowTheFileSelection) {
-    writeSamples();
-    person().then("a file selection to be pictured", [this] {
+    importSeries(); // its folder is remembered
+    person().then("a file selection with files, to be pictured", [this] {
         auto* dialog = visibleWindow<QFileDialog>();
-        if (dialog == nullptr)
+        if (dialog == nullptr || dialog->findChild<QAbstractItemView*>()->model()->rowCount(
+                                     dialog->findChild<QAbstractItemView*>()->rootIndex()) == 0)
             return false;
         take(QStringLiteral("selection"), *dialog);
         QTest::keyClick(dialog, Qt::Key_Escape);
@@ -86,9 +112,27 @@ TEST_F(PicturesTest, ShowTheFileSelection) {
     choose(QStringLiteral("PLOT3D Loader..."));
 }
 
+TEST_F(PicturesTest, ShowTheProgress) {
+    const auto observer = host().settings().progressObserver;
+    host().settings().progressObserver = [observer](const ProgressState& state) {
+        observer(state);
+        std::this_thread::sleep_for(std::chrono::milliseconds(state.open ? 30 : 0));
+    };
+    constexpr bool kWithoutDialog = false;
+    pick(kWithoutDialog);
+    person().then("the progress window to be pictured", [this] {
+        ProgressWindow& progress = window().session().progressWindow();
+        if (!progress.isVisible())
+            return false;
+        take(QStringLiteral("progress"), progress);
+        QTest::keyClick(&progress, Qt::Key_Escape);
+        return true;
+    });
+    choose(QStringLiteral("PLOT3D Loader..."));
+}
+
 TEST_F(PicturesTest, ShowTheTreeWithRanges) {
-    writeSamples();
-    import({"vortex.x", "vortex_t0.00.q", "vortex_t0.25.q", "vortex_t0.50.q"});
+    importSeries();
     choose(QStringLiteral("Fetch All Values"));
     treeItem(QStringLiteral("Time 0.25"))->setExpanded(true);
     treeItem(QStringLiteral("2  vortex_t0.25.q:1"))->setExpanded(true);
