@@ -4,13 +4,26 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QRegularExpression>
+#include <QTreeView>
 
 #include "desktop/Preferences.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
 namespace {
+
+/// Names get the room that sizes and dates leave.
+void widenNames(QFileDialog& dialog) {
+    const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (list == nullptr)
+        return;
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    constexpr int kTypeColumn = 2; // no desktop knows these files
+    list->header()->hideSection(kTypeColumn);
+}
 
 /// The host's own dialog everywhere, since options are added to it.
 void prepare(QFileDialog& dialog, const QString& title, bool severalFiles) {
@@ -21,6 +34,7 @@ void prepare(QFileDialog& dialog, const QString& title, bool severalFiles) {
     dialog.setDirectory(Preferences().folder());
     constexpr QSize kRoomForLongNames(760, 480);
     dialog.resize(kRoomForLongNames);
+    widenNames(dialog);
 }
 
 QString filterText(const QString& kind, const std::string& patterns) {
