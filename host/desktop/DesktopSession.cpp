@@ -46,6 +46,8 @@ void DesktopSession::start(const QString& title, GuestWork::Work work, std::func
     progress_.begin(title);
     work_.start(std::move(work), [this, done = std::move(done)](const std::string& failure) {
         progress_.end();
+        host()
+            .clearFaults(); // Cancel may have come too late for this, and is not meant for the next
         collectViolations();
         if (!failure.empty())
             showText(&mainWindow_, failure, TextKind_e::Error);
@@ -114,7 +116,6 @@ void DesktopSession::fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s>
         QStringLiteral("Fetching Values"),
         [fetch, tell, fields = std::move(fields)] {
             fetch->end = fetchFields(host(), fetch->dataSet, fields, tell);
-            host().clearFaults(); // an interruption of this must not stop the next load
         },
         [fetch, done = std::move(done)] { done(std::move(fetch->dataSet), fetch->end); });
 }

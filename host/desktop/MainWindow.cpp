@@ -263,7 +263,9 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    importDropped(localFiles(*event->mimeData()));
+    // The other program waits for the end of the drop, and must not wait for a question of ours.
+    QTimer::singleShot(0, this,
+                       [this, files = localFiles(*event->mimeData())] { importDropped(files); });
 }
 
 } // namespace quorvia::host

@@ -8,10 +8,22 @@
 namespace quorvia::host {
 namespace {
 
+/// Some texts list every file of a long series: the box must stay on the screen.
+void setTextOf(QMessageBox& box, const QString& text) {
+    constexpr int kMostLines = 20;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    if (lines.size() <= kMostLines) {
+        box.setText(text);
+        return;
+    }
+    box.setText(lines.mid(0, kMostLines).join(QLatin1Char('\n')) + QStringLiteral("\n..."));
+    box.setDetailedText(text);
+}
+
 void prepare(QMessageBox& box, const std::string& text) {
     box.setWindowTitle(QStringLiteral("Quorvia"));
     box.setTextFormat(Qt::PlainText); // names of files may look like markup
-    box.setText(shown(text));
+    setTextOf(box, shown(text));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 

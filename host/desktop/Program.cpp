@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
 #include <QApplication>
@@ -26,11 +27,19 @@ bool hasDisplay() {
     return false;
 }
 
+/// As a file selection gives them.
+std::vector<std::string> wholePaths(const std::vector<std::string>& files) {
+    std::vector<std::string> paths;
+    for (const std::string& file : files)
+        paths.push_back(std::filesystem::absolute(file).string());
+    return paths;
+}
+
 int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
     QApplication::setStyle(new DesktopStyle);
-    MainWindow window(desktopAddOnPath(arguments.addOnPath), arguments.files);
+    MainWindow window(desktopAddOnPath(arguments.addOnPath), wholePaths(arguments.files));
     window.show();
     const int code = QApplication::exec();
     for (const std::string& violation : window.session().takeViolations())

@@ -36,11 +36,11 @@ void DesktopTest::TearDown() {
     window_.reset();
 }
 
-void DesktopTest::openWindow(const std::string& addOnPath) {
+void DesktopTest::openWindow(const std::string& addOnPath, const std::vector<std::string>& files) {
     if (window_ != nullptr)
         window_->close();
     window_.reset();
-    window_ = std::make_unique<MainWindow>(addOnPath, std::vector<std::string>());
+    window_ = std::make_unique<MainWindow>(addOnPath, files);
     window_->show();
     waitUntilDone();
 }

@@ -27,7 +27,8 @@ protected:
     std::string file(const std::string& name) const { return directory_.file(name); }
 
     /// Closes the window, and opens another one as a later run of the program would.
-    void openWindow(const std::string& addOnPath = PLOT3D_ADDON_PATH);
+    void openWindow(const std::string& addOnPath = PLOT3D_ADDON_PATH,
+                    const std::vector<std::string>& files = {});
     /// Chooses the action of the menus by its text, and waits until the person is done and nothing
     /// runs.
     void choose(const QString& actionText);

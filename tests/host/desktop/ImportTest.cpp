@@ -1,10 +1,15 @@
 // Imports by hand without the loader's dialog, and the file selection with its options.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QDropEvent>
 #include <QFileDialog>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
 
+#include "desktop/MessageBoxes.h"
 #include "host/desktop/DesktopFixture.h"
 
 namespace quorvia::host {
@@ -23,6 +28,30 @@ protected:
             return true;
         });
         choose(QStringLiteral("PLOT3D Loader..."));
+    }
+    /// Files from another program.
+    void drop(const std::vector<std::string>& names) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const std::string& path : files(names))
+            urls.append(QUrl::fromLocalFile(QString::fromStdString(path)));
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window(), &event);
+        QTest::qWait(0); // the import begins once the drop has ended
+        waitUntilDone();
+    }
+    void answerDrop(const char* button) {
+        person().then("the question of a drop", [button] {
+            auto* box = visibleWindow<QMessageBox>();
+            if (box == nullptr)
+                return false;
+            click(*namedWidget(*box, QLatin1String(button)));
+            return true;
+        });
     }
     static QCheckBox& option(QFileDialog& dialog, const char* name) {
         return *dialog.findChild<QCheckBox*>(QLatin1String(name));
@@ -100,6 +129,60 @@ TEST_F(ImportTest, SelectionRemembersTheFolderInALaterRun) {
     lookAtSelection([this](QFileDialog& dialog) {
         EXPECT_EQ(dialog.directory().absolutePath().toStdString(), directory().path().string());
     });
+}
+
+TEST_F(ImportTest, DroppedFilesAreImported) {
+    writeSample({"vortex", "--steps", "1", "--size", "7x5"});
+    drop({"vortex.x", "vortex_t0.00.q"});
+    ASSERT_NE(window().tree().dataSet(), nullptr);
+    EXPECT_EQ(window().tree().dataSet()->zones.size(), 1U);
+}
+
+TEST_F(ImportTest, FilesDroppedOntoADataSetAreAppendedWhenAskedTo) {
+    writeSample({"vortex", "--steps", "2", "--size", "7x5"});
+    import({"vortex.x", "vortex_t0.00.q"});
+    answerDrop("Append");
+    drop({"vortex.x", "vortex_t0.25.q"});
+    EXPECT_EQ(window().tree().dataSet()->zones.size(), 2U);
+}
+
+TEST_F(ImportTest, FilesDroppedOntoADataSetReplaceItWhenAskedTo) {
+    writeSample({"vortex", "--steps", "2", "--size", "7x5"});
+    import({"vortex.x", "vortex_t0.00.q"});
+    answerDrop("Replace");
+    drop({"vortex.x", "vortex_t0.25.q"});
+    EXPECT_EQ(window().tree().dataSet()->zones.size(), 1U);
+    EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.25.q:1");
+}
+
+TEST_F(ImportTest, DropThatIsCancelledChangesNothing) {
+    writeSample({"vortex", "--steps", "2", "--size", "7x5"});
+    import({"vortex.x", "vortex_t0.00.q"});
+    answerDrop("Cancel");
+    drop({"vortex.x", "vortex_t0.25.q"});
+    EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.00.q:1");
+}
+
+TEST_F(ImportTest, FilesOfTheCommandLineComeInAtTheStart) {
+    writeSample({"vortex", "--steps", "1", "--size", "7x5"});
+    openWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
+    EXPECT_NE(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(ImportTest, LongMessageStaysOnTheScreen) {
+    person().then("a long message", [] {
+        auto* box = visibleWindow<QMessageBox>();
+        if (box == nullptr)
+            return false;
+        EXPECT_LT(box->height(), 600);
+        EXPECT_EQ(box->detailedText().count(QLatin1Char('\n')), 97);
+        click(*box->button(QMessageBox::Ok));
+        return true;
+    });
+    std::string text = "first";
+    for (int line = 0; line < 97; ++line)
+        text += "\nline";
+    showText(&window(), text, TextKind_e::Error);
 }
 
 TEST_F(ImportTest, NothingCanBeImportedWithoutAnAddOn) {
