@@ -22,11 +22,6 @@ std::vector<Item> takeNumbered(std::vector<Item>& items, const std::set<std::int
     return taken;
 }
 
-template <typename Item>
-bool isNumberOf(const std::vector<Item>& items, std::int64_t number) {
-    return number >= 1 && number <= static_cast<std::int64_t>(items.size());
-}
-
 // For each zone the lowest number of a zone for which `sharedThing` gives the same pointer.
 template <typename SharedThing>
 std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>& zones,
@@ -50,16 +45,6 @@ DataSet::DataSet(IdSource& ids, std::string loader, std::string dataSetTitle,
       uniqueId_(ids.next()) {
     for (const std::string& name : variableNames)
         addVariable(name, {});
-}
-
-Zone* DataSet::zone(std::int64_t number) const {
-    return isNumberOf(zones_, number) ? zones_[static_cast<std::size_t>(number - 1)].get()
-                                      : nullptr;
-}
-
-const Variable* DataSet::variable(std::int64_t number) const {
-    return isNumberOf(variables_, number) ? &variables_[static_cast<std::size_t>(number - 1)]
-                                          : nullptr;
 }
 
 Field* DataSet::field(std::int64_t zoneNumber, std::int64_t variableNumber) const {

@@ -1,6 +1,7 @@
 // The zones and variables of a frame. Both are numbered from 1 without gaps; their unique ids stay.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <set>
@@ -45,8 +46,14 @@ public:
     std::int32_t variableCount() const { return static_cast<std::int32_t>(variables_.size()); }
 
     /// Numbers from 1; null if there is no such zone or variable.
-    Zone* zone(std::int64_t number) const;
-    const Variable* variable(std::int64_t number) const;
+    Zone* zone(std::int64_t number) const {
+        return isNumberOf(zones_, number) ? zones_[static_cast<std::size_t>(number - 1)].get()
+                                          : nullptr;
+    }
+    const Variable* variable(std::int64_t number) const {
+        return isNumberOf(variables_, number) ? &variables_[static_cast<std::size_t>(number - 1)]
+                                              : nullptr;
+    }
     Field* field(std::int64_t zoneNumber, std::int64_t variableNumber) const;
 
     /// Appends the zone; its fields must be one for each variable. Gives it number and unique id.
@@ -72,6 +79,11 @@ public:
     std::vector<std::int32_t> nodeMapHolders() const;
 
 private:
+    template <typename Item>
+    static bool isNumberOf(const std::vector<Item>& items, std::int64_t number) {
+        return number >= 1 && number <= static_cast<std::int64_t>(items.size());
+    }
+
     IdSource& ids_;
     std::int64_t uniqueId_;
     std::vector<Variable> variables_;
