@@ -24,16 +24,14 @@ Plot3DVarRepo& Plot3DVarRepo::instance() {
 }
 
 std::shared_ptr<Plot3DVariable_s> Plot3DVarRepo::getVariable(const Plot3DFile_s& file) {
-    const auto known = variables_.find(&file);
-    if (known != variables_.end())
-        return known->second;
-    std::shared_ptr<Plot3DVariable_s> variable = describe(file);
-    variables_.emplace(&file, variable);
-    return variable;
+    for (const Entry& entry : entries_)
+        if (entry.file == &file)
+            return entry.variable;
+    return entries_.emplace_back(Entry{&file, describe(file)}).variable;
 }
 
 void Plot3DVarRepo::clear() {
-    variables_.clear();
+    entries_.clear();
 }
 
 } // namespace quorvia::quorutildataio

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,13 +31,17 @@ public:
     static Plot3DVarRepo& instance();
 
     /// The file's shared record, made at the first call. `file` is borrowed. Throws std::bad_alloc;
-    /// the map is unchanged then.
+    /// nothing is kept then.
     std::shared_ptr<Plot3DVariable_s> getVariable(const Plot3DFile_s& file);
     /// Drops all entries.
     void clear();
 
 private:
-    std::map<const Plot3DFile_s*, std::shared_ptr<Plot3DVariable_s>> variables_;
+    struct Entry {
+        const Plot3DFile_s* file;
+        std::shared_ptr<Plot3DVariable_s> variable;
+    };
+    std::vector<Entry> entries_; // a file set has few files
 };
 
 } // namespace quorvia::quorutildataio

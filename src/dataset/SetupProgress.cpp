@@ -11,8 +11,11 @@ namespace {
 
 // A number, which is positive, with at least three digits.
 std::string digitsOf(std::int32_t number) {
-    const std::string digits = std::to_string(number);
-    return digits.size() < 3 ? std::string(3 - digits.size(), '0') + digits : digits;
+    constexpr std::size_t leastDigits = 3;
+    std::string digits = std::to_string(number);
+    if (digits.size() < leastDigits)
+        digits.insert(0, leastDigits - digits.size(), '0');
+    return digits;
 }
 
 } // namespace
