@@ -1,33 +1,12 @@
-// The dialog's controls, row by row: kind, caption with its blanks, place, order, and which of them
-// the add-on keeps for later.
+// The dialog with its tabs and pages, and which controls the add-on keeps for later. Kind, caption
+// and place of each control are told by the table in acceptance/dialog/LayoutTest.cpp, of the
+// built library.
 #include "dialog/LoadDialogFixture.h"
 
 namespace quorvia::quorutildataio {
 namespace {
 
 using DialogLayout = LoadDialogTest;
-
-/// Kind, caption, items, place and size in one line.
-std::string lineOf(const Control& control) {
-    std::string line(wordFor(control.kind));
-    line += control.allowsSeveral ? " of several [" : " [";
-    line += control.caption;
-    for (const std::string& item : control.items)
-        line += item + '|';
-    line += ']';
-    const host::Geometry& place = control.geometry;
-    for (const std::int32_t number : {place.x, place.y, place.width, place.height})
-        line += ' ' + std::to_string(number);
-    return line;
-}
-
-Texts linesOf(const host::Dialog& dialog, std::int32_t page) {
-    Texts lines;
-    for (const Control& control : dialog.controls)
-        if (control.parent == page)
-            lines.push_back(lineOf(control));
-    return lines;
-}
 
 /// The position of a control on its page, from 0; -1 if it is not there.
 int rowOf(const host::Dialog& dialog, std::int32_t page, std::int32_t id) {
@@ -80,35 +59,6 @@ TEST_F(DialogLayout, TabControlHoldsThreePagesInTheirOrder) {
     EXPECT_EQ(tabs.pages[2].id, dataSubsetPage);
 }
 
-TEST_F(DialogLayout, FileSelectionPageIsMadeRowByRow) {
-    EXPECT_EQ(linesOf(dialog(), fileSelectionPage),
-              (Texts{
-                  "label [Name File (Optional):] 151 2785 0 0",
-                  "label [Function File(s):] 137 2012 0 0",
-                  "label [Solution File(s):] 151 1263 0 0",
-                  "label [Grid File(s):] 151 501 0 0",
-                  "toggle [Append to Existing Data Set] 178 74 3515 121",
-                  "toggle [Uniform Grid Structure] 178 207 2979 121",
-                  "toggle [Assign New Strand IDs for Each Time Step] 4586 74 5012 121",
-                  "toggle [Assign Strand IDs for Zones] 4586 201 3529 121",
-                  "toggle [Add Zones to Existing Strands] 4586 328 3762 121",
-                  "list of several [] 137 611 7140 599",
-                  "button [Remove Selected] 7387 634 1991 144",
-                  "button [Remove All           ] 7387 824 2018 144",
-                  "button [Add Files...           ] 7387 1015 1977 144",
-                  "list of several [] 137 1372 7140 599",
-                  "button [Remove Selected] 7387 1401 1991 144",
-                  "button [Remove All           ] 7387 1591 2018 144",
-                  "button [Add Files...           ] 7387 1776 1977 144",
-                  "list of several [] 137 2128 7140 599",
-                  "button [Remove Selected] 7387 2139 1991 144",
-                  "button [Remove All           ] 7387 2335 2018 144",
-                  "button [Add Files...           ] 7387 2531 1977 144",
-                  "textField [] 151 2889 7099 144",
-                  "button [...] 7401 2889 370 144",
-              }));
-}
-
 TEST_F(DialogLayout, FileSelectionPageKeepsItsControls) {
     expectRows(dialog(), fileSelectionPage,
                {{"nameFileLabel", nameFileLabel, 0},
@@ -131,24 +81,6 @@ TEST_F(DialogLayout, FileSelectionPageKeepsItsControls) {
                 {"nameFileBrowse", nameFileBrowse, 22}});
 }
 
-TEST_F(DialogLayout, FileStructurePageIsMadeRowByRow) {
-    EXPECT_EQ(
-        linesOf(dialog(), fileStructurePage),
-        (Texts{
-            "frame [] 219 1251 9118 588",
-            "label [Data Structure:] 5231 207 0 0",
-            "label [Solution file style:] 1167 570 0 0",
-            "frame [File Organization] 233 74 9118 1159",
-            "radioBox [Auto Detect|Manually Describe|] 659 190 2361 299",
-            "optionMenu [Plot3D Classic|Plot3D Function|Overflow|Swift|] 1194 674 2650 144",
-            "toggle [Multi-Grid] 1194 893 1702 121",
-            "radioBox [1-D|2-D|3-D Planes|3-D Whole|Unstructured|] 5245 363 1812 709",
-            "toggle [Assume ASCII Files are Double Precision] 576 1378 4971 121",
-            "toggle [Assume ASCII Files are I-Blanked] 576 1522 4119 121",
-            "toggle [Assume all Solution/Function Files have the same structure] 576 1678 6811 121",
-        }));
-}
-
 TEST_F(DialogLayout, FileStructurePageKeepsItsControls) {
     expectRows(dialog(), fileStructurePage,
                {{"dataStructureLabel", dataStructureLabel, 1},
@@ -160,37 +92,6 @@ TEST_F(DialogLayout, FileStructurePageKeepsItsControls) {
                 {"asciiDoubleToggle", asciiDoubleToggle, 8},
                 {"asciiIBlankToggle", asciiIBlankToggle, 9},
                 {"sameStructureToggle", sameStructureToggle, 10}});
-}
-
-TEST_F(DialogLayout, DataSubsetPageIsMadeRowByRow) {
-    EXPECT_EQ(linesOf(dialog(), dataSubsetPage),
-              (Texts{
-                  "frame [I-Index] 384 196 8857 403",
-                  "frame [K-Index] 384 1153 8857 403",
-                  "frame [J-Index] 384 674 8857 403",
-                  "frame [Grids Loaded (From Each Solution)] 384 1626 8857 403",
-                  "label [Start:] 631 392 0 0",
-                  "label [End:] 3309 392 0 0",
-                  "label [Skip:] 5836 392 0 0",
-                  "label [Start:] 686 899 0 0",
-                  "label [End:] 3378 899 0 0",
-                  "label [Skip:] 5891 899 0 0",
-                  "label [Start:] 631 1355 0 0",
-                  "label [End:] 3309 1355 0 0",
-                  "label [Skip:] 5836 1355 0 0",
-                  "label [Grid Set:] 590 1764 0 0",
-                  "label [Example:  1-5,7,12] 5355 1776 0 0",
-                  "textField [] 1441 380 1235 144",
-                  "textField [] 4050 380 1235 144",
-                  "textField [] 6605 380 1235 144",
-                  "textField [] 1510 882 1235 144",
-                  "textField [] 4105 882 1235 144",
-                  "textField [] 6673 882 1235 144",
-                  "textField [] 1483 1343 1235 144",
-                  "textField [] 4078 1343 1235 144",
-                  "textField [] 6632 1343 1235 144",
-                  "textField [] 2046 1753 2293 144",
-              }));
 }
 
 TEST_F(DialogLayout, DataSubsetPageKeepsItsControls) {
@@ -208,7 +109,8 @@ TEST_F(DialogLayout, DataSubsetPageKeepsItsControls) {
 }
 
 TEST_F(DialogLayout, NothingStandsBesideThePages) {
-    EXPECT_EQ(linesOf(dialog(), loadDialog), Texts());
+    for (const Control& control : dialog().controls)
+        EXPECT_NE(control.parent, loadDialog) << control.caption;
 }
 
 TEST_F(DialogLayout, DialogIsMadeOnce) {
