@@ -11,8 +11,8 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "desktop/ControlNames.h"
 #include "desktop/FrameWidget.h"
-#include "desktop/InsensitiveHints.h"
 #include "desktop/TextFieldView.h"
 #include "desktop/Texts.h"
 
@@ -223,13 +223,13 @@ void ControlView::refresh(const Control& control) {
     widget_->setToolTip(control.sensitive ? QString() : hint_);
 }
 
-std::unique_ptr<ControlView> makeControlView(const Control& control, const std::string& name,
+std::unique_ptr<ControlView> makeControlView(const Dialog& dialog, const Control& control,
                                              ActionSink act, const DialogScale& scale,
                                              QWidget* parent) {
     std::unique_ptr<ControlView> view = viewOfKind(control, std::move(act), parent);
-    view->hint_ = hintFor(name);
+    view->hint_ = hintFor(nameOf(dialog, control));
     view->widget()->setObjectName(QStringLiteral("control%1").arg(control.id));
-    view->widget()->setAccessibleName(shown(name).trimmed());
+    view->widget()->setAccessibleName(shown(spokenNameOf(dialog, control)).trimmed());
     view->widget()->setGeometry(placeOf(control, scale, *view->widget()));
     view->refresh(control);
     return view;

@@ -36,16 +36,15 @@ protected:
     virtual void showValue(const Control& control) = 0;
 
 private:
-    friend std::unique_ptr<ControlView> makeControlView(const Control& control,
-                                                        const std::string& name, ActionSink act,
+    friend std::unique_ptr<ControlView> makeControlView(const Dialog& dialog,
+                                                        const Control& control, ActionSink act,
                                                         const DialogScale& scale, QWidget* parent);
     QWidget* widget_;
     QString hint_; // shown while it is not sensitive
 };
 
-/// A view of the control's kind at its place within `parent`. `name` is what people call it, see
-/// nameOf().
-std::unique_ptr<ControlView> makeControlView(const Control& control, const std::string& name,
+/// A view of the dialog's control at its place within `parent`.
+std::unique_ptr<ControlView> makeControlView(const Dialog& dialog, const Control& control,
                                              ActionSink act, const DialogScale& scale,
                                              QWidget* parent);
 

@@ -8,7 +8,6 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 
-#include "desktop/InsensitiveHints.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -89,8 +88,7 @@ void DialogWindow::addControls(const Dialog& dialog) {
             else
                 act(action);
         };
-        views_[control.id] =
-            makeControlView(control, nameOf(dialog, control), tell, scale_, parentOf(control));
+        views_[control.id] = makeControlView(dialog, control, tell, scale_, parentOf(control));
         views_[control.id]->widget()->show();
     }
 }

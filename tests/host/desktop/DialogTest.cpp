@@ -169,7 +169,7 @@ TEST_F(LoadDialogTest, InsensitiveControlsSayWhy) {
     person().showPage(kStructurePage);
     expectHint("Multi-Grid",
                "Auto Detect finds this out. Choose Manually Describe to set it by hand.");
-    expectHint("Solution file style:",
+    expectHint("File Organization, Solution file style:",
                "Auto Detect finds this out. Choose Manually Describe to set it by hand.");
     press("Cancel");
     begin();

@@ -12,7 +12,7 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "desktop/InsensitiveHints.h"
+#include "desktop/ControlNames.h"
 #include "host/desktop/Person.h"
 
 namespace quorvia::host {
@@ -286,6 +286,14 @@ TEST(NameOf, AControlWithoutACaptionIsThatOfTheLabelBesideIt) {
     EXPECT_EQ(nameOf(dialog, dialog.controls[4]), "Name:");
     EXPECT_EQ(nameOf(dialog, dialog.controls[1]), "Swap & go");
     EXPECT_EQ(nameOf(dialog, dialog.controls[6]), "Low");
+}
+
+TEST(SpokenNameOf, AFieldIsToldWithTheFrameAroundIt) {
+    Dialog dialog = sampleDialog();
+    dialog.controls.push_back(
+        control(kMenu + 1, ControlKind::Frame, "I-Index", {53, 907, 5003, 307}));
+    EXPECT_EQ(spokenNameOf(dialog, dialog.controls[4]), "I-Index, Name:");
+    EXPECT_EQ(spokenNameOf(dialog, dialog.controls[1]), "Swap & go");
 }
 
 TEST(HintFor, AnUnknownControlIsGeneral) {

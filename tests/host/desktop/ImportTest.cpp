@@ -20,7 +20,7 @@ protected:
     /// Looks at the file selection, and cancels it.
     void lookAtSelection(const std::function<void(QFileDialog&)>& look) {
         person().then("a file selection to look at", [look] {
-            auto* dialog = visibleWindow<QFileDialog>();
+            auto* dialog = visibleSelection();
             if (dialog == nullptr)
                 return false;
             look(*dialog);
@@ -46,7 +46,7 @@ protected:
     }
     void answerDrop(const char* button) {
         person().then("the question of a drop", [button] {
-            auto* box = visibleWindow<QMessageBox>();
+            auto* box = visibleBox();
             if (box == nullptr)
                 return false;
             click(*namedWidget(*box, QLatin1String(button)));
@@ -171,7 +171,7 @@ TEST_F(ImportTest, FilesOfTheCommandLineComeInAtTheStart) {
 
 TEST_F(ImportTest, LongMessageStaysOnTheScreen) {
     person().then("a long message", [] {
-        auto* box = visibleWindow<QMessageBox>();
+        auto* box = visibleBox();
         if (box == nullptr)
             return false;
         EXPECT_LT(box->height(), 600);

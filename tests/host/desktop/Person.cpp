@@ -59,12 +59,11 @@ void accept(QFileDialog& dialog) {
 
 } // namespace
 
-template <>
-QFileDialog* visibleWindow<QFileDialog>() {
+QFileDialog* visibleSelection() {
     return findVisible<QFileDialog>();
 }
-template <>
-QMessageBox* visibleWindow<QMessageBox>() {
+
+QMessageBox* visibleBox() {
     return findVisible<QMessageBox>();
 }
 
@@ -113,7 +112,7 @@ void Person::then(std::string what, Step step) {
 
 void Person::pickFiles(std::vector<std::string> files, bool advanced, bool append) {
     then("a file selection", [files = std::move(files), advanced, append] {
-        QFileDialog* dialog = findVisible<QFileDialog>();
+        QFileDialog* dialog = visibleSelection();
         if (dialog == nullptr)
             return false;
         setOption(*dialog, "advanced", advanced);
@@ -126,7 +125,7 @@ void Person::pickFiles(std::vector<std::string> files, bool advanced, bool appen
 
 void Person::cancelFileSelection() {
     then("a file selection to cancel", [] {
-        QFileDialog* dialog = findVisible<QFileDialog>();
+        QFileDialog* dialog = visibleSelection();
         if (dialog != nullptr)
             QTest::keyClick(dialog, Qt::Key_Escape);
         return dialog != nullptr;
@@ -135,7 +134,7 @@ void Person::cancelFileSelection() {
 
 void Person::answerBox(QMessageBox::StandardButton button) {
     then("a box", [this, button] {
-        QMessageBox* box = findVisible<QMessageBox>();
+        QMessageBox* box = visibleBox();
         if (box == nullptr || box->button(button) == nullptr)
             return false;
         boxTexts_.push_back(box->text().toStdString());
@@ -147,8 +146,7 @@ void Person::answerBox(QMessageBox::StandardButton button) {
 void Person::inDialog(std::string what, std::function<void(QDialog&)> act) {
     then(std::move(what), [act = std::move(act)] {
         QDialog* dialog = guestDialog();
-        if (dialog == nullptr || findVisible<QMessageBox>() != nullptr ||
-            findVisible<QFileDialog>() != nullptr)
+        if (dialog == nullptr || visibleBox() != nullptr || visibleSelection() != nullptr)
             return false;
         act(*dialog);
         return true;
@@ -169,7 +167,7 @@ void Person::showPage(int index) {
 void Person::clickInDialog(const QString& text, int which) {
     then("\"" + text.toStdString() + "\" to be usable in the dialog", [text, which] {
         QDialog* dialog = guestDialog();
-        if (dialog == nullptr || findVisible<QMessageBox>() != nullptr)
+        if (dialog == nullptr || visibleBox() != nullptr)
             return false;
         QWidget* widget = namedWidget(*dialog, text, which);
         if (widget == nullptr || !widget->isEnabled())

@@ -61,11 +61,11 @@ private:
     bool acting_ = false;
 };
 
-/// The visible top-level window of the kind; null if there is none.
-template <typename Window>
-Window* visibleWindow();
+// The windows that are open; null for none.
 
-/// The guest's dialog; null if none is open.
+QFileDialog* visibleSelection();
+QMessageBox* visibleBox();
+/// The guest's.
 QDialog* guestDialog();
 /// The visible widget of the kind and accessible name, the `which`-th from 0; null if there is
 /// none.

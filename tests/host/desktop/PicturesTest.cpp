@@ -119,7 +119,7 @@ TEST_F(PicturesTest, ShowEachPageOfTheDialog) {
 TEST_F(PicturesTest, ShowTheFileSelection) {
     importSeries(); // its folder is remembered
     person().then("a file selection with files, to be pictured", [this] {
-        auto* dialog = visibleWindow<QFileDialog>();
+        auto* dialog = visibleSelection();
         if (dialog == nullptr || firstFile(*dialog) != QLatin1String("vortex.x"))
             return false;
         take(QStringLiteral("selection"), *dialog);

@@ -1,4 +1,4 @@
-#include "desktop/InsensitiveHints.h"
+#include "desktop/ControlNames.h"
 
 #include <array>
 #include <cstdlib>
@@ -71,6 +71,15 @@ const Control* labelOf(const Dialog& dialog, const Control& control) {
     return nearest;
 }
 
+bool isAround(const Control& frame, const Control& control) {
+    const auto isWithin = [](std::int32_t value, std::int32_t first, std::int32_t length) {
+        return value >= first && value - first < length;
+    };
+    return frame.kind == ControlKind::Frame && frame.parent == control.parent &&
+           isWithin(control.geometry.x, frame.geometry.x, frame.geometry.width) &&
+           isWithin(control.geometry.y, frame.geometry.y, frame.geometry.height);
+}
+
 } // namespace
 
 std::string nameOf(const Dialog& dialog, const Control& control) {
@@ -81,6 +90,16 @@ std::string nameOf(const Dialog& dialog, const Control& control) {
     if (const Control* label = labelOf(dialog, control))
         return label->caption;
     return control.items.empty() || control.kind == ControlKind::List ? "" : control.items.front();
+}
+
+std::string spokenNameOf(const Dialog& dialog, const Control& control) {
+    const std::string name = nameOf(dialog, control);
+    if (!control.caption.empty())
+        return name;
+    for (const Control& frame : dialog.controls)
+        if (isAround(frame, control) && !frame.caption.empty())
+            return frame.caption + ", " + name;
+    return name;
 }
 
 QString hintFor(const std::string& name) {

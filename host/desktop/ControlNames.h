@@ -12,6 +12,10 @@ namespace quorvia::host {
 /// first item.
 std::string nameOf(const Dialog& dialog, const Control& control);
 
+/// The same for people who hear the dialog rather than see it: a control that has its name from a
+/// label is told with the frame around it, since labels such as "Start:" come more than once.
+std::string spokenNameOf(const Dialog& dialog, const Control& control);
+
 /// Why the user can't use a control of this name while it is not sensitive.
 QString hintFor(const std::string& name);
 
