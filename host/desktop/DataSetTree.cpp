@@ -72,7 +72,7 @@ DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
     setUniformRowHeights(true); // quick with thousands of zones
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(kDetails, QHeaderView::Stretch);
-    constexpr int kNameLetters = 44;
+    constexpr int kNameLetters = 50;
     constexpr int kNumberLetters = 14;
     const int letter = fontMetrics().averageCharWidth();
     setColumnWidth(kName, kNameLetters * letter);
@@ -109,6 +109,7 @@ QTreeWidgetItem* DataSetTree::addItem(QTreeWidgetItem* parent, const QString& na
                                       const QString& details) {
     auto* item = new QTreeWidgetItem(parent);
     item->setText(kName, name);
+    item->setToolTip(kName, name); // names of boundary zones are longer than any column
     item->setText(kDetails, details);
     for (const int column : {kMinimum, kMaximum})
         item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -12,6 +13,9 @@
 
 namespace quorvia::host {
 namespace {
+
+constexpr bool kInPlace = false; // of the data set that is there, rather than appended
+constexpr int kAllSteps = 40;
 
 /// A series of files that takes a long time to load.
 class InterruptionTest : public DesktopTest {
@@ -28,19 +32,21 @@ protected:
             std::this_thread::sleep_for(std::chrono::milliseconds(state.open ? 20 : 0));
         };
     }
-    void pickSeries(bool append = false) {
+    void pickSeries(bool append = kInPlace, int steps = kAllSteps) {
         slowDown();
         std::vector<std::string> names = {"vortex.x"};
-        for (int step = 0; step < 40; ++step)
+        for (int step = 0; step < steps; ++step)
             names.push_back("vortex_t" + std::to_string(step / 4) + "." +
                             std::to_string(step % 4 * 25) + (step % 4 == 0 ? "0" : "") + ".q");
         constexpr bool kWithoutDialog = false;
         person().pickFiles(files(names), kWithoutDialog, append);
     }
-    void whenProgressShows(const std::function<void(ProgressWindow&)>& act) {
-        person().then("the progress window", [this, act] {
+    /// Once its text contains `text`.
+    void whenProgressShows(const std::function<void(ProgressWindow&)>& act, const char* text = "") {
+        person().then("the progress window", [this, act, text] {
             ProgressWindow& progress = window().session().progressWindow();
-            if (!progress.isVisible())
+            if (!progress.isVisible() ||
+                !progress.findChild<QLabel*>()->text().contains(QLatin1String(text)))
                 return false;
             act(progress);
             return true;
@@ -71,11 +77,35 @@ TEST_F(InterruptionTest, EscapeStopsALongLoad) {
 TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
     import({"vortex.x", "vortex_t0.25.q"});
     constexpr bool kAppend = true;
-    pickSeries(kAppend);
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    constexpr int kFewSteps = 9;
+    pickSeries(kAppend, kFewSteps);
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
+                      "Setting up Zone");
+    person().answerBox();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
     EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.25.q:1");
+}
+
+TEST_F(InterruptionTest, ReplacementThatIsCancelledEarlyLeavesTheDataSetThatWasThere) {
+    import({"vortex.x", "vortex_t0.25.q"});
+    pickSeries();
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
+}
+
+TEST_F(InterruptionTest, ReplacementThatIsCancelledAmongItsZonesLeavesNoDataSet) {
+    import({"vortex.x", "vortex_t0.25.q"});
+    constexpr int kFewSteps = 9;
+    pickSeries(kInPlace, kFewSteps);
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
+                      "Setting up Zone");
+    person().answerBox();
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(person().boxTexts(), std::vector<std::string>{"Plot3D Data load interrupted"});
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: no data set"));
+    EXPECT_EQ(window().tree().dataSet(), nullptr);
 }
 
 TEST_F(InterruptionTest, NextLoadIsNotStopped) {
