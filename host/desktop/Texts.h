@@ -1,6 +1,7 @@
 // Texts of the host, UTF-8 as files brought them, as a window shows them.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include <QString>
