@@ -11,7 +11,8 @@
 namespace quorvia::host {
 
 MemoryLedger::~MemoryLedger() {
-    blocks_.forEach([](void* address) { Free()(headOf(address)); });
+    for (const void* address : blocks_)
+        Free()(headOf(address));
 }
 
 char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::string_view label) {
@@ -23,7 +24,7 @@ char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::st
         return nullptr;
     new (head.get()) Head{origin, keep(label), serials_.next(), byteCount};
     void* const address = head.get() + 1;
-    blocks_.add(address);
+    blocks_.insert(address);
     static_cast<void>(head.release()); // the table's from now on
     return static_cast<char*>(address);
 }
@@ -46,20 +47,19 @@ std::size_t MemoryLedger::keep(std::string_view label) {
 }
 
 bool MemoryLedger::giveBack(const void* address) {
-    void* const given = blocks_.remove(address);
-    if (given == nullptr)
+    if (blocks_.erase(address) == 0)
         return false;
-    Free()(headOf(given));
+    Free()(headOf(address));
     return true;
 }
 
 std::vector<HeldBlock> MemoryLedger::heldSince(std::int64_t serial) const {
     std::vector<HeldBlock> held;
-    blocks_.forEach([&](void* address) {
+    for (const void* address : blocks_) {
         const Head& head = *headOf(address);
         if (head.serial > serial)
             held.push_back({head.origin, labels_[head.label], head.byteCount});
-    });
+    }
     return held;
 }
 

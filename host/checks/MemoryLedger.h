@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "checks/AddressTable.h"
+#include <tsl/robin_set.h>
+
 #include "checks/HandleRegistry.h"
 
 namespace quorvia::host {
@@ -34,8 +35,8 @@ public:
     /// False: the host has no such block; nothing is touched.
     bool giveBack(const void* address);
 
-    bool contains(const void* address) const { return blocks_.contains(address); }
-    std::int64_t count() const { return blocks_.count(); }
+    bool contains(const void* address) const { return blocks_.count(address) != 0; }
+    std::int64_t count() const { return static_cast<std::int64_t>(blocks_.size()); }
     std::vector<HeldBlock> heldSince(std::int64_t serial) const;
 
 private:
@@ -48,13 +49,21 @@ private:
     struct Free {
         void operator()(Head* head) const;
     };
+    /// Blocks begin at multiples of 16.
+    struct AddressHash {
+        std::size_t operator()(const void* address) const {
+            return reinterpret_cast<std::uintptr_t>(address) / 16;
+        }
+    };
     /// `address` is one in blocks_.
-    static Head* headOf(void* address) { return static_cast<Head*>(address) - 1; }
+    static Head* headOf(const void* address) {
+        return static_cast<Head*>(const_cast<void*>(address)) - 1;
+    }
     /// The place of the label in labels_.
     std::size_t keep(std::string_view label);
 
     SerialSource& serials_;
-    AddressTable blocks_;             // where they begin for the guest, behind their heads
+    tsl::robin_set<const void*, AddressHash> blocks_; // where they begin for the guest
     std::vector<std::string> labels_; // a guest has few, and uses them over and over
 };
 

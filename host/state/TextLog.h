@@ -1,7 +1,8 @@
 // Texts in the order in which they came. A load of a long series shows a text for each of its
-// fields, so that they stand in one block rather than in one each.
+// fields, so that many stand in a block; blocks are never copied into larger ones.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -12,24 +13,37 @@ namespace quorvia::host {
 class TextLog {
 public:
     void add(std::string_view text) {
-        characters_ += text;
-        ends_.push_back(characters_.size());
+        constexpr std::size_t leastCapacity = 32 * 1024;
+        if (blocks_.empty() || blocks_.back().room() < text.size())
+            blocks_.emplace_back().characters.reserve(std::max(leastCapacity, text.size()));
+        Block& block = blocks_.back();
+        block.characters += text;
+        block.ends.push_back(block.characters.size());
+        ++count_;
     }
-    std::size_t count() const { return ends_.size(); }
+    std::size_t count() const { return count_; }
     std::vector<std::string> texts() const {
         std::vector<std::string> all;
-        all.reserve(ends_.size());
-        std::size_t start = 0;
-        for (const std::size_t end : ends_) {
-            all.push_back(characters_.substr(start, end - start));
-            start = end;
+        all.reserve(count_);
+        for (const Block& block : blocks_) {
+            std::size_t start = 0;
+            for (const std::size_t end : block.ends) {
+                all.push_back(block.characters.substr(start, end - start));
+                start = end;
+            }
         }
         return all;
     }
 
 private:
-    std::string characters_;
-    std::vector<std::size_t> ends_; // of each text in characters_
+    struct Block {
+        std::string characters;
+        std::vector<std::size_t> ends; // of each text in `characters`
+        std::size_t room() const { return characters.capacity() - characters.size(); }
+    };
+
+    std::vector<Block> blocks_;
+    std::size_t count_ = 0;
 };
 
 } // namespace quorvia::host
