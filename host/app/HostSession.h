@@ -1,5 +1,5 @@
 // What every command of the program needs of the reference host: the one host for the length of a
-// run, tied to the console, and the add-on that lies beside the program.
+// run, tied to the console.
 #pragma once
 
 #include <cstdint>
@@ -23,9 +23,5 @@ public:
 
     ReferenceHost& host() const { return ReferenceHost::instance(); }
 };
-
-/// The library to open: `asGiven`, or if that is empty the one that was built with the program. As
-/// a path of a file: a name without a directory would be searched among the system's libraries.
-std::string addOnPath(const std::string& asGiven);
 
 } // namespace quorvia::host

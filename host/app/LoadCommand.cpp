@@ -13,6 +13,7 @@
 #include "describe/Json.h"
 #include "describe/Table.h"
 #include "session/AddOnLibrary.h"
+#include "session/AddOnPath.h"
 #include "session/ReferenceHost.h"
 
 namespace quorvia::host {

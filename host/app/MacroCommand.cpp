@@ -17,6 +17,7 @@
 #include "describe/Json.h"
 #include "describe/Table.h"
 #include "describe/TextGrid.h"
+#include "session/AddOnPath.h"
 
 namespace quorvia::host {
 namespace {

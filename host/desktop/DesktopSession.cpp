@@ -5,7 +5,6 @@
 #include "describe/GatherOutcome.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
-#include "state/HostState.h"
 
 namespace quorvia::host {
 namespace {
@@ -78,9 +77,9 @@ void DesktopSession::openAddOn(const std::string& path,
 
 void DesktopSession::readLoader() {
     loader_.reset();
-    if (host().state().loaders.empty())
+    if (host().loaders().empty())
         return;
-    const Loader& loader = host().state().loaders.back();
+    const Loader& loader = host().loaders().back();
     loader_ = LoaderTraits_s{loader.name, loader.fileNameExtensions, loader.allowsSeveralFiles,
                              loader.allowsAdvancedOptions, loader.allowsAppending};
 }

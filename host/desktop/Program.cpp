@@ -7,10 +7,10 @@
 
 #include <QApplication>
 
-#include "desktop/AddOnPath.h"
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopStyle.h"
 #include "desktop/MainWindow.h"
+#include "session/AddOnPath.h"
 
 namespace quorvia::host {
 namespace {
@@ -39,7 +39,7 @@ int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
     QApplication::setStyle(new DesktopStyle);
-    MainWindow window(desktopAddOnPath(arguments.addOnPath), wholePaths(arguments.files));
+    MainWindow window(addOnPath(arguments.addOnPath), wholePaths(arguments.files));
     window.show();
     const int code = QApplication::exec();
     for (const std::string& violation : window.session().takeViolations())

@@ -24,10 +24,17 @@ void TaskNode::end() {
     siblings.erase(std::remove_if(siblings.begin(), siblings.end(), isThis), siblings.end());
 }
 
+// A task that never tells its steps, and has no sub-tasks, takes as many as it weighs.
+std::int64_t TaskNode::expectedSteps() const {
+    const bool isWhole = subTasks_.empty() && endedWeight_ == 0;
+    return stepCount_ == 0 && isWhole ? weight_ : stepCount_;
+}
+
 double TaskNode::fraction() const {
-    double whole = static_cast<double>(stepCount_) + static_cast<double>(endedWeight_);
+    const std::int64_t expected = expectedSteps();
+    double whole = static_cast<double>(expected) + static_cast<double>(endedWeight_);
     double done =
-        static_cast<double>(std::min(steps_, stepCount_)) + static_cast<double>(endedWeight_);
+        static_cast<double>(std::min(steps_, expected)) + static_cast<double>(endedWeight_);
     for (const std::shared_ptr<TaskNode>& subTask : subTasks_) {
         whole += static_cast<double>(subTask->weight_);
         done += static_cast<double>(subTask->weight_) * subTask->fraction();

@@ -26,6 +26,8 @@ public:
     double fraction() const;
 
 private:
+    std::int64_t expectedSteps() const;
+
     TaskNode* parent_; // null for the top task, and once the parent has ended
     std::int64_t weight_;
     std::int64_t stepCount_ = 0;

@@ -95,6 +95,10 @@ std::int64_t ReferenceHost::fetchedBytes() const {
     return state_.cache.bytesInMemory();
 }
 
+const std::vector<Loader>& ReferenceHost::loaders() const {
+    return state_.loaders;
+}
+
 std::vector<std::string> ReferenceHost::loaderNames() const {
     std::vector<std::string> names;
     for (const Loader& loader : state_.loaders)

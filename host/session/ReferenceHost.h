@@ -13,6 +13,7 @@
 #include "model/Frame.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
+#include "state/Loader.h"
 #include "toolkit/ScriptedUser.h"
 #include "toolkit/Toolkit.h"
 
@@ -61,7 +62,8 @@ public:
 
     // ---- What the user does ---------------------------------------------------------------------
 
-    /// Names of the registered loaders, in order.
+    /// The registered loaders, in order; an import goes to the last one.
+    const std::vector<Loader>& loaders() const;
     std::vector<std::string> loaderNames() const;
     /// Hands `files` to the loader registered last, as the import menu does.
     LoadResult importSelection(const std::vector<std::string>& files, bool advanced, bool append);
@@ -74,7 +76,8 @@ public:
     ScriptedUser& script();
     /// The dialogs that guests have made.
     const Toolkit& toolkit() const;
-    /// Of the scripted user: answers to the questions to come, in order; once they are used up, `afterwards` answers all.
+    /// Of the scripted user: answers to the questions to come, in order; once they are used up,
+    /// `afterwards` answers all.
     void setAnswers(std::deque<bool> answers, bool afterwards);
     /// What the scripted user picks in file dialogs, one entry for each; none left means Cancel.
     void setFileChoices(std::deque<std::vector<std::string>> choices);

@@ -14,21 +14,11 @@
 #include "model/Frame.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
+#include "state/Loader.h"
 #include "toolkit/ScriptedUser.h"
 #include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
-
-/// A registered data loader.
-struct Loader {
-    std::string name;
-    std::string fileNameExtensions;
-    bool allowsSeveralFiles = false;
-    bool allowsAdvancedOptions = false;
-    bool allowsAppending = false;
-    QuorLoaderCallback load = nullptr;
-    QuorLoaderSelectedCallback select = nullptr;
-};
 
 struct HostState {
     HostSettings settings;

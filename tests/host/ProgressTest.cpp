@@ -88,6 +88,15 @@ TEST_F(ProgressFractionTest, SubTasksTakeTheirWeight) {
     EXPECT_DOUBLE_EQ(seen_.fraction, 0.75);
 }
 
+TEST_F(ProgressFractionTest, SubTaskThatTellsNoStepsTakesAsManyAsItWeighs) {
+    bar_->setStepCount(0);
+    std::unique_ptr<TaskProgress> subTask;
+    bar_->createSubTask(subTask, 5);
+    subTask->step();
+    subTask->stepWithMessage("two of five");
+    EXPECT_DOUBLE_EQ(seen_.fraction, 0.4);
+}
+
 TEST_F(ProgressFractionTest, NeverGoesBack) {
     bar_->step();
     EXPECT_DOUBLE_EQ(seen_.fraction, 0.5);

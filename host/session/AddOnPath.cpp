@@ -1,10 +1,10 @@
-#include "desktop/AddOnPath.h"
+#include "session/AddOnPath.h"
 
 #include <filesystem>
 
 namespace quorvia::host {
 
-std::string desktopAddOnPath(const std::string& asGiven) {
+std::string addOnPath(const std::string& asGiven) {
     if (!asGiven.empty())
         return std::filesystem::absolute(asGiven).string();
     std::error_code error;
