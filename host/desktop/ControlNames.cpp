@@ -1,11 +1,10 @@
 #include "desktop/ControlNames.h"
 
 #include <array>
-#include <cstdlib>
-#include <limits>
 #include <string_view>
 
 #include "desktop/Texts.h"
+#include "toolkit/FieldNames.h"
 
 namespace quorvia::host {
 namespace {
@@ -41,45 +40,6 @@ constexpr std::array kHints = {
     Hint_s{"Data Structure:", kFoundByTrial},
 };
 
-/// How far the label is from the control that it may name, in layout units; large for one that
-/// stands elsewhere.
-std::int32_t distance(const Control& label, const Control& control) {
-    constexpr std::int32_t kSameLine = 60;
-    constexpr std::int32_t kLineAbove = 200;
-    constexpr std::int32_t kIndent = 300;
-    const std::int32_t right = control.geometry.x - label.geometry.x;
-    const std::int32_t down = control.geometry.y - label.geometry.y;
-    if (std::abs(down) <= kSameLine && right > 0)
-        return right;
-    if (down > 0 && down <= kLineAbove && std::abs(right) <= kIndent)
-        return down;
-    return std::numeric_limits<std::int32_t>::max();
-}
-
-const Control* labelOf(const Dialog& dialog, const Control& control) {
-    const Control* nearest = nullptr;
-    std::int32_t least = std::numeric_limits<std::int32_t>::max();
-    for (const Control& label : dialog.controls) {
-        if (label.kind != ControlKind::Label || label.parent != control.parent)
-            continue;
-        const std::int32_t away = distance(label, control);
-        if (away < least) {
-            nearest = &label;
-            least = away;
-        }
-    }
-    return nearest;
-}
-
-bool isAround(const Control& frame, const Control& control) {
-    const auto isWithin = [](std::int32_t value, std::int32_t first, std::int32_t length) {
-        return value >= first && value - first < length;
-    };
-    return frame.kind == ControlKind::Frame && frame.parent == control.parent &&
-           isWithin(control.geometry.x, frame.geometry.x, frame.geometry.width) &&
-           isWithin(control.geometry.y, frame.geometry.y, frame.geometry.height);
-}
-
 } // namespace
 
 std::string nameOf(const Dialog& dialog, const Control& control) {
@@ -96,10 +56,8 @@ std::string spokenNameOf(const Dialog& dialog, const Control& control) {
     const std::string name = nameOf(dialog, control);
     if (!control.caption.empty())
         return name;
-    for (const Control& frame : dialog.controls)
-        if (isAround(frame, control) && !frame.caption.empty())
-            return frame.caption + ", " + name;
-    return name;
+    const Control* frame = frameAround(dialog, control);
+    return frame != nullptr && !frame->caption.empty() ? frame->caption + ", " + name : name;
 }
 
 QString hintFor(const std::string& name) {

@@ -1,12 +1,36 @@
 #include "toolkit/FieldNames.h"
 
+#include <cstdint>
 #include <cstdlib>
+#include <limits>
 
 namespace quorvia::host {
 
 namespace {
 
-constexpr std::int32_t lineHeight = 144; // layout units
+constexpr std::int32_t elsewhere = std::numeric_limits<std::int32_t>::max();
+
+/// How far the label is from the control that it may name, in layout units.
+std::int32_t distance(const Geometry& label, const Geometry& control) {
+    constexpr std::int32_t sameLine = 60;
+    constexpr std::int32_t lineAbove = 200;
+    constexpr std::int32_t indent = 300;
+    const std::int32_t right = control.x - label.x;
+    const std::int32_t down = control.y - label.y;
+    if (std::abs(down) <= sameLine && right > 0)
+        return right;
+    if (down > 0 && down <= lineAbove && std::abs(right) <= indent)
+        return down;
+    return elsewhere;
+}
+
+bool isWithin(std::int32_t value, std::int32_t first, std::int32_t length) {
+    return value >= first && value - first < length;
+}
+
+bool contains(const Geometry& frame, const Geometry& inner) {
+    return isWithin(inner.x, frame.x, frame.width) && isWithin(inner.y, frame.y, frame.height);
+}
 
 std::string withoutMarks(const std::string& caption) {
     std::string name = caption.substr(0, caption.find_first_of("(:"));
@@ -15,49 +39,38 @@ std::string withoutMarks(const std::string& caption) {
     return name;
 }
 
-bool isInLineBefore(const Geometry& label, const Geometry& field) {
-    return std::abs(label.y - field.y) <= lineHeight / 2 && label.x < field.x;
-}
-
-bool isJustAbove(const Geometry& label, const Geometry& field) {
-    return label.y < field.y && field.y - label.y <= lineHeight && label.x < field.x + field.width;
-}
-
-bool contains(const Geometry& frame, const Geometry& inner) {
-    return inner.x >= frame.x && inner.x < frame.x + frame.width && inner.y >= frame.y &&
-           inner.y < frame.y + frame.height;
-}
-
 } // namespace
 
-std::string labelOf(const Dialog& dialog, const Control& field) {
-    const Control* beside = nullptr;
-    const Control* above = nullptr;
+const Control* labelOf(const Dialog& dialog, const Control& control) {
+    const Control* nearest = nullptr;
+    std::int32_t least = elsewhere;
     for (const Control& label : dialog.controls) {
-        if (label.kind != ControlKind::Label || label.parent != field.parent)
+        if (label.kind != ControlKind::Label || label.parent != control.parent)
             continue;
-        if (isInLineBefore(label.geometry, field.geometry)) {
-            if (beside == nullptr || label.geometry.x > beside->geometry.x)
-                beside = &label;
-        } else if (isJustAbove(label.geometry, field.geometry)) {
-            above = &label;
+        const std::int32_t away = distance(label.geometry, control.geometry);
+        if (away < least) {
+            nearest = &label;
+            least = away;
         }
     }
-    const Control* nearest = beside != nullptr ? beside : above;
-    return nearest != nullptr ? withoutMarks(nearest->caption) : "";
+    return nearest;
 }
 
-std::string frameOf(const Dialog& dialog, const Control& control) {
+const Control* frameAround(const Dialog& dialog, const Control& control) {
     for (const Control& frame : dialog.controls)
         if (frame.kind == ControlKind::Frame && frame.parent == control.parent &&
             contains(frame.geometry, control.geometry))
-            return frame.caption;
-    return "";
+            return &frame;
+    return nullptr;
 }
 
-bool isCalled(const Dialog& dialog, const Control& field, const std::string& name) {
-    const std::string label = labelOf(dialog, field);
-    return !label.empty() && (name == label || name == frameOf(dialog, field) + ' ' + label);
+bool isCalled(const Dialog& dialog, const Control& control, const std::string& name) {
+    const Control* label = labelOf(dialog, control);
+    if (label == nullptr)
+        return false;
+    const std::string labelName = withoutMarks(label->caption);
+    const Control* frame = frameAround(dialog, control);
+    return name == labelName || (frame != nullptr && name == frame->caption + ' ' + labelName);
 }
 
 } // namespace quorvia::host

@@ -1,4 +1,4 @@
-// What people call a text field, which has no caption of its own: the label beside or above it, and
+// What people call a control that has no caption of its own: by the label beside or above it, and
 // the frame around it.
 #pragma once
 
@@ -8,15 +8,14 @@
 
 namespace quorvia::host {
 
-/// The caption of the nearest label to the left in the same line, else of the one just above,
-/// without its colon and what stands in brackets, such as "Start" or "Name File". Empty if there is
-/// neither.
-std::string labelOf(const Dialog& dialog, const Control& field);
+/// The nearest label in the same line to the left, or just above; null if there is none.
+const Control* labelOf(const Dialog& dialog, const Control& control);
 
-/// The caption of the frame in which the control begins, such as "I-Index"; empty if there is none.
-std::string frameOf(const Dialog& dialog, const Control& control);
+/// The frame in which the control begins; null if there is none.
+const Control* frameAround(const Dialog& dialog, const Control& control);
 
-/// Whether people mean the field by `name`: its label, or frame and label with a blank between.
-bool isCalled(const Dialog& dialog, const Control& field, const std::string& name);
+/// Whether people mean the control by `name`: its label without the colon and what stands in
+/// brackets, such as "Name File", or frame and label with a blank between, such as "I-Index Start".
+bool isCalled(const Dialog& dialog, const Control& control, const std::string& name);
 
 } // namespace quorvia::host
