@@ -56,8 +56,8 @@ bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char*
     if (name == nullptr || dialogKind != 0 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *name = nullptr;
-    const std::vector<std::string> choice = chosenFiles(
-        call, {false, typeWord, defaultName != nullptr ? defaultName : "", filter});
+    const std::vector<std::string> choice =
+        chosenFiles(call, {false, typeWord, defaultName != nullptr ? defaultName : "", filter});
     if (choice.empty())
         return call.result(false);
     *name = call.host().memory.copyText(call.operation(), choice.front());

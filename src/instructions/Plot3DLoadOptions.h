@@ -1,6 +1,7 @@
 // The one record that says everything about one load: which files, how they are organised, which
-// part of each grid is wanted, how the zones are tied into strands. Filled by the instruction parser
-// or the dialog, changed by the load, written back as instructions. See docs/instructions.md.
+// part of each grid is wanted, how the zones are tied into strands. Filled by the instruction
+// parser or the dialog, changed by the load, written back as instructions. See
+// docs/instructions.md.
 #pragma once
 
 #include <cstdint>
@@ -22,8 +23,8 @@ struct Plot3DIndexRange_s {
 };
 
 /// The constructor makes the lists, strings and the map, and leaves all else undefined: a record is
-/// not usable until setLoadOptionDefaults has run. A copy shares the `gridSet` handle, so exactly one
-/// of the two may be released; destroying a record does not release it.
+/// not usable until setLoadOptionDefaults has run. A copy shares the `gridSet` handle, so exactly
+/// one of the two may be released; destroying a record does not release it.
 struct Plot3DLoadOptions_s {
     Plot3DLoadOptions_s() {} // leaves flags and ranges undefined on purpose, see above
 
@@ -71,8 +72,8 @@ Plot3DIndexRange_s resolveIndexRange(Plot3DIndexRange_s range, std::int32_t n);
 /// Whether `gridSet` selects the grid with this number, counted from 1: null and empty select all.
 bool isGridSelected(QuorSetHandle gridSet, std::int64_t gridNumber);
 
-/// Whether all grid files of the load have one structure: the option says so, or there is exactly one
-/// grid file.
+/// Whether all grid files of the load have one structure: the option says so, or there is exactly
+/// one grid file.
 bool hasUniformGrids(const Plot3DLoadOptions_s& options);
 
 /// Whether the load has exactly one grid file.

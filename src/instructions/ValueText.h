@@ -17,16 +17,19 @@ constexpr std::int32_t wholeStrings = std::numeric_limits<std::int32_t>::max();
 int compareNoCase(const char* a, const char* b, std::int32_t limit = wholeStrings);
 
 /// Whether two words are the same, whatever their case.
-inline bool isSameWord(const char* a, const char* b) { return compareNoCase(a, b) == 0; }
+inline bool isSameWord(const char* a, const char* b) {
+    return compareNoCase(a, b) == 0;
+}
 
 /// Reads blanks, an optional minus sign and at most ten digits, and moves the cursor behind them.
 /// False: no digit, or more than ten; `value` keeps what it held, negated if a sign was read, so it
 /// must come in initialised.
 bool readSignedInteger(const char*& cursor, std::int64_t& value);
 
-/// Reads items `first`, `first-last` or `first-last:skip`, separated by commas and blanks, into a new
-/// host set. An empty text gives an empty set. False: bad text or no memory; `set` is null then.
-/// `withBrackets`: the text stands in brackets, and what follows the closing one is not looked at.
+/// Reads items `first`, `first-last` or `first-last:skip`, separated by commas and blanks, into a
+/// new host set. An empty text gives an empty set. False: bad text or no memory; `set` is null
+/// then. `withBrackets`: the text stands in brackets, and what follows the closing one is not
+/// looked at.
 bool parseSetText(const char* text, HostSet& set, bool withBrackets);
 
 /// Plain decimal digits, with a minus sign if negative.

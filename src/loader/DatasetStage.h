@@ -1,4 +1,5 @@
-// Creates the host's data set or extends the one that is there, and takes back what it can on failure.
+// Creates the host's data set or extends the one that is there, and takes back what it can on
+// failure.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +11,8 @@ namespace quorvia::quorutildataio {
 /// The weight of the dataset stage on the progress bar: variables times zones, or times K planes.
 std::int64_t estimateLoadWork(const Plot3DLoadContext_s& context);
 
-/// Runs the stage. False: it failed or was interrupted, which has been told, and the host's data set
-/// has been cleaned up: a fresh load leaves an empty frame.
+/// Runs the stage. False: it failed or was interrupted, which has been told, and the host's data
+/// set has been cleaned up: a fresh load leaves an empty frame.
 bool createDatasetAndZones(Plot3DLoadContext_s& context);
 
 } // namespace quorvia::quorutildataio

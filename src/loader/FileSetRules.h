@@ -18,14 +18,12 @@ bool checkFileListGridCounts(const Plot3DFileList& gridFiles, const Plot3DFileLi
                              const Plot3DFileList& functionFiles);
 
 /// The numbers of grids in all files, under a uniform grid structure.
-bool checkUniformGridStructure(const Plot3DFileList& gridFiles,
-                               const Plot3DFileList& solutionFiles,
+bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFileList& solutionFiles,
                                const Plot3DFileList& functionFiles);
 
 /// Makes the time steps. False: a file stands in the wrong list (told), or no memory (not told).
 bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileList& gridFiles,
-                           const Plot3DFileList& solutionFiles,
-                           const Plot3DFileList& functionFiles,
+                           const Plot3DFileList& solutionFiles, const Plot3DFileList& functionFiles,
                            std::vector<Plot3DFileHandler>& handlers);
 
 /// Dimensions of the files of each time step, of the first alone if `uniformGridStructure`.

@@ -6,9 +6,10 @@
 namespace quorvia::quorutildataio {
 
 /// Examines the files, pairs them into time steps, creates or extends the host's data set and hands
-/// the host the instructions that repeat the load. `fromSelection`: the user chose the files, rather
-/// than the host handing over instructions. Changes `options` as the load settles them. False: the
-/// load failed; the user has been told, except of an interruption while headers are examined.
+/// the host the instructions that repeat the load. `fromSelection`: the user chose the files,
+/// rather than the host handing over instructions. Changes `options` as the load settles them.
+/// False: the load failed; the user has been told, except of an interruption while headers are
+/// examined.
 bool loadPlot3DData(bool fromSelection, Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

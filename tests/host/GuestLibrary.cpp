@@ -1,5 +1,5 @@
-// The guest as an add-on library. Its copy of the loader stays its own: the names are hidden, those of
-// the host are not.
+// The guest as an add-on library. Its copy of the loader stays its own: the names are hidden, those
+// of the host are not.
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorUtilityLibrary.h"
 

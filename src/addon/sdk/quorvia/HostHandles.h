@@ -1,6 +1,6 @@
-// Small owning types for what the host hands out, so that an early return can't leak a string, list,
-// set, argument list or array. Each holds one handle or null, is movable and not copyable, and gives
-// the handle back through the host when it ends.
+// Small owning types for what the host hands out, so that an early return can't leak a string,
+// list, set, argument list or array. Each holds one handle or null, is movable and not copyable,
+// and gives the handle back through the host when it ends.
 #pragma once
 
 #include <cstdint>
@@ -59,10 +59,11 @@ class HostString : public HostOwned<char*, QuorUtilStringDealloc> {
 public:
     using HostOwned::HostOwned;
 
-    /// A copy of `text`; null if the host has no memory. The label of every such string is the same.
+    /// A copy of `text`; null if the host has no memory. The label of every such string is the
+    /// same.
     static HostString copyOf(std::string_view text) {
-        HostString copy(QuorUtilStringAlloc(static_cast<std::int64_t>(text.size()) + 1,
-                                            "new string"));
+        HostString copy(
+            QuorUtilStringAlloc(static_cast<std::int64_t>(text.size()) + 1, "new string"));
         if (copy) {
             std::memcpy(copy.get(), text.data(), text.size());
             copy.get()[text.size()] = '\0';
@@ -90,8 +91,8 @@ public:
         HostArray array;
         if (count < 0 || count > std::numeric_limits<std::int64_t>::max() / width)
             return array;
-        array.block_ = HostOwned<char*, QuorUtilStringDealloc>(
-            QuorUtilStringAlloc(count * width, label));
+        array.block_ =
+            HostOwned<char*, QuorUtilStringDealloc>(QuorUtilStringAlloc(count * width, label));
         array.count_ = array.block_ ? count : 0;
         return array;
     }

@@ -9,20 +9,21 @@
 // - Handles are opaque. An operation named ...Dealloc takes its handle by reference, gives it back
 //   and stores null in it; giving back null is allowed and does nothing.
 // - "Borrowed" means that the callee may use the argument for the call only.
-// - Unless it says otherwise an operation may be called only while the add-on holds the host's lock.
+// - Unless it says otherwise an operation may be called only while the add-on holds the host's
+// lock.
 // - No operation throws, save those that say so; a failure is a false or null result, and the host
 //   keeps its own text of it for QuorUtilPostLastErrorMessage.
 #pragma once
 
 #include <cstdint>
 
-using QuorAddOnHandle = struct QuorAddOn_s*;         // an add-on's identity; lives until unload
+using QuorAddOnHandle = struct QuorAddOn_s*;           // an add-on's identity; lives until unload
 using QuorStringListHandle = struct QuorStringList_s*; // a list of strings, from 1
-using QuorArgListHandle = struct QuorArgList_s*;     // named arguments of the ...X operations
-using QuorSetHandle = struct QuorSet_s*;             // a set of numbers from 1 to 2147483647
-using QuorFieldHandle = struct QuorField_s*;         // one field, for reading or writing its values
-using QuorNodeMapHandle = struct QuorNodeMap_s*;     // the node map of a finite-element zone
-using QuorAuxDataHandle = struct QuorAuxData_s*;     // the auxiliary data of a zone or data set
+using QuorArgListHandle = struct QuorArgList_s*;       // named arguments of the ...X operations
+using QuorSetHandle = struct QuorSet_s*;               // a set of numbers from 1 to 2147483647
+using QuorFieldHandle = struct QuorField_s*;     // one field, for reading or writing its values
+using QuorNodeMapHandle = struct QuorNodeMap_s*; // the node map of a finite-element zone
+using QuorAuxDataHandle = struct QuorAuxData_s*; // the auxiliary data of a zone or data set
 
 /// The value type of a field. The numbers are the host's.
 enum QuorFieldDataType_e : std::int32_t {
@@ -33,9 +34,9 @@ enum QuorFieldDataType_e : std::int32_t {
 };
 
 enum QuorZoneType_e : std::int32_t {
-    QuorZoneType_Ordered = 0,    // I, J, K are the numbers of points
-    QuorZoneType_Triangles = 1,  // I nodes, J elements, K corners of an element (3)
-    QuorZoneType_Tetrahedra = 3  // I nodes, J elements, K corners of an element (4)
+    QuorZoneType_Ordered = 0,   // I, J, K are the numbers of points
+    QuorZoneType_Triangles = 1, // I nodes, J elements, K corners of an element (3)
+    QuorZoneType_Tetrahedra = 3 // I nodes, J elements, K corners of an element (4)
 };
 
 enum QuorValueLocation_e : std::int32_t {
@@ -153,8 +154,8 @@ void QuorUtilPostLastErrorMessage();
 bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char* typeWord,
                                const char* defaultName, const char* filter);
 
-/// Lets the user choose several files. `dialogKind` is 1, `defaultNames` null. On true `names` holds
-/// a list that the caller gives back.
+/// Lets the user choose several files. `dialogKind` is 1, `defaultNames` null. On true `names`
+/// holds a list that the caller gives back.
 bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* names,
                                 const char* typeWord, QuorStringListHandle defaultNames,
                                 const char* filter);
@@ -168,8 +169,9 @@ void QuorUtilHelp(const char* target, bool goToId, std::int32_t id);
 
 // ---- Memory, strings, lists, sets ---------------------------------------------------------------
 
-/// A block of `byteCount` bytes, aligned for any number, its contents undefined; null if there is no
-/// memory. `label` serves the host's memory accounting and nothing else. The caller gives it back.
+/// A block of `byteCount` bytes, aligned for any number, its contents undefined; null if there is
+/// no memory. `label` serves the host's memory accounting and nothing else. The caller gives it
+/// back.
 char* QuorUtilStringAlloc(std::int64_t byteCount, const char* label);
 void QuorUtilStringDealloc(char** block);
 
@@ -241,10 +243,10 @@ bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t*
 /// "DataSetTitle" (strings), "VarNames" (string list).
 bool QuorUtilDataSetCreateX(QuorArgListHandle arguments);
 
-/// Adds a zone behind the last one; true if it exists afterwards. Keys: "Name" (string), "ZoneType",
-/// "IMax", "JMax", "KMax" (integers; see QuorZoneType_e), "StrandID" (integer, 0 or absent for
-/// none), "SolutionTime" (double), "ParentZone" (integer, a zone number), "ConnectShareZone"
-/// (integer: the zone whose node map it shares), "VarDataType" (array of 32-bit
+/// Adds a zone behind the last one; true if it exists afterwards. Keys: "Name" (string),
+/// "ZoneType", "IMax", "JMax", "KMax" (integers; see QuorZoneType_e), "StrandID" (integer, 0 or
+/// absent for none), "SolutionTime" (double), "ParentZone" (integer, a zone number),
+/// "ConnectShareZone" (integer: the zone whose node map it shares), "VarDataType" (array of 32-bit
 /// QuorFieldDataType_e, one for each variable), "DeferVarCreation" (integer; 1: allocate no field
 /// until one is asked for). The first five are required.
 bool QuorUtilDataSetAddZoneX(QuorArgListHandle arguments);
@@ -297,8 +299,7 @@ void QuorUtilZoneStyleApplyAuto(QuorSetHandle zones);
 
 /// Finds a time in each name of a borrowed list. `times` is the caller's, one entry for each name;
 /// it is filled only on true. False: not every name has a time. The last argument is false.
-bool QuorUtilExtractTimesFromFileNames(QuorStringListHandle names, double* times,
-                                       bool showErrors);
+bool QuorUtilExtractTimesFromFileNames(QuorStringListHandle names, double* times, bool showErrors);
 
 // ---- Field data and connectivity ----------------------------------------------------------------
 
@@ -328,9 +329,9 @@ void QuorUtilDataValueArraySetByRef(QuorFieldHandle field, std::int64_t firstInd
                                     std::int64_t count, const void* values);
 
 /// The host takes the field over for load on demand, in place of storage, sharing or callbacks that
-/// it has. The two null slots are unused. The host owns `clientData` from a true result on and hands
-/// it back in the callbacks until `cleanUp`; on false it stays the caller's, and `cleanUp` is not
-/// called.
+/// it has. The two null slots are unused. The host owns `clientData` from a true result on and
+/// hands it back in the callbacks until `cleanUp`; on false it stays the caller's, and `cleanUp` is
+/// not called.
 bool QuorUtilDataValueCustomLOD(std::int32_t zone, std::int32_t var, QuorFieldLoadCallback load,
                                 QuorFieldUnloadCallback unload, QuorFieldCleanupCallback cleanUp,
                                 QuorFieldValueCallback getValue, QuorFieldValueCallback setValue,
@@ -343,14 +344,13 @@ bool QuorUtilDataValueIsSharingOk(std::int32_t sourceZone, std::int32_t zone, st
 bool QuorUtilDataValueShare(std::int32_t sourceZone, std::int32_t destinationZone,
                             std::int32_t var);
 /// Copies values into storage that QuorUtilDataValueAlloc made; a deferred source is fetched.
-bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone,
-                           std::int32_t var);
+bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone, std::int32_t var);
 
 /// The node map of a finite-element zone, owned by the host; null for an ordered zone.
 QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone);
 /// Element, corner and node count from 1.
-void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element,
-                              std::int32_t corner, std::int64_t node);
+void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, std::int32_t corner,
+                              std::int64_t node);
 
 // ---- Auxiliary data -----------------------------------------------------------------------------
 

@@ -20,8 +20,8 @@ class QUORVIA_HOST_API TaskProgress {
 public:
     virtual ~TaskProgress();
 
-    /// Makes a task that takes a share of this one's bar in proportion to `weight`; gives `subTask`,
-    /// which now owns it. A sub-task must end before its parent.
+    /// Makes a task that takes a share of this one's bar in proportion to `weight`; gives
+    /// `subTask`, which now owns it. A sub-task must end before its parent.
     virtual std::unique_ptr<TaskProgress>& createSubTask(std::unique_ptr<TaskProgress>& subTask,
                                                          std::int64_t weight) = 0;
     virtual void setStepCount(std::int64_t steps) = 0;
@@ -63,7 +63,8 @@ private:
     QuorStringListHandle list_;
 };
 
-/// A UTF-8 path for the platform's wide-character file layer. Bytes that are no UTF-8 become U+FFFD.
+/// A UTF-8 path for the platform's wide-character file layer. Bytes that are no UTF-8 become
+/// U+FFFD.
 QUORVIA_HOST_API std::wstring utf8ToWideString(const std::string& utf8);
 
 /// The user interrupted an operation of the host.
