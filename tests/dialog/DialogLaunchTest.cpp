@@ -4,7 +4,7 @@
 
 #include "addon/LoaderCallbacks.h"
 #include "dialog/LoadDialogFixture.h"
-#include "loader/AllocationFaults.h"
+#include "support/AllocationFaults.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -3,11 +3,11 @@
 #include <new>
 #include <utility>
 
-#include "AllocationFaults.h"
 #include "LoaderFixture.h"
 #include "addon/state/AddOnIdentity.h"
 #include "loader/SolutionTimes.h"
 #include "quorvia/HostHandles.h"
+#include "support/AllocationFaults.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -1,7 +1,7 @@
 // How the files pair up: every rule for g grid, s solution and f function files.
-#include "AllocationFaults.h"
 #include "LoaderFixture.h"
 #include "loader/FileSetRules.h"
+#include "support/AllocationFaults.h"
 
 namespace quorvia::testsupport {
 namespace {

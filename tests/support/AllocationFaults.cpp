@@ -1,4 +1,4 @@
-#include "AllocationFaults.h"
+#include "support/AllocationFaults.h"
 
 #include <cstdlib>
 #include <new>
@@ -26,6 +26,12 @@ void* operator new(std::size_t size) {
     if (void* block = std::malloc(size != 0 ? size : 1))
         return block;
     throw std::bad_alloc();
+}
+
+// Sanitizers have one of their own, which does not lead to ours.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return quorvia::testsupport::cancelAllocationFault() ? nullptr
+                                                         : std::malloc(size != 0 ? size : 1);
 }
 
 void operator delete(void* block) noexcept {
