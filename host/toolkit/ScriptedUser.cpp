@@ -26,6 +26,17 @@ void ScriptedUser::addToScript(std::vector<ScriptEntry> entries) {
         script_.push_back(std::move(entry));
 }
 
+void ScriptedUser::takeLooksLeft() {
+    std::deque<ScriptEntry> others;
+    for (ScriptEntry& entry : script_) {
+        if (const ScriptLook* look = std::get_if<ScriptLook>(&entry))
+            (*look)();
+        else
+            others.push_back(std::move(entry));
+    }
+    script_ = std::move(others);
+}
+
 void ScriptedUser::clearScript() {
     script_.clear();
     problem_.clear();
@@ -38,13 +49,19 @@ ScriptEntry ScriptedUser::takeEntry() {
     return entry;
 }
 
+bool ScriptedUser::isDoneWithoutDialog(ScriptEntry& entry) {
+    if (FileChoice* choice = std::get_if<FileChoice>(&entry))
+        fileChoices_.push_back(std::move(*choice));
+    else if (const ScriptLook* look = std::get_if<ScriptLook>(&entry))
+        (*look)();
+    return !std::holds_alternative<DialogStep>(entry);
+}
+
 DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
     while (!script_.empty()) {
         ScriptEntry entry = takeEntry();
-        if (FileChoice* choice = std::get_if<FileChoice>(&entry)) {
-            fileChoices_.push_back(std::move(*choice));
+        if (isDoneWithoutDialog(entry))
             continue;
-        }
         DialogMove move = std::get<DialogStep>(entry)(dialog);
         if (move.action.has_value() && move.problem.empty())
             move.problem = whyImpossible(dialog, *move.action);

@@ -14,8 +14,7 @@
 
 namespace quorvia::host {
 
-/// What a step makes of the dialog that it finds: an action; nothing, if it only looked; or why it
-/// can't be done.
+/// What a step makes of the dialog that it finds: an action, or why it can't be done.
 struct DialogMove {
     std::optional<DialogAction> action;
     std::string problem;
@@ -28,8 +27,11 @@ using DialogStep = std::function<DialogMove(const Dialog&)>;
 /// Whole paths for the next file chooser; none for Cancel.
 using FileChoice = std::vector<std::string>;
 
+/// Looks at the host where it stands in the script; it needs no dialog.
+using ScriptLook = std::function<void()>;
+
 /// A file choice in a script may stand before the step that opens the chooser or behind it.
-using ScriptEntry = std::variant<DialogStep, FileChoice>;
+using ScriptEntry = std::variant<DialogStep, FileChoice, ScriptLook>;
 
 class ScriptedUser : public User {
 public:
@@ -38,6 +40,8 @@ public:
     void setFileChoices(std::deque<FileChoice> choices);
     /// Behind what is left of the script.
     void addToScript(std::vector<ScriptEntry> entries);
+    /// When no dialog will come any more: the looks that are left are taken.
+    void takeLooksLeft();
     void clearScript();
 
     /// Entries that are still to be played.
@@ -54,6 +58,8 @@ public:
 
 private:
     ScriptEntry takeEntry();
+    /// Does what the entry says if it is no step of a dialog.
+    bool isDoneWithoutDialog(ScriptEntry& entry);
 
     std::deque<bool> answers_;
     bool laterAnswers_ = false;

@@ -54,10 +54,7 @@ protected:
     static host::ScriptEntry pressHelp() { return press(host::DialogButton::Help); }
     /// The test looks, or does something at the host, while the dialog waits for the user.
     static host::ScriptEntry meanwhile(std::function<void()> look) {
-        return host::DialogStep([look = std::move(look)](const host::Dialog&) {
-            look();
-            return host::DialogMove{};
-        });
+        return host::ScriptLook(std::move(look));
     }
 
     /// Launches the dialog before the user, who cancels when the script is played.

@@ -167,10 +167,7 @@ std::vector<ScriptEntry> dialogSteps(const DialogCommand_s& command,
         if (const auto* choose = std::get_if<ChooseAction_s>(&any)) {
             entries.emplace_back(FileChoice(choose->files));
         } else if (const auto* told = std::get_if<DescribeAction_s>(&any)) {
-            entries.emplace_back(DialogStep([name = told->name, describe](const Dialog&) {
-                describe(name);
-                return DialogMove();
-            }));
+            entries.emplace_back(ScriptLook([name = told->name, describe] { describe(name); }));
         } else {
             entries.emplace_back(DialogStep([any, number](const Dialog& dialog) {
                 return std::visit(

@@ -162,6 +162,7 @@ private:
     /// Behind an import that has shown a dialog: what became of the actions for it.
     std::string endDialogScript() {
         ScriptedUser& script = host_.script();
+        script.takeLooksLeft();
         const std::string problem = script.problem();
         std::string account;
         if (script.cancelledDialogs() > 0)

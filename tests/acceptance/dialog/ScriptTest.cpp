@@ -109,6 +109,13 @@ TEST_F(DialogScript, AccountTellsOfActionsThatWereLeft) {
              "loaded, 2 dialog actions were left");
 }
 
+TEST_F(DialogScript, DescribesBehindTheDialogToo) {
+    playAtDialog({grid_}, {press("OK"), toPage(subsetPage), describe("loaded")});
+    EXPECT_EQ(described("loaded")["ok"], true);
+    EXPECT_EQ(described("loaded")["dialog"]["open"], false);
+    EXPECT_EQ(described("loaded")["dataSet"]["zones"].size(), last()["dataSet"]["zones"].size());
+}
+
 TEST_F(DialogScript, NoneAtAllCancelsTheDialog) {
     play({command("select", Json{{"files", {grid_}}, {"advanced", true}})});
     EXPECT_EQ(exitCode_, 1);
