@@ -28,6 +28,8 @@ struct FieldStatistics_s {
     double max = 0;          // likewise
     double mean = 0;         // of all values, so NaN as soon as one is; NaN if there is none
     std::uint32_t crc32 = 0; // over the values as little-endian bytes of the field's type
+
+    friend bool operator==(const FieldStatistics_s&, const FieldStatistics_s&) = default;
 };
 
 struct FieldOutcome_s {
@@ -38,12 +40,16 @@ struct FieldOutcome_s {
     std::int64_t count = 0;                      // values, not bytes
     std::optional<FieldStatistics_s> statistics; // absent if the values were not fetched
     std::optional<std::string> error;            // why a fetch failed
+
+    friend bool operator==(const FieldOutcome_s&, const FieldOutcome_s&) = default;
 };
 
 struct ConnectivityOutcome_s {
     std::int64_t elements = 0;
     std::int64_t corners = 0; // of one element
     std::uint32_t crc32 = 0;  // over the node numbers, from 1, as 32-bit little-endian integers
+
+    friend bool operator==(const ConnectivityOutcome_s&, const ConnectivityOutcome_s&) = default;
 };
 
 /// Name and text of each item, in the order of the names.
@@ -65,6 +71,8 @@ struct ZoneOutcome_s {
     /// Absent in an ordered zone, or if nobody ever wrote to the node map.
     std::optional<ConnectivityOutcome_s> connectivity;
     std::vector<FieldOutcome_s> fields; // one for each variable, in their order
+
+    friend bool operator==(const ZoneOutcome_s&, const ZoneOutcome_s&) = default;
 };
 
 struct DataSetOutcome_s {
@@ -72,6 +80,8 @@ struct DataSetOutcome_s {
     AuxDataItems auxData;
     std::vector<std::string> variables; // names, trailing blanks kept
     std::vector<ZoneOutcome_s> zones;
+
+    friend bool operator==(const DataSetOutcome_s&, const DataSetOutcome_s&) = default;
 };
 
 enum class MessageOutcome_e { Error, Information, Question };

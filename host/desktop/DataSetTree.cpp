@@ -238,6 +238,10 @@ void DataSetTree::showValues(DataSetOutcome_s dataSet) {
     showValuesBelow(invisibleRootItem());
 }
 
+bool DataSetTree::shows(const DataSetOutcome_s& dataSet) const {
+    return dataSet_ && withoutValues(*dataSet_) == dataSet;
+}
+
 // ---- What the user means ------------------------------------------------------------------------
 
 void DataSetTree::addFieldsOfZone(std::int32_t zone, std::vector<FieldAddress_s>& fields) const {

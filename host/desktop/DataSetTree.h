@@ -26,6 +26,9 @@ public:
     /// Takes the statistics of `dataSet`, which is the one shown, some fetches later.
     void showValues(DataSetOutcome_s dataSet);
 
+    /// Whether what is shown looks the same but for values, which `dataSet` does not have.
+    bool shows(const DataSetOutcome_s& dataSet) const;
+
     /// Null if nothing is shown.
     const DataSetOutcome_s* dataSet() const { return dataSet_ ? &*dataSet_ : nullptr; }
     std::vector<FieldAddress_s> allFields() const;

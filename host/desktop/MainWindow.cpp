@@ -183,10 +183,12 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
                    : outcome.result.ok        ? QStringLiteral("Imported: %1")
                                               : QStringLiteral("Nothing was imported: %1");
     what = what.arg(sizeText(outcome.dataSet));
-    if (outcome.dataSet)
-        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
-    else
+    // What an import has left alone keeps its ranges, and what was opened in the tree stays open.
+    const bool isAsBefore = !outcome.result.ok && outcome.dataSet && tree_->shows(*outcome.dataSet);
+    if (!outcome.dataSet)
         tree_->showNothing();
+    else if (!isAsBefore)
+        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
     workEnded(what);
     if (!outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);

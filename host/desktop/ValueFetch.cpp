@@ -77,4 +77,14 @@ FetchEnd_e fetchFields(ReferenceHost& host, DataSetOutcome_s& dataSet,
     return end;
 }
 
+DataSetOutcome_s withoutValues(DataSetOutcome_s dataSet) {
+    for (ZoneOutcome_s& zone : dataSet.zones) {
+        for (FieldOutcome_s& field : zone.fields) {
+            field.statistics.reset();
+            field.error.reset();
+        }
+    }
+    return dataSet;
+}
+
 } // namespace quorvia::host

@@ -27,6 +27,9 @@ enum class FetchEnd_e { Done, Stopped, Failed };
 FetchEnd_e fetchFields(ReferenceHost& host, DataSetOutcome_s& dataSet,
                        const std::vector<FieldAddress_s>& fields, const FetchObserver& observer);
 
+/// As before any fetch.
+DataSetOutcome_s withoutValues(DataSetOutcome_s dataSet);
+
 /// Null if there is no such field.
 FieldOutcome_s* findField(DataSetOutcome_s& dataSet, FieldAddress_s address);
 const FieldOutcome_s* findField(const DataSetOutcome_s& dataSet, FieldAddress_s address);

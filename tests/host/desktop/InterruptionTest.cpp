@@ -87,6 +87,18 @@ TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
     EXPECT_EQ(window().tree().dataSet()->zones.front().name, "vortex_t0.25.q:1");
 }
 
+TEST_F(InterruptionTest, CancelledAppendLeavesTheRangesThatWereFetched) {
+    import({"vortex.x", "vortex_t0.25.q"});
+    choose(QStringLiteral("Fetch All Values"));
+    constexpr bool kAppend = true;
+    pickSeries(kAppend);
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
+    for (const FieldOutcome_s& field : window().tree().dataSet()->zones.front().fields)
+        EXPECT_TRUE(field.statistics.has_value()) << field.variable;
+}
+
 TEST_F(InterruptionTest, ReplacementThatIsCancelledEarlyLeavesTheDataSetThatWasThere) {
     import({"vortex.x", "vortex_t0.25.q"});
     pickSeries();
