@@ -74,9 +74,12 @@ bool readIntegerToken(Plot3DFile_s& file, std::int32_t& value) {
 
 bool readRealToken(Plot3DFile_s& file, double& value) {
     value = 0.0;
+    const int before = file.lookahead;
     int character = skipSeparators(file);
-    if (!beginsReal(character))
+    if (!beginsReal(character)) {
+        file.lookahead = before; // so that the next read goes on behind the character
         return false;
+    }
     RealTokenText text;
     while (belongsToReal(character) && !text.isFull()) {
         text.append(static_cast<char>(character));

@@ -15,7 +15,7 @@ namespace quorvia::quorutildataio {
 bool readInteger(Plot3DFile_s& file, std::int32_t& value);
 
 /// The next real, in binary files of the file's precision, always delivered as 64 bits. False: none
-/// can be read; `value` is 0 then.
+/// can be read; `value` is 0 then. In text a character that begins no number is passed over.
 bool readReal(Plot3DFile_s& file, double& value);
 
 /// The bulk form for text: fills `values` with as many of the next `count` reals as can be taken

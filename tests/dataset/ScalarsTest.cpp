@@ -173,12 +173,14 @@ TEST_F(ScalarItem, OfOverflowWithElevenHasNoG1) {
 }
 
 TEST_F(ScalarItem, OfOverflowPassesOverGammasThatFail) {
-    Plot3DFile_s& file = textOf("1 2 3 4 5 6 7 8 9 10 11 12 1-2 14", Plot3DStyle_Overflow, 15);
+    Plot3DFile_s& file = textOf("1 2 3 4 5 6 7 8 9 10 11 12 1-2 14 * 16", Plot3DStyle_Overflow, 17);
     EXPECT_TRUE(setUp(file));
     EXPECT_EQ(item(1, "G1"), "12");
     EXPECT_EQ(item(1, "G2"), "(none)");
     EXPECT_EQ(item(1, "G3"), "14");
     EXPECT_EQ(item(1, "G4"), "(none)");
+    EXPECT_EQ(item(1, "G5"), "16");
+    EXPECT_EQ(item(1, "G6"), "(none)");
     EXPECT_EQ(messages(), Texts());
 }
 

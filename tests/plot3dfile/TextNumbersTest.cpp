@@ -106,7 +106,7 @@ TEST_F(TextNumbers, CommaSeparates) {
 
 class RefusedReal : public TextNumbers, public ::testing::WithParamInterface<Spelling> {};
 
-TEST_P(RefusedReal, LeavesZeroAndTheStopCharacter) {
+TEST_P(RefusedReal, LeavesZeroAndTheLookahead) {
     openText(GetParam().text);
     EXPECT_EQ(real(), 0.0);
     EXPECT_FALSE(isRead);
@@ -122,10 +122,10 @@ TEST_P(RefusedReal, StopsTheBulkReaderWhereItStands) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Spellings, RefusedReal,
-                         ::testing::Values(Spelling{"*****", 0, '*'}, Spelling{"abc", 0, 'a'},
-                                           Spelling{"E5", 0, 'E'}, Spelling{"D5", 0, 'D'},
-                                           Spelling{"nan", 0, 'n'}, Spelling{"inf", 0, 'i'},
-                                           Spelling{"\v5", 0, '\v'}, Spelling{"/5", 0, '/'},
+                         ::testing::Values(Spelling{"*****", 0, ' '}, Spelling{"abc", 0, ' '},
+                                           Spelling{"E5", 0, ' '}, Spelling{"D5", 0, ' '},
+                                           Spelling{"nan", 0, ' '}, Spelling{"inf", 0, ' '},
+                                           Spelling{"\v5", 0, ' '}, Spelling{"/5", 0, ' '},
                                            // Integers with something left over.
                                            Spelling{"1-2", 0, -1}, Spelling{"1+2", 0, -1},
                                            Spelling{"--5", 0, -1}, Spelling{"+-5", 0, -1},
@@ -138,7 +138,19 @@ TEST_F(TextNumbers, EndOfFileIsNoReal) {
     openText(" \n ");
     EXPECT_EQ(real(), 0.0);
     EXPECT_FALSE(isRead);
-    EXPECT_EQ(file->lookahead, -1);
+    EXPECT_EQ(file->lookahead, ' ');
+    EXPECT_EQ(real(), 0.0);
+    EXPECT_FALSE(isRead);
+}
+
+TEST_F(TextNumbers, CharacterThatBeginsNoRealIsPassedOver) {
+    openText("1.5 x 2.5");
+    EXPECT_EQ(real(), 1.5);
+    EXPECT_EQ(real(), 0.0);
+    EXPECT_FALSE(isRead);
+    EXPECT_EQ(file->lookahead, ' ');
+    EXPECT_EQ(real(), 2.5);
+    EXPECT_TRUE(isRead);
 }
 
 TEST_F(TextNumbers, TokenOf41CharactersIsCutAt40) {
