@@ -49,6 +49,16 @@ TEST_F(AddedVariables, HaveTheirNamesAndThePrecisionOfTheSolution) {
     EXPECT_EQ(state(1, 4), host::FieldState::Empty);
 }
 
+TEST_F(AddedVariables, HaveThePrecisionOfTheSolutionBehindIBlankToo) {
+    FileDescription_s grid = describeGrid(oneGrid);
+    grid.hasIBlank = true;
+    Plot3DFile_s& x = write("x", grid);
+    Plot3DFile_s& q =
+        write("q", describeSolution(oneGrid, 1), binary(ByteOrder_e::Little, Precision_e::Double));
+    EXPECT_TRUE(addMissing(step(&x, &q), 5));
+    EXPECT_EQ(typeOf(1, 4), QuorFieldDataType_Double);
+}
+
 TEST_F(AddedVariables, OfFunctionFilesAloneAreOfSinglePrecision) {
     Plot3DFile_s& f =
         write("f", describeFunction(oneGrid, 2), binary(ByteOrder_e::Little, Precision_e::Double));
