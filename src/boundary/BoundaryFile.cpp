@@ -22,6 +22,11 @@ bool isSectionWord(const std::string& token) {
     return compareNoCase(token.c_str(), sectionWord, sectionWordLength) == 0;
 }
 
+/// A page break is blank too, though it separates no tokens.
+bool isBlank(const std::string& line) {
+    return line.find_first_not_of(" \t\r\n\f\v") == std::string::npos;
+}
+
 /// Reads a file line by line and keeps the last line for the message.
 class BoundaryFileReader {
 public:
@@ -80,11 +85,9 @@ private:
     }
 
     bool readBoundaries() {
-        while (readLine()) {
-            std::string_view rest = line_;
-            if (!takeToken(rest).empty() && !addBoundary())
+        while (readLine())
+            if (!isBlank(line_) && !addBoundary())
                 return false;
-        }
         return !stream_.hadReadError();
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "boundary/BoundaryFields.h"
@@ -48,9 +49,11 @@ bool labelZone(std::int32_t zone, const char* boundaryName) {
     return true;
 }
 
-std::int32_t countZones() {
+/// Nothing if the host does not tell: zones numbered from a guess would be somebody else's.
+std::optional<std::int32_t> countZones() {
     std::int32_t count = 0;
-    QuorUtilDataSetGetInfo(nullptr, &count, nullptr);
+    if (!QuorUtilDataSetGetInfo(nullptr, &count, nullptr))
+        return std::nullopt;
     return count;
 }
 
@@ -81,7 +84,10 @@ public:
 
 private:
     bool addTimeStep(Plot3DFileHandler& handler, std::int32_t step) {
-        const std::int32_t zonesBefore = countZones();
+        const std::optional<std::int32_t> zoneCount = countZones();
+        if (!zoneCount)
+            return false;
+        const std::int32_t zonesBefore = *zoneCount;
         stepBase_ = zonesBefore;
         if (step == 0)
             firstBase_ = zonesBefore;

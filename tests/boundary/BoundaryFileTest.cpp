@@ -172,7 +172,7 @@ TEST_F(BoundaryFile, ThatIsOneLineIsRefused) {
 }
 
 TEST_F(BoundaryFile, MayHaveBlankLinesOnlyBehindTheKeyword) {
-    EXPECT_TRUE(read("FVBND 1 4\nwall\nBOUNDARIES\n\n \t\r\n1 1 1 1 1 1 1 1 F 0\n\n"));
+    EXPECT_TRUE(read("FVBND 1 4\nwall\nBOUNDARIES\n\n \t\r\n1 1 1 1 1 1 1 1 F 0\n\n\f\n\v\n"));
     EXPECT_EQ(count, 1);
     EXPECT_FALSE(read("FVBND 1 4\nwall\n\nBOUNDARIES\n"));
     EXPECT_EQ(messages(), Texts{messageFor("")});

@@ -220,5 +220,18 @@ TEST_F(BoundaryZones, LeaveTheLoadSoundWhateverTheHostRefuses) {
     }
 }
 
+// What the load numbers its boundary zones from must be known.
+TEST_F(BoundaryZones, LeaveTheGridZonesAloneIfTheHostDoesNotTellHowManyThereAre) {
+    useTwoFaces();
+    attemptSeries("QuorUtilDataSetGetInfo", 0);
+    const std::int64_t calls = host().callCount("QuorUtilDataSetGetInfo");
+    for (std::int64_t n = 1; n <= calls; ++n) {
+        attemptSeries("QuorUtilDataSetGetInfo", n);
+        for (std::int32_t number = 1; number <= zoneCount(); ++number)
+            EXPECT_EQ(auxData(number, "Common.IsBoundaryZone") == "Y", parentOf(number) != 0)
+                << "zone " << number << ", call " << n;
+    }
+}
+
 } // namespace
 } // namespace quorvia::testsupport

@@ -164,6 +164,14 @@ TEST_F(FieldsOfFiles, AreAnnouncedWithTheTailOfTheFilesName) {
                      "Setting up Zone=001, Var=003 from Grid 001 in ...0123456789.abcdef"}));
 }
 
+TEST_F(FieldsOfFiles, AreAnnouncedWithWholeCharactersOfTheFilesName) {
+    const std::string tail = "\xC3\xA9\xE7\xBF\xBC"
+                             "0123456789.abcd";
+    ASSERT_TRUE(load({step(&write("wing-" + tail, describeGrid(oneGrid)))}));
+    EXPECT_EQ(host().log().progress.texts().front(),
+              "Setting up Zone=001, Var=001 from Grid 001 in ..." + tail);
+}
+
 TEST_F(FieldsOfFiles, AreSetUpNoFurtherAfterAnInterruption) {
     Plot3DFile_s& grid = write("x", describeGrid(twoGrids));
     host().interruptAtStep(2);

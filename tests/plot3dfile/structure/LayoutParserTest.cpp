@@ -29,7 +29,9 @@ constexpr Plot3DDataStructure_e severalGridLayouts[] = {
 TEST_F(LayoutParser, RefusesCountOfGridsBelowOne) {
     for (const std::int32_t count : {0, -1, -2147483647})
         for (const Plot3DDataStructure_e layout : severalGridLayouts)
-            EXPECT_FALSE(accepts(Bytes().integers({count}).reals(50).str(), layout, multi));
+            EXPECT_FALSE(accepts(Bytes().integers({count}).str(), layout, multi));
+    for (const Plot3DDataStructure_e layout : severalGridLayouts)
+        EXPECT_FALSE(accepts("0\n" + std::string(60, '1'), layout, multi));
 }
 
 // Function files without variables have no data, so that nothing but their size stands against
@@ -71,6 +73,10 @@ TEST_F(LayoutParser, RefusesDimensionsBelowOne) {
         EXPECT_FALSE(
             accepts(Bytes().integers({2, wrong}).reals(90).str(), Plot3DDataStructure_2D, single));
     }
+    // In text even if their product is one of a grid.
+    const std::string values(60, '1');
+    EXPECT_FALSE(accepts("2 -3 -4\n" + values, Plot3DDataStructure_3DWhole, single));
+    EXPECT_FALSE(accepts("-2 -3\n" + values, Plot3DDataStructure_2D, single));
 }
 
 TEST_F(LayoutParser, RefusesGridsWithMorePointsThanTheFileHasBytes) {
@@ -177,13 +183,13 @@ TEST_F(LayoutParser, WantsDimensionsToFillTheirRecord) {
 // ---- Function files -----------------------------------------------------------------------------
 
 TEST_F(LayoutParser, RefusesGridsThatDisagreeOnTheNumberOfVariables) {
-    // Two grids, of 2 and of 3 variables; the size of the data is right for these.
-    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 2, 5, 7, 3}).reals(2 * 6 + 3 * 35).str(),
+    // Two grids, of 2 and of 3 variables; the size of the data is right for 2 in each.
+    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 2, 5, 7, 3}).reals(2 * 41).str(),
                          Plot3DDataStructure_2D, multi, solutionOrFunction, Plot3DStyle_Function));
-    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 1, 2, 5, 7, 1, 3}).reals(117).str(),
+    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 1, 2, 5, 7, 1, 3}).reals(2 * 41).str(),
                          Plot3DDataStructure_3DWhole, multi, solutionOrFunction,
                          Plot3DStyle_Function));
-    EXPECT_FALSE(accepts(Bytes().integers({2, 3, 1, 1, 2, 5, 1, 1, 3}).reals(21).str(),
+    EXPECT_FALSE(accepts(Bytes().integers({2, 3, 1, 1, 2, 5, 1, 1, 3}).reals(2 * 8).str(),
                          Plot3DDataStructure_Unstructured, multi, solutionOrFunction,
                          Plot3DStyle_Function));
     EXPECT_TRUE(accepts(Bytes().integers({2, 2, 3, 2, 5, 7, 2}).reals(2 * 41).str(),
@@ -194,12 +200,15 @@ TEST_F(LayoutParser, RefusesGridsThatDisagreeOnTheNumberOfVariables) {
 
 TEST_F(LayoutParser, RefusesOverflowOutside3D) {
     const std::string values(90, '1');
-    EXPECT_FALSE(accepts("7 11\n" + values, Plot3DDataStructure_2D, single, solutionOrFunction,
-                         Plot3DStyle_Overflow));
-    EXPECT_FALSE(accepts("7\n" + values, Plot3DDataStructure_1D, single, solutionOrFunction,
-                         Plot3DStyle_Overflow));
-    EXPECT_FALSE(accepts("7 1 1\n" + values, Plot3DDataStructure_Unstructured, single,
+    const std::string scalars = "13*0.5\n";
+    EXPECT_FALSE(accepts("7 11 2 0\n" + scalars + values, Plot3DDataStructure_2D, single,
                          solutionOrFunction, Plot3DStyle_Overflow));
+    EXPECT_FALSE(accepts("7\n4*0.5\n" + values, Plot3DDataStructure_1D, single, solutionOrFunction,
+                         Plot3DStyle_Overflow));
+    EXPECT_FALSE(accepts("7 1 1 2 0\n" + scalars + values, Plot3DDataStructure_Unstructured, single,
+                         solutionOrFunction, Plot3DStyle_Overflow));
+    EXPECT_TRUE(accepts("7 1 1 2 0\n" + scalars + values, Plot3DDataStructure_3DWhole, single,
+                        solutionOrFunction, Plot3DStyle_Overflow));
 }
 
 TEST_F(LayoutParser, RefusesSwiftAndIBlankInUnstructuredData) {
