@@ -6,6 +6,8 @@ using namespace quorvia::host;
 namespace {
 
 constexpr std::int64_t largestMember = 2147483647;
+/// About half a gigabyte. A slip such as 1-2000000000 would fill the memory.
+constexpr std::size_t mostMembers = 10'000'000;
 
 bool addMember(Call& call, QuorSetHandle set, std::int64_t member) {
     GuestSet* found = call.object(set);
@@ -14,6 +16,8 @@ bool addMember(Call& call, QuorSetHandle set, std::int64_t member) {
     // No breach of the contract: numbers out of a file or from a user may come here.
     if (member < 1 || member > largestMember)
         return call.refuse(std::to_string(member) + " can't be a member of a set");
+    if (found->members.size() >= mostMembers)
+        return call.refuse("a set has no more than " + std::to_string(mostMembers) + " members");
     found->members.insert(found->members.end(), member); // most guests add in ascending order
     return true;
 }

@@ -169,7 +169,15 @@ private:
         return opened &&
                allocateOffsets(file.varOffsets, offsetCount(file),
                                "Primary Function Offset Array") &&
-               fitsZones(file, request_) && scanFile(file, options_.gridSet, context_);
+               functionsFit(file) && scanFile(file, options_.gridSet, context_);
+    }
+
+    /// Told here if the load's own message names the solution or the grid file instead.
+    bool functionsFit(const Plot3DFile_s& file) const {
+        const bool fits = fitsZones(file, request_);
+        if (!fits && (handler_.hasSolutionFile() || handler_.hasGridFile()))
+            reportFileError(file, "The function file does not fit the grid.");
+        return fits;
     }
 
     bool openAndScan(Plot3DFile_s& file) {

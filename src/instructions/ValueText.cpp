@@ -6,6 +6,7 @@ namespace {
 
 constexpr int maxIntegerDigits = 10;
 constexpr bool showHostErrors = true;
+constexpr std::int64_t largestMember = 2147483647; // of a host's set
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -63,6 +64,9 @@ bool readSetItem(const char*& cursor, SetItem& item) {
 }
 
 bool addSetItem(QuorSetHandle set, const SetItem& item) {
+    // The host would refuse the last member, after milliards of others.
+    if (item.last - (item.last - item.first) % item.skip > largestMember)
+        return false;
     for (std::int64_t member = item.first; member <= item.last; member += item.skip)
         if (!QuorUtilSetAddMember(set, member, showHostErrors))
             return false;

@@ -309,7 +309,8 @@ TEST_F(FileSetSetup, RefusesFilesThatDoNotFitTheZones) {
     EXPECT_FALSE(load({step(&x, &q, {&longer})}));
     Plot3DFile_s& more = write("q3", describeSolution(threeGrids, 1));
     EXPECT_FALSE(load({step(&x, &more)}));
-    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(messages(),
+              Texts{"The function file does not fit the grid.\nFile: " + longer.fileName.str()});
 }
 
 // Its structure was copied from the first file, and the file itself holds one grid of the three.

@@ -67,6 +67,15 @@ TEST_F(TextTest, SetHoldsNumbersFromOneTo31Bits) {
     EXPECT_TRUE(QuorUtilSetIsMember(set.get(), 2147483647));
 }
 
+TEST_F(TextTest, SetsDoNotGrowUntilTheMemoryIsFull) {
+    const HostSet set(QuorUtilSetAlloc(true));
+    std::int64_t member = 1;
+    while (member <= 20'000'000 && QuorUtilSetAddMember(set.get(), member, true))
+        ++member;
+    EXPECT_EQ(member - 1, 10'000'000);
+    EXPECT_EQ(QuorUtilSetGetMemberCount(set.get()), 10'000'000);
+}
+
 TEST_F(TextTest, NullSetIsEmptyAndHoldsNothing) {
     EXPECT_TRUE(QuorUtilSetIsEmpty(nullptr));
     EXPECT_FALSE(QuorUtilSetIsMember(nullptr, 1));

@@ -96,6 +96,16 @@ TEST_F(SetText, RefusesWhatIsNoSetOfPositiveNumbers) {
         EXPECT_EQ(membersOfText(text), refused) << text;
 }
 
+TEST_F(SetText, WithAMemberPast32BitsIsRefusedBeforeAnythingIsAdded) {
+    for (const char* text : {"2147483648", "1-9999999999", "1-9999999999:9999999998"}) {
+        const std::int64_t before = host().callCount("QuorUtilSetAddMember");
+        EXPECT_EQ(membersOfText(text), refused) << text;
+        EXPECT_EQ(host().callCount("QuorUtilSetAddMember"), before) << text;
+    }
+    EXPECT_EQ(membersOfText("1-9999999999:9999999999"), (Members{1}));
+    EXPECT_EQ(membersOfText("2147483647"), (Members{2147483647}));
+}
+
 TEST_F(SetText, OfNothingIsAnEmptySet) {
     HostSet set;
     EXPECT_TRUE(parseSetText("", set, !withBrackets));

@@ -247,6 +247,16 @@ TEST_F(LoadDriver, RefusesASolutionOfOtherDimensions) {
                                 "the previous datafile."});
 }
 
+// Beside a solution function files are not compared with the grid before they are scanned.
+TEST_F(LoadDriver, NamesAFunctionFileThatDoesNotFitTheGrid) {
+    const std::string solution = solutionFile("a.q", twoGrids, 0);
+    const std::string function = functionFile("a.fun", {{2, 3, 5}, {3, 5, 11}}, 2);
+    useFiles({gridFile("a.x", twoGrids)}, {solution}, {function});
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), (Texts{"The function file does not fit the grid.\nFile: " + function,
+                                 "Invalid Plot 3D solution file.\nFile: " + solution}));
+}
+
 TEST_F(LoadDriver, RefusesToLoadNothing) {
     EXPECT_FALSE(load());
     EXPECT_EQ(messages(), Texts{"There are no files to load."});
