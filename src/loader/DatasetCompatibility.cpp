@@ -97,9 +97,10 @@ private:
                       "position.");
     }
 
-    std::int32_t neededVars() const {
-        return context_.numSpatialVars + context_.numSolutionVars + context_.numFunctionVars +
-               (context_.hasIBlank ? 1 : 0);
+    /// 64-bit: headers may claim any numbers.
+    std::int64_t neededVars() const {
+        return std::int64_t{context_.numSpatialVars} + context_.numSolutionVars +
+               context_.numFunctionVars + (context_.hasIBlank ? 1 : 0);
     }
 
     /// A 1-D solution goes into any plot.

@@ -4,8 +4,10 @@
 #include "dataset/AddedVariables.h"
 #include "dataset/CommonAuxData.h"
 #include "dataset/CurrentTask.h"
+#include "dataset/FieldCount.h"
 #include "dataset/VariableNames.h"
 #include "dataset/ZoneCreation.h"
+#include "dataset/ZoneFit.h"
 #include "loader/BoundaryStage.h"
 #include "loader/SolutionTimes.h"
 
@@ -28,6 +30,8 @@ private:
     bool prepare();
     bool createDataSet();
     bool countVariables();
+    bool addVariables();
+    bool doesSolutionFit() const;
     bool adjustZones();
     bool confirmZones();
     Plot3DStrandMap_s startStrands() const;
@@ -82,9 +86,7 @@ bool DatasetStage::prepare() {
     addVarsToGrid = joinsLoneGrid(context);
     if (!countVariables() || !adjustZones())
         return false;
-    if (context.existingVarCount < varCount && context.existingZoneCount > 0 &&
-        !addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
-                             context.existingVarCount, varsAdded))
+    if (context.existingVarCount < varCount && context.existingZoneCount > 0 && !addVariables())
         return false;
     varTypes = HostArray<std::int32_t>::allocate(context.existingVarCount, "vardatatypes");
     if (!varTypes) {
@@ -112,10 +114,34 @@ bool DatasetStage::countVariables() {
     return false;
 }
 
+/// A file that can't hold as many variables as its header claims must not make any: they would
+/// stay when it fails.
+bool DatasetStage::addVariables() {
+    if (!areCountsPlausible(first)) {
+        reportFailedFileSet(first);
+        return false;
+    }
+    return addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
+                               context.existingVarCount, varsAdded);
+}
+
+/// Asked before zones are deleted. The first zones take the solution, whereas the check of the data
+/// set has compared the last ones.
+bool DatasetStage::doesSolutionFit() const {
+    if (!first.hasSolutionFile() ||
+        fitsExistingZones(*first.solutionFile, options, 1, context.existingZoneCount))
+        return true;
+    reportFileError(*first.solutionFile,
+                    "The solution file does not fit the zones that are there.");
+    return false;
+}
+
 /// Readies the zones that are there for a new solution.
 bool DatasetStage::adjustZones() {
     if (!replacesSolution() && !addVarsToGrid)
         return true;
+    if (!doesSolutionFit())
+        return false;
     // A zone that keeps its old name is no reason to stop.
     adjustExistingZones(context.zonesPerTimeStep, first, options, context.existingZoneCount);
     if (!confirmZones())

@@ -30,6 +30,15 @@ std::int32_t coordinateCount(Plot3DDataStructure_e dataStructure) {
     }
 }
 
+/// Not so if `b` has no such grid: what stands behind its grids are leftovers of other trials.
+bool hasSameGrid(const Plot3DFile_s& a, const Plot3DFile_s& b, std::int32_t gridIndex) {
+    if (gridIndex >= b.numGrids)
+        return false;
+    const Plot3DGridDims_s& dims = a.gridDims[static_cast<std::size_t>(gridIndex)];
+    const Plot3DGridDims_s& other = b.gridDims[static_cast<std::size_t>(gridIndex)];
+    return a.dataStructure == Plot3DDataStructure_Unstructured ? dims.i == other.i : dims == other;
+}
+
 } // namespace
 
 Plot3DFileStructureValidatorAbstract::Plot3DFileStructureValidatorAbstract(
@@ -81,13 +90,9 @@ bool Plot3DNonGridFileStructureValidator::validate(const Plot3DFile_s& file) {
 }
 
 bool compareFileDimensions(const Plot3DFile_s& a, const Plot3DFile_s& b) {
-    const bool onlyNodes = a.dataStructure == Plot3DDataStructure_Unstructured;
     for (std::int32_t gridIndex = 0; gridIndex < a.numGrids; ++gridIndex) {
-        const auto index = static_cast<std::size_t>(gridIndex);
-        const bool isEqual = onlyNodes ? a.gridDims.at(index).i == b.gridDims.at(index).i
-                                       : a.gridDims.at(index) == b.gridDims.at(index);
         // The message counts grids from 0, unlike the host its zones; users know it so.
-        if (!isEqual)
+        if (!hasSameGrid(a, b, gridIndex))
             return refuse("Grid " + std::to_string(gridIndex) + " in file " + b.fileName.str() +
                           " does not have the same dimensions as the corresponding grid in the "
                           "previous datafile.");

@@ -181,6 +181,29 @@ TEST_F(DatasetCompatibility, AppendsNoSolutionWithAGridToTooFewVariables) {
               "than the number of variables required by the incoming grid and solution files (8).");
 }
 
+TEST_F(DatasetCompatibility, CountsMoreVariablesThan32Bits) {
+    makeDataSet(gridAndSolution, 1);
+    const std::string absurd =
+        directory.write("a.fun", "1\n2 3 5 2147483640\n" + std::string(600, '1'));
+    useFiles({gridFile("a.x", oneGrid)}, {solutionFile("a.q", oneGrid, 1)}, {absurd});
+    options.append = true;
+    EXPECT_EQ(refusal(), "Not allowed to append if existing dataset that has fewer number of "
+                         "variables (8) than the number of variables required by the incoming grid "
+                         "and solution files (2147483648).");
+}
+
+TEST_F(DatasetCompatibility, MakesNoVariablesThatTheFileCannotHold) {
+    makeDataSet(gridAndSolution, 1);
+    const std::string absurd =
+        directory.write("a.fun", "1\n2 3 5 2147483640\n" + std::string(600, '1'));
+    useFiles({gridFile("a.x", oneGrid)}, {}, {absurd});
+    options.append = true;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()});
+    EXPECT_EQ(variableNames(), gridAndSolution);
+    EXPECT_EQ(zoneCount(), 1);
+}
+
 TEST_F(DatasetCompatibility, AppendsNoListOfGridsThatIsEmpty) {
     makeDataSet(gridAndSolution, 1);
     useSolution(oneGrid);

@@ -298,5 +298,16 @@ TEST_F(DatasetStage, ReplacesNothingWhileSurplusZonesStay) {
     EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2", "old"}));
 }
 
+// The last zones are compared ahead of the stage, and the first ones are kept.
+TEST_F(DatasetStage, DeletesNoZonesForASolutionThatDoesNotFitTheFirst) {
+    useSteps(false, 1);
+    joinOldDataSet(gridAndSolution, 3);
+    host().frame().dataSet()->zone(1)->k = 7;
+    EXPECT_FALSE(run());
+    EXPECT_EQ(messages(), Texts{"The solution file does not fit the zones that are there.\nFile: " +
+                                options.solutionFiles.front()});
+    EXPECT_EQ(zoneNames(), (Texts{"old", "old", "old"}));
+}
+
 } // namespace
 } // namespace quorvia::testsupport

@@ -257,6 +257,19 @@ TEST_F(LoadDriver, NamesAFunctionFileThatDoesNotFitTheGrid) {
                                  "Invalid Plot 3D solution file.\nFile: " + solution}));
 }
 
+TEST_F(LoadDriver, RefusesALaterSolutionOfFewerGrids) {
+    const GridList many(1001, {2, 3, 4});
+    const GridList fewer(1000, {2, 3, 4});
+    const std::string later = solutionFile("b.q", fewer, 1);
+    useFiles({gridFile("a.x", {{2, 3, 5}}), gridFile("b.x", many)},
+             {solutionFile("a.q", {{2, 3, 5}}, 0), later});
+    options.uniformGridStructure = false;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"Grid 1000 in file " + later +
+                                " does not have the same dimensions as the corresponding grid in "
+                                "the previous datafile."});
+}
+
 TEST_F(LoadDriver, RefusesToLoadNothing) {
     EXPECT_FALSE(load());
     EXPECT_EQ(messages(), Texts{"There are no files to load."});

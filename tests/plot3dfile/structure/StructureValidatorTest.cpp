@@ -78,6 +78,16 @@ TEST_F(StructureValidator, NamesTheFirstGridThatDiffersByItsIndexFromZero) {
                                 "corresponding grid in the previous datafile."});
 }
 
+// What stands behind a file's grids is left over from other trials.
+TEST_F(StructureValidator, NamesTheFirstGridThatOneFileLacks) {
+    next.numGrids = 1;
+    EXPECT_FALSE(compareFileDimensions(first, next));
+    next.gridDims.resize(1);
+    EXPECT_FALSE(compareFileDimensions(first, next));
+    EXPECT_EQ(messages(), Texts(2, "Grid 1 in file b does not have the same dimensions as the "
+                                   "corresponding grid in the previous datafile."));
+}
+
 TEST_F(StructureValidator, ComparesUnstructuredGridsByTheirNodes) {
     first.dataStructure = next.dataStructure = Plot3DDataStructure_Unstructured;
     next.gridDims[1] = {7, 0, 17};
