@@ -151,6 +151,15 @@ private:
     const Dialog& dialog_;
 };
 
+/// A page that was left in front may show what is no longer so. The first is readied by init.
+void activateFrontPage(const Dialog& dialog) {
+    if (!dialog.tabs.has_value() || dialog.tabs->activate == nullptr || dialog.tabs->pages.empty())
+        return;
+    const std::int32_t page = dialog.tabs->frontPage;
+    if (page != dialog.tabs->pages.front().id)
+        dialog.tabs->activate(&page);
+}
+
 /// A dialog that an exception leaves can't be worked with any more.
 class ClosedAtTheEnd {
 public:
@@ -179,6 +188,8 @@ void launch(Toolkit& toolkit, Dialog& dialog, User& user) {
     toolkit.opened(dialog);
     if (dialog.init != nullptr)
         dialog.init();
+    if (dialog.open)
+        activateFrontPage(dialog);
     if (dialog.open)
         user.dialogShown(dialog);
     while (dialog.open) {

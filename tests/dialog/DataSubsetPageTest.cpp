@@ -114,6 +114,13 @@ TEST_F(SubsetPage, SetOfGridsComesBackAtTheNextLaunch) {
               meanwhile([] { EXPECT_EQ(text(gridSetField), "2-3,5"); })});
 }
 
+TEST_F(SubsetPage, LeftInFrontShowsAtTheNextLaunchWhatTheHostHasMadeOfIt) {
+    openHere({type(gridSetField, "2,3,5"), pressCancel()});
+    host().sendStateChange(15);
+    EXPECT_EQ(gLoadOptions.gridSet, nullptr);
+    open({meanwhile([] { EXPECT_EQ(text(gridSetField), ""); })});
+}
+
 // ---- The nine fields, which run the same steps --------------------------------------------------
 
 constexpr auto iRange = &Plot3DLoadOptions_s::iRange;

@@ -64,6 +64,17 @@ TEST_F(DialogLoopTest, PagesAreLeftThenEntered) {
     EXPECT_EQ(model().tabs->frontPage, second);
 }
 
+TEST_F(DialogLoopTest, PageLeftInFrontIsEnteredAtTheNextLaunch) {
+    const std::int32_t tabs =
+        QuorGUITabAdd(dialog(), 0, 0, 4000, 1500, GuestDialog::activated, GuestDialog::deactivated);
+    QuorGUITabAddPage(tabs, "First");
+    const std::int32_t second = QuorGUITabAddPage(tabs, "Second");
+    launchAndPlay({ShowPage{second}});
+    GuestDialog::told.clear();
+    launchAndPlay({});
+    EXPECT_EQ(GuestDialog::told, (Texts{"init", "activated " + std::to_string(second)}));
+}
+
 TEST_F(DialogLoopTest, RefusedTextStaysUnlessTheGuestReplacesIt) {
     GuestDialog::whenTyped = [this](const char* text) {
         if (std::string(text) == "bad")

@@ -223,6 +223,18 @@ TEST_F(HeaderRules, LaterFileOfUniformGridsHasAsManyAsTheFirst) {
                     ". When loading uniform grids the files must have the same numbers of grids."});
 }
 
+// A file that the first one's structure fits as it is was not held against the first of its list.
+TEST_F(HeaderRules, LaterFileHasNoMoreGridsThanTheFirstTimeStep) {
+    SessionFiles three{directory().path().string()};
+    three.grids = {{2, 3, 5}, {3, 5, 2}, {2, 3, 5}};
+    three.form.encoding = two_.form.encoding = plot3dwriter::Encoding_e::Fortran;
+    const std::string later = three.grid("b.x");
+    EXPECT_EQ(refusalOf({.grids = {two_.grid("a.x"), later}}),
+              Texts{later + " contains more zones than specified in the first time step  (3 and 2 "
+                            "). Please reload the Plot3D data unselecting the \"Uniform Grid "
+                            "Structure\" option."});
+}
+
 // Files that are all functions in truth are taken for such, unless there are others beside them.
 TEST_F(HeaderRules, FirstFileOfTheListOfSolutionsIsOne) {
     const std::string file = two_.function("a.q", 2);

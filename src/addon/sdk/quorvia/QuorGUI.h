@@ -49,7 +49,8 @@ std::int32_t QuorGUIDialogCreateModal(std::int32_t parent, std::int32_t width, s
                                       QuorGUICallback apply, QuorGUICallback cancel,
                                       QuorGUICallback help);
 
-/// Shows the dialog. The user can do nothing else at the host until it is dropped. A dialog may be
+/// Shows the dialog with the page that was in front last; if that is not the first, it is activated
+/// behind `init`. The user can do nothing else at the host until the dialog is dropped. It may be
 /// launched again from its own OK callback once it is dropped.
 void QuorGUIDialogLaunch(std::int32_t dialog);
 
