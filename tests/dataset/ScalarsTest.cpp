@@ -75,6 +75,12 @@ TEST_F(Scalars, OfGridsThatAreNotLoadedAreDropped) {
     EXPECT_EQ(host().callCount("QuorUtilZoneSetSolutionTime"), 2);
 }
 
+TEST_F(Scalars, OfALastGridThatIsNotLoadedAreNotOnTheDataSet) {
+    selectGrids({1, 2});
+    loadWith(describeSolution(threeGrids, 0.5));
+    EXPECT_EQ(itemOfDataSet("Common.ReferenceMachNumber"), "2.25");
+}
+
 TEST_F(Scalars, OfOverflowHaveTheirNames) {
     for (const auto precision : {Precision_e::Single, Precision_e::Double}) {
         loadWith(overflow({{2, 3, 5}}, 3), fortran(ByteOrder_e::Little, precision));
