@@ -64,10 +64,23 @@ TEST_F(SampleProgram, ListsWhatItWrote) {
     EXPECT_EQ(run("functions DIR --size 5x3x2"), 0);
     EXPECT_EQ(out(), "functions.x              grid               376 bytes  5x3x2\n"
                      "functions_velocity.fun   function           500 bytes  5x3x2\n"
-                     "functions_energy.fun     function           260 bytes  5x3x2\n"
+                     "functions_vorticity.fun  function           500 bytes  5x3x2\n"
                      "functions.nam            names              111 bytes\n");
     EXPECT_EQ(err(), "");
     EXPECT_EQ(contents("functions_velocity.fun").size(), 500U);
+}
+
+TEST_F(SampleProgram, NotesAFileThatPassesForAnother) {
+    EXPECT_EQ(run("vortex DIR --steps 1 --double"), 0);
+    EXPECT_EQ(err(),
+              "plot3d-sample: note: vortex.x passes for a 3-D file unless it is described by "
+              "hand; --single leaves no doubt\n");
+    EXPECT_EQ(run("ball DIR --encoding text"), 0);
+    EXPECT_EQ(err(), "plot3d-sample: note: ball.x passes for a 1-D file unless it is described by "
+                     "hand; --single leaves no doubt\n");
+    EXPECT_EQ(run("functions DIR --layout 3dplanes"), 0);
+    EXPECT_EQ(err(), "plot3d-sample: note: functions.x passes for a 3-D Whole file unless it is "
+                     "described by hand; --encoding fortran4 leaves no doubt\n");
 }
 
 TEST_F(SampleProgram, PutsTheTimeIntoNamesAndScalars) {

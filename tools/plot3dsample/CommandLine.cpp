@@ -29,7 +29,7 @@ std::string footer() {
     text += "\nExamples:\n"
             "  plot3d-sample cylinder samples --encoding fortran4 --iblank\n"
             "      overset grids with I-blank, as a flow solver leaves them\n"
-            "  plot3d-sample vortex samples --double --steps 20 --size 201x201\n"
+            "  plot3d-sample vortex samples --double --single --steps 20 --size 201x201\n"
             "      a time series of 20 solution files, vortex_t0.00.q to vortex_t4.75.q\n"
             "\nExit codes: 0 written, 1 could not write, 2 bad usage.";
     return text;

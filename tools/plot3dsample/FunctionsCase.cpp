@@ -11,8 +11,7 @@ namespace {
 
 using plot3dwriter::GridDims_s;
 
-constexpr std::int32_t velocityVariables = 4;
-constexpr std::int32_t energyVariables = 2;
+constexpr std::int32_t variableCount = 4; // alike in all function files of a load
 
 // A loader takes the lines for the variables of the first function file only.
 constexpr std::string_view names = "U; velocity along X\n"
@@ -49,17 +48,17 @@ double velocityVariable(const Point_t& velocity, std::int32_t variable) {
     return variable < 3 ? velocity[static_cast<std::size_t>(variable)] : -kineticEnergy(velocity);
 }
 
-/// Kinetic energy and helicity; the latter is velocity times vorticity.
-double energyVariable(const Point_t& velocity, std::int32_t variable) {
-    return variable == 0 ? kineticEnergy(velocity) : 2 * kineticEnergy(velocity);
+/// The vorticity, which is the velocity here, and the helicity, their product.
+double vorticityVariable(const Point_t& velocity, std::int32_t variable) {
+    return variable < 3 ? velocity[static_cast<std::size_t>(variable)]
+                        : 2 * kineticEnergy(velocity);
 }
 
 SampleFile_s functionFile(const SampleOptions_s& options, std::string_view stem, Layout_e layout,
-                          const Mesh_s& mesh, std::int32_t numVars,
-                          double (*variableOf)(const Point_t&, std::int32_t)) {
+                          const Mesh_s& mesh, double (*variableOf)(const Point_t&, std::int32_t)) {
     SampleFile_s file =
         flowFile(options, stem, FileKind_e::Function, layout, mesh, FlowField(), {});
-    file.description.numVars = numVars;
+    file.description.numVars = variableCount;
     file.description.value = [point = mesh.point, variableOf](std::int32_t grid,
                                                               std::int32_t variable, std::int32_t i,
                                                               std::int32_t j, std::int32_t k) {
@@ -77,12 +76,10 @@ std::vector<SampleFile_s> functionFiles(const SampleOptions_s& options) {
     const Layout_e layout = chooseLayout(options, {Layout_e::ThreeDWhole, Layout_e::ThreeDPlanes});
     chooseStyle(options, {FileKind_e::Function});
     const Mesh_s mesh = periodicMesh(chooseSize(options, layout, {23, 19, 17}));
-    return {
-        gridFile(options, "functions", layout, mesh),
-        functionFile(options, "functions_velocity", layout, mesh, velocityVariables,
-                     velocityVariable),
-        functionFile(options, "functions_energy", layout, mesh, energyVariables, energyVariable),
-        {"functions.nam", {}, std::string(names)}};
+    return {gridFile(options, "functions", layout, mesh),
+            functionFile(options, "functions_velocity", layout, mesh, velocityVariable),
+            functionFile(options, "functions_vorticity", layout, mesh, vorticityVariable),
+            {"functions.nam", {}, std::string(names)}};
 }
 
 } // namespace quorvia::plot3dsample

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "plot3dsample/CommandLine.h"
+#include "plot3dsample/Doubt.h"
 #include "plot3dsample/Sample.h"
 
 namespace quorvia::plot3dsample {
@@ -73,7 +74,19 @@ std::int64_t writeFile(const std::string& path, const SampleFile_s& file, const 
     return outcome.byteCount;
 }
 
-void writeSample(const SampleOptions_s& options, std::ostream& out) {
+/// Once, since one word helps for all files of a data set.
+void noteDoubt(const std::vector<SampleFile_s>& files, const FileForm_s& form, std::ostream& err) {
+    for (const SampleFile_s& file : files) {
+        if (const std::optional<Doubt_s> doubt = doubtAbout(file, form)) {
+            err << fmt::format("plot3d-sample: note: {} passes for {} unless it is described by "
+                               "hand; {} leaves no doubt\n",
+                               file.name, doubt->takenFor, doubt->wayOut);
+            return;
+        }
+    }
+}
+
+void writeSample(const SampleOptions_s& options, std::ostream& out, std::ostream& err) {
     const auto files = sampleCaseNamed(options.caseName).files(options);
     makeDirectory(options.directory);
     for (const SampleFile_s& file : files) {
@@ -82,6 +95,7 @@ void writeSample(const SampleOptions_s& options, std::ostream& out) {
         out << fmt::format("{:<24} {:<9} {:>12} bytes{}\n", file.name, kindWord(file), byteCount,
                            gridWords(file.description));
     }
+    noteDoubt(files, options.form, err);
 }
 
 } // namespace
@@ -89,7 +103,7 @@ void writeSample(const SampleOptions_s& options, std::ostream& out) {
 int run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     try {
         if (const auto options = parseCommandLine(args, out))
-            writeSample(*options, out);
+            writeSample(*options, out, err);
         return ExitCode_Written;
     } catch (const UsageError& error) {
         err << fmt::format("plot3d-sample: error: {}\n", error.what());
