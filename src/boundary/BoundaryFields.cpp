@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "addon/state/AddOnIdentity.h"
-#include "boundary/OpenScope.h"
 #include "plot3dfile/CheckedSize.h"
+#include "plot3dfile/OpenedFile.h"
 #include "plot3dfile/TypedArrays.h"
 #include "quorvia/HostHandles.h"
 
@@ -68,7 +68,7 @@ public:
           ranges_(boundaryRanges(*data.boundary, data.skipI, data.skipJ, data.skipK)) {}
 
     bool run() {
-        const OpenScope opened(file_);
+        const OpenedFile opened(file_);
         return opened && file_.stream->seek(data_.gridOffset) && measureGrid() &&
                passOverOthers() && deliver();
     }

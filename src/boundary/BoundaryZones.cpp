@@ -7,10 +7,10 @@
 #include <string>
 
 #include "boundary/BoundaryFields.h"
-#include "boundary/OpenScope.h"
 #include "dataset/AuxDataItem.h"
 #include "dataset/SetupProgress.h"
 #include "instructions/ValueText.h"
+#include "plot3dfile/OpenedFile.h"
 #include "plot3dfile/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
@@ -70,7 +70,7 @@ public:
           gridVarCount_(gridFile_.numVars + (gridFile_.hasIBlank ? 1 : 0)) {}
 
     bool create() {
-        const OpenScope opened(gridFile_);
+        const OpenedFile opened(gridFile_);
         if (!opened)
             return false;
         baseStrand_ = assignStrandIDs_ ? QuorUtilDataSetGetMaxStrandID() : 0;
@@ -171,7 +171,7 @@ private:
     }
 
     bool setUpFile(Plot3DFile_s& file, std::int32_t zonesBefore) const {
-        const OpenScope opened(file);
+        const OpenedFile opened(file);
         if (!opened)
             return false;
         std::int32_t zone = zonesBefore;

@@ -4,8 +4,8 @@
 
 #include "dataset/ItemContext.h"
 #include "dataset/ItemDispatch.h"
-#include "dataset/OpenedFile.h"
 #include "dataset/ZoneFit.h"
+#include "plot3dfile/OpenedFile.h"
 
 namespace quorvia::quorutildataio {
 

@@ -23,4 +23,21 @@ enum Plot3DDataStructure_e : std::int32_t {
     Plot3DDataStructure_Unknown = 255
 };
 
+/// Coordinates of a point in a grid file, 1 to 3; 0 if the layout is unknown.
+constexpr std::int32_t coordinateCount(Plot3DDataStructure_e dataStructure) {
+    switch (dataStructure) {
+    case Plot3DDataStructure_1D:
+        return 1;
+    case Plot3DDataStructure_2D:
+        return 2;
+    case Plot3DDataStructure_3DPlanes:
+    case Plot3DDataStructure_3DWhole:
+    case Plot3DDataStructure_Unstructured:
+        return 3;
+    case Plot3DDataStructure_Unknown:
+        break;
+    }
+    return 0;
+}
+
 } // namespace quorvia::quorutildataio

@@ -58,22 +58,6 @@ bool makeFileSets(Plot3DLoadContext_s& context) {
     return true;
 }
 
-std::int32_t countSpatialVars(Plot3DDataStructure_e dataStructure) {
-    switch (dataStructure) {
-    case Plot3DDataStructure_1D:
-        return 1;
-    case Plot3DDataStructure_2D:
-        return 2;
-    case Plot3DDataStructure_3DPlanes:
-    case Plot3DDataStructure_3DWhole:
-    case Plot3DDataStructure_Unstructured:
-        return 3;
-    case Plot3DDataStructure_Unknown:
-        break;
-    }
-    return 0;
-}
-
 /// The first time step stands for the load.
 void readShape(Plot3DLoadContext_s& context) {
     const Plot3DFileHandler& first = context.fileSets.front();
@@ -83,7 +67,7 @@ void readShape(Plot3DLoadContext_s& context) {
         context.numFunctionVars = first.functionFiles.front()->numVars;
     if (first.hasGridFile() || first.hasSolutionFile()) {
         context.dataStructure = first.getDataStructure();
-        context.numSpatialVars = countSpatialVars(context.dataStructure);
+        context.numSpatialVars = coordinateCount(context.dataStructure);
     }
     if (first.hasGridFile())
         context.hasIBlank = first.gridFile->hasIBlank;
@@ -146,7 +130,7 @@ bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
 
 void showNewDataSet(Plot3DDataStructure_e dataStructure) {
     constexpr bool doFullDrawing = true;
-    switch (countSpatialVars(dataStructure)) {
+    switch (coordinateCount(dataStructure)) {
     case 1:
         QuorUtilFrameSetPlotType(QuorPlotType_XY);
         break;

@@ -14,22 +14,6 @@ bool refuse(const std::string& text) {
     return false;
 }
 
-/// Number of coordinates of a grid file.
-std::int32_t coordinateCount(Plot3DDataStructure_e dataStructure) {
-    switch (dataStructure) {
-    case Plot3DDataStructure_1D:
-        return 1;
-    case Plot3DDataStructure_2D:
-        return 2;
-    case Plot3DDataStructure_3DPlanes:
-    case Plot3DDataStructure_3DWhole:
-    case Plot3DDataStructure_Unstructured:
-        return 3;
-    default:
-        return 0;
-    }
-}
-
 /// Not so if `b` has no such grid: what stands behind its grids are leftovers of other trials.
 bool hasSameGrid(const Plot3DFile_s& a, const Plot3DFile_s& b, std::int32_t gridIndex) {
     if (gridIndex >= b.numGrids)
