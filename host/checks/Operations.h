@@ -1,6 +1,7 @@
 // Every operation of the contract by its name: whether it has a way to fail, and whether the guest
 // must hold the lock. The contract of this host is one step softer than the SDK's text: memory,
-// lists and sets are private to whoever holds them, so that they need no lock here.
+// lists and sets are private to whoever holds them, so that they need no lock here. The other
+// operations without need of it are those that the SDK's text exempts.
 #pragma once
 
 #include <cstddef>
@@ -120,7 +121,7 @@ inline constexpr OperationTraits operationTable[] = {
     {"QuorUtilDataValueIsSharingOk", failing, locked},
     {"QuorUtilDataValueShare", failing, locked},
     {"QuorUtilDataValueCopy", failing, locked},
-    {"QuorUtilDataNodeGetRef", certain, locked},
+    {"QuorUtilDataNodeGetRef", failing, locked},
     {"QuorUtilDataNodeSetByRef", certain, locked},
     {"QuorUtilAuxDataZoneGetRef", failing, locked},
     {"QuorUtilAuxDataDataSetGetRef", failing, locked},

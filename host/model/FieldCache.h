@@ -27,7 +27,6 @@ public:
     void dropAll();
 
     std::int64_t bytesInMemory() const { return bytesInMemory_; }
-    std::int64_t fieldsInMemory() const { return static_cast<std::int64_t>(recent_.size()); }
 
 private:
     friend class FieldStorage;

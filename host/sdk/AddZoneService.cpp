@@ -22,6 +22,19 @@ bool productFits(std::int64_t a, std::int64_t b, std::int64_t& product) {
     return !__builtin_mul_overflow(a, b, &product);
 }
 
+/// Whether the bytes of a field, and of the node map, can be counted.
+bool fitsMemory(const Zone& zone) {
+    constexpr std::int64_t widestValue = 8;
+    constexpr std::int64_t nodeNumber = 4;
+    std::int64_t count = 0;
+    std::int64_t bytes = 0;
+    if (zone.isOrdered())
+        return productFits(zone.i, zone.j, count) && productFits(count, zone.k, count) &&
+               productFits(count, widestValue, bytes);
+    return productFits(zone.i, widestValue, bytes) && productFits(zone.j, zone.k, count) &&
+           productFits(count, nodeNumber, bytes);
+}
+
 // The sizes may come from a file or from a user, so that a bad one is no breach of the contract.
 bool sizesAreSound(Call& call, const Zone& zone) {
     for (const auto& [key, size] :
@@ -30,12 +43,8 @@ bool sizesAreSound(Call& call, const Zone& zone) {
             return call.refuse(std::string(key) + " is " + std::to_string(size) +
                                "; a zone needs at least 1");
     }
-    constexpr std::int64_t widestValue = 8;
-    std::int64_t points = 0;
-    std::int64_t bytes = 0;
-    const bool fits = productFits(zone.i, zone.j, points) && productFits(points, zone.k, points) &&
-                      productFits(points, widestValue, bytes);
-    return fits || call.refuse("the zone has more points than memory has addresses");
+    return fitsMemory(zone) ||
+           call.refuse("the zone has more points or elements than memory has addresses");
 }
 
 bool cornersFitType(Call& call, const Zone& zone) {

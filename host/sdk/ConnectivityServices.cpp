@@ -18,7 +18,7 @@ extern "C" {
 QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone) {
     Call call("QuorUtilDataNodeGetRef", zone);
     const Zone* found = call.zone(zone);
-    if (found == nullptr || found->nodeMap == nullptr)
+    if (call.fails() || found == nullptr || found->nodeMap == nullptr)
         return call.result(QuorNodeMapHandle{});
     if (!found->nodeMap->prepare()) {
         call.refuse("no memory for a node map");

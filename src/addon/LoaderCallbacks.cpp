@@ -10,9 +10,6 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-/// The host's state change that makes the dialog forget its files.
-constexpr std::int32_t filesAreForgotten = 15;
-
 /// Releases a record at the end of a scope, however the scope ends.
 class LoadOptionsRelease {
 public:
@@ -41,7 +38,7 @@ bool loadFromInstructions(QuorStringListHandle instructions, bool fromSelection)
 }
 
 void stateChangeCallback(std::int32_t code) {
-    if (code != filesAreForgotten)
+    if (code != QuorStateChange_FilesForgotten)
         return;
     releaseLoadOptions(gLoadOptions);
     const HostLock lock(addOnID);

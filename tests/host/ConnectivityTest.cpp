@@ -31,6 +31,17 @@ TEST_F(ConnectivityTest, OrderedZoneHasNone) {
     EXPECT_EQ(QuorUtilDataNodeGetRef(2), nullptr);
 }
 
+TEST_F(ConnectivityTest, CanFailAsWithoutMemory) {
+    host().failCall("QuorUtilDataNodeGetRef", 1);
+    EXPECT_EQ(QuorUtilDataNodeGetRef(1), nullptr);
+    EXPECT_NE(QuorUtilDataNodeGetRef(1), nullptr);
+}
+
+TEST_F(ConnectivityTest, ManyNodesAndElementsAreNoSizeTogether) {
+    addZone(2'100'000'000, 140'000'000, 4, QuorZoneType_Tetrahedra);
+    EXPECT_EQ(host().frame().dataSet()->zoneCount(), 2);
+}
+
 TEST_F(ConnectivityTest, NodesOutsideTheZoneAreBlamed) {
     const QuorNodeMapHandle handle = QuorUtilDataNodeGetRef(1);
     QuorUtilDataNodeSetByRef(handle, 8, 1, 1);

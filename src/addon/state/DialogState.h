@@ -7,11 +7,12 @@
 #include <vector>
 
 #include "instructions/Plot3DLoadOptions.h"
+#include "quorvia/QuorGUI.h"
 
 namespace quorvia::quorutildataio {
 
 /// The host's value for "no control".
-constexpr std::int32_t noControl = -2;
+constexpr std::int32_t noControl = QuorGUIId_None;
 
 /// The options that the dialog edits. A load from instructions never touches them.
 extern Plot3DLoadOptions_s gLoadOptions;

@@ -124,8 +124,8 @@ char* QuorGUITextFieldGetString(std::int32_t textField);
 void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool zeroIsLast);
 /// False: the text is no index; `value` is unchanged.
 bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value);
-/// Whether the text is an index from `minimum` to `maximum`. If not, the toolkit tells the user,
-/// and calls the field by `name`. `reserved` is false.
+/// Whether the text is an index from `minimum` to `maximum`, or with `zeroIsLast` one that stands
+/// for the last. If not, the toolkit tells the user, and calls the field by `name`.
 bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, std::int64_t minimum,
                                      std::int64_t maximum, bool zeroIsLast);
 

@@ -10,7 +10,7 @@
 //   and stores null in it; giving back null is allowed and does nothing.
 // - "Borrowed" means that the callee may use the argument for the call only.
 // - Unless it says otherwise an operation may be called only while the add-on holds the host's
-// lock.
+//   lock.
 // - No operation throws, save those that say so; a failure is a false or null result, and the host
 //   keeps its own text of it for QuorUtilPostLastErrorMessage.
 #pragma once
@@ -53,11 +53,12 @@ enum QuorPlotType_e : std::int32_t {
     QuorPlotType_Polar = 5
 };
 
-/// Codes of QuorUtilStateChanged and of state-change callbacks.
+/// Codes of QuorUtilStateChanged and of state-change callbacks. A host has more of them.
 enum QuorStateChange_e : std::int32_t {
-    QuorStateChange_VarsAltered = 0, // with the set of variables
-    QuorStateChange_VarsAdded = 1,   // with the set of variables
-    QuorStateChange_ZonesAdded = 3   // with the set of zones
+    QuorStateChange_VarsAltered = 0,    // with the set of variables
+    QuorStateChange_VarsAdded = 1,      // with the set of variables
+    QuorStateChange_ZonesAdded = 3,     // with the set of zones
+    QuorStateChange_FilesForgotten = 15 // to callbacks alone: forget the files of earlier loads
 };
 
 enum QuorMessageBox_e : std::int32_t {
@@ -100,7 +101,8 @@ extern "C" {
 std::int32_t QuorUtilGetQuorviaVersion();
 
 /// Registers the add-on under the registration word 100. The texts are copied; version and author
-/// are only displayed. The result names the add-on in every lock call and is owned by the host.
+/// are only displayed. The result names the add-on in every lock call and is owned by the host;
+/// null if the word or a text is wrong.
 QuorAddOnHandle QuorUtilAddOnRegister(std::int32_t registrationWord, const char* name,
                                       const char* versionText, const char* authorText);
 
@@ -135,7 +137,8 @@ bool QuorUtilInterruptIsSet();
 bool QuorUtilImportAddLoaderX(QuorArgListHandle arguments);
 
 /// Records the instructions that repeat the load just done; they come back through the loader's
-/// callback from a macro or a layout. `instructions` is borrowed and may be null. False: refused.
+/// callback from a macro or a layout. `instructions` is borrowed and may be null. False: the host
+/// does not take them, or there is no such loader.
 bool QuorUtilImportSetLoaderInstr(const char* loaderName, QuorStringListHandle instructions);
 
 // ---- Messages, files, help ----------------------------------------------------------------------
@@ -161,7 +164,8 @@ bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* n
                                 const char* filter);
 
 /// The directory part of `path`, its last separator included, so that the length of the result is
-/// where the file's name starts; empty if there is none. The caller gives the string back.
+/// where the file's name starts; empty if there is none. The caller gives the string back; null if
+/// there is no memory. May be called without the lock.
 char* QuorUtilGetBasePath(const char* path);
 
 /// Opens the host's help at `target`. The other arguments are false and 0.
@@ -181,6 +185,7 @@ void QuorUtilArrayDealloc(void** array);
 /// An empty list, owned by the caller; null if there is no memory.
 QuorStringListHandle QuorUtilStringListAlloc();
 void QuorUtilStringListDealloc(QuorStringListHandle* list);
+/// Number of strings, those never set included.
 std::int64_t QuorUtilStringListGetCount(QuorStringListHandle list);
 /// A copy of the string at `index`, counted from 1, owned by the caller; null for a string that was
 /// never set or if there is no memory.
@@ -220,17 +225,21 @@ void QuorUtilSetRemoveMember(QuorSetHandle set, std::int64_t member);
 bool QuorUtilSetIsMember(QuorSetHandle set, std::int64_t member);
 /// Of a null set: true.
 bool QuorUtilSetIsEmpty(QuorSetHandle set);
+/// Number of members; the set must not be null.
 std::int64_t QuorUtilSetGetMemberCount(QuorSetHandle set);
 /// The next member above `previous`, which is 0 to begin; 0 at the end.
 std::int64_t QuorUtilSetGetNextMember(QuorSetHandle set, std::int64_t previous);
 
 // ---- Frame and data set -------------------------------------------------------------------------
 
+/// QuorPlotType_e.
 std::int32_t QuorUtilFrameGetPlotType();
 void QuorUtilFrameSetPlotType(std::int32_t plotType);
+/// The frame's identity; never 0, and never given to another.
 std::int64_t QuorUtilFrameGetUniqueID();
 /// Discards the frame's data set and all that the frame holds.
 void QuorUtilFrameReset(std::int64_t frameId);
+/// Draws the frame anew: with true all of it, else what the host finds enough.
 void QuorUtilRedraw(bool doFullDrawing);
 
 /// Whether the frame has a data set.
@@ -240,7 +249,8 @@ bool QuorUtilDataSetIsAvailable();
 bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t* varCount);
 
 /// Creates the frame's data set without zones, in place of one that is there. Keys: "LoaderName",
-/// "DataSetTitle" (strings), "VarNames" (string list).
+/// "DataSetTitle" (strings), "VarNames" (string list). False: a key is missing or bad, or there is
+/// no memory; the frame is as it was.
 bool QuorUtilDataSetCreateX(QuorArgListHandle arguments);
 
 /// Adds a zone behind the last one; true if it exists afterwards. Keys: "Name" (string),
@@ -279,7 +289,9 @@ void QuorUtilZoneGetInfo(std::int32_t zone, std::int64_t* iMax, std::int64_t* jM
                          std::int64_t* kMax, void* further);
 /// QuorZoneType_e.
 std::int32_t QuorUtilZoneGetType(std::int32_t zone);
+/// False: there is no such zone, or the host refuses the name.
 bool QuorUtilZoneRename(std::int32_t zone, const char* name);
+/// A strand number from 1; 0 for none.
 std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone);
 void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand);
 /// False: there is no such zone. Asking is allowed all the same.
@@ -291,7 +303,8 @@ std::int32_t QuorUtilZoneGetNumByUniqueID(std::int64_t zoneId);
 std::int64_t QuorUtilVarGetUniqueID(std::int32_t var);
 std::int32_t QuorUtilVarGetNumByUniqueID(std::int64_t varId);
 
-/// On true `name` holds a host string that the caller gives back.
+/// On true `name` holds a host string that the caller gives back. False: there is no such variable,
+/// or no memory.
 bool QuorUtilVarGetName(std::int32_t var, char** name);
 
 /// Gives the zones of a borrowed set the style that the host finds fitting.
@@ -319,9 +332,12 @@ void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** valu
                                 std::int32_t* dataType);
 /// A handle for writing, owned by the host; null if the field can't be written.
 QuorFieldHandle QuorUtilDataValueGetWritableRef(std::int32_t zone, std::int32_t var);
-/// The array to fill, index order I fastest, then J, then K.
+/// The array to fill, index order I fastest, then J, then K. This and the next three, and
+/// QuorUtilDataValueGetClientData, may be called without the lock, for the sake of load callbacks.
 void* QuorUtilDataValueGetRawPtrByRef(QuorFieldHandle field);
+/// QuorFieldDataType_e of the array.
 std::int32_t QuorUtilDataValueGetRefType(QuorFieldHandle field);
+/// Stores single values where there is no plain array; null if the field can't be written.
 QuorFieldSetFunction QuorUtilDataValueRefGetSetFunc(QuorFieldHandle field);
 /// Copies `count` values of the field's type into the field. `firstIndex` counts from 1.
 /// Throws quorvia::InterruptedException if the user interrupts.
@@ -336,6 +352,7 @@ bool QuorUtilDataValueCustomLOD(std::int32_t zone, std::int32_t var, QuorFieldLo
                                 QuorFieldUnloadCallback unload, QuorFieldCleanupCallback cleanUp,
                                 QuorFieldValueCallback getValue, QuorFieldValueCallback setValue,
                                 void* clientData);
+/// What the field was registered with; null if it was not, or not any more.
 void* QuorUtilDataValueGetClientData(QuorFieldHandle field);
 
 /// Whether the field of `sourceZone` could be shared with `zone`: same type, same number of values.
@@ -344,9 +361,11 @@ bool QuorUtilDataValueIsSharingOk(std::int32_t sourceZone, std::int32_t zone, st
 bool QuorUtilDataValueShare(std::int32_t sourceZone, std::int32_t destinationZone,
                             std::int32_t var);
 /// Copies values into storage that QuorUtilDataValueAlloc made; a deferred source is fetched.
+/// False: the types or sizes differ, there is no storage, or the source's values can't be had.
 bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone, std::int32_t var);
 
-/// The node map of a finite-element zone, owned by the host; null for an ordered zone.
+/// The node map of a finite-element zone, owned by the host; null for an ordered zone, or if there
+/// is no memory.
 QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone);
 /// Element, corner and node count from 1.
 void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, std::int32_t corner,
@@ -357,7 +376,8 @@ void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, s
 /// Owned by the host; null if there is no such zone or no data set.
 QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone);
 QuorAuxDataHandle QuorUtilAuxDataDataSetGetRef();
-/// Sets a string item, in place of one of the same name. `type` is 0; `retain` is 1.
+/// Sets a string item, in place of one of the same name. `type` is 0; `retain` is 1. False: the
+/// host does not take the name or the text.
 bool QuorUtilAuxDataSetItem(QuorAuxDataHandle auxData, const char* name, const char* text,
                             std::int32_t type, std::int32_t retain);
 

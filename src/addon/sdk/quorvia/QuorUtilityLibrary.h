@@ -24,6 +24,7 @@ public:
     /// `subTask`, which now owns it. A sub-task must end before its parent.
     virtual std::unique_ptr<TaskProgress>& createSubTask(std::unique_ptr<TaskProgress>& subTask,
                                                          std::int64_t weight) = 0;
+    /// How many calls of step() and stepWithMessage() fill the task's share of the bar.
     virtual void setStepCount(std::int64_t steps) = 0;
     /// Shows the text. False: the user wants the operation to stop.
     virtual bool setMessage(const std::string& text) = 0;
@@ -33,10 +34,12 @@ public:
     virtual bool stepWithMessage(const std::string& text) = 0;
 };
 
-/// The top task of a new progress bar; the bar closes with it.
+/// The top task of a new progress bar of so many steps; the bar closes with it. Throws
+/// std::bad_alloc.
 QUORVIA_HOST_API std::unique_ptr<TaskProgress> createTaskProgressBar(std::int64_t steps);
 
-/// While one lives, the host holds back its notifications about solution times.
+/// While one lives, the host holds back its notifications about solution times. It may be made and
+/// destroyed without the lock.
 class QUORVIA_HOST_API SolutionTimeNotificationDeferrer {
 public:
     SolutionTimeNotificationDeferrer();
