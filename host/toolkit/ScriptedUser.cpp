@@ -39,6 +39,7 @@ void ScriptedUser::takeLooksLeft() {
 
 void ScriptedUser::clearScript() {
     script_.clear();
+    fileChoices_.clear();
     problem_.clear();
     cancelledDialogs_ = 0;
 }

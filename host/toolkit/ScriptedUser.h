@@ -44,8 +44,8 @@ public:
     void takeLooksLeft();
     void clearScript();
 
-    /// Entries that are still to be played.
-    std::int64_t entriesLeft() const { return static_cast<std::int64_t>(script_.size()); }
+    /// Entries that are still to be played, file choices that nobody asked for included.
+    std::size_t entriesLeft() const { return script_.size() + fileChoices_.size(); }
     /// Of the first step that could not be done, after which the script was given up and the dialog
     /// cancelled; empty if there was none.
     const std::string& problem() const { return problem_; }

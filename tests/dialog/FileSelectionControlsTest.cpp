@@ -101,7 +101,8 @@ TEST_F(SelectionControls, TypedNameFileAlwaysStands) {
 
 class NameFileBrowse : public LoadDialogTest {
 protected:
-    void browse(const host::ScriptEntry& choice) {
+    static void doNothing() {}
+    void browse(const host::ScriptEntry& choice = host::ScriptLook(doNothing)) {
         retain({"dir/a.x", "dir/b.x"}, {"a.q"}, {}, "old.nam");
         open({press(nameFileBrowse), choice, meanwhile([] {
                   shownName_ = text(nameFileField);
@@ -126,7 +127,7 @@ TEST_F(NameFileBrowse, CancelledLeavesTheName) {
 
 TEST_F(NameFileBrowse, ThatTheHostFailsLeavesTheName) {
     host().failCall("QuorUtilDialogGetFileName", 1);
-    browse(pick({"dir/new.nam"}));
+    browse(); // the user is not asked
     EXPECT_EQ(storedName_, "old.nam");
 }
 

@@ -6,11 +6,12 @@
 #include <fmt/ranges.h>
 
 namespace quorvia::host {
-namespace {
 
 std::string counted(std::size_t count, std::string_view thing) {
     return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
 }
+
+namespace {
 
 std::string fileNames(const std::vector<std::string>& files) {
     std::string result = std::filesystem::path(files.front()).filename().string();

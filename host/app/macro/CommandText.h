@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "app/macro/Macro.h"
 #include "describe/Outcome.h"
@@ -14,5 +15,8 @@ std::string commandText(const MacroCommand& command);
 
 /// "3 zones, 6 variables", or "no data set".
 std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet);
+
+/// "1 zone", "3 zones".
+std::string counted(std::size_t count, std::string_view thing);
 
 } // namespace quorvia::host

@@ -34,7 +34,7 @@ struct PressAction_s {
     std::optional<FileColumn_e> column;
 };
 struct SelectItemsAction_s {
-    std::vector<std::int32_t> positions; // from 1, ascending
+    std::vector<std::int32_t> positions; // from 1, in any order
     FileColumn_e column = FileColumn_e::Grid;
 };
 struct TypeAction_s {

@@ -104,7 +104,10 @@ public:
             action.column);
         if (list == nullptr)
             return problem("there is no such list");
-        return {SelectItems{list->id, action.positions}, "", false};
+        std::vector<std::int32_t> positions = action.positions; // a person clicks in any order
+        std::sort(positions.begin(), positions.end());
+        positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
+        return {SelectItems{list->id, std::move(positions)}, "", false};
     }
     DialogMove operator()(const TypeAction_s& action) const {
         const auto fields = controlsWhere(dialog_, [&](const Control& control) {

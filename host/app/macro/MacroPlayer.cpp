@@ -168,7 +168,7 @@ private:
         if (script.cancelledDialogs() > 0)
             account += ", the dialog was still open and was cancelled";
         if (script.entriesLeft() > 0)
-            account += fmt::format(", {} dialog actions were left", script.entriesLeft());
+            account += fmt::format(", {} left", counted(script.entriesLeft(), "dialog action"));
         script.clearScript();
         if (!problem.empty())
             throw CommandProblem(problem);

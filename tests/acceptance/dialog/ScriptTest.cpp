@@ -106,7 +106,25 @@ TEST_F(DialogScript, AccountTellsOfADialogThatWasLeftOpen) {
 
 TEST_F(DialogScript, AccountTellsOfActionsThatWereLeft) {
     expectIn(account(atDialog({grid_}, {press("OK"), toPage(subsetPage), press("OK")})),
-             "loaded, 2 dialog actions were left");
+             "loaded, 2 dialog actions left");
+    expectIn(account(atDialog({grid_}, {press("OK"), press("OK")})),
+             "loaded, 1 dialog action left");
+}
+
+TEST_F(DialogScript, FilesThatNoChooserAskedForAreNotForTheNextDialog) {
+    Commands commands = atDialog({grid_}, {choose({solution_}), press("OK")});
+    for (const Json& next :
+         atDialog({grid_}, {press("Add Files...", "Solution"), describe("next"), press("Cancel")}))
+        commands.push_back(next);
+    play(commands);
+    EXPECT_EQ(listOf(described("next"), "Solution")["items"], Json::array());
+    expectIn(account(commands), "loaded, 1 dialog action left");
+}
+
+TEST_F(DialogScript, ItemsAreSelectedInAnyOrder) {
+    const std::string other = series_.grid("other.x");
+    const Json& shown = shownAfter({grid_, other}, {selectItems({2, 1, 2}, "Grid")});
+    EXPECT_EQ(listOf(shown, "Grid")["selected"], Json({1, 2}));
 }
 
 TEST_F(DialogScript, DescribesBehindTheDialogToo) {
