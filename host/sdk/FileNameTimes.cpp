@@ -26,17 +26,6 @@ bool isAllDigits(std::string_view text) {
     return !text.empty() && skipDigits(text, 0) == text.size();
 }
 
-// What of the path may hold the time.
-std::string_view searchedPart(std::string_view path) {
-    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
-    const auto start = std::find_if(path.rbegin(), path.rend(), isSeparator);
-    const std::string_view name = path.substr(static_cast<std::size_t>(path.rend() - start));
-    const std::size_t point = name.rfind('.');
-    if (point == std::string_view::npos || isAllDigits(name.substr(point + 1)))
-        return name;
-    return name.substr(0, point);
-}
-
 // The end of a fraction or exponent that begins at `position` with `digitsFrom` characters before
 // its digits; `position` itself if there is none.
 std::size_t skipWithDigits(std::string_view text, std::size_t position, std::size_t digitsFrom) {
@@ -56,6 +45,26 @@ std::size_t endOfNumber(std::string_view text, std::size_t begin) {
     const bool hasSign =
         fraction + 1 < text.size() && (text[fraction + 1] == '-' || text[fraction + 1] == '+');
     return skipWithDigits(text, fraction, hasSign ? 2 : 1);
+}
+
+/// As in t1.5e-3, whose end is no extension.
+bool isInsideNumber(std::string_view name, std::size_t point) {
+    std::size_t begin = point;
+    while (begin > 0 && isDigit(name[begin - 1]))
+        --begin;
+    return begin < point && endOfNumber(name, begin) == name.size();
+}
+
+// What of the path may hold the time.
+std::string_view searchedPart(std::string_view path) {
+    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
+    const auto start = std::find_if(path.rbegin(), path.rend(), isSeparator);
+    const std::string_view name = path.substr(static_cast<std::size_t>(path.rend() - start));
+    const std::size_t point = name.rfind('.');
+    if (point == std::string_view::npos || isAllDigits(name.substr(point + 1)) ||
+        isInsideNumber(name, point))
+        return name;
+    return name.substr(0, point);
 }
 
 bool hasMinus(std::string_view text, std::size_t begin) {

@@ -16,6 +16,7 @@ TEST(TimeFromFileName, IsTheLastNumber) {
         {"wing_12.p3d", 12.0},    // the digit of an extension that is no number
         {"t1.25e-03.q", 0.00125}, // an exponent behind a fraction
         {"t1.5e3.q", 1500.0},     //
+        {"t1.5e-3", 0.0015},      // also at the end, which is no extension then
         {"run2e3.q", 3.0},        // no fraction, no exponent
         {"q.7.", 7.0},            // a point at the end
         {"/d.5/q2", 2.0},         // directories don't count
