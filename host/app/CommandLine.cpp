@@ -86,7 +86,8 @@ void describeInput(CLI::App& app, RawLoad_s& raw) {
     addRepeatable(app, "--name", load.nameFiles, "FILE",
                   "A name file, likewise; repeatable, and the\nlast one counts");
     addRepeatable(app, "--set", raw.settings, "KEY=VALUE",
-                  "One more instruction behind the file lists,\ne.g. AUTODETECT=No; repeatable");
+                  "One more instruction behind the file lists,\ne.g. AUTODETECT=No; repeatable; "
+                  "not with FILE");
 }
 
 void addAddOn(CLI::App& app, std::string& path) {
@@ -188,8 +189,8 @@ ExitCode_e tellParseEnd(const CLI::App& app, const CLI::ParseError& end, std::os
     std::string text = end.what();
     std::replace(text.begin(), text.end(), '\n', ' ');
     const auto chosen = app.get_subcommands();
-    err << fmt::format("quorhost: error: {}\nquorhost {} --help tells more.\n", text,
-                       chosen.empty() ? "load" : chosen.front()->get_name());
+    err << fmt::format("quorhost: error: {}\nquorhost{} --help tells more.\n", text,
+                       chosen.empty() ? "" : ' ' + chosen.front()->get_name());
     return ExitCode_e::BadUsage;
 }
 

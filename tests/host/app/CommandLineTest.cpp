@@ -36,10 +36,11 @@ protected:
     }
 
     /// Bad usage whose line on standard error is `expected`.
-    void expectRefusal(const std::string& expected, const Strings& arguments) {
+    void expectRefusal(const std::string& expected, const Strings& arguments,
+                       const std::string& helped = "quorhost load") {
         err.str("");
         EXPECT_EQ(ExitCode_e::BadUsage, exitCode(arguments));
-        EXPECT_EQ("quorhost: error: " + expected + "\nquorhost load --help tells more.\n",
+        EXPECT_EQ("quorhost: error: " + expected + "\n" + helped + " --help tells more.\n",
                   err.str());
         EXPECT_EQ("", out.str());
     }
