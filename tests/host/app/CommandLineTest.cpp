@@ -144,7 +144,7 @@ TEST_F(CommandLine, StandardOutputHoldsOneThing) {
 }
 
 TEST_F(CommandLine, SomethingMustBeDone) {
-    expectRefusal("nothing to do: give the command load or macro", {});
+    expectRefusal("nothing to do: give the command load or macro", {}, "quorhost");
 }
 
 TEST_F(CommandLine, UnknownAndMissingWordsAreBadUsage) {
