@@ -183,13 +183,19 @@ Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int
             {boundary.kStart, boundary.kEnd, skipK}};
 }
 
-bool setUpBoundaryVars(const Plot3DFile_s& file, std::int32_t skipI, std::int32_t skipJ,
-                       std::int32_t skipK, const Plot3DBoundary_s& boundary, std::int32_t zone,
-                       std::int32_t lastVar, std::int32_t firstVar) {
+Plot3DSharedFile copyForFields(const Plot3DFile_s& file) {
+    Plot3DFilePtr copy;
+    copyPlot3DFile(file, copy, file.fileName.str()); // null if it fails
+    return copy;
+}
+
+bool setUpBoundaryVars(const Plot3DFile_s& file, const Plot3DSharedFile& shared, std::int32_t skipI,
+                       std::int32_t skipJ, std::int32_t skipK, const Plot3DBoundary_s& boundary,
+                       std::int32_t zone, std::int32_t lastVar, std::int32_t firstVar) {
     const std::optional<std::int64_t> gridOffset = gridOffsetOf(file, boundary.gridNumber);
     for (std::int32_t var = firstVar; var <= lastVar; ++var) {
         ClientDataPtr data = allocateClientData();
-        if (data == nullptr || !gridOffset)
+        if (data == nullptr || !gridOffset || !shared)
             return false;
         data->gridOffset = *gridOffset;
         data->varOrdinal = std::int64_t{var} - firstVar + 1;
@@ -198,9 +204,9 @@ bool setUpBoundaryVars(const Plot3DFile_s& file, std::int32_t skipI, std::int32_
         data->skipI = skipI;
         data->skipJ = skipJ;
         data->skipK = skipK;
+        data->file = shared;
         data->boundary = copyBoundary(boundary);
-        if (data->boundary == nullptr || !copyPlot3DFile(file, data->file, file.fileName.str()) ||
-            !setUpBoundaryVar(std::move(data), zone, var))
+        if (data->boundary == nullptr || !setUpBoundaryVar(std::move(data), zone, var))
             return false;
     }
     return true;

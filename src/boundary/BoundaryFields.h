@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "boundary/BoundaryFile.h"
 #include "plot3dfile/Plot3DFile.h"
@@ -10,9 +11,16 @@
 
 namespace quorvia::quorutildataio {
 
+/// By what the fields of one source file are read: a copy of its record, closed, which holds no
+/// positions. They share it, since it tells the dimensions of every grid; the host's lock keeps
+/// their fetches apart.
+using Plot3DSharedFile = std::shared_ptr<Plot3DFile_s>;
+
+/// Null: no memory.
+Plot3DSharedFile copyForFields(const Plot3DFile_s& file);
+
 /// What the host keeps for one variable of one boundary zone, in a block of its own memory. Nothing
-/// of the load has to live on for it; each field has its own copy of the file's record, so that two
-/// fetches can't disturb each other.
+/// of the load has to live on for it.
 struct Plot3DBoundaryClientData_s {
     std::int64_t gridOffset = 0; // file position of the first variable of the parent grid
     std::int64_t varOrdinal = 0; // the variable's place among those of the grid, from 1
@@ -22,7 +30,7 @@ struct Plot3DBoundaryClientData_s {
     std::int32_t skipI = 1;
     std::int32_t skipJ = 1;
     std::int32_t skipK = 1;
-    Plot3DFilePtr file; // closed; holds no positions
+    Plot3DSharedFile file;
 };
 
 /// The boundary's range along a direction, with the load's stride; its end is always selected.
@@ -34,12 +42,13 @@ struct Plot3DBoundaryRanges_s {
 Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int32_t skipI,
                                       std::int32_t skipJ, std::int32_t skipK);
 
-/// Has the host fetch the variables from `firstVar` to `lastVar` of a zone from `file` on demand.
-/// `file` must have been scanned, since its `varOffsets` tell where the grids are. False: they
-/// don't, or the host refuses a variable; those ahead of it stay set up.
-bool setUpBoundaryVars(const Plot3DFile_s& file, std::int32_t skipI, std::int32_t skipJ,
-                       std::int32_t skipK, const Plot3DBoundary_s& boundary, std::int32_t zone,
-                       std::int32_t lastVar, std::int32_t firstVar);
+/// Has the host fetch the variables from `firstVar` to `lastVar` of a zone from `file` on demand,
+/// by `shared`, its copy. `file` must have been scanned, since its `varOffsets` tell where the
+/// grids are. False: they don't, there is no copy, or the host refuses a variable; those ahead of
+/// it stay set up.
+bool setUpBoundaryVars(const Plot3DFile_s& file, const Plot3DSharedFile& shared, std::int32_t skipI,
+                       std::int32_t skipJ, std::int32_t skipK, const Plot3DBoundary_s& boundary,
+                       std::int32_t zone, std::int32_t lastVar, std::int32_t firstVar);
 
 /// The callbacks of a boundary zone's fields. A failed fetch, also an interrupted one, leaves the
 /// file closed and holds nothing; it may be tried again. Only a file that does not open is told.

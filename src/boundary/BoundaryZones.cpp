@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -115,7 +116,7 @@ private:
 
     /// The zone, its grid and its labels.
     bool addZone(const Plot3DBoundary_s& boundary, std::int32_t zone, std::int32_t strand,
-                 double time, std::int32_t step) const {
+                 double time, std::int32_t step) {
         const HostString name(QuorUtilStringListGetString(names_, boundary.nameIndex));
         const Plot3DBoundaryRanges_s ranges = rangesOf(boundary);
         return name &&
@@ -142,8 +143,7 @@ private:
     }
 
     /// Later time steps take the grid from the first where the host lets them.
-    bool setUpGridVars(const Plot3DBoundary_s& boundary, std::int32_t zone,
-                       std::int32_t step) const {
+    bool setUpGridVars(const Plot3DBoundary_s& boundary, std::int32_t zone, std::int32_t step) {
         const std::int32_t sourceZone = zone - (stepBase_ - firstBase_);
         if (step == 0 || !mayShare(sourceZone, zone))
             return setUpVars(gridFile_, boundary, zone, gridVarCount_, 1);
@@ -159,7 +159,7 @@ private:
         return true;
     }
 
-    bool setUpFlowVars(const Plot3DFileHandler& handler, std::int32_t zonesBefore) const {
+    bool setUpFlowVars(const Plot3DFileHandler& handler, std::int32_t zonesBefore) {
         const Plot3DFileHandler& first = handlers_.front();
         if (first.hasSolutionFile())
             return handler.hasSolutionFile() && setUpFile(*handler.solutionFile, zonesBefore);
@@ -170,7 +170,7 @@ private:
         return true;
     }
 
-    bool setUpFile(Plot3DFile_s& file, std::int32_t zonesBefore) const {
+    bool setUpFile(Plot3DFile_s& file, std::int32_t zonesBefore) {
         const OpenedFile opened(file);
         if (!opened)
             return false;
@@ -184,8 +184,11 @@ private:
     }
 
     bool setUpVars(const Plot3DFile_s& file, const Plot3DBoundary_s& boundary, std::int32_t zone,
-                   std::int32_t lastVar, std::int32_t firstVar) const {
-        return setUpBoundaryVars(file, options_.iRange.skip, options_.jRange.skip,
+                   std::int32_t lastVar, std::int32_t firstVar) {
+        Plot3DSharedFile& copy = copies_[&file];
+        if (!copy)
+            copy = copyForFields(file);
+        return setUpBoundaryVars(file, copy, options_.iRange.skip, options_.jRange.skip,
                                  options_.kRange.skip, boundary, zone, lastVar, firstVar);
     }
 
@@ -198,6 +201,7 @@ private:
     QuorSetHandle zonesAdded_;
     Plot3DFile_s& gridFile_;
     const std::int32_t gridVarCount_; // I-blank counted
+    std::map<const Plot3DFile_s*, Plot3DSharedFile> copies_;
     std::int32_t baseStrand_ = 0;
     std::int32_t firstBase_ = 0; // zones ahead of the first time step's boundaries
     std::int32_t stepBase_ = 0;  // and ahead of those of the step at work

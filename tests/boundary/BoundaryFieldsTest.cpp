@@ -225,6 +225,24 @@ TEST_F(BoundaryFields, EndOnceWithTheDataSet) {
     EXPECT_EQ(host().log().violations, Texts());
 }
 
+// The record tells the dimensions of every grid of the file.
+TEST_F(BoundaryFields, OfOneFileShareItsRecord) {
+    useSeries();
+    writeBoundaries("a.x", {"wall"}, {"1 2 1 $ 1 $ 1 1 F 0", "1 1 1 1 1 $ 1 $ F 0"});
+    loadWell();
+    const auto recordOfField = [](std::int32_t zoneNumber, std::size_t var) {
+        const void* data = zone(zoneNumber).fields[var].storage->deferral()->clientData();
+        return static_cast<const quorutildataio::Plot3DBoundaryClientData_s*>(data)->file.get();
+    };
+    std::int32_t first = 1;
+    while (parentOf(first) == 0)
+        ++first;
+    ASSERT_LT(first, zoneCount());
+    EXPECT_EQ(recordOfField(first, 0), recordOfField(first + 1, 2));
+    EXPECT_EQ(recordOfField(first, 4), recordOfField(first + 1, 5));
+    EXPECT_NE(recordOfField(first, 0), recordOfField(first, 4));
+}
+
 TEST_F(BoundaryFields, NeedTheFilesPositions) {
     const quorutildataio::Plot3DFilePtr file =
         recordOf(grid, 2, quorutildataio::Plot3DStyle_Classic);
@@ -233,7 +251,8 @@ TEST_F(BoundaryFields, NeedTheFilesPositions) {
     boundary.gridNumber = 2;
     makeOldDataSet({"X", "Y", "Z"}, 1);
     const HostLock lock(quorutildataio::addOnID);
-    EXPECT_FALSE(quorutildataio::setUpBoundaryVars(*file, 1, 1, 1, boundary, 1, 3, 1));
+    EXPECT_FALSE(quorutildataio::setUpBoundaryVars(*file, quorutildataio::copyForFields(*file), 1,
+                                                   1, 1, boundary, 1, 3, 1));
 }
 
 } // namespace
