@@ -53,8 +53,10 @@ Json undoEvent(const UndoOutcome_s& event) {
 
 Json auxData(const AuxDataItems& items) {
     Json result = Json::object();
-    for (const auto& [name, text] : items)
-        result[name] = text;
+    auto& members = result.get_ref<Json::object_t&>();
+    members.reserve(items.size());
+    for (const auto& [name, text] : items) // each name once, so that none need be looked for
+        static_cast<Json::object_t::Container&>(members).emplace_back(name, text);
     return result;
 }
 

@@ -84,27 +84,26 @@ std::string formatIndexOrNothing(std::int32_t value) {
 
 /// The members as runs, such as 1-3,7,12-13. Null: no memory.
 HostString formatSet(QuorSetHandle set) {
-    HostString text = HostString::copyOf("");
+    std::string text;
     std::int64_t previous = 0;
     bool runIsOpen = false;
-    for (std::int64_t member = QuorUtilSetGetNextMember(set, 0); text && member != 0;
+    for (std::int64_t member = QuorUtilSetGetNextMember(set, 0); member != 0;
          member = QuorUtilSetGetNextMember(set, member)) {
         if (previous == 0) {
-            appendToHostString(text, integerToText(member));
+            text = integerToText(member);
         } else if (member == previous + 1) {
             runIsOpen = true;
         } else {
             if (runIsOpen)
                 appendSetEdge(text, true, previous);
-            if (text)
-                appendSetEdge(text, false, member);
+            appendSetEdge(text, false, member);
             runIsOpen = false;
         }
         previous = member;
     }
-    if (text && runIsOpen)
+    if (runIsOpen)
         appendSetEdge(text, true, previous);
-    return text;
+    return HostString::copyOf(text);
 }
 
 } // namespace

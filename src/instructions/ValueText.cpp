@@ -132,8 +132,9 @@ void appendToHostString(HostString& target, const std::string& text) {
     target = HostString::copyOf(target.str() + text);
 }
 
-void appendSetEdge(HostString& target, bool endsRun, std::int64_t member) {
-    appendToHostString(target, (endsRun ? "-" : ",") + integerToText(member));
+void appendSetEdge(std::string& text, bool endsRun, std::int64_t member) {
+    text += endsRun ? '-' : ',';
+    text += integerToText(member);
 }
 
 } // namespace quorvia::quorutildataio

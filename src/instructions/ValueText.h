@@ -39,6 +39,6 @@ std::string integerToText(std::int64_t value);
 void appendToHostString(HostString& target, const std::string& text);
 
 /// Appends "-" and the member if it ends a run, "," and the member otherwise.
-void appendSetEdge(HostString& target, bool endsRun, std::int64_t member);
+void appendSetEdge(std::string& text, bool endsRun, std::int64_t member);
 
 } // namespace quorvia::quorutildataio

@@ -162,11 +162,11 @@ TEST_F(HostText, IsNullWithoutMemory) {
     EXPECT_EQ(text.get(), nullptr);
 }
 
-TEST_F(HostText, TakesEdgesOfRuns) {
-    HostString text = HostString::copyOf("1");
+TEST(SetEdge, EndsARunOrBeginsTheNext) {
+    std::string text = "1";
     appendSetEdge(text, true, 5);
     appendSetEdge(text, false, 7);
-    EXPECT_EQ(text.view(), "1-5,7");
+    EXPECT_EQ(text, "1-5,7");
 }
 
 } // namespace
