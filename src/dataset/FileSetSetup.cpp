@@ -127,7 +127,9 @@ private:
     std::int64_t scalarCount(const Plot3DFileHandler& handler) const {
         if (QuorUtilSetIsEmpty(options_.gridSet))
             return handler.getNumGrids();
-        return QuorUtilSetGetMemberCount(options_.gridSet);
+        // Members that name no grid have no scalars.
+        return std::min<std::int64_t>(QuorUtilSetGetMemberCount(options_.gridSet),
+                                      handler.getNumGrids());
     }
 
     /// A grid file that stands in several file sets has its arrays from the first.

@@ -75,6 +75,15 @@ bool forEachScalar(const Plot3DFile_s& file, SetItem setItem, SetTime setTime) {
     return true;
 }
 
+/// What a repeat token promises beyond that, which must not be taken for values. There may be less.
+void passOverMoreGammas(Plot3DFile_s& file) {
+    const std::int64_t taken =
+        static_cast<std::int64_t>(overflowItems.size()) + fieldCountLimit(file);
+    if (file.style == Plot3DStyle_Overflow && file.encoding == Plot3DEncoding_Ascii &&
+        taken < file.numScalars)
+        static_cast<void>(skipReals(file, static_cast<std::int32_t>(file.numScalars - taken)));
+}
+
 /// One scalar as text, from the number stream. Without `wantsText` it is only read past.
 bool readScalar(Plot3DFile_s& file, const char* itemName, bool wantsText, AuxDataText& text) {
     if (isIntegerItem(itemName)) {
@@ -155,6 +164,8 @@ bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool 
                                    context.extractTimes);
     };
     const bool ok = forEachScalar(file, setItem, setTime);
+    if (ok)
+        passOverMoreGammas(file);
     if (!ok && report)
         QuorUtilDialogErrMsg("Error loading Scalars.");
     return ok;

@@ -30,7 +30,6 @@ private:
     bool prepare();
     bool createDataSet();
     bool countVariables();
-    bool addVariables();
     bool doesSolutionFit() const;
     bool adjustZones();
     bool confirmZones();
@@ -69,6 +68,11 @@ bool DatasetStage::run() {
 
 /// Everything up to the first zone.
 bool DatasetStage::prepare() {
+    // Names and variables for all that an absurd header claims would fill the memory.
+    if (!areCountsPlausible(first)) {
+        reportFailedFileSet(first);
+        return false;
+    }
     zonesAdded = HostSet(QuorUtilSetAlloc(showErrors));
     varNames = HostStringList(QuorUtilStringListAlloc());
     if (!zonesAdded || !varNames)
@@ -86,7 +90,9 @@ bool DatasetStage::prepare() {
     addVarsToGrid = joinsLoneGrid(context);
     if (!countVariables() || !adjustZones())
         return false;
-    if (context.existingVarCount < varCount && context.existingZoneCount > 0 && !addVariables())
+    if (context.existingVarCount < varCount && context.existingZoneCount > 0 &&
+        !addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
+                             context.existingVarCount, varsAdded))
         return false;
     varTypes = HostArray<std::int32_t>::allocate(context.existingVarCount, "vardatatypes");
     if (!varTypes) {
@@ -112,17 +118,6 @@ bool DatasetStage::countVariables() {
         return true;
     QuorUtilPostLastErrorMessage();
     return false;
-}
-
-/// A file that can't hold as many variables as its header claims must not make any: they would
-/// stay when it fails.
-bool DatasetStage::addVariables() {
-    if (!areCountsPlausible(first)) {
-        reportFailedFileSet(first);
-        return false;
-    }
-    return addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
-                               context.existingVarCount, varsAdded);
 }
 
 /// Asked before zones are deleted. The first zones take the solution, whereas the check of the data

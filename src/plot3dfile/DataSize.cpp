@@ -31,24 +31,6 @@ std::int64_t scalarBytes(const Plot3DFile_s& file) {
     return isSolutionFile(file) ? realBytes(file) * file.numScalars : 0;
 }
 
-/// Passes over `count` reals of a text; those of a repeat token at once, since such a token can
-/// promise billions.
-bool skipReals(Plot3DFile_s& file, std::int32_t count) {
-    while (count > 0) {
-        if (file.repeatCount >= 1) {
-            const std::int32_t repeated = std::min(count, file.repeatCount);
-            file.repeatCount -= repeated;
-            count -= repeated;
-            continue;
-        }
-        double ignored = 0.0;
-        if (!readReal(file, ignored))
-            return false;
-        --count;
-    }
-    return true;
-}
-
 bool fitsText(Plot3DFile_s& file) {
     return skipReals(file, file.numScalars) && atRecordEnd(file);
 }

@@ -183,6 +183,22 @@ bool readReal(Plot3DFile_s& file, double& value) {
     return true;
 }
 
+bool skipReals(Plot3DFile_s& file, std::int32_t count) {
+    while (count > 0) {
+        if (file.repeatCount >= 1) {
+            const std::int32_t repeated = std::min(count, file.repeatCount);
+            file.repeatCount -= repeated;
+            count -= repeated;
+            continue;
+        }
+        double ignored = 0.0;
+        if (!readReal(file, ignored))
+            return false;
+        --count;
+    }
+    return true;
+}
+
 std::int64_t readPlainReals(Plot3DFile_s& file, std::int64_t count, double* values) {
     if (file.repeatCount >= 1 || !isSeparator(file.lookahead))
         return 0;

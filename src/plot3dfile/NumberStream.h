@@ -18,6 +18,10 @@ bool readInteger(Plot3DFile_s& file, std::int32_t& value);
 /// can be read; `value` is 0 then. In text a character that begins no number is passed over.
 bool readReal(Plot3DFile_s& file, double& value);
 
+/// Passes over `count` reals; those of a repeat token at once, since such a token can promise
+/// billions. False: there are not so many.
+bool skipReals(Plot3DFile_s& file, std::int32_t count);
+
 /// The bulk form for text: fills `values` with as many of the next `count` reals as can be taken
 /// whole from the stream's buffer and are spelled plainly. Gives how many, often fewer, also 0; the
 /// stream stands as if readReal had delivered them, and readReal knows what to do about the next.

@@ -218,10 +218,11 @@ TEST_F(FileSetSetup, TakesAnEmptySetForAllGrids) {
 }
 
 TEST_F(FileSetSetup, MindsNoMembersOfTheSetBeyondTheGrids) {
-    selectGrids({3, 7, 1000});
+    selectGrids({3, 7, 11, 1000});
     Plot3DFile_s& x = write("x", describeGrid(threeGrids));
-    ASSERT_TRUE(load({step(&x, &write("q1", solutionAt(threeGrids, 1))),
-                      step(&x, &write("q2", solutionAt(threeGrids, 2)))}));
+    Plot3DFile_s& q1 = write("q1", solutionAt(threeGrids, 1));
+    ASSERT_TRUE(load({step(&x, &q1), step(&x, &write("q2", solutionAt(threeGrids, 2)))}));
+    EXPECT_EQ(q1.auxDataOffsets.count(), 3);
     EXPECT_EQ(zoneCount(), 2);
     EXPECT_EQ(zone(2).solutionTime, 2.0);
 }

@@ -5,6 +5,7 @@
 #include "DatasetFixture.h"
 #include "dataset/ItemContext.h"
 #include "plot3dfile/FortranRecords.h"
+#include "plot3dfile/NumberStream.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
@@ -196,6 +197,15 @@ TEST_F(ScalarItem, OfOverflowTriesNoMoreGammasThanTheFileBearsOut) {
     EXPECT_TRUE(setUp(file));
     EXPECT_EQ(item(1, "G1000"), "2");
     EXPECT_EQ(item(1, "G1001"), "(none)");
+}
+
+TEST_F(ScalarItem, OfOverflowThatAreNotTriedAreNoValues) {
+    Plot3DFile_s& file = textOf("11*1 5000*2 7", Plot3DStyle_Overflow, 5011);
+    EXPECT_TRUE(setUp(file));
+    EXPECT_EQ(item(1, "G1001"), "(none)");
+    double next = 0.0;
+    EXPECT_TRUE(readReal(file, next));
+    EXPECT_EQ(next, 7.0);
 }
 
 TEST_F(ScalarItem, OfOneDimensionIsOneOfFourInEveryStyle) {

@@ -120,6 +120,13 @@ TEST_P(AbsurdCounts, InTextAreNotBelieved) {
 
 INSTANTIATE_TEST_SUITE_P(EachClaim, AbsurdCounts, ::testing::ValuesIn(claims));
 
+// A text may hold any number of values in a repeat token, but names are made of none of them.
+TEST_F(BadInputTest, VariablesInABigTextCostNoMemory) {
+    const std::string blanks(4'000'000, ' ');
+    EXPECT_EQ(attempt(solutionLoad("2 3 5 2147483647\n2147483647*0.5\n" + blanks)),
+              Fate_e::Refused);
+}
+
 // Markers that lie: a record of 2 GB in a file of a few bytes, records of negative length, a chain
 // of segments that never ends.
 TEST_F(BadInputTest, MarkersThatPointBehindTheFileAreRefused) {
