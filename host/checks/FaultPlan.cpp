@@ -23,6 +23,18 @@ void FaultPlan::interruptAtStep(std::int64_t n) {
     steps_ = 0;
 }
 
+void FaultPlan::endInterruption() noexcept {
+    interrupted_.store(false, std::memory_order_relaxed);
+    wasInterrupted_ = false;
+}
+
+void FaultPlan::endLoadOfDialog() noexcept {
+    if (interrupted_.exchange(false, std::memory_order_relaxed))
+        wasInterrupted_ = true;
+    if (steps_ > 0) // at the first launch nothing has run yet
+        interruptAt_ = 0;
+}
+
 void FaultPlan::clear() {
     calls_.fill(0);
     failures_.clear();

@@ -33,8 +33,13 @@ public:
     /// Safe in a signal handler.
     void interrupt() noexcept { interrupted_.store(true, std::memory_order_relaxed); }
     bool isInterrupted() const noexcept { return interrupted_.load(std::memory_order_relaxed); }
-    /// What runs has ended; the plan for later steps stands.
-    void endInterruption() noexcept { interrupted_.store(false, std::memory_order_relaxed); }
+    /// An import has ended; the plan for later steps stands.
+    void endInterruption() noexcept;
+    /// A dialog comes up, so that a load that ran from it has ended. The user may begin another,
+    /// which neither the interruption nor the plan of one is about.
+    void endLoadOfDialog() noexcept;
+    /// Whether a load of the dialog was interrupted since the import began.
+    bool wasInterrupted() const noexcept { return wasInterrupted_; }
 
     void clear();
 
@@ -47,6 +52,7 @@ private:
     std::int64_t steps_ = 0;
     std::int64_t interruptAt_ = 0; // 0 for never
     std::atomic<bool> interrupted_ = false;
+    bool wasInterrupted_ = false;
     static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets the flag");
 };
 

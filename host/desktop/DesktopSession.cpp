@@ -20,8 +20,9 @@ ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult& result) {
 
 DesktopSession::DesktopSession(QWidget& mainWindow)
     : mainWindow_(mainWindow), windows_(mainWindow, actions_), user_(windows_, actions_),
-      progress_(
-          feed_, [] { host().requestInterrupt(); }, &mainWindow) {
+      progress_(feed_,
+                {[] { host().requestInterrupt(); }, [] { return host().interruptRequested(); }},
+                &mainWindow) {
     setUpHost();
 }
 

@@ -1,6 +1,7 @@
 // The thread on which the guest runs: one piece of work at a time, so that no window ever waits for
 // it. While work runs, the host and all that is in it belong to that thread; the windows get them
-// back when the work has ended. ReferenceHost::requestInterrupt alone may be called meanwhile.
+// back when the work has ended. ReferenceHost::requestInterrupt and interruptRequested alone may be
+// called meanwhile.
 #pragma once
 
 #include <functional>

@@ -18,8 +18,8 @@ constexpr int kWidth = 480;
 
 } // namespace
 
-ProgressWindow::ProgressWindow(ProgressFeed& feed, std::function<void()> cancel, QWidget* parent)
-    : QDialog(parent), feed_(feed), cancel_(std::move(cancel)),
+ProgressWindow::ProgressWindow(ProgressFeed& feed, Cancellation_s cancellation, QWidget* parent)
+    : QDialog(parent), feed_(feed), cancellation_(std::move(cancellation)),
       cancelButton_(QStringLiteral("Cancel")) {
     setObjectName(QStringLiteral("progress"));
     setWindowModality(Qt::ApplicationModal);
@@ -43,9 +43,7 @@ ProgressWindow::ProgressWindow(ProgressFeed& feed, std::function<void()> cancel,
 
 void ProgressWindow::begin(const QString& title) {
     setWindowTitle(title);
-    cancelled_ = false;
     barIsOpen_ = false;
-    cancelButton_.setEnabled(true);
     showFraction(0.0);
     fullText_.clear();
     feed_.take(); // what is left of earlier work
@@ -73,7 +71,7 @@ void ProgressWindow::showState(const ProgressState& state) {
     }
     showFraction(state.fraction);
     fullText_ = shown(state.text);
-    showText();
+    showCancellation();
 }
 
 // A guest that has not counted a step yet, or never does, is at work all the same: the bar moves
@@ -92,18 +90,23 @@ void ProgressWindow::comeUp() {
 }
 
 void ProgressWindow::showText() {
-    const QString text = cancelled_ ? QStringLiteral("Cancelling...") : fullText_;
+    const QString text = cancellation_.isRequested() ? QStringLiteral("Cancelling...") : fullText_;
     text_.setText(text_.fontMetrics().elidedText(text, Qt::ElideMiddle, text_.width()));
     text_.setToolTip(text);
 }
 
-void ProgressWindow::reject() {
-    if (cancelled_)
-        return;
-    cancelled_ = true;
-    cancelButton_.setEnabled(false);
+void ProgressWindow::showCancellation() {
+    cancelButton_.setEnabled(!cancellation_.isRequested());
     showText();
-    cancel_();
+}
+
+// What has ended since the last look can't be stopped, and the next load is not meant.
+void ProgressWindow::reject() {
+    look();
+    if (!barIsOpen_)
+        return;
+    cancellation_.request();
+    showCancellation();
 }
 
 void ProgressWindow::resizeEvent(QResizeEvent* event) {

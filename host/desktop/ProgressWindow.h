@@ -14,10 +14,16 @@
 
 namespace quorvia::host {
 
+/// How the work is stopped.
+struct Cancellation_s {
+    std::function<void()> request;
+    std::function<bool()> isRequested; // and stands: a later load of the same work may go on
+};
+
 class ProgressWindow : public QDialog {
 public:
-    /// `feed` is borrowed; `cancel` is called once for each piece of work at most.
-    ProgressWindow(ProgressFeed& feed, std::function<void()> cancel, QWidget* parent);
+    /// `feed` is borrowed.
+    ProgressWindow(ProgressFeed& feed, Cancellation_s cancellation, QWidget* parent);
 
     /// From the beginning of a piece of work to its end the window looks at the feed. It comes up
     /// once there is something to tell, and not for work that is over at once.
@@ -35,11 +41,12 @@ protected:
 private:
     void showState(const ProgressState& state);
     void showText();
+    void showCancellation();
     void showFraction(double fraction);
     void comeUp();
 
     ProgressFeed& feed_;
-    std::function<void()> cancel_;
+    Cancellation_s cancellation_;
     QLabel text_;
     QProgressBar bar_;
     QPushButton cancelButton_;
@@ -47,7 +54,6 @@ private:
     QElapsedTimer sinceBegin_;
     QString fullText_;
     bool barIsOpen_ = false; // the guest has something to tell
-    bool cancelled_ = false;
 };
 
 } // namespace quorvia::host

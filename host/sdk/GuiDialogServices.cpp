@@ -56,10 +56,12 @@ void QuorGUIDialogLaunch(std::int32_t dialog) {
     Dialog* found = call.dialog(dialog);
     if (found == nullptr)
         return;
-    if (found->open)
+    if (found->open) {
         call.violation("the dialog is open");
-    else
-        launch(call.host().toolkit, *found, *call.host().user);
+        return;
+    }
+    call.host().faults.endLoadOfDialog();
+    launch(call.host().toolkit, *found, *call.host().user);
 }
 
 void QuorGUIDialogDrop(std::int32_t dialog) {

@@ -51,7 +51,8 @@ LoadResult runLoader(HostState& host, const std::vector<std::string>& texts, Cal
         host.addViolation(result.hostError);
     }
     watch.finish();
-    result.interrupted = host.faults.isInterrupted();
+    result.interrupted =
+        host.faults.isInterrupted() || (!result.ok && host.faults.wasInterrupted());
     host.faults.endInterruption();
     return result;
 }

@@ -1,6 +1,7 @@
 // The reference host as its programs and tests see it: one frame, the services that a guest calls,
 // and what a user does at the host: import files, answer questions, look at values, interrupt.
-// Everything runs on the thread of the caller; requestInterrupt alone may come from elsewhere.
+// Everything runs on the thread of the caller; requestInterrupt and interruptRequested alone may
+// come from elsewhere.
 #pragma once
 
 #include <cstdint>
@@ -81,8 +82,8 @@ public:
     void setAnswers(std::deque<bool> answers, bool afterwards);
     /// What the scripted user picks in file dialogs, one entry for each; none left means Cancel.
     void setFileChoices(std::deque<std::vector<std::string>> choices);
-    /// Stops the load or read that runs. Safe in a signal handler. It stands until an import ends,
-    /// or until clearFaults or reset.
+    /// Stops the load or read that runs. Safe in a signal handler. It stands until an import ends
+    /// or shows a dialog, or until clearFaults or reset.
     void requestInterrupt() noexcept;
     bool interruptRequested() const noexcept;
 
@@ -105,7 +106,8 @@ public:
     /// Calls since reset, or since clearFaults.
     std::int64_t callCount(std::string_view operation) const;
     /// The n-th step of an import (setMessage, step and stepWithMessage counted together, from 1)
-    /// and every one after it asks the guest to stop.
+    /// and every one after it asks the guest to stop. Of an import that shows a dialog the first
+    /// load is meant, and no other that the user begins from there.
     void interruptAtStep(std::int64_t n);
     /// Steps of the last import, or since the last interruptAtStep if that is later.
     std::int64_t stepCount() const;

@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "DialogFixture.h"
+#include "quorvia/QuorUtilityLibrary.h"
 #include "toolkit/DialogLoop.h"
 
 namespace quorvia::host {
@@ -50,6 +51,20 @@ TEST_F(DialogLoopTest, ButtonsOfTheDialogCallTheGuest) {
     launchAndPlay({PressDialogButton{DialogButton::Help}, PressDialogButton{DialogButton::Apply},
                    ok, cancel});
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "help", "apply", "ok"}));
+}
+
+TEST_F(DialogLoopTest, LaunchEndsTheInterruptionOfWhatRanBefore) {
+    host().interruptAtStep(1);
+    EXPECT_FALSE(createTaskProgressBar(2)->step());
+    launchAndPlay({cancel});
+    EXPECT_FALSE(host().interruptRequested());
+    EXPECT_TRUE(createTaskProgressBar(2)->step());
+}
+
+TEST_F(DialogLoopTest, LaunchLeavesAnInterruptionThatIsToCome) {
+    host().interruptAtStep(1);
+    launchAndPlay({cancel});
+    EXPECT_FALSE(createTaskProgressBar(2)->step());
 }
 
 TEST_F(DialogLoopTest, PagesAreLeftThenEntered) {

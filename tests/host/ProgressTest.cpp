@@ -27,6 +27,14 @@ TEST_F(ProgressTest, InterruptsAtTheNthStepAndAllAfterIt) {
     EXPECT_EQ(host().stepCount(), 3);
 }
 
+TEST_F(ProgressTest, InterruptionStandsOverTheNextBarOfTheSameLoad) {
+    host().interruptAtStep(1);
+    EXPECT_FALSE(bar_->step());
+    bar_.reset();
+    bar_ = createTaskProgressBar(2);
+    EXPECT_FALSE(bar_->step());
+}
+
 TEST_F(ProgressTest, UserInterruptsAtOnce) {
     host().requestInterrupt();
     EXPECT_FALSE(bar_->step());

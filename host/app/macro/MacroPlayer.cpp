@@ -51,6 +51,22 @@ private:
     std::vector<FailCommand_s> failures_;
 };
 
+bool mayGoOn(const PlaySettings_s& settings) {
+    return !settings.mayGoOn || settings.mayGoOn();
+}
+
+/// The step as long as the macro goes on; afterwards the dialog is cancelled.
+ScriptEntry whileItMayGoOn(const PlaySettings_s& settings, ScriptEntry entry) {
+    const auto* step = std::get_if<DialogStep>(&entry);
+    if (step == nullptr)
+        return entry;
+    return DialogStep([&settings, step = *step](const Dialog& dialog) {
+        if (mayGoOn(settings))
+            return step(dialog);
+        return DialogMove{PressDialogButton{DialogButton::Cancel}, "", false};
+    });
+}
+
 class Player {
 public:
     Player(const PlaySettings_s& settings, ReferenceHost& host) : settings_(settings), host_(host) {
@@ -78,8 +94,11 @@ public:
         return "done";
     }
     std::string operator()(const DialogCommand_s& command) {
-        host_.script().addToScript(
-            dialogSteps(command, [this](const std::string& name) { describeAs(name); }));
+        std::vector<ScriptEntry> steps =
+            dialogSteps(command, [this](const std::string& name) { describeAs(name); });
+        for (ScriptEntry& step : steps)
+            step = whileItMayGoOn(settings_, std::move(step));
+        host_.script().addToScript(std::move(steps));
         return "done";
     }
     std::string operator()(const HostCommand_s& command);
@@ -247,10 +266,6 @@ std::string Player::operator()(const DeleteZonesCommand_s& command) {
         throw CommandProblem(fmt::format("there is no zone {}", last));
     dataSet->deleteZones(command.zones);
     return "done";
-}
-
-bool mayGoOn(const PlaySettings_s& settings) {
-    return !settings.mayGoOn || settings.mayGoOn();
 }
 
 /// Whether all of them were carried out.

@@ -12,10 +12,11 @@
 namespace quorvia::host {
 
 struct PlaySettings_s {
-    std::string addOnPath;              // with a directory: a bare name is searched elsewhere
-    bool answerYes = false;             // questions behind the last of the macro's answers
-    std::function<bool()> mayGoOn = {}; // asked before each command; false ends the macro
-    FetchObserver fetchObserver = {};   // of the fetching for descriptions
+    std::string addOnPath;  // with a directory: a bare name is searched elsewhere
+    bool answerYes = false; // questions behind the last of the macro's answers
+    /// Asked before each command, and each action at a dialog; false ends the macro.
+    std::function<bool()> mayGoOn = {};
+    FetchObserver fetchObserver = {}; // of the fetching for descriptions
 };
 
 /// What a command was and how it ended, for people.

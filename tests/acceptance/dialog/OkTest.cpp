@@ -91,6 +91,43 @@ TEST_F(DialogOk, FailedLoadComesBackAndCanBeMended) {
     EXPECT_EQ(zoneNames(last()).size(), 2U);
 }
 
+TEST_F(DialogOk, InterruptedLoadComesBackAndTheNextOneIsWhole) {
+    for (const int step : {1, 5, 12}) {
+        Commands commands = {command("interruptAtStep", step)};
+        for (const Json& each : atDialog({grid_, solution_}, {press("OK"), describe("back"),
+                                                              press("OK"), describe("loaded")}))
+            commands.push_back(each);
+        play(commands);
+        EXPECT_EQ(described("back")["dialog"]["open"], true) << step;
+        EXPECT_TRUE(described("back")["dataSet"].is_null()) << step;
+        EXPECT_EQ(described("loaded")["ok"], true) << step;
+        EXPECT_EQ(zoneNames(last()).size(), 2U) << step;
+    }
+}
+
+TEST_F(DialogOk, InterruptionOfALoadThatFailedBeforeItsStepIsForgotten) {
+    const std::string broken = directory().write("broken.q", "no numbers here");
+    Commands commands = {command("interruptAtStep", 12)};
+    for (const Json& each : atDialog(
+             {grid_, broken}, {press("OK"), press("Remove All", "Solution"), choose({solution_}),
+                               press("Add Files...", "Solution"), press("OK")}))
+        commands.push_back(each);
+    play(commands);
+    EXPECT_EQ(last()["ok"], true);
+    EXPECT_EQ(zoneNames(last()).size(), 2U);
+}
+
+TEST_F(DialogOk, InterruptionWaitsForTheFirstLoad) {
+    Commands commands = {command("interruptAtStep", 1)};
+    for (const Json& each :
+         atDialog({grid_}, {press("Remove All", "Grid"), press("OK"), choose({grid_}),
+                            press("Add Files...", "Grid"), press("OK"), describe("back")}))
+        commands.push_back(each);
+    play(commands);
+    EXPECT_EQ(described("back")["dialog"]["open"], true);
+    EXPECT_TRUE(last()["dataSet"].is_null());
+}
+
 TEST_F(DialogOk, RefusedWithFunctionFilesBringsThemBackAsSolutions) {
     const std::string broken = directory().write("broken.f", "no numbers here");
     playAtDialog({grid_, solution_, broken}, {press("OK"), describe("back")});

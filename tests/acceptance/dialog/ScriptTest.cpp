@@ -1,9 +1,13 @@
 // How a macro's actions are played: where they go on, what becomes of those that are left, and what
 // is said of one that can't be done.
 #include <sstream>
+#include <utility>
 
 #include "acceptance/dialog/DialogSession.h"
 #include "app/Program.h"
+#include "app/macro/MacroParser.h"
+#include "app/macro/MacroPlayer.h"
+#include "session/ReferenceHost.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -132,6 +136,26 @@ TEST_F(DialogScript, DescribesBehindTheDialogToo) {
     EXPECT_EQ(described("loaded")["ok"], true);
     EXPECT_EQ(described("loaded")["dialog"]["open"], false);
     EXPECT_EQ(described("loaded")["dataSet"]["zones"].size(), last()["dataSet"]["zones"].size());
+}
+
+TEST_F(DialogScript, EndsWhenTheUserEndsTheSession) {
+    host::ReferenceHost& host = host::ReferenceHost::instance();
+    host.reset();
+    std::string error;
+    const auto macro = host::parseMacro(
+        command("commands", Json(atDialog({grid_}, {press("OK"), press("OK")}))).dump(), error);
+    ASSERT_TRUE(macro.has_value()) << error;
+    bool mayGoOn = true;
+    host.settings().progressObserver = [&host, &mayGoOn](const host::ProgressState&) {
+        if (std::exchange(mayGoOn, false))
+            host.requestInterrupt();
+    };
+    host::PlaySettings_s settings{PLOT3D_ADDON_PATH};
+    settings.mayGoOn = [&mayGoOn] { return mayGoOn; };
+    const host::PlayedMacro_s played = host::playMacro(*macro, settings, host);
+    EXPECT_FALSE(played.session.final.dataSet.has_value());
+    EXPECT_EQ(played.account.back().ending, "interrupted");
+    host.reset();
 }
 
 TEST_F(DialogScript, NoneAtAllCancelsTheDialog) {

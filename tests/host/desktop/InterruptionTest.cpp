@@ -33,13 +33,21 @@ protected:
         };
     }
     void pickSeries(bool append = kInPlace, int steps = kAllSteps) {
+        constexpr bool kWithoutDialog = false;
+        person().pickFiles(slowSeries(steps), kWithoutDialog, append);
+    }
+    void pickSeriesWithDialog() {
+        constexpr bool kAdvanced = true;
+        constexpr int kFewSteps = 9;
+        person().pickFiles(slowSeries(kFewSteps), kAdvanced);
+    }
+    std::vector<std::string> slowSeries(int steps) {
         slowDown();
         std::vector<std::string> names = {"vortex.x"};
         for (int step = 0; step < steps; ++step)
             names.push_back("vortex_t" + std::to_string(step / 4) + "." +
                             std::to_string(step % 4 * 25) + (step % 4 == 0 ? "0" : "") + ".q");
-        constexpr bool kWithoutDialog = false;
-        person().pickFiles(files(names), kWithoutDialog, append);
+        return files(names);
     }
     /// Once its text contains `text`.
     void whenProgressShows(const std::function<void(ProgressWindow&)>& act, const char* text = "") {
@@ -126,6 +134,41 @@ TEST_F(InterruptionTest, NextLoadIsNotStopped) {
     choose(QStringLiteral("PLOT3D Loader..."));
     import({"vortex.x", "vortex_t0.25.q"});
     EXPECT_NE(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(InterruptionTest, OkLoadsAfterALoadFromTheDialogWasCancelled) {
+    pickSeriesWithDialog();
+    person().clickInDialog(QStringLiteral("OK"));
+    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
+                      "Setting up Zone");
+    person().answerBox();
+    person().clickInDialog(QStringLiteral("OK"));
+    whenProgressShows(
+        [](ProgressWindow& progress) {
+            EXPECT_TRUE(progress.findChild<QPushButton*>()->isEnabled());
+        },
+        "Setting up Zone");
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(person().boxTexts(), std::vector<std::string>{"Plot3D Data load interrupted"});
+    EXPECT_EQ(status(), QStringLiteral("Imported: 9 zones, 6 variables"));
+}
+
+TEST_F(InterruptionTest, SecondLoadFromTheDialogCanBeCancelledToo) {
+    pickSeriesWithDialog();
+    for (int load = 0; load < 2; ++load) {
+        person().clickInDialog(QStringLiteral("OK"));
+        whenProgressShows(
+            [](ProgressWindow& progress) {
+                click(*progress.findChild<QPushButton*>());
+                EXPECT_EQ(progress.findChild<QLabel*>()->text(), QStringLiteral("Cancelling..."));
+            },
+            "Setting up Zone");
+        person().answerBox();
+    }
+    person().clickInDialog(QStringLiteral("Cancel"));
+    choose(QStringLiteral("PLOT3D Loader..."));
+    EXPECT_EQ(person().boxTexts(), std::vector<std::string>(2, "Plot3D Data load interrupted"));
+    EXPECT_EQ(status(), QStringLiteral("Import cancelled: no data set"));
 }
 
 TEST_F(InterruptionTest, WindowThatIsClosedMeanwhileClosesOnceTheLoadHasStopped) {
