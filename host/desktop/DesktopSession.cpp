@@ -27,7 +27,9 @@ DesktopSession::DesktopSession(QWidget& mainWindow)
 }
 
 DesktopSession::~DesktopSession() {
-    user_.leave(); // nobody is there to read what the guest may still have to say
+    leave(); // nobody is there to read what the guest may still have to say
+    work_.waitForEnd();
+    host().clearFaults(); // the guest is not interrupted in what it still has to clear up
     host().frame().reset();
     if (library_)
         library_->unload();
@@ -49,7 +51,7 @@ void DesktopSession::start(const QString& title, GuestWork::Work work, std::func
         host()
             .clearFaults(); // Cancel may have come too late for this, and is not meant for the next
         collectViolations();
-        if (!failure.empty())
+        if (!failure.empty() && !user_.isLeaving())
             showText(&mainWindow_, failure, TextKind_e::Error);
         done();
     });

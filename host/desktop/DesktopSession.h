@@ -36,8 +36,8 @@ class DesktopSession {
 public:
     /// Resets the host and sits down before it. `mainWindow` is borrowed.
     explicit DesktopSession(QWidget& mainWindow);
-    /// Nothing may be running. Discards the data set, unloads the library and leaves the host
-    /// reset.
+    /// Stops what runs and waits for it; it calls back no more. Discards the data set, unloads the
+    /// library and leaves the host reset.
     ~DesktopSession();
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;

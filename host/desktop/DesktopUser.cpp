@@ -12,12 +12,18 @@ void post(GuestWindows& windows, Task task) {
     QMetaObject::invokeMethod(&windows, std::move(task), Qt::QueuedConnection);
 }
 
-template <typename Task>
-void postAndWait(GuestWindows& windows, Task task) {
-    QMetaObject::invokeMethod(&windows, std::move(task), Qt::BlockingQueuedConnection);
-}
-
 } // namespace
+
+// The program may have ended between the question and its turn.
+template <typename Ask>
+void DesktopUser::askThere(Ask ask) {
+    const auto askIfThere = [this, &ask] {
+        if (!leaving_)
+            ask();
+    };
+    if (!leaving_)
+        QMetaObject::invokeMethod(&windows_, askIfThere, Qt::BlockingQueuedConnection);
+}
 
 void DesktopUser::leave() {
     leaving_ = true;
@@ -38,16 +44,14 @@ DialogAction DesktopUser::nextAction(const Dialog& dialog) {
 // What was pressed before a box came up was meant for a dialog without that message.
 bool DesktopUser::answer(const std::string& question) {
     bool yes = false;
-    if (!leaving_)
-        postAndWait(windows_, [this, &yes, &question] { yes = windows_.ask(question); });
+    askThere([this, &yes, &question] { yes = windows_.ask(question); });
     actions_.clear();
     return yes;
 }
 
 std::vector<std::string> DesktopUser::chooseFiles(const FileRequest& request) {
     std::vector<std::string> files;
-    if (!leaving_)
-        postAndWait(windows_, [this, &files, &request] { files = windows_.chooseFiles(request); });
+    askThere([this, &files, &request] { files = windows_.chooseFiles(request); });
     actions_.clear();
     return files;
 }
@@ -62,8 +66,7 @@ void DesktopUser::dialogDropped(const Dialog& dialog) {
 }
 
 void DesktopUser::read(const std::string& text, bool isError) {
-    if (!leaving_)
-        postAndWait(windows_, [this, &text, isError] { windows_.tell(text, isError); });
+    askThere([this, &text, isError] { windows_.tell(text, isError); });
     actions_.clear();
 }
 

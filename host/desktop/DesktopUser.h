@@ -20,6 +20,7 @@ public:
 
     /// The program ends: from now on everything is cancelled, and nothing is shown.
     void leave();
+    bool isLeaving() const { return leaving_; }
 
     DialogAction nextAction(const Dialog& dialog) override;
     bool answer(const std::string& question) override;
@@ -30,6 +31,10 @@ public:
     void showHelp(const std::string& target) override;
 
 private:
+    /// Does `ask` on the windows' thread and waits for it, as long as somebody is there to answer.
+    template <typename Ask>
+    void askThere(Ask ask);
+
     GuestWindows& windows_;
     ActionQueue& actions_;
     std::atomic<bool> leaving_ = false;

@@ -4,6 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include <QCoreApplication>
+
 namespace quorvia::host {
 namespace {
 
@@ -33,6 +35,12 @@ void GuestWork::start(Work work, Afterwards afterwards) {
         QMetaObject::invokeMethod(
             this, [this, failure] { finish(failure); }, Qt::QueuedConnection);
     });
+}
+
+void GuestWork::waitForEnd() {
+    afterwards_ = [](const std::string&) {};
+    while (isRunning())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void GuestWork::finish(const std::string& failure) {

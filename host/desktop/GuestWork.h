@@ -19,13 +19,17 @@ public:
     using Afterwards = std::function<void(const std::string& failure)>;
 
     explicit GuestWork(QObject* parent = nullptr) : QObject(parent) {}
-    /// Waits for the work. What would come afterwards is not called any more.
+    /// Waits for the work, which may ask nothing of this thread any more. What would come
+    /// afterwards is not called.
     ~GuestWork() override;
 
     bool isRunning() const { return thread_.joinable(); }
     /// Nothing may be running. Does `work` on a thread of its own; once that has ended,
     /// `afterwards` is called on this object's thread, and may start the next work.
     void start(Work work, Afterwards afterwards);
+    /// Waits until nothing runs, without what would come afterwards. The guest gets answers from
+    /// this thread meanwhile.
+    void waitForEnd();
 
 private:
     void finish(const std::string& failure);

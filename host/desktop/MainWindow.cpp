@@ -138,11 +138,12 @@ void MainWindow::workBegins(const QString& what) {
     showWhatIsPossible();
 }
 
-void MainWindow::workEnded(const QString& what) {
+bool MainWindow::workEnded(const QString& what) {
     statusBar()->showMessage(what);
     showWhatIsPossible();
     if (wantsToClose_)
         close();
+    return !wantsToClose_;
 }
 
 // ---- The add-on ---------------------------------------------------------------------------------
@@ -156,7 +157,8 @@ void MainWindow::showOpened(const std::string& error) {
     isOpened_ = true;
     if (session_.loader())
         import_->setText(shown(session_.loader()->name) + QStringLiteral("..."));
-    workEnded(session_.loader() ? QStringLiteral("Ready") : QStringLiteral("No add-on"));
+    if (!workEnded(session_.loader() ? QStringLiteral("Ready") : QStringLiteral("No add-on")))
+        return;
     if (!error.empty())
         showText(this, error, TextKind_e::Error);
     if (session_.loader() && !filesAtStart_.empty())
@@ -189,8 +191,7 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
         tree_->showNothing();
     else if (!isAsBefore)
         tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
-    workEnded(what);
-    if (!outcome.result.hostError.empty())
+    if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
 }
 

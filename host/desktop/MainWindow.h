@@ -53,7 +53,8 @@ private:
     void showAbout();
 
     void workBegins(const QString& what);
-    void workEnded(const QString& what);
+    /// False: the window was waiting for this to close, and has; nothing may follow.
+    bool workEnded(const QString& what);
     void showWhatIsPossible();
     bool mayImport() const;
 

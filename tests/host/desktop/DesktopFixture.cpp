@@ -41,12 +41,16 @@ void DesktopTest::TearDown() {
 }
 
 void DesktopTest::openWindow(const std::string& addOnPath, const std::vector<std::string>& files) {
+    startWindow(addOnPath, files);
+    waitUntilDone();
+}
+
+void DesktopTest::startWindow(const std::string& addOnPath, const std::vector<std::string>& files) {
     if (window_ != nullptr)
         window_->close();
     window_.reset();
     window_ = std::make_unique<MainWindow>(addOnPath, files);
     window_->show();
-    waitUntilDone();
 }
 
 void DesktopTest::waitUntilDone() {

@@ -29,6 +29,10 @@ protected:
     /// Closes the window, and opens another one as a later run of the program would.
     void openWindow(const std::string& addOnPath = PLOT3D_ADDON_PATH,
                     const std::vector<std::string>& files = {});
+    /// The same, without waiting until the add-on is open.
+    void startWindow(const std::string& addOnPath, const std::vector<std::string>& files);
+    /// As at the end of the program, whatever runs.
+    void destroyWindow() { window_.reset(); }
     /// Chooses the action of the menus by its text, and waits until the person is done and nothing
     /// runs.
     void choose(const QString& actionText);

@@ -1,4 +1,8 @@
 // Imports by hand without the loader's dialog, and the file selection with its options.
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -167,6 +171,49 @@ TEST_F(ImportTest, FilesOfTheCommandLineComeInAtTheStart) {
     writeSample({"vortex", "--steps", "1", "--size", "7x5"});
     openWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
     EXPECT_NE(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenImportsNothing) {
+    writeSample({"vortex", "--steps", "1", "--size", "7x5"});
+    startWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().isBusy(); }));
+    window().close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window().isVisible(); }));
+    EXPECT_FALSE(window().session().isBusy());
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenTellsNoFault) {
+    startWindow(directory().file("nowhere.so"), {});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().isBusy(); }));
+    window().close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window().isReady(); }));
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(person().boxTexts(), std::vector<std::string>());
+}
+
+TEST_F(ImportTest, EndOfTheProgramWaitsForAnImport) {
+    writeSample({"vortex", "--steps", "1", "--size", "7x5"});
+    startWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
+    std::atomic<bool> isLoading = false;
+    host().settings().progressObserver = [&isLoading](const ProgressState&) {
+        isLoading = true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20)); // as on a slow disk
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&isLoading] { return isLoading.load(); }));
+    destroyWindow();
+    EXPECT_TRUE(host().loaders().empty());
+    EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(ImportTest, EndOfTheProgramAnswersForTheUser) {
+    directory().write("broken.x", "no numbers");
+    startWindow(PLOT3D_ADDON_PATH, files({"broken.x"}));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().loader().has_value(); }));
+    constexpr auto kUntilItIsRefused = std::chrono::milliseconds(300);
+    std::this_thread::sleep_for(kUntilItIsRefused); // no window is awake to tell it
+    destroyWindow();
+    EXPECT_TRUE(host().loaders().empty());
 }
 
 TEST_F(ImportTest, LongMessageStaysOnTheScreen) {
