@@ -15,6 +15,15 @@ namespace {
 
 constexpr int kMargin = 9;
 
+bool leavesFieldsAlone(DialogButton button) {
+    return button == DialogButton::Cancel || button == DialogButton::Help;
+}
+
+bool leavesFieldsAlone(const DialogAction& action) {
+    const auto* press = std::get_if<PressDialogButton>(&action);
+    return press != nullptr && leavesFieldsAlone(press->button);
+}
+
 } // namespace
 
 DialogWindow::DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent)
@@ -61,7 +70,9 @@ void DialogWindow::addButtons(const Dialog& dialog) {
                             DialogButton button) {
         if (callback == nullptr)
             return;
-        const QPushButton* widget = buttons_->addButton(standard);
+        QPushButton* widget = buttons_->addButton(standard);
+        if (leavesFieldsAlone(button))
+            widget->setFocusPolicy(Qt::TabFocus); // a click would take the focus from the field
         connect(widget, &QPushButton::clicked, this,
                 [this, button] { act(PressDialogButton{button}); });
     };
@@ -139,8 +150,9 @@ void DialogWindow::moveFocus(const Dialog& dialog) {
 }
 
 void DialogWindow::act(const DialogAction& action) {
-    for (const auto& [id, view] : views_)
-        view->commit();
+    if (!leavesFieldsAlone(action))
+        for (const auto& [id, view] : views_)
+            view->commit();
     sink_(action);
 }
 

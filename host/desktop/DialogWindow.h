@@ -40,7 +40,7 @@ private:
     void showFrontPage(const Dialog& dialog);
     void moveFocus(const Dialog& dialog);
     void placeParts(const Dialog& dialog);
-    /// What was typed comes before what the user does next.
+    /// What was typed comes before what the user does next, unless that needs none of it.
     void act(const DialogAction& action);
     QWidget* parentOf(const Control& control);
 

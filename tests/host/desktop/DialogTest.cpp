@@ -1,6 +1,7 @@
 // The add-on's own dialog in a window, worked with mouse and keys.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTabWidget>
@@ -122,6 +123,43 @@ TEST_F(LoadDialogTest, EscapeCancelsIt) {
     begin();
     EXPECT_EQ(guestDialog(), nullptr);
     EXPECT_EQ(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(LoadDialogTest, CancelDoesNotTakeAHalfTypedField) {
+    const std::function<void()> waysOut[] = {
+        [this] { press("Cancel"); }, [this] { person().pressKeyInDialog(Qt::Key_Escape); },
+        [this] { person().inDialog("the frame", [](QDialog& dialog) { dialog.close(); }); }};
+    for (const auto& leave : waysOut) {
+        pickWithDialog();
+        person().showPage(kSubsetPage);
+        person().typeInto(kIStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
+        leave();
+        begin();
+        EXPECT_EQ(guestDialog(), nullptr);
+    }
+    EXPECT_EQ(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(LoadDialogTest, HelpLeavesAHalfTypedFieldAsItIs) {
+    pickWithDialog();
+    person().showPage(kSubsetPage);
+    person().typeInto(kIStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
+    press("Help");
+    person().then("the help", [] {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->isVisible() && widget->objectName() == QLatin1String("help")) {
+                widget->close();
+                return true;
+            }
+        return false;
+    });
+    person().inDialog("the field", [](QDialog& dialog) {
+        QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
+        fields.removeIf([](const QLineEdit* each) { return !each->isVisible(); });
+        EXPECT_EQ(fields.at(kIStart)->text(), QStringLiteral("abc"));
+    });
+    press("Cancel");
+    begin();
 }
 
 TEST_F(LoadDialogTest, ReturnPressesOk) {
