@@ -70,6 +70,8 @@ void MainWindow::addMenus() {
     addFileMenu();
     addValuesMenu();
     addHelpMenu();
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
+        menu->setToolTipsVisible(true); // greyed entries say why
 }
 
 void MainWindow::addFileMenu() {
@@ -123,8 +125,7 @@ void MainWindow::showWhatIsPossible() {
     const bool hasDataSet = tree_->dataSet() != nullptr && !session_.isBusy();
     const auto set = [](QAction* action, bool isPossible, const char* whyNot) {
         action->setEnabled(isPossible);
-        action->setToolTip(isPossible ? action->text().remove(QLatin1Char('&'))
-                                      : QString::fromLatin1(whyNot));
+        action->setToolTip(isPossible ? QString() : QString::fromLatin1(whyNot));
     };
     set(import_, mayImport(), "No add-on has registered a loader, or work goes on.");
     set(discard_, hasDataSet, "There is no data set, or work goes on.");

@@ -9,8 +9,11 @@
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QHelpEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTest>
+#include <QToolTip>
 #include <QUrl>
 
 #include "desktop/MessageBoxes.h"
@@ -56,6 +59,13 @@ protected:
             click(*namedWidget(*box, QLatin1String(button)));
             return true;
         });
+    }
+    /// An action may stand in the tool bar as well.
+    static QMenu* menuOf(const QAction& action) {
+        for (QObject* object : action.associatedObjects())
+            if (auto* menu = qobject_cast<QMenu*>(object))
+                return menu;
+        return nullptr;
     }
     static QCheckBox& option(QFileDialog& dialog, const char* name) {
         return *dialog.findChild<QCheckBox*>(QLatin1String(name));
@@ -230,6 +240,21 @@ TEST_F(ImportTest, LongMessageStaysOnTheScreen) {
     for (int line = 0; line < 97; ++line)
         text += "\nline";
     showText(&window(), text, TextKind_e::Error);
+}
+
+TEST_F(ImportTest, GreyedMenuEntrySaysWhy) {
+    QAction& discard = action(QStringLiteral("Discard Data Set"));
+    ASSERT_FALSE(discard.isEnabled());
+    QMenu* menu = menuOf(discard);
+    ASSERT_NE(menu, nullptr);
+    menu->popup(window().mapToGlobal(QPoint(0, 0)));
+    const QPoint where = menu->actionGeometry(&discard).center();
+    QHelpEvent pause(QEvent::ToolTip, where, menu->mapToGlobal(where));
+    QApplication::sendEvent(menu, &pause);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("There is no data set, or work goes on."));
+    menu->close();
+    for (const char* other : {"PLOT3D Loader...", "Fetch All Values"})
+        EXPECT_TRUE(menuOf(action(QLatin1String(other)))->toolTipsVisible()) << other;
 }
 
 TEST_F(ImportTest, NothingCanBeImportedWithoutAnAddOn) {
