@@ -63,6 +63,17 @@ struct Options_s {
     QCheckBox* append;
 };
 
+/// Empty if appending can be chosen.
+QString whyNoAppend(const LoaderTraits_s& loader, bool hasDataSet, bool advanced) {
+    if (!loader.allowsAppending)
+        return QStringLiteral("This loader can't append.");
+    if (!hasDataSet)
+        return QStringLiteral("There is no data set to append to yet.");
+    if (advanced)
+        return QStringLiteral("The loader's dialog has a choice of its own.");
+    return {};
+}
+
 Options_s addOptions(QFileDialog& dialog, const LoaderTraits_s& loader, bool hasDataSet) {
     const Options_s options{new QCheckBox(QStringLiteral("A&dvanced options"), &dialog),
                             new QCheckBox(QStringLiteral("&Append to the data set"), &dialog)};
@@ -73,13 +84,16 @@ Options_s addOptions(QFileDialog& dialog, const LoaderTraits_s& loader, bool has
         loader.allowsAdvancedOptions
             ? QStringLiteral("Show the loader's dialog before the files are loaded.")
             : QStringLiteral("This loader has no advanced options."));
-    options.append->setEnabled(loader.allowsAppending && hasDataSet);
-    if (!loader.allowsAppending)
-        options.append->setToolTip(QStringLiteral("This loader can't append."));
-    else
-        options.append->setToolTip(
-            hasDataSet ? QStringLiteral("Keep the data set, and add what is in the files.")
-                       : QStringLiteral("There is no data set to append to yet."));
+    const auto showAppend = [append = options.append, advanced = options.advanced, loader,
+                             hasDataSet] {
+        const QString whyNot = whyNoAppend(loader, hasDataSet, advanced->isChecked());
+        append->setEnabled(whyNot.isEmpty());
+        append->setToolTip(whyNot.isEmpty()
+                               ? QStringLiteral("Keep the data set, and add what is in the files.")
+                               : whyNot);
+    };
+    QObject::connect(options.advanced, &QCheckBox::toggled, options.append, showAppend);
+    showAppend();
     auto* row = new QHBoxLayout;
     row->addWidget(options.advanced);
     row->addWidget(options.append);
@@ -105,7 +119,7 @@ FileSelection_s selectFilesToImport(QWidget* parent, const LoaderTraits_s& loade
     FileSelection_s selection;
     selection.files = runDialog(dialog);
     selection.advanced = options.advanced->isChecked();
-    selection.append = options.append->isChecked();
+    selection.append = options.append->isEnabled() && options.append->isChecked();
     return selection;
 }
 

@@ -136,6 +136,21 @@ TEST_F(ImportTest, AppendingNeedsADataSetAndSaysSo) {
     lookAtSelection([](QFileDialog& dialog) { EXPECT_TRUE(option(dialog, "append").isEnabled()); });
 }
 
+TEST_F(ImportTest, AppendingIsLeftToTheLoadersDialogAndSaysSo) {
+    writeSample({"vortex", "--steps", "1", "--size", "7x5"});
+    import({"vortex.x", "vortex_t0.00.q"});
+    lookAtSelection([](QFileDialog& dialog) {
+        click(option(dialog, "advanced"));
+        EXPECT_FALSE(option(dialog, "append").isEnabled());
+        EXPECT_EQ(option(dialog, "append").toolTip(),
+                  QStringLiteral("The loader's dialog has a choice of its own."));
+        click(option(dialog, "advanced"));
+        EXPECT_TRUE(option(dialog, "append").isEnabled());
+        EXPECT_EQ(option(dialog, "append").toolTip(),
+                  QStringLiteral("Keep the data set, and add what is in the files."));
+    });
+}
+
 TEST_F(ImportTest, SelectionRemembersTheFolderInALaterRun) {
     writeSample({"vortex", "--steps", "1", "--size", "7x5"});
     import({"vortex.x", "vortex_t0.00.q"});
