@@ -2,6 +2,7 @@
 
 #include <cassert>
 #include <exception>
+#include <new>
 #include <utility>
 
 #include <QCoreApplication>
@@ -17,6 +18,8 @@ std::string failureOf(const GuestWork::Work& work) {
         return "There is not enough memory.";
     } catch (const std::exception& exception) {
         return exception.what();
+    } catch (...) {
+        return "The add-on has thrown an exception.";
     }
 }
 
