@@ -4,10 +4,10 @@
 
 namespace quorvia::host {
 
-void ActionQueue::push(DialogAction action) {
+void ActionQueue::push(DialogAction action, std::int64_t launch) {
     {
         const std::lock_guard lock(mutex_);
-        actions_.push_back(std::move(action));
+        actions_.push_back({std::move(action), launch});
         ++pushedCount_;
     }
     changed_.notify_one();
@@ -27,19 +27,16 @@ void ActionQueue::endForever() {
     changed_.notify_one();
 }
 
-std::optional<DialogAction> ActionQueue::take() {
+std::optional<DialogAction> ActionQueue::take(std::int64_t launch) {
     const std::lock_guard lock(mutex_);
-    if (actions_.empty())
-        return std::nullopt;
-    return takeFront();
+    return takeLocked(launch);
 }
 
-DialogAction ActionQueue::wait() {
+DialogAction ActionQueue::wait(std::int64_t launch) {
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return ended_ || !actions_.empty(); });
-    if (ended_)
-        return PressDialogButton{DialogButton::Cancel};
-    return takeFront();
+    std::optional<DialogAction> action;
+    changed_.wait(lock, [&] { return ended_ || (action = takeLocked(launch)).has_value(); });
+    return ended_ ? PressDialogButton{DialogButton::Cancel} : *std::move(action);
 }
 
 std::int64_t ActionQueue::pushedCount() const {
@@ -47,10 +44,14 @@ std::int64_t ActionQueue::pushedCount() const {
     return pushedCount_;
 }
 
-DialogAction ActionQueue::takeFront() {
-    DialogAction action = std::move(actions_.front());
-    actions_.pop_front();
-    return action;
+std::optional<DialogAction> ActionQueue::takeLocked(std::int64_t launch) {
+    while (!actions_.empty()) {
+        Entry_s entry = std::move(actions_.front());
+        actions_.pop_front();
+        if (entry.launch == launch)
+            return std::move(entry.action);
+    }
+    return std::nullopt;
 }
 
 } // namespace quorvia::host

@@ -14,27 +14,33 @@ namespace quorvia::host {
 /// All operations may be called from either thread.
 class ActionQueue {
 public:
-    void push(DialogAction action);
+    /// `launch` is the one whose window the user saw: Dialog::lastLaunch.
+    void push(DialogAction action, std::int64_t launch);
     /// Forgets what was not taken yet.
     void clear();
     /// From now on wait() gives Cancel: there are no more windows.
     void endForever();
 
-    /// Nothing if there is none.
-    std::optional<DialogAction> take();
-    /// The next action; waits until there is one.
-    DialogAction wait();
+    /// The next action at the window of `launch`; those at other windows, which may have been used
+    /// a moment before they closed, are forgotten. Nothing if there is none.
+    std::optional<DialogAction> take(std::int64_t launch);
+    /// The same, but waits until there is one.
+    DialogAction wait(std::int64_t launch);
 
     /// How many actions were ever pushed: tells whether a picture of the dialog is older than what
     /// the user has done since.
     std::int64_t pushedCount() const;
 
 private:
-    DialogAction takeFront();
+    struct Entry_s {
+        DialogAction action;
+        std::int64_t launch;
+    };
+    std::optional<DialogAction> takeLocked(std::int64_t launch);
 
     mutable std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<DialogAction> actions_;
+    std::deque<Entry_s> actions_;
     std::int64_t pushedCount_ = 0;
     bool ended_ = false;
 };

@@ -33,12 +33,12 @@ void DesktopUser::leave() {
 // The dialog is shown as it is whenever the guest has done what it was told: that also takes back
 // what the user tried and could not do.
 DialogAction DesktopUser::nextAction(const Dialog& dialog) {
-    if (std::optional<DialogAction> action = actions_.take())
+    if (std::optional<DialogAction> action = actions_.take(dialog.lastLaunch))
         return *action;
     post(windows_, [&windows = windows_, copy = dialog, count = actions_.pushedCount()] {
         windows.refreshDialog(copy, count);
     });
-    return actions_.wait();
+    return actions_.wait(dialog.lastLaunch);
 }
 
 // What was pressed before a box came up was meant for a dialog without that message.

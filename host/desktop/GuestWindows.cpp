@@ -23,7 +23,9 @@ QWidget* GuestWindows::front() const {
 }
 
 void GuestWindows::showDialog(const Dialog& dialog) {
-    const auto act = [this](DialogAction action) { actions_.push(std::move(action)); };
+    const auto act = [this, launch = dialog.lastLaunch](DialogAction action) {
+        actions_.push(std::move(action), launch);
+    };
     auto window = std::make_unique<DialogWindow>(dialog, act, &mainWindow_);
     const auto position = positions_.find(dialog.id);
     if (position != positions_.end())
