@@ -220,12 +220,13 @@ void MainWindow::discardDataSet() {
 // ---- Values -------------------------------------------------------------------------------------
 
 void MainWindow::fetch(std::vector<FieldAddress_s> fields) {
-    if (fields.empty() || session_.isBusy())
+    const DataSetOutcome_s* dataSet = tree_->dataSet();
+    if (dataSet == nullptr || fields.empty() || session_.isBusy())
         return;
     const QString count = counted(fields.size(), "field", "fields");
-    session_.fetch(
-        *tree_->dataSet(), std::move(fields),
-        [this](DataSetOutcome_s dataSet, FetchEnd_e end) { showFetched(std::move(dataSet), end); });
+    session_.fetch(*dataSet, std::move(fields), [this](DataSetOutcome_s fetched, FetchEnd_e end) {
+        showFetched(std::move(fetched), end);
+    });
     workBegins(QStringLiteral("Fetching the values of %1").arg(count));
 }
 

@@ -57,8 +57,9 @@ AssertionResult compareFetched(const host::FetchResult& fetched, const Extent_s&
 AssertionResult fieldIs(host::ReferenceHost& host, std::int32_t zoneNumber, std::int32_t variable,
                         const FieldExpectation_s& expected) {
     const host::DataSet* const dataSet = host.frame().dataSet();
+    const host::Zone* const zone = dataSet != nullptr ? dataSet->zone(zoneNumber) : nullptr;
     const host::Field* const field =
-        dataSet != nullptr ? dataSet->field(zoneNumber, variable) : nullptr;
+        zone != nullptr ? dataSet->field(zoneNumber, variable) : nullptr;
     if (field == nullptr)
         return AssertionFailure() << "there is no field of zone " << zoneNumber << ", variable "
                                   << variable;
@@ -73,7 +74,7 @@ AssertionResult fieldIs(host::ReferenceHost& host, std::int32_t zoneNumber, std:
     const host::FetchResult fetched = host.fetch(zoneNumber, variable);
     if (!fetched.ok)
         return AssertionResult(where) << "not fetched: " << fetched.error;
-    const Extent_s extent = extentOf(*dataSet->zone(zoneNumber));
+    const Extent_s extent = extentOf(*zone);
     if (fetched.count != extent.i * extent.j * extent.k)
         return AssertionResult(where) << fetched.count << " values in a zone of " << extent.i
                                       << " x " << extent.j << " x " << extent.k;
