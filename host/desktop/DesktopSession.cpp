@@ -48,8 +48,8 @@ void DesktopSession::start(const QString& title, GuestWork::Work work, std::func
     progress_.begin(title);
     work_.start(std::move(work), [this, done = std::move(done)](const std::string& failure) {
         progress_.end();
-        host()
-            .clearFaults(); // Cancel may have come too late for this, and is not meant for the next
+        // Cancel may have come too late for this, and is not meant for the next.
+        host().clearFaults();
         collectViolations();
         if (!failure.empty() && !user_.isLeaving())
             showText(&mainWindow_, failure, TextKind_e::Error);

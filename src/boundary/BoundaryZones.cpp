@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <map>
 #include <optional>
 #include <string>
 
@@ -74,6 +73,7 @@ public:
         const OpenedFile opened(gridFile_);
         if (!opened)
             return false;
+        gridCopy_ = copyForFields(gridFile_);
         baseStrand_ = assignStrandIDs_ ? QuorUtilDataSetGetMaxStrandID() : 0;
         showOnCurrentTask("Loading Boundary Zones...");
         const std::size_t stepCount = assignStrandIDs_ ? handlers_.size() : 1;
@@ -116,7 +116,7 @@ private:
 
     /// The zone, its grid and its labels.
     bool addZone(const Plot3DBoundary_s& boundary, std::int32_t zone, std::int32_t strand,
-                 double time, std::int32_t step) {
+                 double time, std::int32_t step) const {
         const HostString name(QuorUtilStringListGetString(names_, boundary.nameIndex));
         const Plot3DBoundaryRanges_s ranges = rangesOf(boundary);
         return name &&
@@ -143,10 +143,11 @@ private:
     }
 
     /// Later time steps take the grid from the first where the host lets them.
-    bool setUpGridVars(const Plot3DBoundary_s& boundary, std::int32_t zone, std::int32_t step) {
+    bool setUpGridVars(const Plot3DBoundary_s& boundary, std::int32_t zone,
+                       std::int32_t step) const {
         const std::int32_t sourceZone = zone - (stepBase_ - firstBase_);
         if (step == 0 || !mayShare(sourceZone, zone))
-            return setUpVars(gridFile_, boundary, zone, gridVarCount_, 1);
+            return setUpVars(gridFile_, gridCopy_, boundary, zone, gridVarCount_, 1);
         for (std::int32_t var = 1; var <= gridVarCount_; ++var)
             QuorUtilDataValueShare(sourceZone, zone, var);
         return true;
@@ -159,7 +160,7 @@ private:
         return true;
     }
 
-    bool setUpFlowVars(const Plot3DFileHandler& handler, std::int32_t zonesBefore) {
+    bool setUpFlowVars(const Plot3DFileHandler& handler, std::int32_t zonesBefore) const {
         const Plot3DFileHandler& first = handlers_.front();
         if (first.hasSolutionFile())
             return handler.hasSolutionFile() && setUpFile(*handler.solutionFile, zonesBefore);
@@ -170,24 +171,23 @@ private:
         return true;
     }
 
-    bool setUpFile(Plot3DFile_s& file, std::int32_t zonesBefore) {
+    bool setUpFile(Plot3DFile_s& file, std::int32_t zonesBefore) const {
         const OpenedFile opened(file);
         if (!opened)
             return false;
+        const Plot3DSharedFile copy = copyForFields(file);
         std::int32_t zone = zonesBefore;
         for (const Plot3DBoundary_s* boundary = boundaries_; boundary != nullptr;
              boundary = boundary->next.get())
-            if (!setUpVars(file, *boundary, ++zone, gridVarCount_ + file.numVars,
+            if (!setUpVars(file, copy, *boundary, ++zone, gridVarCount_ + file.numVars,
                            gridVarCount_ + 1))
                 return false;
         return true;
     }
 
-    bool setUpVars(const Plot3DFile_s& file, const Plot3DBoundary_s& boundary, std::int32_t zone,
-                   std::int32_t lastVar, std::int32_t firstVar) {
-        Plot3DSharedFile& copy = copies_[&file];
-        if (!copy)
-            copy = copyForFields(file);
+    bool setUpVars(const Plot3DFile_s& file, const Plot3DSharedFile& copy,
+                   const Plot3DBoundary_s& boundary, std::int32_t zone, std::int32_t lastVar,
+                   std::int32_t firstVar) const {
         return setUpBoundaryVars(file, copy, options_.iRange.skip, options_.jRange.skip,
                                  options_.kRange.skip, boundary, zone, lastVar, firstVar);
     }
@@ -201,7 +201,7 @@ private:
     QuorSetHandle zonesAdded_;
     Plot3DFile_s& gridFile_;
     const std::int32_t gridVarCount_; // I-blank counted
-    std::map<const Plot3DFile_s*, Plot3DSharedFile> copies_;
+    Plot3DSharedFile gridCopy_;
     std::int32_t baseStrand_ = 0;
     std::int32_t firstBase_ = 0; // zones ahead of the first time step's boundaries
     std::int32_t stepBase_ = 0;  // and ahead of those of the step at work

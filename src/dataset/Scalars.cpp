@@ -50,6 +50,12 @@ bool isIntegerItem(const char* name) {
     return name[0] >= 'I' && name[0] <= 'N';
 }
 
+/// How many of an Overflow file's scalars are tried: no more than its size bears out.
+std::int64_t triedScalars(const Plot3DFile_s& file) {
+    return std::min<std::int64_t>(file.numScalars, static_cast<std::int64_t>(overflowItems.size()) +
+                                                       fieldCountLimit(file));
+}
+
 /// Goes through the scalars of one grid in file order: `setItem(name, isOnDataSet)` for an item,
 /// `setTime()` for the time. False: the first failure ahead of Overflow's list of gammas.
 template <typename SetItem, typename SetTime>
@@ -65,9 +71,7 @@ bool forEachScalar(const Plot3DFile_s& file, SetItem setItem, SetTime setTime) {
     if (file.style != Plot3DStyle_Overflow)
         return true;
     const auto listStart = static_cast<std::int64_t>(overflowItems.size());
-    const std::int64_t listEnd =
-        std::min<std::int64_t>(file.numScalars, listStart + fieldCountLimit(file));
-    for (std::int64_t gamma = 1; gamma <= listEnd - listStart; ++gamma) {
+    for (std::int64_t gamma = 1; gamma <= triedScalars(file) - listStart; ++gamma) {
         std::array<char, 24> name;
         std::snprintf(name.data(), name.size(), "G%lld", static_cast<long long>(gamma));
         setItem(name.data(), false); // one that fails doesn't count
@@ -77,11 +81,9 @@ bool forEachScalar(const Plot3DFile_s& file, SetItem setItem, SetTime setTime) {
 
 /// What a repeat token promises beyond that, which must not be taken for values. There may be less.
 void passOverMoreGammas(Plot3DFile_s& file) {
-    const std::int64_t taken =
-        static_cast<std::int64_t>(overflowItems.size()) + fieldCountLimit(file);
-    if (file.style == Plot3DStyle_Overflow && file.encoding == Plot3DEncoding_Ascii &&
-        taken < file.numScalars)
-        static_cast<void>(skipReals(file, static_cast<std::int32_t>(file.numScalars - taken)));
+    const std::int64_t rest = file.numScalars - triedScalars(file);
+    if (file.style == Plot3DStyle_Overflow && file.encoding == Plot3DEncoding_Ascii)
+        static_cast<void>(skipReals(file, static_cast<std::int32_t>(rest)));
 }
 
 /// One scalar as text, from the number stream. Without `wantsText` it is only read past.

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "dataset/FieldCount.h"
 #include "dataset/FileSetSetup.h"
 #include "dataset/Plot3DVarRepo.h"
 #include "dataset/SetupProgress.h"
@@ -165,8 +164,6 @@ bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler&
 bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                        std::int32_t fileSetIndex) {
     const ClearRepoAtEnd guard;
-    if (!areCountsPlausible(handler))
-        return false;
     stage.strands.beginFileSet();
     fillTypes(stage, handler);
     FileSetZones zones(stage, handler, fileSetIndex);

@@ -1,5 +1,7 @@
 #include "loader/DatasetStage.h"
 
+#include <algorithm>
+
 #include "addon/state/AddOnIdentity.h"
 #include "dataset/AddedVariables.h"
 #include "dataset/CommonAuxData.h"
@@ -27,6 +29,7 @@ public:
     void cleanUp();
 
 private:
+    bool checkCounts() const;
     bool prepare();
     bool createDataSet();
     bool countVariables();
@@ -66,13 +69,19 @@ bool DatasetStage::run() {
     return true;
 }
 
+/// Names, variables and fields for all that an absurd header claims would fill the memory.
+bool DatasetStage::checkCounts() const {
+    const auto bad =
+        std::find_if_not(context.fileSets.begin(), context.fileSets.end(), areCountsPlausible);
+    if (bad != context.fileSets.end())
+        reportFailedFileSet(*bad);
+    return bad == context.fileSets.end();
+}
+
 /// Everything up to the first zone.
 bool DatasetStage::prepare() {
-    // Names and variables for all that an absurd header claims would fill the memory.
-    if (!areCountsPlausible(first)) {
-        reportFailedFileSet(first);
+    if (!checkCounts())
         return false;
-    }
     zonesAdded = HostSet(QuorUtilSetAlloc(showErrors));
     varNames = HostStringList(QuorUtilStringListAlloc());
     if (!zonesAdded || !varNames)

@@ -1,5 +1,4 @@
 // The size test: the last word of a parser that judges.
-#include <algorithm>
 #include <optional>
 
 #include "plot3dfile/CheckedSize.h"

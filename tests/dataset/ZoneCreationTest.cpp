@@ -192,30 +192,6 @@ TEST_F(ZoneCreation, ForgetsTheFilesOnEveryWayOut) {
     EXPECT_TRUE(known.expired());
 }
 
-// A short text file whose header claims two milliard variables for each of its grids.
-TEST_F(ZoneCreation, RefusesCountsThatNoFileBearsOut) {
-    Plot3DFile_s& x = grid("x", oneGrid);
-    Plot3DFile_s& q = solution("q", oneGrid);
-    q.style = Plot3DStyle_Overflow;
-    for (const std::int32_t count : {2000000000, -1}) {
-        q.numVars = count;
-        EXPECT_FALSE(load({step(&x, &q)}));
-        EXPECT_EQ(zoneCount(), 0);
-    }
-}
-
-// Text of a few bytes that claims two milliard triangles.
-TEST_F(ZoneCreation, RefusesElementsThatNoFileBearsOut) {
-    const FileDescription_s surface = describeGrid({{11, 5, 0}}, Layout_e::Unstructured);
-    for (const FileForm_s& form : {text(), fortran()}) {
-        Plot3DFile_s& x = write("x", surface, form);
-        ASSERT_TRUE(load({step(&x)}));
-        x.gridDims[0].j = 2000000000;
-        EXPECT_FALSE(load({step(&x)}));
-        EXPECT_EQ(zoneCount(), 0);
-    }
-}
-
 class ExistingZones : public ZoneCreation {
 protected:
     void SetUp() override {

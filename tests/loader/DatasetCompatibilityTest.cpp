@@ -34,6 +34,10 @@ protected:
         useFiles({gridFile("a.x", grids, layout)});
         options.append = true;
     }
+    /// Of more variables than its bytes could hold.
+    std::string absurdFunctions() const {
+        return directory.write("a.fun", "1\n2 3 5 2147483640\n" + std::string(600, '1'));
+    }
     /// What the user is told when the load is refused; the data set must be as it was.
     std::string refusal() {
         const Texts variables = variableNames();
@@ -183,9 +187,7 @@ TEST_F(DatasetCompatibility, AppendsNoSolutionWithAGridToTooFewVariables) {
 
 TEST_F(DatasetCompatibility, CountsMoreVariablesThan32Bits) {
     makeDataSet(gridAndSolution, 1);
-    const std::string absurd =
-        directory.write("a.fun", "1\n2 3 5 2147483640\n" + std::string(600, '1'));
-    useFiles({gridFile("a.x", oneGrid)}, {solutionFile("a.q", oneGrid, 1)}, {absurd});
+    useFiles({gridFile("a.x", oneGrid)}, {solutionFile("a.q", oneGrid, 1)}, {absurdFunctions()});
     options.append = true;
     EXPECT_EQ(refusal(), "Not allowed to append if existing dataset that has fewer number of "
                          "variables (8) than the number of variables required by the incoming grid "
@@ -194,9 +196,7 @@ TEST_F(DatasetCompatibility, CountsMoreVariablesThan32Bits) {
 
 TEST_F(DatasetCompatibility, MakesNoVariablesThatTheFileCannotHold) {
     makeDataSet(gridAndSolution, 1);
-    const std::string absurd =
-        directory.write("a.fun", "1\n2 3 5 2147483640\n" + std::string(600, '1'));
-    useFiles({gridFile("a.x", oneGrid)}, {}, {absurd});
+    useFiles({gridFile("a.x", oneGrid)}, {}, {absurdFunctions()});
     options.append = true;
     EXPECT_FALSE(load());
     EXPECT_EQ(messages(), Texts{"Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()});

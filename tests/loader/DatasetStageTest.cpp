@@ -298,6 +298,24 @@ TEST_F(DatasetStage, ReplacesNothingWhileSurplusZonesStay) {
     EXPECT_EQ(zoneNames(), (Texts{"s1.q:1", "s1.q:2", "old"}));
 }
 
+TEST_F(DatasetStage, MakesNothingOfALaterStepThatNoFileBearsOut) {
+    options.append = true;
+    for (const std::int32_t count : {2000000000, -1}) {
+        context.fileSets.clear();
+        context.gridFiles.clear();
+        context.solutionFiles.clear();
+        useSteps(true, 3);
+        joinOldDataSet(gridAndSolution, 1);
+        context.solutionFiles[2]->numVars = count;
+        host().clearLog();
+        EXPECT_FALSE(run());
+        EXPECT_EQ(messages(),
+                  Texts{"Invalid Plot 3D solution file.\nFile: " + options.solutionFiles[2]});
+        EXPECT_EQ(progress(), Texts{"Cleaning up..."});
+        EXPECT_EQ(zoneNames(), Texts{"old"});
+    }
+}
+
 // The last zones are compared ahead of the stage, and the first ones are kept.
 TEST_F(DatasetStage, DeletesNoZonesForASolutionThatDoesNotFitTheFirst) {
     useSteps(false, 1);

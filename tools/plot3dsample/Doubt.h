@@ -10,7 +10,7 @@
 namespace quorvia::plot3dsample {
 
 struct Doubt_s {
-    std::string_view takenFor; ///< "a 3-D grid" and the like
+    std::string_view takenFor; ///< "a 3-D file" and the like
     std::string_view wayOut;   ///< an option that leaves no doubt
 };
 

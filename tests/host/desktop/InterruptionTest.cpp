@@ -60,6 +60,10 @@ protected:
             return true;
         });
     }
+    void cancelWhenProgressShows(const char* text = "") {
+        whenProgressShows(
+            [](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); }, text);
+    }
     QString status() { return window().statusBar()->currentMessage(); }
 };
 
@@ -87,8 +91,7 @@ TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
     constexpr bool kAppend = true;
     constexpr int kFewSteps = 9;
     pickSeries(kAppend, kFewSteps);
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
-                      "Setting up Zone");
+    cancelWhenProgressShows("Setting up Zone");
     person().answerBox();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
@@ -100,7 +103,7 @@ TEST_F(InterruptionTest, CancelledAppendLeavesTheRangesThatWereFetched) {
     choose(QStringLiteral("Fetch All Values"));
     constexpr bool kAppend = true;
     pickSeries(kAppend);
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    cancelWhenProgressShows();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
     for (const FieldOutcome_s& field : window().tree().dataSet()->zones.front().fields)
@@ -110,7 +113,7 @@ TEST_F(InterruptionTest, CancelledAppendLeavesTheRangesThatWereFetched) {
 TEST_F(InterruptionTest, ReplacementThatIsCancelledEarlyLeavesTheDataSetThatWasThere) {
     import({"vortex.x", "vortex_t0.25.q"});
     pickSeries();
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    cancelWhenProgressShows();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
 }
@@ -119,8 +122,7 @@ TEST_F(InterruptionTest, ReplacementThatIsCancelledAmongItsZonesLeavesNoDataSet)
     import({"vortex.x", "vortex_t0.25.q"});
     constexpr int kFewSteps = 9;
     pickSeries(kInPlace, kFewSteps);
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
-                      "Setting up Zone");
+    cancelWhenProgressShows("Setting up Zone");
     person().answerBox();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(person().boxTexts(), std::vector<std::string>{"Plot3D Data load interrupted"});
@@ -130,7 +132,7 @@ TEST_F(InterruptionTest, ReplacementThatIsCancelledAmongItsZonesLeavesNoDataSet)
 
 TEST_F(InterruptionTest, NextLoadIsNotStopped) {
     pickSeries();
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); });
+    cancelWhenProgressShows();
     choose(QStringLiteral("PLOT3D Loader..."));
     import({"vortex.x", "vortex_t0.25.q"});
     EXPECT_NE(window().tree().dataSet(), nullptr);
@@ -139,8 +141,7 @@ TEST_F(InterruptionTest, NextLoadIsNotStopped) {
 TEST_F(InterruptionTest, OkLoadsAfterALoadFromTheDialogWasCancelled) {
     pickSeriesWithDialog();
     person().clickInDialog(QStringLiteral("OK"));
-    whenProgressShows([](ProgressWindow& progress) { click(*progress.findChild<QPushButton*>()); },
-                      "Setting up Zone");
+    cancelWhenProgressShows("Setting up Zone");
     person().answerBox();
     person().clickInDialog(QStringLiteral("OK"));
     whenProgressShows(

@@ -1,0 +1,46 @@
+// Which counts of a header the file's size bears out.
+#include "dataset/FieldCount.h"
+
+#include "DatasetFixture.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using namespace quorutildataio;
+
+class FieldCount : public DatasetTest {};
+
+TEST_F(FieldCount, OfVariablesIsOneThatTheFileBearsOut) {
+    const GridList oneGrid = {{2, 3, 5}};
+    Plot3DFile_s& x = write("x", describeGrid(oneGrid));
+    Plot3DFile_s& q = write("q", describeSolution(oneGrid, 1));
+    EXPECT_TRUE(areCountsPlausible(step(&x, &q)));
+    for (const std::int32_t count : {2000000000, -1}) {
+        q.numVars = count;
+        EXPECT_FALSE(areCountsPlausible(step(&x, &q))) << count;
+    }
+}
+
+TEST_F(FieldCount, OfEveryFunctionFileIsAsked) {
+    const GridList oneGrid = {{2, 3, 5}};
+    Plot3DFile_s& x = write("x", describeGrid(oneGrid));
+    Plot3DFile_s& f = write("f", describeFunction(oneGrid, 2));
+    Plot3DFile_s& g = write("g", describeFunction(oneGrid, 2));
+    EXPECT_TRUE(areCountsPlausible(step(&x, nullptr, {&f, &g})));
+    g.numVars = 2000000000;
+    EXPECT_FALSE(areCountsPlausible(step(&x, nullptr, {&f, &g})));
+}
+
+// Text of a few bytes that claims two milliard triangles.
+TEST_F(FieldCount, OfElementsIsOneThatTheFileBearsOut) {
+    const FileDescription_s surface = describeGrid({{11, 5, 0}}, Layout_e::Unstructured);
+    for (const FileForm_s& form : {text(), fortran()}) {
+        Plot3DFile_s& x = write("x", surface, form);
+        EXPECT_TRUE(areCountsPlausible(step(&x)));
+        x.gridDims[0].j = 2000000000;
+        EXPECT_FALSE(areCountsPlausible(step(&x)));
+    }
+}
+
+} // namespace
+} // namespace quorvia::testsupport
