@@ -14,7 +14,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "dataset/LoadOnDemand.h"
+#include "dataset/ondemand/LoadOnDemand.h"
 #include "quorvia/HostHandles.h"
 #include "session/ReferenceHost.h"
 #include "support/RatioReport.h"

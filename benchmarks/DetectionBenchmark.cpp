@@ -7,8 +7,8 @@
 
 #include <fmt/core.h>
 
-#include "plot3dfile/FileSystem.h"
-#include "plot3dfile/StructureDetection.h"
+#include "plot3dfile/bytes/FileSystem.h"
+#include "plot3dfile/detection/StructureDetection.h"
 #include "support/RatioReport.h"
 #include "support/SampleFiles.h"
 #include "support/TemporaryDirectory.h"

@@ -4,10 +4,10 @@
 #include <cstdio>
 
 #include "addon/LoaderCallbacks.h"
-#include "addon/state/AddOnIdentity.h"
-#include "addon/state/DialogState.h"
-#include "dialog/filenames/FileNameClassification.h"
+#include "filenames/FileNameClassification.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

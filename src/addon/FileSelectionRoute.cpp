@@ -1,12 +1,12 @@
 #include "addon/FileSelectionRoute.h"
 
 #include "addon/LoaderCallbacks.h"
-#include "addon/state/AddOnIdentity.h"
-#include "addon/state/DialogState.h"
 #include "boundary/BoundaryFileLocation.h"
 #include "dialog/LoadDialog.h"
-#include "dialog/filenames/FileNameClassification.h"
+#include "filenames/FileNameClassification.h"
 #include "quorvia/QuorGUI.h"
+#include "state/AddOnIdentity.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

@@ -1,10 +1,10 @@
 #include "addon/LoaderCallbacks.h"
 
-#include "addon/state/AddOnIdentity.h"
-#include "addon/state/DialogState.h"
 #include "instructions/InstructionParser.h"
 #include "loader/LoadDriver.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

@@ -4,11 +4,11 @@
 #include <new>
 #include <optional>
 
-#include "addon/state/AddOnIdentity.h"
-#include "plot3dfile/CheckedSize.h"
-#include "plot3dfile/OpenedFile.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/file/OpenedFile.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

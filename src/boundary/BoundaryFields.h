@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "boundary/BoundaryFile.h"
-#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/file/Plot3DFile.h"
 #include "quorvia/QuorUtil.h"
 
 namespace quorvia::quorutildataio {

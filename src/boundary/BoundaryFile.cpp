@@ -9,7 +9,7 @@
 
 #include "boundary/BoundaryLines.h"
 #include "instructions/ValueText.h"
-#include "plot3dfile/FileStream.h"
+#include "plot3dfile/bytes/FileStream.h"
 
 namespace quorvia::quorutildataio {
 

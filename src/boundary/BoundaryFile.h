@@ -7,7 +7,7 @@
 #include <string>
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/file/Plot3DFile.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plot3dfile/FileSystem.h"
+#include "plot3dfile/bytes/FileSystem.h"
 
 namespace quorvia::quorutildataio {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "plot3dfile/FileStream.h"
+#include "plot3dfile/bytes/FileStream.h"
 
 namespace quorvia::quorutildataio {
 

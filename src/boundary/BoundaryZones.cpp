@@ -7,11 +7,11 @@
 #include <string>
 
 #include "boundary/BoundaryFields.h"
-#include "dataset/AuxDataItem.h"
-#include "dataset/SetupProgress.h"
+#include "dataset/items/AuxDataItem.h"
+#include "dataset/items/SetupProgress.h"
 #include "instructions/ValueText.h"
-#include "plot3dfile/OpenedFile.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/file/OpenedFile.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
 

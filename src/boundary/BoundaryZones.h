@@ -7,7 +7,7 @@
 
 #include "boundary/BoundaryFile.h"
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {

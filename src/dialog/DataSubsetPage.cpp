@@ -1,10 +1,10 @@
 #include "dialog/DataSubsetPage.h"
 
-#include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
 #include "dialog/PageBuilder.h"
 #include "dialog/RangeFields.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

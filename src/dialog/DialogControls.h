@@ -1,11 +1,11 @@
 // The identifiers of the load dialog's controls at the host: noControl until the control is made,
 // then the same for as long as the library lives. Those of the dialog and of gridAddFiles, which
-// the way to the dialog needs too, stand in addon/state/DialogState.h.
+// the way to the dialog needs too, stand in state/DialogState.h.
 #pragma once
 
 #include <cstdint>
 
-#include "addon/state/DialogState.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

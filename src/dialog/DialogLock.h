@@ -2,8 +2,8 @@
 // given back by the OK or Cancel that ends it.
 #pragma once
 
-#include "addon/state/AddOnIdentity.h"
 #include "quorvia/QuorUtil.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

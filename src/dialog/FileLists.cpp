@@ -2,11 +2,11 @@
 
 #include <iterator>
 
-#include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
 #include "dialog/FileSelectionRefresh.h"
 #include "dialog/WithinMemory.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

@@ -1,6 +1,5 @@
 #include "dialog/LoadDialog.h"
 
-#include "addon/state/AddOnIdentity.h"
 #include "dialog/DataSubsetPage.h"
 #include "dialog/DialogControls.h"
 #include "dialog/DialogLock.h"
@@ -11,6 +10,7 @@
 #include "dialog/WithinMemory.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorGUI.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

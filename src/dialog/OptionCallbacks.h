@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "addon/state/AddOnIdentity.h"
-#include "addon/state/DialogState.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdint>
 
-#include "addon/state/DialogState.h"
 #include "quorvia/QuorGUI.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 

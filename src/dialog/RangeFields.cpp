@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <limits>
 
-#include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "dialog/filenames/FileNameClassification.h"
+#include "filenames/FileNameClassification.h"
 #include "instructions/InstructionStrings.h"
 
 namespace quorvia::quorutildataio {

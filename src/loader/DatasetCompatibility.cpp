@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "dataset/CurrentTask.h"
-#include "dataset/ZoneCreation.h"
+#include "dataset/items/CurrentTask.h"
+#include "dataset/zones/ZoneCreation.h"
 
 namespace quorvia::quorutildataio {
 

@@ -2,16 +2,16 @@
 
 #include <algorithm>
 
-#include "addon/state/AddOnIdentity.h"
-#include "dataset/AddedVariables.h"
-#include "dataset/CommonAuxData.h"
-#include "dataset/CurrentTask.h"
-#include "dataset/FieldCount.h"
-#include "dataset/VariableNames.h"
-#include "dataset/ZoneCreation.h"
-#include "dataset/ZoneFit.h"
+#include "dataset/items/CommonAuxData.h"
+#include "dataset/items/CurrentTask.h"
+#include "dataset/variables/AddedVariables.h"
+#include "dataset/variables/VariableNames.h"
+#include "dataset/zones/ZoneCreation.h"
+#include "dataset/zones/ZoneFit.h"
 #include "loader/BoundaryStage.h"
 #include "loader/SolutionTimes.h"
+#include "plot3dfile/timestep/FieldCount.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFile.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 
 namespace quorvia::quorutildataio {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "dataset/AddedVariables.h"
-#include "dataset/AppendedFunctions.h"
-#include "dataset/FieldCount.h"
+#include "dataset/variables/AddedVariables.h"
+#include "dataset/zones/AppendedFunctions.h"
+#include "plot3dfile/timestep/FieldCount.h"
 
 namespace quorvia::quorutildataio {
 

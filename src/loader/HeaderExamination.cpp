@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "plot3dfile/StructureDetection.h"
+#include "plot3dfile/detection/StructureDetection.h"
 
 namespace quorvia::quorutildataio {
 

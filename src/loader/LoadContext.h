@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFile.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorUtilityLibrary.h"
 

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "addon/state/AddOnIdentity.h"
 #include "boundary/BoundaryFileLocation.h"
-#include "dataset/CurrentTask.h"
+#include "dataset/items/CurrentTask.h"
 #include "instructions/InstructionWriter.h"
 #include "loader/DatasetCompatibility.h"
 #include "loader/DatasetStage.h"
@@ -14,6 +13,7 @@
 #include "loader/LoadContext.h"
 #include "loader/LoadScopes.h"
 #include "loader/SolutionTimes.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

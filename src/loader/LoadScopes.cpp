@@ -1,7 +1,7 @@
 #include "loader/LoadScopes.h"
 
-#include "dataset/CurrentTask.h"
-#include "dataset/Plot3DVarRepo.h"
+#include "dataset/items/CurrentTask.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 
 namespace quorvia::quorutildataio {
 

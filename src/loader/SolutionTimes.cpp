@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "dataset/ZoneCreation.h"
+#include "dataset/zones/ZoneCreation.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {

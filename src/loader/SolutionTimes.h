@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 
 namespace quorvia::quorutildataio {
 

@@ -5,7 +5,7 @@
 #include <new>
 #include <string>
 
-#include "plot3dfile/StructureValidators.h"
+#include "plot3dfile/detection/StructureValidators.h"
 
 namespace quorvia::quorutildataio {
 

@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "addon/AddOnEntry.h"
-#include "addon/state/DialogState.h"
 #include "dialog/DialogControls.h"
 #include "session/ReferenceHost.h"
+#include "state/DialogState.h"
 
 namespace quorvia::testsupport {
 

@@ -2,7 +2,7 @@
 
 #include "addon/AddOnFixture.h"
 #include "addon/LoaderCallbacks.h"
-#include "addon/state/AddOnIdentity.h"
+#include "state/AddOnIdentity.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::quorutildataio {

@@ -4,8 +4,8 @@
 #include "addon/AddOnEntry.h"
 #include "addon/AddOnFixture.h"
 #include "addon/LoaderCallbacks.h"
-#include "addon/state/AddOnIdentity.h"
-#include "addon/state/DialogState.h"
+#include "state/AddOnIdentity.h"
+#include "state/DialogState.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -18,8 +18,8 @@ using Arrows = std::map<std::string, std::set<std::string>>;
 // From a room to the rooms that it may use; a room may always use itself.
 const Arrows sourceArrows = {
     {"addon/sdk", {}},
-    {"dialog/filenames", {"addon/sdk"}},
-    {"instructions", {"addon/sdk", "dialog/filenames"}},
+    {"filenames", {"addon/sdk"}},
+    {"instructions", {"addon/sdk", "filenames"}},
     {"addon/state", {"addon/sdk", "instructions"}},
     {"plot3dfile", {"addon/sdk", "instructions"}},
     {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},
@@ -27,8 +27,7 @@ const Arrows sourceArrows = {
     {"loader", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset", "boundary"}},
     {"dialog", {"addon/sdk", "addon/state", "instructions", "boundary", "loader"}},
     {"addon",
-     {"addon/sdk", "addon/state", "instructions", "dialog/filenames", "boundary", "loader",
-      "dialog"}},
+     {"addon/sdk", "addon/state", "instructions", "filenames", "boundary", "loader", "dialog"}},
 };
 
 const Arrows hostArrows = {

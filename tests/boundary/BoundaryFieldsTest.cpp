@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <tuple>
 
-#include "addon/state/AddOnIdentity.h"
 #include "boundary/BoundaryFields.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -1,5 +1,5 @@
 // Variables that zones get which are there already.
-#include "dataset/AddedVariables.h"
+#include "dataset/variables/AddedVariables.h"
 
 #include "DatasetFixture.h"
 

@@ -1,4 +1,4 @@
-#include "dataset/CommonAuxData.h"
+#include "dataset/items/CommonAuxData.h"
 
 #include <array>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "DatasetFixture.h"
-#include "dataset/AuxDataItem.h"
+#include "dataset/items/AuxDataItem.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

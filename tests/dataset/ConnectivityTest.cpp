@@ -1,4 +1,4 @@
-#include "dataset/Connectivity.h"
+#include "dataset/items/Connectivity.h"
 
 #include <filesystem>
 

@@ -5,10 +5,10 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "dataset/CommonAuxData.h"
-#include "dataset/CurrentTask.h"
-#include "dataset/VariableNames.h"
-#include "plot3dfile/LayoutParsers.h"
+#include "dataset/items/CommonAuxData.h"
+#include "dataset/items/CurrentTask.h"
+#include "dataset/variables/VariableNames.h"
+#include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::testsupport {
 

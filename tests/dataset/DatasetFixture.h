@@ -9,10 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include "dataset/ZoneCreation.h"
+#include "dataset/zones/ZoneCreation.h"
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFile.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 #include "plot3dwriter/Plot3DWriter.h"
 #include "session/ReferenceHost.h"
 #include "support/TemporaryDirectory.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "plot3dfile/FileSystem.h"
+#include "plot3dfile/bytes/FileSystem.h"
 
 namespace quorvia::testsupport {
 

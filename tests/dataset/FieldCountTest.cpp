@@ -1,5 +1,5 @@
 // Which counts of a header the file's size bears out.
-#include "dataset/FieldCount.h"
+#include "plot3dfile/timestep/FieldCount.h"
 
 #include "DatasetFixture.h"
 

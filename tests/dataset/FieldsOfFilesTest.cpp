@@ -3,9 +3,9 @@
 
 #include "DatasetFixture.h"
 #include "FakeFiles.h"
-#include "dataset/ItemDispatch.h"
-#include "dataset/Plot3DVarRepo.h"
-#include "plot3dfile/LayoutParsers.h"
+#include "dataset/items/ItemDispatch.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
+#include "plot3dfile/layout/LayoutParsers.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

@@ -1,4 +1,4 @@
-#include "dataset/FileSetSetup.h"
+#include "dataset/zones/FileSetSetup.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "dataset/LoadOnDemand.h"
+#include "dataset/ondemand/LoadOnDemand.h"
 
 #include <cstring>
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include <new>
 
 #include "DatasetFixture.h"
-#include "dataset/NameFile.h"
+#include "dataset/variables/NameFile.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

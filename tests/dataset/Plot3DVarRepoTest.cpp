@@ -1,6 +1,6 @@
-#include "dataset/Plot3DVarRepo.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 #include "DatasetFixture.h"
-#include "dataset/LoadOnDemand.h"
+#include "dataset/ondemand/LoadOnDemand.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

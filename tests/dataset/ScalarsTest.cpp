@@ -1,11 +1,11 @@
-#include "dataset/Scalars.h"
+#include "dataset/items/Scalars.h"
 
 #include <filesystem>
 
 #include "DatasetFixture.h"
-#include "dataset/ItemContext.h"
-#include "plot3dfile/FortranRecords.h"
-#include "plot3dfile/NumberStream.h"
+#include "dataset/items/ItemContext.h"
+#include "plot3dfile/numbers/FortranRecords.h"
+#include "plot3dfile/numbers/NumberStream.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

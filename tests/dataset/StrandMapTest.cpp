@@ -1,4 +1,4 @@
-#include "dataset/StrandMap.h"
+#include "dataset/zones/StrandMap.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include <new>
 
 #include "DatasetFixture.h"
-#include "dataset/VariableNames.h"
+#include "dataset/variables/VariableNames.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

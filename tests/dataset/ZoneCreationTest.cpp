@@ -1,8 +1,8 @@
-#include "dataset/ZoneCreation.h"
+#include "dataset/zones/ZoneCreation.h"
 
 #include "DatasetFixture.h"
-#include "dataset/CurrentTask.h"
-#include "dataset/Plot3DVarRepo.h"
+#include "dataset/items/CurrentTask.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;

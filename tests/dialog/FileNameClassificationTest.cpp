@@ -1,4 +1,4 @@
-#include "dialog/filenames/FileNameClassification.h"
+#include "filenames/FileNameClassification.h"
 
 #include "instructions/GuestFixture.h"
 

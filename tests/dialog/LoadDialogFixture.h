@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "addon/AddOnFixture.h"
-#include "addon/state/AddOnIdentity.h"
 #include "dialog/DialogControls.h"
 #include "dialog/LoadDialog.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
 

@@ -1,4 +1,4 @@
-#include "dialog/filenames/SimplePatternMatcher.h"
+#include "filenames/SimplePatternMatcher.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The host's rule for times in file names, and how it can be set aside.
-#include "sdk/FileNameTimes.h"
+#include "services/FileNameTimes.h"
 #include "HostFixture.h"
 
 namespace quorvia::host {

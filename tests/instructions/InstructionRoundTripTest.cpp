@@ -4,8 +4,8 @@
 #include <iostream>
 #include <random>
 
-#include "dialog/filenames/FileNameClassification.h"
-#include "dialog/filenames/FilePatternTables.h"
+#include "filenames/FileNameClassification.h"
+#include "filenames/FilePatternTables.h"
 #include "instructions/InstructionWriter.h"
 #include "instructions/ParserFixture.h"
 

@@ -1,8 +1,8 @@
 // Lists of older layouts and macros.
 #include "instructions/OlderInstructions.h"
 
-#include "dialog/filenames/FileNameClassification.h"
-#include "dialog/filenames/FilePatternTables.h"
+#include "filenames/FileNameClassification.h"
+#include "filenames/FilePatternTables.h"
 #include "instructions/ParserFixture.h"
 
 namespace quorvia::quorutildataio {

@@ -1,11 +1,11 @@
 // The dataset stage by itself, on data sets that other programs left in the frame.
 #include "loader/DatasetStage.h"
 #include "LoaderFixture.h"
-#include "addon/state/AddOnIdentity.h"
-#include "dataset/CurrentTask.h"
+#include "dataset/items/CurrentTask.h"
 #include "loader/FileSetRules.h"
-#include "plot3dfile/StructureDetection.h"
+#include "plot3dfile/detection/StructureDetection.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -1,9 +1,9 @@
 // What a load gives back on every way out.
 #include "loader/LoadScopes.h"
 #include "LoaderFixture.h"
-#include "addon/state/AddOnIdentity.h"
-#include "dataset/CurrentTask.h"
+#include "dataset/items/CurrentTask.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::testsupport {
 namespace {

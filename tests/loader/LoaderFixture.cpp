@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "addon/state/AddOnIdentity.h"
-#include "dataset/CurrentTask.h"
+#include "dataset/items/CurrentTask.h"
 #include "loader/LoadDriver.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 
 namespace quorvia::testsupport {
 

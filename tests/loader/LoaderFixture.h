@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/file/Plot3DFile.h"
 #include "plot3dwriter/Plot3DWriter.h"
 #include "session/ReferenceHost.h"
 #include "support/TemporaryDirectory.h"

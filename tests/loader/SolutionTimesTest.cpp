@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "LoaderFixture.h"
-#include "addon/state/AddOnIdentity.h"
 #include "loader/SolutionTimes.h"
 #include "quorvia/HostHandles.h"
+#include "state/AddOnIdentity.h"
 #include "support/AllocationFaults.h"
 
 namespace quorvia::testsupport {

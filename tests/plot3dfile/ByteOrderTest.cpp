@@ -1,4 +1,4 @@
-#include "plot3dfile/ByteOrder.h"
+#include "plot3dfile/bytes/ByteOrder.h"
 
 #include <algorithm>
 #include <numeric>

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "plot3dfile/FileSystem.h"
+#include "plot3dfile/bytes/FileSystem.h"
 
 namespace quorvia::testsupport {
 

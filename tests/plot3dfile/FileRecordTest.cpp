@@ -1,4 +1,4 @@
-#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/file/Plot3DFile.h"
 
 #include "RecordFixture.h"
 

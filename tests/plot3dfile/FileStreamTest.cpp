@@ -1,4 +1,4 @@
-#include "plot3dfile/FileStream.h"
+#include "plot3dfile/bytes/FileStream.h"
 
 #include <limits>
 #include <string>

@@ -1,4 +1,4 @@
-#include "plot3dfile/FileSystem.h"
+#include "plot3dfile/bytes/FileSystem.h"
 
 #include <gtest/gtest.h>
 

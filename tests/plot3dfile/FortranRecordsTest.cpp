@@ -1,4 +1,4 @@
-#include "plot3dfile/FortranRecords.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 
 #include <limits>
 

@@ -1,5 +1,5 @@
 #include "RecordFixture.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -4,9 +4,9 @@
 #include <functional>
 
 #include "RecordFixture.h"
-#include "plot3dfile/FortranRecords.h"
-#include "plot3dfile/NumberStream.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/numbers/FortranRecords.h"
+#include "plot3dfile/numbers/NumberStream.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -1,5 +1,5 @@
 // The conversion of text to reals against the C library's, which the format's rules are taken from.
-#include "plot3dfile/RealToken.h"
+#include "plot3dfile/numbers/RealToken.h"
 
 #include <clocale>
 #include <cstdio>

@@ -10,7 +10,7 @@
 
 #include "FakeDisk.h"
 #include "FileBytes.h"
-#include "plot3dfile/Plot3DFile.h"
+#include "plot3dfile/file/Plot3DFile.h"
 #include "session/ReferenceHost.h"
 
 namespace quorvia::testsupport {

@@ -1,12 +1,12 @@
 // Records above 2147483639 bytes. The lengths of full segments are true; the disk holds only the
 // few bytes that matter.
-#include "plot3dfile/FortranRecords.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 
 #include <fstream>
 
 #include "RecordFixture.h"
-#include "plot3dfile/NumberStream.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/numbers/NumberStream.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::quorutildataio {

@@ -1,10 +1,10 @@
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 
 #include <limits>
 #include <map>
 
 #include "RecordFixture.h"
-#include "plot3dfile/NumberStream.h"
+#include "plot3dfile/numbers/NumberStream.h"
 
 namespace quorvia::quorutildataio {
 namespace {

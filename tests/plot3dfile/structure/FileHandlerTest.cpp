@@ -1,6 +1,6 @@
 // One time step, and which of its files answers.
 #include "StructureTest.h"
-#include "plot3dfile/Plot3DFileHandler.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -1,7 +1,7 @@
 #include "RecordingReceiver.h"
 
-#include "plot3dfile/NumberStream.h"
-#include "plot3dfile/TypedArrays.h"
+#include "plot3dfile/numbers/NumberStream.h"
+#include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "plot3dfile/LayoutParsers.h"
+#include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::quorutildataio {
 

@@ -11,9 +11,9 @@
 #include "Bytes.h"
 #include "MemoryFileSystem.h"
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/LayoutParsers.h"
-#include "plot3dfile/Plot3DFile.h"
-#include "plot3dfile/StructureDetection.h"
+#include "plot3dfile/detection/StructureDetection.h"
+#include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::quorutildataio {
 

@@ -1,6 +1,6 @@
 // The first file of a list against a later one.
 #include "StructureTest.h"
-#include "plot3dfile/StructureValidators.h"
+#include "plot3dfile/detection/StructureValidators.h"
 
 namespace quorvia::quorutildataio {
 namespace {

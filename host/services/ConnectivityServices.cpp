@@ -1,0 +1,50 @@
+// Node maps of finite-element zones.
+#include <limits>
+
+#include "services/Call.h"
+
+using namespace quorvia::host;
+
+namespace {
+
+bool isInRange(std::int64_t number, std::int64_t highest) {
+    return number >= 1 && number <= highest;
+}
+
+} // namespace
+
+extern "C" {
+
+QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone) {
+    Call call("QuorUtilDataNodeGetRef", zone);
+    const Zone* found = call.zone(zone);
+    if (call.fails() || found == nullptr || found->nodeMap == nullptr)
+        return call.result(QuorNodeMapHandle{});
+    if (!found->nodeMap->prepare()) {
+        call.refuse("no memory for a node map");
+        return call.result(QuorNodeMapHandle{});
+    }
+    return call.result(
+        call.host().handles.of(QuorNodeMapHandle{}).add(call.operation(), {found->nodeMap}));
+}
+
+void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, std::int32_t corner,
+                              std::int64_t node) {
+    Call call("QuorUtilDataNodeSetByRef", nodeMap, element, corner, node);
+    const NodeMapReference* reference = call.object(nodeMap);
+    if (reference == nullptr)
+        return;
+    const std::shared_ptr<NodeMap> map = reference->nodeMap.lock();
+    if (map == nullptr) {
+        call.violation("the zones of this node map are gone");
+        return;
+    }
+    constexpr std::int64_t widestNode = std::numeric_limits<std::int32_t>::max();
+    if (!isInRange(element, map->elementCount()) || !isInRange(corner, map->cornerCount()) ||
+        !isInRange(node, map->nodeCount()) || node > widestNode)
+        call.violation("element, corner or node is outside the zone");
+    else
+        map->set(element, corner, static_cast<std::int32_t>(node));
+}
+
+} // extern "C"

@@ -1,0 +1,37 @@
+// A call of the toolkit: it finds the dialogs and controls that a guest means, and blames it for
+// those that are not there.
+#pragma once
+
+#include <cstdint>
+
+#include "services/Call.h"
+
+namespace quorvia::host {
+
+/// A control with its dialog; both null if it was not found.
+struct FoundControl {
+    Dialog* dialog = nullptr;
+    Control* control = nullptr;
+
+    explicit operator bool() const { return control != nullptr; }
+};
+
+class GuiCall : public Call {
+public:
+    using Call::Call;
+
+    /// Each is null, and a violation, if there is none.
+    Dialog* dialog(std::int32_t id);
+    Dialog* dialogWithTabs(std::int32_t tabs);
+    Dialog* dialogOfParent(std::int32_t parent);
+    FoundControl control(std::int32_t id);
+    FoundControl control(std::int32_t id, ControlKind kind);
+
+    /// Lets the user see what has changed.
+    void changed(const FoundControl& found) {
+        if (found.dialog->open)
+            host().user->controlChanged(*found.dialog, *found.control);
+    }
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,69 @@
+// Registration of data loaders, and the instructions that repeat a load.
+#include <algorithm>
+#include <string_view>
+
+#include "services/ArgumentReader.h"
+
+using namespace quorvia::host;
+
+namespace {
+
+constexpr std::int64_t loaderCallbackVersion = 1;
+
+bool registerLoader(Call& call, QuorArgListHandle arguments) {
+    ArgumentReader reader(call, arguments,
+                          {"LoaderName", "FileNameExtensions", "LoaderCallbackVersion",
+                           "LoaderCallback", "LoaderSelectedCallback", "AllowMultiFileSelection",
+                           "AllowAdvancedOptions", "AllowAppending"});
+    Loader loader;
+    loader.name = reader.text("LoaderName");
+    loader.fileNameExtensions = reader.text("FileNameExtensions");
+    const std::int64_t version = reader.integer("LoaderCallbackVersion");
+    loader.allowsSeveralFiles = reader.integer("AllowMultiFileSelection") != 0;
+    loader.allowsAdvancedOptions = reader.integer("AllowAdvancedOptions") != 0;
+    loader.allowsAppending = reader.integer("AllowAppending") != 0;
+    loader.load = reinterpret_cast<QuorLoaderCallback>(reader.function("LoaderCallback"));
+    loader.select =
+        reinterpret_cast<QuorLoaderSelectedCallback>(reader.function("LoaderSelectedCallback"));
+    if (!reader.ok())
+        return false;
+    if (version != loaderCallbackVersion)
+        return call.violate("\"LoaderCallbackVersion\" is " + std::to_string(version) + ", not 1");
+    call.host().loaders.push_back(loader);
+    return true;
+}
+
+bool takeInstructions(Call& call, const char* loaderName, QuorStringListHandle instructions) {
+    HostState& host = call.host();
+    const auto isNamed = [loaderName](const Loader& loader) { return loader.name == loaderName; };
+    if (loaderName == nullptr || std::none_of(host.loaders.begin(), host.loaders.end(), isNamed))
+        return call.violate("there is no such loader");
+    const GuestStringList* list = instructions != nullptr ? call.object(instructions) : nullptr;
+    if (instructions != nullptr && list == nullptr)
+        return false;
+    host.log.instructions.clear();
+    if (list != nullptr) {
+        for (const std::optional<std::string>& text : list->strings)
+            host.log.instructions.push_back(text.value_or(""));
+    }
+    if (host.settings.refuseInstructions)
+        return call.refuse("the host refuses the instructions");
+    host.log.instructionsHandedOver = true;
+    return true;
+}
+
+} // namespace
+
+extern "C" {
+
+bool QuorUtilImportAddLoaderX(QuorArgListHandle arguments) {
+    Call call("QuorUtilImportAddLoaderX", arguments);
+    return call.result(!call.fails() && registerLoader(call, arguments));
+}
+
+bool QuorUtilImportSetLoaderInstr(const char* loaderName, QuorStringListHandle instructions) {
+    Call call("QuorUtilImportSetLoaderInstr", loaderName, instructions);
+    return call.result(!call.fails() && takeInstructions(call, loaderName, instructions));
+}
+
+} // extern "C"

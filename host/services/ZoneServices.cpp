@@ -1,0 +1,152 @@
+// Zones and variables one by one.
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "services/Call.h"
+#include "services/FileNameTimes.h"
+
+using namespace quorvia::host;
+
+namespace {
+
+bool extractTimes(Call& call, QuorStringListHandle names, double* times) {
+    const GuestStringList* list = call.object(names);
+    if (list == nullptr)
+        return false;
+    if (times == nullptr && !list->strings.empty())
+        return call.violate("times are null");
+    const std::optional<std::vector<double>>& given = call.host().settings.timesFromFileNames;
+    std::vector<double> found;
+    if (given.has_value()) {
+        found = *given;
+    } else {
+        for (const std::optional<std::string>& name : list->strings) {
+            if (const std::optional<double> time = timeFromFileName(name.value_or("")))
+                found.push_back(*time);
+        }
+    }
+    if (found.empty() || found.size() != list->strings.size())
+        return call.refuse("not every file name has a time");
+    std::copy(found.begin(), found.end(), times);
+    return true;
+}
+
+} // namespace
+
+extern "C" {
+
+void QuorUtilZoneGetInfo(std::int32_t zone, std::int64_t* iMax, std::int64_t* jMax,
+                         std::int64_t* kMax, void* further) {
+    Call call("QuorUtilZoneGetInfo", zone);
+    if (further != nullptr)
+        call.violation("the last argument is reserved");
+    const Zone* found = call.zone(zone);
+    using Sizes = std::array<std::int64_t, 3>;
+    const Sizes sizes = found != nullptr ? Sizes{found->i, found->j, found->k} : Sizes{0, 0, 0};
+    std::int64_t* const targets[] = {iMax, jMax, kMax};
+    for (std::size_t axis = 0; axis < sizes.size(); ++axis) {
+        if (targets[axis] != nullptr)
+            *targets[axis] = sizes[axis];
+        call.out(sizes[axis]);
+    }
+}
+
+std::int32_t QuorUtilZoneGetType(std::int32_t zone) {
+    Call call("QuorUtilZoneGetType", zone);
+    const Zone* found = call.zone(zone);
+    return call.result(found != nullptr ? found->type : QuorZoneType_Ordered);
+}
+
+bool QuorUtilZoneRename(std::int32_t zone, const char* name) {
+    Call call("QuorUtilZoneRename", zone, name);
+    Zone* found = call.fails() ? nullptr : call.zone(zone);
+    if (found == nullptr)
+        return call.result(false);
+    if (name == nullptr)
+        return call.result(call.violate("name is null"));
+    found->name = name;
+    return call.result(true);
+}
+
+std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone) {
+    Call call("QuorUtilZoneGetStrandID", zone);
+    const Zone* found = call.zone(zone);
+    return call.result(found != nullptr ? found->strandId : 0);
+}
+
+void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand) {
+    Call call("QuorUtilZoneSetStrandID", zone, strand);
+    Zone* found = call.zone(zone);
+    if (found == nullptr)
+        return;
+    if (strand < 0)
+        call.violation("there is no strand " + std::to_string(strand));
+    else
+        found->strandId = strand;
+}
+
+bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime) {
+    Call call("QuorUtilZoneSetSolutionTime", zone, solutionTime);
+    DataSet* data = call.fails() ? nullptr : call.dataSet();
+    if (data == nullptr)
+        return call.result(false);
+    Zone* found = data->zone(zone);
+    if (found == nullptr) // not blamed: a loader may number on over grids that have no zone
+        return call.result(call.refuse("there is no zone " + std::to_string(zone)));
+    found->solutionTime = solutionTime;
+    call.host().solutionTimesChanged = true;
+    call.host().tellSolutionTimes();
+    return call.result(true);
+}
+
+std::int64_t QuorUtilZoneGetUniqueID(std::int32_t zone) {
+    Call call("QuorUtilZoneGetUniqueID", zone);
+    const Zone* found = call.zone(zone);
+    return call.result(found != nullptr ? found->uniqueId : 0);
+}
+
+std::int32_t QuorUtilZoneGetNumByUniqueID(std::int64_t zoneId) {
+    Call call("QuorUtilZoneGetNumByUniqueID", zoneId);
+    const DataSet* data = call.dataSet();
+    return call.result(data != nullptr ? data->zoneNumber(zoneId) : 0);
+}
+
+std::int64_t QuorUtilVarGetUniqueID(std::int32_t var) {
+    Call call("QuorUtilVarGetUniqueID", var);
+    const Variable* found = call.variable(var);
+    return call.result(found != nullptr ? found->uniqueId : 0);
+}
+
+std::int32_t QuorUtilVarGetNumByUniqueID(std::int64_t varId) {
+    Call call("QuorUtilVarGetNumByUniqueID", varId);
+    const DataSet* data = call.dataSet();
+    return call.result(data != nullptr ? data->variableNumber(varId) : 0);
+}
+
+bool QuorUtilVarGetName(std::int32_t var, char** name) {
+    Call call("QuorUtilVarGetName", var);
+    if (name == nullptr)
+        return call.result(call.violate("reference is null"));
+    *name = nullptr;
+    const Variable* found = call.fails() ? nullptr : call.variable(var);
+    if (found == nullptr)
+        return call.result(false);
+    *name = call.host().memory.copyText(call.operation(), found->name);
+    call.result(*name != nullptr);
+    call.out(found->name);
+    return *name != nullptr;
+}
+
+void QuorUtilZoneStyleApplyAuto(QuorSetHandle zones) {
+    Call call("QuorUtilZoneStyleApplyAuto", zones);
+    if (const GuestSet* set = call.object(zones))
+        call.host().log.autoStyledZones.emplace_back(set->members.begin(), set->members.end());
+}
+
+bool QuorUtilExtractTimesFromFileNames(QuorStringListHandle names, double* times, bool showErrors) {
+    Call call("QuorUtilExtractTimesFromFileNames", names, showErrors);
+    return call.result(!call.fails() && extractTimes(call, names, times));
+}
+
+} // extern "C"

@@ -1,7 +1,0 @@
-#include "addon/state/AddOnIdentity.h"
-
-namespace quorvia::quorutildataio {
-
-QuorAddOnHandle addOnID = nullptr;
-
-} // namespace quorvia::quorutildataio

@@ -1,7 +1,0 @@
-#include "dataset/CurrentTask.h"
-
-namespace quorvia::quorutildataio {
-
-std::unique_ptr<TaskProgress> currentTask;
-
-} // namespace quorvia::quorutildataio

@@ -1,0 +1,24 @@
+// The element lists of an unstructured grid: triangles, a block that is ignored, tetrahedra. Read
+// during the load, every node number tested.
+#pragma once
+
+#include <cstdint>
+
+#include "dataset/items/ItemContext.h"
+#include "plot3dfile/file/Plot3DFile.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::quorutildataio {
+
+/// Reads the elements of one grid, with `include` into the node map of its zone. False: a number
+/// can't be read or is no node (told to the user if `report`).
+bool setUpConnectivityItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone, bool include,
+                           bool report, const Plot3DItemContext_s& context);
+
+/// Reads `elementCount` elements of `corners` node numbers, each from 1 to `nodeCount`.
+bool readElementNodes(Plot3DFile_s& file, bool store, QuorNodeMapHandle nodeMap,
+                      std::int32_t elementCount, std::int32_t nodeCount, std::int32_t corners);
+
+bool skipIntegers(Plot3DFile_s& file, std::int32_t count);
+
+} // namespace quorvia::quorutildataio

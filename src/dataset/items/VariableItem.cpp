@@ -1,0 +1,178 @@
+// One field, or one K plane of one, as a walk through its file comes to it.
+#include <optional>
+
+#include "dataset/items/ItemDispatch.h"
+#include "dataset/items/SetupProgress.h"
+#include "dataset/ondemand/LoadOnDemand.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
+#include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/numbers/TypedArrays.h"
+#include "plot3dfile/timestep/GridPoints.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+struct VariableItem {
+    std::int32_t grid; // from 0
+    std::int32_t hostZone;
+    std::int32_t hostVar;
+    std::int32_t plane;
+    bool isIBlank;
+    bool isWholeField; // one block holds the field, rather than one of its K planes
+    Plot3DGridDims_s dims;
+    Plot3DGridRanges_s ranges;
+    std::int64_t valueCount; // of the block
+};
+
+/// Where an eager read delivers: an array, or a handle and the host's function for single values.
+struct Destination {
+    void* dest = nullptr;
+    QuorFieldSetFunction setValue = nullptr;
+    std::int32_t type = QuorFieldDataType_Invalid;
+};
+
+std::int64_t valueWidth(const Plot3DFile_s& file, bool isIBlank) {
+    return !isIBlank && file.isDoublePrecision ? 8 : 4;
+}
+
+bool failWith(bool report, const char* text) {
+    if (report)
+        QuorUtilDialogErrMsg(text);
+    return false;
+}
+
+bool failItem(const VariableItem& item, bool report) {
+    return failWith(report,
+                    item.isIBlank ? "Error loading IBlank Variable." : "Error loading Variable.");
+}
+
+void noteOffset(Plot3DFile_s& file, const VariableItem& item, std::int32_t varIndex,
+                std::int64_t position) {
+    const HostArray<std::int64_t>& offsets = item.isIBlank ? file.iBlankOffsets : file.varOffsets;
+    const std::int64_t index =
+        item.isIBlank ? item.grid : std::int64_t{item.grid} * file.numVars + varIndex;
+    if (index < offsets.count())
+        offsets[index] = position;
+}
+
+bool hasFilePrecision(const Plot3DFile_s& file, std::int32_t type) {
+    return type == (file.isDoublePrecision ? QuorFieldDataType_Double : QuorFieldDataType_Float);
+}
+
+bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t type, bool report) {
+    if (item.isIBlank || hasFilePrecision(file, type))
+        return true;
+    return failWith(report, "Datatype mismatch while attempting to replace a solution var.");
+}
+
+/// A deferred block is not read, but the walk goes on behind it.
+bool passOver(Plot3DFile_s& file, std::int64_t position, std::int64_t byteCount) {
+    const std::int64_t boundaries =
+        countSegmentBoundariesInRange(file.segmentBoundaries, position, byteCount);
+    CheckedSize end(position);
+    end.addProduct({byteCount});
+    end.addProduct({boundaries, 2, file.markerSize});
+    return end.value() && file.stream->seek(*end.value());
+}
+
+bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, bool report) {
+    const std::int32_t type = QuorUtilDataValueGetType(item.hostZone, item.hostVar);
+    if (!checkType(file, item, type, report))
+        return false;
+    CheckedSize byteCount;
+    byteCount.addProduct({item.valueCount, valueWidth(file, item.isIBlank)});
+    if (!byteCount.value() ||
+        !registerLodVariable(Plot3DVarRepo::instance().getVariable(file), item.hostZone,
+                             item.hostVar, position, item.valueCount)) {
+        failWith(report, "Failed to set up the variable.");
+        return failItem(item, report);
+    }
+    return passOver(file, position, *byteCount.value()) || failItem(item, report);
+}
+
+Destination findDestination(const VariableItem& item) {
+    Destination target;
+    QuorUtilDataValueGetRawPtr(item.hostZone, item.hostVar, &target.dest, &target.type);
+    if (target.dest != nullptr)
+        return target;
+    const QuorFieldHandle field = QuorUtilDataValueGetWritableRef(item.hostZone, item.hostVar);
+    if (field == nullptr)
+        return Destination();
+    return {field, QuorUtilDataValueRefGetSetFunc(field), QuorUtilDataValueGetRefType(field)};
+}
+
+bool readBlock(Plot3DFile_s& file, const VariableItem& item, bool store,
+               const Destination& target) {
+    const std::int64_t planesBefore = item.isWholeField ? 0 : item.plane;
+    std::int64_t firstIndex = 0;
+    if (__builtin_mul_overflow(planesBefore, item.valueCount, &firstIndex))
+        return false;
+    return item.isIBlank
+               ? readIntegers(file, store, firstIndex, item.valueCount, target.dest,
+                              target.setValue)
+               : readReals(file, store, firstIndex, item.valueCount, target.dest, target.setValue);
+}
+
+bool readSubset(Plot3DFile_s& file, const VariableItem& item, const Destination& target) {
+    return readIndexRange(file, item.plane, item.dims.i, item.dims.j, item.dims.k, item.ranges.i,
+                          item.ranges.j, item.ranges.k, item.isIBlank, target.dest,
+                          target.setValue);
+}
+
+bool readNow(Plot3DFile_s& file, const VariableItem& item, bool report) {
+    const bool isFirstBlock = item.isWholeField || item.plane == 0;
+    if (isFirstBlock && !QuorUtilDataValueAlloc(item.hostZone, item.hostVar))
+        return failWith(report, "Unable to allocate memory for variable.");
+    const Destination target = findDestination(item);
+    if (!checkType(file, item, target.type, report))
+        return false;
+    if (target.dest == nullptr)
+        return failItem(item, report);
+    const bool ok =
+        item.ranges.isSubset ? readSubset(file, item, target) : readBlock(file, item, true, target);
+    return ok || failItem(item, report);
+}
+
+/// The block of a grid that is not loaded. Its length goes by the ends of the index ranges, like
+/// that of a loaded one.
+bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
+    return readBlock(file, item, false, Destination()) || failItem(item, report);
+}
+
+} // namespace
+
+bool setUpVariableItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone, bool include,
+                       std::int32_t varIndex, std::int32_t plane, bool isIBlank, bool report,
+                       const Plot3DItemContext_s& context) {
+    const bool isUnstructured = file.dataStructure == Plot3DDataStructure_Unstructured;
+    VariableItem item;
+    item.grid = grid;
+    item.hostZone = context.firstZone + zone;
+    item.hostVar = context.firstVar + varIndex;
+    item.plane = plane;
+    item.isIBlank = isIBlank;
+    item.isWholeField = plane == wholeField || isUnstructured;
+
+    const bool go = !include || FieldSteps(item.hostZone, grid + 1, file).step(item.hostVar);
+    item.dims = file.gridDims[static_cast<std::size_t>(grid)];
+    item.ranges = resolveGridRanges(context.iRange, context.jRange, context.kRange, item.dims,
+                                    isUnstructured);
+    const std::int64_t position = file.stream->tell();
+    noteOffset(file, item, varIndex, position);
+    const std::optional<std::int64_t> count =
+        item.isWholeField ? countUpToEnds(item.ranges)
+                          : std::int64_t{item.dims.i} * item.dims.j; // two 32-bit factors fit
+    if (!go || !count)
+        return false;
+    item.valueCount = *count;
+
+    if (!include)
+        return readPast(file, item, report);
+    const bool canStayInFile = file.encoding != Plot3DEncoding_Ascii && item.isWholeField;
+    if (canStayInFile && !item.ranges.isSubset)
+        return defer(file, item, position, report);
+    return readNow(file, item, report);
+}
+
+} // namespace quorvia::quorutildataio

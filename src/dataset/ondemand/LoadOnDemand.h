@@ -1,0 +1,34 @@
+// Fields that stay in their files: what the host keeps of one, and what it calls when it needs the
+// values. From a request to the host's array: one open, one positioned read, one pass for the byte
+// order. Nothing here depends on a load that is over.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "dataset/ondemand/Plot3DVarRepo.h"
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::quorutildataio {
+
+/// The client data of one variable of one zone; the host keeps it, the clean-up callback frees it.
+struct Plot3DLodRecord_s {
+    std::shared_ptr<Plot3DVariable_s> variable;
+    std::int64_t fileOffset; // bytes from the file's start to the field's first value
+    std::int64_t numValues;
+};
+
+/// Hands the field over to the host for load on demand. False: the host refused it, or no memory.
+bool registerLodVariable(const std::shared_ptr<Plot3DVariable_s>& variable, std::int32_t zone,
+                         std::int32_t var, std::int64_t fileOffset, std::int64_t numValues);
+
+// The host's callbacks. They take no lock and touch nothing of a load.
+bool lodLoadCallback(QuorFieldHandle field);
+bool lodUnloadCallback(QuorFieldHandle field);
+void lodCleanupCallback(QuorFieldHandle field);
+
+/// Reads the field into the host's array. False: the file is gone (told to the user), too short, or
+/// the host threw; nothing is told of an interruption.
+bool readLodVariable(const Plot3DLodRecord_s& record, QuorFieldHandle field);
+
+} // namespace quorvia::quorutildataio

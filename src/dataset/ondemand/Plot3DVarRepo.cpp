@@ -1,0 +1,37 @@
+#include "dataset/ondemand/Plot3DVarRepo.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+Plot3DVarRepo gVarRepo;
+
+std::shared_ptr<Plot3DVariable_s> describe(const Plot3DFile_s& file) {
+    auto variable = std::make_shared<Plot3DVariable_s>();
+    variable->fileName = file.fileName.str();
+    variable->encoding = file.encoding;
+    variable->isDoublePrecision = file.isDoublePrecision;
+    variable->byteSwap = file.byteSwap;
+    variable->markerSize = file.markerSize;
+    variable->segmentBoundaries = file.segmentBoundaries;
+    return variable;
+}
+
+} // namespace
+
+Plot3DVarRepo& Plot3DVarRepo::instance() {
+    return gVarRepo;
+}
+
+std::shared_ptr<Plot3DVariable_s> Plot3DVarRepo::getVariable(const Plot3DFile_s& file) {
+    for (const Entry& entry : entries_)
+        if (entry.file == &file)
+            return entry.variable;
+    return entries_.emplace_back(Entry{&file, describe(file)}).variable;
+}
+
+void Plot3DVarRepo::clear() {
+    entries_.clear();
+}
+
+} // namespace quorvia::quorutildataio

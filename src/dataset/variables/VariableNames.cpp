@@ -1,0 +1,217 @@
+#include "dataset/variables/VariableNames.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <limits>
+#include <new>
+#include <string>
+#include <unordered_set>
+
+#include "dataset/variables/NameFile.h"
+#include "instructions/ValueText.h"
+#include "plot3dfile/timestep/FieldCount.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+constexpr std::int64_t plainOverflowVars = 6; // RHO to GAMMA; not reduced for a missing RHO-W
+
+/// Sets names one behind the other.
+class NameWriter {
+public:
+    explicit NameWriter(QuorStringListHandle names) : names_(names) {}
+
+    void add(const char* name) {
+        if (lastIndex_ == std::numeric_limits<std::int32_t>::max() ||
+            !QuorUtilStringListSetString(names_, lastIndex_ + 1, name))
+            throw std::bad_alloc();
+        ++lastIndex_;
+    }
+    void add(const std::string& name) { add(name.c_str()); }
+    /// "V" and the number, padded on the right; the blanks belong to the name.
+    void addNumbered(std::int64_t number) {
+        std::array<char, 32> name;
+        std::snprintf(name.data(), name.size(), "V%-4ld", static_cast<long>(number));
+        add(name.data());
+    }
+    std::int32_t lastIndex() const { return lastIndex_; }
+
+private:
+    QuorStringListHandle names_;
+    std::int32_t lastIndex_ = 0;
+};
+
+void addSpatialNames(NameWriter& writer, std::int32_t numSpatialVars, bool hasIBlank) {
+    writer.add("X");
+    if (numSpatialVars > 1)
+        writer.add("Y");
+    if (numSpatialVars > 2)
+        writer.add("Z");
+    if (hasIBlank)
+        writer.add("IBlank");
+}
+
+void addNumberedNames(NameWriter& writer, std::int64_t count) {
+    for (std::int64_t n = 0; n < count; ++n)
+        writer.addNumbered(n + 2);
+}
+
+void addConservativeNames(NameWriter& writer, Plot3DDataStructure_e structure) {
+    writer.add("RHO");
+    writer.add("RHO-U");
+    writer.add("RHO-V");
+    if (structure >= Plot3DDataStructure_3DPlanes)
+        writer.add("RHO-W");
+    writer.add("E");
+}
+
+void addTurbulenceNames(NameWriter& writer, std::int64_t rest, std::int64_t limit) {
+    if (rest == 1) {
+        writer.add("RET");
+    } else if (rest == 2) {
+        writer.add("K");
+        writer.add("EPSILON");
+    } else {
+        addNumberedNames(writer, std::min(rest, limit));
+    }
+}
+
+void addOverflowNames(NameWriter& writer, const Plot3DFile_s& file, std::int64_t numSolutionVars) {
+    const std::int64_t limit = fieldCountLimit(file);
+    const std::int64_t species = std::max(file.numSpecies, 0);
+    writer.add("GAMMA");
+    for (std::int64_t s = 1; s <= std::min(species, limit); ++s)
+        writer.add("RHO-C" + integerToText(s));
+    addTurbulenceNames(writer, numSolutionVars - species - plainOverflowVars, limit);
+}
+
+void addSolutionNames(NameWriter& writer, const Plot3DFileHandler& handler,
+                      std::int32_t numSolutionVars) {
+    const Plot3DFile_s& file = *handler.solutionFile;
+    if (file.dataStructure == Plot3DDataStructure_1D) {
+        constexpr std::int64_t namesIn1D = 3; // whatever the file holds
+        addNumberedNames(writer, namesIn1D);
+        return;
+    }
+    addConservativeNames(writer, file.dataStructure);
+    if (handler.getStyle() == Plot3DStyle_Overflow && numSolutionVars >= plainOverflowVars)
+        addOverflowNames(writer, file, numSolutionVars);
+}
+
+std::string functionName(std::int64_t ordinal, std::int64_t k) {
+    return "F" + integerToText(ordinal) + "V" + integerToText(k);
+}
+
+void addFunctionNames(NameWriter& writer, const std::vector<Plot3DFile_s*>& files) {
+    std::int32_t ordinal = 1;
+    for (const Plot3DFile_s* file : files) {
+        // Without an answer of the host the names may repeat some that are there; no reason to
+        // stop.
+        findFreeFunctionOrdinal(ordinal);
+        const std::int64_t count = std::min<std::int64_t>(file->numVars, fieldCountLimit(*file));
+        for (std::int64_t k = 1; k <= count; ++k)
+            writer.add(functionName(ordinal, k));
+        ++ordinal;
+    }
+}
+
+std::string upperCase(std::string_view text) {
+    std::string folded(text);
+    for (char& letter : folded)
+        if (letter >= 'a' && letter <= 'z')
+            letter = static_cast<char>(letter - 'a' + 'A');
+    return folded;
+}
+
+/// The names of the variables of a host set, folded. False: the host gives no name.
+bool fetchNames(QuorSetHandle vars, std::unordered_set<std::string>& names) {
+    std::int64_t var = QuorUtilSetGetNextMember(vars, 0);
+    while (var != 0) {
+        HostString name;
+        if (!QuorUtilVarGetName(static_cast<std::int32_t>(var), name.outArgument()))
+            return false;
+        names.insert(upperCase(name.view()));
+        var = QuorUtilSetGetNextMember(vars, var);
+    }
+    return true;
+}
+
+bool isTaken(const std::unordered_set<std::string>& names, std::int32_t ordinal,
+             std::int64_t count) {
+    for (std::int64_t k = 1; k < count; ++k) // the strict bound is meant
+        if (names.count(functionName(ordinal, k)) != 0)
+            return true;
+    return false;
+}
+
+bool raiseToFreeOrdinal(std::int32_t& ordinal) {
+    HostSet vars;
+    if (!QuorUtilVarGetEnabled(vars.outArgument()))
+        return false;
+    const std::int64_t count = QuorUtilSetGetMemberCount(vars.get());
+    if (count < 2)
+        return true; // nothing is compared with a single variable
+    std::unordered_set<std::string> names;
+    if (!fetchNames(vars.get(), names))
+        return false;
+    while (isTaken(names, ordinal, count))
+        ++ordinal;
+    return true;
+}
+
+/// The count of the header, as far as the file bears it out.
+std::int32_t countSolutionVars(const Plot3DFileHandler& handler) {
+    if (!handler.hasSolutionFile() || !isFieldCountPlausible(*handler.solutionFile))
+        return 0;
+    return handler.solutionFile->numVars;
+}
+
+} // namespace
+
+std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
+                                std::int32_t numSolutionVars, std::int32_t numFunctionVars,
+                                const Plot3DLoadOptions_s& options,
+                                const Plot3DFileHandler& firstHandler, QuorStringListHandle names,
+                                const std::vector<Plot3DFileHandler>&) {
+    NameWriter writer(names);
+    const std::int32_t firstSolutionIndex = 1 + numSpatialVars + (hasIBlank ? 1 : 0);
+    addSpatialNames(writer, numSpatialVars, hasIBlank);
+    if (firstHandler.hasSolutionFile()) {
+        addSolutionNames(writer, firstHandler, numSolutionVars);
+        if (options.hasNameFile)
+            readNameFile(options.nameFile, names, firstSolutionIndex, numSolutionVars);
+    }
+    if (!firstHandler.hasFunctionFiles())
+        return writer.lastIndex();
+    addFunctionNames(writer, firstHandler.functionFiles);
+    if (options.hasNameFile) {
+        // From the top of the file again: the two kinds are named independently.
+        readNameFile(options.nameFile, names, firstSolutionIndex + countSolutionVars(firstHandler),
+                     numFunctionVars);
+    }
+    return writer.lastIndex();
+}
+
+bool findFreeFunctionOrdinal(std::int32_t& ordinal) {
+    if (!QuorUtilDataSetIsAvailable())
+        return true;
+    try {
+        return raiseToFreeOrdinal(ordinal);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+std::int32_t fieldDataType(const Plot3DFileHandler& handler, std::int32_t varIndex, bool hasIBlank,
+                           std::int32_t numSpatialVars) {
+    if (hasIBlank && varIndex == numSpatialVars)
+        return QuorFieldDataType_Int32;
+    const bool hasPrecision = handler.hasGridFile() || handler.hasSolutionFile();
+    return hasPrecision && handler.isVarDoublePrecision(varIndex) ? QuorFieldDataType_Double
+                                                                  : QuorFieldDataType_Float;
+}
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,69 @@
+#include "dataset/zones/AppendedFunctions.h"
+
+#include <algorithm>
+
+#include "dataset/items/ItemContext.h"
+#include "dataset/items/ItemDispatch.h"
+#include "dataset/zones/ZoneFit.h"
+#include "plot3dfile/file/OpenedFile.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+bool hasKnownStructure(const Plot3DFile_s& file) {
+    return file.dataStructure >= Plot3DDataStructure_1D &&
+           file.dataStructure <= Plot3DDataStructure_Unstructured;
+}
+
+bool allocateOffsets(Plot3DFile_s& file, const Plot3DFileHandler& handler) {
+    constexpr std::int64_t notNoted = -1;
+    file.varOffsets = HostArray<std::int64_t>::allocate(
+        std::int64_t{file.numVars} * handler.getNumGrids(), "Primary Function Offset Array");
+    std::fill(file.varOffsets.begin(), file.varOffsets.end(), notNoted);
+    return static_cast<bool>(file.varOffsets);
+}
+
+/// The zones were made by other loads, of other files.
+bool fits(const Plot3DFile_s& file, const Plot3DAppendedFunctions_s& request,
+          std::int32_t firstZone) {
+    if (file.numVars <= request.lastVar - request.firstVar + 1 &&
+        fitsExistingZones(file, request.options, firstZone, request.zoneCount))
+        return true;
+    reportFileError(file, "The function file does not fit the zones that are there.");
+    return false;
+}
+
+bool setUpFile(const Plot3DAppendedFunctions_s& request, const Plot3DFileHandler& handler,
+               Plot3DItemContext_s& context) {
+    Plot3DFile_s& file = *handler.functionFiles.front();
+    const OpenedFile opened(file);
+    if (!opened || !allocateOffsets(file, handler))
+        return false;
+    if (!hasKnownStructure(file))
+        return true; // there is nothing that could be scanned
+    return fits(file, request, context.firstZone) &&
+           scanFile(file, request.options.gridSet, context);
+}
+
+} // namespace
+
+bool setUpAppendedFunctions(const Plot3DAppendedFunctions_s& request,
+                            std::vector<Plot3DFileHandler>& handlers) {
+    constexpr std::int32_t firstZone = 1;
+    Plot3DItemContext_s context = makeItemContext(request.options, firstZone, firstZone);
+    context.firstVar = request.firstVar;
+    for (const Plot3DFileHandler& handler : handlers) {
+        if (context.firstZone > request.zoneCount)
+            break;
+        if (!setUpFile(request, handler, context))
+            return false;
+        const std::int32_t grids = handler.functionFiles.front()->numGrids;
+        if (grids > request.zoneCount) // the next zone may not be a number any more
+            break;
+        context.firstZone += grids;
+    }
+    return true;
+}
+
+} // namespace quorvia::quorutildataio

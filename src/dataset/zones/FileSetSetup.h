@@ -1,0 +1,47 @@
+// Sets up the fields of one file set. The first file of a kind is scanned and its positions noted;
+// later files take the positions over without a scan, or share the grid's fields.
+// docs/values-on-demand.md tells when.
+#pragma once
+
+#include <cstdint>
+
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
+
+namespace quorvia::quorutildataio {
+
+/// What setUpFileSet needs to know; zones and variables are the host's, from 1.
+struct Plot3DFileSetRequest_s {
+    const Plot3DLoadOptions_s& options;
+    Plot3DFileHandler& handler;            // this file set's
+    const Plot3DFileHandler& firstHandler; // the load's first file set's
+    std::int32_t firstZoneOfLoad;
+    std::int32_t firstZone; // of this file set
+    std::int32_t numSpatialVars;
+    std::int32_t numSolutionVars;
+    std::int32_t existingVarCount; // variables of the data set
+    bool hasIBlank;
+    bool isFirstFileSet;
+};
+
+/// False: a file could not be opened or scanned, does not fit its zones, or the load is to stop.
+/// What has been set up so far stays at the host.
+bool setUpFileSet(const Plot3DFileSetRequest_s& request);
+
+/// Makes the grid's fields of the zones from `destinationBaseZone` on those of the zones from
+/// `sourceBaseZone` on: shared, or copied if the host forbids sharing.
+bool shareGridVariables(const Plot3DLoadOptions_s& options, const Plot3DFileHandler& handler,
+                        std::int32_t numSpatialVars, std::int32_t sourceBaseZone,
+                        std::int32_t destinationBaseZone, bool hasIBlank);
+
+/// Registers the fields of `current` at the positions of `primary`, without opening it.
+bool reuseGridOffsets(const Plot3DFile_s& primary, const Plot3DLoadOptions_s& options,
+                      std::int32_t firstZone, const Plot3DFile_s& current);
+
+/// Registers the fields of `file`, which holds the primary's positions and is open, and reads its
+/// scalars. `varBase` is the number of variables ahead of the solution's.
+bool reuseSolutionOffsets(Plot3DFile_s& file, const Plot3DLoadOptions_s& options,
+                          std::int32_t firstZoneOfLoad, std::int32_t firstZone,
+                          std::int32_t varBase);
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,74 @@
+// The zones of a load at the host: their sizes, names, strands, parents, and how later time steps
+// hang on the first.
+#pragma once
+
+#include <cstdint>
+
+#include "dataset/zones/StrandMap.h"
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/timestep/Plot3DFileHandler.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::quorutildataio {
+
+constexpr std::int32_t maximumZoneNumber = 2147483646;
+
+/// Sizes of a zone in points, or nodes, elements and corners.
+struct Plot3DZoneDims_s {
+    std::int64_t i;
+    std::int64_t j;
+    std::int64_t k;
+};
+
+/// What stays the same over the file sets of one load, and the counts that run on from one to the
+/// next.
+struct Plot3DZoneStage_s {
+    const Plot3DLoadOptions_s& options;
+    const Plot3DFileHandler& firstHandler;
+    std::int32_t zoneBase;         // zone of the load's first time step that later zones share with
+    std::int32_t existingVarCount; // variables of the data set
+    bool hasIBlank;
+    std::int32_t numSpatialVars;
+    std::int32_t numSolutionVars;
+    bool assignStrandIDs;
+    bool replaceSolution;                 // the first file set rewrites zones that are there
+    bool addVarsToGrid;                   // the same, and the zones get strands
+    HostArray<std::int32_t>& varTypes;    // by variable, from 0
+    QuorArgListHandle arguments;          // borrowed, for zone after zone
+    QuorSetHandle zonesAdded;             // borrowed
+    HostArray<std::int32_t>& parentZones; // by zone number minus 1
+    Plot3DStrandMap_s strands;
+    std::int32_t firstNewZone;         // zone of this file set's first selected grid
+    std::int32_t runningGridCount = 1; // over all grids of all file sets
+};
+
+/// Deletes the zones beyond `zonesPerTimeStep` and gives the others the names of the first
+/// handler's grids. Stores `zonesPerTimeStep` in `existingZoneCount`.
+bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler& firstHandler,
+                         const Plot3DLoadOptions_s& options, std::int32_t& existingZoneCount);
+
+/// Adds the zones of one file set, counted from 0, and sets up their fields. False: a failure that
+/// is not told here, an interruption, or too many zones (told).
+bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
+                       std::int32_t fileSetIndex);
+
+/// Sizes that a grid, counted from 0, has as a zone under the load's index ranges. The host's
+/// `zone` is asked for its elements if the grid is unstructured and the handler has no grid file.
+Plot3DZoneDims_s zoneDimensionsForGrid(const Plot3DLoadOptions_s& options,
+                                       const Plot3DFileHandler& handler, std::int32_t gridIndex,
+                                       std::int32_t zone);
+
+/// What one zone is made of beyond its grid.
+struct Plot3DZoneRequest_s {
+    std::int32_t baseZone; // zone of the same grid in the load's first time step
+    bool shareNodeMap;     // with the base zone
+    std::int32_t strand;   // from 1; noStrand for none
+};
+
+constexpr std::int32_t noStrand = -1;
+
+/// Adds a zone behind the last one for a grid, counted from 0. False: the host refused it.
+bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
+                    std::int32_t gridIndex, const Plot3DZoneRequest_s& request);
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,63 @@
+#include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/numbers/FortranRecords.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+constexpr int sniffedCharacters = 200;
+
+bool isTextCharacter(int character) {
+    const bool isPrintable = character >= 32 && character <= 126;
+    const bool isWhiteSpace = character >= 9 && character <= 13;
+    return isPrintable || isWhiteSpace;
+}
+
+// An empty file counts as text.
+bool looksLikeText(FileStream& stream) {
+    for (int seen = 0; seen < sniffedCharacters; ++seen) {
+        const int character = stream.readCharacter();
+        if (character < 0)
+            return true;
+        if (!isTextCharacter(character))
+            return false;
+    }
+    return true;
+}
+
+struct RecordForm {
+    bool byteSwap;
+    std::uint32_t markerSize;
+};
+
+// More than one form can tile the same bytes; the first one wins.
+constexpr RecordForm recordForms[] = {{false, 4}, {true, 4}, {false, 8}, {true, 8}};
+
+bool findRecordForm(Plot3DFile_s& file) {
+    file.encoding = Plot3DEncoding_FortranUnformatted;
+    for (const RecordForm& form : recordForms) {
+        file.byteSwap = form.byteSwap;
+        file.markerSize = form.markerSize;
+        if (checkFortranRecords(file))
+            return true;
+    }
+    return false;
+}
+
+void settleForPlainBinary(Plot3DFile_s& file) {
+    file.encoding = Plot3DEncoding_Binary;
+    file.byteSwap = false;
+    file.markerSize = 4;
+    file.segmentBoundaries.clear();
+}
+
+} // namespace
+
+void sniffEncoding(Plot3DFile_s& file) {
+    rewindPlot3DFile(file);
+    file.encoding = looksLikeText(*file.stream) ? Plot3DEncoding_Ascii : Plot3DEncoding_Unknown;
+    if (file.encoding == Plot3DEncoding_Unknown && !findRecordForm(file))
+        settleForPlainBinary(file);
+}
+
+} // namespace quorvia::quorutildataio

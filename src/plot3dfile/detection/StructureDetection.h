@@ -1,0 +1,53 @@
+// Finds a file's structure by trial: the layout parsers judge one candidate after the other, in a
+// fixed order, and the first that is accepted is the file's structure. docs/detection.md tells the
+// order.
+#pragma once
+
+#include <string>
+
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/file/Plot3DFile.h"
+
+namespace quorvia::quorutildataio {
+
+/// Builds the records of one list of files. Later files reuse the first one's structure, or are
+/// validated against it, as the options say.
+class Plot3DFileBuilder {
+public:
+    /// The options are borrowed; detection writes to them.
+    explicit Plot3DFileBuilder(Plot3DLoadOptions_s& loadOptions) : options(loadOptions) {}
+    virtual ~Plot3DFileBuilder() = default;
+
+    Plot3DLoadOptions_s& options;
+    Plot3DFile_s* firstFile = nullptr; // borrowed from the caller's list; null until one is built
+};
+
+/// The record of a file, closed, its structure known. Null: refused, which has been told to the
+/// user. A later file of a list whose files are alike by the options takes the first one's
+/// structure, size included; if even that does not fit it, its record is given back all the same,
+/// and only a file that does not open is refused. With `autoDetect`, the first file of a list
+/// writes what was found to `dataStructure`, `isMultiGrid` and `style` of the options; for the
+/// first two grid files speak before solution files, and these before function files.
+Plot3DFilePtr buildPlot3DFile(Plot3DFileBuilder& builder, const std::string& fileName,
+                              bool isSolutionOrFunction);
+
+/// Detects a file by trial, or tests the manual description, as the options say. Tells the user of
+/// a refusal. The file is closed afterwards.
+bool detectStructure(Plot3DFileBuilder& builder, Plot3DFilePtr& file, const std::string& fileName,
+                     bool isSolutionOrFunction);
+
+/// Compares a newly detected file with the first of its list, and tells a difference.
+bool validateAgainstFirstFile(Plot3DFileBuilder& builder, Plot3DFile_s& file,
+                              bool isSolutionOrFunction);
+
+// The trials, from the innermost to the outermost. Each writes its candidate into the record and
+// leaves the accepted structure there. The file is open.
+bool tryIBlank(Plot3DFile_s& file, bool hasIBlank);
+bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision);
+/// Both precisions, in the order of the file's encoding; of text only the one that stands there.
+bool tryPrecisions(Plot3DFile_s& file);
+bool tryStyle(Plot3DFile_s& file, Plot3DStyle_e style);
+bool tryDataStructure(Plot3DFile_s& file, Plot3DDataStructure_e dataStructure);
+bool searchStructure(Plot3DFile_s& file);
+
+} // namespace quorvia::quorutildataio

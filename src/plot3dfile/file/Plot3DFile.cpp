@@ -1,0 +1,120 @@
+#include "plot3dfile/file/Plot3DFile.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "quorvia/QuorUtil.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+void resetReadingState(Plot3DFile_s& file) {
+    file.lookahead = ' ';
+    file.repeatCount = 0;
+    file.repeatValue = 0.0;
+    file.recordLength = 0;
+    file.nextRecordStart = 0;
+}
+
+void measureAndSniff(Plot3DFile_s& file) {
+    const std::int64_t size = file.stream->size();
+    if (size >= 0)
+        file.fileSize = size;
+    rewindPlot3DFile(file);
+    sniffEncoding(file);
+}
+
+/// Without what earlier trials left behind the last grid: it would cost each file of a long list as
+/// much memory as all the rest of its record.
+std::vector<Plot3DGridDims_s> gridsInUse(const Plot3DFile_s& file) {
+    const auto length = std::clamp<std::int64_t>(file.numGrids, 0, std::ssize(file.gridDims));
+    return {file.gridDims.begin(), file.gridDims.begin() + length};
+}
+
+void copyStructure(const Plot3DFile_s& source, Plot3DFile_s& copy) {
+    copy.byteSwap = source.byteSwap;
+    copy.encoding = source.encoding;
+    copy.dataStructure = source.dataStructure;
+    copy.isSolutionOrFunction = source.isSolutionOrFunction;
+    copy.style = source.style;
+    copy.hasIBlank = source.hasIBlank;
+    copy.isDoublePrecision = source.isDoublePrecision;
+    copy.isMultiGrid = source.isMultiGrid;
+    copy.numGrids = source.numGrids;
+    copy.numVars = source.numVars;
+    copy.numScalars = source.numScalars;
+    copy.numSpecies = source.numSpecies;
+    copy.fileSize = source.fileSize;
+    copy.markerSize = source.markerSize;
+    copy.relaxedChecks = source.relaxedChecks;
+    copy.inSegmentedRecord = source.inSegmentedRecord;
+    copy.segmentBoundaries = source.segmentBoundaries;
+    copy.solutionsShareStructure = source.solutionsShareStructure;
+    copy.gridDims = gridsInUse(source);
+}
+
+} // namespace
+
+std::string cannotOpenText(const std::string& fileName) {
+    return "The file " + fileName + " could not be opened.";
+}
+
+Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen) {
+    auto file = std::make_unique<Plot3DFile_s>();
+    file->fileName = HostString::copyOf(fileName);
+    if (!file->fileName)
+        return nullptr;
+    if (deferOpen || !openPlot3DFile(*file))
+        return file;
+    measureAndSniff(*file);
+    closePlot3DFile(*file);
+    return file;
+}
+
+void destroyPlot3DFile(Plot3DFilePtr& file) {
+    file.reset();
+}
+
+bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy, const std::string& fileName) {
+    copy = nullptr;
+    try {
+        constexpr bool deferOpen = true;
+        Plot3DFilePtr made = createPlot3DFile(fileName, deferOpen);
+        if (!made)
+            return false;
+        copyStructure(source, *made);
+        copy = std::move(made);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+bool openPlot3DFile(Plot3DFile_s& file) {
+    const std::string name = file.fileName.str();
+    file.stream = FileStream::open(name);
+    if (file.stream)
+        return true;
+    QuorUtilDialogErrMsg(cannotOpenText(name).c_str());
+    return false;
+}
+
+bool closePlot3DFile(Plot3DFile_s& file) {
+    file.stream.reset();
+    resetReadingState(file);
+    return true;
+}
+
+void rewindPlot3DFile(Plot3DFile_s& file) {
+    file.stream->seek(0);
+    resetReadingState(file);
+}
+
+void reportFileError(const Plot3DFile_s& file, const std::string& text) {
+    const std::string message = text + "\nFile: " + file.fileName.str();
+    QuorUtilDialogErrMsg(message.c_str());
+}
+
+} // namespace quorvia::quorutildataio

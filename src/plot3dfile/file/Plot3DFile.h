@@ -1,0 +1,103 @@
+// The record of one PLOT3D file on disk, grid, solution or function file: its stream, its
+// structure, its grids, and the cursors of the number stream. docs/format.md tells the format.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "instructions/Plot3DStructure.h"
+#include "plot3dfile/bytes/FileStream.h"
+#include "quorvia/HostHandles.h"
+
+namespace quorvia::quorutildataio {
+
+enum Plot3DEncoding_e : std::int32_t {
+    Plot3DEncoding_Binary = 0,             // numbers back to back
+    Plot3DEncoding_FortranUnformatted = 1, // records between length markers
+    Plot3DEncoding_Ascii = 2,              // text tokens
+    Plot3DEncoding_Unknown = 255
+};
+
+/// Numbers of points of a grid; in an unstructured grid nodes, triangles and tetrahedra.
+struct Plot3DGridDims_s {
+    std::int32_t i;
+    std::int32_t j;
+    std::int32_t k;
+
+    bool operator==(const Plot3DGridDims_s&) const = default;
+};
+
+struct Plot3DFile_s {
+    std::unique_ptr<FileStream> stream; // null while the file is closed
+    HostString fileName;                // UTF-8 path
+    bool byteSwap = false;              // numbers are in the opposite order to the machine's
+    Plot3DEncoding_e encoding = Plot3DEncoding_Unknown;
+    Plot3DDataStructure_e dataStructure = Plot3DDataStructure_Unknown;
+    bool isSolutionOrFunction = false; // false for a grid file
+    Plot3DStyle_e style = Plot3DStyle_Unknown;
+    bool hasIBlank = false;         // each grid carries an I-blank block
+    bool isDoublePrecision = false; // reals are 64 bits wide, otherwise 32
+    bool isMultiGrid = false;       // the file begins with a count of grids
+    std::int32_t numGrids = 0;
+    std::int32_t numVars = 0;               // real variables of a grid, I-blank not counted
+    std::int32_t numScalars = 0;            // scalars ahead of each grid's variables
+    std::int32_t numSpecies = 0;            // Overflow only: the header's second count
+    std::vector<Plot3DGridDims_s> gridDims; // by grid index from 0; may be longer than numGrids
+    double solutionTime = 0.0;
+    std::int32_t repeatCount = 0; // text only: how many more times repeatValue is delivered
+    double repeatValue = 0.0;
+    std::int64_t fileSize = 0; // bytes, measured when the record is created; 0 until then
+    // File positions, in bytes from the file's start, noted while the file is scanned:
+    HostArray<std::int64_t> iBlankOffsets;  // by grid
+    HostArray<std::int64_t> varOffsets;     // by grid times numVars plus variable
+    HostArray<std::int64_t> auxDataOffsets; // by running number of the selected grid
+    bool solutionsShareStructure = false;   // the option as it stood when the file was detected
+    std::uint32_t markerSize = 4;           // bytes of a Fortran record marker, 4 or 8
+    std::int64_t recordLength = -1;         // payload bytes of the current Fortran record
+    std::int64_t nextRecordStart = 0;       // position of the next record's first marker
+    bool relaxedChecks = false;             // records and files may be longer than expected
+    bool inSegmentedRecord = false;         // inside a record that is stored as several segments
+    // Positions, ascending, of each payload end inside a segmented record: a trailing marker and
+    // the next leading marker stand there.
+    std::vector<std::int64_t> segmentBoundaries;
+    std::int32_t lookahead = 32; // text only: character read, not consumed; -1 at end of file
+};
+
+using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
+/// In the order of the load options' list of names. The load owns the records.
+using Plot3DFileList = std::vector<Plot3DFilePtr>;
+
+/// Makes the record of a file and leaves the file closed. Unless `deferOpen`, measures the file and
+/// sniffs its encoding; if the file does not open (told to the user), the record stays at its
+/// starting values. Null: no memory for the name.
+Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen);
+
+/// Frees the record and all that it owns, and clears the pointer.
+void destroyPlot3DFile(Plot3DFilePtr& file);
+
+/// Makes `copy` a record of the same structure for `fileName`, closed, without offset arrays,
+/// solution time and reading state. False: no memory; `copy` is null then.
+bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy, const std::string& fileName);
+
+/// Opens the file for reading. False: it does not open, which has been told to the user.
+bool openPlot3DFile(Plot3DFile_s& file);
+
+/// Closes the stream, if it is open, and resets the reading state.
+bool closePlot3DFile(Plot3DFile_s& file);
+
+/// Moves the open stream to the file's start and resets the reading state.
+void rewindPlot3DFile(Plot3DFile_s& file);
+
+/// Shows `text`, "\nFile: " and the file's name in one dialog.
+void reportFileError(const Plot3DFile_s& file, const std::string& text);
+
+/// Finds out how the open file encodes its numbers: text, one of the four forms of Fortran records
+/// (then `byteSwap`, `markerSize` and `segmentBoundaries` are set too), or plain binary.
+void sniffEncoding(Plot3DFile_s& file);
+
+/// Text of the message for a file that does not open.
+std::string cannotOpenText(const std::string& fileName);
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,191 @@
+#include "plot3dfile/layout/LayoutHeader.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+#include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/layout/LayoutParsers.h"
+#include "plot3dfile/numbers/FortranRecords.h"
+#include "plot3dfile/numbers/NumberStream.h"
+#include "plot3dfile/numbers/TypedArrays.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+constexpr std::int64_t integerBytes = 4;
+constexpr double leastBytesPerGrid = 16.0;
+constexpr double pointsPast64Bits = 9223372036854775808.0;
+
+constexpr std::size_t firstGridDimsLength = 1000;
+constexpr std::size_t longestGridDimsGrowth = 100000;
+
+constexpr std::int32_t fewestOverflowSpecies = 2;
+constexpr std::int32_t overflowScalarsAheadOfSpecies = 11;
+constexpr std::int32_t solutionScalars1D = 4;
+constexpr std::int32_t solutionVariables1D = 3;
+
+/// Where the data would end if each point so far took one byte.
+bool addPoints(const Plot3DFile_s& file, std::int64_t pointCount, std::int64_t& runningPosition) {
+    CheckedSize sum(runningPosition);
+    sum.addProduct({pointCount});
+    if (!sum.value() || *sum.value() < 1 || *sum.value() >= file.fileSize)
+        return false;
+    runningPosition = *sum.value();
+    return true;
+}
+
+bool readGridCount(Plot3DFile_s& file) {
+    file.numGrids = 1;
+    if (file.isMultiGrid && !readIntegerRecord(file, 1, &file.numGrids))
+        return false;
+    // A wrong byte order makes counts in the billions: they must end here, ahead of any long loop.
+    return file.numGrids > 0 &&
+           static_cast<double>(file.fileSize) > file.numGrids * leastBytesPerGrid;
+}
+
+void setVariableCount(Plot3DFile_s& file, const LayoutRules_s& rules) {
+    if (!file.isSolutionOrFunction)
+        file.numVars = rules.gridVariables;
+    else if (file.style == Plot3DStyle_Classic || file.style == Plot3DStyle_Swift)
+        file.numVars = rules.solutionVariables;
+}
+
+bool readDims(Plot3DFile_s& file, const LayoutRules_s& rules, Plot3DGridDims_s& dims) {
+    const bool lineMustGoOn =
+        rules.lineHoldsGrid && file.encoding != Plot3DEncoding_Binary && !file.relaxedChecks;
+    std::int32_t values[3] = {1, 1, 1};
+    for (std::int32_t index = 0; index < rules.dimensionCount; ++index) {
+        if (index > 0 && lineMustGoOn && atRecordEnd(file))
+            return false;
+        if (!readInteger(file, values[index]))
+            return false;
+    }
+    dims = {values[0], values[1], values[2]};
+    return true;
+}
+
+/// All grids of a function file must have the same number of variables.
+bool readFunctionVariableCount(Plot3DFile_s& file, std::int32_t gridIndex) {
+    std::int32_t variableCount = 0;
+    if (!readInteger(file, variableCount))
+        return false;
+    if (gridIndex == 0)
+        file.numVars = variableCount;
+    return variableCount == file.numVars;
+}
+
+bool readGridHeader(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t gridIndex,
+                    std::int64_t& runningPosition) {
+    Plot3DGridDims_s dims{};
+    if (!readDims(file, rules, dims) || !rules.acceptsDims(file, dims))
+        return false;
+    const double pointCount = rules.pointCount(dims);
+    return pointCount < pointsPast64Bits &&
+           addPoints(file, static_cast<std::int64_t>(pointCount), runningPosition) &&
+           storeGridDims(dims.i, dims.j, dims.k, gridIndex, file.gridDims) &&
+           (!isFunctionFile(file) || readFunctionVariableCount(file, gridIndex));
+}
+
+bool headerEnds(Plot3DFile_s& file) {
+    return file.encoding == Plot3DEncoding_Binary || atRecordEnd(file);
+}
+
+} // namespace
+
+double structuredPointCount(const Plot3DGridDims_s& dims) {
+    return static_cast<double>(dims.j) * dims.i * dims.k;
+}
+
+bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values) {
+    if (!nextRecord(file, false, nullptr))
+        return false;
+    if (file.encoding == Plot3DEncoding_Ascii) {
+        for (std::int32_t index = 0; index < count; ++index)
+            if (atRecordEnd(file) || !readInteger(file, values[index]))
+                return false;
+        return atRecordEnd(file);
+    }
+    if (file.encoding == Plot3DEncoding_FortranUnformatted) {
+        const std::int64_t expected = integerBytes * count;
+        if (file.relaxedChecks ? file.recordLength < expected : file.recordLength != expected)
+            return false;
+    }
+    return readIntegerBlock(*file.stream, file.byteSwap, file.markerSize, file.segmentBoundaries,
+                            file.encoding, true, count, values) &&
+           atRecordEnd(file);
+}
+
+bool readScalarCount(Plot3DFile_s& file) {
+    bool isRead = true;
+    switch (file.style) {
+    case Plot3DStyle_Classic:
+        file.numScalars = 4;
+        break;
+    case Plot3DStyle_Swift:
+        file.numScalars = 5;
+        break;
+    case Plot3DStyle_Overflow:
+        isRead = readInteger(file, file.numVars) && readInteger(file, file.numSpecies);
+        // An absurd count of species must not wrap to a small number of scalars.
+        file.numScalars =
+            std::min(std::max(file.numSpecies, fewestOverflowSpecies),
+                     std::numeric_limits<std::int32_t>::max() - overflowScalarsAheadOfSpecies) +
+            overflowScalarsAheadOfSpecies;
+        break;
+    default:
+        file.numScalars = 0;
+    }
+    return isRead;
+}
+
+bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
+                   std::vector<Plot3DGridDims_s>& gridDims) {
+    const auto index = static_cast<std::size_t>(gridIndex);
+    try {
+        while (index >= gridDims.size()) {
+            const std::size_t length = gridDims.size();
+            gridDims.resize(length == 0 ? firstGridDimsLength
+                                        : length + std::min(length, longestGridDimsGrowth));
+        }
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    gridDims[index] = {i, j, k};
+    return true;
+}
+
+bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules) {
+    rewindPlot3DFile(file);
+    const bool hasDimensions = readGridCount(file) && nextRecord(file, false, nullptr);
+    setVariableCount(file, rules);
+    if (!hasDimensions)
+        return false;
+    std::int64_t runningPosition = file.stream->tell();
+    for (std::int32_t gridIndex = 0; gridIndex < file.numGrids; ++gridIndex)
+        if (!readGridHeader(file, rules, gridIndex, runningPosition))
+            return false;
+    return (!file.isSolutionOrFunction || readScalarCount(file)) && headerEnds(file);
+}
+
+bool read1DHeader(Plot3DFile_s& file) {
+    rewindPlot3DFile(file);
+    std::int32_t values[2] = {0, 0}; // points, and in a function file the number of variables
+    if (!readIntegerRecord(file, isFunctionFile(file) ? 2 : 1, values))
+        return false;
+    std::int64_t runningPosition = file.stream->tell();
+    const bool fits = addPoints(file, values[0], runningPosition) &&
+                      storeGridDims(values[0], 1, 1, 0, file.gridDims);
+    file.numScalars = 0;
+    file.numVars = 1;
+    if (isFunctionFile(file)) {
+        file.numVars = values[1];
+    } else if (file.isSolutionOrFunction) {
+        file.numScalars = solutionScalars1D;
+        file.numVars = solutionVariables1D;
+    }
+    return fits && values[0] >= 1 && headerEnds(file);
+}
+
+} // namespace quorvia::quorutildataio

@@ -1,0 +1,44 @@
+// The header of a file: count of grids, dimensions of each grid, and what styles add to them.
+// Shared by the layout parsers; what tells one layout from another is a LayoutRules_s.
+#pragma once
+
+#include <cstdint>
+
+#include "plot3dfile/file/Plot3DFile.h"
+
+namespace quorvia::quorutildataio {
+
+/// What tells the layouts apart that may hold several grids.
+struct LayoutRules_s {
+    bool (*acceptsFile)(const Plot3DFile_s& file); // style and I-blank, ahead of any reading
+    std::int32_t dimensionCount;                   // integers that tell the size of a grid
+    bool lineHoldsGrid;                            // these stand in one record, or on one line
+    std::int32_t gridVariables;
+    std::int32_t solutionVariables; // of Classic and Swift
+    bool (*acceptsDims)(const Plot3DFile_s& file, const Plot3DGridDims_s& dims);
+    double (*pointCount)(const Plot3DGridDims_s& dims); // as a real: the product may pass 64 bits
+};
+
+/// A grid file has no style: what a manual description says there is meant for its companions.
+inline bool isFunctionFile(const Plot3DFile_s& file) {
+    return file.isSolutionOrFunction && file.style == Plot3DStyle_Function;
+}
+inline bool isOverflowFile(const Plot3DFile_s& file) {
+    return file.isSolutionOrFunction && file.style == Plot3DStyle_Overflow;
+}
+/// Whether each grid begins with a block of scalars.
+inline bool isSolutionFile(const Plot3DFile_s& file) {
+    return file.isSolutionOrFunction && file.style != Plot3DStyle_Function;
+}
+
+/// The product of the dimensions, as a real.
+double structuredPointCount(const Plot3DGridDims_s& dims);
+
+/// Rewinds and reads the header of a 2-D, 3-D or unstructured file. True: it is plausible, its
+/// counts stand in the record, and the stream stands behind it. Nothing is reported.
+bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
+
+/// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md.
+bool read1DHeader(Plot3DFile_s& file);
+
+} // namespace quorvia::quorutildataio

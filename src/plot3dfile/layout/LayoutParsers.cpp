@@ -1,0 +1,121 @@
+#include "plot3dfile/layout/LayoutParsers.h"
+
+#include "plot3dfile/layout/LayoutHeader.h"
+#include "plot3dfile/layout/LayoutWalk.h"
+
+namespace quorvia::quorutildataio {
+
+namespace {
+
+bool acceptsAnyFile(const Plot3DFile_s&) {
+    return true;
+}
+
+bool isNotOverflow(const Plot3DFile_s& file) {
+    return !isOverflowFile(file);
+}
+
+bool mayBeUnstructured(const Plot3DFile_s& file) {
+    return file.style != Plot3DStyle_Overflow && file.style != Plot3DStyle_Swift && !file.hasIBlank;
+}
+
+bool haveOnlyPositiveDims(const Plot3DFile_s&, const Plot3DGridDims_s& dims) {
+    return dims.i >= 1 && dims.j >= 1 && dims.k >= 1;
+}
+
+/// Nodes with triangles or with tetrahedra, never with both; beside a grid file 1 stands for both.
+bool areNodesAndElements(const Plot3DFile_s& file, const Plot3DGridDims_s& dims) {
+    if (dims.i < 1)
+        return false;
+    if (file.isSolutionOrFunction)
+        return dims.j == 1 && dims.k == 1;
+    return (dims.j == 0 && dims.k > 0) || (dims.k == 0 && dims.j >= 1);
+}
+
+double nodeCount(const Plot3DGridDims_s& dims) {
+    return dims.i;
+}
+
+constexpr LayoutRules_s rules2D = {
+    .acceptsFile = isNotOverflow,
+    .dimensionCount = 2,
+    .lineHoldsGrid = true,
+    .gridVariables = 2,
+    .solutionVariables = 4,
+    .acceptsDims = haveOnlyPositiveDims,
+    .pointCount = structuredPointCount,
+};
+
+constexpr LayoutRules_s rules3D = {
+    .acceptsFile = acceptsAnyFile,
+    .dimensionCount = 3,
+    .lineHoldsGrid = true,
+    .gridVariables = 3,
+    .solutionVariables = 5,
+    .acceptsDims = haveOnlyPositiveDims,
+    .pointCount = structuredPointCount,
+};
+
+constexpr LayoutRules_s rulesUnstructured = {
+    .acceptsFile = mayBeUnstructured,
+    .dimensionCount = 3,
+    .lineHoldsGrid = false,
+    .gridVariables = 3,
+    .solutionVariables = 5,
+    .acceptsDims = areNodesAndElements,
+    .pointCount = nodeCount,
+};
+
+bool judgeOrWalk(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                 const Plot3DItemReceiver_s* receiver) {
+    return receiver == nullptr ? checkDataSize(file) : walkGrids(file, report, gridSet, *receiver);
+}
+
+bool parseGrids(Plot3DFile_s& file, const LayoutRules_s& rules, bool report, QuorSetHandle gridSet,
+                const Plot3DItemReceiver_s* receiver) {
+    return rules.acceptsFile(file) && readHeader(file, rules) &&
+           judgeOrWalk(file, report, gridSet, receiver);
+}
+
+} // namespace
+
+bool parse1D(Plot3DFile_s& file, bool report, QuorSetHandle /*gridSet*/,
+             const Plot3DItemReceiver_s* receiver) {
+    if (isOverflowFile(file) || file.hasIBlank || file.isMultiGrid)
+        return false;
+    return read1DHeader(file) && judgeOrWalk(file, report, nullptr, receiver);
+}
+
+bool parse2D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+             const Plot3DItemReceiver_s* receiver) {
+    return parseGrids(file, rules2D, report, gridSet, receiver);
+}
+
+bool parse3D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+             const Plot3DItemReceiver_s* receiver) {
+    return parseGrids(file, rules3D, report, gridSet, receiver);
+}
+
+bool parseUnstructured(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                       const Plot3DItemReceiver_s* receiver) {
+    return parseGrids(file, rulesUnstructured, report, gridSet, receiver);
+}
+
+bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                 const Plot3DItemReceiver_s* receiver) {
+    switch (file.dataStructure) {
+    case Plot3DDataStructure_1D:
+        return parse1D(file, report, gridSet, receiver);
+    case Plot3DDataStructure_2D:
+        return parse2D(file, report, gridSet, receiver);
+    case Plot3DDataStructure_3DPlanes:
+    case Plot3DDataStructure_3DWhole:
+        return parse3D(file, report, gridSet, receiver);
+    case Plot3DDataStructure_Unstructured:
+        return parseUnstructured(file, report, gridSet, receiver);
+    default:
+        return true;
+    }
+}
+
+} // namespace quorvia::quorutildataio

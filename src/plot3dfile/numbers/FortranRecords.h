@@ -1,0 +1,41 @@
+// Fortran unformatted sequential records: a marker with the payload's length in bytes, the payload,
+// the marker again. A record above 2147483639 bytes is a chain of segments, each between markers of
+// its own: a negative leading marker says that another segment follows, a negative trailing marker
+// that one precedes. Form of the markers: as gfortran and Intel Fortran document them.
+#pragma once
+
+#include <cstdint>
+
+#include "plot3dfile/file/Plot3DFile.h"
+
+namespace quorvia::quorutildataio {
+
+/// The marker of a segment of full length, and the only negative one that begins a chain.
+constexpr std::int64_t fullSegmentMarker = -2147483639;
+
+/// Reads one marker, `markerSize` bytes wide and in the record's byte order, and gives the payload
+/// bytes that it tells, never negative. Width and order are not guessed here. A negative marker
+/// sets or clears `inSegmentedRecord`. False: short read, or a negative marker that is none of a
+/// chain; the stream stands behind what was read. Nothing is reported. Callers must not allocate
+/// from a leading marker that the trailing one has not confirmed.
+bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length);
+
+/// Whether records of the supposed width and byte order tile the whole file. Fills
+/// `segmentBoundaries`.
+bool checkFortranRecords(Plot3DFile_s& file);
+
+/// Moves to the first payload byte of the next record, with `recordLength` its payload over all
+/// segments. True at once for other encodings. On failure, if `report`, tells the user, with
+/// " for " and `context` unless that is null.
+bool nextRecord(Plot3DFile_s& file, bool report, const char* context);
+
+/// Whether the current record, or the current line of a text file, is used up.
+bool atRecordEnd(Plot3DFile_s& file);
+
+/// Whether nothing but the last marker or line ends remain. On false, if `report`, tells the user.
+bool atFileEnd(Plot3DFile_s& file, bool report);
+
+/// Steps over the two markers between segments if the stream stands there. False: the seek failed.
+bool skipSegmentBoundary(Plot3DFile_s& file);
+
+} // namespace quorvia::quorutildataio

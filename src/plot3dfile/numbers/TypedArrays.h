@@ -1,0 +1,71 @@
+// Blocks of values: read in bulk or one by one, or passed over. All bulk data of a load and of
+// reads on demand goes through here. Index order is I fastest, then J, then K.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/file/Plot3DFile.h"
+
+namespace quorvia::quorutildataio {
+
+/// The boundaries strictly inside the stretch of `byteCount` bytes from `start`, ascending.
+std::vector<std::int64_t>
+segmentBoundariesInRange(const std::vector<std::int64_t>& segmentBoundaries, std::int64_t start,
+                         std::int64_t byteCount);
+
+/// How many boundaries lie strictly inside that stretch.
+std::int64_t countSegmentBoundariesInRange(const std::vector<std::int64_t>& segmentBoundaries,
+                                           std::int64_t start, std::int64_t byteCount);
+
+/// Reads `byteCount` bytes from the stream's position, stepping over the markers between segments
+/// of a Fortran file. Every stretch is measured from the block's start, also behind a second
+/// boundary; one that would run past the destination by that rule fails. False: that, a short read,
+/// a failed seek or a negative count; the destination is partly written.
+bool readBytesAcrossSegments(FileStream& stream, std::uint32_t markerSize,
+                             const std::vector<std::int64_t>& segmentBoundaries,
+                             Plot3DEncoding_e encoding, void* destination, std::int64_t byteCount);
+
+/// The same for a block of numbers of `width` bytes each, delivered in the machine's byte order. In
+/// that order the block is one read; in the other it comes in pieces of 256 KiB, so that the bytes
+/// are reversed while they are still in the cache.
+bool readNumbersAcrossSegments(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
+                               const std::vector<std::int64_t>& segmentBoundaries,
+                               Plot3DEncoding_e encoding, std::int64_t width,
+                               std::int64_t valueCount, void* destination);
+
+/// Reads (`store`) or passes over `count` values of a binary or Fortran file into `destination`, an
+/// array of 32-bit integers, or of reals of the given precision.
+bool readIntegerBlock(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
+                      const std::vector<std::int64_t>& segmentBoundaries, Plot3DEncoding_e encoding,
+                      bool store, std::int64_t count, void* destination);
+bool readRealBlock(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
+                   const std::vector<std::int64_t>& segmentBoundaries, Plot3DEncoding_e encoding,
+                   bool isDoublePrecision, bool store, std::int64_t count, void* destination);
+
+/// Read (`store`) or pass over `count` values from the stream's position. With a null `setValue`,
+/// `dest` is an array of 32-bit integers, or of reals of the file's precision, and values land from
+/// `firstIndex` on, counted from 0; otherwise `dest` is a QuorFieldHandle and each value goes
+/// through `setValue`. False: the first value that can't be read; what came before is stored.
+bool readIntegers(Plot3DFile_s& file, bool store, std::int64_t firstIndex, std::int64_t count,
+                  void* dest, QuorFieldSetFunction setValue);
+bool readReals(Plot3DFile_s& file, bool store, std::int64_t firstIndex, std::int64_t count,
+               void* dest, QuorFieldSetFunction setValue);
+
+/// Number of indices that a resolved range selects: each stride, and the end in any case.
+std::int64_t countInRange(const Plot3DIndexRange_s& range);
+
+/// Whether a resolved range selects `index`, counted from 1.
+bool isInRange(const Plot3DIndexRange_s& range, std::int64_t index);
+
+/// Reads a whole block of `dims` points and keeps those that the three resolved ranges select.
+/// `plane` is -1 for a block of all K planes, otherwise the index from 0 of the one plane that the
+/// block holds. `isIBlank`: 32-bit integers, otherwise reals. `dest` and `setValue` as for
+/// readReals.
+bool readIndexRange(Plot3DFile_s& file, std::int32_t plane, std::int32_t i, std::int32_t j,
+                    std::int32_t k, const Plot3DIndexRange_s& iRange,
+                    const Plot3DIndexRange_s& jRange, const Plot3DIndexRange_s& kRange,
+                    bool isIBlank, void* dest, QuorFieldSetFunction setValue);
+
+} // namespace quorvia::quorutildataio

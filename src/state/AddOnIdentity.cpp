@@ -1,0 +1,7 @@
+#include "state/AddOnIdentity.h"
+
+namespace quorvia::quorutildataio {
+
+QuorAddOnHandle addOnID = nullptr;
+
+} // namespace quorvia::quorutildataio
