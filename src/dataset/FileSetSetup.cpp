@@ -115,8 +115,7 @@ private:
     }
 
     std::int32_t variablesAheadOfFunctions() const {
-        const bool hasIBlank = handler_.hasGridFile() && handler_.gridFile->hasIBlank;
-        return request_.numSpatialVars + (hasIBlank ? 1 : 0) +
+        return variablesAheadOfSolution() +
                (handler_.hasSolutionFile() ? request_.numSolutionVars : 0);
     }
 
