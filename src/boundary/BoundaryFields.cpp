@@ -113,7 +113,8 @@ private:
     }
 
     bool deliver() {
-        switch (fieldType()) {
+        // Of the field itself: the zone that it was set up for may be gone, and others share it.
+        switch (QuorUtilDataValueGetRefType(field_)) {
         case QuorFieldDataType_Int32:
             return deliverAs<std::int32_t>();
         case QuorFieldDataType_Float:
@@ -123,14 +124,6 @@ private:
         default:
             return false;
         }
-    }
-
-    /// Of the field, whatever its numbers are by now.
-    std::int32_t fieldType() const {
-        const std::int32_t zone = QuorUtilZoneGetNumByUniqueID(data_.zoneId);
-        const std::int32_t var = QuorUtilVarGetNumByUniqueID(data_.varId);
-        return zone > 0 && var > 0 ? QuorUtilDataValueGetType(zone, var)
-                                   : std::int32_t{QuorFieldDataType_Invalid};
     }
 
     template <typename Number>

@@ -200,15 +200,25 @@ TEST_F(Boundaries, OfAnAppendedGridStandBehindAllZones) {
 class BoundariesOfSeries : public Boundaries, public ::testing::WithParamInterface<bool> {
 protected:
     /// Three time steps, whose values are 0, 30 and 60 above the first.
-    void loadSeries(const Settings& more) {
+    void loadSeries(const Settings& more, const Commands& before = {}, const Commands& after = {}) {
         Texts steps;
         for (int step = 0; step < 3; ++step)
             steps.push_back(
                 series_.solution(fmt::format("series.{}.q", step), step + 1, 30.0 * step));
-        play({command("host", command("sharingAllowed", GetParam())),
-              load({.grids = {gridWithBoundaries("a.x", true)}, .solutions = steps},
-                   withBoundaries + more)});
+        Commands commands = before;
+        commands.push_back(command("host", command("sharingAllowed", GetParam())));
+        commands.push_back(load({.grids = {gridWithBoundaries("a.x", true)}, .solutions = steps},
+                                withBoundaries + more));
+        commands.insert(commands.end(), after.begin(), after.end());
+        play(commands);
         EXPECT_EQ(messages(last()), Texts());
+    }
+    /// Numbers of zones, from 1.
+    static Json deletion(std::size_t first, std::size_t count) {
+        Json zones = Json::array();
+        for (std::size_t n = 0; n < count; ++n)
+            zones.push_back(first + n);
+        return command("deleteZones", zones);
     }
 };
 
@@ -228,6 +238,38 @@ TEST_P(BoundariesOfSeries, WithStrandsComeForEachTimeStep) {
             const bool isShared = GetParam() && step > 0;
             EXPECT_EQ(zone["fields"][0]["state"], isShared ? "shared" : "deferred");
         }
+    }
+}
+
+TEST_P(BoundariesOfSeries, OutliveThoseOfEarlierTimeSteps) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(7, faces.size())});
+    expectFaces(last(), 7, true, 30);
+    expectFaces(last(), 7 + faces.size(), true, 60);
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(7, 2 * faces.size())});
+    expectFaces(last(), 7, true, 60);
+}
+
+TEST_P(BoundariesOfSeries, OutliveTheZonesThatTheyBelongTo) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(1, 6 + faces.size())});
+    expectFaces(last(), 1, true, 30);
+    expectFaces(last(), 1 + faces.size(), true, 60);
+}
+
+TEST_P(BoundariesOfSeries, ComeAgainWhenTheyWereDroppedAndTheFirstTimeStepsDeleted) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {},
+               {describe("fetched"), command("unload", "all"), deletion(7, faces.size())});
+    expectFaces(last(), 7, true, 30);
+}
+
+// The share that is refused is one of a boundary's, behind those of the two later time steps.
+TEST_P(BoundariesOfSeries, HaveAGridOfTheirOwnWhereTheHostRefusesToShare) {
+    for (const int fieldOfBoundaries : {1, 4, 6}) {
+        const int call = 2 * 2 * 4 + fieldOfBoundaries;
+        loadSeries(
+            {{"ASSIGNSTRANDIDS", "Yes"}},
+            {command("fail", Json{{"operation", "QuorUtilDataValueShare"}, {"call", call}})});
+        for (std::size_t step = 0; step < 3; ++step)
+            expectFaces(last(), 7 + step * faces.size(), true, 30.0 * static_cast<double>(step));
     }
 }
 
