@@ -73,12 +73,27 @@ private:
 
     bool createZone(std::int32_t grid, std::int32_t zone, std::int32_t baseZone,
                     std::int32_t strand) {
+        if (!handler_.hasGridFile() && baseZone < zone)
+            takeGridTypes(baseZone);
         if (zone > stage_.parentZones.count() ||
             !addZoneForGrid(stage_, handler_, grid, {baseZone, shareNodeMaps_, strand}) ||
             !QuorUtilSetAddMember(stage_.zonesAdded, zone, true))
             return false;
         stage_.parentZones[zone - 1] = stage_.runningGridCount;
         return true;
+    }
+
+    /// The grid that the zone takes over need not have the precision of the solution.
+    void takeGridTypes(std::int32_t baseZone) const {
+        const std::int32_t lastVar = stage_.numSpatialVars + (stage_.hasIBlank ? 1 : 0);
+        for (std::int32_t var = 1; var <= lastVar && var <= stage_.varTypes.count(); ++var) {
+            const std::int32_t type = QuorUtilDataValueGetType(baseZone, var);
+            const bool isKnown = type != QuorFieldDataType_Invalid;
+            stage_.varTypes[var - 1] =
+                isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
+                    ? type
+                    : fieldDataType(handler_, var - 1, stage_.hasIBlank, stage_.numSpatialVars);
+        }
     }
 
     /// A zone that is there gets the solution; it counts as new to the host. The zone goes by the
