@@ -146,5 +146,15 @@ TEST_F(FileNames, ThatTheHostWithholdsAreNotLeftOut) {
     EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
 }
 
+TEST_F(FileNames, OfFoldersThatTheHostWithholdsAreNotSortedByThem) {
+    for (const int name : {1, 2}) {
+        host().clearLog();
+        host().failCall("QuorUtilGetBasePath", name);
+        EXPECT_FALSE(classify({"/runs.in.old/a.x", "/runs.in.old/a.q"}));
+        EXPECT_EQ(messages(), Texts{"Out of Memory!!!"}) << name;
+        host().clearFaults();
+    }
+}
+
 } // namespace
 } // namespace quorvia::quorutildataio
