@@ -6,6 +6,7 @@
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/CurrentTask.h"
 #include "instructions/InstructionWriter.h"
+#include "instructions/TurnedRange.h"
 #include "loader/DatasetCompatibility.h"
 #include "loader/DatasetStage.h"
 #include "loader/FileSetRules.h"
@@ -117,6 +118,8 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
 /// Everything that happens while the progress bar is open.
 bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
     const LoadProgressBar bar(context);
+    if (!checkIndexRanges(context.options))
+        return false;
     settleBoundaryFile(context.options);
     normaliseStrandOptions(context.options);
     if (!examineNamesAndHeaders(context) || !makeFileSets(context))
