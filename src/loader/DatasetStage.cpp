@@ -7,6 +7,7 @@
 #include "dataset/CommonAuxData.h"
 #include "dataset/CurrentTask.h"
 #include "dataset/FieldCount.h"
+#include "dataset/VariableFit.h"
 #include "dataset/VariableNames.h"
 #include "dataset/ZoneCreation.h"
 #include "dataset/ZoneFit.h"
@@ -18,6 +19,28 @@ namespace quorvia::quorutildataio {
 namespace {
 
 constexpr bool showErrors = true;
+
+void reportFailedFileSet(const Plot3DFileHandler& fileSet) {
+    if (QuorUtilInterruptIsSet())
+        QuorUtilDialogErrMsg("Plot3D Data load interrupted");
+    else if (fileSet.hasSolutionFile())
+        reportFileError(*fileSet.solutionFile, "Invalid Plot 3D solution file.");
+    else if (fileSet.hasGridFile())
+        reportFileError(*fileSet.gridFile, "Invalid Plot 3D grid file.");
+    else
+        reportFileError(*fileSet.functionFiles.front(), "Invalid Plot 3D function file.");
+}
+
+/// Of a load without zones to give them to, new variables are not added.
+std::int64_t countVariablesToBe(const Plot3DLoadContext_s& context) {
+    const std::int64_t names =
+        countVariableNames(context.hasIBlank, context.numSpatialVars, context.numSolutionVars,
+                           context.fileSets.front());
+    if (!context.options.append && context.options.hasGridFiles)
+        return names;
+    return context.existingZoneCount > 0 ? std::max<std::int64_t>(context.existingVarCount, names)
+                                         : context.existingVarCount;
+}
 
 class DatasetStage {
 public:
@@ -38,7 +61,6 @@ private:
     bool confirmZones();
     Plot3DStrandMap_s startStrands() const;
     bool addZones();
-    void reportFailedFileSet(const Plot3DFileHandler& fileSet) const;
     bool settleSolutionTimes();
     void notifyHost();
     bool deleteNewZonesAndVars();
@@ -220,17 +242,6 @@ bool DatasetStage::addZones() {
     return true;
 }
 
-void DatasetStage::reportFailedFileSet(const Plot3DFileHandler& fileSet) const {
-    if (QuorUtilInterruptIsSet())
-        QuorUtilDialogErrMsg("Plot3D Data load interrupted");
-    else if (fileSet.hasSolutionFile())
-        reportFileError(*fileSet.solutionFile, "Invalid Plot 3D solution file.");
-    else if (fileSet.hasGridFile())
-        reportFileError(*fileSet.gridFile, "Invalid Plot 3D grid file.");
-    else
-        reportFileError(*fileSet.functionFiles.front(), "Invalid Plot 3D function file.");
-}
-
 bool DatasetStage::settleSolutionTimes() {
     if (!options.assignStrandIds ||
         checkSolutionTimes(context.existingZoneCount + 1, options, context.fileSets))
@@ -289,6 +300,22 @@ bool DatasetStage::deleteNewZonesAndVars() {
 }
 
 } // namespace
+
+bool checkVariables(const Plot3DLoadContext_s& context) {
+    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
+    // Counts that are absurd are told by the stage.
+    if (!std::all_of(fileSets.begin(), fileSets.end(), areCountsPlausible))
+        return true;
+    const Plot3DVariablePlaces_s places = {context.numSpatialVars, context.hasIBlank,
+                                           context.numSolutionVars, countVariablesToBe(context)};
+    const auto bad =
+        std::find_if_not(fileSets.begin(), fileSets.end(), [&places](const auto& fileSet) {
+            return checkVariablesFor(fileSet, places);
+        });
+    if (bad != fileSets.end())
+        reportFailedFileSet(*bad);
+    return bad == fileSets.end();
+}
 
 bool createDatasetAndZones(Plot3DLoadContext_s& context) {
     DatasetStage stage(context);

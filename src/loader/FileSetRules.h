@@ -30,4 +30,8 @@ bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileL
 bool checkHandlerDimensions(const std::vector<Plot3DFileHandler>& handlers,
                             bool uniformGridStructure);
 
+/// Whether the load takes a grid of each time step.
+bool checkGridSet(const Plot3DLoadOptions_s& options,
+                  const std::vector<Plot3DFileHandler>& handlers);
+
 } // namespace quorvia::quorutildataio

@@ -1,9 +1,12 @@
-// Whether the headers of all files agree on the number of grids.
+// Whether the headers of all files agree on the number of grids, and hold grids that are wanted.
 #include "loader/FileSetRules.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <sstream>
+
+#include "loader/LoadContext.h"
 
 namespace quorvia::quorutildataio {
 
@@ -77,6 +80,18 @@ bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFile
         if (!checkAgainstFirstTimeStep(*list, reference->numGrids))
             return false;
     return true;
+}
+
+bool checkGridSet(const Plot3DLoadOptions_s& options,
+                  const std::vector<Plot3DFileHandler>& handlers) {
+    const auto empty =
+        std::find_if(handlers.begin(), handlers.end(), [&options](const Plot3DFileHandler& each) {
+            return !QuorUtilSetIsEmpty(options.gridSet) && countSelectedGrids(options, each) == 0;
+        });
+    if (empty == handlers.end())
+        return true;
+    reportFileError(*empty->structureFile(), "The grid set selects no grid of the file.");
+    return false;
 }
 
 } // namespace quorvia::quorutildataio

@@ -33,7 +33,9 @@ void settleBoundaryFile(Plot3DLoadOptions_s& options) {
 /// Headers of all files, and the times of their names, which are taken also from refused files.
 bool examineNamesAndHeaders(Plot3DLoadContext_s& context) {
     Plot3DLoadOptions_s& options = context.options;
-    const bool examined = checkFileSetCounts(options) && examineFiles(context);
+    // Once more, since solution files may have turned out to be function files.
+    const bool examined =
+        checkFileSetCounts(options) && examineFiles(context) && checkFileSetCounts(options);
     const bool hasNames = !options.solutionFiles.empty() || !options.functionFiles.empty();
     if (options.extractTimeFromSolFileNames && hasNames)
         extractSolutionTimes(options);
@@ -56,7 +58,7 @@ bool makeFileSets(Plot3DLoadContext_s& context) {
         QuorUtilDialogErrMsg("There are no files to load.");
         return false;
     }
-    return true;
+    return checkGridSet(options, context.fileSets);
 }
 
 /// The first time step stands for the load.
@@ -102,7 +104,7 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
     const Plot3DLoadOptions_s& options = context.options;
     const Plot3DFileHandler& first = context.fileSets.front();
     context.zonesPerTimeStep = countSelectedGrids(options, first);
-    if (!checkDatasetCompatibility(context))
+    if (!checkDatasetCompatibility(context) || !checkVariables(context))
         return false;
     if (options.append) {
         context.undoStarted = true;

@@ -224,12 +224,11 @@ TEST_F(DatasetCompatibility, WantsAZoneForEachGridOfASolution) {
     EXPECT_EQ(refusal(), fault);
 }
 
-TEST_F(DatasetCompatibility, WantsAZoneForEachGridOfFunctionsThatPassForASolution) {
+TEST_F(DatasetCompatibility, TakesNoFunctionsThatPassForASolution) {
     makeDataSet(gridAndSolution, 1);
     useFiles({}, {functionFile("a.q", {{2, 3, 5}, {2, 3, 5}}, 2)});
-    EXPECT_EQ(refusal(), "Not allowed to replace solution in existing dataset that has fewer "
-                         "number of zones (1) than the number of grids retrieved from in the "
-                         "solution files (2).");
+    EXPECT_EQ(refusal(), "You can not load function files or solution files only. You must load "
+                         "grid and solution files along with function files. ");
 }
 
 std::string variableFault(int there, int needed) {

@@ -14,6 +14,10 @@ const std::string noBoundaryFile =
     "The boundary file does not exist in the same directory as the grid file and will not be "
     "loaded.This may have an effect on the dataset if anything relies on the boundary zones.";
 
+const std::string functionsAlone =
+    "You can not load function files or solution files only. You must load grid and solution files "
+    "along with function files. ";
+
 class LoadDriver : public LoaderTest {
 protected:
     /// The value behind a key of the instructions that were handed over.
@@ -157,7 +161,7 @@ TEST_F(LoadDriver, RefusesFunctionFilesForANewDataSetWithoutAGrid) {
     useFiles({}, {function});
     options.hasGridFiles = true;
     EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D function file.\nFile: " + function});
+    EXPECT_EQ(messages(), Texts{functionsAlone});
     EXPECT_EQ(host().frame().dataSet(), nullptr);
 }
 
