@@ -139,10 +139,16 @@ std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
 }
 
-bool hasElements(std::int32_t zone) {
+bool checkElements(std::int32_t zone) {
     std::int32_t zoneCount = 0;
-    return QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
-           QuorUtilZoneGetType(zone) != QuorZoneType_Ordered;
+    if (QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
+        hasElements(QuorUtilZoneGetType(zone)))
+        return true;
+    const std::string text = "Zone " + std::to_string(zone) +
+                             " has neither triangles nor tetrahedra that a zone of an "
+                             "unstructured solution could have.";
+    QuorUtilDialogErrMsg(text.c_str());
+    return false;
 }
 
 bool deleteZones(std::int32_t first, std::int32_t last) {
@@ -193,7 +199,7 @@ bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
                     std::int32_t gridIndex, const Plot3DZoneRequest_s& request) {
     const bool isUnstructured = handler.getDataStructure() == Plot3DDataStructure_Unstructured;
     // A solution file knows no elements; they are those of the zone that the grid came with.
-    if (isUnstructured && !handler.hasGridFile() && !hasElements(request.baseZone))
+    if (isUnstructured && !handler.hasGridFile() && !checkElements(request.baseZone))
         return false;
     const Plot3DZoneDims_s dims =
         zoneDimensionsForGrid(stage.options, handler, gridIndex, request.baseZone);

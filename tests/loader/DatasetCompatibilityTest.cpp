@@ -278,6 +278,63 @@ TEST_F(DatasetCompatibility, ComparesTheLastZones) {
     EXPECT_EQ(refusal(), sizeFault(4, 1));
 }
 
+class ZonesOfElements : public DatasetCompatibility {
+protected:
+    /// A zone of 7 nodes, whatever the host says that it consists of.
+    void makeZoneOfType(std::int32_t type, std::int64_t nodes = 7) {
+        host().clearLog();
+        makeDataSet(gridAndSolution, 1);
+        host::Zone& zone = *host().frame().dataSet()->zone(1);
+        zone.type = type;
+        zone.i = nodes;
+        zone.j = 5;
+        zone.k = type == QuorZoneType_Triangles ? 3 : 4;
+    }
+    void useNodes(std::int32_t nodes) {
+        useSolution({{nodes, 0, 0}}, Layout_e::Unstructured);
+        options.autoDetect = false;
+        options.isMultiGrid = true;
+        options.style = Plot3DStyle_Classic;
+        options.dataStructure = Plot3DDataStructure_Unstructured;
+    }
+};
+
+constexpr std::int32_t otherElements = 2; // a type that PLOT3D does not know
+
+TEST_F(ZonesOfElements, AreComparedByTheirNodesIfTheyAreTrianglesOrTetrahedra) {
+    for (const std::int32_t type : {QuorZoneType_Triangles, QuorZoneType_Tetrahedra}) {
+        makeZoneOfType(type);
+        useNodes(11);
+        EXPECT_EQ(refusal(), sizeFault(1, 1));
+        makeZoneOfType(type);
+        useNodes(7);
+        EXPECT_TRUE(passes());
+    }
+}
+
+// They pass this check, and another one looks whether the values fit.
+TEST_F(ZonesOfElements, OfOtherTypesAreNotCompared) {
+    makeZoneOfType(otherElements);
+    useNodes(11);
+    EXPECT_EQ(refusal(), "The solution file does not fit the zones that are there.\nFile: " +
+                             options.solutionFiles.front());
+}
+
+TEST_F(ZonesOfElements, OfOtherTypesDoNotGiveTheirsToNewZones) {
+    for (const std::int32_t type : {otherElements, std::int32_t{QuorZoneType_Ordered}}) {
+        makeZoneOfType(type);
+        useNodes(7);
+        options.append = true;
+        EXPECT_FALSE(load());
+        EXPECT_EQ(
+            messages(),
+            (Texts{"Zone 1 has neither triangles nor tetrahedra that a zone of an "
+                   "unstructured solution could have.",
+                   "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.front()}));
+        EXPECT_EQ(zoneCount(), 1);
+    }
+}
+
 TEST_F(DatasetCompatibility, LooksSizesUpByTheNumberAmongTheSelected) {
     makeDataSet(gridAndSolution, 2);
     useSolution({{2, 3, 7}, {2, 3, 5}});
