@@ -1,7 +1,6 @@
 // Whether the headers of all files agree on the number of grids, and hold grids that are wanted.
 #include "loader/FileSetRules.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <sstream>
@@ -83,15 +82,22 @@ bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFile
 }
 
 bool checkGridSet(const Plot3DLoadOptions_s& options,
-                  const std::vector<Plot3DFileHandler>& handlers) {
-    const auto empty =
-        std::find_if(handlers.begin(), handlers.end(), [&options](const Plot3DFileHandler& each) {
-            return !QuorUtilSetIsEmpty(options.gridSet) && countSelectedGrids(options, each) == 0;
-        });
-    if (empty == handlers.end())
+                  const std::vector<Plot3DFileHandler>& handlers, std::int32_t zonesPerTimeStep) {
+    if (options.gridSet == nullptr)
         return true;
-    reportFileError(*empty->structureFile(), "The grid set selects no grid of the file.");
-    return false;
+    const Plot3DFile_s* counted = handlers.front().structureFile();
+    std::int32_t selected = zonesPerTimeStep;
+    for (const Plot3DFileHandler& each : handlers) {
+        const Plot3DFile_s* file = each.structureFile();
+        if (file != counted) // a grid file may stand for many time steps
+            selected = countSelectedGrids(options, each);
+        counted = file;
+        if (selected == 0 && each.getNumGrids() > 0) {
+            reportFileError(*file, "The grid set selects no grid of the file.");
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace quorvia::quorutildataio

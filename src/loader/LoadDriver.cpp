@@ -58,7 +58,7 @@ bool makeFileSets(Plot3DLoadContext_s& context) {
         QuorUtilDialogErrMsg("There are no files to load.");
         return false;
     }
-    return checkGridSet(options, context.fileSets);
+    return true;
 }
 
 /// The first time step stands for the load.
@@ -103,7 +103,6 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
     constexpr std::int32_t loadUndoCategory = 9;
     const Plot3DLoadOptions_s& options = context.options;
     const Plot3DFileHandler& first = context.fileSets.front();
-    context.zonesPerTimeStep = countSelectedGrids(options, first);
     if (!checkDatasetCompatibility(context) || !checkVariables(context))
         return false;
     if (options.append) {
@@ -128,6 +127,9 @@ bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
         return false;
     readShape(context);
     context.mainTask->createSubTask(currentTask, estimateLoadWork(context));
+    context.zonesPerTimeStep = countSelectedGrids(context.options, context.fileSets.front());
+    if (!checkGridSet(context.options, context.fileSets, context.zonesPerTimeStep))
+        return false;
     if (appendsFunctionsAlone(context))
         return appendFunctionFiles(context.fileSets, context.options);
     return buildDataSet(context);
