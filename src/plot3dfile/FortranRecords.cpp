@@ -194,7 +194,7 @@ bool nextRecord(Plot3DFile_s& file, bool report, const char* context) {
     const char* fault = enterNextRecord(file);
     if (fault == nullptr)
         return true;
-    if (report)
+    if (report && !file.stream->wasStopped())
         reportFileError(file, context != nullptr ? std::string(fault) + " for " + context : fault);
     return false;
 }

@@ -26,7 +26,7 @@ bool checkFortranRecords(Plot3DFile_s& file);
 
 /// Moves to the first payload byte of the next record, with `recordLength` its payload over all
 /// segments. True at once for other encodings. On failure, if `report`, tells the user, with
-/// " for " and `context` unless that is null.
+/// " for " and `context` unless that is null; nothing is told of a read that was stopped.
 bool nextRecord(Plot3DFile_s& file, bool report, const char* context);
 
 /// Whether the current record, or the current line of a text file, is used up.

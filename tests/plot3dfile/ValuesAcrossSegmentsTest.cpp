@@ -129,6 +129,26 @@ TEST_F(ValuesAcrossSegments, OfMixedKindsAreWholeWhereverTheBoundaryStands) {
         }
 }
 
+// As one block: the rule for one boundary, wherever it stands in a value.
+TEST_F(ValuesAcrossSegments, OfABlockAreWholeWhereverItsOneBoundaryStands) {
+    for (const Form form : everyForm)
+        for (std::int64_t boundary = 1; boundary < 24; ++boundary) {
+            std::string bytes =
+                realsOf(form, 7).insert(static_cast<std::size_t>(boundary), "MARKmark");
+            openFortran(bytes).segmentBoundaries = {boundary};
+            file->byteSwap = form.order == Order::Swapped;
+            std::vector<float> floats(7);
+            std::vector<double> doubles(7);
+            file->isDoublePrecision = form.isDouble;
+            void* target = form.isDouble ? static_cast<void*>(doubles.data()) : floats.data();
+            EXPECT_TRUE(readReals(*file, true, 0, 7, target, nullptr));
+            if (!form.isDouble)
+                doubles.assign(floats.begin(), floats.end());
+            ASSERT_EQ(doubles, countedFromOne<double>(7)) << boundary;
+            EXPECT_EQ(file->stream->tell(), std::ssize(bytes));
+        }
+}
+
 // Rows longer than a run of values, with a boundary in every run.
 TEST_F(ValuesAcrossSegments, OfLongRowsAreWhole) {
     openSegments(realsOf({}, 5003), 4099);
