@@ -49,12 +49,14 @@ bool FetchSeries::fetch(std::int32_t zone, FieldOutcome_s& field) {
     if (!fetched.ok && host_.interruptRequested())
         return false;
     field.error.reset();
-    if (fetched.ok)
-        field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
-                                          fetched.values, fetched.count);
-    else
+    if (!fetched.ok) {
         field.error = fetched.error;
-    return true;
+        return true;
+    }
+    field.statistics = describeValuesWhile([this] { return !host_.interruptRequested(); },
+                                           static_cast<QuorFieldDataType_e>(fetched.type),
+                                           fetched.values, fetched.count);
+    return field.statistics.has_value();
 }
 
 } // namespace quorvia::host

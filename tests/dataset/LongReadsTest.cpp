@@ -52,6 +52,19 @@ TEST_F(LongReads, OfFieldsForAHostWithoutArraysEndOnInterruptionWithoutAWord) {
     interruptAtByte(files, mebibyte);
     EXPECT_FALSE(load({step(&grid)}));
     EXPECT_EQ(messages(), Texts());
+    EXPECT_LT(files.bytesRead, 65 * mebibyte);
+}
+
+// 4.4 million triangles.
+TEST_F(LongReads, OfConnectivityEndOnInterruptionWithoutAWord) {
+    FileDescription_s description = describeGrid({{3, 4'400'000, 0}}, Layout_e::Unstructured);
+    description.corner = [](std::int32_t, std::int64_t, std::int32_t) { return 1; };
+    Plot3DFile_s& grid = write("x", description);
+    WatchedFiles files;
+    interruptAtByte(files, mebibyte);
+    EXPECT_FALSE(load({step(&grid)}));
+    EXPECT_EQ(messages(), Texts());
+    EXPECT_LT(files.bytesRead, 65 * mebibyte);
 }
 
 TEST_F(LongReads, OfALoadGoOnWhileNobodyInterrupts) {

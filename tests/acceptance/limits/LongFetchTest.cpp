@@ -31,7 +31,8 @@ void PrintTo(const FormCase_s& formCase, std::ostream* out) {
 class LongFetch : public LoadedAddOnTest {
 protected:
     /// A grid file of zeros, but that Y of its last point is 1.
-    void loadGrid(const GridDims_s& dims, const FormCase_s& formCase) {
+    void loadGrid(const GridDims_s& dims, const FormCase_s& formCase,
+                  const std::vector<std::pair<std::string, std::string>>& settings = {}) {
         FileDescription_s grid;
         grid.grids = {dims};
         grid.value = [](auto...) { return 0.0; };
@@ -45,7 +46,7 @@ protected:
         if (!written.problem.empty())
             throw std::runtime_error(written.problem);
         putOneAhead(file, written.blocks.at(2).position, formCase);
-        expectLoads({.gridFiles = {file}});
+        expectLoads({.gridFiles = {file}, .settings = settings});
     }
     static constexpr FormCase_s plain = {"Plain", Encoding_e::Binary, ByteOrder_e::Little,
                                          Precision_e::Single};
@@ -112,6 +113,20 @@ TEST_F(LongFetch, MovesABarOfItsOwnWithTheBytes) {
         EXPECT_DOUBLE_EQ(fractions[static_cast<std::size_t>(step - 1)],
                          static_cast<double>(step) / static_cast<double>(steps + 1));
     EXPECT_EQ(closings, 1);
+}
+
+// A boundary zone has few points, but the whole field of its grid is read for them.
+TEST_F(LongFetch, OfABoundaryZoneIsStoppedAndCanBeRepeated) {
+    directory().write("big.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n1 1 1 $ 1 $ 293 293 F 0\n");
+    loadGrid(bigGrid, plain, {{"LOADBOUNDARY", "Yes"}});
+    host().interruptAtStep(9);
+    EXPECT_FALSE(host().fetch(2, 2).ok);
+    EXPECT_EQ(host().stepCount(), 9);
+    EXPECT_EQ(messages(), Texts());
+    host().clearFaults();
+    const std::vector<double> found = values(2, 2);
+    EXPECT_EQ(std::ssize(found), 281 * 283);
+    EXPECT_EQ(found.back(), 1.0);
 }
 
 TEST_F(LongFetch, AsksNothingOfAFieldOfUpTo64MiB) {
