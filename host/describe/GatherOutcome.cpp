@@ -140,16 +140,6 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
 
 // ---- Values -------------------------------------------------------------------------------------
 
-void fetchField(ReferenceHost& host, std::int32_t zone, FieldOutcome_s& field) {
-    const FetchResult fetched = host.fetch(zone, field.variable);
-    if (!fetched.ok) {
-        field.error = fetched.error;
-        return;
-    }
-    field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
-                                      fetched.values, fetched.count);
-}
-
 void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
     const ZoneOutcome_s& holder = dataSet.zones[static_cast<std::size_t>(field.sharedWith) - 1];
     const FieldOutcome_s& original = holder.fields[static_cast<std::size_t>(field.variable) - 1];
@@ -161,10 +151,11 @@ bool isFetched(const FieldOutcome_s& field) {
     return field.state == FieldState_e::Deferred || field.state == FieldState_e::Stored;
 }
 
-std::int64_t countFetches(const DataSetOutcome_s& dataSet) {
+std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
     std::int64_t count = 0;
     for (const ZoneOutcome_s& zone : dataSet.zones)
-        count += std::count_if(zone.fields.begin(), zone.fields.end(), isFetched);
+        for (const FieldOutcome_s& field : zone.fields)
+            count += isFetched(field) ? byteCountOf(field) : 0;
     return count;
 }
 
@@ -190,8 +181,7 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
 }
 
 bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObserver& observer) {
-    const std::int64_t total = countFetches(dataSet);
-    std::int64_t done = 0;
+    FetchSeries series(host, countBytes(dataSet), observer);
     for (ZoneOutcome_s& zone : dataSet.zones) {
         for (FieldOutcome_s& field : zone.fields) {
             // The holder has a lower number, so it has been fetched already.
@@ -199,10 +189,8 @@ bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObse
                 copyFromHolder(dataSet, field);
             if (!isFetched(field))
                 continue;
-            if (observer && !observer(done, total))
+            if (!series.mayGoOn() || !series.fetch(zone.number, field))
                 return false;
-            fetchField(host, zone.number, field);
-            ++done;
         }
     }
     return true;

@@ -42,9 +42,8 @@ double TaskNode::fraction() const {
     return whole > 0.0 ? done / whole : 0.0;
 }
 
-ProgressBar::ProgressBar(std::int64_t steps) {
+ProgressBar::ProgressBar(std::int64_t steps) : isInner_(hostState().openProgressBars++ > 0) {
     top_->setStepCount(steps);
-    ++hostState().openProgressBars;
 }
 
 ProgressBar::~ProgressBar() {
@@ -59,7 +58,7 @@ void ProgressBar::showText(const std::string& text) {
 }
 
 void ProgressBar::showFraction() {
-    if (!hostState().settings.progressObserver)
+    if (!hostState().settings.progressObserver || isInner_)
         return;
     shown_ = std::max(shown_, top_->fraction());
     tell(true);
@@ -67,7 +66,7 @@ void ProgressBar::showFraction() {
 
 void ProgressBar::tell(bool isOpen) {
     const auto& observer = hostState().settings.progressObserver;
-    if (observer)
+    if (observer && !isInner_)
         observer({shown_, text_, isOpen});
 }
 

@@ -36,7 +36,8 @@ private:
     std::vector<std::shared_ptr<TaskNode>> subTasks_; // those that still run
 };
 
-/// One bar on the user's screen.
+/// One bar on the user's screen. A bar that is opened while another stands, as that of a field
+/// which a load makes the host fetch, counts and is not shown.
 class ProgressBar {
 public:
     explicit ProgressBar(std::int64_t steps);
@@ -52,6 +53,7 @@ public:
 private:
     void tell(bool isOpen);
 
+    const bool isInner_;
     std::shared_ptr<TaskNode> top_ = std::make_shared<TaskNode>(nullptr, 0);
     std::string text_;
     double shown_ = 0.0; // the bar never goes back, even when a task gets more to do

@@ -157,7 +157,8 @@ FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
     if (!result.ok) {
         result.error = joinedErrors(state_.log.messages, messagesBefore);
         if (result.error.empty())
-            result.error = "The values could not be read.";
+            result.error = interruptRequested() ? "The fetch was interrupted."
+                                                : "The values could not be read.";
         return result;
     }
     result.values = storage->values();

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "addon/state/AddOnIdentity.h"
+#include "dataset/LongReads.h"
 #include "plot3dfile/CheckedSize.h"
 #include "plot3dfile/OpenedFile.h"
 #include "plot3dfile/TypedArrays.h"
@@ -69,8 +70,12 @@ public:
 
     bool run() {
         const OpenedFile opened(file_);
-        return opened && file_.stream->seek(data_.gridOffset) && measureGrid() &&
-               passOverOthers() && deliver();
+        if (!opened || !file_.stream->seek(data_.gridOffset) || !measureGrid())
+            return false;
+        FetchWatch watch(file_.encoding == Plot3DEncoding_Ascii ? file_.fileSize - data_.gridOffset
+                                                                : byteCount_);
+        const WatchedReading watched(*file_.stream, watch);
+        return passOverOthers() && deliver();
     }
 
 private:

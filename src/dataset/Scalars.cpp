@@ -168,7 +168,7 @@ bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool 
     const bool ok = forEachScalar(file, setItem, setTime);
     if (ok)
         passOverMoreGammas(file);
-    if (!ok && report)
+    if (!ok && report && !file.stream->wasStopped())
         QuorUtilDialogErrMsg("Error loading Scalars.");
     return ok;
 }

@@ -42,8 +42,9 @@ bool failWith(bool report, const char* text) {
     return false;
 }
 
-bool failItem(const VariableItem& item, bool report) {
-    return failWith(report,
+/// Nothing is told of a read that the user has stopped.
+bool failItem(const Plot3DFile_s& file, const VariableItem& item, bool report) {
+    return failWith(report && !file.stream->wasStopped(),
                     item.isIBlank ? "Error loading IBlank Variable." : "Error loading Variable.");
 }
 
@@ -86,9 +87,9 @@ bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, 
         !registerLodVariable(Plot3DVarRepo::instance().getVariable(file), item.hostZone,
                              item.hostVar, position, item.valueCount)) {
         failWith(report, "Failed to set up the variable.");
-        return failItem(item, report);
+        return failItem(file, item, report);
     }
-    return passOver(file, position, *byteCount.value()) || failItem(item, report);
+    return passOver(file, position, *byteCount.value()) || failItem(file, item, report);
 }
 
 Destination findDestination(const VariableItem& item) {
@@ -128,16 +129,16 @@ bool readNow(Plot3DFile_s& file, const VariableItem& item, bool report) {
     if (!checkType(file, item, target.type, report))
         return false;
     if (target.dest == nullptr)
-        return failItem(item, report);
+        return failItem(file, item, report);
     const bool ok =
         item.ranges.isSubset ? readSubset(file, item, target) : readBlock(file, item, true, target);
-    return ok || failItem(item, report);
+    return ok || failItem(file, item, report);
 }
 
 /// The block of a grid that is not loaded. Its length goes by the ends of the index ranges, like
 /// that of a loaded one.
 bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
-    return readBlock(file, item, false, Destination()) || failItem(item, report);
+    return readBlock(file, item, false, Destination()) || failItem(file, item, report);
 }
 
 } // namespace
