@@ -375,6 +375,16 @@ TEST_F(AppendedFunctions, SayLessOfGridsThatDiffer) {
               zoneRule);
 }
 
+// Three zones for two and one grids would do, were they counted file by file.
+TEST_F(AppendedFunctions, CountTheGridsOfTheFirstFileForEach) {
+    loadFirst();
+    appendFiles({gridFile("b.x", {{2, 3, 5}})}, {});
+    begin();
+    options.uniformGridStructure = options.solutionsShareStructure = false;
+    EXPECT_EQ(refusal({functionFile("a.fun", twoGrids, 2), functionFile("b.fun", {{2, 3, 5}}, 2)}),
+              zoneRule);
+}
+
 TEST_F(AppendedFunctions, DoNotGoOntoZonesOfOtherSizes) {
     loadFirst();
     const std::string file = functionFile("a.fun", {{2, 3, 5}, {3, 5, 11}}, 2);
