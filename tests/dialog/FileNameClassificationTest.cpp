@@ -85,6 +85,8 @@ TEST_F(FileNames, AreNotClassifiedByTheirDirectory) {
     EXPECT_EQ(kindOf("/runs/x.case/data.dat"), '?');
     EXPECT_EQ(messages(), Texts{unrecognised(" *.dat")});
     EXPECT_EQ(kindOf("/runs.dat/wing.x"), 'g');
+    for (const char* name : {"/runs/a.in.b/data.dat", "a.in.b/data.dat", "x.case/data.dat"})
+        EXPECT_EQ(kindOf(name), '?') << name;
 }
 
 TEST_F(FileNames, KeepTheirPathsAndOrder) {

@@ -342,12 +342,24 @@ TEST_F(DatasetCompatibility, LooksSizesUpByTheNumberAmongTheSelected) {
     EXPECT_EQ(refusal(), sizeFault(2, 1));
 }
 
-TEST_F(DatasetCompatibility, WarnsOfBoundaryZonesWhereSizesDiffer) {
+TEST_F(DatasetCompatibility, DoesNotWarnOfBoundaryZonesWithoutABoundaryFile) {
     makeDataSet(gridAndSolution, 1);
     useSolution(otherSize);
     options.loadBoundary = true;
     EXPECT_FALSE(load()); // the boundary file is looked for beside a grid file and not found
     EXPECT_EQ(messages().back(), sizeFault(1, 1));
+}
+
+// No instructions and no dialog name a grid file without the flag.
+TEST_F(DatasetCompatibility, WarnsOfBoundaryZonesWhereSizesDiffer) {
+    makeDataSet(gridAndSolution, 1);
+    useFiles({gridFile("a.x", otherSize)}, {solutionFile("a.q", otherSize, 1)});
+    options.hasGridFiles = false;
+    directory.write("a.x.fvbnd", "FVBND 1 4\nBOUNDARIES\n");
+    options.loadBoundary = true;
+    EXPECT_EQ(refusal(), sizeFault(1, 1) +
+                             "\nThe existence of boundary zones will not allow appending. Please "
+                             "remove the boundary file or load all files at the same time.");
 }
 
 } // namespace

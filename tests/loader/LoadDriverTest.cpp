@@ -362,7 +362,5 @@ TEST_F(LoadDriver, LoadsAgainInPlaceOfWhatIsThere) {
     EXPECT_EQ(zoneCount(), 2);
 }
 
-// What this version does not do must never pass in silence, nor touch what is in the frame.
-
 } // namespace
 } // namespace quorvia::testsupport

@@ -196,6 +196,43 @@ TEST_F(Boundaries, OfAnAppendedGridStandBehindAllZones) {
     expectFaces(last(), 5, false, 30);
 }
 
+TEST_F(Boundaries, ThatJoinStrandsFollowOnTheLastZoneAndNotOnTheHighestStrand) {
+    const Files_s files = {.grids = {gridWithBoundaries("a.x")},
+                           .solutions = {series_.solution("join.q", 1)}};
+    const Settings withStrands = withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}};
+    play({load(files, withStrands),
+          load(files, withStrands + Settings{{"APPEND", "Yes"}, {"ADDTOEXISTINGSTRANDS", "Yes"}})});
+    EXPECT_EQ(numbers(last(), "strandId"),
+              (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 3, 4, 5, 6, 7, 8}));
+}
+
+TEST_F(Boundaries, StandInTheWayOfAppendedFunctions) {
+    const Files_s files = {.grids = {gridWithBoundaries("a.x")}};
+    play({load(files, withBoundaries), describe("before"),
+          load({.functions = {series_.function("a.fun", 2)}}, {{"APPEND", "Yes"}})});
+    EXPECT_EQ(messages(last()),
+              Texts{"If you are appending function files, you must append one file per existing "
+                    "time step already loaded. Also, any existing boundary zones will not allow "
+                    "appending function files. You are appending 1 function files with 2 zones "
+                    "each and there exist 8 zones."});
+    EXPECT_EQ(dataSet(last()), dataSet(described("before")));
+}
+
+// Zones of the grids, and a boundary zone of the second step that may not share its Y.
+TEST_F(Boundaries, ShareTheGridWholeOrNotAtAll) {
+    play({command("fail", {{"operation", "QuorUtilDataValueIsSharingOk"}, {"call", 2}}),
+          load({.grids = {gridWithBoundaries("a.x")},
+                .solutions = {series_.solution("share.1.q", 1), series_.solution("share.2.q", 2)}},
+               withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}})});
+    const Json& first = last()["dataSet"]["zones"][4 + faces.size()]["fields"];
+    const Json& second = last()["dataSet"]["zones"][5 + faces.size()]["fields"];
+    for (std::size_t variable = 0; variable < 3; ++variable) {
+        EXPECT_EQ(first[variable]["state"], "deferred");
+        EXPECT_EQ(second[variable]["state"], "shared");
+    }
+    expectFaces(last(), 5 + faces.size(), false);
+}
+
 /// Whether sharing is allowed.
 class BoundariesOfSeries : public Boundaries, public ::testing::WithParamInterface<bool> {
 protected:

@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -90,6 +92,9 @@ protected:
     }
     QPushButton& button(const char* text) {
         return *qobject_cast<QPushButton*>(namedWidget(window_, QLatin1String(text)));
+    }
+    static bool comesToTheFront(const QWidget& window) {
+        return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
     }
     std::size_t toldCount() const { return told_.size(); }
     template <typename Action>
@@ -190,6 +195,19 @@ TEST_F(DialogWindowTest, TellsATextOnce) {
     click(button("Apply"));
     ASSERT_EQ(toldCount(), 2U);
     EXPECT_EQ(told<PressDialogButton>(1).button, DialogButton::Apply);
+}
+
+TEST_F(DialogWindowTest, KeepsAHalfTypedTextWhileABoxIsInFront) {
+    ASSERT_TRUE(comesToTheFront(window()));
+    widget<QLineEdit>().setFocus();
+    QTest::keyClicks(&widget<QLineEdit>(), QStringLiteral("17"));
+    QMessageBox box(&window());
+    box.open();
+    ASSERT_TRUE(comesToTheFront(box));
+    box.close();
+    EXPECT_EQ(toldCount(), 0U);
+    click(button("OK"));
+    EXPECT_EQ(told<TypeText>().text, "17");
 }
 
 TEST_F(DialogWindowTest, ClosingTheWindowAsksForCancelAndLeavesItOpen) {
