@@ -2,6 +2,7 @@
 // with the values of every field.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include "describe/Outcome.h"
@@ -24,6 +25,9 @@ using FetchObserver = std::function<bool(std::int64_t done, std::int64_t total)>
 /// nothing.
 bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet,
                  const FetchObserver& observer = {});
+
+/// Fields whose values were asked for and could not be had.
+std::int64_t unreadFieldCount(const Outcome_s& outcome);
 
 /// Brings messages, violations and lock depth to what the host's log holds now.
 void updateLog(ReferenceHost& host, Outcome_s& outcome);
