@@ -2,6 +2,8 @@
 // with the values of every field.
 #pragma once
 
+#include <cstdint>
+
 #include "describe/FetchSeries.h"
 #include "describe/Outcome.h"
 #include "session/ReferenceHost.h"
@@ -20,6 +22,9 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result);
 /// later fields, and the one that was stopped, tell nothing.
 bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet,
                  const FetchObserver& observer = {});
+
+/// Fields whose values were asked for and could not be had.
+std::int64_t unreadFieldCount(const Outcome_s& outcome);
 
 /// Brings messages, violations and lock depth to what the host's log holds now.
 void updateLog(ReferenceHost& host, Outcome_s& outcome);

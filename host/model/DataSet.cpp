@@ -22,7 +22,8 @@ std::vector<Item> takeNumbered(std::vector<Item>& items, const std::set<std::int
     return taken;
 }
 
-// For each zone the lowest number of a zone for which `sharedThing` gives the same pointer.
+// For each zone the lowest number of a zone for which `sharedThing` gives the same pointer. Most
+// things of a large data set have one holder, and need not be looked up.
 template <typename SharedThing>
 std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>& zones,
                                         SharedThing sharedThing) {
@@ -30,9 +31,11 @@ std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>
     holders.reserve(zones.size());
     std::unordered_map<const void*, std::int32_t> firstOf;
     for (const std::unique_ptr<Zone>& zone : zones) {
-        const void* thing = sharedThing(*zone);
-        holders.push_back(
-            thing == nullptr ? 0 : firstOf.try_emplace(thing, zone->number).first->second);
+        const auto& thing = sharedThing(*zone);
+        if (thing.use_count() <= 1)
+            holders.push_back(thing == nullptr ? 0 : zone->number);
+        else
+            holders.push_back(firstOf.try_emplace(thing.get(), zone->number).first->second);
     }
     return holders;
 }
@@ -109,12 +112,13 @@ std::int32_t DataSet::maxStrandId() const {
 
 std::vector<std::int32_t> DataSet::fieldHolders(std::int64_t variableNumber) const {
     const auto index = static_cast<std::size_t>(variableNumber - 1);
-    return lowestHolders(zones_,
-                         [index](const Zone& zone) { return zone.fields[index].storage.get(); });
+    return lowestHolders(
+        zones_, [index](const Zone& zone) -> const auto& { return zone.fields[index].storage; });
 }
 
 std::vector<std::int32_t> DataSet::nodeMapHolders() const {
-    return lowestHolders(zones_, [](const Zone& zone) { return zone.nodeMap.get(); });
+    return lowestHolders(
+        zones_, [](const Zone& zone) -> const auto& { return zone.nodeMap; });
 }
 
 } // namespace quorvia::host

@@ -40,6 +40,7 @@ void emptyFieldsOf(const DataSet* data, const void* library) {
     if (data == nullptr)
         return;
     std::vector<std::shared_ptr<FieldStorage>> ended; // their clean-up finds all fields empty
+    ended.reserve(data->zones().size() * data->variables().size());
     for (const std::unique_ptr<Zone>& zone : data->zones()) {
         for (Field& field : zone->fields) {
             if (comesFrom(field.storage.get(), library))

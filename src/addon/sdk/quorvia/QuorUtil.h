@@ -10,7 +10,7 @@
 //   and stores null in it; giving back null is allowed and does nothing.
 // - "Borrowed" means that the callee may use the argument for the call only.
 // - Unless it says otherwise an operation may be called only while the add-on holds the host's
-//   lock.
+//   lock. Memory, strings, lists and sets need none: they are private to whoever holds them.
 // - No operation throws, save those that say so; a failure is a false or null result, and the host
 //   keeps its own text of it for QuorUtilPostLastErrorMessage.
 #pragma once
