@@ -7,6 +7,7 @@
 #include "dataset/Plot3DVarRepo.h"
 #include "dataset/SetupProgress.h"
 #include "plot3dfile/CheckedSize.h"
+#include "plot3dfile/LayoutHeader.h"
 #include "plot3dfile/TypedArrays.h"
 
 namespace quorvia::quorutildataio {
@@ -61,9 +62,22 @@ bool hasFilePrecision(const Plot3DFile_s& file, std::int32_t type) {
     return type == (file.isDoublePrecision ? QuorFieldDataType_Double : QuorFieldDataType_Float);
 }
 
+/// Its variables have the precision of the files that they came with, and the load's own message
+/// names one of those.
+void reportFunctionPrecision(const Plot3DFile_s& file, std::int32_t type) {
+    if (!isFunctionFile(file) ||
+        (type != QuorFieldDataType_Float && type != QuorFieldDataType_Double))
+        return;
+    reportFileError(file, file.isDoublePrecision
+                              ? "The function file has values of 64 bits, its variables of 32."
+                              : "The function file has values of 32 bits, its variables of 64.");
+}
+
 bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t type, bool report) {
     if (item.isIBlank || hasFilePrecision(file, type))
         return true;
+    if (report)
+        reportFunctionPrecision(file, type);
     return failWith(report, "Datatype mismatch while attempting to replace a solution var.");
 }
 

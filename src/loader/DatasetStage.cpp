@@ -91,12 +91,23 @@ bool DatasetStage::run() {
     return true;
 }
 
+/// The message of a failed time step names its solution file, else its grid file. Where another is
+/// at fault it is named ahead of that.
+void reportHiddenFile(const Plot3DFileHandler& fileSet) {
+    const Plot3DFile_s* named = fileSet.hasSolutionFile() ? fileSet.solutionFile : fileSet.gridFile;
+    const Plot3DFile_s* file = findImplausibleFile(fileSet);
+    if (named != nullptr && file != named)
+        reportFileError(*file, "The counts in the file's header do not fit the file.");
+}
+
 /// Names, variables and fields for all that an absurd header claims would fill the memory.
 bool DatasetStage::checkCounts() const {
     const auto bad =
         std::find_if_not(context.fileSets.begin(), context.fileSets.end(), areCountsPlausible);
-    if (bad != context.fileSets.end())
+    if (bad != context.fileSets.end()) {
+        reportHiddenFile(*bad);
         reportFailedFileSet(*bad);
+    }
     return bad == context.fileSets.end();
 }
 

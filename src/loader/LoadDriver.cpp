@@ -5,6 +5,7 @@
 #include "addon/state/AddOnIdentity.h"
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/CurrentTask.h"
+#include "dataset/FieldCount.h"
 #include "instructions/InstructionWriter.h"
 #include "instructions/TurnedRange.h"
 #include "loader/DatasetCompatibility.h"
@@ -58,6 +59,30 @@ bool makeFileSets(Plot3DLoadContext_s& context) {
         QuorUtilDialogErrMsg("There are no files to load.");
         return false;
     }
+    return true;
+}
+
+/// The record of a later grid file of a uniform load has the size of the first one.
+std::int64_t measure(const Plot3DFile_s& file) {
+    const std::unique_ptr<FileStream> stream = FileStream::open(file.fileName.str());
+    const std::int64_t size = stream != nullptr ? stream->size() : -1;
+    return size >= 0 ? size : file.fileSize; // the scan will tell what is wrong with the file
+}
+
+/// Text that a few repeat tokens blow up is refused while the host's data set is still as it was.
+bool checkTextValues(const Plot3DLoadContext_s& context) {
+    for (const Plot3DFileList* files :
+         {&context.gridFiles, &context.solutionFiles, &context.functionFiles})
+        for (const Plot3DFilePtr& file : *files) {
+            // Absurd counts of fields are told later, each in its own way.
+            if (file->encoding != Plot3DEncoding_Ascii || !isFieldCountPlausible(*file))
+                continue;
+            const bool isMeasured = files != &context.gridFiles || file == files->front();
+            if (isValueCountPlausible(*file, isMeasured ? file->fileSize : measure(*file)))
+                continue;
+            reportFileError(*file, "The file promises more than 64 values for each of its bytes.");
+            return false;
+        }
     return true;
 }
 
@@ -123,7 +148,7 @@ bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
         return false;
     settleBoundaryFile(context.options);
     normaliseStrandOptions(context.options);
-    if (!examineNamesAndHeaders(context) || !makeFileSets(context))
+    if (!examineNamesAndHeaders(context) || !makeFileSets(context) || !checkTextValues(context))
         return false;
     readShape(context);
     context.mainTask->createSubTask(currentTask, estimateLoadWork(context));

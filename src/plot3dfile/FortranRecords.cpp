@@ -7,6 +7,7 @@
 #include <string>
 
 #include "plot3dfile/ByteOrder.h"
+#include "quorvia/QuorUtil.h"
 
 namespace quorvia::quorutildataio {
 
@@ -16,6 +17,8 @@ constexpr std::int64_t largestPosition = std::numeric_limits<std::int64_t>::max(
 // A segment holds 2 GB, so that no file has so many. But zeros behind a chain that was never closed
 // would each be a segment of it, with a boundary to remember for every 8 bytes of the file.
 constexpr std::int64_t mostSegmentBoundaries = 1'000'000;
+// A file of nothing but short records takes long to walk.
+constexpr std::int64_t bytesBetweenQuestions = std::int64_t{64} << 20;
 // What a sum past 64 bits becomes: every seek to it fails.
 constexpr std::int64_t noPosition = -1;
 
@@ -179,13 +182,24 @@ bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length) {
     return endsChain;
 }
 
-bool checkFortranRecords(Plot3DFile_s& file) {
+RecordWalk_e walkFortranRecords(Plot3DFile_s& file) {
     rewindPlot3DFile(file);
     file.segmentBoundaries.clear();
-    while (file.fileSize - file.stream->tell() >= 1)
+    std::int64_t asked = 0; // the position at which the host was asked last
+    while (file.fileSize - file.stream->tell() >= 1) {
+        if (file.stream->tell() - asked >= bytesBetweenQuestions) {
+            if (QuorUtilInterruptIsSet())
+                return RecordWalk_e::Interrupted;
+            asked = file.stream->tell();
+        }
         if (!passOverEmptyRecords(file) && !passOverSegment(file))
-            return false;
-    return true;
+            return RecordWalk_e::DoesNotTile;
+    }
+    return RecordWalk_e::Tiles;
+}
+
+bool checkFortranRecords(Plot3DFile_s& file) {
+    return walkFortranRecords(file) == RecordWalk_e::Tiles;
 }
 
 bool nextRecord(Plot3DFile_s& file, bool report, const char* context) {

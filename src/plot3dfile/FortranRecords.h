@@ -20,8 +20,14 @@ constexpr std::int64_t fullSegmentMarker = -2147483639;
 /// from a leading marker that the trailing one has not confirmed.
 bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length);
 
+enum class RecordWalk_e { Tiles, DoesNotTile, Interrupted };
+
 /// Whether records of the supposed width and byte order tile the whole file. Fills
-/// `segmentBoundaries`.
+/// `segmentBoundaries`. Asks the host for an interruption after every 64 MiB of the file; a read
+/// error is one that does not tile.
+RecordWalk_e walkFortranRecords(Plot3DFile_s& file);
+
+/// Whether they do; false also for a walk that was interrupted.
 bool checkFortranRecords(Plot3DFile_s& file);
 
 /// Moves to the first payload byte of the next record, with `recordLength` its payload over all

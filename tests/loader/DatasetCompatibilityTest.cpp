@@ -199,7 +199,10 @@ TEST_F(DatasetCompatibility, MakesNoVariablesThatTheFileCannotHold) {
     useFiles({gridFile("a.x", oneGrid)}, {}, {absurdFunctions()});
     options.append = true;
     EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()});
+    EXPECT_EQ(messages(),
+              (Texts{"The counts in the file's header do not fit the file.\nFile: " +
+                         options.functionFiles.front(),
+                     "Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()}));
     EXPECT_EQ(variableNames(), gridAndSolution);
     EXPECT_EQ(zoneCount(), 1);
 }

@@ -8,9 +8,16 @@ namespace quorvia::testsupport {
 
 namespace {
 bool isArmed = false;
+std::size_t leastSize = 0;
+} // namespace
+
+/// Takes the failure out of the plan.
+static bool isToFail(std::size_t size) {
+    return size >= leastSize && cancelAllocationFault();
 }
 
-void failNextAllocation() {
+void failNextAllocation(std::size_t leastBytes) {
+    leastSize = leastBytes;
     isArmed = true;
 }
 
@@ -21,7 +28,7 @@ bool cancelAllocationFault() {
 } // namespace quorvia::testsupport
 
 void* operator new(std::size_t size) {
-    if (quorvia::testsupport::cancelAllocationFault())
+    if (quorvia::testsupport::isToFail(size))
         throw std::bad_alloc();
     if (void* block = std::malloc(size != 0 ? size : 1))
         return block;
@@ -30,8 +37,7 @@ void* operator new(std::size_t size) {
 
 // Sanitizers have one of their own, which does not lead to ours.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return quorvia::testsupport::cancelAllocationFault() ? nullptr
-                                                         : std::malloc(size != 0 ? size : 1);
+    return quorvia::testsupport::isToFail(size) ? nullptr : std::malloc(size != 0 ? size : 1);
 }
 
 void operator delete(void* block) noexcept {
