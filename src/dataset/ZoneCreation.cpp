@@ -139,18 +139,6 @@ std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
 }
 
-bool checkElements(std::int32_t zone) {
-    std::int32_t zoneCount = 0;
-    if (QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
-        hasElements(QuorUtilZoneGetType(zone)))
-        return true;
-    const std::string text = "Zone " + std::to_string(zone) +
-                             " has neither triangles nor tetrahedra that a zone of an "
-                             "unstructured solution could have.";
-    QuorUtilDialogErrMsg(text.c_str());
-    return false;
-}
-
 bool deleteZones(std::int32_t first, std::int32_t last) {
     const HostSet zones(QuorUtilSetAlloc(true));
     if (!zones)
@@ -193,6 +181,18 @@ bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
     return setUpFileSet({stage.options, handler, stage.firstHandler, stage.zoneBase,
                          stage.firstNewZone, stage.numSpatialVars, stage.numSolutionVars,
                          stage.existingVarCount, stage.hasIBlank, fileSetIndex == 0});
+}
+
+bool checkElements(std::int32_t zone) {
+    std::int32_t zoneCount = 0;
+    if (QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
+        hasElements(QuorUtilZoneGetType(zone)))
+        return true;
+    const std::string text = "Zone " + std::to_string(zone) +
+                             " has neither triangles nor tetrahedra that a zone of an "
+                             "unstructured solution could have.";
+    QuorUtilDialogErrMsg(text.c_str());
+    return false;
 }
 
 bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,

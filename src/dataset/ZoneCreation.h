@@ -57,6 +57,10 @@ constexpr bool hasElements(std::int32_t zoneType) {
     return zoneType == QuorZoneType_Triangles || zoneType == QuorZoneType_Tetrahedra;
 }
 
+/// Whether a new zone of an unstructured solution, which knows no elements, could have those of
+/// `zone`. False: told.
+bool checkElements(std::int32_t zone);
+
 /// Sizes that a grid, counted from 0, has as a zone under the load's index ranges. The host's
 /// `zone` is asked for its elements if the grid is unstructured and the handler has no grid file.
 Plot3DZoneDims_s zoneDimensionsForGrid(const Plot3DLoadOptions_s& options,

@@ -42,6 +42,42 @@ std::int64_t countVariablesToBe(const Plot3DLoadContext_s& context) {
                                          : context.existingVarCount;
 }
 
+bool checkVariables(const Plot3DLoadContext_s& context) {
+    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
+    // Counts that are absurd are told by the stage.
+    if (!std::all_of(fileSets.begin(), fileSets.end(), areCountsPlausible))
+        return true;
+    const Plot3DVariablePlaces_s places = {context.numSpatialVars, context.hasIBlank,
+                                           context.numSolutionVars, countVariablesToBe(context)};
+    const auto bad =
+        std::find_if_not(fileSets.begin(), fileSets.end(), [&places](const auto& fileSet) {
+            return checkVariablesFor(fileSet, places);
+        });
+    if (bad != fileSets.end())
+        reportFailedFileSet(*bad);
+    return bad == fileSets.end();
+}
+
+/// New zones of unstructured solutions without a grid file hang on zones that are there.
+bool checkElementsOfNewZones(const Plot3DLoadContext_s& context) {
+    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
+    if (context.options.hasGridFiles ||
+        fileSets.front().getDataStructure() != Plot3DDataStructure_Unstructured)
+        return true;
+    const bool rewritesFirst = !context.options.append || joinsLoneGrid(context);
+    const std::size_t firstWithZones = rewritesFirst ? 1 : 0;
+    if (fileSets.size() <= firstWithZones)
+        return true;
+    const std::int32_t base =
+        rewritesFirst ? 1 : context.existingZoneCount - context.zonesPerTimeStep + 1;
+    for (std::int32_t selected = 0; selected < context.zonesPerTimeStep; ++selected)
+        if (!checkElements(base + selected)) {
+            reportFailedFileSet(fileSets[firstWithZones]);
+            return false;
+        }
+    return true;
+}
+
 class DatasetStage {
 public:
     explicit DatasetStage(Plot3DLoadContext_s& load)
@@ -312,20 +348,8 @@ bool DatasetStage::deleteNewZonesAndVars() {
 
 } // namespace
 
-bool checkVariables(const Plot3DLoadContext_s& context) {
-    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
-    // Counts that are absurd are told by the stage.
-    if (!std::all_of(fileSets.begin(), fileSets.end(), areCountsPlausible))
-        return true;
-    const Plot3DVariablePlaces_s places = {context.numSpatialVars, context.hasIBlank,
-                                           context.numSolutionVars, countVariablesToBe(context)};
-    const auto bad =
-        std::find_if_not(fileSets.begin(), fileSets.end(), [&places](const auto& fileSet) {
-            return checkVariablesFor(fileSet, places);
-        });
-    if (bad != fileSets.end())
-        reportFailedFileSet(*bad);
-    return bad == fileSets.end();
+bool checkNeeds(const Plot3DLoadContext_s& context) {
+    return checkVariables(context) && checkElementsOfNewZones(context);
 }
 
 bool createDatasetAndZones(Plot3DLoadContext_s& context) {

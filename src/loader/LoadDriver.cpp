@@ -128,7 +128,7 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
     constexpr std::int32_t loadUndoCategory = 9;
     const Plot3DLoadOptions_s& options = context.options;
     const Plot3DFileHandler& first = context.fileSets.front();
-    if (!checkDatasetCompatibility(context) || !checkVariables(context))
+    if (!checkDatasetCompatibility(context) || !checkNeeds(context))
         return false;
     if (options.append) {
         context.undoStarted = true;

@@ -329,6 +329,7 @@ TEST_F(ZonesOfElements, OfOtherTypesDoNotGiveTheirsToNewZones) {
         useNodes(7);
         options.append = true;
         EXPECT_FALSE(load());
+        EXPECT_TRUE(host().log().undo.empty());
         EXPECT_EQ(
             messages(),
             (Texts{"Zone 1 has neither triangles nor tetrahedra that a zone of an "
@@ -336,6 +337,18 @@ TEST_F(ZonesOfElements, OfOtherTypesDoNotGiveTheirsToNewZones) {
                    "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.front()}));
         EXPECT_EQ(zoneCount(), 1);
     }
+}
+
+TEST_F(ZonesOfElements, OfOtherTypesAreLeftByAReplacementThatWouldAddZones) {
+    makeZoneOfType(otherElements);
+    const std::string name = host().frame().dataSet()->zone(1)->name;
+    useNodes(7);
+    options.solutionFiles.push_back(solutionFile("b.q", {{7, 0, 0}}, 2, Layout_e::Unstructured));
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages().size(), 2U);
+    EXPECT_EQ(messages().back(),
+              "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.back());
+    EXPECT_EQ(host().frame().dataSet()->zone(1)->name, name);
 }
 
 TEST_F(DatasetCompatibility, LooksSizesUpByTheNumberAmongTheSelected) {

@@ -40,6 +40,7 @@ const char* const knownMessages[] = {
     "Grid ",
     "The number of grids in the ",
     "All files must have the same data structure.",
+    "The values of the file need a data set of ",
     "There are Solution Files mixed up with Function Files. Please load them ",
 };
 

@@ -190,6 +190,14 @@ TEST_F(MixedPrecision, AppendedSurfaceHasTheGridThatIsThere) {
     EXPECT_TRUE(holds(fields[3], {.dims = {7, 1, 1}, .form = FieldForm_e::Double}));
 }
 
+// The first of them goes onto the zone that is there.
+TEST_F(MixedPrecision, StepsThatJoinALoneLineHaveItsGrid) {
+    series_.layout = Layout_e::OneD;
+    series_.grids = {{7, 1, 1}};
+    play({fresh(s, {{1, d}}), onto({{2, d}, {3, d}}, append)});
+    expectSteps(s, {{2, d}, {3, d}});
+}
+
 // The grids of the last time step are not all of one precision.
 TEST_F(MixedPrecision, EachZoneHasTheTypesOfTheOneThatItSharesWith) {
     series_.grids = {{2, 3, 5}};
