@@ -1,6 +1,7 @@
 #include "describe/FetchSeries.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "describe/Statistics.h"
@@ -53,10 +54,13 @@ bool FetchSeries::fetch(std::int32_t zone, FieldOutcome_s& field) {
         field.error = fetched.error;
         return true;
     }
-    field.statistics = describeValuesWhile([this] { return !host_.interruptRequested(); },
-                                           static_cast<QuorFieldDataType_e>(fetched.type),
-                                           fetched.values, fetched.count);
-    return field.statistics.has_value();
+    const std::optional<FieldStatistics_s> statistics = describeValuesWhile(
+        [this] { return !host_.interruptRequested(); },
+        static_cast<QuorFieldDataType_e>(fetched.type), fetched.values, fetched.count);
+    if (!statistics)
+        return false;
+    field.statistics = *statistics;
+    return true;
 }
 
 } // namespace quorvia::host

@@ -34,8 +34,8 @@ public:
     virtual bool stepWithMessage(const std::string& text) = 0;
 };
 
-/// The top task of a new progress bar of so many steps; the bar closes with it. Throws
-/// std::bad_alloc.
+/// The top task of a new progress bar of so many steps; the bar closes with it. It may be made and
+/// used without the lock, for the sake of load callbacks. Throws std::bad_alloc.
 QUORVIA_HOST_API std::unique_ptr<TaskProgress> createTaskProgressBar(std::int64_t steps);
 
 /// While one lives, the host holds back its notifications about solution times. It may be made and
