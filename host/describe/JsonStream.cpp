@@ -15,8 +15,12 @@ using Json = nlohmann::ordered_json;
 
 constexpr std::size_t kIndent = 2;
 
-bool standsForItself(char byte) {
-    return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\';
+/// Whether every byte stands for itself between the quotes. Most texts do, so this is the inner
+/// loop.
+bool isPlain(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char byte) {
+        return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\';
+    });
 }
 
 /// As the library writes a single value.
@@ -102,7 +106,7 @@ void JsonStream::startLine() {
 }
 
 void JsonStream::putText(std::string_view text) {
-    if (!std::all_of(text.begin(), text.end(), standsForItself)) {
+    if (!isPlain(text)) {
         text_ += dumped(text);
         return;
     }
