@@ -239,6 +239,19 @@ TEST_F(DialogWindowTest, TakesBackWhatTheGuestDidNotTake) {
     EXPECT_FALSE(widget<QCheckBox>().isChecked());
 }
 
+TEST_F(DialogWindowTest, IsAnsweredOnceItShowsWhatCameOfTheLastThingDone) {
+    EXPECT_FALSE(window().isAnswered());
+    const std::function<void()> deeds[] = {[this] { click(widget<QCheckBox>()); },
+                                           [this] { click(button("OK")); },
+                                           [this] { widget<QTabWidget>().setCurrentIndex(1); }};
+    for (const auto& act : deeds) {
+        refresh();
+        EXPECT_TRUE(window().isAnswered());
+        act();
+        EXPECT_FALSE(window().isAnswered());
+    }
+}
+
 TEST_F(DialogWindowTest, LeavesATextThatIsBeingTyped) {
     QTest::keyClicks(&widget<QLineEdit>(), QStringLiteral("17"));
     model(kField).text = "1";

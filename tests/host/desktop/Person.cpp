@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "desktop/DialogWindow.h"
+
 namespace quorvia::host {
 namespace {
 
@@ -76,13 +78,14 @@ QDialog* guestDialog() {
 
 namespace {
 
-/// The guest's dialog once a person can work at it: nothing stands before it, and it has the
-/// keyboard. That comes some time after it is seen; a field that is typed into before would not
-/// notice that it is left.
+/// The guest's dialog once a person can work at it: it shows what was done before, nothing stands
+/// before it, and it has the keyboard. That comes some time after it is seen; a field that is typed
+/// into before would not notice that it is left.
 QDialog* usableDialog() {
-    QDialog* dialog = guestDialog();
-    const bool isUsable =
-        QApplication::activeModalWidget() == dialog && QApplication::activeWindow() == dialog;
+    auto* dialog = dynamic_cast<DialogWindow*>(guestDialog());
+    const bool isUsable = dialog != nullptr && dialog->isAnswered() &&
+                          QApplication::activeModalWidget() == dialog &&
+                          QApplication::activeWindow() == dialog;
     return isUsable ? dialog : nullptr;
 }
 
@@ -116,7 +119,9 @@ void Person::act() {
     NamedStep_s next = std::move(steps_.front());
     steps_.pop_front();
     acting_ = false;
-    if (!next.step())
+    if (next.step())
+        ++doneCount_;
+    else
         steps_.push_front(std::move(next));
 }
 
