@@ -6,16 +6,29 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "model/Room.h"
 
 namespace quorvia::host {
 
 class TextLog {
 public:
-    void add(std::string_view text) {
+    /// So that the text can be added without memory. Throws std::bad_alloc, and nothing has changed
+    /// then.
+    void makeRoomFor(std::string_view text) {
         constexpr std::size_t leastCapacity = 32 * 1024;
-        if (blocks_.empty() || blocks_.back().room() < text.size())
-            blocks_.emplace_back().characters.reserve(std::max(leastCapacity, text.size()));
+        if (blocks_.empty() || blocks_.back().room() < text.size()) {
+            Block block;
+            block.characters.reserve(std::max(leastCapacity, text.size()));
+            makeRoom(block.ends);
+            blocks_.push_back(std::move(block));
+        }
+        makeRoom(blocks_.back().ends);
+    }
+    void add(std::string_view text) {
+        makeRoomFor(text);
         Block& block = blocks_.back();
         block.characters += text;
         block.ends.push_back(block.characters.size());
