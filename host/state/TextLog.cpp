@@ -36,15 +36,22 @@ void TextLog::add(std::string_view text) {
                       last_.rbegin());
     const auto tail = static_cast<std::size_t>(isEnd.first - text.rbegin());
 
-    std::string entry;
-    putNumber(entry, head);
-    putNumber(entry, tail);
-    putNumber(entry, text.size() - head - tail);
-    entry += text.substr(head, text.size() - head - tail);
-    last_.reserve(text.size()); // what follows the change of packed_ must not fail
-    packed_ += entry;
+    makeRoomFor(text);
+    putNumber(packed_, head);
+    putNumber(packed_, tail);
+    putNumber(packed_, text.size() - head - tail);
+    packed_ += text.substr(head, text.size() - head - tail);
     last_ = text;
     ++count_;
+}
+
+void TextLog::makeRoomFor(std::string_view text) {
+    constexpr std::size_t leastCapacity = 32 * 1024;
+    constexpr std::size_t mostBytesOfNumbers = 3 * (64 / kBits + 1);
+    const std::size_t needed = packed_.size() + mostBytesOfNumbers + text.size();
+    if (packed_.capacity() < needed)
+        packed_.reserve(std::max({needed, 2 * packed_.capacity(), leastCapacity}));
+    last_.reserve(text.size());
 }
 
 std::vector<std::string> TextLog::texts() const {

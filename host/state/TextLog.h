@@ -11,7 +11,10 @@ namespace quorvia::host {
 
 class TextLog {
 public:
-    /// If there is no memory, std::bad_alloc is thrown and nothing was added.
+    /// So that the text can be added without memory. Throws std::bad_alloc, and nothing has changed
+    /// then.
+    void makeRoomFor(std::string_view text);
+    /// Throws std::bad_alloc where no room was made, and nothing was added then.
     void add(std::string_view text);
     /// Takes the first `count` texts off; there must be so many.
     void dropFirst(std::size_t count) { dropped_ += count; }

@@ -14,14 +14,14 @@ constexpr std::int64_t kValueCount = 2 * 3 * 5;
 class CountingDeferral : public Deferral {
 public:
     CountingDeferral(int& loads, bool works) : loads_(loads), works_(works) {}
-    bool load(FieldStorage& storage) override {
+    bool load(FieldStorage& storage) noexcept override {
         ++loads_;
         auto* values = static_cast<float*>(storage.values());
         for (std::int64_t index = 0; works_ && index < storage.valueCount(); ++index)
             values[index] = static_cast<float>(index + 1);
         return works_;
     }
-    bool mayUnload(FieldStorage&) override { return true; }
+    bool mayUnload(FieldStorage&) noexcept override { return true; }
 
 private:
     int& loads_;
