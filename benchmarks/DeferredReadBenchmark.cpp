@@ -25,14 +25,16 @@ namespace {
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
 
-constexpr std::int64_t valueCount = 8'000'000;
-constexpr std::int64_t headerBytes = 12; // so that the values do not begin at a page
+constexpr std::int64_t valuesOfAField = 8'000'000;
+constexpr std::int64_t valuesOfALongField = 24'000'000; // 192 MB, read in pieces
+constexpr std::int64_t headerBytes = 12;                // so that the values do not begin at a page
 
 /// A file of values 0, 1, 2, ... behind a small header, and one field at the host to read them
 /// into.
 class Field {
 public:
-    Field(std::int64_t width, bool byteSwap) : width_(width) {
+    Field(std::int64_t width, bool byteSwap, std::int64_t valueCount)
+        : width_(width), valueCount_(valueCount) {
         writeFile(byteSwap);
         createHostField();
         auto variable = std::make_shared<Plot3DVariable_s>();
@@ -41,7 +43,7 @@ public:
         variable->isDoublePrecision = width == 8;
         variable->byteSwap = byteSwap;
         variable->markerSize = 4;
-        record_ = {variable, headerBytes, valueCount};
+        record_ = {variable, headerBytes, valueCount_};
     }
 
     bool readOnDemand() const { return readLodVariable(record_, handle_); }
@@ -62,12 +64,12 @@ public:
         return done == byteCount();
     }
 
-    std::int64_t byteCount() const { return valueCount * width_; }
+    std::int64_t byteCount() const { return valueCount_ * width_; }
 
     /// Whether the array holds 0, 1, 2, ...
     bool holdsTheValues() const {
         const void* values = QuorUtilDataValueGetRawPtrByRef(handle_);
-        for (std::int64_t n = 0; n < valueCount; n += 9973)
+        for (std::int64_t n = 0; n < valueCount_; n += 9973)
             if (valueAt(values, n) != static_cast<double>(n))
                 return false;
         return true;
@@ -81,7 +83,7 @@ private:
 
     void writeFile(bool byteSwap) {
         std::vector<char> bytes(static_cast<std::size_t>(headerBytes + byteCount()));
-        for (std::int64_t n = 0; n < valueCount; ++n) {
+        for (std::int64_t n = 0; n < valueCount_; ++n) {
             char* target = bytes.data() + headerBytes + n * width_;
             if (width_ == 8) {
                 const double value = static_cast<double>(n);
@@ -110,7 +112,7 @@ private:
         QuorUtilArgListClear(arguments.get());
         QuorUtilArgListAppendString(arguments.get(), "Name", "zone");
         QuorUtilArgListAppendInt(arguments.get(), "ZoneType", QuorZoneType_Ordered);
-        QuorUtilArgListAppendInt(arguments.get(), "IMax", valueCount);
+        QuorUtilArgListAppendInt(arguments.get(), "IMax", valueCount_);
         QuorUtilArgListAppendInt(arguments.get(), "JMax", 1);
         QuorUtilArgListAppendInt(arguments.get(), "KMax", 1);
         QuorUtilArgListAppendArray(arguments.get(), "VarDataType", &type);
@@ -125,14 +127,16 @@ private:
     }
 
     std::int64_t width_;
+    std::int64_t valueCount_;
     testsupport::TemporaryDirectory directory_;
     std::string fileName_;
     Plot3DLodRecord_s record_;
     QuorFieldHandle handle_ = nullptr;
 };
 
-void readOnDemand(benchmark::State& state, std::int64_t width, bool byteSwap) {
-    const Field field(width, byteSwap);
+void readOnDemand(benchmark::State& state, std::int64_t width, bool byteSwap,
+                  std::int64_t valueCount) {
+    const Field field(width, byteSwap, valueCount);
     for (auto _ : state)
         if (!field.readOnDemand())
             state.SkipWithError("the field could not be read");
@@ -141,8 +145,8 @@ void readOnDemand(benchmark::State& state, std::int64_t width, bool byteSwap) {
     state.SetBytesProcessed(state.iterations() * field.byteCount());
 }
 
-void readPlainly(benchmark::State& state, std::int64_t width) {
-    const Field field(width, false);
+void readPlainly(benchmark::State& state, std::int64_t width, std::int64_t valueCount) {
+    const Field field(width, false, valueCount);
     for (auto _ : state)
         if (!field.readPlainly())
             state.SkipWithError("the file could not be read");
@@ -157,13 +161,20 @@ int main(int argc, char** argv) {
     using quorvia::benchmarks::Ratio;
     for (const std::int64_t width : {4, 8}) {
         const std::string bits = std::to_string(8 * width);
-        benchmark::RegisterBenchmark(("PlainRead" + bits).c_str(), readPlainly, width)
+        benchmark::RegisterBenchmark(("PlainRead" + bits).c_str(), readPlainly, width,
+                                     valuesOfAField)
             ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(("DeferredNative" + bits).c_str(), readOnDemand, width, false)
+        benchmark::RegisterBenchmark(("DeferredNative" + bits).c_str(), readOnDemand, width, false,
+                                     valuesOfAField)
             ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(("DeferredSwapped" + bits).c_str(), readOnDemand, width, true)
+        benchmark::RegisterBenchmark(("DeferredSwapped" + bits).c_str(), readOnDemand, width, true,
+                                     valuesOfAField)
             ->Unit(benchmark::kMillisecond);
     }
+    benchmark::RegisterBenchmark("PlainReadLong", readPlainly, 8, valuesOfALongField)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("DeferredLong", readOnDemand, 8, false, valuesOfALongField)
+        ->Unit(benchmark::kMillisecond);
     return quorvia::benchmarks::runAndCompare(
         argc, argv,
         {{"Deferred read of 8 million 32-bit values, native byte order, to one plain read",
@@ -173,5 +184,7 @@ int main(int argc, char** argv) {
          {"Deferred read of 8 million 64-bit values, native byte order, to one plain read",
           "DeferredNative64", "PlainRead64", Ratio::SpeedAtLeast, 0.9},
          {"Deferred read of 8 million 64-bit values, other byte order, to one plain read",
-          "DeferredSwapped64", "PlainRead64", Ratio::SpeedAtLeast, 0.6}});
+          "DeferredSwapped64", "PlainRead64", Ratio::SpeedAtLeast, 0.6},
+         {"Deferred read of 24 million 64-bit values, which asks between pieces, to one plain read",
+          "DeferredLong", "PlainReadLong", Ratio::SpeedAtLeast, 0.9}});
 }

@@ -6,6 +6,8 @@
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
 
+#include "app/Settings.h"
+
 namespace quorvia::host {
 namespace {
 
@@ -22,9 +24,11 @@ constexpr const char* kExamples =
     "      two time steps of a vortex on one grid, and the outcome for a program\n"
     "\n"
     "Exit codes:\n"
-    "  0  loaded\n"
-    "  1  refused, failed or interrupted\n"
-    "  2  bad usage\n";
+    "  0    loaded\n"
+    "  1    refused or failed, or a file was left out of the load\n"
+    "  2    bad usage\n"
+    "  3    loaded, but the values of some fields can't be read\n"
+    "  130  interrupted\n";
 
 constexpr const char* kMacroNotes =
     "FILE holds {\"commands\": [...]} with one object for each command: select, instructions,\n"
@@ -38,9 +42,12 @@ constexpr const char* kMacroNotes =
     "      answers every question with OK or Yes, and writes each outcome for a program\n"
     "\n"
     "Exit codes:\n"
-    "  0  played, and the last load came in, or there was none\n"
-    "  1  the last load was refused, failed or interrupted, or a command can't be carried out\n"
-    "  2  bad usage, or a bad macro, of which nothing was played\n";
+    "  0    played, and the last load came in, or there was none\n"
+    "  1    the last load was refused, failed or left a file out, or a command can't be\n"
+    "       carried out\n"
+    "  2    bad usage, or a bad macro, of which nothing was played\n"
+    "  3    as 0, but the values of some fields can't be read at the end\n"
+    "  130  interrupted\n";
 
 /// The options before they are checked.
 struct RawLoad_s {
@@ -168,6 +175,9 @@ LoadArguments_s checkedLoad(RawLoad_s& raw) {
         auto setting = parseSetting(text);
         if (!setting)
             refuse(fmt::format("--set: \"{}\" is not KEY=VALUE", text));
+        const std::string problem = settingProblem(setting->first, setting->second);
+        if (!problem.empty())
+            refuse(fmt::format("--set: {}", problem));
         raw.load.settings.push_back(std::move(*setting));
     }
     const auto limit = parseMemorySize(raw.memoryLimit);

@@ -12,9 +12,11 @@
 namespace quorvia::host {
 
 enum class ExitCode_e : int {
-    Done = 0,     // loaded; help or version was shown
-    Failed = 1,   // refused, failed or interrupted
-    BadUsage = 2, // the command line or the macro can't be carried out
+    Done = 0,         // loaded; help or version was shown
+    Failed = 1,       // refused or failed, or something was left out of the load
+    BadUsage = 2,     // the command line or the macro can't be carried out
+    FieldsUnread = 3, // loaded, but the values of some fields can't be read
+    Interrupted = 130 // by the user, as shells tell it of a program that SIGINT has ended
 };
 
 /// One alternative for each subcommand, or the exit code if there is nothing left to do.

@@ -62,6 +62,12 @@ void tellProblems(const Played_s& played, const std::string& file, std::ostream&
         tellError(err, fmt::format("{}: {}", file, played.macro.problem));
     if (outcome.hostError)
         tellError(err, *outcome.hostError);
+    if (played.macro.lastLoadLeftOut)
+        tellError(err, "the last load came in, but with an error: something was left out");
+    const std::int64_t unread = unreadFieldCount(outcome);
+    if (unread > 0)
+        tellError(err, fmt::format("at the end {} {} could not be read", unread,
+                                   unread == 1 ? "field" : "fields"));
     if (played.interrupted)
         err << "quorhost: interrupted, the rest of the macro was not played\n";
     for (const std::string& violation : outcome.violations)
@@ -81,12 +87,21 @@ void printAccount(const PlayedMacro_s& played, std::ostream& out) {
 
 bool printResults(const MacroArguments_s& arguments, const PlayedMacro_s& played,
                   const Console_s& console) {
-    if (!arguments.jsonFile.empty() &&
-        !writeJson(toJson(played.session), arguments.jsonFile, console))
+    const auto json = [&played](std::ostream& out) { writeJson(played.session, out); };
+    if (!arguments.jsonFile.empty() && !writeJsonTo(arguments.jsonFile, console, json))
         return false;
     if (!arguments.jsonToOutput())
         printAccount(played, console.out);
     return finishOutput(console);
+}
+
+ExitCode_e exitCodeOf(const Played_s& played, bool written) {
+    const Outcome_s& outcome = played.macro.session.final;
+    if (played.interrupted)
+        return ExitCode_e::Interrupted;
+    if (!played.macro.complete || !outcome.ok || played.macro.lastLoadLeftOut || !written)
+        return ExitCode_e::Failed;
+    return unreadFieldCount(outcome) > 0 ? ExitCode_e::FieldsUnread : ExitCode_e::Done;
 }
 
 } // namespace
@@ -101,8 +116,7 @@ ExitCode_e runMacro(const MacroArguments_s& arguments, const Console_s& console)
     const Played_s played = play(*macro, arguments, console);
     tellProblems(played, arguments.file, console.err);
     const bool written = printResults(arguments, played.macro, console);
-    const bool isGood = played.macro.complete && played.macro.session.final.ok;
-    return isGood && written ? ExitCode_e::Done : ExitCode_e::Failed;
+    return exitCodeOf(played, written);
 }
 
 } // namespace quorvia::host

@@ -1,27 +1,25 @@
 #include "app/Output.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <ostream>
 
 #include <fmt/core.h>
 
+#include "app/WholeFile.h"
+
 namespace quorvia::host {
 
-bool writeJson(std::string_view json, const std::string& file, const Console_s& console) {
+bool writeJsonTo(const std::string& file, const Console_s& console,
+                 const std::function<void(std::ostream&)>& write) {
     if (file == "-") {
-        console.out << json;
+        write(console.out);
         return true;
     }
-    errno = 0;
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out << json;
-    out.close();
-    if (out)
+    WholeFile whole(file);
+    write(whole.stream());
+    std::string reason;
+    if (whole.replace(reason))
         return true;
-    tellError(console.err, fmt::format("{}: the JSON can't be written: {}", file,
-                                       errno != 0 ? std::strerror(errno) : "unknown failure"));
+    tellError(console.err, fmt::format("{}: the JSON can't be written: {}", file, reason));
     return false;
 }
 

@@ -1,16 +1,19 @@
 // Results on their way out of the program.
 #pragma once
 
+#include <functional>
+#include <iosfwd>
 #include <string>
-#include <string_view>
 
 #include "app/Console.h"
 
 namespace quorvia::host {
 
-/// Writes `json` to the file, in place of one that is there, or to standard output for "-". False:
-/// it can't be written, and standard error tells why.
-bool writeJson(std::string_view json, const std::string& file, const Console_s& console);
+/// Writes what `write` gives to the file, or to standard output for "-". A file that is there is
+/// replaced when the new one is whole, and not before. False: it can't be written, and standard
+/// error tells why.
+bool writeJsonTo(const std::string& file, const Console_s& console,
+                 const std::function<void(std::ostream&)>& write);
 
 /// False: standard output didn't take everything, and standard error tells so.
 bool finishOutput(const Console_s& console);

@@ -10,7 +10,7 @@
 namespace quorvia::host {
 
 /// Carries out one command line; `arguments` are those behind the program's name. Gives the exit
-/// code: 0 loaded, 1 refused, failed or interrupted, 2 bad usage or a bad macro. Throws nothing.
+/// code (ExitCode_e). Throws nothing.
 int run(const std::vector<std::string>& arguments, const Console_s& console) noexcept;
 
 } // namespace quorvia::host

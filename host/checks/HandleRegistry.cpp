@@ -25,12 +25,4 @@ std::string HandleRegistry::whyInvalid(std::uintptr_t number, Kind expected) con
     return name + " was given back already";
 }
 
-std::vector<Held> HandleRegistry::heldSince(std::int64_t serial) const {
-    std::vector<Held> held;
-    lists_.appendHeldSince(serial, held);
-    argLists_.appendHeldSince(serial, held);
-    sets_.appendHeldSince(serial, held);
-    return held;
-}
-
 } // namespace quorvia::host

@@ -9,6 +9,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -65,12 +66,6 @@ private:
     std::int64_t last_ = 0;
 };
 
-/// What a guest did not give back, by the operation that it came from.
-struct Held {
-    OperationId origin;
-    std::int64_t serial;
-};
-
 /// The handles of one kind. `Handle` is the pointer type of the contract, `Object` what stands
 /// behind.
 template <typename Handle, typename Object>
@@ -82,12 +77,35 @@ public:
         std::int64_t serial;
     };
 
+    /// A handle that is in use as long as this lives, and needs no memory. The last one lent must
+    /// end first.
+    class Lent {
+    public:
+        Lent(HandleTable& table, Object object) noexcept
+            : table_(table), number_(table.numberOf(table.serials_.next())),
+              object_(std::move(object)), outer_(std::exchange(table.lent_, this)) {}
+        ~Lent() { table_.lent_ = outer_; }
+        Lent(const Lent&) = delete;
+        Lent& operator=(const Lent&) = delete;
+
+        Handle handle() const { return reinterpret_cast<Handle>(number_); }
+
+    private:
+        friend class HandleTable;
+        HandleTable& table_;
+        std::uintptr_t number_;
+        Object object_;
+        Lent* outer_;
+    };
+
     HandleTable(SerialSource& serials, std::uintptr_t kind) : serials_(serials), kind_(kind) {}
 
+    /// Throws std::bad_alloc, and nothing has changed then.
     Handle add(OperationId origin, Object object) {
-        const std::int64_t serial = serials_.next();
-        const std::uintptr_t number = (static_cast<std::uintptr_t>(serial) << 4) | (kind_ << 1) | 1;
+        const std::int64_t serial = serials_.last() + 1;
+        const std::uintptr_t number = numberOf(serial);
         entries_.emplace(number, Entry{std::move(object), origin, serial});
+        serials_.next();
         return reinterpret_cast<Handle>(number);
     }
     /// Null if the handle is not in the table. Valid until the next `remove`.
@@ -97,7 +115,7 @@ public:
             return found_;
         const auto place = entries_.find(number);
         if (place == entries_.end())
-            return nullptr;
+            return findLent(number);
         foundNumber_ = number;
         found_ = &place->second.object;
         return found_;
@@ -108,18 +126,31 @@ public:
     }
     std::int64_t count() const { return static_cast<std::int64_t>(entries_.size()); }
 
-    /// Appends those given out after `serial`.
-    void appendHeldSince(std::int64_t serial, std::vector<Held>& held) const {
+    /// Calls `tell` with the origin of each that was given out after `serial`.
+    template <typename Tell>
+    void tellHeldSince(std::int64_t serial, Tell tell) const {
         for (const auto& [number, entry] : entries_) {
             if (entry.serial > serial)
-                held.push_back({entry.origin, entry.serial});
+                tell(entry.origin);
         }
     }
 
 private:
+    std::uintptr_t numberOf(std::int64_t serial) const {
+        return (static_cast<std::uintptr_t>(serial) << 4) | (kind_ << 1) | 1;
+    }
+    Object* findLent(std::uintptr_t number) {
+        for (Lent* lent = lent_; lent != nullptr; lent = lent->outer_) {
+            if (lent->number_ == number)
+                return &lent->object_;
+        }
+        return nullptr;
+    }
+
     SerialSource& serials_;
     std::uintptr_t kind_;
     std::unordered_map<std::uintptr_t, Entry> entries_;
+    Lent* lent_ = nullptr; // the last one
     // A guest asks for the same handle many times in a row, once for each node of a zone.
     std::uintptr_t foundNumber_ = 0;
     Object* found_ = nullptr;
@@ -143,9 +174,14 @@ public:
         return whyInvalid(reinterpret_cast<std::uintptr_t>(handle), kindOf(handle));
     }
 
-    /// Lists, argument lists and sets that were given out after `serial` and not given back.
-    /// Handles that the host owns don't count.
-    std::vector<Held> heldSince(std::int64_t serial) const;
+    /// Calls `tell` with the operation that each list, argument list and set came from that was
+    /// given out after `serial` and not given back. Handles that the host owns don't count.
+    template <typename Tell>
+    void tellHeldSince(std::int64_t serial, Tell tell) const {
+        lists_.tellHeldSince(serial, tell);
+        argLists_.tellHeldSince(serial, tell);
+        sets_.tellHeldSince(serial, tell);
+    }
     std::int64_t heldCount() const { return lists_.count() + argLists_.count() + sets_.count(); }
 
 private:

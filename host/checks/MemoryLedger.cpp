@@ -22,10 +22,11 @@ char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::st
         static_cast<Head*>(std::malloc(sizeof(Head) + static_cast<std::size_t>(byteCount))));
     if (head == nullptr)
         return nullptr;
-    new (head.get()) Head{origin, keep(label), serials_.next(), byteCount};
+    new (head.get()) Head{origin, keep(label), serials_.last() + 1, byteCount};
     void* const address = head.get() + 1;
     blocks_.insert(address);
     static_cast<void>(head.release()); // the table's from now on
+    serials_.next();
     return static_cast<char*>(address);
 }
 

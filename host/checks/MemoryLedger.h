@@ -28,9 +28,10 @@ public:
     MemoryLedger& operator=(const MemoryLedger&) = delete;
 
     /// A block of undefined contents, aligned for any number; null if there is no memory or if
-    /// `byteCount` is negative or beyond every machine.
+    /// `byteCount` is negative or beyond every machine. Throws std::bad_alloc if there is no memory
+    /// to account for it.
     char* allocate(OperationId origin, std::int64_t byteCount, std::string_view label);
-    /// A zero-terminated copy of `text`.
+    /// A zero-terminated copy of `text`, likewise.
     char* copyText(OperationId origin, std::string_view text);
     /// False: the host has no such block; nothing is touched.
     bool giveBack(const void* address);

@@ -1,7 +1,7 @@
 // Every operation of the contract by its name: whether it has a way to fail, and whether the guest
-// must hold the lock. The contract of this host is one step softer than the SDK's text: memory,
-// lists and sets are private to whoever holds them, so that they need no lock here. The other
-// operations without need of it are those that the SDK's text exempts.
+// must hold the lock. Those without need of it are the ones that the SDK's text exempts: memory,
+// strings, lists and sets, which are private to whoever holds them, and single operations that say
+// so of themselves.
 #pragma once
 
 #include <cstddef>

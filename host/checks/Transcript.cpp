@@ -35,9 +35,13 @@ std::string Transcript::quoted(std::string_view text) {
 std::string Transcript::nameOf(const void* thing, const char* kind) {
     if (thing == nullptr)
         return "null";
-    std::string& name = names_[thing];
-    if (name.empty())
-        name = std::string(kind) + '#' + std::to_string(++lastNumbers_[kind]);
+    const auto known = names_.find(thing);
+    if (known != names_.end())
+        return known->second;
+    int& last = lastNumbers_[kind];
+    std::string name = std::string(kind) + '#' + std::to_string(last + 1);
+    names_.emplace(thing, name);
+    ++last;
     return name;
 }
 

@@ -25,7 +25,7 @@ MessageOutcome_e kindOf(MessageKind kind) {
 }
 
 void describeEvents(const HostLog& log, Outcome_s& outcome) {
-    outcome.progress = log.progress.texts();
+    outcome.progress = log.progress;
     outcome.instructions = log.instructions;
     for (const StateChange& change : log.stateChanges)
         outcome.stateChanges.push_back({change.code, change.members});
@@ -77,14 +77,14 @@ FieldOutcome_s describeField(const Zone& zone, std::size_t variable, std::int32_
 }
 
 /// Nothing for a map that has elements and that nobody wrote to.
-std::optional<ConnectivityOutcome_s> describeConnectivity(const NodeMap& nodeMap) {
+Sparse<ConnectivityOutcome_s> describeConnectivity(const NodeMap& nodeMap) {
     ConnectivityOutcome_s result;
     result.elements = nodeMap.elementCount();
     result.corners = nodeMap.cornerCount();
     if (result.elements == 0)
         return result;
     if (nodeMap.nodes() == nullptr)
-        return std::nullopt;
+        return {};
     const auto count = static_cast<std::size_t>(result.elements * result.corners);
     result.crc32 = crc32OfIntegers({nodeMap.nodes(), count});
     return result;
@@ -101,11 +101,22 @@ ZoneOutcome_s describeZone(const DataSet& dataSet, const Zone& zone, const Holde
     result.strandId = zone.strandId;
     result.solutionTime = zone.solutionTime;
     result.parentZone = zone.parentZoneId == 0 ? 0 : dataSet.zoneNumber(zone.parentZoneId);
-    result.auxData = describeAuxData(zone.auxData);
     const auto place = static_cast<std::size_t>(zone.number) - 1;
+    result.fields.reserve(zone.fields.size());
     for (std::size_t variable = 0; variable < zone.fields.size(); ++variable)
         result.fields.push_back(describeField(zone, variable, holders[variable][place]));
     return result;
+}
+
+/// Most zones of a file agree with the one before.
+void describeZonesAuxData(const DataSet& dataSet, std::vector<ZoneOutcome_s>& zones) {
+    for (std::size_t place = 0; place < zones.size(); ++place) {
+        const AuxData& auxData = dataSet.zones()[place]->auxData;
+        if (place > 0 && auxData == dataSet.zones()[place - 1]->auxData)
+            zones[place].auxData = zones[place - 1].auxData;
+        else if (!auxData.empty())
+            zones[place].auxData = describeAuxData(auxData);
+    }
 }
 
 /// Node maps in common are gone over once.
@@ -132,23 +143,15 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
     for (const Variable& variable : dataSet.variables())
         result.variables.push_back(variable.name);
     const Holders holders = fieldHoldersOf(dataSet);
+    result.zones.reserve(dataSet.zones().size());
     for (const auto& zone : dataSet.zones())
         result.zones.push_back(describeZone(dataSet, *zone, holders));
+    describeZonesAuxData(dataSet, result.zones);
     describeNodeMaps(dataSet, result.zones);
     return result;
 }
 
 // ---- Values -------------------------------------------------------------------------------------
-
-void fetchField(ReferenceHost& host, std::int32_t zone, FieldOutcome_s& field) {
-    const FetchResult fetched = host.fetch(zone, field.variable);
-    if (!fetched.ok) {
-        field.error = fetched.error;
-        return;
-    }
-    field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
-                                      fetched.values, fetched.count);
-}
 
 void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
     const ZoneOutcome_s& holder = dataSet.zones[static_cast<std::size_t>(field.sharedWith) - 1];
@@ -161,10 +164,11 @@ bool isFetched(const FieldOutcome_s& field) {
     return field.state == FieldState_e::Deferred || field.state == FieldState_e::Stored;
 }
 
-std::int64_t countFetches(const DataSetOutcome_s& dataSet) {
+std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
     std::int64_t count = 0;
     for (const ZoneOutcome_s& zone : dataSet.zones)
-        count += std::count_if(zone.fields.begin(), zone.fields.end(), isFetched);
+        for (const FieldOutcome_s& field : zone.fields)
+            count += isFetched(field) ? byteCountOf(field) : 0;
     return count;
 }
 
@@ -190,8 +194,7 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
 }
 
 bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObserver& observer) {
-    const std::int64_t total = countFetches(dataSet);
-    std::int64_t done = 0;
+    FetchSeries series(host, countBytes(dataSet), observer);
     for (ZoneOutcome_s& zone : dataSet.zones) {
         for (FieldOutcome_s& field : zone.fields) {
             // The holder has a lower number, so it has been fetched already.
@@ -199,13 +202,21 @@ bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObse
                 copyFromHolder(dataSet, field);
             if (!isFetched(field))
                 continue;
-            if (observer && !observer(done, total))
+            if (!series.mayGoOn() || !series.fetch(zone.number, field))
                 return false;
-            fetchField(host, zone.number, field);
-            ++done;
         }
     }
     return true;
+}
+
+std::int64_t unreadFieldCount(const Outcome_s& outcome) {
+    std::int64_t count = 0;
+    if (!outcome.dataSet)
+        return count;
+    for (const ZoneOutcome_s& zone : outcome.dataSet->zones)
+        count += std::count_if(zone.fields.begin(), zone.fields.end(),
+                               [](const auto& field) { return static_cast<bool>(field.error); });
+    return count;
 }
 
 void updateLog(ReferenceHost& host, Outcome_s& outcome) {

@@ -1,195 +1,275 @@
 #include "describe/Json.h"
 
-#include <cmath>
-#include <utility>
+#include <optional>
+#include <sstream>
+#include <vector>
 
 #include <fmt/core.h>
-#include <nlohmann/json.hpp>
 
+#include "describe/JsonStream.h"
 #include "describe/Words.h"
 #include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
 namespace {
 
-using Json = nlohmann::ordered_json;
+/// Every tell() writes one value.
+void tell(JsonStream& json, const MessageOutcome_s& told);
+void tell(JsonStream& json, const StateChangeOutcome_s& change);
+void tell(JsonStream& json, const UndoOutcome_s& event);
+void tell(JsonStream& json, const FieldOutcome_s& told);
+void tell(JsonStream& json, const ConnectivityOutcome_s& told);
+void tell(JsonStream& json, const ZoneOutcome_s& told);
+void tell(JsonStream& json, const DataSetOutcome_s& told);
+void tell(JsonStream& json, const Dialog& told);
+void tell(JsonStream& json, const TextLog& texts);
 
-Json number(double value) {
-    if (std::isnan(value))
-        return "NaN";
-    if (std::isinf(value))
-        return value > 0 ? "Infinity" : "-Infinity";
-    return value;
+template <typename Value>
+requires requires(JsonStream& json, const Value& value) {
+    json.value(value);
+}
+void tell(JsonStream& json, const Value& value) {
+    json.value(value);
+}
+
+template <typename Value>
+void tell(JsonStream& json, const std::optional<Value>& value) {
+    if (value)
+        tell(json, *value);
+    else
+        json.null();
+}
+
+template <typename Value>
+void tell(JsonStream& json, const Sparse<Value>& value) {
+    if (value)
+        tell(json, *value);
+    else
+        json.null();
+}
+
+template <typename Entry>
+void tell(JsonStream& json, const std::vector<Entry>& entries) {
+    json.beginList();
+    for (const Entry& entry : entries)
+        tell(json, entry);
+    json.endList();
+}
+
+template <typename Value>
+void member(JsonStream& json, std::string_view key, const Value& value) {
+    json.key(key);
+    tell(json, value);
 }
 
 std::string checksum(std::uint32_t crc32) {
     return fmt::format("{:08x}", crc32);
 }
 
-template <typename Value>
-Json orNull(const std::optional<Value>& value) {
-    return value ? Json(*value) : Json(nullptr);
+void tell(JsonStream& json, const MessageOutcome_s& told) {
+    json.beginObject();
+    member(json, "kind", wordOf(told.kind));
+    member(json, "text", told.text);
+    member(json, "answer", told.answer);
+    json.endObject();
 }
 
-template <typename Entry, typename Tell>
-Json list(const std::vector<Entry>& entries, Tell tell) {
-    Json result = Json::array();
-    for (const Entry& entry : entries)
-        result.push_back(tell(entry));
-    return result;
+void tell(JsonStream& json, const StateChangeOutcome_s& change) {
+    json.beginObject();
+    member(json, "code", change.code);
+    member(json, "members", change.members);
+    json.endObject();
 }
 
-Json message(const MessageOutcome_s& told) {
-    return {{"kind", wordOf(told.kind)}, {"text", told.text}, {"answer", orNull(told.answer)}};
+void tell(JsonStream& json, const UndoOutcome_s& event) {
+    json.beginObject();
+    member(json, "event", event.begins ? "begin" : "end");
+    member(json, "success", event.success);
+    json.endObject();
 }
 
-Json stateChange(const StateChangeOutcome_s& change) {
-    return {{"code", change.code}, {"members", Json(change.members)}};
+void tell(JsonStream& json, const TextLog& texts) {
+    json.beginList();
+    texts.forEach([&json](std::string_view text) { json.value(text); });
+    json.endList();
 }
 
-Json undoEvent(const UndoOutcome_s& event) {
-    return {{"event", event.begins ? "begin" : "end"}, {"success", orNull(event.success)}};
+void auxData(JsonStream& json, const AuxDataItems& items) {
+    json.key("auxData");
+    json.beginObject();
+    for (const auto& [name, text] : items)
+        member(json, name, text);
+    json.endObject();
 }
 
-Json auxData(const AuxDataItems& items) {
-    Json result = Json::object();
-    auto& members = result.get_ref<Json::object_t&>();
-    members.reserve(items.size());
-    for (const auto& [name, text] : items) // each name once, so that none need be looked for
-        static_cast<Json::object_t::Container&>(members).emplace_back(name, text);
-    return result;
-}
-
-Json field(const FieldOutcome_s& told) {
-    Json result = {{"variable", told.variable},
-                   {"type", wordOf(told.type)},
-                   {"state", wordOf(told.state)},
-                   {"sharedWith", told.sharedWith},
-                   {"count", told.count}};
+void tell(JsonStream& json, const FieldOutcome_s& told) {
+    json.beginObject();
+    member(json, "variable", told.variable);
+    member(json, "type", wordOf(told.type));
+    member(json, "state", wordOf(told.state));
+    member(json, "sharedWith", told.sharedWith);
+    member(json, "count", told.count);
     if (told.statistics) {
-        result["min"] = number(told.statistics->min);
-        result["max"] = number(told.statistics->max);
-        result["mean"] = number(told.statistics->mean);
-        result["crc32"] = checksum(told.statistics->crc32);
+        member(json, "min", told.statistics->min);
+        member(json, "max", told.statistics->max);
+        member(json, "mean", told.statistics->mean);
+        member(json, "crc32", checksum(told.statistics->crc32));
     }
-    result["error"] = orNull(told.error);
-    return result;
+    member(json, "error", told.error);
+    json.endObject();
 }
 
-Json connectivity(const std::optional<ConnectivityOutcome_s>& told) {
-    if (!told)
-        return nullptr;
-    return {
-        {"elements", told->elements}, {"corners", told->corners}, {"crc32", checksum(told->crc32)}};
+void tell(JsonStream& json, const ConnectivityOutcome_s& told) {
+    json.beginObject();
+    member(json, "elements", told.elements);
+    member(json, "corners", told.corners);
+    member(json, "crc32", checksum(told.crc32));
+    json.endObject();
 }
 
-Json zone(const ZoneOutcome_s& told) {
-    return {{"number", told.number},
-            {"name", told.name},
-            {"type", wordOf(told.type)},
-            {"i", told.i},
-            {"j", told.j},
-            {"k", told.k},
-            {"strandId", told.strandId},
-            {"solutionTime", number(told.solutionTime)},
-            {"parentZone", told.parentZone},
-            {"connectivitySharedWith", told.connectivitySharedWith},
-            {"auxData", auxData(told.auxData)},
-            {"connectivity", connectivity(told.connectivity)},
-            {"fields", list(told.fields, field)}};
+void tell(JsonStream& json, const ZoneOutcome_s& told) {
+    json.beginObject();
+    member(json, "number", told.number);
+    member(json, "name", told.name);
+    member(json, "type", wordOf(told.type));
+    member(json, "i", told.i);
+    member(json, "j", told.j);
+    member(json, "k", told.k);
+    member(json, "strandId", told.strandId);
+    member(json, "solutionTime", told.solutionTime);
+    member(json, "parentZone", told.parentZone);
+    member(json, "connectivitySharedWith", told.connectivitySharedWith);
+    auxData(json, told.auxData.items());
+    member(json, "connectivity", told.connectivity);
+    member(json, "fields", told.fields);
+    json.endObject();
 }
 
-Json dataSet(const std::optional<DataSetOutcome_s>& told) {
-    if (!told)
-        return nullptr;
-    return {{"title", told->title},
-            {"auxData", auxData(told->auxData)},
-            {"variables", Json(told->variables)},
-            {"zones", list(told->zones, zone)}};
+void tell(JsonStream& json, const DataSetOutcome_s& told) {
+    json.beginObject();
+    member(json, "title", told.title);
+    auxData(json, told.auxData);
+    member(json, "variables", told.variables);
+    member(json, "zones", told.zones);
+    json.endObject();
 }
 
-Json valueOf(const Control& control) {
+void tellValue(JsonStream& json, const Control& control) {
     switch (control.kind) {
     case ControlKind::Toggle:
-        return control.value != 0;
+        json.value(control.value != 0);
+        return;
     case ControlKind::RadioBox:
     case ControlKind::OptionMenu:
-        return control.value;
+        json.value(control.value);
+        return;
     case ControlKind::TextField:
-        return control.text;
+        json.value(control.text);
+        return;
     default:
-        return nullptr;
+        json.null();
     }
 }
 
-Json control(const Dialog& dialog, const Control& told) {
-    const Page* page = findPage(dialog, told.parent);
-    return {{"page", page != nullptr ? Json(page->caption) : Json(nullptr)},
-            {"kind", std::string(wordFor(told.kind))},
-            {"caption", told.caption},
-            {"x", told.geometry.x},
-            {"y", told.geometry.y},
-            {"w", told.geometry.width},
-            {"h", told.geometry.height},
-            {"value", valueOf(told)},
-            {"items", Json(told.items)},
-            {"selected", Json(told.selected)},
-            {"sensitive", told.sensitive},
-            {"focus", told.id == dialog.focus}};
+void tellCaption(JsonStream& json, const Page* page) {
+    if (page != nullptr)
+        json.value(page->caption);
+    else
+        json.null();
 }
 
-Json dialogJson(const std::optional<Dialog>& told) {
-    if (!told)
-        return nullptr;
-    const Page* front = told->tabs ? findPage(*told, told->tabs->frontPage) : nullptr;
-    return {{"open", told->open},
-            {"page", front != nullptr ? Json(front->caption) : Json(nullptr)},
-            {"controls",
-             list(told->controls, [&](const Control& each) { return control(*told, each); })}};
+void tellControl(JsonStream& json, const Dialog& dialog, const Control& told) {
+    json.beginObject();
+    json.key("page");
+    tellCaption(json, findPage(dialog, told.parent));
+    member(json, "kind", std::string(wordFor(told.kind)));
+    member(json, "caption", told.caption);
+    member(json, "x", told.geometry.x);
+    member(json, "y", told.geometry.y);
+    member(json, "w", told.geometry.width);
+    member(json, "h", told.geometry.height);
+    json.key("value");
+    tellValue(json, told);
+    member(json, "items", told.items);
+    member(json, "selected", told.selected);
+    member(json, "sensitive", told.sensitive);
+    member(json, "focus", told.id == dialog.focus);
+    json.endObject();
 }
 
-Json outcomeJson(const Outcome_s& outcome) {
-    return {{"schema", "quorhost.outcome/1"},
-            {"ok", outcome.ok},
-            {"hostError", orNull(outcome.hostError)},
-            {"messages", list(outcome.messages, message)},
-            {"progress", Json(outcome.progress)},
-            {"plotType", wordOf(outcome.plotType)},
-            {"instructions", Json(outcome.instructions)},
-            {"stateChanges", list(outcome.stateChanges, stateChange)},
-            {"undo", list(outcome.undo, undoEvent)},
-            {"redraws", outcome.redraws},
-            {"lockDepth", outcome.lockDepth},
-            {"violations", Json(outcome.violations)},
-            {"dataSet", dataSet(outcome.dataSet)}};
+void tell(JsonStream& json, const Dialog& told) {
+    json.beginObject();
+    member(json, "open", told.open);
+    json.key("page");
+    tellCaption(json, told.tabs ? findPage(told, told.tabs->frontPage) : nullptr);
+    json.key("controls");
+    json.beginList();
+    for (const Control& control : told.controls)
+        tellControl(json, told, control);
+    json.endList();
+    json.endObject();
 }
 
-/// Of a session, in which dialogs can be worked with.
-Json sessionOutcomeJson(const Outcome_s& outcome) {
-    Json result = outcomeJson(outcome);
-    result["dialog"] = dialogJson(outcome.dialog);
-    result["helpShown"] = outcome.helpShown;
-    return result;
-}
+enum class Of_e { Load, Session };
 
-std::string textOf(const Json& json) {
-    constexpr int kIndent = 2;
-    return json.dump(kIndent, ' ', false, Json::error_handler_t::replace) + '\n';
+/// Dialogs can be worked with in a session alone.
+void tellOutcome(JsonStream& json, const Outcome_s& outcome, Of_e of) {
+    json.beginObject();
+    member(json, "schema", "quorhost.outcome/1");
+    member(json, "ok", outcome.ok);
+    member(json, "hostError", outcome.hostError);
+    member(json, "messages", outcome.messages);
+    member(json, "progress", outcome.progress);
+    member(json, "plotType", wordOf(outcome.plotType));
+    member(json, "instructions", outcome.instructions);
+    member(json, "stateChanges", outcome.stateChanges);
+    member(json, "undo", outcome.undo);
+    member(json, "redraws", outcome.redraws);
+    member(json, "lockDepth", outcome.lockDepth);
+    member(json, "violations", outcome.violations);
+    member(json, "dataSet", outcome.dataSet);
+    if (of == Of_e::Session) {
+        member(json, "dialog", outcome.dialog);
+        member(json, "helpShown", outcome.helpShown);
+    }
+    json.endObject();
 }
 
 } // namespace
 
+void writeJson(const Outcome_s& outcome, std::ostream& out) {
+    JsonStream json(out);
+    tellOutcome(json, outcome, Of_e::Load);
+    json.finish();
+}
+
+void writeJson(const SessionOutcome_s& session, std::ostream& out) {
+    JsonStream json(out);
+    json.beginObject();
+    member(json, "schema", "quorhost.session/1");
+    json.key("descriptions");
+    json.beginObject();
+    for (const auto& [name, outcome] : session.descriptions) {
+        json.key(name);
+        tellOutcome(json, outcome, Of_e::Session);
+    }
+    json.endObject();
+    json.key("final");
+    tellOutcome(json, session.final, Of_e::Session);
+    json.endObject();
+    json.finish();
+}
+
 std::string toJson(const Outcome_s& outcome) {
-    return textOf(outcomeJson(outcome));
+    std::ostringstream text;
+    writeJson(outcome, text);
+    return text.str();
 }
 
 std::string toJson(const SessionOutcome_s& session) {
-    Json descriptions = Json::object();
-    for (const auto& [name, outcome] : session.descriptions)
-        descriptions[name] = sessionOutcomeJson(outcome);
-    return textOf({{"schema", "quorhost.session/1"},
-                   {"descriptions", std::move(descriptions)},
-                   {"final", sessionOutcomeJson(session.final)}});
+    std::ostringstream text;
+    writeJson(session, text);
+    return text.str();
 }
 
 } // namespace quorvia::host

@@ -4,12 +4,16 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "describe/Sparse.h"
 #include "quorvia/QuorUtil.h"
+#include "state/TextLog.h"
 #include "toolkit/Dialog.h"
 
 namespace quorvia::host {
@@ -36,10 +40,10 @@ struct FieldOutcome_s {
     std::int32_t variable = 0; // from 1
     QuorFieldDataType_e type = QuorFieldDataType_Invalid;
     FieldState_e state = FieldState_e::Empty;
-    std::int32_t sharedWith = 0;                 // zone number from 1; 0: not shared
-    std::int64_t count = 0;                      // values, not bytes
-    std::optional<FieldStatistics_s> statistics; // absent if the values were not fetched
-    std::optional<std::string> error;            // why a fetch failed
+    std::int32_t sharedWith = 0;          // zone number from 1; 0: not shared
+    std::int64_t count = 0;               // values, not bytes
+    Sparse<FieldStatistics_s> statistics; // absent if the values were not fetched
+    Sparse<std::string> error;            // why a fetch failed
 
     friend bool operator==(const FieldOutcome_s&, const FieldOutcome_s&) = default;
 };
@@ -55,6 +59,27 @@ struct ConnectivityOutcome_s {
 /// Name and text of each item, in the order of the names.
 using AuxDataItems = std::vector<std::pair<std::string, std::string>>;
 
+/// Items that zones which agree hold in common.
+class SharedAuxData {
+public:
+    SharedAuxData() = default;
+    SharedAuxData(AuxDataItems items)
+        : items_(std::make_shared<const AuxDataItems>(std::move(items))) {}
+    SharedAuxData(std::initializer_list<AuxDataItems::value_type> items)
+        : SharedAuxData(AuxDataItems(items)) {}
+
+    const AuxDataItems& items() const {
+        static const AuxDataItems none;
+        return items_ ? *items_ : none;
+    }
+    friend bool operator==(const SharedAuxData& left, const SharedAuxData& right) {
+        return left.items_ == right.items_ || left.items() == right.items();
+    }
+
+private:
+    std::shared_ptr<const AuxDataItems> items_; // null for none
+};
+
 struct ZoneOutcome_s {
     std::int32_t number = 0; // from 1
     std::string name;
@@ -67,9 +92,9 @@ struct ZoneOutcome_s {
     double solutionTime = 0;
     std::int32_t parentZone = 0;             // 0: none
     std::int32_t connectivitySharedWith = 0; // the lowest zone with the same node map; 0: none
-    AuxDataItems auxData;
+    SharedAuxData auxData;
     /// Absent in an ordered zone, or if nobody ever wrote to the node map.
-    std::optional<ConnectivityOutcome_s> connectivity;
+    Sparse<ConnectivityOutcome_s> connectivity;
     std::vector<FieldOutcome_s> fields; // one for each variable, in their order
 
     friend bool operator==(const ZoneOutcome_s&, const ZoneOutcome_s&) = default;
@@ -106,7 +131,7 @@ struct Outcome_s {
     bool ok = false;
     std::optional<std::string> hostError; // what stopped the host itself
     std::vector<MessageOutcome_s> messages;
-    std::vector<std::string> progress; // the texts shown, in order
+    TextLog progress; // the texts shown, in order
     QuorPlotType_e plotType = QuorPlotType_None;
     std::vector<std::string> instructions; // last handed over
     std::vector<StateChangeOutcome_s> stateChanges;

@@ -174,11 +174,12 @@ std::vector<AuxDataGroup_s> groupByAuxData(const DataSetOutcome_s& dataSet) {
     std::map<const AuxDataItems*, std::size_t, decltype(isLess)> placeOf(isLess);
     std::vector<AuxDataGroup_s> groups;
     for (const ZoneOutcome_s& zone : dataSet.zones) {
-        if (zone.auxData.empty())
+        const AuxDataItems& items = zone.auxData.items();
+        if (items.empty())
             continue;
-        const auto [place, isNew] = placeOf.try_emplace(&zone.auxData, groups.size());
+        const auto [place, isNew] = placeOf.try_emplace(&items, groups.size());
         if (isNew)
-            groups.push_back({&zone.auxData, {}});
+            groups.push_back({&items, {}});
         groups[place->second].zones.push_back(zone.number);
     }
     return groups;

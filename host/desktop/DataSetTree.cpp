@@ -184,7 +184,7 @@ void DataSetTree::fillZone(QTreeWidgetItem* item) {
                 QStringLiteral("%1 elements of %2 nodes")
                     .arg(zone.connectivity->elements)
                     .arg(zone.connectivity->corners));
-    addAuxData(item, zone.auxData);
+    addAuxData(item, zone.auxData.items());
 }
 
 // ---- Values -------------------------------------------------------------------------------------

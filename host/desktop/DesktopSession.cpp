@@ -11,6 +11,12 @@ namespace {
 
 constexpr std::int64_t kMemoryForValues = std::int64_t{1} << 30; // bytes
 
+/// With one decimal.
+std::string megabytes(std::int64_t byteCount) {
+    const std::int64_t tenths = byteCount / 100'000;
+    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
+}
+
 ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult& result) {
     Outcome_s outcome = describeOutcome(host, result);
     return {result, outcome.plotType, std::move(outcome.dataSet)};
@@ -107,11 +113,11 @@ void DesktopSession::fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s>
         FetchEnd_e end = FetchEnd_e::Failed;
     };
     const auto fetch = std::make_shared<Fetch_s>(Fetch_s{std::move(dataSet)});
-    const auto tell = [this](std::int64_t number, std::int64_t total) {
-        feed_.put({static_cast<double>(number) / static_cast<double>(total),
-                   "Fetching values: field " + std::to_string(number + 1) + " of " +
-                       std::to_string(total),
-                   true});
+    const auto tell = [this](std::int64_t bytesDone, std::int64_t byteCount) {
+        feed_.put(
+            {static_cast<double>(bytesDone) / static_cast<double>(byteCount),
+             "Fetching values: " + megabytes(bytesDone) + " of " + megabytes(byteCount) + " MB",
+             true});
         return !host().interruptRequested();
     };
     start(

@@ -14,12 +14,16 @@ void post(GuestWindows& windows, Task task) {
 
 } // namespace
 
-// The program may have ended between the question and its turn.
+// The program may have ended between the question and its turn. What was pressed before the window
+// comes up was meant for a dialog without that question; it is forgotten here and not when the
+// guest goes on, since by then the user may have done the next thing.
 template <typename Ask>
 void DesktopUser::askThere(Ask ask) {
     const auto askIfThere = [this, &ask] {
-        if (!leaving_)
-            ask();
+        if (leaving_)
+            return;
+        actions_.clear();
+        ask();
     };
     if (!leaving_)
         QMetaObject::invokeMethod(&windows_, askIfThere, Qt::BlockingQueuedConnection);
@@ -31,28 +35,27 @@ void DesktopUser::leave() {
 }
 
 // The dialog is shown as it is whenever the guest has done what it was told: that also takes back
-// what the user tried and could not do.
+// what the user tried and could not do. Counted before the look into the queue: of what is done
+// between the two this picture knows nothing.
 DialogAction DesktopUser::nextAction(const Dialog& dialog) {
+    const std::int64_t pushedCount = actions_.pushedCount();
     if (std::optional<DialogAction> action = actions_.take(dialog.lastLaunch))
         return *action;
-    post(windows_, [&windows = windows_, copy = dialog, count = actions_.pushedCount()] {
-        windows.refreshDialog(copy, count);
+    post(windows_, [&windows = windows_, copy = dialog, pushedCount] {
+        windows.refreshDialog(copy, pushedCount);
     });
     return actions_.wait(dialog.lastLaunch);
 }
 
-// What was pressed before a box came up was meant for a dialog without that message.
 bool DesktopUser::answer(const std::string& question) {
     bool yes = false;
     askThere([this, &yes, &question] { yes = windows_.ask(question); });
-    actions_.clear();
     return yes;
 }
 
 std::vector<std::string> DesktopUser::chooseFiles(const FileRequest& request) {
     std::vector<std::string> files;
     askThere([this, &files, &request] { files = windows_.chooseFiles(request); });
-    actions_.clear();
     return files;
 }
 
@@ -67,7 +70,6 @@ void DesktopUser::dialogDropped(const Dialog& dialog) {
 
 void DesktopUser::read(const std::string& text, bool isError) {
     askThere([this, &text, isError] { windows_.tell(text, isError); });
-    actions_.clear();
 }
 
 void DesktopUser::showHelp(const std::string& target) {

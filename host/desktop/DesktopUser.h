@@ -32,6 +32,7 @@ public:
 
 private:
     /// Does `ask` on the windows' thread and waits for it, as long as somebody is there to answer.
+    /// What was done before and not taken yet is forgotten.
     template <typename Ask>
     void askThere(Ask ask);
 

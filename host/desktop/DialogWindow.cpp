@@ -93,13 +93,13 @@ void DialogWindow::addControls(const Dialog& dialog) {
     for (const Control& control : dialog.controls) {
         if (views_.count(control.id) != 0)
             continue;
-        const auto tell = [this](const DialogAction& action) {
+        const auto use = [this](const DialogAction& action) {
             if (std::holds_alternative<TypeText>(action))
-                sink_(action);
+                tell(action);
             else
                 act(action);
         };
-        views_[control.id] = makeControlView(dialog, control, tell, scale_, parentOf(control));
+        views_[control.id] = makeControlView(dialog, control, use, scale_, parentOf(control));
         views_[control.id]->widget()->show();
     }
 }
@@ -128,6 +128,7 @@ void DialogWindow::refresh(const Dialog& dialog) {
         views_.at(control.id)->refresh(control);
     showFrontPage(dialog);
     moveFocus(dialog);
+    isAnswered_ = true;
 }
 
 void DialogWindow::showFrontPage(const Dialog& dialog) {
@@ -153,6 +154,11 @@ void DialogWindow::act(const DialogAction& action) {
     if (!leavesFieldsAlone(action))
         for (const auto& [id, view] : views_)
             view->commit();
+    tell(action);
+}
+
+void DialogWindow::tell(const DialogAction& action) {
+    isAnswered_ = false;
     sink_(action);
 }
 

@@ -23,6 +23,8 @@ public:
 
     /// `dialog` is a later state of the same dialog; controls may have come to it.
     void refresh(const Dialog& dialog);
+    /// Whether it shows what came of all that was told.
+    bool isAnswered() const { return isAnswered_; }
 
     /// Esc asks for Cancel.
     void reject() override;
@@ -42,6 +44,7 @@ private:
     void placeParts(const Dialog& dialog);
     /// What was typed comes before what the user does next, unless that needs none of it.
     void act(const DialogAction& action);
+    void tell(const DialogAction& action);
     QWidget* parentOf(const Control& control);
 
     ActionSink sink_;
@@ -51,6 +54,7 @@ private:
     std::map<std::int32_t, QWidget*> pages_; // by their identifiers
     std::map<std::int32_t, std::unique_ptr<ControlView>> views_;
     std::int32_t focus_ = QuorGUIId_None;
+    bool isAnswered_ = false;
 };
 
 } // namespace quorvia::host

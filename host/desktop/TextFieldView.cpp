@@ -9,7 +9,11 @@ namespace quorvia::host {
 TextFieldView::TextFieldView(const Control& control, ActionSink act, QWidget* parent)
     : ControlView(new QLineEdit(parent)), field_(*static_cast<QLineEdit*>(widget())),
       id_(control.id), act_(std::move(act)) {
-    QObject::connect(&field_, &QLineEdit::editingFinished, &field_, [this] { commit(); });
+    // A field is not left when another window comes to the front: a box, or another program.
+    QObject::connect(&field_, &QLineEdit::editingFinished, &field_, [this] {
+        if (field_.isActiveWindow())
+            commit();
+    });
 }
 
 void TextFieldView::commit() {

@@ -1,6 +1,6 @@
 #include "desktop/ValueFetch.h"
 
-#include "describe/Statistics.h"
+#include "describe/FetchSeries.h"
 
 namespace quorvia::host {
 namespace {
@@ -17,19 +17,6 @@ bool isWanted(const FieldOutcome_s* field) {
     return field != nullptr && field->state != FieldState_e::Empty && !field->statistics;
 }
 
-/// In the order asked for, each once: what was fetched is not wanted any more.
-bool fetchHolder(ReferenceHost& host, FieldAddress_s address, FieldOutcome_s& field) {
-    const FetchResult fetched = host.fetch(address.zone, address.variable);
-    if (!fetched.ok) {
-        field.error = fetched.error;
-        return false;
-    }
-    field.error.reset();
-    field.statistics = describeValues(static_cast<QuorFieldDataType_e>(fetched.type),
-                                      fetched.values, fetched.count);
-    return true;
-}
-
 void copyFromHolders(DataSetOutcome_s& dataSet) {
     for (ZoneOutcome_s& zone : dataSet.zones) {
         for (FieldOutcome_s& field : zone.fields) {
@@ -41,16 +28,40 @@ void copyFromHolders(DataSetOutcome_s& dataSet) {
     }
 }
 
-FetchEnd_e fetchHolders(ReferenceHost& host, DataSetOutcome_s& dataSet,
-                        const std::vector<FieldAddress_s>& fields, const FetchObserver& observer) {
-    std::int64_t done = 0;
+/// Without those that nobody wants, each once, in the order asked for.
+std::vector<FieldAddress_s> holdersOf(const DataSetOutcome_s& dataSet,
+                                      const std::vector<FieldAddress_s>& fields) {
+    std::vector<FieldAddress_s> holders;
     for (const FieldAddress_s asked : fields) {
         const FieldAddress_s address = holderOf(dataSet, asked);
-        if (!observer(done++, static_cast<std::int64_t>(fields.size())))
+        if (isWanted(findField(dataSet, address)))
+            holders.push_back(address);
+    }
+    return holders;
+}
+
+std::int64_t countBytes(const DataSetOutcome_s& dataSet,
+                        const std::vector<FieldAddress_s>& holders) {
+    std::int64_t count = 0;
+    for (const FieldAddress_s address : holders)
+        count += byteCountOf(*findField(dataSet, address));
+    return count;
+}
+
+FetchEnd_e fetchHolders(ReferenceHost& host, DataSetOutcome_s& dataSet,
+                        const std::vector<FieldAddress_s>& fields, const FetchObserver& observer) {
+    const std::vector<FieldAddress_s> holders = holdersOf(dataSet, fields);
+    FetchSeries series(host, countBytes(dataSet, holders), observer);
+    for (const FieldAddress_s address : holders) {
+        FieldOutcome_s& field = *findField(dataSet, address);
+        if (!series.mayGoOn())
             return FetchEnd_e::Stopped;
-        FieldOutcome_s* field = findField(dataSet, address);
-        if (isWanted(field) && !fetchHolder(host, address, *field))
-            return host.interruptRequested() ? FetchEnd_e::Stopped : FetchEnd_e::Failed;
+        if (!isWanted(&field))
+            continue; // asked for twice, and fetched by now
+        if (!series.fetch(address.zone, field))
+            return FetchEnd_e::Stopped;
+        if (field.error)
+            return FetchEnd_e::Failed;
     }
     return FetchEnd_e::Done;
 }

@@ -4,25 +4,30 @@
 #include <cstddef>
 #include <utility>
 
+#include "model/Room.h"
+
 namespace quorvia::host {
 
 namespace {
 
-// Moves the items whose numbers, from 1, are in `numbers` out of `items`, which closes up. The
-// moved items must outlive every renumbering: the end of a field calls the guest back.
+// Moves the items whose numbers, from 1, are in `numbers` to the end of `taken`, which has room for
+// them; `items` closes up. The moved items must outlive every renumbering: the end of a field calls
+// the guest back.
 template <typename Item>
-std::vector<Item> takeNumbered(std::vector<Item>& items, const std::set<std::int64_t>& numbers) {
-    std::vector<Item> taken;
-    std::vector<Item> kept;
+void takeNumbered(std::vector<Item>& items, const std::set<std::int64_t>& numbers,
+                  std::vector<Item>& taken) noexcept {
+    std::size_t kept = 0;
     for (std::size_t index = 0; index < items.size(); ++index) {
-        const bool isTaken = numbers.count(static_cast<std::int64_t>(index) + 1) != 0;
-        (isTaken ? taken : kept).push_back(std::move(items[index]));
+        if (numbers.count(static_cast<std::int64_t>(index) + 1) != 0)
+            taken.push_back(std::move(items[index]));
+        else if (kept++ != index)
+            items[kept - 1] = std::move(items[index]);
     }
-    items = std::move(kept);
-    return taken;
+    items.resize(kept);
 }
 
-// For each zone the lowest number of a zone for which `sharedThing` gives the same pointer.
+// For each zone the lowest number of a zone for which `sharedThing` gives the same pointer. Most
+// things of a large data set have one holder, and need not be looked up.
 template <typename SharedThing>
 std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>& zones,
                                         SharedThing sharedThing) {
@@ -30,9 +35,11 @@ std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>
     holders.reserve(zones.size());
     std::unordered_map<const void*, std::int32_t> firstOf;
     for (const std::unique_ptr<Zone>& zone : zones) {
-        const void* thing = sharedThing(*zone);
-        holders.push_back(
-            thing == nullptr ? 0 : firstOf.try_emplace(thing, zone->number).first->second);
+        const auto& thing = sharedThing(*zone);
+        if (thing.use_count() <= 1)
+            holders.push_back(thing == nullptr ? 0 : zone->number);
+        else
+            holders.push_back(firstOf.try_emplace(thing.get(), zone->number).first->second);
     }
     return holders;
 }
@@ -55,22 +62,28 @@ Field* DataSet::field(std::int64_t zoneNumber, std::int64_t variableNumber) cons
 }
 
 Zone& DataSet::addZone(std::unique_ptr<Zone> zone) {
+    makeRoom(zones_);
+    zonesById_.emplace(ids_.last() + 1, zone.get());
     zone->uniqueId = ids_.next();
     zone->number = zoneCount() + 1;
-    zonesById_[zone->uniqueId] = zone.get();
     zones_.push_back(std::move(zone));
     return *zones_.back();
 }
 
 void DataSet::addVariable(std::string name, std::vector<Field> fields) {
+    makeRoom(variables_);
+    for (const std::unique_ptr<Zone>& zone : zones_)
+        makeRoom(zone->fields);
+    variableNumbersById_.emplace(ids_.last() + 1, variableCount() + 1);
     variables_.push_back({std::move(name), ids_.next()});
-    variableNumbersById_[variables_.back().uniqueId] = variableCount();
     for (std::size_t index = 0; index < zones_.size(); ++index)
         zones_[index]->fields.push_back(std::move(fields[index]));
 }
 
 void DataSet::deleteZones(const std::set<std::int64_t>& numbers) {
-    const std::vector<std::unique_ptr<Zone>> deleted = takeNumbered(zones_, numbers);
+    std::vector<std::unique_ptr<Zone>> deleted;
+    makeRoom(deleted, numbers.size());
+    takeNumbered(zones_, numbers, deleted);
     for (const std::unique_ptr<Zone>& zone : deleted)
         zonesById_.erase(zone->uniqueId);
     std::int32_t number = 0;
@@ -79,15 +92,18 @@ void DataSet::deleteZones(const std::set<std::int64_t>& numbers) {
 }
 
 void DataSet::deleteVariables(const std::set<std::int64_t>& numbers) {
-    for (const Variable& variable : takeNumbered(variables_, numbers))
+    std::vector<Variable> deleted;
+    std::vector<Field> deletedFields;
+    makeRoom(deleted, numbers.size());
+    makeRoom(deletedFields, numbers.size() * zones_.size());
+    takeNumbered(variables_, numbers, deleted);
+    for (const Variable& variable : deleted)
         variableNumbersById_.erase(variable.uniqueId);
     std::int32_t number = 0;
     for (const Variable& variable : variables_)
-        variableNumbersById_[variable.uniqueId] = ++number;
-
-    std::vector<std::vector<Field>> deleted;
+        variableNumbersById_.at(variable.uniqueId) = ++number;
     for (const std::unique_ptr<Zone>& zone : zones_)
-        deleted.push_back(takeNumbered(zone->fields, numbers));
+        takeNumbered(zone->fields, numbers, deletedFields);
 }
 
 std::int32_t DataSet::zoneNumber(std::int64_t uniqueId) const {
@@ -109,12 +125,13 @@ std::int32_t DataSet::maxStrandId() const {
 
 std::vector<std::int32_t> DataSet::fieldHolders(std::int64_t variableNumber) const {
     const auto index = static_cast<std::size_t>(variableNumber - 1);
-    return lowestHolders(zones_,
-                         [index](const Zone& zone) { return zone.fields[index].storage.get(); });
+    return lowestHolders(
+        zones_, [index](const Zone& zone) -> const auto& { return zone.fields[index].storage; });
 }
 
 std::vector<std::int32_t> DataSet::nodeMapHolders() const {
-    return lowestHolders(zones_, [](const Zone& zone) { return zone.nodeMap.get(); });
+    return lowestHolders(
+        zones_, [](const Zone& zone) -> const auto& { return zone.nodeMap; });
 }
 
 } // namespace quorvia::host

@@ -17,6 +17,7 @@ namespace quorvia::host {
 class IdSource {
 public:
     std::int64_t next() { return ++last_; }
+    std::int64_t last() const { return last_; }
 
 private:
     std::int64_t last_ = 0;
@@ -56,11 +57,14 @@ public:
     }
     Field* field(std::int64_t zoneNumber, std::int64_t variableNumber) const;
 
+    // The next four throw std::bad_alloc; nothing has changed then.
+
     /// Appends the zone; its fields must be one for each variable. Gives it number and unique id.
     Zone& addZone(std::unique_ptr<Zone> zone);
     /// Appends a variable with one field for each zone, in their order.
     void addVariable(std::string name, std::vector<Field> fields);
-    /// The numbers must exist. What stands behind the deleted is renumbered before any field ends.
+    /// The numbers must exist. What stands behind the deleted is renumbered before any field ends,
+    /// and `numbers` may end with the fields.
     void deleteZones(const std::set<std::int64_t>& numbers);
     void deleteVariables(const std::set<std::int64_t>& numbers);
 

@@ -1,8 +1,22 @@
 #include "model/FieldCache.h"
 
+#include <new>
 #include <utility>
 
 namespace quorvia::host {
+
+namespace {
+
+/// Of a field among those in memory; empty if there is no memory.
+std::list<FieldStorage*> newPlace(FieldStorage& storage) noexcept {
+    try {
+        return {&storage};
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+} // namespace
 
 FieldCache::~FieldCache() {
     for (FieldStorage* storage : recent_)
@@ -21,6 +35,9 @@ bool FieldCache::fetch(FieldStorage& storage) {
 
     // The guest may delete the zone while it loads the field.
     const std::shared_ptr<FieldStorage> alive = storage.shared_from_this();
+    std::list<FieldStorage*> place = newPlace(storage);
+    if (place.empty())
+        return false;
     makeRoomFor(storage.byteCount());
     storage.block_ = takeBlock(storage.byteCount());
     if (!storage.block_)
@@ -33,7 +50,8 @@ bool FieldCache::fetch(FieldStorage& storage) {
         return false;
     }
     storage.cache_ = this;
-    storage.place_ = recent_.insert(recent_.end(), &storage);
+    storage.place_ = place.begin();
+    recent_.splice(recent_.end(), place);
     bytesInMemory_ += storage.byteCount();
     return true;
 }

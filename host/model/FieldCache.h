@@ -20,7 +20,8 @@ public:
     void setLimit(std::int64_t byteLimit) { byteLimit_ = byteLimit; }
 
     /// Brings the values into memory and makes them the most recently used; others make room first.
-    /// False: there is no memory, or the load failed; the field stays deferred.
+    /// False: there is no memory, or the load failed; the field stays deferred. What was dropped to
+    /// make room stays dropped.
     bool fetch(FieldStorage& storage);
     /// Drops fetched values. False: nothing is in memory, or the guest does not allow it.
     bool drop(FieldStorage& storage);

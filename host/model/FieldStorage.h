@@ -20,13 +20,14 @@ class FieldStorage;
 std::int64_t valueWidth(std::int32_t type);
 
 /// Where the values of a deferred field come from. Ending it is the clean-up of the registration.
+/// Nothing here throws.
 class Deferral {
 public:
     virtual ~Deferral() = default;
     /// Fills `storage.values()`; false leaves the field deferred.
-    virtual bool load(FieldStorage& storage) = 0;
+    virtual bool load(FieldStorage& storage) noexcept = 0;
     /// Whether the array may be dropped; `load` may be called again afterwards.
-    virtual bool mayUnload(FieldStorage& storage) = 0;
+    virtual bool mayUnload(FieldStorage& storage) noexcept = 0;
     /// An address in the code that fills the field, which must end before that code is unloaded;
     /// null if the code always stays.
     virtual const void* code() const { return nullptr; }
@@ -43,7 +44,7 @@ class FieldStorage : public std::enable_shared_from_this<FieldStorage> {
 public:
     FieldStorage(Key, std::int32_t type, std::int64_t valueCount)
         : type_(type), valueCount_(valueCount) {}
-    /// `valueCount` zeros of `type`; null if there is no memory.
+    /// `valueCount` zeros of `type`; null, or std::bad_alloc, if there is no memory.
     static std::shared_ptr<FieldStorage> stored(std::int32_t type, std::int64_t valueCount);
     /// A field that is fetched when someone asks for it (FieldCache::fetch). `Promise` is the
     /// Deferral to make from `arguments`; it stands in one block with the storage.

@@ -23,7 +23,8 @@ public:
 
     /// Null if there is none.
     DataSet* dataSet() const { return dataSet_.get(); }
-    /// A new data set without zones, in place of one that is there.
+    /// A new data set without zones, in place of one that is there. Throws std::bad_alloc, and the
+    /// old one stays then.
     DataSet& createDataSet(std::string loaderName, std::string title,
                            const std::vector<std::string>& variableNames);
     /// No data set, and the plot type of a frame that never had one.

@@ -7,10 +7,6 @@ namespace {
 
 constexpr std::int32_t registrationWord113 = 100;
 
-std::vector<std::int64_t> membersOf(const GuestSet& set) {
-    return {set.members.begin(), set.members.end()};
-}
-
 } // namespace
 
 extern "C" {
@@ -29,8 +25,9 @@ QuorAddOnHandle QuorUtilAddOnRegister(std::int32_t registrationWord, const char*
         call.violate("bad registration word, or a text is null");
         return call.result(QuorAddOnHandle{});
     }
-    return call.result(
-        call.host().handles.of(QuorAddOnHandle{}).add(call.operation(), AddOnIdentity{name}));
+    return call.serve(QuorAddOnHandle{}, [&] {
+        return call.host().handles.of(QuorAddOnHandle{}).add(call.operation(), {name});
+    });
 }
 
 void QuorUtilLockOn() {
@@ -77,17 +74,15 @@ void QuorUtilStateChanged(std::int32_t stateChangeCode, QuorSetHandle members) {
     if (stateChangeCode != QuorStateChange_VarsAltered &&
         stateChangeCode != QuorStateChange_VarsAdded &&
         stateChangeCode != QuorStateChange_ZonesAdded)
-        call.violation("an add-on does not tell code " + std::to_string(stateChangeCode));
-    call.host().log.stateChanges.push_back({stateChangeCode, membersOf(*set)});
-    const std::vector<QuorStateChangeCallback> callbacks = call.host().stateChangeCallbacks;
-    for (const QuorStateChangeCallback callback : callbacks)
-        callback(stateChangeCode);
+        call.violation("an add-on does not tell code ", stateChangeCode);
+    call.host().log.addStateChange(stateChangeCode, set->members);
+    call.host().callStateChangeCallbacks(stateChangeCode);
 }
 
 void QuorUtilUndoStateBegin(std::int32_t category) {
     Call call("QuorUtilUndoStateBegin", category);
     ++call.host().openUndoStates;
-    call.host().log.undo.push_back({UndoKind::Begin, category, std::nullopt});
+    call.host().log.addUndo({UndoKind::Begin, category, std::nullopt});
 }
 
 void QuorUtilUndoStateEnd(bool doInvalidate, bool success) {
@@ -99,7 +94,7 @@ void QuorUtilUndoStateEnd(bool doInvalidate, bool success) {
         return;
     }
     --call.host().openUndoStates;
-    call.host().log.undo.push_back({UndoKind::End, 0, success});
+    call.host().log.addUndo({UndoKind::End, 0, success});
 }
 
 bool QuorUtilInterruptIsSet() {

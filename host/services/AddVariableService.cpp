@@ -38,7 +38,7 @@ extern "C" {
 
 bool QuorUtilDataSetAddVarX(QuorArgListHandle arguments) {
     Call call("QuorUtilDataSetAddVarX", arguments);
-    return call.result(!call.fails() && addVariable(call, arguments));
+    return call.serve([&] { return addVariable(call, arguments); });
 }
 
 } // extern "C"

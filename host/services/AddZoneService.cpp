@@ -40,8 +40,7 @@ bool sizesAreSound(Call& call, const Zone& zone) {
     for (const auto& [key, size] :
          {std::pair("IMax", zone.i), {"JMax", zone.j}, {"KMax", zone.k}}) {
         if (size < 1)
-            return call.refuse(std::string(key) + " is " + std::to_string(size) +
-                               "; a zone needs at least 1");
+            return call.refuse(key, " is ", size, "; a zone needs at least 1");
     }
     return fitsMemory(zone) ||
            call.refuse("the zone has more points or elements than memory has addresses");
@@ -56,7 +55,7 @@ bool cornersFitType(Call& call, const Zone& zone) {
     case QuorZoneType_Tetrahedra:
         return zone.k == 4 || call.violate("a tetrahedron has 4 corners (\"KMax\")");
     default:
-        return call.violate("there is no zone type " + std::to_string(zone.type));
+        return call.violate("there is no zone type ", zone.type);
     }
 }
 
@@ -93,16 +92,15 @@ bool readZone(Call& call, const DataSet& data, QuorArgListHandle arguments, NewZ
 bool checkNumbers(Call& call, const DataSet& data, NewZone& zoneToAdd) {
     Zone& zone = *zoneToAdd.zone;
     if (zoneToAdd.zoneType < 0 || zoneToAdd.zoneType > QuorZoneType_Tetrahedra)
-        return call.violate("there is no zone type " + std::to_string(zoneToAdd.zoneType));
+        return call.violate("there is no zone type ", zoneToAdd.zoneType);
     zone.type = static_cast<std::int32_t>(zoneToAdd.zoneType);
     if (zoneToAdd.strand < 0 || zoneToAdd.strand > std::numeric_limits<std::int32_t>::max())
-        return call.violate("\"StrandID\" is " + std::to_string(zoneToAdd.strand));
+        return call.violate("\"StrandID\" is ", zoneToAdd.strand);
     zone.strandId = static_cast<std::int32_t>(zoneToAdd.strand);
     if (zoneToAdd.parent != 0) {
         const Zone* parent = data.zone(zoneToAdd.parent);
         if (parent == nullptr)
-            return call.violate("\"ParentZone\" " + std::to_string(zoneToAdd.parent) +
-                                " does not exist");
+            return call.violate("\"ParentZone\" ", zoneToAdd.parent, " does not exist");
         zone.parentZoneId = parent->uniqueId;
     }
     return sizesAreSound(call, zone) && cornersFitType(call, zone);
@@ -118,8 +116,7 @@ bool connectZone(Call& call, const DataSet& data, NewZone& zoneToAdd) {
     }
     const Zone* source = data.zone(zoneToAdd.connectShare);
     if (source == nullptr)
-        return call.violate("\"ConnectShareZone\" " + std::to_string(zoneToAdd.connectShare) +
-                            " does not exist");
+        return call.violate("\"ConnectShareZone\" ", zoneToAdd.connectShare, " does not exist");
     if (!call.host().settings.sharingAllowed)
         return call.refuse("sharing is not allowed");
     if (source->type != zone.type || zone.isOrdered() || source->i != zone.i || source->j != zone.j)
@@ -157,7 +154,7 @@ extern "C" {
 
 bool QuorUtilDataSetAddZoneX(QuorArgListHandle arguments) {
     Call call("QuorUtilDataSetAddZoneX", arguments);
-    return call.result(!call.fails() && addZone(call, arguments));
+    return call.serve([&] { return addZone(call, arguments); });
 }
 
 } // extern "C"

@@ -10,8 +10,6 @@ namespace {
 
 template <typename Value>
 bool append(Call& call, QuorArgListHandle arguments, const char* key, Value value) {
-    if (call.fails())
-        return false;
     GuestArgList* list = call.object(arguments);
     if (list == nullptr)
         return false;
@@ -20,7 +18,8 @@ bool append(Call& call, QuorArgListHandle arguments, const char* key, Value valu
     const std::string_view name = key;
     const auto isSameKey = [name](const GuestArgument& argument) { return argument.key == name; };
     if (std::any_of(list->arguments.begin(), list->arguments.end(), isSameKey))
-        return call.violate("the key " + Transcript::quoted(key) + " stands in the list already");
+        return call.violate(
+            "the key ", [name] { return Transcript::quoted(name); }, " stands in the list already");
     list->arguments.push_back({std::string(name), std::move(value)});
     return true;
 }
@@ -31,10 +30,9 @@ extern "C" {
 
 QuorArgListHandle QuorUtilArgListAlloc() {
     Call call("QuorUtilArgListAlloc");
-    if (call.fails())
-        return call.result(QuorArgListHandle{});
-    return call.result(
-        call.host().handles.of(QuorArgListHandle{}).add(call.operation(), GuestArgList{}));
+    return call.serve(QuorArgListHandle{}, [&] {
+        return call.host().handles.of(QuorArgListHandle{}).add(call.operation(), {});
+    });
 }
 
 void QuorUtilArgListClear(QuorArgListHandle arguments) {
@@ -52,17 +50,17 @@ bool QuorUtilArgListAppendString(QuorArgListHandle arguments, const char* key, c
     Call call("QuorUtilArgListAppendString", arguments, key, value);
     if (value == nullptr)
         return call.result(call.violate("text is null"));
-    return call.result(append(call, arguments, key, std::string(value)));
+    return call.serve([&] { return append(call, arguments, key, std::string(value)); });
 }
 
 bool QuorUtilArgListAppendInt(QuorArgListHandle arguments, const char* key, std::int64_t value) {
     Call call("QuorUtilArgListAppendInt", arguments, key, value);
-    return call.result(append(call, arguments, key, value));
+    return call.serve([&] { return append(call, arguments, key, value); });
 }
 
 bool QuorUtilArgListAppendDouble(QuorArgListHandle arguments, const char* key, double value) {
     Call call("QuorUtilArgListAppendDouble", arguments, key, value);
-    return call.result(append(call, arguments, key, value));
+    return call.serve([&] { return append(call, arguments, key, value); });
 }
 
 bool QuorUtilArgListAppendStringList(QuorArgListHandle arguments, const char* key,
@@ -70,14 +68,14 @@ bool QuorUtilArgListAppendStringList(QuorArgListHandle arguments, const char* ke
     Call call("QuorUtilArgListAppendStringList", arguments, key, value);
     if (call.object(value) == nullptr)
         return call.result(false);
-    return call.result(append(call, arguments, key, value));
+    return call.serve([&] { return append(call, arguments, key, value); });
 }
 
 bool QuorUtilArgListAppendArray(QuorArgListHandle arguments, const char* key, const void* value) {
     Call call("QuorUtilArgListAppendArray", arguments, key, value);
     if (value == nullptr)
         return call.result(call.violate("array is null"));
-    return call.result(append(call, arguments, key, value));
+    return call.serve([&] { return append(call, arguments, key, value); });
 }
 
 bool QuorUtilArgListAppendFunction(QuorArgListHandle arguments, const char* key,
@@ -85,7 +83,7 @@ bool QuorUtilArgListAppendFunction(QuorArgListHandle arguments, const char* key,
     Call call("QuorUtilArgListAppendFunction", arguments, key, value);
     if (value == nullptr)
         return call.result(call.violate("function is null"));
-    return call.result(append(call, arguments, key, value));
+    return call.serve([&] { return append(call, arguments, key, value); });
 }
 
 } // extern "C"

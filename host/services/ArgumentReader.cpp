@@ -26,9 +26,10 @@ const GuestArgument* ArgumentReader::find(std::string_view key) const {
     return nullptr;
 }
 
-void ArgumentReader::complain(std::string_view key, std::string_view what) {
+void ArgumentReader::complain(std::string_view key, std::string_view what, std::string_view kind) {
     if (ok_)
-        call_.violate("key " + Transcript::quoted(key) + ' ' + std::string(what));
+        call_.violate(
+            "key ", [key] { return Transcript::quoted(key); }, " ", what, kind);
     ok_ = false;
 }
 
@@ -37,7 +38,7 @@ Value ArgumentReader::valueOf(std::string_view key, const GuestArgument& argumen
                               const char* kind) {
     if (const Value* value = std::get_if<Value>(&argument.value))
         return *value;
-    complain(key, std::string("is not ") + kind);
+    complain(key, "is not ", kind);
     return otherwise;
 }
 

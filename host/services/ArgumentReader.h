@@ -34,7 +34,7 @@ public:
 
 private:
     const GuestArgument* find(std::string_view key) const;
-    void complain(std::string_view key, std::string_view what);
+    void complain(std::string_view key, std::string_view what, std::string_view kind = {});
     template <typename Value>
     Value valueOf(std::string_view key, const GuestArgument& argument, Value otherwise,
                   const char* kind);

@@ -16,6 +16,10 @@ AuxData* auxDataOf(const HostState& host, std::int64_t ownerId) {
     return zone != nullptr ? &zone->auxData : nullptr;
 }
 
+QuorAuxDataHandle referTo(Call& call, std::int64_t ownerId) {
+    return call.host().handles.of(QuorAuxDataHandle{}).add(call.operation(), {ownerId});
+}
+
 bool setItem(Call& call, QuorAuxDataHandle auxData, const char* name, const char* text) {
     const AuxDataReference* reference = call.object(auxData);
     if (reference == nullptr)
@@ -25,7 +29,7 @@ bool setItem(Call& call, QuorAuxDataHandle auxData, const char* name, const char
         return call.violate("the zone or data set of these auxiliary data is gone");
     if (name == nullptr || text == nullptr || *name == '\0')
         return call.violate("name or text is null, or the name is empty");
-    (*items)[name] = text;
+    items->insert_or_assign(std::string(name), std::string(text));
     return true;
 }
 
@@ -35,31 +39,29 @@ extern "C" {
 
 QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone) {
     Call call("QuorUtilAuxDataZoneGetRef", zone);
-    const DataSet* data = call.fails() ? nullptr : call.host().frame.dataSet();
-    const Zone* found = data != nullptr ? data->zone(zone) : nullptr;
-    if (found == nullptr)
-        return call.result(QuorAuxDataHandle{});
-    return call.result(
-        call.host().handles.of(QuorAuxDataHandle{}).add(call.operation(), {found->uniqueId}));
+    return call.serve(QuorAuxDataHandle{}, [&] {
+        const DataSet* data = call.host().frame.dataSet();
+        const Zone* found = data != nullptr ? data->zone(zone) : nullptr;
+        return found != nullptr ? referTo(call, found->uniqueId) : nullptr;
+    });
 }
 
 QuorAuxDataHandle QuorUtilAuxDataDataSetGetRef() {
     Call call("QuorUtilAuxDataDataSetGetRef");
-    const DataSet* data = call.fails() ? nullptr : call.host().frame.dataSet();
-    if (data == nullptr)
-        return call.result(QuorAuxDataHandle{});
-    return call.result(
-        call.host().handles.of(QuorAuxDataHandle{}).add(call.operation(), {data->uniqueId()}));
+    return call.serve(QuorAuxDataHandle{}, [&] {
+        const DataSet* data = call.host().frame.dataSet();
+        return data != nullptr ? referTo(call, data->uniqueId()) : nullptr;
+    });
 }
 
 bool QuorUtilAuxDataSetItem(QuorAuxDataHandle auxData, const char* name, const char* text,
                             std::int32_t type, std::int32_t retain) {
     Call call("QuorUtilAuxDataSetItem", auxData, name, text, type, retain);
-    if (call.fails())
-        return call.result(false);
-    if (type != 0 || retain != 1)
-        return call.result(call.violate("type is not 0, or retain is not 1"));
-    return call.result(setItem(call, auxData, name, text));
+    return call.serve([&] {
+        if (type != 0 || retain != 1)
+            return call.violate("type is not 0, or retain is not 1");
+        return setItem(call, auxData, name, text);
+    });
 }
 
 } // extern "C"

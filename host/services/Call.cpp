@@ -2,60 +2,46 @@
 
 namespace quorvia::host {
 
-void Call::begin() {
+void Call::begin() noexcept {
     fails_ = host_.faults.countCall(operation_);
     if (operation_.traits().lock == LockNeed::Held && host_.lockDepth() == 0)
         violation("called without the host's lock");
 }
 
-bool Call::fails() {
+bool Call::fails() noexcept {
     if (fails_)
         refuse("failed on purpose");
     return fails_;
 }
 
-void Call::violation(std::string_view what) {
-    host_.addViolation(std::string(operation_.name()) + ": " + std::string(what));
-}
-
-bool Call::refuse(std::string_view why) {
-    host_.lastError = std::string(operation_.name()) + ": " + std::string(why);
-    return false;
-}
-
-bool Call::violate(std::string_view what) {
-    violation(what);
-    return refuse(what);
-}
-
-DataSet* Call::dataSet() {
+DataSet* Call::dataSet() noexcept {
     DataSet* found = host_.frame.dataSet();
     if (found == nullptr)
         violate("there is no data set");
     return found;
 }
 
-Zone* Call::zone(std::int32_t number) {
+Zone* Call::zone(std::int32_t number) noexcept {
     DataSet* data = dataSet();
     if (data == nullptr)
         return nullptr;
     Zone* found = data->zone(number);
     if (found == nullptr)
-        violate("there is no zone " + std::to_string(number));
+        violate("there is no zone ", number);
     return found;
 }
 
-const Variable* Call::variable(std::int32_t number) {
+const Variable* Call::variable(std::int32_t number) noexcept {
     DataSet* data = dataSet();
     if (data == nullptr)
         return nullptr;
     const Variable* found = data->variable(number);
     if (found == nullptr)
-        violate("there is no variable " + std::to_string(number));
+        violate("there is no variable ", number);
     return found;
 }
 
-Field* Call::field(std::int32_t zoneNumber, std::int32_t variableNumber) {
+Field* Call::field(std::int32_t zoneNumber, std::int32_t variableNumber) noexcept {
     Zone* holder = zone(zoneNumber);
     if (holder == nullptr || variable(variableNumber) == nullptr)
         return nullptr;

@@ -11,6 +11,19 @@ bool isInRange(std::int64_t number, std::int64_t highest) {
     return number >= 1 && number <= highest;
 }
 
+/// Null for an ordered zone, and if there is no memory for the map.
+QuorNodeMapHandle referTo(Call& call, const Zone* zone) {
+    if (zone == nullptr || zone->nodeMap == nullptr)
+        return nullptr;
+    auto& handles = call.host().handles.of(QuorNodeMapHandle{});
+    const QuorNodeMapHandle handle = handles.add(call.operation(), {zone->nodeMap});
+    if (zone->nodeMap->prepare()) // last: it can't be told from a map that was not set
+        return handle;
+    handles.remove(handle);
+    call.refuse("no memory for a node map");
+    return nullptr;
+}
+
 } // namespace
 
 extern "C" {
@@ -18,14 +31,7 @@ extern "C" {
 QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone) {
     Call call("QuorUtilDataNodeGetRef", zone);
     const Zone* found = call.zone(zone);
-    if (call.fails() || found == nullptr || found->nodeMap == nullptr)
-        return call.result(QuorNodeMapHandle{});
-    if (!found->nodeMap->prepare()) {
-        call.refuse("no memory for a node map");
-        return call.result(QuorNodeMapHandle{});
-    }
-    return call.result(
-        call.host().handles.of(QuorNodeMapHandle{}).add(call.operation(), {found->nodeMap}));
+    return call.serve(QuorNodeMapHandle{}, [&] { return referTo(call, found); });
 }
 
 void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, std::int32_t corner,

@@ -22,50 +22,74 @@ bool createDataSet(Call& call, QuorArgListHandle arguments) {
     return true;
 }
 
-// The numbers to delete; null, and a violation, if one of them does not exist.
+/// The numbers to delete; null, and a violation, if one of them does not exist.
 const std::set<std::int64_t>* numbersUpTo(Call& call, QuorSetHandle set, std::int32_t count,
                                           const char* what) {
     const GuestSet* found = call.object(set);
     if (found == nullptr)
         return nullptr;
     if (!found->members.empty() && *found->members.rbegin() > count) {
-        call.violate(std::string("there is no ") + what + ' ' +
-                     std::to_string(*found->members.rbegin()));
+        call.violate("there is no ", what, " ", *found->members.rbegin());
         return nullptr;
     }
     return &found->members;
 }
 
 bool deleteZones(Call& call, QuorSetHandle zones) {
-    DataSet* data = call.fails() ? nullptr : call.dataSet();
+    DataSet* data = call.dataSet();
     if (data == nullptr)
         return false;
     const std::set<std::int64_t>* numbers = numbersUpTo(call, zones, data->zoneCount(), "zone");
-    if (numbers == nullptr)
-        return false;
-    // The guest may give the set back while its clean-up callbacks run.
-    data->deleteZones(std::set<std::int64_t>(*numbers));
-    return true;
+    if (numbers != nullptr)
+        data->deleteZones(*numbers);
+    return numbers != nullptr;
 }
 
 bool deleteVariables(Call& call, QuorSetHandle vars) {
-    DataSet* data = call.fails() ? nullptr : call.dataSet();
+    DataSet* data = call.dataSet();
     if (data == nullptr)
         return false;
     const std::set<std::int64_t>* numbers =
         numbersUpTo(call, vars, data->variableCount(), "variable");
-    if (numbers == nullptr)
-        return false;
-    data->deleteVariables(std::set<std::int64_t>(*numbers));
-    return true;
+    if (numbers != nullptr)
+        data->deleteVariables(*numbers);
+    return numbers != nullptr;
 }
 
-// Every number from 1 to `count`.
-QuorSetHandle setUpTo(Call& call, std::int32_t count) {
-    GuestSet set;
-    for (std::int64_t number = 1; number <= count; ++number)
-        set.members.insert(set.members.end(), number);
-    return call.host().handles.of(QuorSetHandle{}).add(call.operation(), std::move(set));
+/// A set of every number from 1 to the count that the data set gives.
+bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*count)() const) {
+    if (numbers == nullptr)
+        return call.result(call.violate("reference is null"));
+    *numbers = call.withinMemory(QuorSetHandle{}, [&]() -> QuorSetHandle {
+        const DataSet* data = call.host().frame.dataSet();
+        if (data == nullptr) {
+            call.refuse("there is no data set");
+            return nullptr;
+        }
+        GuestSet set;
+        for (std::int64_t number = 1; number <= (data->*count)(); ++number)
+            set.members.insert(set.members.end(), number);
+        return call.host().handles.of(QuorSetHandle{}).add(call.operation(), std::move(set));
+    });
+    call.result(*numbers != nullptr);
+    if (*numbers != nullptr)
+        call.out(*numbers);
+    return *numbers != nullptr;
+}
+
+bool giveInfo(Call& call, char** title, std::int32_t* zoneCount, std::int32_t* varCount) {
+    const DataSet* data = call.host().frame.dataSet();
+    if (data == nullptr)
+        return call.refuse("there is no data set");
+    if (title != nullptr)
+        *title = call.host().memory.copyText(call.operation(), data->title);
+    if (title != nullptr && *title == nullptr)
+        return call.refuse("no memory for the title");
+    if (zoneCount != nullptr)
+        *zoneCount = data->zoneCount();
+    if (varCount != nullptr)
+        *varCount = data->variableCount();
+    return true;
 }
 
 } // namespace
@@ -81,39 +105,32 @@ bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t*
     Call call("QuorUtilDataSetGetInfo");
     if (title != nullptr)
         *title = nullptr;
-    const DataSet* data = call.fails() ? nullptr : call.host().frame.dataSet();
-    if (data == nullptr)
-        return call.result(call.refuse("there is no data set"));
-    if (title != nullptr)
-        *title = call.host().memory.copyText(call.operation(), data->title);
-    if (zoneCount != nullptr)
-        *zoneCount = data->zoneCount();
-    if (varCount != nullptr)
-        *varCount = data->variableCount();
-    call.result(true);
-    call.out(data->zoneCount());
-    call.out(data->variableCount());
-    return true;
+    const bool isGiven = call.serve([&] { return giveInfo(call, title, zoneCount, varCount); });
+    if (isGiven) {
+        call.out(call.host().frame.dataSet()->zoneCount());
+        call.out(call.host().frame.dataSet()->variableCount());
+    }
+    return isGiven;
 }
 
 bool QuorUtilDataSetCreateX(QuorArgListHandle arguments) {
     Call call("QuorUtilDataSetCreateX", arguments);
-    return call.result(!call.fails() && createDataSet(call, arguments));
+    return call.serve([&] { return createDataSet(call, arguments); });
 }
 
 bool QuorUtilDataSetDeleteZone(QuorSetHandle zones) {
     Call call("QuorUtilDataSetDeleteZone", zones);
-    return call.result(deleteZones(call, zones));
+    return call.serve([&] { return deleteZones(call, zones); });
 }
 
 bool QuorUtilZoneDelete(QuorSetHandle zones) {
     Call call("QuorUtilZoneDelete", zones);
-    return call.result(deleteZones(call, zones));
+    return call.serve([&] { return deleteZones(call, zones); });
 }
 
 bool QuorUtilDataSetDeleteVar(QuorSetHandle vars) {
     Call call("QuorUtilDataSetDeleteVar", vars);
-    return call.result(deleteVariables(call, vars));
+    return call.serve([&] { return deleteVariables(call, vars); });
 }
 
 std::int32_t QuorUtilDataSetGetMaxStrandID() {
@@ -129,30 +146,12 @@ bool QuorUtilDataSetIsSharingAllowed() {
 
 bool QuorUtilZoneGetEnabled(QuorSetHandle* zones) {
     Call call("QuorUtilZoneGetEnabled");
-    if (zones == nullptr)
-        return call.result(call.violate("reference is null"));
-    *zones = nullptr;
-    const DataSet* data = call.fails() ? nullptr : call.host().frame.dataSet();
-    if (data == nullptr)
-        return call.result(call.refuse("there is no data set"));
-    *zones = setUpTo(call, data->zoneCount());
-    call.result(true);
-    call.out(*zones);
-    return true;
+    return giveNumbers(call, zones, &DataSet::zoneCount);
 }
 
 bool QuorUtilVarGetEnabled(QuorSetHandle* vars) {
     Call call("QuorUtilVarGetEnabled");
-    if (vars == nullptr)
-        return call.result(call.violate("reference is null"));
-    *vars = nullptr;
-    const DataSet* data = call.fails() ? nullptr : call.host().frame.dataSet();
-    if (data == nullptr)
-        return call.result(call.refuse("there is no data set"));
-    *vars = setUpTo(call, data->variableCount());
-    call.result(true);
-    call.out(*vars);
-    return true;
+    return giveNumbers(call, vars, &DataSet::variableCount);
 }
 
 } // extern "C"

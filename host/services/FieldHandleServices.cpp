@@ -52,8 +52,7 @@ void storeValue(QuorFieldHandle field, std::int64_t index, double value) {
         reference != nullptr ? reference->storage.lock() : nullptr;
     if (storage == nullptr || storage->values() == nullptr || index < 0 ||
         index >= storage->valueCount()) {
-        host.addViolation("QuorUtilDataValueRefGetSetFunc: bad field handle, or no value " +
-                          std::to_string(index));
+        host.addViolation("QuorUtilDataValueRefGetSetFunc: bad field handle, or no value ", index);
         return;
     }
     if (storage->type() == QuorFieldDataType_Float)
@@ -96,9 +95,8 @@ void QuorUtilDataValueArraySetByRef(QuorFieldHandle field, std::int64_t firstInd
     if (array == nullptr)
         return;
     if (firstIndex < 1 || count < 0 || count > storage->valueCount() - (firstIndex - 1)) {
-        call.violation("values " + std::to_string(firstIndex) + " and the next, " +
-                       std::to_string(count) + " in all, are not in a field of " +
-                       std::to_string(storage->valueCount()));
+        call.violation("values ", firstIndex, " and the next, ", count,
+                       " in all, are not in a field of ", storage->valueCount());
         return;
     }
     if (values == nullptr && count > 0) {

@@ -81,7 +81,7 @@ bool QuorUtilDataValueIsPassive(std::int32_t zone, std::int32_t var) {
 
 bool QuorUtilDataValueAlloc(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueAlloc", zone, var);
-    return call.result(!call.fails() && allocateField(call, zone, var));
+    return call.serve([&] { return allocateField(call, zone, var); });
 }
 
 void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** values,
@@ -100,11 +100,14 @@ void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** valu
 
 QuorFieldHandle QuorUtilDataValueGetWritableRef(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueGetWritableRef", zone, var);
-    const Field* field = call.fails() ? nullptr : call.field(zone, var);
-    if (field == nullptr || field->state() != FieldState::Stored)
-        return call.result(QuorFieldHandle{});
-    return call.result(
-        call.host().handles.of(QuorFieldHandle{}).add(call.operation(), {field->storage, nullptr}));
+    return call.serve(QuorFieldHandle{}, [&]() -> QuorFieldHandle {
+        const Field* field = call.field(zone, var);
+        if (field == nullptr || field->state() != FieldState::Stored)
+            return nullptr;
+        return call.host()
+            .handles.of(QuorFieldHandle{})
+            .add(call.operation(), {field->storage, nullptr});
+    });
 }
 
 bool QuorUtilDataValueCustomLOD(std::int32_t zone, std::int32_t var, QuorFieldLoadCallback load,
@@ -112,11 +115,11 @@ bool QuorUtilDataValueCustomLOD(std::int32_t zone, std::int32_t var, QuorFieldLo
                                 QuorFieldValueCallback getValue, QuorFieldValueCallback setValue,
                                 void* clientData) {
     Call call("QuorUtilDataValueCustomLOD", zone, var);
-    if (call.fails())
-        return call.result(false);
-    if (getValue != nullptr || setValue != nullptr)
-        return call.result(call.violate("the slots for single values stay empty"));
-    return call.result(deferField(call, zone, var, {load, unload, cleanUp, clientData}));
+    return call.serve([&] {
+        if (getValue != nullptr || setValue != nullptr)
+            return call.violate("the slots for single values stay empty");
+        return deferField(call, zone, var, {load, unload, cleanUp, clientData});
+    });
 }
 
 } // extern "C"

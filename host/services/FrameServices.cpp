@@ -23,7 +23,7 @@ void QuorUtilFrameSetPlotType(std::int32_t plotType) {
     if (isPlotType(plotType))
         call.host().frame.setPlotType(plotType);
     else
-        call.violation("there is no plot type " + std::to_string(plotType));
+        call.violation("there is no plot type ", plotType);
 }
 
 std::int64_t QuorUtilFrameGetUniqueID() {
@@ -36,7 +36,7 @@ void QuorUtilFrameReset(std::int64_t frameId) {
     if (frameId == call.host().frame.uniqueId())
         call.host().frame.reset();
     else
-        call.violation("there is no frame " + std::to_string(frameId));
+        call.violation("there is no frame ", frameId);
 }
 
 void QuorUtilRedraw(bool doFullDrawing) {

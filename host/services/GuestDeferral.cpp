@@ -1,7 +1,6 @@
 #include "services/GuestDeferral.h"
 
-#include <exception>
-#include <utility>
+#include <new>
 
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
@@ -10,16 +9,21 @@ namespace quorvia::host {
 
 namespace {
 
-// Calls the guest. Nothing may be thrown at a host, which could not know what to do about it.
+constexpr OperationId operation = "QuorUtilDataValueCustomLOD";
+
+// Calls the guest. Nothing may be thrown at a host, which could not know what to do about it. Want
+// of memory may be the host's own, and is not blamed on the guest.
 template <typename Callback>
-bool callGuest(const char* which, Callback callback) {
+bool callGuest(const char* which, Callback callback) noexcept {
     HostState& host = hostState();
     GuestWatch watch(host);
     bool result = false;
     try {
         result = callback();
+    } catch (const std::bad_alloc&) {
+        host.keepLastError("QuorUtilDataValueCustomLOD: no memory");
     } catch (...) {
-        host.addViolation(std::string("QuorUtilDataValueCustomLOD: the ") + which +
+        host.addViolation("QuorUtilDataValueCustomLOD: the ", which,
                           " callback has thrown an exception");
     }
     watch.finish();
@@ -31,35 +35,42 @@ bool callGuest(const char* which, Callback callback) {
 GuestDeferral::GuestDeferral(const FieldCallbacks& callbacks) : callbacks_(callbacks) {}
 
 GuestDeferral::~GuestDeferral() {
-    const QuorFieldHandle handle = handleFor({});
+    auto& handles = hostState().handles.of(handle_);
+    if (handle_ != nullptr) {
+        cleanUp(handle_);
+        handles.remove(handle_);
+        return;
+    }
+    const HandleTable<QuorFieldHandle, FieldReference>::Lent lent(handles,
+                                                                  {{}, callbacks_.clientData});
+    cleanUp(lent.handle());
+}
+
+void GuestDeferral::cleanUp(QuorFieldHandle handle) noexcept {
     callGuest("clean-up", [&] {
         callbacks_.cleanUp(handle);
         return true;
     });
-    hostState().handles.of(handle).remove(handle);
 }
 
-bool GuestDeferral::load(FieldStorage& storage) {
-    const QuorFieldHandle handle = handleFor(storage.weak_from_this());
-    return callGuest("load", [&] { return callbacks_.load(handle); });
+bool GuestDeferral::load(FieldStorage& storage) noexcept {
+    return callGuest("load", [&] { return callbacks_.load(handleFor(storage)); });
 }
 
-bool GuestDeferral::mayUnload(FieldStorage& storage) {
+bool GuestDeferral::mayUnload(FieldStorage& storage) noexcept {
     if (callbacks_.unload == nullptr)
         return true;
-    const QuorFieldHandle handle = handleFor(storage.weak_from_this());
-    return callGuest("unload", [&] { return callbacks_.unload(handle); });
+    return callGuest("unload", [&] { return callbacks_.unload(handleFor(storage)); });
 }
 
 const void* GuestDeferral::code() const {
     return reinterpret_cast<const void*>(callbacks_.load);
 }
 
-QuorFieldHandle GuestDeferral::handleFor(std::weak_ptr<FieldStorage> storage) {
-    HostState& host = hostState();
+QuorFieldHandle GuestDeferral::handleFor(FieldStorage& storage) {
     if (handle_ == nullptr)
-        handle_ = host.handles.of(handle_).add("QuorUtilDataValueCustomLOD",
-                                               {std::move(storage), callbacks_.clientData});
+        handle_ = hostState().handles.of(handle_).add(
+            operation, {storage.weak_from_this(), callbacks_.clientData});
     return handle_;
 }
 

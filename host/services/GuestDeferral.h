@@ -2,8 +2,6 @@
 // which it meets the field again.
 #pragma once
 
-#include <memory>
-
 #include "model/FieldStorage.h"
 #include "quorvia/QuorUtil.h"
 
@@ -24,17 +22,19 @@ public:
     GuestDeferral(const GuestDeferral&) = delete;
     GuestDeferral& operator=(const GuestDeferral&) = delete;
 
-    bool load(FieldStorage& storage) override;
-    bool mayUnload(FieldStorage& storage) override;
+    bool load(FieldStorage& storage) noexcept override;
+    bool mayUnload(FieldStorage& storage) noexcept override;
 
     const void* code() const override;
     const void* clientData() const override { return callbacks_.clientData; }
 
 private:
-    QuorFieldHandle handleFor(std::weak_ptr<FieldStorage> storage);
+    void cleanUp(QuorFieldHandle handle) noexcept;
+    /// Throws std::bad_alloc.
+    QuorFieldHandle handleFor(FieldStorage& storage);
 
     FieldCallbacks callbacks_;
-    QuorFieldHandle handle_ = nullptr; // made when it is first needed
+    QuorFieldHandle handle_ = nullptr; // made when it is first needed, save for the clean-up
 };
 
 } // namespace quorvia::host

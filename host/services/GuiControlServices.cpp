@@ -1,6 +1,8 @@
 // The making of controls.
+#include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "services/GuiCall.h"
 
@@ -8,33 +10,46 @@ using namespace quorvia::host;
 
 namespace {
 
-std::int32_t addControl(GuiCall& call, std::int32_t parent, Control control) {
-    if (call.fails())
-        return call.result(std::int32_t{QuorGUIId_None});
-    Dialog* dialog = call.dialogOfParent(parent);
-    if (dialog == nullptr)
-        return call.result(std::int32_t{QuorGUIId_None});
-    control.parent = parent;
-    return call.result(call.host().toolkit.addControl(*dialog, std::move(control)));
+constexpr std::int32_t noControl = QuorGUIId_None;
+
+/// `describe` readies the control; false, and a violation, if the guest asks for none that there
+/// could be.
+template <typename Describe>
+std::int32_t addControl(GuiCall& call, std::int32_t parent, Control control, Describe describe) {
+    return call.serve(noControl, [&] {
+        if (!describe(control))
+            return noControl;
+        Dialog* dialog = call.dialogOfParent(parent);
+        if (dialog == nullptr)
+            return noControl;
+        control.parent = parent;
+        return call.host().toolkit.addControl(*dialog, std::move(control));
+    });
+}
+
+std::int32_t addPlain(GuiCall& call, std::int32_t parent, Control control) {
+    return addControl(call, parent, std::move(control), [](Control&) { return true; });
 }
 
 std::int32_t addCaptioned(GuiCall& call, std::int32_t parent, const char* caption,
                           Control control) {
-    if (caption == nullptr) {
-        call.violate("caption is null");
-        return call.result(std::int32_t{QuorGUIId_None});
-    }
-    control.caption = caption;
-    return addControl(call, parent, std::move(control));
+    return addControl(call, parent, std::move(control), [&](Control& captioned) {
+        if (caption == nullptr)
+            return call.violate("caption is null");
+        captioned.caption = caption;
+        return true;
+    });
 }
 
-std::int32_t addWithItems(GuiCall& call, std::int32_t parent, Control control) {
-    if (control.items.empty()) {
-        call.violate("there are no items");
-        return call.result(std::int32_t{QuorGUIId_None});
-    }
-    control.value = 1;
-    return addControl(call, parent, std::move(control));
+/// `giveItems` gives the items, of which there must be one at least.
+template <typename GiveItems>
+std::int32_t addWithItems(GuiCall& call, std::int32_t parent, Control control,
+                          GiveItems giveItems) {
+    return addControl(call, parent, std::move(control), [&](Control& chooser) {
+        chooser.items = giveItems();
+        chooser.value = 1;
+        return !chooser.items.empty() || call.violate("there are no items");
+    });
 }
 
 Control controlOf(ControlKind kind, Geometry geometry, ControlCallback callback = {}) {
@@ -43,6 +58,16 @@ Control controlOf(ControlKind kind, Geometry geometry, ControlCallback callback 
     control.geometry = geometry;
     control.callback = callback;
     return control;
+}
+
+std::vector<std::string> upToNull(std::initializer_list<const char*> captions) {
+    std::vector<std::string> items;
+    for (const char* caption : captions) {
+        if (caption == nullptr)
+            break;
+        items.emplace_back(caption);
+    }
+    return items;
 }
 
 std::vector<std::string> splitAtCommas(const std::string& captions) {
@@ -96,15 +121,15 @@ std::int32_t QuorGUIListAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
     GuiCall call("QuorGUIListAdd", parent, x, y, width, height, multipleSelection, callback);
     Control list = controlOf(ControlKind::List, {x, y, width, height}, callback);
     list.allowsSeveral = multipleSelection;
-    return addControl(call, parent, std::move(list));
+    return addPlain(call, parent, std::move(list));
 }
 
 std::int32_t QuorGUITextFieldAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
                                  std::int32_t width, std::int32_t height,
                                  QuorGUITextCallback callback) {
     GuiCall call("QuorGUITextFieldAdd", parent, x, y, width, height, callback);
-    return addControl(call, parent,
-                      controlOf(ControlKind::TextField, {x, y, width, height}, callback));
+    return addPlain(call, parent,
+                    controlOf(ControlKind::TextField, {x, y, width, height}, callback));
 }
 
 std::int32_t QuorGUIRadioBoxAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
@@ -113,23 +138,19 @@ std::int32_t QuorGUIRadioBoxAdd(std::int32_t parent, std::int32_t x, std::int32_
                                 const char* caption5, QuorGUIValueCallback callback) {
     GuiCall call("QuorGUIRadioBoxAdd", parent, x, y, width, height, caption1, caption2, caption3,
                  caption4, caption5, callback);
-    Control box = controlOf(ControlKind::RadioBox, {x, y, width, height}, callback);
-    for (const char* caption : {caption1, caption2, caption3, caption4, caption5}) {
-        if (caption == nullptr)
-            break;
-        box.items.emplace_back(caption);
-    }
-    return addWithItems(call, parent, std::move(box));
+    return addWithItems(call, parent,
+                        controlOf(ControlKind::RadioBox, {x, y, width, height}, callback), [&] {
+                            return upToNull({caption1, caption2, caption3, caption4, caption5});
+                        });
 }
 
 std::int32_t QuorGUIOptionMenuAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
                                   std::int32_t width, std::int32_t height, const char* captions,
                                   QuorGUIValueCallback callback) {
     GuiCall call("QuorGUIOptionMenuAdd", parent, x, y, width, height, captions, callback);
-    Control menu = controlOf(ControlKind::OptionMenu, {x, y, width, height}, callback);
-    if (captions != nullptr)
-        menu.items = splitAtCommas(captions);
-    return addWithItems(call, parent, std::move(menu));
+    return addWithItems(
+        call, parent, controlOf(ControlKind::OptionMenu, {x, y, width, height}, callback),
+        [&] { return captions != nullptr ? splitAtCommas(captions) : std::vector<std::string>(); });
 }
 
 } // extern "C"

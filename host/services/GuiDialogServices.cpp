@@ -31,24 +31,26 @@ std::int32_t QuorGUIDialogCreateModal(std::int32_t parent, std::int32_t width, s
                                       QuorGUICallback help) {
     GuiCall call("QuorGUIDialogCreateModal", parent, width, height, title, init, ok, apply, cancel,
                  help);
-    if (call.fails() || !isParentOfDialog(call, parent))
-        return call.result(std::int32_t{QuorGUIId_None});
-    if (title == nullptr || width < 1 || height < 1) {
-        call.violate("title is null, or the size is not positive");
-        return call.result(std::int32_t{QuorGUIId_None});
-    }
-    Dialog dialog;
-    dialog.parent = parent;
-    dialog.width = width;
-    dialog.height = height;
-    dialog.title = title;
-    dialog.init = init;
-    dialog.ok = ok;
-    dialog.apply = apply;
-    dialog.cancel = cancel;
-    dialog.help = help;
-    dialog.maker = anyCallback(dialog);
-    return call.result(call.host().toolkit.add(std::move(dialog)));
+    return call.serve(std::int32_t{QuorGUIId_None}, [&]() -> std::int32_t {
+        if (!isParentOfDialog(call, parent))
+            return QuorGUIId_None;
+        if (title == nullptr || width < 1 || height < 1) {
+            call.violate("title is null, or the size is not positive");
+            return QuorGUIId_None;
+        }
+        Dialog dialog;
+        dialog.parent = parent;
+        dialog.width = width;
+        dialog.height = height;
+        dialog.title = title;
+        dialog.init = init;
+        dialog.ok = ok;
+        dialog.apply = apply;
+        dialog.cancel = cancel;
+        dialog.help = help;
+        dialog.maker = anyCallback(dialog);
+        return call.host().toolkit.add(std::move(dialog));
+    });
 }
 
 void QuorGUIDialogLaunch(std::int32_t dialog) {
@@ -61,7 +63,8 @@ void QuorGUIDialogLaunch(std::int32_t dialog) {
         return;
     }
     call.host().faults.endLoadOfDialog();
-    launch(call.host().toolkit, *found, *call.host().user);
+    if (!launch(call.host().toolkit, *found, *call.host().user))
+        call.host().showMessage(MessageKind::Error, "Out of memory.");
 }
 
 void QuorGUIDialogDrop(std::int32_t dialog) {
@@ -95,12 +98,14 @@ std::int32_t QuorGUITabAdd(std::int32_t dialog, std::int32_t x, std::int32_t y, 
 
 std::int32_t QuorGUITabAddPage(std::int32_t tab, const char* caption) {
     GuiCall call("QuorGUITabAddPage", tab, caption);
-    Dialog* found = call.fails() ? nullptr : call.dialogWithTabs(tab);
-    if (found != nullptr && caption == nullptr)
-        call.violate("caption is null");
-    if (found == nullptr || caption == nullptr)
-        return call.result(std::int32_t{QuorGUIId_None});
-    return call.result(call.host().toolkit.addPage(*found->tabs, caption));
+    return call.serve(std::int32_t{QuorGUIId_None}, [&]() -> std::int32_t {
+        Dialog* found = call.dialogWithTabs(tab);
+        if (found != nullptr && caption == nullptr)
+            call.violate("caption is null");
+        if (found == nullptr || caption == nullptr)
+            return QuorGUIId_None;
+        return call.host().toolkit.addPage(*found->tabs, caption);
+    });
 }
 
 } // extern "C"

@@ -1,4 +1,5 @@
 // What text fields show and hold: texts, indices and sets of numbers.
+#include <new>
 #include <string>
 #include <utility>
 
@@ -14,8 +15,17 @@ void show(GuiCall& call, const FoundControl& field, std::string text) {
     call.changed(field);
 }
 
-std::string inQuotes(const std::string& text) {
-    return '"' + text + '"';
+/// For services that tell the user why they fail: so they do for want of memory.
+template <typename Work>
+bool serveOrTell(GuiCall& call, Work work) {
+    return call.serve([&] {
+        try {
+            return work();
+        } catch (const std::bad_alloc&) {
+            call.host().showMessage(MessageKind::Error, "Out of memory.");
+            throw;
+        }
+    });
 }
 
 bool isIndexWithin(const Control& field, std::int64_t minimum, std::int64_t maximum,
@@ -29,11 +39,9 @@ bool isIndexWithin(const Control& field, std::int64_t minimum, std::int64_t maxi
 
 void tellBounds(GuiCall& call, const Control& field, const char* name, std::int64_t minimum,
                 std::int64_t maximum) {
-    call.host().showMessage({MessageKind::Error,
-                             std::string(name) + ": " + inQuotes(field.text) +
-                                 " is not a whole number from " + std::to_string(minimum) + " to " +
-                                 std::to_string(maximum) + ".",
-                             std::nullopt});
+    const std::string text = joined(name, ": \"", field.text, "\" is not a whole number from ",
+                                    minimum, " to ", maximum, ".");
+    call.host().showMessage(MessageKind::Error, text);
 }
 
 /// A null handle becomes a new set; false if the handle is not valid.
@@ -52,8 +60,7 @@ bool readFieldIntoSet(GuiCall& call, const Control& field, QuorSetHandle* set) {
     std::string why;
     std::optional<std::set<std::int64_t>> members = readSet(field.text, why);
     if (!members) {
-        call.host().showMessage(
-            {MessageKind::Error, inQuotes(field.text) + ' ' + why + '.', std::nullopt});
+        call.host().showMessage(MessageKind::Error, joined("\"", field.text, "\" ", why, "."));
         return call.refuse(why);
     }
     return putIntoSet(call, set, *std::move(members));
@@ -69,23 +76,27 @@ void QuorGUITextFieldSetString(std::int32_t textField, const char* text) {
     if (text == nullptr)
         call.violation("text is null");
     else if (field)
-        show(call, field, text);
+        call.tryTo([&] { show(call, field, text); });
 }
 
 char* QuorGUITextFieldGetString(std::int32_t textField) {
     GuiCall call("QuorGUITextFieldGetString", textField);
     const FoundControl field = call.control(textField, ControlKind::TextField);
-    if (call.fails() || !field)
-        return call.result<char*>(nullptr);
-    return call.result(call.host().memory.copyText(call.operation(), field.control->text));
+    return call.serve<char*>(nullptr, [&] {
+        return field ? call.host().memory.copyText(call.operation(), field.control->text) : nullptr;
+    });
 }
 
 void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool zeroIsLast) {
     GuiCall call("QuorGUITextFieldSetLgIndex", textField, value, zeroIsLast);
     if (const FoundControl field = call.control(textField, ControlKind::TextField)) {
-        // A guest may write back what a refused input replaced without saying again what 0 means.
-        field.control->zeroIsLast |= zeroIsLast;
-        show(call, field, indexText(value, field.control->zeroIsLast));
+        call.tryTo([&] {
+            // A guest may write back what a refused input replaced without saying again what 0
+            // means.
+            const bool isLast = zeroIsLast || field.control->zeroIsLast;
+            show(call, field, indexText(value, isLast));
+            field.control->zeroIsLast = isLast;
+        });
     }
 }
 
@@ -99,7 +110,7 @@ bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value) {
     const std::optional<std::int64_t> index =
         readIndex(field.control->text, field.control->zeroIsLast);
     if (!index)
-        return call.result(call.refuse(inQuotes(field.control->text) + " is no index"));
+        return call.result(call.refuse("\"", field.control->text, "\" is no index"));
     *value = *index;
     call.result(true);
     call.out(*value);
@@ -112,12 +123,14 @@ bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, s
     const FoundControl field = call.control(textField, ControlKind::TextField);
     if (name == nullptr)
         return call.result(call.violate("name is null"));
-    if (call.fails() || !field)
-        return call.result(false);
-    const bool isValid = isIndexWithin(*field.control, minimum, maximum, zeroIsLast);
-    if (!isValid)
-        tellBounds(call, *field.control, name, minimum, maximum);
-    return call.result(isValid);
+    return serveOrTell(call, [&] {
+        if (!field)
+            return false;
+        const bool isValid = isIndexWithin(*field.control, minimum, maximum, zeroIsLast);
+        if (!isValid)
+            tellBounds(call, *field.control, name, minimum, maximum);
+        return isValid;
+    });
 }
 
 void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool reserved) {
@@ -128,7 +141,7 @@ void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool rese
     if (!field)
         return;
     const GuestSet* shown = set != nullptr ? call.object(set) : nullptr;
-    show(call, field, shown != nullptr ? setText(shown->members) : "");
+    call.tryTo([&] { show(call, field, shown != nullptr ? setText(shown->members) : ""); });
 }
 
 bool QuorGUITextFieldGetSet(std::int32_t textField, QuorSetHandle* set) {
@@ -136,9 +149,7 @@ bool QuorGUITextFieldGetSet(std::int32_t textField, QuorSetHandle* set) {
     const FoundControl field = call.control(textField, ControlKind::TextField);
     if (set == nullptr)
         return call.result(call.violate("set is null"));
-    if (call.fails() || !field)
-        return call.result(false);
-    return call.result(readFieldIntoSet(call, *field.control, set));
+    return serveOrTell(call, [&] { return field && readFieldIntoSet(call, *field.control, set); });
 }
 
 } // extern "C"

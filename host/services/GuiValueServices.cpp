@@ -13,7 +13,7 @@ void chooseItem(GuiCall& call, std::int32_t id, ControlKind kind, std::int32_t i
     if (!found)
         return;
     if (item < 1 || static_cast<std::size_t>(item) > found.control->items.size()) {
-        call.violation("there is no item " + std::to_string(item));
+        call.violation("there is no item ", item);
         return;
     }
     found.control->value = item;
@@ -68,8 +68,10 @@ void QuorGUIListAppendItem(std::int32_t list, const char* text) {
         call.violation("text is null");
     if (!found || text == nullptr)
         return;
-    found.control->items.emplace_back(text);
-    call.changed(found);
+    call.tryTo([&] {
+        found.control->items.emplace_back(text);
+        call.changed(found);
+    });
 }
 
 void QuorGUIListGetSelectedItems(std::int32_t list, std::int32_t** positions, std::int32_t* count) {
@@ -82,7 +84,7 @@ void QuorGUIListGetSelectedItems(std::int32_t list, std::int32_t** positions, st
     *count = 0;
     const FoundControl found = call.control(list, ControlKind::List);
     if (found && !found.control->selected.empty())
-        *positions = newPositions(call, found.control->selected);
+        call.tryTo([&] { *positions = newPositions(call, found.control->selected); });
     if (*positions != nullptr)
         *count = static_cast<std::int32_t>(found.control->selected.size());
     call.out(*count);

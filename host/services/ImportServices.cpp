@@ -1,6 +1,7 @@
 // Registration of data loaders, and the instructions that repeat a load.
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "services/ArgumentReader.h"
 
@@ -28,8 +29,8 @@ bool registerLoader(Call& call, QuorArgListHandle arguments) {
     if (!reader.ok())
         return false;
     if (version != loaderCallbackVersion)
-        return call.violate("\"LoaderCallbackVersion\" is " + std::to_string(version) + ", not 1");
-    call.host().loaders.push_back(loader);
+        return call.violate("\"LoaderCallbackVersion\" is ", version, ", not 1");
+    call.host().loaders.push_back(std::move(loader));
     return true;
 }
 
@@ -41,11 +42,12 @@ bool takeInstructions(Call& call, const char* loaderName, QuorStringListHandle i
     const GuestStringList* list = instructions != nullptr ? call.object(instructions) : nullptr;
     if (instructions != nullptr && list == nullptr)
         return false;
-    host.log.instructions.clear();
+    std::vector<std::string> texts;
     if (list != nullptr) {
         for (const std::optional<std::string>& text : list->strings)
-            host.log.instructions.push_back(text.value_or(""));
+            texts.push_back(text.value_or(""));
     }
+    host.log.instructions = std::move(texts);
     if (host.settings.refuseInstructions)
         return call.refuse("the host refuses the instructions");
     host.log.instructionsHandedOver = true;
@@ -58,12 +60,12 @@ extern "C" {
 
 bool QuorUtilImportAddLoaderX(QuorArgListHandle arguments) {
     Call call("QuorUtilImportAddLoaderX", arguments);
-    return call.result(!call.fails() && registerLoader(call, arguments));
+    return call.serve([&] { return registerLoader(call, arguments); });
 }
 
 bool QuorUtilImportSetLoaderInstr(const char* loaderName, QuorStringListHandle instructions) {
     Call call("QuorUtilImportSetLoaderInstr", loaderName, instructions);
-    return call.result(!call.fails() && takeInstructions(call, loaderName, instructions));
+    return call.serve([&] { return takeInstructions(call, loaderName, instructions); });
 }
 
 } // extern "C"

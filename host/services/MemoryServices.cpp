@@ -1,5 +1,6 @@
 // Blocks of host memory.
 #include <algorithm>
+#include <string_view>
 
 #include "services/Call.h"
 
@@ -15,22 +16,29 @@ void giveBackBlock(Call& call, const void* address) {
     call.host().transcript.forgetName(address);
 }
 
+std::string_view directoryOf(std::string_view path) {
+    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
+    const auto end = std::find_if(path.rbegin(), path.rend(), isSeparator);
+    return path.substr(0, static_cast<std::size_t>(path.rend() - end));
+}
+
 } // namespace
 
 extern "C" {
 
 char* QuorUtilStringAlloc(std::int64_t byteCount, const char* label) {
     Call call("QuorUtilStringAlloc", byteCount, label);
-    if (call.fails())
-        return call.result<char*>(nullptr);
-    if (byteCount < 0 || label == nullptr) {
-        call.violate("negative size, or no label");
-        return call.result<char*>(nullptr);
-    }
-    char* block = call.host().memory.allocate(call.operation(), byteCount, label);
-    if (block == nullptr)
-        call.refuse("no memory for " + std::to_string(byteCount) + " bytes");
-    return call.result(block);
+    const auto allocate = [&]() -> char* {
+        if (byteCount < 0 || label == nullptr) {
+            call.violate("negative size, or no label");
+            return nullptr;
+        }
+        char* block = call.host().memory.allocate(call.operation(), byteCount, label);
+        if (block == nullptr)
+            call.refuse("no memory for ", byteCount, " bytes");
+        return block;
+    };
+    return call.serve<char*>(nullptr, allocate);
 }
 
 void QuorUtilStringDealloc(char** block) {
@@ -55,18 +63,13 @@ void QuorUtilArrayDealloc(void** array) {
 
 char* QuorUtilGetBasePath(const char* path) {
     Call call("QuorUtilGetBasePath", path);
-    if (call.fails())
-        return call.result<char*>(nullptr);
-    if (path == nullptr) {
-        call.violate("path is null");
-        return call.result<char*>(nullptr);
-    }
-    const std::string_view whole = path;
-    const auto isSeparator = [](char letter) { return letter == '/' || letter == '\\'; };
-    const auto end = std::find_if(whole.rbegin(), whole.rend(), isSeparator);
-    const std::string_view directory =
-        whole.substr(0, static_cast<std::size_t>(whole.rend() - end));
-    return call.result(call.host().memory.copyText(call.operation(), directory));
+    return call.serve<char*>(nullptr, [&]() -> char* {
+        if (path == nullptr) {
+            call.violate("path is null");
+            return nullptr;
+        }
+        return call.host().memory.copyText(call.operation(), directoryOf(path));
+    });
 }
 
 } // extern "C"

@@ -1,28 +1,54 @@
 // Messages, questions, file dialogs, help.
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
 #include "services/Call.h"
 
 using namespace quorvia::host;
 
 namespace {
 
-bool showBox(Call& call, const char* text, std::int32_t kind) {
+// Made ready before the user is asked: an answer must not get lost.
+bool askUser(Call& call, const char* text) {
     HostState& host = call.host();
-    const bool isInformation = kind == QuorMessageBox_Information;
-    const bool isQuestion = kind == QuorMessageBox_OkCancel || kind == QuorMessageBox_YesNo;
-    if (text == nullptr || (!isInformation && !isQuestion))
-        return call.violate("text is null, or there is no box of kind " + std::to_string(kind));
-    if (isInformation) {
-        host.showMessage({MessageKind::Information, text, std::nullopt});
-        return !call.fails();
-    }
-    const bool answer = !call.fails() && host.user->answer(text);
-    host.showMessage({MessageKind::Question, text, answer});
+    const std::string question = text;
+    const bool answer = host.user->answer(question);
+    host.showMessage(MessageKind::Question, question, answer);
     return answer;
 }
 
-// The files that the user picks; none for Cancel.
-std::vector<std::string> chosenFiles(Call& call, const FileRequest& request) {
-    return call.fails() ? std::vector<std::string>() : call.host().user->chooseFiles(request);
+bool showBox(Call& call, const char* text, std::int32_t kind) {
+    const bool isInformation = kind == QuorMessageBox_Information;
+    const bool isQuestion = kind == QuorMessageBox_OkCancel || kind == QuorMessageBox_YesNo;
+    if (text == nullptr || (!isInformation && !isQuestion))
+        return call.violate("text is null, or there is no box of kind ", kind);
+    if (isInformation)
+        call.host().showMessage(MessageKind::Information, text);
+    if (call.fails() && isQuestion)
+        call.host().showMessage(MessageKind::Question, text, false);
+    return call.withinMemory(false, [&] { return isInformation || askUser(call, text); });
+}
+
+/// The user's one file; null for Cancel.
+char* chooseFile(Call& call, const FileRequest& request, std::string& chosen) {
+    std::vector<std::string> choice = call.host().user->chooseFiles(request);
+    if (choice.empty())
+        return nullptr;
+    chosen = std::move(choice.front());
+    return call.host().memory.copyText(call.operation(), chosen);
+}
+
+QuorStringListHandle chooseFiles(Call& call, const FileRequest& request) {
+    std::vector<std::string> choice = call.host().user->chooseFiles(request);
+    if (choice.empty())
+        return nullptr;
+    GuestStringList list;
+    list.strings.assign(std::make_move_iterator(choice.begin()),
+                        std::make_move_iterator(choice.end()));
+    return call.host().handles.of(QuorStringListHandle{}).add(call.operation(), std::move(list));
 }
 
 } // namespace
@@ -34,7 +60,7 @@ void QuorUtilDialogErrMsg(const char* text) {
     if (text == nullptr)
         call.violation("text is null");
     else
-        call.host().showMessage({MessageKind::Error, text, std::nullopt});
+        call.host().showMessage(MessageKind::Error, text);
 }
 
 bool QuorUtilDialogMessageBox(const char* text, std::int32_t kind) {
@@ -45,9 +71,8 @@ bool QuorUtilDialogMessageBox(const char* text, std::int32_t kind) {
 void QuorUtilPostLastErrorMessage() {
     Call call("QuorUtilPostLastErrorMessage");
     const std::string& lastError = call.host().lastError;
-    call.host().showMessage({MessageKind::Error,
-                             lastError.empty() ? "The host has no error to show." : lastError,
-                             std::nullopt});
+    call.host().showMessage(MessageKind::Error, lastError.empty() ? "The host has no error to show."
+                                                                  : std::string_view(lastError));
 }
 
 bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char* typeWord,
@@ -56,13 +81,14 @@ bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char*
     if (name == nullptr || dialogKind != 0 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *name = nullptr;
-    const std::vector<std::string> choice =
-        chosenFiles(call, {false, typeWord, defaultName != nullptr ? defaultName : "", filter});
-    if (choice.empty())
-        return call.result(false);
-    *name = call.host().memory.copyText(call.operation(), choice.front());
+    std::string chosen;
+    *name = call.withinMemory<char*>(nullptr, [&] {
+        const char* proposed = defaultName != nullptr ? defaultName : "";
+        return chooseFile(call, {false, typeWord, proposed, filter}, chosen);
+    });
     call.result(*name != nullptr);
-    call.out(choice.front());
+    if (*name != nullptr)
+        call.out(chosen);
     return *name != nullptr;
 }
 
@@ -73,15 +99,13 @@ bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* n
     if (names == nullptr || dialogKind != 1 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *names = nullptr;
-    const std::vector<std::string> choice = chosenFiles(call, {true, typeWord, "", filter});
-    if (choice.empty())
-        return call.result(false);
-    GuestStringList list;
-    list.strings.assign(choice.begin(), choice.end());
-    *names = call.host().handles.of(*names).add(call.operation(), std::move(list));
-    call.result(true);
-    call.out(*names);
-    return true;
+    *names = call.withinMemory(QuorStringListHandle{}, [&] {
+        return chooseFiles(call, {true, typeWord, "", filter});
+    });
+    call.result(*names != nullptr);
+    if (*names != nullptr)
+        call.out(*names);
+    return *names != nullptr;
 }
 
 void QuorUtilHelp(const char* target, bool goToId, std::int32_t id) {
@@ -89,8 +113,8 @@ void QuorUtilHelp(const char* target, bool goToId, std::int32_t id) {
     if (target == nullptr || goToId || id != 0)
         call.violation("target is null, or the other arguments are not false and 0");
     else {
-        call.host().log.helpTargets.emplace_back(target);
-        call.host().user->showHelp(target);
+        call.host().log.addHelpTarget(target);
+        call.tryTo([&] { call.host().user->showHelp(target); });
     }
 }
 

@@ -14,7 +14,7 @@ std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::siz
                                     [](std::int32_t type) { return valueWidth(type) == 0; });
     if (wrong == types.end())
         return types;
-    call.violate("\"VarDataType\" holds " + std::to_string(*wrong) + ", which is no field type");
+    call.violate("\"VarDataType\" holds ", *wrong, ", which is no field type");
     return {};
 }
 

@@ -1,17 +1,13 @@
 #include "services/ProgressBar.h"
 
 #include <algorithm>
+#include <new>
 
 #include "state/HostState.h"
 
 namespace quorvia::host {
 
-std::shared_ptr<TaskNode> TaskNode::addSubTask(std::int64_t weight) {
-    subTasks_.push_back(std::make_shared<TaskNode>(this, weight));
-    return subTasks_.back();
-}
-
-void TaskNode::end() {
+void TaskNode::end() noexcept {
     for (const std::shared_ptr<TaskNode>& subTask : subTasks_)
         subTask->parent_ = nullptr;
     if (parent_ == nullptr)
@@ -42,33 +38,45 @@ double TaskNode::fraction() const {
     return whole > 0.0 ? done / whole : 0.0;
 }
 
-ProgressBar::ProgressBar(std::int64_t steps) {
-    top_->setStepCount(steps);
-    ++hostState().openProgressBars;
+void ProgressBar::open() noexcept {
+    shown_.open = true;
+    isInner_ = hostState().openProgressBars++ > 0;
 }
 
 ProgressBar::~ProgressBar() {
+    if (!shown_.open)
+        return;
     --hostState().openProgressBars;
-    tell(false);
+    shown_.open = false;
+    tell();
 }
 
-void ProgressBar::showText(const std::string& text) {
-    text_ = text;
+void ProgressBar::makeRoomFor(const std::string& text) {
+    shown_.text.reserve(text.size());
+    hostState().log.progress.makeRoomFor(text);
+}
+
+void ProgressBar::showText(const std::string& text) noexcept {
+    shown_.text = text;
     hostState().log.progress.add(text);
     showFraction();
 }
 
-void ProgressBar::showFraction() {
-    if (!hostState().settings.progressObserver)
+void ProgressBar::showFraction() noexcept {
+    if (!hostState().settings.progressObserver || isInner_)
         return;
-    shown_ = std::max(shown_, top_->fraction());
-    tell(true);
+    shown_.fraction = std::max(shown_.fraction, top_->fraction());
+    tell();
 }
 
-void ProgressBar::tell(bool isOpen) {
+void ProgressBar::tell() noexcept {
     const auto& observer = hostState().settings.progressObserver;
-    if (observer)
-        observer({shown_, text_, isOpen});
+    try {
+        if (observer && !isInner_)
+            observer(shown_);
+    } catch (const std::bad_alloc&) {
+        ++hostState().log.lostEntries;
+    }
 }
 
 } // namespace quorvia::host

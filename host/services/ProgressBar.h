@@ -5,7 +5,11 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "model/Room.h"
+#include "state/HostSettings.h"
 
 namespace quorvia::host {
 
@@ -14,11 +18,16 @@ class TaskNode {
 public:
     TaskNode(TaskNode* parent, std::int64_t weight) : parent_(parent), weight_(weight) {}
 
-    std::shared_ptr<TaskNode> addSubTask(std::int64_t weight);
+    /// So that the next sub-task can be added without memory. Throws std::bad_alloc.
+    void makeRoomForSubTask() { makeRoom(subTasks_); }
+    /// `subTask` was made with this task as its parent; there must be room.
+    void addSubTask(std::shared_ptr<TaskNode> subTask) noexcept {
+        subTasks_.push_back(std::move(subTask));
+    }
     void setStepCount(std::int64_t steps) { stepCount_ = steps; }
     void countStep() { ++steps_; }
     /// The task has ended: it fills its share of the parent.
-    void end();
+    void end() noexcept;
 
     bool hasRunningSubTasks() const { return !subTasks_.empty(); }
     TaskNode* parent() const { return parent_; }
@@ -36,25 +45,34 @@ private:
     std::vector<std::shared_ptr<TaskNode>> subTasks_; // those that still run
 };
 
-/// One bar on the user's screen.
+/// One bar on the user's screen, from `open` on. A bar that is opened while another stands, as that
+/// of a field which a load makes the host fetch, counts and is not shown.
 class ProgressBar {
 public:
-    explicit ProgressBar(std::int64_t steps);
+    explicit ProgressBar(std::int64_t steps) {
+        shown_.open = false;
+        top_->setStepCount(steps);
+    }
     ~ProgressBar();
     ProgressBar(const ProgressBar&) = delete;
     ProgressBar& operator=(const ProgressBar&) = delete;
 
     const std::shared_ptr<TaskNode>& top() const { return top_; }
-    void showText(const std::string& text);
+    void open() noexcept;
+    /// So that the text can be shown without memory. Throws std::bad_alloc.
+    void makeRoomFor(const std::string& text);
+    /// There must be room.
+    void showText(const std::string& text) noexcept;
     /// Tells the observer how far the bar is.
-    void showFraction();
+    void showFraction() noexcept;
 
 private:
-    void tell(bool isOpen);
+    void tell() noexcept;
 
+    bool isInner_ = false;
     std::shared_ptr<TaskNode> top_ = std::make_shared<TaskNode>(nullptr, 0);
-    std::string text_;
-    double shown_ = 0.0; // the bar never goes back, even when a task gets more to do
+    // What the observer sees. The fraction never goes back, even when a task gets more to do.
+    ProgressState shown_;
 };
 
 } // namespace quorvia::host

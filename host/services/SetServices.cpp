@@ -15,9 +15,9 @@ bool addMember(Call& call, QuorSetHandle set, std::int64_t member) {
         return false;
     // No breach of the contract: numbers out of a file or from a user may come here.
     if (member < 1 || member > largestMember)
-        return call.refuse(std::to_string(member) + " can't be a member of a set");
+        return call.refuse(member, " can't be a member of a set");
     if (found->members.size() >= mostMembers)
-        return call.refuse("a set has no more than " + std::to_string(mostMembers) + " members");
+        return call.refuse("a set has no more than ", mostMembers, " members");
     found->members.insert(found->members.end(), member); // most guests add in ascending order
     return true;
 }
@@ -28,9 +28,9 @@ extern "C" {
 
 QuorSetHandle QuorUtilSetAlloc(bool showErrors) {
     Call call("QuorUtilSetAlloc", showErrors);
-    if (call.fails())
-        return call.result(QuorSetHandle{});
-    return call.result(call.host().handles.of(QuorSetHandle{}).add(call.operation(), GuestSet{}));
+    return call.serve(QuorSetHandle{}, [&] {
+        return call.host().handles.of(QuorSetHandle{}).add(call.operation(), {});
+    });
 }
 
 void QuorUtilSetDealloc(QuorSetHandle* set) {
@@ -40,7 +40,7 @@ void QuorUtilSetDealloc(QuorSetHandle* set) {
 
 bool QuorUtilSetAddMember(QuorSetHandle set, std::int64_t member, bool showErrors) {
     Call call("QuorUtilSetAddMember", set, member, showErrors);
-    return call.result(!call.fails() && addMember(call, set, member));
+    return call.serve([&] { return addMember(call, set, member); });
 }
 
 void QuorUtilSetRemoveMember(QuorSetHandle set, std::int64_t member) {

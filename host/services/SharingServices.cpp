@@ -70,19 +70,19 @@ bool QuorUtilDataValueIsSharingOk(std::int32_t sourceZone, std::int32_t zone, st
 bool QuorUtilDataValueShare(std::int32_t sourceZone, std::int32_t destinationZone,
                             std::int32_t var) {
     Call call("QuorUtilDataValueShare", sourceZone, destinationZone, var);
-    if (call.fails())
-        return call.result(false);
-    const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
-    return call.result(pair.source != nullptr && share(call, pair));
+    return call.serve([&] {
+        const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
+        return pair.source != nullptr && share(call, pair);
+    });
 }
 
 bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone,
                            std::int32_t var) {
     Call call("QuorUtilDataValueCopy", sourceZone, destinationZone, var);
-    if (call.fails())
-        return call.result(false);
-    const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
-    return call.result(pair.source != nullptr && copy(call, pair));
+    return call.serve([&] {
+        const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
+        return pair.source != nullptr && copy(call, pair);
+    });
 }
 
 } // extern "C"

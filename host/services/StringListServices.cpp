@@ -1,4 +1,5 @@
 // Lists of strings.
+#include "model/Room.h"
 #include "services/Call.h"
 
 using namespace quorvia::host;
@@ -7,6 +8,20 @@ namespace {
 
 // A list that a guest could grow to this length only by mistake.
 constexpr std::int64_t longestList = 2147483647;
+
+/// Null for one that was never set, and, with a violation, for one that is not in the list.
+const std::string* textAt(Call& call, QuorStringListHandle list, std::int64_t index) {
+    const GuestStringList* found = call.object(list);
+    if (found == nullptr)
+        return nullptr;
+    const std::size_t count = found->strings.size();
+    if (index < 1 || index > static_cast<std::int64_t>(count)) {
+        call.violate("there is no string ", index, " in a list of ", count);
+        return nullptr;
+    }
+    const std::optional<std::string>& text = found->strings[static_cast<std::size_t>(index - 1)];
+    return text.has_value() ? &*text : nullptr;
+}
 
 bool appendText(Call& call, QuorStringListHandle list, const char* text) {
     GuestStringList* target = call.object(list);
@@ -25,11 +40,12 @@ bool setText(Call& call, QuorStringListHandle list, std::int64_t index, const ch
     if (text == nullptr)
         return call.violate("text is null");
     if (index < 1 || index > longestList)
-        return call.violate("there is no string " + std::to_string(index));
+        return call.violate("there is no string ", index);
+    std::string copy = text;
     const auto position = static_cast<std::size_t>(index - 1);
     if (position >= target->strings.size())
         target->strings.resize(position + 1);
-    target->strings[position] = text;
+    target->strings[position] = std::move(copy);
     return true;
 }
 
@@ -38,8 +54,10 @@ bool appendList(Call& call, QuorStringListHandle list, QuorStringListHandle othe
     const GuestStringList* source = call.object(other);
     if (target == nullptr || source == nullptr)
         return false;
-    const std::vector<std::optional<std::string>> copies = source->strings; // may be the same list
-    target->strings.insert(target->strings.end(), copies.begin(), copies.end());
+    std::vector<std::optional<std::string>> copies = source->strings; // may be the same list
+    makeRoom(target->strings, copies.size());
+    for (std::optional<std::string>& copy : copies)
+        target->strings.push_back(std::move(copy));
     return true;
 }
 
@@ -49,10 +67,9 @@ extern "C" {
 
 QuorStringListHandle QuorUtilStringListAlloc() {
     Call call("QuorUtilStringListAlloc");
-    if (call.fails())
-        return call.result(QuorStringListHandle{});
-    return call.result(
-        call.host().handles.of(QuorStringListHandle{}).add(call.operation(), GuestStringList{}));
+    return call.serve(QuorStringListHandle{}, [&] {
+        return call.host().handles.of(QuorStringListHandle{}).add(call.operation(), {});
+    });
 }
 
 void QuorUtilStringListDealloc(QuorStringListHandle* list) {
@@ -77,38 +94,29 @@ std::int64_t QuorUtilStringListGetCount(QuorStringListHandle list) {
 
 char* QuorUtilStringListGetString(QuorStringListHandle list, std::int64_t index) {
     Call call("QuorUtilStringListGetString", list, index);
-    if (call.fails())
-        return call.result<char*>(nullptr);
-    const GuestStringList* found = call.object(list);
-    if (found == nullptr)
-        return call.result<char*>(nullptr);
-    if (index < 1 || index > static_cast<std::int64_t>(found->strings.size())) {
-        call.violate("there is no string " + std::to_string(index) + " in a list of " +
-                     std::to_string(found->strings.size()));
-        return call.result<char*>(nullptr);
-    }
-    const std::optional<std::string>& text = found->strings[static_cast<std::size_t>(index - 1)];
-    if (!text.has_value())
-        return call.result<char*>(nullptr);
-    char* copy = call.host().memory.copyText(call.operation(), *text);
-    call.result(copy);
-    call.out(*text);
+    const std::string* text = nullptr;
+    char* copy = call.serve<char*>(nullptr, [&]() -> char* {
+        text = textAt(call, list, index);
+        return text != nullptr ? call.host().memory.copyText(call.operation(), *text) : nullptr;
+    });
+    if (text != nullptr)
+        call.out(*text);
     return copy;
 }
 
 bool QuorUtilStringListSetString(QuorStringListHandle list, std::int64_t index, const char* text) {
     Call call("QuorUtilStringListSetString", list, index, text);
-    return call.result(!call.fails() && setText(call, list, index, text));
+    return call.serve([&] { return setText(call, list, index, text); });
 }
 
 bool QuorUtilStringListAppendString(QuorStringListHandle list, const char* text) {
     Call call("QuorUtilStringListAppendString", list, text);
-    return call.result(!call.fails() && appendText(call, list, text));
+    return call.serve([&] { return appendText(call, list, text); });
 }
 
 bool QuorUtilStringListAppend(QuorStringListHandle list, QuorStringListHandle other) {
     Call call("QuorUtilStringListAppend", list, other);
-    return call.result(!call.fails() && appendList(call, list, other));
+    return call.serve([&] { return appendList(call, list, other); });
 }
 
 } // extern "C"

@@ -30,7 +30,10 @@ public:
         Call call("TaskProgress::createSubTask", self(), weight);
         if (weight < 0)
             call.violation("negative weight");
-        auto created = std::make_unique<HostTask>(bar_, node_->addSubTask(weight > 0 ? weight : 0));
+        node_->makeRoomForSubTask();
+        auto node = std::make_shared<host::TaskNode>(node_.get(), weight > 0 ? weight : 0);
+        auto created = std::make_unique<HostTask>(bar_, node);
+        node_->addSubTask(std::move(node));
         call.out(created->self());
         subTask = std::move(created);
         return subTask;
@@ -45,7 +48,10 @@ public:
 
     bool setMessage(const std::string& text) override {
         Call call("TaskProgress::setMessage", self(), text);
-        bar_->showText(text);
+        call.tryTo([&] {
+            bar_->makeRoomFor(text);
+            bar_->showText(text);
+        });
         return call.result(mayGoOn(call));
     }
 
@@ -58,8 +64,11 @@ public:
 
     bool stepWithMessage(const std::string& text) override {
         Call call("TaskProgress::stepWithMessage", self(), text);
-        node_->countStep();
-        bar_->showText(text);
+        call.tryTo([&] {
+            bar_->makeRoomFor(text);
+            node_->countStep();
+            bar_->showText(text);
+        });
         return call.result(mayGoOn(call));
     }
 
@@ -84,8 +93,8 @@ std::unique_ptr<TaskProgress> createTaskProgressBar(std::int64_t steps) {
     if (call.fails())
         throw std::bad_alloc();
     auto bar = std::make_shared<host::ProgressBar>(steps);
-    const std::shared_ptr<host::TaskNode> top = bar->top();
-    auto task = std::make_unique<HostTask>(std::move(bar), top);
+    auto task = std::make_unique<HostTask>(bar, bar->top());
+    bar->open();
     call.out(task->self());
     return task;
 }

@@ -60,13 +60,15 @@ std::int32_t QuorUtilZoneGetType(std::int32_t zone) {
 
 bool QuorUtilZoneRename(std::int32_t zone, const char* name) {
     Call call("QuorUtilZoneRename", zone, name);
-    Zone* found = call.fails() ? nullptr : call.zone(zone);
-    if (found == nullptr)
-        return call.result(false);
-    if (name == nullptr)
-        return call.result(call.violate("name is null"));
-    found->name = name;
-    return call.result(true);
+    return call.serve([&] {
+        Zone* found = call.zone(zone);
+        if (found == nullptr)
+            return false;
+        if (name == nullptr)
+            return call.violate("name is null");
+        found->name = std::string(name);
+        return true;
+    });
 }
 
 std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone) {
@@ -81,7 +83,7 @@ void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand) {
     if (found == nullptr)
         return;
     if (strand < 0)
-        call.violation("there is no strand " + std::to_string(strand));
+        call.violation("there is no strand ", strand);
     else
         found->strandId = strand;
 }
@@ -93,7 +95,7 @@ bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime) {
         return call.result(false);
     Zone* found = data->zone(zone);
     if (found == nullptr) // not blamed: a loader may number on over grids that have no zone
-        return call.result(call.refuse("there is no zone " + std::to_string(zone)));
+        return call.result(call.refuse("there is no zone ", zone));
     found->solutionTime = solutionTime;
     call.host().solutionTimesChanged = true;
     call.host().tellSolutionTimes();
@@ -129,24 +131,27 @@ bool QuorUtilVarGetName(std::int32_t var, char** name) {
     if (name == nullptr)
         return call.result(call.violate("reference is null"));
     *name = nullptr;
-    const Variable* found = call.fails() ? nullptr : call.variable(var);
-    if (found == nullptr)
-        return call.result(false);
-    *name = call.host().memory.copyText(call.operation(), found->name);
+    const Variable* found = nullptr;
+    *name = call.withinMemory<char*>(nullptr, [&]() -> char* {
+        found = call.variable(var);
+        return found != nullptr ? call.host().memory.copyText(call.operation(), found->name)
+                                : nullptr;
+    });
     call.result(*name != nullptr);
-    call.out(found->name);
+    if (found != nullptr)
+        call.out(found->name);
     return *name != nullptr;
 }
 
 void QuorUtilZoneStyleApplyAuto(QuorSetHandle zones) {
     Call call("QuorUtilZoneStyleApplyAuto", zones);
     if (const GuestSet* set = call.object(zones))
-        call.host().log.autoStyledZones.emplace_back(set->members.begin(), set->members.end());
+        call.host().log.addAutoStyled(set->members);
 }
 
 bool QuorUtilExtractTimesFromFileNames(QuorStringListHandle names, double* times, bool showErrors) {
     Call call("QuorUtilExtractTimesFromFileNames", names, showErrors);
-    return call.result(!call.fails() && extractTimes(call, names, times));
+    return call.serve([&] { return extractTimes(call, names, times); });
 }
 
 } // extern "C"

@@ -1,10 +1,14 @@
 #include "session/AddOnLibrary.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <new>
+#include <utility>
 #include <vector>
 
 #include <dlfcn.h>
 
+#include "model/Room.h"
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
 
@@ -36,14 +40,29 @@ bool comesFrom(const FieldStorage* storage, const void* library) {
            libraryOf(storage->deferral()->code()) == library;
 }
 
-void emptyFieldsOf(const DataSet* data, const void* library) {
+std::size_t countFieldsOf(const DataSet& data, const void* library) {
+    std::ptrdiff_t count = 0;
+    for (const std::unique_ptr<Zone>& zone : data.zones())
+        count += std::count_if(zone->fields.begin(), zone->fields.end(), [&](const Field& field) {
+            return comesFrom(field.storage.get(), library);
+        });
+    return static_cast<std::size_t>(count);
+}
+
+// The clean-up of a field finds all fields empty, if there is memory to keep them until then, and
+// else some that come later.
+void emptyFieldsOf(const DataSet* data, const void* library) noexcept {
     if (data == nullptr)
         return;
-    std::vector<std::shared_ptr<FieldStorage>> ended; // their clean-up finds all fields empty
+    std::vector<std::shared_ptr<FieldStorage>> ended;
+    makeRoomIfPossible(ended, countFieldsOf(*data, library));
     for (const std::unique_ptr<Zone>& zone : data->zones()) {
         for (Field& field : zone->fields) {
-            if (comesFrom(field.storage.get(), library))
-                ended.push_back(std::move(field.storage));
+            if (!comesFrom(field.storage.get(), library))
+                continue;
+            std::shared_ptr<FieldStorage> last = std::move(field.storage);
+            if (hasRoom(ended))
+                ended.push_back(std::move(last));
         }
     }
 }
@@ -69,23 +88,26 @@ void forgetCallbacksOf(HostState& host, const void* library) {
 
 std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::string& error) {
     HostState& host = hostState();
-    const std::int64_t serial = host.serials.last();
+    std::unique_ptr<AddOnLibrary> library(new AddOnLibrary(nullptr, host.serials.last()));
     dlerror();
-    void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle == nullptr) {
+    library->handle_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (library->handle_ == nullptr) {
         error = "The add-on can't be loaded: " + lastLinkError();
         return nullptr;
     }
-    std::unique_ptr<AddOnLibrary> library(new AddOnLibrary(handle, serial));
-    void* entry = dlsym(handle, entryName);
+    void* entry = dlsym(library->handle_, entryName);
     if (entry == nullptr) {
         error = "The library " + path + " is no add-on: it does not export " + entryName + ".";
         return nullptr;
     }
+    GuestWatch watch(host);
     try {
-        GuestWatch watch(host);
         reinterpret_cast<Entry>(entry)();
         watch.checkBalances();
+    } catch (const std::bad_alloc&) {
+        watch.checkBalances();
+        error = "Out of memory.";
+        return nullptr;
     } catch (...) {
         error = "The entry of the add-on " + path + " has thrown an exception.";
         return nullptr;

@@ -3,6 +3,7 @@
 #include <exception>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
@@ -31,25 +32,58 @@ private:
     QuorStringListHandle handle_ = nullptr;
 };
 
-// Runs a loader's callback on a borrowed list and watches it. Running out of memory is the one
-// exception that a loader may let through.
+/// The same with the exception's own words, if there is memory for them.
+void tellWhat(std::string& error, const std::exception& exception) {
+    try {
+        error = joined("The add-on has thrown an exception: ", exception.what());
+    } catch (const std::bad_alloc&) { // it is told as it is
+    }
+}
+
+// Running out of memory is the one exception that a loader may let through.
+template <typename Callback>
+bool callLoader(HostState& host, Callback callback, std::string& error) {
+    // In words before it happens: afterwards there may be no memory for them.
+    std::string memoryRanOut = "The add-on ran out of memory.";
+    std::string somethingWasThrown = "The add-on has thrown an exception.";
+    try {
+        return callback();
+    } catch (const std::bad_alloc&) {
+        error = std::move(memoryRanOut);
+    } catch (const std::exception& exception) {
+        host.addViolation("The add-on has thrown an exception: ", exception.what());
+        error = std::move(somethingWasThrown);
+        tellWhat(error, exception);
+    } catch (...) {
+        host.addViolation(somethingWasThrown);
+        error = std::move(somethingWasThrown);
+    }
+    return false;
+}
+
+/// Whether instructions were handed over is asked of one import; then of all again.
+class HandOverWatch {
+public:
+    explicit HandOverWatch(HostLog& log)
+        : log_(log), before_(std::exchange(log.instructionsHandedOver, false)) {}
+    ~HandOverWatch() { log_.instructionsHandedOver |= before_; }
+    HandOverWatch(const HandOverWatch&) = delete;
+    HandOverWatch& operator=(const HandOverWatch&) = delete;
+
+private:
+    HostLog& log_;
+    bool before_;
+};
+
+// Runs a loader's callback on a borrowed list and watches it.
 template <typename Callback>
 LoadResult runLoader(HostState& host, const std::vector<std::string>& texts, Callback callback) {
     LoadResult result;
+    const BorrowedList list(host, texts);
     host.faults.restartSteps();
     GuestWatch watch(host);
-    try {
-        const BorrowedList list(host, texts);
-        result.ok = callback(list.get());
-    } catch (const std::bad_alloc&) {
-        result.hostError = "The add-on ran out of memory.";
-    } catch (const std::exception& exception) {
-        result.hostError = std::string("The add-on has thrown an exception: ") + exception.what();
-        host.addViolation(result.hostError);
-    } catch (...) {
-        result.hostError = "The add-on has thrown an exception.";
-        host.addViolation(result.hostError);
-    }
+    result.ok = callLoader(
+        host, [&] { return callback(list.get()); }, result.hostError);
     watch.finish();
     result.interrupted =
         host.faults.isInterrupted() || (!result.ok && host.faults.wasInterrupted());
@@ -69,7 +103,7 @@ LoadResult runSelection(HostState& host, const std::vector<std::string>& files, 
                         bool append) {
     if (host.loaders.empty())
         return notRun("No data loader is registered.");
-    const Loader loader = host.loaders.back();
+    const Loader& loader = host.loaders.back();
     if (files.size() > 1 && !loader.allowsSeveralFiles)
         return notRun("The loader \"" + loader.name + "\" takes one file at a time.");
     if (advanced && !loader.allowsAdvancedOptions)
@@ -77,22 +111,19 @@ LoadResult runSelection(HostState& host, const std::vector<std::string>& files, 
     if (append && !loader.allowsAppending)
         return notRun("The loader \"" + loader.name + "\" can't append.");
 
-    const bool handedOverBefore = host.log.instructionsHandedOver;
-    host.log.instructionsHandedOver = false;
-    LoadResult result = runLoader(host, files, [&](QuorStringListHandle list) {
-        loader.select(list, advanced, append);
+    const QuorLoaderSelectedCallback select = loader.select; // the guest may register another
+    const HandOverWatch watch(host.log);
+    return runLoader(host, files, [&](QuorStringListHandle list) {
+        select(list, advanced, append);
         return host.log.instructionsHandedOver;
     });
-    host.log.instructionsHandedOver |= handedOverBefore;
-    return result;
 }
 
 LoadResult runInstructions(HostState& host, const std::vector<std::string>& instructions) {
     if (host.loaders.empty())
         return notRun("No data loader is registered.");
-    const Loader loader = host.loaders.back();
-    return runLoader(host, instructions,
-                     [&](QuorStringListHandle list) { return loader.load(list); });
+    const QuorLoaderCallback load = host.loaders.back().load;
+    return runLoader(host, instructions, load);
 }
 
 } // namespace quorvia::host

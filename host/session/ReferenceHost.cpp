@@ -1,5 +1,6 @@
 #include "session/ReferenceHost.h"
 
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -10,6 +11,8 @@
 namespace quorvia::host {
 
 namespace {
+
+constexpr const char* outOfMemory = "Out of memory."; // so short a text needs none
 
 OperationId operationNamed(std::string_view name) {
     const std::optional<std::size_t> index = findOperation(name);
@@ -36,6 +39,30 @@ std::string joinedErrors(const std::vector<Message>& messages, std::size_t first
     return joined;
 }
 
+std::string whyNotFetched(const std::vector<Message>& messages, std::size_t first,
+                          bool isInterrupted) {
+    try {
+        std::string errors = joinedErrors(messages, first);
+        if (!errors.empty())
+            return errors;
+        return isInterrupted ? "The fetch was interrupted." : "The values could not be read.";
+    } catch (const std::bad_alloc&) {
+        return outOfMemory;
+    }
+}
+
+/// What the import gives; a loader's want of memory is told by the import itself.
+template <typename Run>
+LoadResult import(Run run) {
+    try {
+        return run();
+    } catch (const std::bad_alloc&) {
+        LoadResult result;
+        result.hostError = outOfMemory;
+        return result;
+    }
+}
+
 } // namespace
 
 // Never destroyed, like the host itself: guests that are linked in may still give things back after
@@ -57,7 +84,7 @@ void ReferenceHost::reset() {
     host.frame.startAnew();
     host.cache.dropAll();
     host.settings = {};
-    host.log = {};
+    host.log = HostLog();
     host.faults.clear();
     host.transcript.turnOn(false);
     host.entryLockDepth = 0;
@@ -72,7 +99,7 @@ void ReferenceHost::reset() {
 }
 
 void ReferenceHost::clearLog() {
-    state_.log = {};
+    state_.log = HostLog();
 }
 
 HostSettings& ReferenceHost::settings() {
@@ -80,6 +107,7 @@ HostSettings& ReferenceHost::settings() {
 }
 
 const HostLog& ReferenceHost::log() const {
+    state_.tellLosses();
     return state_.log;
 }
 
@@ -108,11 +136,11 @@ std::vector<std::string> ReferenceHost::loaderNames() const {
 
 LoadResult ReferenceHost::importSelection(const std::vector<std::string>& files, bool advanced,
                                           bool append) {
-    return runSelection(state_, files, advanced, append);
+    return import([&] { return runSelection(state_, files, advanced, append); });
 }
 
 LoadResult ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
-    return runInstructions(state_, instructions);
+    return import([&] { return runInstructions(state_, instructions); });
 }
 
 void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
@@ -155,9 +183,7 @@ FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
     const std::size_t messagesBefore = state_.log.messages.size();
     result.ok = state_.fetch(*storage);
     if (!result.ok) {
-        result.error = joinedErrors(state_.log.messages, messagesBefore);
-        if (result.error.empty())
-            result.error = "The values could not be read.";
+        result.error = whyNotFetched(state_.log.messages, messagesBefore, interruptRequested());
         return result;
     }
     result.values = storage->values();
@@ -177,9 +203,7 @@ void ReferenceHost::unloadAll() {
 }
 
 void ReferenceHost::sendStateChange(std::int32_t code) {
-    const std::vector<QuorStateChangeCallback> callbacks = state_.stateChangeCallbacks;
-    for (const QuorStateChangeCallback callback : callbacks)
-        callback(code);
+    state_.callStateChangeCallbacks(code);
 }
 
 void ReferenceHost::failCall(std::string_view operation, std::int64_t n) {

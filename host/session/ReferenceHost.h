@@ -26,7 +26,7 @@ struct HostState;
 struct LoadResult {
     bool ok = false; // of a selection: instructions were handed over and taken in this import
     bool interrupted = false; // by the user, or by interruptAtStep
-    std::string hostError;    // what stopped the host itself; empty if nothing did
+    std::string hostError;    // what stopped the host itself, want of memory too; empty for nothing
 };
 
 /// The values of one field.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -12,8 +13,8 @@ namespace quorvia::host {
 namespace {
 
 // What the user typed into a dialog is the guest's to keep, as the dialog is: until the host ends.
-bool isReadFromField(const Held& held) {
-    return held.origin.name() == "QuorGUITextFieldGetSet";
+bool isReadFromField(OperationId origin) {
+    return origin.name() == "QuorGUITextFieldGetSet";
 }
 
 } // namespace
@@ -32,15 +33,24 @@ GuestWatch GuestWatch::sinceRest(HostState& host, std::int64_t serial) {
     return GuestWatch(host, {serial, 0, 0, 0, 0, 0, 0, 0});
 }
 
-void GuestWatch::finish() {
+void GuestWatch::finish() noexcept {
     if (host_.handles.heldCount() > before_.handles)
-        reportHandles();
+        report(&GuestWatch::reportHandles);
     if (host_.memory.count() > before_.blocks)
-        reportBlocks();
+        report(&GuestWatch::reportBlocks);
     checkBalances();
 }
 
-void GuestWatch::checkBalances() {
+// Nothing is allocated before there is something to blame.
+void GuestWatch::report(void (GuestWatch::*reportThem)()) noexcept {
+    try {
+        (this->*reportThem)();
+    } catch (const std::bad_alloc&) {
+        ++host_.log.lostViolations;
+    }
+}
+
+void GuestWatch::checkBalances() noexcept {
     checkBalance(host_.entryLockDepth, before_.entryLocks, "QuorUtilLockOn: lock");
     checkBalance(host_.guestLockDepth, before_.guestLocks, "QuorUtilLockStart: lock");
     checkBalance(host_.openUndoStates, before_.undoStates, "QuorUtilUndoStateBegin: undo state");
@@ -51,12 +61,12 @@ void GuestWatch::checkBalances() {
 
 void GuestWatch::reportHandles() {
     std::map<std::string, int> countsByOrigin;
-    for (const Held& held : host_.handles.heldSince(before_.serial)) {
-        if (!isReadFromField(held))
-            ++countsByOrigin[std::string(held.origin.name())];
-    }
+    host_.handles.tellHeldSince(before_.serial, [&countsByOrigin](OperationId origin) {
+        if (!isReadFromField(origin))
+            ++countsByOrigin[std::string(origin.name())];
+    });
     for (const auto& [origin, count] : countsByOrigin)
-        host_.addViolation(origin + ": " + std::to_string(count) + " not given back");
+        host_.addViolation(origin, ": ", count, " not given back");
 }
 
 void GuestWatch::reportBlocks() {
@@ -75,9 +85,8 @@ void GuestWatch::reportBlocks() {
         sum.bytes += held.byteCount;
     }
     for (const auto& [source, sum] : sums)
-        host_.addViolation(source.first + ": " + std::to_string(sum.count) +
-                           " not given back, labelled \"" + source.second + "\" (" +
-                           std::to_string(sum.bytes) + " bytes)");
+        host_.addViolation(source.first, ": ", sum.count, " not given back, labelled \"",
+                           source.second, "\" (", sum.bytes, " bytes)");
 }
 
 bool GuestWatch::isAnyBlockClientData() const {
@@ -96,15 +105,13 @@ bool GuestWatch::isAnyBlockClientData() const {
 void GuestWatch::checkBalance(std::int64_t& now, std::int64_t before, const char* what) {
     checkEnded(now, before, what);
     if (now < before)
-        host_.addViolation(std::string(what) + " ended too often (by " +
-                           std::to_string(before - now) + ")");
+        host_.addViolation(what, " ended too often (by ", before - now, ")");
     now = before;
 }
 
 void GuestWatch::checkEnded(std::int64_t now, std::int64_t before, const char* what) {
     if (now > before)
-        host_.addViolation(std::string(what) + " not ended (" + std::to_string(now - before) +
-                           " too many)");
+        host_.addViolation(what, " not ended (", now - before, " too many)");
 }
 
 } // namespace quorvia::host

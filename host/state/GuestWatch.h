@@ -20,9 +20,9 @@ public:
 
     /// Adds a violation for each fault found, and puts the lock right, so that one
     /// guest's fault is not blamed on the next. Quick if nothing is held that was not held before.
-    void finish();
+    void finish() noexcept;
     /// The same for the lock, undo states and progress alone, where a guest may keep what it took.
-    void checkBalances();
+    void checkBalances() noexcept;
 
 private:
     struct Counts {
@@ -31,6 +31,7 @@ private:
     };
     GuestWatch(HostState& host, const Counts& before) : host_(host), before_(before) {}
 
+    void report(void (GuestWatch::*reportThem)()) noexcept;
     void reportHandles();
     void reportBlocks();
     bool isAnyBlockClientData() const;

@@ -1,6 +1,6 @@
 #include "state/HostState.h"
 
-#include <utility>
+#include <cstddef>
 
 namespace quorvia::host {
 
@@ -9,13 +9,44 @@ bool HostState::fetch(FieldStorage& storage) {
     return cache.fetch(storage);
 }
 
-void HostState::showMessage(Message message) {
-    const MessageKind kind = message.kind;
-    log.messages.push_back(std::move(message));
-    if (settings.messageObserver)
-        settings.messageObserver(log.messages.back());
-    if (kind != MessageKind::Question)
-        user->read(log.messages.back().text, kind == MessageKind::Error);
+void HostState::showMessage(MessageKind kind, std::string_view text, std::optional<bool> answer) {
+    const Message lost{kind, "Out of memory.", answer}; // so short a text needs none
+    const bool isKept = log.addMessage(kind, text, answer);
+    const auto shown = [&]() -> const Message& { return isKept ? log.messages.back() : lost; };
+    show([&] {
+        if (settings.messageObserver)
+            settings.messageObserver(shown());
+    });
+    show([&] {
+        if (kind != MessageKind::Question)
+            user->read(shown().text, kind == MessageKind::Error);
+    });
+}
+
+void HostState::tellLosses() {
+    if (log.lostViolations > 0)
+        log.violations.push_back(
+            joined("violations that could not be kept for want of memory: ", log.lostViolations));
+    log.lostViolations = 0;
+    if (log.lostEntries > 0)
+        log.messages.push_back({MessageKind::Error,
+                                joined("The host had no memory to keep or to show all that "
+                                       "happened (",
+                                       log.lostEntries, " times)."),
+                                std::nullopt});
+    log.lostEntries = 0;
+    if (log.lostLines > 0)
+        log.transcript.push_back(joined("(lines lost for want of memory: ", log.lostLines, ")"));
+    log.lostLines = 0;
+}
+
+template <typename Show>
+void HostState::show(Show showIt) {
+    try {
+        showIt();
+    } catch (const std::bad_alloc&) {
+        ++log.lostEntries;
+    }
 }
 
 void HostState::tellSolutionTimes() {
@@ -23,6 +54,12 @@ void HostState::tellSolutionTimes() {
         return;
     solutionTimesChanged = false;
     ++log.solutionTimeNotifications;
+}
+
+void HostState::callStateChangeCallbacks(std::int32_t code) {
+    const std::size_t count = stateChangeCallbacks.size();
+    for (std::size_t index = 0; index < count && index < stateChangeCallbacks.size(); ++index)
+        stateChangeCallbacks[index](code);
 }
 
 } // namespace quorvia::host

@@ -2,13 +2,16 @@
 #pragma once
 
 #include <cstdint>
-#include <set>
+#include <new>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "checks/FaultPlan.h"
 #include "checks/HandleRegistry.h"
 #include "checks/MemoryLedger.h"
+#include "checks/TextParts.h"
 #include "checks/Transcript.h"
 #include "model/FieldCache.h"
 #include "model/Frame.h"
@@ -49,12 +52,41 @@ struct HostState {
     Frame frame;
 
     std::int64_t lockDepth() const { return entryLockDepth + guestLockDepth; }
-    void addViolation(std::string text) { log.violations.push_back(std::move(text)); }
+    /// A breach of the contract by the guest, put together from parts (checks/TextParts). Needs no
+    /// memory: without it the violation is counted, and told as soon as there is some.
+    template <typename... Parts>
+    void addViolation(const Parts&... parts) noexcept {
+        try {
+            log.violations.push_back(joined(parts...));
+        } catch (const std::bad_alloc&) {
+            ++log.lostViolations;
+        }
+    }
+    /// Likewise, for QuorUtilPostLastErrorMessage.
+    template <typename... Parts>
+    void keepLastError(const Parts&... parts) noexcept {
+        try {
+            lastError = joined(parts...);
+        } catch (const std::bad_alloc&) {
+            lastError = "no memory"; // so short a text needs none
+        }
+    }
+    /// Says in the log what could not be kept there.
+    void tellLosses();
+
     /// Brings a field into memory, within the budget that is set now.
     bool fetch(FieldStorage& storage);
-    /// Logs the message; a text that only tells is shown to the user, a question was.
-    void showMessage(Message message);
+    /// Logs the message; a text that only tells is shown to the user, a question was. Needs no
+    /// memory of the host's.
+    void showMessage(MessageKind kind, std::string_view text,
+                     std::optional<bool> answer = std::nullopt);
     void tellSolutionTimes();
+    /// Those that are there now; one that a callback adds is not called.
+    void callStateChangeCallbacks(std::int32_t code);
+
+private:
+    template <typename Show>
+    void show(Show showIt);
 };
 
 /// The state of the one host.

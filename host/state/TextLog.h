@@ -1,8 +1,7 @@
-// Texts in the order in which they came. A load of a long series shows a text for each of its
-// fields, so that many stand in a block; blocks are never copied into larger ones.
+// Texts in the order in which they came. A load of many grids shows a text for each of its fields,
+// and each differs from the one before in a number or two: only that is kept.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -12,38 +11,38 @@ namespace quorvia::host {
 
 class TextLog {
 public:
-    void add(std::string_view text) {
-        constexpr std::size_t leastCapacity = 32 * 1024;
-        if (blocks_.empty() || blocks_.back().room() < text.size())
-            blocks_.emplace_back().characters.reserve(std::max(leastCapacity, text.size()));
-        Block& block = blocks_.back();
-        block.characters += text;
-        block.ends.push_back(block.characters.size());
-        ++count_;
-    }
-    std::size_t count() const { return count_; }
-    std::vector<std::string> texts() const {
-        std::vector<std::string> all;
-        all.reserve(count_);
-        for (const Block& block : blocks_) {
-            std::size_t start = 0;
-            for (const std::size_t end : block.ends) {
-                all.push_back(block.characters.substr(start, end - start));
-                start = end;
-            }
+    /// So that the text can be added without memory. Throws std::bad_alloc, and nothing has changed
+    /// then.
+    void makeRoomFor(std::string_view text);
+    /// Throws std::bad_alloc where no room was made, and nothing was added then.
+    void add(std::string_view text);
+    /// Takes the first `count` texts off; there must be so many.
+    void dropFirst(std::size_t count) { dropped_ += count; }
+
+    std::size_t count() const { return count_ - dropped_; }
+    std::vector<std::string> texts() const;
+    /// `visit` is called with each text, in order, as a std::string_view that is valid for the
+    /// call.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        std::string text;
+        std::size_t place = 0;
+        for (std::size_t index = 0; index < count_; ++index) {
+            unpack(place, text);
+            if (index >= dropped_)
+                visit(std::string_view(text));
         }
-        return all;
     }
 
 private:
-    struct Block {
-        std::string characters;
-        std::vector<std::size_t> ends; // of each text in `characters`
-        std::size_t room() const { return characters.capacity() - characters.size(); }
-    };
+    void unpack(std::size_t& place, std::string& text) const;
 
-    std::vector<Block> blocks_;
+    // For each text: how many bytes of the one before it begins with, with how many it ends, the
+    // number of its own bytes between them, and these.
+    std::string packed_;
+    std::string last_; // the text added last
     std::size_t count_ = 0;
+    std::size_t dropped_ = 0;
 };
 
 } // namespace quorvia::host

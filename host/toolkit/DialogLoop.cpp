@@ -1,5 +1,7 @@
 #include "toolkit/DialogLoop.h"
 
+#include <new>
+#include <string>
 #include <utility>
 
 namespace quorvia::host {
@@ -17,11 +19,13 @@ void callValue(const Control& control, std::int32_t value) {
     callControl<QuorGUIValueCallback, const std::int32_t*>(control, &value);
 }
 
-/// Does one action. A callback may add controls, which moves those that are there: each operation
-/// calls the guest last.
+/// Does one action, and takes its contents. A callback may add controls, which moves those that are
+/// there: each operation calls the guest last.
 class ActionAtDialog {
 public:
-    ActionAtDialog(Dialog& dialog, User& user) : dialog_(dialog), user_(user) {}
+    /// `shownText` is a copy of what the user types.
+    ActionAtDialog(Dialog& dialog, User& user, std::string& shownText)
+        : dialog_(dialog), user_(user), shownText_(shownText) {}
 
     void operator()(const ShowPage& action) const {
         TabControl& tabs = *dialog_.tabs;
@@ -40,15 +44,16 @@ public:
     void operator()(const PressButton& action) const {
         callControl<QuorGUICallback>(*findControl(dialog_, action.button));
     }
-    void operator()(const SelectItems& action) const {
+    void operator()(SelectItems& action) const {
         Control& list = *findControl(dialog_, action.list);
-        list.selected = action.positions;
+        list.selected = std::move(action.positions);
         user_.controlChanged(dialog_, list);
         callValue(list, list.selected.empty() ? 0 : list.selected.back());
     }
+    // The guest may write into the field while it reads what was typed.
     void operator()(const TypeText& action) const {
         Control& field = *findControl(dialog_, action.field);
-        field.text = action.text;
+        field.text = std::move(shownText_);
         user_.controlChanged(dialog_, field);
         callControl<QuorGUITextCallback, const char*>(field, action.text.c_str());
     }
@@ -82,6 +87,7 @@ private:
 
     Dialog& dialog_;
     User& user_;
+    std::string& shownText_;
 };
 
 class PossibleAtDialog {
@@ -160,6 +166,36 @@ void activateFrontPage(const Dialog& dialog) {
         dialog.tabs->activate(&page);
 }
 
+/// All that an action needs, so that nothing of the host's can fail while it is done.
+struct ReadyAction {
+    DialogAction action = PressDialogButton{DialogButton::Cancel};
+    bool isPossible = true;
+    std::string shownText; // of a field
+    bool hadMemory = true;
+};
+
+ReadyAction readyActionOf(const Dialog& dialog, DialogAction action) {
+    ReadyAction ready;
+    // A window may have been used in the moment in which its control was greyed.
+    ready.isPossible = whyImpossible(dialog, action).empty();
+    if (const TypeText* typed = std::get_if<TypeText>(&action))
+        ready.shownText = typed->text;
+    ready.action = std::move(action);
+    return ready;
+}
+
+/// Without memory the user leaves: so the guest ends what it holds for the dialog, its lock above
+/// all.
+ReadyAction nextAction(const Dialog& dialog, User& user) {
+    try {
+        return readyActionOf(dialog, user.nextAction(dialog));
+    } catch (const std::bad_alloc&) {
+        ReadyAction leave;
+        leave.hadMemory = false;
+        return leave;
+    }
+}
+
 /// A dialog that an exception leaves can't be worked with any more.
 class ClosedAtTheEnd {
 public:
@@ -183,7 +219,8 @@ void drop(Dialog& dialog, User& user) {
     user.dialogDropped(dialog);
 }
 
-void launch(Toolkit& toolkit, Dialog& dialog, User& user) {
+bool launch(Toolkit& toolkit, Dialog& dialog, User& user) {
+    bool hadMemory = true;
     const ClosedAtTheEnd closed(dialog);
     toolkit.opened(dialog);
     if (dialog.init != nullptr)
@@ -193,11 +230,12 @@ void launch(Toolkit& toolkit, Dialog& dialog, User& user) {
     if (dialog.open)
         user.dialogShown(dialog);
     while (dialog.open) {
-        const DialogAction action = user.nextAction(dialog);
-        // A window may have been used in the moment in which its control was greyed.
-        if (whyImpossible(dialog, action).empty())
-            std::visit(ActionAtDialog(dialog, user), action);
+        ReadyAction next = nextAction(dialog, user);
+        hadMemory &= next.hadMemory;
+        if (next.isPossible)
+            std::visit(ActionAtDialog(dialog, user, next.shownText), next.action);
     }
+    return hadMemory;
 }
 
 } // namespace quorvia::host

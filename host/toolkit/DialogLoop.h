@@ -12,8 +12,9 @@ namespace quorvia::host {
 /// Launches a dialog that is not open, and returns once it is dropped. A guest's callback may drop
 /// the dialog and launch it again: the inner launch ends before the outer one. A dialog without a
 /// cancel callback is dropped by Cancel. What a callback throws passes through, and leaves the
-/// dialog closed.
-void launch(Toolkit& toolkit, Dialog& dialog, User& user);
+/// dialog closed. False: the host had no memory for what the user did, and Cancel was pressed
+/// instead.
+bool launch(Toolkit& toolkit, Dialog& dialog, User& user);
 
 /// Hides an open dialog.
 void drop(Dialog& dialog, User& user);

@@ -1,5 +1,6 @@
 #include "toolkit/ScriptedUser.h"
 
+#include <new>
 #include <utility>
 
 #include "toolkit/DialogLoop.h"
@@ -58,7 +59,7 @@ bool ScriptedUser::isDoneWithoutDialog(ScriptEntry& entry) {
     return !std::holds_alternative<DialogStep>(entry);
 }
 
-DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
+DialogAction ScriptedUser::playOn(const Dialog& dialog) {
     while (!script_.empty()) {
         ScriptEntry entry = takeEntry();
         if (isDoneWithoutDialog(entry))
@@ -79,6 +80,16 @@ DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
     if (problem_.empty())
         ++cancelledDialogs_;
     return cancel;
+}
+
+DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
+    try {
+        return playOn(dialog);
+    } catch (const std::bad_alloc&) { // the rest would be played at another place than was meant
+        script_.clear();
+        problem_ = "no memory"; // so short a text needs none
+        throw;
+    }
 }
 
 bool ScriptedUser::answer(const std::string& question) {

@@ -57,6 +57,7 @@ public:
     FileChoice chooseFiles(const FileRequest& request) override;
 
 private:
+    DialogAction playOn(const Dialog& dialog);
     ScriptEntry takeEntry();
     /// Does what the entry says if it is no step of a dialog.
     bool isDoneWithoutDialog(ScriptEntry& entry);

@@ -25,28 +25,29 @@ const Dialog* latestWhere(const std::deque<Dialog>& dialogs, IsWanted isWanted) 
 } // namespace
 
 std::int32_t Toolkit::add(Dialog dialog) {
-    dialog.id = nextId();
+    dialog.id = lastId_ + 1;
     dialogs_.push_back(std::move(dialog));
-    return lastId_;
+    return ++lastId_;
 }
 
 std::int32_t Toolkit::addTabs(Dialog& dialog, TabControl tabs) {
-    tabs.id = nextId();
+    tabs.id = ++lastId_;
     dialog.tabs = std::move(tabs);
     return lastId_;
 }
 
 std::int32_t Toolkit::addPage(TabControl& tabs, std::string caption) {
-    tabs.pages.push_back({nextId(), std::move(caption)});
+    tabs.pages.push_back({lastId_ + 1, std::move(caption)});
+    ++lastId_;
     if (tabs.pages.size() == 1)
         tabs.frontPage = lastId_;
     return lastId_;
 }
 
 std::int32_t Toolkit::addControl(Dialog& dialog, Control control) {
-    control.id = nextId();
+    control.id = lastId_ + 1;
     dialog.controls.push_back(std::move(control));
-    return lastId_;
+    return ++lastId_;
 }
 
 Dialog* Toolkit::dialog(std::int32_t id) {

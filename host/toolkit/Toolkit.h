@@ -44,8 +44,6 @@ public:
     void removeWhere(const std::function<bool(const Dialog&)>& isGone);
 
 private:
-    std::int32_t nextId() { return ++lastId_; }
-
     std::deque<Dialog> dialogs_;
     std::int32_t lastId_ = 0;
     std::int64_t launches_ = 0;

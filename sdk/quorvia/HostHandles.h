@@ -81,8 +81,13 @@ template <typename Number>
 class HostArray {
 public:
     HostArray() = default;
-    HostArray(HostArray&&) noexcept = default;
-    HostArray& operator=(HostArray&&) noexcept = default;
+    HostArray(HostArray&& other) noexcept
+        : block_(std::move(other.block_)), count_(std::exchange(other.count_, 0)) {}
+    HostArray& operator=(HostArray&& other) noexcept {
+        block_ = std::move(other.block_);
+        count_ = std::exchange(other.count_, 0);
+        return *this;
+    }
 
     /// An array of `count` numbers, accounted under `label`; empty if `count` is negative, if the
     /// size passes 64 bits, or if the host has no memory.

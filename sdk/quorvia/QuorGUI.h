@@ -12,7 +12,8 @@
 // - Captions are copied; the blanks in them count.
 // - Items and positions are numbered from 1.
 // - Setting a control's value does not call its callback; only the user does.
-// - Operations may be called only while the add-on holds the host's lock. None throws.
+// - Operations may be called only while the add-on holds the host's lock. None throws. Without
+//   memory one that has no result changes nothing, and what can't be made is QuorGUIId_None.
 #pragma once
 
 #include <cstdint>
@@ -51,7 +52,8 @@ std::int32_t QuorGUIDialogCreateModal(std::int32_t parent, std::int32_t width, s
 
 /// Shows the dialog with the page that was in front last; if that is not the first, it is activated
 /// behind `init`. The user can do nothing else at the host until the dialog is dropped. It may be
-/// launched again from its own OK callback once it is dropped.
+/// launched again from its own OK callback once it is dropped. If the toolkit has no memory for
+/// what the user does, it tells the user and calls `cancel`.
 void QuorGUIDialogLaunch(std::int32_t dialog);
 
 /// Hides the dialog. Its controls keep their values.
@@ -112,7 +114,7 @@ void QuorGUIListDeleteAllItems(std::int32_t list);
 /// Appends a copy of `text`, not selected.
 void QuorGUIListAppendItem(std::int32_t list, const char* text);
 /// The selected positions, from 1 and ascending, in an array that the caller gives back through
-/// QuorUtilArrayDealloc; null and 0 if nothing is selected.
+/// QuorUtilArrayDealloc; null and 0 if nothing is selected, or if there is no memory.
 void QuorGUIListGetSelectedItems(std::int32_t list, std::int32_t** positions, std::int32_t* count);
 
 /// Shows a copy of `text`.
@@ -125,15 +127,16 @@ void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool
 /// False: the text is no index; `value` is unchanged.
 bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value);
 /// Whether the text is an index from `minimum` to `maximum`, or with `zeroIsLast` one that stands
-/// for the last. If not, the toolkit tells the user, and calls the field by `name`.
+/// for the last. If not, the toolkit tells the user, and calls the field by `name`; without memory
+/// for that it tells the user so.
 bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, std::int64_t minimum,
                                      std::int64_t maximum, bool zeroIsLast);
 
 /// Shows a borrowed set in the form 1-5,7,12; nothing for a null set. `reserved` is false.
 void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool reserved);
 /// Reads the field into `*set`: a null handle becomes a new set that the caller gives back, another
-/// one gets the members in place of those that it had. False: the text is no set; the toolkit tells
-/// the user, and `*set` is unchanged.
+/// one gets the members in place of those that it had. False: the text is no set, or there is no
+/// memory; the toolkit tells the user, and `*set` is unchanged.
 bool QuorGUITextFieldGetSet(std::int32_t textField, QuorSetHandle* set);
 
 // ---- Any control --------------------------------------------------------------------------------

@@ -10,9 +10,12 @@
 //   and stores null in it; giving back null is allowed and does nothing.
 // - "Borrowed" means that the callee may use the argument for the call only.
 // - Unless it says otherwise an operation may be called only while the add-on holds the host's
-//   lock.
+//   lock. Memory, strings, lists and sets need none: they are private to whoever holds them.
 // - No operation throws, save those that say so; a failure is a false or null result, and the host
 //   keeps its own text of it for QuorUtilPostLastErrorMessage.
+// - An operation happens whole or not at all. Want of memory at the host is a failure like any
+//   other, of every operation that has one. Those without a result need no memory, save those that
+//   say so; nor do queries and whatever ends something or gives it back.
 #pragma once
 
 #include <cstdint>
@@ -82,6 +85,7 @@ using QuorStateChangeCallback = void (*)(std::int32_t stateChangeCode);
 
 /// Fills the field's array (QuorUtilDataValueGetRawPtrByRef). False: the values could not be read;
 /// the field stays deferred. Called whenever the host needs the values, with or without the lock.
+/// None of the callbacks of a field throws; std::bad_alloc counts as false.
 using QuorFieldLoadCallback = bool (*)(QuorFieldHandle field);
 /// The host is about to drop the array; true allows it. The load callback may be called again.
 using QuorFieldUnloadCallback = bool (*)(QuorFieldHandle field);
@@ -102,7 +106,7 @@ std::int32_t QuorUtilGetQuorviaVersion();
 
 /// Registers the add-on under the registration word 100. The texts are copied; version and author
 /// are only displayed. The result names the add-on in every lock call and is owned by the host;
-/// null if the word or a text is wrong.
+/// null if the word or a text is wrong, or if there is no memory.
 QuorAddOnHandle QuorUtilAddOnRegister(std::int32_t registrationWord, const char* name,
                                       const char* versionText, const char* authorText);
 
@@ -114,7 +118,8 @@ void QuorUtilLockOff();
 void QuorUtilLockStart(QuorAddOnHandle addOn);
 void QuorUtilLockFinish(QuorAddOnHandle addOn);
 
-/// Calls `callback` on every later state change, until the library is unloaded.
+/// Calls `callback` on every later state change, until the library is unloaded. Throws
+/// std::bad_alloc if there is no memory for it.
 void QuorUtilStateChangeAddCallback(QuorStateChangeCallback callback);
 
 /// Tells the host what the add-on has changed. `members` is borrowed; its meaning goes by the code.
@@ -133,32 +138,36 @@ bool QuorUtilInterruptIsSet();
 /// Registers a data loader from an argument list with the keys "LoaderName", "FileNameExtensions"
 /// (strings), "LoaderCallbackVersion" (1), "AllowMultiFileSelection", "AllowAdvancedOptions",
 /// "AllowAppending" (0 or 1), "LoaderCallback" (QuorLoaderCallback) and "LoaderSelectedCallback"
-/// (QuorLoaderSelectedCallback). `arguments` is borrowed. False: a key is missing or bad.
+/// (QuorLoaderSelectedCallback). `arguments` is borrowed. False: a key is missing or bad, or there
+/// is no memory.
 bool QuorUtilImportAddLoaderX(QuorArgListHandle arguments);
 
 /// Records the instructions that repeat the load just done; they come back through the loader's
 /// callback from a macro or a layout. `instructions` is borrowed and may be null. False: the host
-/// does not take them, or there is no such loader.
+/// does not take them, has no memory for them, or there is no such loader.
 bool QuorUtilImportSetLoaderInstr(const char* loaderName, QuorStringListHandle instructions);
 
 // ---- Messages, files, help ----------------------------------------------------------------------
 
-/// Shows an error and waits until it was seen. May be called without the lock.
+/// Shows an error and waits until it was seen. May be called without the lock. Without memory for
+/// a long text the host shows what it can of it.
 void QuorUtilDialogErrMsg(const char* text);
 
-/// Shows `text`, with the buttons of `kind` (QuorMessageBox_e), and gives the user's answer.
+/// Shows `text`, with the buttons of `kind` (QuorMessageBox_e), and gives the user's answer; false
+/// if there is no memory to ask.
 bool QuorUtilDialogMessageBox(const char* text, std::int32_t kind);
 
 /// Shows the text that the host keeps of its own last failure.
 void QuorUtilPostLastErrorMessage();
 
 /// Lets the user choose one file. `dialogKind` is 0. On true `name` holds a host string that the
-/// caller gives back. `defaultName` may be null. `filter` is a list of patterns.
+/// caller gives back. `defaultName` may be null. `filter` is a list of patterns. False: the user
+/// cancelled, or there is no memory.
 bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char* typeWord,
                                const char* defaultName, const char* filter);
 
 /// Lets the user choose several files. `dialogKind` is 1, `defaultNames` null. On true `names`
-/// holds a list that the caller gives back.
+/// holds a list that the caller gives back. False: as above.
 bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* names,
                                 const char* typeWord, QuorStringListHandle defaultNames,
                                 const char* filter);
@@ -168,7 +177,7 @@ bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* n
 /// there is no memory. May be called without the lock.
 char* QuorUtilGetBasePath(const char* path);
 
-/// Opens the host's help at `target`. The other arguments are false and 0.
+/// Opens the host's help at `target`, if there is memory to. The other arguments are false and 0.
 void QuorUtilHelp(const char* target, bool goToId, std::int32_t id);
 
 // ---- Memory, strings, lists, sets ---------------------------------------------------------------
@@ -245,7 +254,7 @@ void QuorUtilRedraw(bool doFullDrawing);
 /// Whether the frame has a data set.
 bool QuorUtilDataSetIsAvailable();
 /// Title (a host string that the caller gives back) and numbers of zones and variables. Each out
-/// argument may be null. False: there is no data set.
+/// argument may be null. False: there is no data set, or no memory for the title.
 bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t* varCount);
 
 /// Creates the frame's data set without zones, in place of one that is there. Keys: "LoaderName",
@@ -267,7 +276,8 @@ bool QuorUtilDataSetAddZoneX(QuorArgListHandle arguments);
 bool QuorUtilDataSetAddVarX(QuorArgListHandle arguments);
 
 /// Delete the members of a borrowed set; what stands behind them is renumbered. Fields that are
-/// shared with others stay there. False: a member does not exist.
+/// shared with others stay there. False: a member does not exist, or there is no memory; nothing
+/// was deleted then.
 bool QuorUtilDataSetDeleteZone(QuorSetHandle zones);
 bool QuorUtilDataSetDeleteVar(QuorSetHandle vars);
 bool QuorUtilZoneDelete(QuorSetHandle zones);
@@ -289,7 +299,7 @@ void QuorUtilZoneGetInfo(std::int32_t zone, std::int64_t* iMax, std::int64_t* jM
                          std::int64_t* kMax, void* further);
 /// QuorZoneType_e.
 std::int32_t QuorUtilZoneGetType(std::int32_t zone);
-/// False: there is no such zone, or the host refuses the name.
+/// False: there is no such zone, the host refuses the name, or there is no memory.
 bool QuorUtilZoneRename(std::int32_t zone, const char* name);
 /// A strand number from 1; 0 for none.
 std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone);
@@ -311,7 +321,8 @@ bool QuorUtilVarGetName(std::int32_t var, char** name);
 void QuorUtilZoneStyleApplyAuto(QuorSetHandle zones);
 
 /// Finds a time in each name of a borrowed list. `times` is the caller's, one entry for each name;
-/// it is filled only on true. False: not every name has a time. The last argument is false.
+/// it is filled only on true. False: not every name has a time, or there is no memory. The last
+/// argument is false.
 bool QuorUtilExtractTimesFromFileNames(QuorStringListHandle names, double* times, bool showErrors);
 
 // ---- Field data and connectivity ----------------------------------------------------------------
@@ -330,7 +341,8 @@ bool QuorUtilDataValueAlloc(std::int32_t zone, std::int32_t var);
 /// borrowed until the field changes.
 void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** values,
                                 std::int32_t* dataType);
-/// A handle for writing, owned by the host; null if the field can't be written.
+/// A handle for writing, owned by the host; null if the field can't be written, or if there is no
+/// memory.
 QuorFieldHandle QuorUtilDataValueGetWritableRef(std::int32_t zone, std::int32_t var);
 /// The array to fill, index order I fastest, then J, then K. This and the next three, and
 /// QuorUtilDataValueGetClientData, may be called without the lock, for the sake of load callbacks.
@@ -361,7 +373,8 @@ bool QuorUtilDataValueIsSharingOk(std::int32_t sourceZone, std::int32_t zone, st
 bool QuorUtilDataValueShare(std::int32_t sourceZone, std::int32_t destinationZone,
                             std::int32_t var);
 /// Copies values into storage that QuorUtilDataValueAlloc made; a deferred source is fetched.
-/// False: the types or sizes differ, there is no storage, or the source's values can't be had.
+/// False: the types or sizes differ, there is no storage, or the source's values can't be had, be
+/// it for want of memory.
 bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone, std::int32_t var);
 
 /// The node map of a finite-element zone, owned by the host; null for an ordered zone, or if there
@@ -373,11 +386,11 @@ void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, s
 
 // ---- Auxiliary data -----------------------------------------------------------------------------
 
-/// Owned by the host; null if there is no such zone or no data set.
+/// Owned by the host; null if there is no such zone, no data set or no memory.
 QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone);
 QuorAuxDataHandle QuorUtilAuxDataDataSetGetRef();
 /// Sets a string item, in place of one of the same name. `type` is 0; `retain` is 1. False: the
-/// host does not take the name or the text.
+/// host does not take the name or the text, or has no memory for them; the old item stays then.
 bool QuorUtilAuxDataSetItem(QuorAuxDataHandle auxData, const char* name, const char* text,
                             std::int32_t type, std::int32_t retain);
 

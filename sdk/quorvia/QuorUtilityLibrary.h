@@ -21,21 +21,22 @@ public:
     virtual ~TaskProgress();
 
     /// Makes a task that takes a share of this one's bar in proportion to `weight`; gives
-    /// `subTask`, which now owns it. A sub-task must end before its parent.
+    /// `subTask`, which now owns it. A sub-task must end before its parent. Throws std::bad_alloc;
+    /// `subTask` is as it was then.
     virtual std::unique_ptr<TaskProgress>& createSubTask(std::unique_ptr<TaskProgress>& subTask,
                                                          std::int64_t weight) = 0;
     /// How many calls of step() and stepWithMessage() fill the task's share of the bar.
     virtual void setStepCount(std::int64_t steps) = 0;
-    /// Shows the text. False: the user wants the operation to stop.
+    /// Shows the text, if there is memory to. False: the user wants the operation to stop.
     virtual bool setMessage(const std::string& text) = 0;
     /// One step is done. False: stop.
     virtual bool step() = 0;
-    /// One step is done, and the text shows the next. False: stop.
+    /// One step is done, and the text shows the next; neither without memory. False: stop.
     virtual bool stepWithMessage(const std::string& text) = 0;
 };
 
-/// The top task of a new progress bar of so many steps; the bar closes with it. Throws
-/// std::bad_alloc.
+/// The top task of a new progress bar of so many steps; the bar closes with it. It may be made and
+/// used without the lock, for the sake of load callbacks. Throws std::bad_alloc.
 QUORVIA_HOST_API std::unique_ptr<TaskProgress> createTaskProgressBar(std::int64_t steps);
 
 /// While one lives, the host holds back its notifications about solution times. It may be made and
@@ -67,7 +68,7 @@ private:
 };
 
 /// A UTF-8 path for the platform's wide-character file layer. Bytes that are no UTF-8 become
-/// U+FFFD.
+/// U+FFFD. Throws std::bad_alloc.
 QUORVIA_HOST_API std::wstring utf8ToWideString(const std::string& utf8);
 
 /// The user interrupted an operation of the host.

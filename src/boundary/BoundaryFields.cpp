@@ -4,6 +4,7 @@
 #include <new>
 #include <optional>
 
+#include "dataset/ondemand/LongReads.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/file/OpenedFile.h"
 #include "plot3dfile/numbers/TypedArrays.h"
@@ -69,8 +70,12 @@ public:
 
     bool run() {
         const OpenedFile opened(file_);
-        return opened && file_.stream->seek(data_.gridOffset) && measureGrid() &&
-               passOverOthers() && deliver();
+        if (!opened || !file_.stream->seek(data_.gridOffset) || !measureGrid())
+            return false;
+        FetchWatch watch(file_.encoding == Plot3DEncoding_Ascii ? file_.fileSize - data_.gridOffset
+                                                                : byteCount_);
+        const WatchedReading watched(*file_.stream, watch);
+        return passOverOthers() && deliver();
     }
 
 private:
@@ -113,7 +118,8 @@ private:
     }
 
     bool deliver() {
-        switch (fieldType()) {
+        // Of the field itself: the zone that it was set up for may be gone, and others share it.
+        switch (QuorUtilDataValueGetRefType(field_)) {
         case QuorFieldDataType_Int32:
             return deliverAs<std::int32_t>();
         case QuorFieldDataType_Float:
@@ -123,14 +129,6 @@ private:
         default:
             return false;
         }
-    }
-
-    /// Of the field, whatever its numbers are by now.
-    std::int32_t fieldType() const {
-        const std::int32_t zone = QuorUtilZoneGetNumByUniqueID(data_.zoneId);
-        const std::int32_t var = QuorUtilVarGetNumByUniqueID(data_.varId);
-        return zone > 0 && var > 0 ? QuorUtilDataValueGetType(zone, var)
-                                   : std::int32_t{QuorFieldDataType_Invalid};
     }
 
     template <typename Number>

@@ -24,8 +24,8 @@ Plot3DSharedFile copyForFields(const Plot3DFile_s& file);
 struct Plot3DBoundaryClientData_s {
     std::int64_t gridOffset = 0; // file position of the first variable of the parent grid
     std::int64_t varOrdinal = 0; // the variable's place among those of the grid, from 1
-    std::int64_t zoneId = 0;     // identities at the host
-    std::int64_t varId = 0;
+    std::int64_t zoneId = 0;     // identities at the host of what it was set up for; no fetch goes
+    std::int64_t varId = 0;      // by them, since zones that share the field may outlive that one
     Plot3DBoundaryList boundary; // alone, without what follows it
     std::int32_t skipI = 1;
     std::int32_t skipJ = 1;

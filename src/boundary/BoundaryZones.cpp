@@ -149,7 +149,8 @@ private:
         if (step == 0 || !mayShare(sourceZone, zone))
             return setUpVars(gridFile_, gridCopy_, boundary, zone, gridVarCount_, 1);
         for (std::int32_t var = 1; var <= gridVarCount_; ++var)
-            QuorUtilDataValueShare(sourceZone, zone, var);
+            if (!QuorUtilDataValueShare(sourceZone, zone, var)) // refused all the same
+                return setUpVars(gridFile_, gridCopy_, boundary, zone, gridVarCount_, 1);
         return true;
     }
 

@@ -1,10 +1,10 @@
 #include "dialog/RangeFields.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <limits>
 
 #include "dialog/DialogControls.h"
+#include "instructions/TurnedRange.h"
 #include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
@@ -58,17 +58,6 @@ bool readIndex(const RangeField& field, std::int64_t& value) {
            QuorGUITextFieldGetLgIndex(field.control, &value);
 }
 
-bool endsBeforeStart(const Plot3DIndexRange_s& range) {
-    return range.end >= 1 && range.end < range.start;
-}
-
-void tellRangeIsTurnedRound(const char* rangeName) {
-    char text[512];
-    std::snprintf(text, sizeof text, "%s Error: end must be greater than or equal to start.",
-                  rangeName);
-    QuorUtilDialogErrMsg(text);
-}
-
 /// False: the value does not stand, and the user was told.
 bool storeIndex(const RangeField& field) {
     std::int64_t value = 0;
@@ -76,9 +65,9 @@ bool storeIndex(const RangeField& field) {
         return false;
     Plot3DIndexRange_s& range = gLoadOptions.*field.range;
     // Before the comparison: a user who moves both ends of a range passes through one that is
-    // turned round, and goes on from there.
+    // turned round, and goes on from there. A load of it is refused.
     range.*field.member = static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
-    if (field.rangeName == nullptr || !endsBeforeStart(range))
+    if (field.rangeName == nullptr || !isTurnedRound(range))
         return true;
     tellRangeIsTurnedRound(field.rangeName);
     return false;

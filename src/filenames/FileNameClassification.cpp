@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <set>
 
 #include "filenames/FilePatternTables.h"
@@ -36,8 +37,11 @@ private:
     SimplePatternMatcher name_{gNamePatterns};
 };
 
-std::string fileNameOf(const std::string& path) {
+/// Nothing if the host does not say where the directory ends: that must not decide the kind.
+std::optional<std::string> fileNameOf(const std::string& path) {
     const HostString directory(QuorUtilGetBasePath(path.c_str()));
+    if (!directory)
+        return std::nullopt;
     return path.substr(std::min(directory.view().size(), path.size()));
 }
 
@@ -72,13 +76,13 @@ bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gri
     const std::int64_t count = names != nullptr ? QuorUtilStringListGetCount(names) : 0;
     for (std::int64_t index = 1; result && index <= count; ++index) {
         const HostString name(QuorUtilStringListGetString(names, index));
-        if (!name) { // a selection is loaded whole or not at all
+        const std::string path = name.str();
+        const std::optional<std::string> fileName = name ? fileNameOf(path) : std::nullopt;
+        if (!fileName) { // a selection is loaded whole or not at all
             QuorUtilDialogErrMsg("Out of Memory!!!");
             return false;
         }
-        const std::string path = name.str();
-        const std::string fileName = fileNameOf(path);
-        switch (sorter.kindOf(fileName)) {
+        switch (sorter.kindOf(*fileName)) {
         case FileKind::Grid:
             gridFiles.push_back(path);
             break;
@@ -97,7 +101,7 @@ bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gri
             }
             break;
         case FileKind::Unrecognised:
-            unrecognisedExtensions.insert(extensionOf(fileName));
+            unrecognisedExtensions.insert(extensionOf(*fileName));
             break;
         }
     }

@@ -1,5 +1,6 @@
 #include "instructions/IndexRangeText.h"
 
+#include "instructions/TurnedRange.h"
 #include "quorvia/QuorUtil.h"
 
 namespace quorvia::quorutildataio {
@@ -27,7 +28,7 @@ const char* findRangeFault(const Plot3DIndexRange_s& range) {
     if (range.end < 0)
         return "Index range end must be greater than or equal to zero.\n"
                "This error also may indicate that the end value is too large.";
-    if (range.end >= 1 && range.end < range.start)
+    if (isTurnedRound(range))
         return "Index range end must be greater than or equal to index range start.";
     return nullptr;
 }

@@ -165,8 +165,8 @@ private:
     /// Grids are looked up by their running number among the selected ones.
     bool hasEqualSize(std::int32_t selected, std::int32_t zone) const {
         const bool isUnstructured = first_.getDataStructure() == Plot3DDataStructure_Unstructured;
-        if (isUnstructured && QuorUtilZoneGetType(zone) == QuorZoneType_Ordered)
-            return true; // its I counts something else
+        if (isUnstructured && !hasElements(QuorUtilZoneGetType(zone)))
+            return true; // its I may count something else than nodes
         const Plot3DZoneDims_s dims = zoneDimensionsForGrid(options_, first_, selected, zone);
         Plot3DZoneDims_s there = {0, 0, 0};
         QuorUtilZoneGetInfo(zone, &there.i, &there.j, &there.k, nullptr);

@@ -5,6 +5,7 @@
 #include "dataset/items/CommonAuxData.h"
 #include "dataset/items/CurrentTask.h"
 #include "dataset/variables/AddedVariables.h"
+#include "dataset/variables/VariableFit.h"
 #include "dataset/variables/VariableNames.h"
 #include "dataset/zones/ZoneCreation.h"
 #include "dataset/zones/ZoneFit.h"
@@ -18,6 +19,64 @@ namespace quorvia::quorutildataio {
 namespace {
 
 constexpr bool showErrors = true;
+
+void reportFailedFileSet(const Plot3DFileHandler& fileSet) {
+    if (QuorUtilInterruptIsSet())
+        QuorUtilDialogErrMsg("Plot3D Data load interrupted");
+    else if (fileSet.hasSolutionFile())
+        reportFileError(*fileSet.solutionFile, "Invalid Plot 3D solution file.");
+    else if (fileSet.hasGridFile())
+        reportFileError(*fileSet.gridFile, "Invalid Plot 3D grid file.");
+    else
+        reportFileError(*fileSet.functionFiles.front(), "Invalid Plot 3D function file.");
+}
+
+/// Of a load without zones to give them to, new variables are not added.
+std::int64_t countVariablesToBe(const Plot3DLoadContext_s& context) {
+    const std::int64_t names =
+        countVariableNames(context.hasIBlank, context.numSpatialVars, context.numSolutionVars,
+                           context.fileSets.front());
+    if (!context.options.append && context.options.hasGridFiles)
+        return names;
+    return context.existingZoneCount > 0 ? std::max<std::int64_t>(context.existingVarCount, names)
+                                         : context.existingVarCount;
+}
+
+bool checkVariables(const Plot3DLoadContext_s& context) {
+    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
+    // Counts that are absurd are told by the stage.
+    if (!std::all_of(fileSets.begin(), fileSets.end(), areCountsPlausible))
+        return true;
+    const Plot3DVariablePlaces_s places = {context.numSpatialVars, context.hasIBlank,
+                                           context.numSolutionVars, countVariablesToBe(context)};
+    const auto bad =
+        std::find_if_not(fileSets.begin(), fileSets.end(), [&places](const auto& fileSet) {
+            return checkVariablesFor(fileSet, places);
+        });
+    if (bad != fileSets.end())
+        reportFailedFileSet(*bad);
+    return bad == fileSets.end();
+}
+
+/// New zones of unstructured solutions without a grid file hang on zones that are there.
+bool checkElementsOfNewZones(const Plot3DLoadContext_s& context) {
+    const std::vector<Plot3DFileHandler>& fileSets = context.fileSets;
+    if (context.options.hasGridFiles ||
+        fileSets.front().getDataStructure() != Plot3DDataStructure_Unstructured)
+        return true;
+    const bool rewritesFirst = !context.options.append || joinsLoneGrid(context);
+    const std::size_t firstWithZones = rewritesFirst ? 1 : 0;
+    if (fileSets.size() <= firstWithZones)
+        return true;
+    const std::int32_t base =
+        rewritesFirst ? 1 : context.existingZoneCount - context.zonesPerTimeStep + 1;
+    for (std::int32_t selected = 0; selected < context.zonesPerTimeStep; ++selected)
+        if (!checkElements(base + selected)) {
+            reportFailedFileSet(fileSets[firstWithZones]);
+            return false;
+        }
+    return true;
+}
 
 class DatasetStage {
 public:
@@ -38,7 +97,6 @@ private:
     bool confirmZones();
     Plot3DStrandMap_s startStrands() const;
     bool addZones();
-    void reportFailedFileSet(const Plot3DFileHandler& fileSet) const;
     bool settleSolutionTimes();
     void notifyHost();
     bool deleteNewZonesAndVars();
@@ -69,12 +127,23 @@ bool DatasetStage::run() {
     return true;
 }
 
+/// The message of a failed time step names its solution file, else its grid file. Where another is
+/// at fault it is named ahead of that.
+void reportHiddenFile(const Plot3DFileHandler& fileSet) {
+    const Plot3DFile_s* named = fileSet.hasSolutionFile() ? fileSet.solutionFile : fileSet.gridFile;
+    const Plot3DFile_s* file = findImplausibleFile(fileSet);
+    if (named != nullptr && file != named)
+        reportFileError(*file, "The counts in the file's header do not fit the file.");
+}
+
 /// Names, variables and fields for all that an absurd header claims would fill the memory.
 bool DatasetStage::checkCounts() const {
     const auto bad =
         std::find_if_not(context.fileSets.begin(), context.fileSets.end(), areCountsPlausible);
-    if (bad != context.fileSets.end())
+    if (bad != context.fileSets.end()) {
+        reportHiddenFile(*bad);
         reportFailedFileSet(*bad);
+    }
     return bad == context.fileSets.end();
 }
 
@@ -220,17 +289,6 @@ bool DatasetStage::addZones() {
     return true;
 }
 
-void DatasetStage::reportFailedFileSet(const Plot3DFileHandler& fileSet) const {
-    if (QuorUtilInterruptIsSet())
-        QuorUtilDialogErrMsg("Plot3D Data load interrupted");
-    else if (fileSet.hasSolutionFile())
-        reportFileError(*fileSet.solutionFile, "Invalid Plot 3D solution file.");
-    else if (fileSet.hasGridFile())
-        reportFileError(*fileSet.gridFile, "Invalid Plot 3D grid file.");
-    else
-        reportFileError(*fileSet.functionFiles.front(), "Invalid Plot 3D function file.");
-}
-
 bool DatasetStage::settleSolutionTimes() {
     if (!options.assignStrandIds ||
         checkSolutionTimes(context.existingZoneCount + 1, options, context.fileSets))
@@ -289,6 +347,10 @@ bool DatasetStage::deleteNewZonesAndVars() {
 }
 
 } // namespace
+
+bool checkNeeds(const Plot3DLoadContext_s& context) {
+    return checkVariables(context) && checkElementsOfNewZones(context);
+}
 
 bool createDatasetAndZones(Plot3DLoadContext_s& context) {
     DatasetStage stage(context);

@@ -2,6 +2,7 @@
 // Each rule tells the user what it refuses. docs/time-series.md holds the tables.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "instructions/Plot3DLoadOptions.h"
@@ -29,5 +30,9 @@ bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileL
 /// Dimensions of the files of each time step, of the first alone if `uniformGridStructure`.
 bool checkHandlerDimensions(const std::vector<Plot3DFileHandler>& handlers,
                             bool uniformGridStructure);
+
+/// Whether the load takes a grid of each time step; of the first it takes `zonesPerTimeStep`.
+bool checkGridSet(const Plot3DLoadOptions_s& options,
+                  const std::vector<Plot3DFileHandler>& handlers, std::int32_t zonesPerTimeStep);
 
 } // namespace quorvia::quorutildataio

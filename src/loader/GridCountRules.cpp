@@ -1,9 +1,11 @@
-// Whether the headers of all files agree on the number of grids.
+// Whether the headers of all files agree on the number of grids, and hold grids that are wanted.
 #include "loader/FileSetRules.h"
 
 #include <cstdint>
 #include <optional>
 #include <sstream>
+
+#include "loader/LoadContext.h"
 
 namespace quorvia::quorutildataio {
 
@@ -76,6 +78,25 @@ bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFile
     for (const Plot3DFileList* list : {&gridFiles, &solutionFiles, &functionFiles})
         if (!checkAgainstFirstTimeStep(*list, reference->numGrids))
             return false;
+    return true;
+}
+
+bool checkGridSet(const Plot3DLoadOptions_s& options,
+                  const std::vector<Plot3DFileHandler>& handlers, std::int32_t zonesPerTimeStep) {
+    if (options.gridSet == nullptr)
+        return true;
+    const Plot3DFile_s* counted = handlers.front().structureFile();
+    std::int32_t selected = zonesPerTimeStep;
+    for (const Plot3DFileHandler& each : handlers) {
+        const Plot3DFile_s* file = each.structureFile();
+        if (file != counted) // a grid file may stand for many time steps
+            selected = countSelectedGrids(options, each);
+        counted = file;
+        if (selected == 0 && each.getNumGrids() > 0) {
+            reportFileError(*file, "The grid set selects no grid of the file.");
+            return false;
+        }
+    }
     return true;
 }
 

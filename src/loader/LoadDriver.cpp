@@ -5,6 +5,7 @@
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/items/CurrentTask.h"
 #include "instructions/InstructionWriter.h"
+#include "instructions/TurnedRange.h"
 #include "loader/DatasetCompatibility.h"
 #include "loader/DatasetStage.h"
 #include "loader/FileSetRules.h"
@@ -13,6 +14,7 @@
 #include "loader/LoadContext.h"
 #include "loader/LoadScopes.h"
 #include "loader/SolutionTimes.h"
+#include "plot3dfile/timestep/FieldCount.h"
 #include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {
@@ -32,7 +34,9 @@ void settleBoundaryFile(Plot3DLoadOptions_s& options) {
 /// Headers of all files, and the times of their names, which are taken also from refused files.
 bool examineNamesAndHeaders(Plot3DLoadContext_s& context) {
     Plot3DLoadOptions_s& options = context.options;
-    const bool examined = checkFileSetCounts(options) && examineFiles(context);
+    // Once more, since solution files may have turned out to be function files.
+    const bool examined =
+        checkFileSetCounts(options) && examineFiles(context) && checkFileSetCounts(options);
     const bool hasNames = !options.solutionFiles.empty() || !options.functionFiles.empty();
     if (options.extractTimeFromSolFileNames && hasNames)
         extractSolutionTimes(options);
@@ -55,6 +59,30 @@ bool makeFileSets(Plot3DLoadContext_s& context) {
         QuorUtilDialogErrMsg("There are no files to load.");
         return false;
     }
+    return true;
+}
+
+/// The record of a later grid file of a uniform load has the size of the first one.
+std::int64_t measure(const Plot3DFile_s& file) {
+    const std::unique_ptr<FileStream> stream = FileStream::open(file.fileName.str());
+    const std::int64_t size = stream != nullptr ? stream->size() : -1;
+    return size >= 0 ? size : file.fileSize; // the scan will tell what is wrong with the file
+}
+
+/// Text that a few repeat tokens blow up is refused while the host's data set is still as it was.
+bool checkTextValues(const Plot3DLoadContext_s& context) {
+    for (const Plot3DFileList* files :
+         {&context.gridFiles, &context.solutionFiles, &context.functionFiles})
+        for (const Plot3DFilePtr& file : *files) {
+            // Absurd counts of fields are told later, each in its own way.
+            if (file->encoding != Plot3DEncoding_Ascii || !isFieldCountPlausible(*file))
+                continue;
+            const bool isMeasured = files != &context.gridFiles || file == files->front();
+            if (isValueCountPlausible(*file, isMeasured ? file->fileSize : measure(*file)))
+                continue;
+            reportFileError(*file, "The file promises more than 64 values for each of its bytes.");
+            return false;
+        }
     return true;
 }
 
@@ -100,8 +128,7 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
     constexpr std::int32_t loadUndoCategory = 9;
     const Plot3DLoadOptions_s& options = context.options;
     const Plot3DFileHandler& first = context.fileSets.front();
-    context.zonesPerTimeStep = countSelectedGrids(options, first);
-    if (!checkDatasetCompatibility(context))
+    if (!checkDatasetCompatibility(context) || !checkNeeds(context))
         return false;
     if (options.append) {
         context.undoStarted = true;
@@ -117,12 +144,17 @@ bool buildDataSet(Plot3DLoadContext_s& context) {
 /// Everything that happens while the progress bar is open.
 bool loadUnderProgressBar(Plot3DLoadContext_s& context) {
     const LoadProgressBar bar(context);
+    if (!checkIndexRanges(context.options))
+        return false;
     settleBoundaryFile(context.options);
     normaliseStrandOptions(context.options);
-    if (!examineNamesAndHeaders(context) || !makeFileSets(context))
+    if (!examineNamesAndHeaders(context) || !makeFileSets(context) || !checkTextValues(context))
         return false;
     readShape(context);
     context.mainTask->createSubTask(currentTask, estimateLoadWork(context));
+    context.zonesPerTimeStep = countSelectedGrids(context.options, context.fileSets.front());
+    if (!checkGridSet(context.options, context.fileSets, context.zonesPerTimeStep))
+        return false;
     if (appendsFunctionsAlone(context))
         return appendFunctionFiles(context.fileSets, context.options);
     return buildDataSet(context);

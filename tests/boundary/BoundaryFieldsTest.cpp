@@ -118,6 +118,27 @@ TEST_F(BoundaryFields, OfLaterTimeStepsHaveTheirOwnGridWhereSharingIsNotAllowed)
     expectShows(6, 4, bottom);
 }
 
+TEST_F(BoundaryFields, OfLaterTimeStepsShareTheGridWholeOrNotAtAll) {
+    for (const std::int64_t var : {1, 2, 3}) {
+        useSeries();
+        host().clearFaults();
+        host().failCall("QuorUtilDataValueIsSharingOk", var);
+        loadWell();
+        for (std::int32_t each = 1; each <= 3; ++each)
+            EXPECT_EQ(holder(6, each), 6) << var;
+        expectShows(6, 4, bottom);
+    }
+}
+
+TEST_F(BoundaryFields, OfLaterTimeStepsShareTheIBlankToo) {
+    iblankGridFile("a.x", twoGrids);
+    useSeries();
+    loadWell();
+    EXPECT_EQ(holder(6, 4), 5);
+    EXPECT_EQ(holder(6, 5), 6);
+    expectShows(6, 4, bottom);
+}
+
 TEST_F(BoundaryFields, AlsoComeFromSolutionsThatAreScanned) {
     options.solutionsShareStructure = false;
     useSeries();

@@ -7,6 +7,7 @@ namespace quorvia::testsupport {
 namespace {
 
 const GridList twoGrids = {{2, 3, 5}, {5, 3, 7}};
+const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 class BoundaryZones : public BoundaryTest {
 protected:
@@ -154,6 +155,46 @@ TEST_F(BoundaryZones, ThatJoinStrandsFollowOnThatOfTheLastZone) {
     EXPECT_EQ(strands(), (std::vector<std::int32_t>{0, 1, 2, 3, 4}));
     EXPECT_EQ(parentOf(4), 3);
     EXPECT_EQ(parentOf(5), 2);
+}
+
+/// An appended grid beside an old zone of a higher strand than the new zones get.
+class StrandsOfBoundaryZones : public BoundaryZones {
+protected:
+    StrandsOfBoundaryZones() {
+        makeOldDataSet(gridAndSolution, 1);
+        host().frame().setPlotType(QuorPlotType_3D);
+        host().frame().dataSet()->zone(1)->strandId = 7;
+        useSeries({0.25, 0.75});
+        useTwoFaces();
+        options.append = true;
+    }
+};
+
+TEST_F(StrandsOfBoundaryZones, FollowOnTheHighestOfAll) {
+    loadWell();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{7, 8, 9, 8, 9, 10, 11, 10, 11}));
+}
+
+// That of the last zone, which in a later step is the last boundary zone of the step before.
+TEST_F(StrandsOfBoundaryZones, ThatJoinOthersFollowOnTheLastAndNotTheHighest) {
+    options.addToExistingStrands = true;
+    loadWell();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{7, 1, 2, 1, 2, 3, 4, 5, 6}));
+}
+
+TEST_F(BoundaryZones, StandInTheWayOfAppendedFunctions) {
+    useFiles({grid});
+    useTwoFaces();
+    loadWell();
+    useFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
+    options.append = true;
+    options.loadBoundary = false;
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(),
+              Texts{"If you are appending function files, you must append one file per existing "
+                    "time step already loaded. Also, any existing boundary zones will not allow "
+                    "appending function files. You are appending 1 function files with 2 zones "
+                    "each and there exist 4 zones."});
 }
 
 TEST_F(BoundaryZones, OfAnAppendedGridStandBehindAllZones) {

@@ -85,6 +85,8 @@ TEST_F(FileNames, AreNotClassifiedByTheirDirectory) {
     EXPECT_EQ(kindOf("/runs/x.case/data.dat"), '?');
     EXPECT_EQ(messages(), Texts{unrecognised(" *.dat")});
     EXPECT_EQ(kindOf("/runs.dat/wing.x"), 'g');
+    for (const char* name : {"/runs/a.in.b/data.dat", "a.in.b/data.dat", "x.case/data.dat"})
+        EXPECT_EQ(kindOf(name), '?') << name;
 }
 
 TEST_F(FileNames, KeepTheirPathsAndOrder) {
@@ -144,6 +146,16 @@ TEST_F(FileNames, ThatTheHostWithholdsAreNotLeftOut) {
     host().failCall("QuorUtilStringListGetString", 2);
     EXPECT_FALSE(classify({"a.x", "a.q", "b.q"}));
     EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+}
+
+TEST_F(FileNames, OfFoldersThatTheHostWithholdsAreNotSortedByThem) {
+    for (const int name : {1, 2}) {
+        host().clearLog();
+        host().failCall("QuorUtilGetBasePath", name);
+        EXPECT_FALSE(classify({"/runs.in.old/a.x", "/runs.in.old/a.q"}));
+        EXPECT_EQ(messages(), Texts{"Out of Memory!!!"}) << name;
+        host().clearFaults();
+    }
 }
 
 } // namespace

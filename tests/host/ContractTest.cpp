@@ -1,10 +1,30 @@
 // Locks, undo states, and arguments that no guest should pass.
+#include <fstream>
+#include <regex>
+
 #include "HostFixture.h"
+#include "checks/Operations.h"
 
 namespace quorvia::host {
 namespace {
 
 using ContractTest = HostTest;
+
+/// The operations that the SDK's header declares under a heading.
+Texts operationsOfSection(const std::string& heading) {
+    const std::regex declaration("^[A-Za-z].*\\b(QuorUtil\\w+)\\(.*");
+    Texts names;
+    bool isInside = false;
+    std::ifstream header(SDK_HEADER);
+    std::smatch match;
+    for (std::string line; std::getline(header, line);) {
+        if (line.rfind("// ----", 0) == 0)
+            isInside = line.rfind("// ---- " + heading + " --", 0) == 0;
+        else if (isInside && std::regex_match(line, match, declaration))
+            names.push_back(match[1]);
+    }
+    return names;
+}
 
 TEST_F(ContractTest, LocksNest) {
     QuorUtilLockStart(addOn());
@@ -36,6 +56,22 @@ TEST_F(ContractTest, VersionErrorsListsAndMemoryNeedNoLock) {
     const HostString text = HostString::copyOf("text");
     const HostSet set = setOf({7});
     EXPECT_TRUE(host().log().violations.empty());
+}
+
+TEST_F(ContractTest, WhatThisHostAsksOfMemoryListsAndSetsIsWhatTheSdkSays) {
+    const std::vector<std::string> exempt = operationsOfSection("Memory, strings, lists, sets");
+    EXPECT_EQ(exempt.size(), 27U);
+    for (const std::string& name : exempt)
+        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed::None)
+            << name;
+}
+
+TEST_F(ContractTest, ZonesFieldsAndVariablesNeedTheLock) {
+    const Texts names = operationsOfSection("Zones and variables");
+    EXPECT_FALSE(names.empty());
+    for (const std::string& name : names)
+        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed::Held)
+            << name;
 }
 
 TEST_F(ContractTest, UndoStateEndsOnce) {

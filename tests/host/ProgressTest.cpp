@@ -105,6 +105,22 @@ TEST_F(ProgressFractionTest, SubTaskThatTellsNoStepsTakesAsManyAsItWeighs) {
     EXPECT_DOUBLE_EQ(seen_.fraction, 0.4);
 }
 
+// As that of a field which a load makes the host fetch.
+TEST_F(ProgressFractionTest, BarInsideAnotherIsNotShown) {
+    bar_->step();
+    const std::unique_ptr<TaskProgress> inner = createTaskProgressBar(4);
+    inner->step();
+    EXPECT_DOUBLE_EQ(seen_.fraction, 0.5);
+}
+
+TEST_F(ProgressFractionTest, BarInsideAnotherDoesNotCloseIt) {
+    bar_->step();
+    createTaskProgressBar(4).reset();
+    EXPECT_TRUE(seen_.open);
+    bar_.reset();
+    EXPECT_FALSE(seen_.open);
+}
+
 TEST_F(ProgressFractionTest, NeverGoesBack) {
     bar_->step();
     EXPECT_DOUBLE_EQ(seen_.fraction, 0.5);

@@ -16,6 +16,18 @@ TEST_F(TextTest, BlockOfNoBytesIsABlock) {
     EXPECT_TRUE(static_cast<bool>(none));
 }
 
+TEST_F(TextTest, ArrayThatWasMovedFromIsEmpty) {
+    HostArray<double> source = HostArray<double>::allocate(3, "three");
+    HostArray<double> constructed(std::move(source));
+    EXPECT_EQ(constructed.count(), 3);
+    EXPECT_EQ(source.count(), 0);
+    EXPECT_EQ(source.begin(), source.end());
+    HostArray<double> assigned;
+    assigned = std::move(constructed);
+    EXPECT_EQ(assigned.count(), 3);
+    EXPECT_EQ(constructed.count(), 0);
+}
+
 TEST_F(TextTest, BlockOfNegativeSizeIsRefused) {
     EXPECT_EQ(QuorUtilStringAlloc(-1, "negative"), nullptr);
     expectViolations({"QuorUtilStringAlloc: negative size, or no label"});

@@ -153,6 +153,24 @@ TEST_F(InstructionKeys, RefuseACountThatIsNoneSilently) {
     EXPECT_TRUE(options_.hasSolutionFiles);
 }
 
+// Whoever looks at the options of a refused list finds the kinds of files that were named.
+TEST_F(InstructionKeys, NameTheKindOfFilesAlsoWhenTheirListIsRefused) {
+    for (const Texts& list : {Texts{"many"}, Texts{""}, Texts{"2", "b.x"}, Texts{"1", ""}}) {
+        for (const char* key : {"FILELIST_GRIDFILES", "FILELIST_SOLUTIONFILES"}) {
+            Texts all = {"STANDARDSYNTAX", "1.0", key};
+            all.insert(all.end(), list.begin(), list.end());
+            EXPECT_FALSE(parse(all));
+            EXPECT_EQ(options_.hasGridFiles, key == std::string("FILELIST_GRIDFILES"));
+            EXPECT_NE(options_.hasSolutionFiles, options_.hasGridFiles);
+        }
+    }
+}
+
+TEST_F(InstructionKeys, EmptyAnEarlierListAlsoWhenALaterOneIsRefused) {
+    EXPECT_EQ(faultOf({"FILELIST_GRIDFILES", "many"}), "");
+    EXPECT_EQ(options_.gridFiles, Texts());
+}
+
 TEST_F(InstructionKeys, RefuseEmptyNamesSilently) {
     EXPECT_EQ(faultOf({"FILELIST_SOLUTIONFILES", "2", "a.q", ""}), "");
     EXPECT_EQ(options_.solutionFiles, Texts{"a.q"});

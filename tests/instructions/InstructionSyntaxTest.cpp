@@ -111,6 +111,15 @@ TEST_F(InstructionSyntax, AppendsOnlyToADataSet) {
     EXPECT_EQ(faultOf({"APPEND", "Yes"}), "Cannot append without an existing data set.");
 }
 
+TEST_F(InstructionSyntax, TellsTheFirstFaultOfTheOptionsAlone) {
+    EXPECT_FALSE(parse({"STANDARDSYNTAX", "1.0", "APPEND", "Yes"})); // no data set, and no files
+    EXPECT_EQ(messages(), Texts{"Cannot append without an existing data set."});
+    EXPECT_FALSE(parse({"STANDARDSYNTAX", "1.0", "AUTODETECT", "No", "APPEND", "Yes"}));
+    EXPECT_EQ(messages(), Texts{"STYLE tag is required if AUTODETECT is FALSE."});
+    EXPECT_EQ(faultOf({"DATASTRUCTURE", "2D", "KINDEXRANGE", "1,,1", "APPEND", "Yes"}),
+              kRangeNotAllowed);
+}
+
 TEST_F(InstructionSyntax, AppendsToTheDataSetThatIsThere) {
     createDataSet();
     EXPECT_TRUE(parseStandard({"APPEND", "Yes"}));

@@ -199,7 +199,10 @@ TEST_F(DatasetCompatibility, MakesNoVariablesThatTheFileCannotHold) {
     useFiles({gridFile("a.x", oneGrid)}, {}, {absurdFunctions()});
     options.append = true;
     EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()});
+    EXPECT_EQ(messages(),
+              (Texts{"The counts in the file's header do not fit the file.\nFile: " +
+                         options.functionFiles.front(),
+                     "Invalid Plot 3D grid file.\nFile: " + options.gridFiles.front()}));
     EXPECT_EQ(variableNames(), gridAndSolution);
     EXPECT_EQ(zoneCount(), 1);
 }
@@ -224,12 +227,11 @@ TEST_F(DatasetCompatibility, WantsAZoneForEachGridOfASolution) {
     EXPECT_EQ(refusal(), fault);
 }
 
-TEST_F(DatasetCompatibility, WantsAZoneForEachGridOfFunctionsThatPassForASolution) {
+TEST_F(DatasetCompatibility, TakesNoFunctionsThatPassForASolution) {
     makeDataSet(gridAndSolution, 1);
     useFiles({}, {functionFile("a.q", {{2, 3, 5}, {2, 3, 5}}, 2)});
-    EXPECT_EQ(refusal(), "Not allowed to replace solution in existing dataset that has fewer "
-                         "number of zones (1) than the number of grids retrieved from in the "
-                         "solution files (2).");
+    EXPECT_EQ(refusal(), "You can not load function files or solution files only. You must load "
+                         "grid and solution files along with function files. ");
 }
 
 std::string variableFault(int there, int needed) {
@@ -279,6 +281,76 @@ TEST_F(DatasetCompatibility, ComparesTheLastZones) {
     EXPECT_EQ(refusal(), sizeFault(4, 1));
 }
 
+class ZonesOfElements : public DatasetCompatibility {
+protected:
+    /// A zone of 7 nodes, whatever the host says that it consists of.
+    void makeZoneOfType(std::int32_t type, std::int64_t nodes = 7) {
+        host().clearLog();
+        makeDataSet(gridAndSolution, 1);
+        host::Zone& zone = *host().frame().dataSet()->zone(1);
+        zone.type = type;
+        zone.i = nodes;
+        zone.j = 5;
+        zone.k = type == QuorZoneType_Triangles ? 3 : 4;
+    }
+    void useNodes(std::int32_t nodes) {
+        useSolution({{nodes, 0, 0}}, Layout_e::Unstructured);
+        options.autoDetect = false;
+        options.isMultiGrid = true;
+        options.style = Plot3DStyle_Classic;
+        options.dataStructure = Plot3DDataStructure_Unstructured;
+    }
+};
+
+constexpr std::int32_t otherElements = 2; // a type that PLOT3D does not know
+
+TEST_F(ZonesOfElements, AreComparedByTheirNodesIfTheyAreTrianglesOrTetrahedra) {
+    for (const std::int32_t type : {QuorZoneType_Triangles, QuorZoneType_Tetrahedra}) {
+        makeZoneOfType(type);
+        useNodes(11);
+        EXPECT_EQ(refusal(), sizeFault(1, 1));
+        makeZoneOfType(type);
+        useNodes(7);
+        EXPECT_TRUE(passes());
+    }
+}
+
+// They pass this check, and another one looks whether the values fit.
+TEST_F(ZonesOfElements, OfOtherTypesAreNotCompared) {
+    makeZoneOfType(otherElements);
+    useNodes(11);
+    EXPECT_EQ(refusal(), "The solution file does not fit the zones that are there.\nFile: " +
+                             options.solutionFiles.front());
+}
+
+TEST_F(ZonesOfElements, OfOtherTypesDoNotGiveTheirsToNewZones) {
+    for (const std::int32_t type : {otherElements, std::int32_t{QuorZoneType_Ordered}}) {
+        makeZoneOfType(type);
+        useNodes(7);
+        options.append = true;
+        EXPECT_FALSE(load());
+        EXPECT_TRUE(host().log().undo.empty());
+        EXPECT_EQ(
+            messages(),
+            (Texts{"Zone 1 has neither triangles nor tetrahedra that a zone of an "
+                   "unstructured solution could have.",
+                   "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.front()}));
+        EXPECT_EQ(zoneCount(), 1);
+    }
+}
+
+TEST_F(ZonesOfElements, OfOtherTypesAreLeftByAReplacementThatWouldAddZones) {
+    makeZoneOfType(otherElements);
+    const std::string name = host().frame().dataSet()->zone(1)->name;
+    useNodes(7);
+    options.solutionFiles.push_back(solutionFile("b.q", {{7, 0, 0}}, 2, Layout_e::Unstructured));
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages().size(), 2U);
+    EXPECT_EQ(messages().back(),
+              "Invalid Plot 3D solution file.\nFile: " + options.solutionFiles.back());
+    EXPECT_EQ(host().frame().dataSet()->zone(1)->name, name);
+}
+
 TEST_F(DatasetCompatibility, LooksSizesUpByTheNumberAmongTheSelected) {
     makeDataSet(gridAndSolution, 2);
     useSolution({{2, 3, 7}, {2, 3, 5}});
@@ -286,12 +358,24 @@ TEST_F(DatasetCompatibility, LooksSizesUpByTheNumberAmongTheSelected) {
     EXPECT_EQ(refusal(), sizeFault(2, 1));
 }
 
-TEST_F(DatasetCompatibility, WarnsOfBoundaryZonesWhereSizesDiffer) {
+TEST_F(DatasetCompatibility, DoesNotWarnOfBoundaryZonesWithoutABoundaryFile) {
     makeDataSet(gridAndSolution, 1);
     useSolution(otherSize);
     options.loadBoundary = true;
     EXPECT_FALSE(load()); // the boundary file is looked for beside a grid file and not found
     EXPECT_EQ(messages().back(), sizeFault(1, 1));
+}
+
+// No instructions and no dialog name a grid file without the flag.
+TEST_F(DatasetCompatibility, WarnsOfBoundaryZonesWhereSizesDiffer) {
+    makeDataSet(gridAndSolution, 1);
+    useFiles({gridFile("a.x", otherSize)}, {solutionFile("a.q", otherSize, 1)});
+    options.hasGridFiles = false;
+    directory.write("a.x.fvbnd", "FVBND 1 4\nBOUNDARIES\n");
+    options.loadBoundary = true;
+    EXPECT_EQ(refusal(), sizeFault(1, 1) +
+                             "\nThe existence of boundary zones will not allow appending. Please "
+                             "remove the boundary file or load all files at the same time.");
 }
 
 } // namespace

@@ -14,6 +14,10 @@ const std::string noBoundaryFile =
     "The boundary file does not exist in the same directory as the grid file and will not be "
     "loaded.This may have an effect on the dataset if anything relies on the boundary zones.";
 
+const std::string functionsAlone =
+    "You can not load function files or solution files only. You must load grid and solution files "
+    "along with function files. ";
+
 class LoadDriver : public LoaderTest {
 protected:
     /// The value behind a key of the instructions that were handed over.
@@ -157,8 +161,56 @@ TEST_F(LoadDriver, RefusesFunctionFilesForANewDataSetWithoutAGrid) {
     useFiles({}, {function});
     options.hasGridFiles = true;
     EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"Invalid Plot 3D function file.\nFile: " + function});
+    EXPECT_EQ(messages(), Texts{functionsAlone});
     EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+TEST_F(LoadDriver, RefusesARangeThatIsTurnedRoundAheadOfAllFiles) {
+    const std::string name = gridFile("a.x", twoGrids);
+    for (auto range : {&Plot3DLoadOptions_s::iRange, &Plot3DLoadOptions_s::jRange,
+                       &Plot3DLoadOptions_s::kRange}) {
+        host().clearLog();
+        makeOldDataSet({"old"}, 1);
+        useFiles({name});
+        options.*range = {10, 9, 7};
+        EXPECT_FALSE(load(fromSelection));
+        EXPECT_EQ(messages().size(), 1U);
+        EXPECT_EQ(messages().back().substr(1),
+                  "-Range Error: end must be greater than or equal to start.");
+        EXPECT_EQ(variableNames(), Texts{"old"});
+        options.*range = {1, 0, 1};
+    }
+}
+
+TEST_F(LoadDriver, TellsOfTheFirstRangeThatIsTurnedRound) {
+    useFiles({gridFile("a.x", twoGrids)});
+    options.jRange = {3, 2, 1};
+    options.kRange = {3, 1, 1};
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"J-Range Error: end must be greater than or equal to start."});
+}
+
+TEST_F(LoadDriver, RefusesARangeThatIsTurnedRoundOfAppendedFunctionsToo) {
+    useFiles({gridFile("a.x", twoGrids)});
+    ASSERT_TRUE(load());
+    const Texts variables = variableNames();
+    useFiles({}, {}, {functionFile("f.fun", twoGrids, 2)});
+    options.append = true;
+    options.iRange = {2, 1, 1};
+    EXPECT_FALSE(load());
+    EXPECT_EQ(messages(), Texts{"I-Range Error: end must be greater than or equal to start."});
+    EXPECT_EQ(variableNames(), variables);
+}
+
+// Counted from the last index: 0 is the last one itself, -1 the one before it.
+TEST_F(LoadDriver, TakesARangeWhoseEndIsCountedFromTheLastIndex) {
+    for (const auto& [end, points] : {std::pair{0, 3}, {-1, 2}, {3, 1}, {9, 3}}) {
+        host().clearLog();
+        useFiles({gridFile("a.x", {{2, 3, 5}})});
+        options.kRange = {3, end, 1};
+        EXPECT_TRUE(load()) << end;
+        EXPECT_EQ(host().frame().dataSet()->zone(1)->k, points) << end;
+    }
 }
 
 TEST_F(LoadDriver, MakesOneStepOfFunctionFilesWithoutTimes) {
@@ -309,8 +361,6 @@ TEST_F(LoadDriver, LoadsAgainInPlaceOfWhatIsThere) {
     EXPECT_TRUE(load());
     EXPECT_EQ(zoneCount(), 2);
 }
-
-// What this version does not do must never pass in silence, nor touch what is in the frame.
 
 } // namespace
 } // namespace quorvia::testsupport

@@ -11,6 +11,8 @@ using namespace quorutildataio;
 using Members = std::vector<std::int64_t>;
 
 const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
+const GridList onePlane = {{5, 7, 1}};
+const GridList oneLine = {{7, 1, 1}};
 const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 /// What a load told: state changes by code, undo states as they ended, and the screen.
@@ -37,6 +39,18 @@ protected:
     }
     void loadFirstGridAlone() {
         useFiles({gridFile("a.x", twoGrids)});
+        ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
+        begin();
+    }
+    void loadFirstPlane() {
+        useFiles({gridFile("a.x", onePlane, Layout_e::TwoD)});
+        ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
+        begin();
+    }
+    /// With a solution at time 1.
+    void loadFirstLine() {
+        useFiles({gridFile("a.x", oneLine, Layout_e::OneD)},
+                 {solutionFile("a.q", oneLine, 1, Layout_e::OneD)});
         ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
         begin();
     }
@@ -169,10 +183,32 @@ TEST_F(LoadKinds, AppendingAGridAddsZones) {
 }
 
 TEST_F(LoadKinds, AppendingNeverChangesThePlotType) {
-    loadFirst();
-    host().frame().setPlotType(QuorPlotType_3D);
-    appendFiles({gridFile("b.x", twoGrids)}, {});
-    EXPECT_EQ(plotType(), QuorPlotType_3D);
+    loadFirstLine();
+    host().frame().setPlotType(QuorPlotType_2D);
+    appendFiles({}, {solutionFile("b.q", oneLine, 2, Layout_e::OneD)});
+    EXPECT_EQ(plotType(), QuorPlotType_2D);
+}
+
+TEST_F(LoadKinds, AppendingAPlaneNeverChangesThePlotType) {
+    for (const std::int32_t plotType : {QuorPlotType_XY, QuorPlotType_Polar}) {
+        begin();
+        loadFirstPlane();
+        host().frame().setPlotType(plotType);
+        appendFiles({gridFile("b.x", onePlane, Layout_e::TwoD)}, {});
+        EXPECT_EQ(host().frame().plotType(), plotType);
+    }
+}
+
+TEST_F(LoadKinds, AppendedZonesAreStyledInPlotsOfTwoAndThreeDimensionsAlone) {
+    const std::pair<std::int32_t, std::size_t> plots[] = {
+        {QuorPlotType_2D, 1}, {QuorPlotType_XY, 0}, {QuorPlotType_Polar, 0}};
+    for (const auto& [plotType, count] : plots) {
+        begin();
+        loadFirstPlane();
+        host().frame().setPlotType(plotType);
+        appendFiles({gridFile("b.x", onePlane, Layout_e::TwoD)}, {});
+        EXPECT_EQ(host().log().autoStyledZones, std::vector<Members>(count, {2})) << plotType;
+    }
 }
 
 TEST_F(LoadKinds, AppendingAGridWithIBlankAddsTheVariableToTheOldZones) {
@@ -205,15 +241,43 @@ TEST_F(LoadKinds, AppendingASolutionJoinsTheStrandsIfAskedTo) {
     EXPECT_EQ(solutionTimes(), (std::vector<double>{1, 1, 2, 2}));
 }
 
+class AppendedStrands : public LoadKinds {
+protected:
+    /// Two time steps on grids of their own, the second of which has one more.
+    void appendUnlikeSteps() {
+        GridList threeGrids = twoGrids;
+        threeGrids.push_back({5, 7, 11});
+        options.uniformGridStructure = false;
+        appendFiles({gridFile("b.x", twoGrids), gridFile("c.x", threeGrids)},
+                    {solutionFile("b.q", twoGrids, 2), solutionFile("c.q", threeGrids, 3)});
+    }
+};
+
+TEST_F(AppendedStrands, OfUnlikeGridsAreNewForEachStep) {
+    loadFirst();
+    appendUnlikeSteps();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 3, 4, 5, 6, 7}));
+}
+
+TEST_F(AppendedStrands, ThatJoinThoseThereAreNotNewForEachStep) {
+    loadFirst();
+    options.addToExistingStrands = true;
+    appendUnlikeSteps();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 1, 2, 1, 2, 3}));
+}
+
+TEST_F(AppendedStrands, OfUnlikeGridsGoOnFromStepToStepIfNotToBeNew) {
+    loadFirst();
+    options.assignNewStrandIdForEachTimeStep = false;
+    appendUnlikeSteps();
+    EXPECT_EQ(strands(), (std::vector<std::int32_t>{1, 2, 3, 4, 3, 4, 5}));
+}
+
 // A 1-D solution has three variables, so that with its grid it still counts as one.
 TEST_F(LoadKinds, AppendingASolutionToALoneGridPutsItOnTheZonesThatAreThere) {
-    const GridList line = {{7, 1, 1}};
-    useFiles({gridFile("a.x", line, Layout_e::OneD)},
-             {solutionFile("a.q", line, 1, Layout_e::OneD)});
-    ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
+    loadFirstLine();
     ASSERT_EQ(variableNames().size(), 4U);
-    begin();
-    appendFiles({}, {solutionFile("b.q", line, 2, Layout_e::OneD)});
+    appendFiles({}, {solutionFile("b.q", oneLine, 2, Layout_e::OneD)});
     EXPECT_EQ(told(), (Told_s{{{QuorStateChange_ZonesAdded, {1}}}, {true}, 0}));
     EXPECT_EQ(zoneNames(), Texts{"b.q:1"});
     EXPECT_EQ(strands(), std::vector<std::int32_t>{2});
@@ -221,13 +285,9 @@ TEST_F(LoadKinds, AppendingASolutionToALoneGridPutsItOnTheZonesThatAreThere) {
 }
 
 TEST_F(LoadKinds, AppendingToALoneGridRewritesNoValuesInTheCells) {
-    const GridList line = {{7, 1, 1}};
-    useFiles({gridFile("a.x", line, Layout_e::OneD)},
-             {solutionFile("a.q", line, 1, Layout_e::OneD)});
-    ASSERT_TRUE(load());
-    begin();
+    loadFirstLine();
     host().frame().dataSet()->field(1, 4)->location = QuorValueLocation_CellCentred;
-    useFiles({}, {solutionFile("b.q", line, 2, Layout_e::OneD)});
+    useFiles({}, {solutionFile("b.q", oneLine, 2, Layout_e::OneD)});
     options.append = true;
     EXPECT_FALSE(load());
     EXPECT_EQ(messages(), Texts{"Solution variables must all be nodal in the existing dataset if "
@@ -312,6 +372,16 @@ TEST_F(AppendedFunctions, SayLessOfGridsThatDiffer) {
     loadFirst();
     options.uniformGridStructure = false;
     EXPECT_EQ(refusal({functionFile("a.fun", twoGrids, 2), functionFile("b.fun", twoGrids, 2)}),
+              zoneRule);
+}
+
+// Three zones for two and one grids would do, were they counted file by file.
+TEST_F(AppendedFunctions, CountTheGridsOfTheFirstFileForEach) {
+    loadFirst();
+    appendFiles({gridFile("b.x", {{2, 3, 5}})}, {});
+    begin();
+    options.uniformGridStructure = options.solutionsShareStructure = false;
+    EXPECT_EQ(refusal({functionFile("a.fun", twoGrids, 2), functionFile("b.fun", {{2, 3, 5}}, 2)}),
               zoneRule);
 }
 

@@ -58,6 +58,38 @@ TEST_F(TimeStepsOfOneTime, LeaveAnEmptyFrameOnCancel) {
     EXPECT_FALSE(host().log().instructionsHandedOver);
 }
 
+// The new zones stand behind those that are there, which keep their times.
+TEST_F(TimeStepsOfOneTime, ThatAreAppendedTakeTheTimesOfTheirNamesAlone) {
+    useFiles({gridFile("a.x", twoGrids)}, {solutionFile("a.q", twoGrids, 1)});
+    ASSERT_TRUE(load());
+    useSteps({"q_2.q", "q_5.q"});
+    options.append = true;
+    EXPECT_TRUE(load()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{1, 1, 2, 2, 5, 5}));
+}
+
+TEST_F(TimeStepsOfOneTime, ThatAreAppendedWithoutAGridTakeTheTimesOfTheirNamesAlone) {
+    useFiles({gridFile("a.x", twoGrids)}, {solutionFile("a.q", twoGrids, 1)});
+    ASSERT_TRUE(load());
+    useSteps({"q_2.q", "q_5.q"});
+    options.gridFiles.clear();
+    options.hasGridFiles = false;
+    options.append = true;
+    EXPECT_TRUE(load()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{1, 1, 2, 2, 5, 5}));
+}
+
+// The zones that are there count as existing when the first step has taken them.
+TEST_F(TimeStepsOfOneTime, ThatReplaceASolutionCountFromBehindTheFirstStep) {
+    useFiles({gridFile("a.x", twoGrids)}, {solutionFile("a.q", twoGrids, 1)});
+    ASSERT_TRUE(load());
+    useSteps({"q_2.q", "q_5.q"});
+    options.gridFiles.clear();
+    options.hasGridFiles = false;
+    EXPECT_TRUE(load()) << ::testing::PrintToString(messages());
+    EXPECT_EQ(solutionTimes(), (std::vector<double>{0.25, 0.25, 2, 2}));
+}
+
 TEST_F(TimeStepsOfOneTime, AreAskedForOnEveryRoute) {
     useSteps({"a.q", "b.q"});
     host().setAnswers({}, yes);

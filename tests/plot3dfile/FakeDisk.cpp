@@ -29,7 +29,7 @@ public:
         return count;
     }
 
-    std::int64_t size() override { return contents_->size; }
+    std::int64_t size() override { return disk_.tellsNoSize ? -1 : contents_->size; }
 
 private:
     void copyOut(std::int64_t position, char* target, std::int64_t count) const {

@@ -31,6 +31,7 @@ public:
     // does.
     std::int64_t failingRead = 0;
     std::int64_t halvedRead = 0;
+    bool tellsNoSize = false; // of its files
 
     std::int64_t readCount = 0;
     std::int64_t bytesRead = 0;

@@ -113,9 +113,29 @@ TEST_F(FileRecord, CopyHasTheStructureAndItsOwnName) {
     EXPECT_EQ(copy->markerSize, 8U);
     EXPECT_EQ(copy->fileSize, 20);
     EXPECT_EQ(copy->numVars, 5);
+    EXPECT_EQ(copy->numGrids, 1);
     EXPECT_TRUE(copy->relaxedChecks);
     EXPECT_EQ(copy->segmentBoundaries, file->segmentBoundaries);
     EXPECT_EQ(copy->gridDims, std::vector<Plot3DGridDims_s>({{2, 3, 5}}));
+}
+
+TEST_F(FileRecord, CopyHasEveryWordOfTheStructure) {
+    openText("3*7");
+    file->dataStructure = Plot3DDataStructure_2D;
+    file->style = Plot3DStyle_Swift;
+    file->isSolutionOrFunction = file->isMultiGrid = file->hasIBlank = true;
+    file->isDoublePrecision = file->inSegmentedRecord = file->solutionsShareStructure = true;
+    file->numScalars = 5;
+    file->numSpecies = 7;
+    Plot3DFilePtr copy;
+    ASSERT_TRUE(copyPlot3DFile(*file, copy, "other.x"));
+    EXPECT_EQ(copy->dataStructure, Plot3DDataStructure_2D);
+    EXPECT_EQ(copy->style, Plot3DStyle_Swift);
+    EXPECT_TRUE(copy->isSolutionOrFunction && copy->isMultiGrid && copy->hasIBlank);
+    EXPECT_TRUE(copy->isDoublePrecision && copy->inSegmentedRecord);
+    EXPECT_TRUE(copy->solutionsShareStructure);
+    EXPECT_EQ(copy->numScalars, 5);
+    EXPECT_EQ(copy->numSpecies, 7);
 }
 
 TEST_F(FileRecord, CopyHasNoTimeNoOffsetsAndNoReadingState) {

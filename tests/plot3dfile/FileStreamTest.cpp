@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -173,6 +174,81 @@ TEST_F(Stream, BytesAbove127AreNoNegativeCharacters) {
 
 TEST_F(Stream, MissingFileDoesNotOpen) {
     EXPECT_EQ(FileStream::open("missing"), nullptr);
+}
+
+// ---- Watched
+
+constexpr std::int64_t mebibyte = 1024 * 1024;
+
+class Watch : public ReadWatch {
+public:
+    bool goesOn(std::int64_t byteCount) override {
+        asked.push_back(byteCount);
+        return std::ssize(asked) < stopsAt;
+    }
+    std::vector<std::int64_t> asked;
+    std::int64_t stopsAt = 1'000'000;
+};
+
+class WatchedStream : public Stream {
+protected:
+    /// A file of zeros, with a mark at its end.
+    FileStream& openBig(std::int64_t byteCount) {
+        disk.place("f", byteCount, byteCount - 4, "mark");
+        stream = FileStream::open("f");
+        stream->watchWith(&watch);
+        return *stream;
+    }
+    Watch watch;
+};
+
+TEST_F(WatchedStream, AsksNothingOfUpTo64MiB) {
+    openBig(64 * mebibyte);
+    EXPECT_EQ(read(64 * mebibyte).substr(64 * mebibyte - 4), "mark");
+    EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
+    EXPECT_EQ(disk.readCount, 1);
+}
+
+TEST_F(WatchedStream, AsksBehind64MiBAndThenEvery8) {
+    openBig(81 * mebibyte);
+    EXPECT_EQ(read(81 * mebibyte).substr(81 * mebibyte - 4), "mark");
+    EXPECT_EQ(watch.asked, std::vector<std::int64_t>({64 * mebibyte, 8 * mebibyte, 8 * mebibyte}));
+    EXPECT_EQ(stream->tell(), 81 * mebibyte);
+}
+
+TEST_F(WatchedStream, CountsSmallReadsToo) {
+    openBig(90 * mebibyte);
+    std::string part(1000, '\0');
+    while (stream->readExactly(part.data(), 1000))
+        continue;
+    ASSERT_EQ(watch.asked.size(), 4U);
+    EXPECT_GE(watch.asked[0], 64 * mebibyte);
+    EXPECT_LT(watch.asked[0] + watch.asked[1], 73 * mebibyte);
+}
+
+TEST_F(WatchedStream, EndsForGoodOnceItIsStopped) {
+    watch.stopsAt = 2;
+    openBig(90 * mebibyte);
+    EXPECT_EQ(std::ssize(read(90 * mebibyte)), 72 * mebibyte);
+    EXPECT_TRUE(stream->wasStopped() && stream->hadReadError());
+    stream->seek(0);
+    EXPECT_EQ(read(1), "");
+    EXPECT_EQ(stream->readCharacter(), -1);
+    EXPECT_EQ(watch.asked.size(), 2U);
+}
+
+TEST_F(WatchedStream, AsksNobodyOnceTheWatchIsOver) {
+    openBig(90 * mebibyte).watchWith(nullptr);
+    EXPECT_EQ(std::ssize(read(90 * mebibyte)), 90 * mebibyte);
+    EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
+}
+
+TEST_F(WatchedStream, BeginsToCountWhenTheWatchBegins) {
+    openBig(120 * mebibyte).watchWith(nullptr);
+    read(60 * mebibyte);
+    stream->watchWith(&watch);
+    read(60 * mebibyte);
+    EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
 }
 
 } // namespace

@@ -86,6 +86,16 @@ TEST_F(RecordMarker, RefusesNegativeOf8BytesInEveryCase) {
     EXPECT_EQ(length, std::numeric_limits<std::int64_t>::max());
 }
 
+TEST_F(RecordMarker, RefusesNegativeOf8BytesAlsoInsideAChain) {
+    for (const std::int64_t marker : {-12LL, static_cast<long long>(fullSegmentMarker)}) {
+        openFortran(FileBytes(Order::Native, 8).marker(marker).str());
+        file->markerSize = 8;
+        file->inSegmentedRecord = true;
+        EXPECT_EQ(readAgain(), -1) << marker;
+        EXPECT_TRUE(file->inSegmentedRecord);
+    }
+}
+
 class RecordWalk : public testsupport::RecordFixture {
 protected:
     bool tiles(const FileBytes& bytes, std::uint32_t markerSize = 4) {

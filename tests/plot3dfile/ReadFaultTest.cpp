@@ -129,17 +129,6 @@ TEST_F(ReadFault, InRecordsIsFalse) {
     });
 }
 
-// The file can still be a file of another encoding, or of text; it must only come to an end.
-TEST_F(ReadFault, WhileSniffingEndsInSomeEncoding) {
-    for (std::int64_t read = 1; read < 12; ++read) {
-        disk.failingRead = read;
-        sniff(FileBytes(Order::Swapped, 8).record(std::string(9001, '\1')).record("ab").str());
-        EXPECT_NE(file->encoding, Plot3DEncoding_Unknown);
-        disk.failingRead = 0;
-    }
-    EXPECT_EQ(messages(), Texts());
-}
-
 TEST_F(ReadFault, FileThatVanishedBetweenTwoOpensIsTold) {
     sniff("2 3 5");
     disk.remove("wing.x");

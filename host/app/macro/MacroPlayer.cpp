@@ -1,5 +1,6 @@
 #include "app/macro/MacroPlayer.h"
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <utility>
@@ -150,6 +151,8 @@ public:
         throw NoAddOn();
     }
 
+    bool lastLoadLeftOut() const { return lastLoadLeftOut_; }
+
     /// Ends the session.
     SessionOutcome_s finish() {
         Outcome_s outcome = describe();
@@ -164,10 +167,19 @@ private:
     template <typename Import>
     std::string load(Import import) {
         const std::int64_t launchesBefore = host_.toolkit().launches();
+        const std::size_t messagesBefore = host_.log().messages.size();
         lastLoad_ = faults_.during(host_, import);
+        lastLoadLeftOut_ = lastLoad_.ok && toldAnErrorSince(messagesBefore);
         if (host_.toolkit().launches() == launchesBefore)
             return endingOfLoad();
         return endingOfLoad() + endDialogScript();
+    }
+
+    bool toldAnErrorSince(std::size_t first) const {
+        const std::vector<Message>& messages = host_.log().messages;
+        return std::any_of(
+            messages.begin() + static_cast<std::ptrdiff_t>(first), messages.end(),
+            [](const Message& message) { return message.kind == MessageKind::Error; });
     }
 
     std::string endingOfLoad() const {
@@ -215,6 +227,7 @@ private:
     ReferenceHost& host_;
     std::unique_ptr<AddOnLibrary> library_;
     LoadResult lastLoad_;
+    bool lastLoadLeftOut_ = false;
     PlannedFaults faults_;
     OutcomeSlices slices_;
     std::vector<std::pair<std::string, Outcome_s>> descriptions_;
@@ -296,6 +309,7 @@ PlayedMacro_s playMacro(const Macro_s& macro, const PlaySettings_s& settings, Re
     Player player(settings, host);
     played.complete = playCommands(macro, settings, player, played);
     played.session = player.finish();
+    played.lastLoadLeftOut = player.lastLoadLeftOut();
     return played;
 }
 

@@ -30,6 +30,8 @@ struct PlayedMacro_s {
     std::vector<CommandAccount_s> account; // of the commands that were carried out, in order
     /// Whether every command was carried out. A load that fails was, too.
     bool complete = false;
+    /// The last load came in, but an error was shown, so that something was left out of it.
+    bool lastLoadLeftOut = false;
     std::string problem; // why not, if the session's outcome doesn't tell it; in one line
 };
 

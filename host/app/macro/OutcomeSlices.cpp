@@ -17,7 +17,7 @@ void dropTold(Entries& entries, std::size_t& told) {
 
 void OutcomeSlices::cut(Outcome_s& outcome) {
     dropTold(outcome.messages, messages_);
-    dropTold(outcome.progress, progress_);
+    outcome.progress.dropFirst(std::exchange(progress_, outcome.progress.count()));
     dropTold(outcome.stateChanges, stateChanges_);
     dropTold(outcome.undo, undo_);
     outcome.redraws -= std::exchange(redraws_, outcome.redraws);

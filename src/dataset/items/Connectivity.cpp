@@ -42,7 +42,7 @@ bool setUpConnectivityItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t z
     }
     const bool ok =
         readElements(file, include, nodeMap, file.gridDims[static_cast<std::size_t>(grid)]);
-    if (!ok && report)
+    if (!ok && report && !file.stream->wasStopped())
         QuorUtilDialogErrMsg(
             ("Corrupt Connectivity List, Grid=" + integerToText(grid + 1) + ".").c_str());
     return ok;

@@ -2,6 +2,7 @@
 
 #include "dataset/items/Connectivity.h"
 #include "dataset/items/Scalars.h"
+#include "dataset/ondemand/LongReads.h"
 
 namespace quorvia::quorutildataio {
 
@@ -27,6 +28,8 @@ bool scanFile(Plot3DFile_s& file, QuorSetHandle gridSet, Plot3DItemContext_s& co
     if (file.isSolutionOrFunction && file.hasIBlank)
         return false;
     constexpr bool report = true;
+    LoadWatch watch;
+    const WatchedReading watched(*file.stream, watch);
     const Plot3DItemReceiver_s receiver = {dispatchItem, setFunctionZoneSolutionTime, &context};
     return parseLayout(file, report, gridSet, &receiver);
 }

@@ -15,7 +15,8 @@ bool dispatchItem(Plot3DFile_s& file, Plot3DItemKind_e kind, std::int32_t grid, 
                   void* clientData);
 
 /// Scans the open file with the parser of its structure, item by item into dispatchItem. A solution
-/// or function file with I-blank is refused without a message.
+/// or function file with I-blank is refused without a message. A long read asks whether the user
+/// has interrupted; one that was stopped tells nothing here.
 bool scanFile(Plot3DFile_s& file, QuorSetHandle gridSet, Plot3DItemContext_s& context);
 
 /// Sets up one field, or one K plane of one: registers it for load on demand if it is a whole field

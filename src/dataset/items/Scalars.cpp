@@ -168,7 +168,7 @@ bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool 
     const bool ok = forEachScalar(file, setItem, setTime);
     if (ok)
         passOverMoreGammas(file);
-    if (!ok && report)
+    if (!ok && report && !file.stream->wasStopped())
         QuorUtilDialogErrMsg("Error loading Scalars.");
     return ok;
 }
@@ -208,8 +208,11 @@ bool setFunctionZoneSolutionTime(Plot3DFile_s& file, std::int32_t zone, bool inc
     if (context.solutionTimes->empty())
         return true;
     const auto named = context.solutionTimes->find(file.fileName.str());
-    if (named == context.solutionTimes->end())
+    if (named == context.solutionTimes->end()) {
+        reportFileError(file, "The function file has no solution time: the times were taken from "
+                              "the names of the solution files.");
         return false;
+    }
     if (include) // a grid that is not loaded has no zone of its own to set
         storeSolutionTime(file, context.firstZone + zone, named->second);
     return true;

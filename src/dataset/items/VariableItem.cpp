@@ -6,6 +6,7 @@
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
 
@@ -42,8 +43,9 @@ bool failWith(bool report, const char* text) {
     return false;
 }
 
-bool failItem(const VariableItem& item, bool report) {
-    return failWith(report,
+/// Nothing is told of a read that the user has stopped.
+bool failItem(const Plot3DFile_s& file, const VariableItem& item, bool report) {
+    return failWith(report && !file.stream->wasStopped(),
                     item.isIBlank ? "Error loading IBlank Variable." : "Error loading Variable.");
 }
 
@@ -60,9 +62,22 @@ bool hasFilePrecision(const Plot3DFile_s& file, std::int32_t type) {
     return type == (file.isDoublePrecision ? QuorFieldDataType_Double : QuorFieldDataType_Float);
 }
 
+/// Its variables have the precision of the files that they came with, and the load's own message
+/// names one of those.
+void reportFunctionPrecision(const Plot3DFile_s& file, std::int32_t type) {
+    if (!isFunctionFile(file) ||
+        (type != QuorFieldDataType_Float && type != QuorFieldDataType_Double))
+        return;
+    reportFileError(file, file.isDoublePrecision
+                              ? "The function file has values of 64 bits, its variables of 32."
+                              : "The function file has values of 32 bits, its variables of 64.");
+}
+
 bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t type, bool report) {
     if (item.isIBlank || hasFilePrecision(file, type))
         return true;
+    if (report)
+        reportFunctionPrecision(file, type);
     return failWith(report, "Datatype mismatch while attempting to replace a solution var.");
 }
 
@@ -86,9 +101,9 @@ bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, 
         !registerLodVariable(Plot3DVarRepo::instance().getVariable(file), item.hostZone,
                              item.hostVar, position, item.valueCount)) {
         failWith(report, "Failed to set up the variable.");
-        return failItem(item, report);
+        return failItem(file, item, report);
     }
-    return passOver(file, position, *byteCount.value()) || failItem(item, report);
+    return passOver(file, position, *byteCount.value()) || failItem(file, item, report);
 }
 
 Destination findDestination(const VariableItem& item) {
@@ -128,16 +143,16 @@ bool readNow(Plot3DFile_s& file, const VariableItem& item, bool report) {
     if (!checkType(file, item, target.type, report))
         return false;
     if (target.dest == nullptr)
-        return failItem(item, report);
+        return failItem(file, item, report);
     const bool ok =
         item.ranges.isSubset ? readSubset(file, item, target) : readBlock(file, item, true, target);
-    return ok || failItem(item, report);
+    return ok || failItem(file, item, report);
 }
 
 /// The block of a grid that is not loaded. Its length goes by the ends of the index ranges, like
 /// that of a loaded one.
 bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
-    return readBlock(file, item, false, Destination()) || failItem(item, report);
+    return readBlock(file, item, false, Destination()) || failItem(file, item, report);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <limits>
 #include <new>
 
+#include "dataset/ondemand/LongReads.h"
 #include "plot3dfile/file/Plot3DFile.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "quorvia/QuorUtilityLibrary.h"
@@ -52,6 +53,8 @@ bool readField(const Plot3DLodRecord_s& record, QuorFieldHandle field) {
     if (values == nullptr || width != widthAtHost(type) ||
         !isByteCountSane(record.numValues, width))
         return false;
+    FetchWatch watch(width * record.numValues);
+    const WatchedReading watched(*stream, watch);
     return readNumbersAcrossSegments(*stream, variable.byteSwap, variable.markerSize,
                                      variable.segmentBoundaries, variable.encoding, width,
                                      record.numValues, values);

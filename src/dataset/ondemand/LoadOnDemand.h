@@ -1,6 +1,7 @@
 // Fields that stay in their files: what the host keeps of one, and what it calls when it needs the
 // values. From a request to the host's array: one open, one positioned read, one pass for the byte
-// order. Nothing here depends on a load that is over.
+// order. A long read asks between its pieces whether it is to go on. Nothing here depends on a load
+// that is over.
 #pragma once
 
 #include <cstdint>
@@ -27,8 +28,9 @@ bool lodLoadCallback(QuorFieldHandle field);
 bool lodUnloadCallback(QuorFieldHandle field);
 void lodCleanupCallback(QuorFieldHandle field);
 
-/// Reads the field into the host's array. False: the file is gone (told to the user), too short, or
-/// the host threw; nothing is told of an interruption.
+/// Reads the field into the host's array. False: the file is gone (told to the user), too short,
+/// the host threw, or the user stopped the read, of which nothing is told; the array is partly
+/// written then, and the field can be read again.
 bool readLodVariable(const Plot3DLodRecord_s& record, QuorFieldHandle field);
 
 } // namespace quorvia::quorutildataio

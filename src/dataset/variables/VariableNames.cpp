@@ -22,11 +22,12 @@ constexpr std::int64_t plainOverflowVars = 6; // RHO to GAMMA; not reduced for a
 /// Sets names one behind the other.
 class NameWriter {
 public:
+    /// Without a list the names are counted and nothing else.
     explicit NameWriter(QuorStringListHandle names) : names_(names) {}
 
     void add(const char* name) {
         if (lastIndex_ == std::numeric_limits<std::int32_t>::max() ||
-            !QuorUtilStringListSetString(names_, lastIndex_ + 1, name))
+            (names_ != nullptr && !QuorUtilStringListSetString(names_, lastIndex_ + 1, name)))
             throw std::bad_alloc();
         ++lastIndex_;
     }
@@ -105,14 +106,17 @@ std::string functionName(std::int64_t ordinal, std::int64_t k) {
     return "F" + integerToText(ordinal) + "V" + integerToText(k);
 }
 
+std::int64_t countFunctionNames(const Plot3DFile_s& file) {
+    return std::min<std::int64_t>(file.numVars, fieldCountLimit(file));
+}
+
 void addFunctionNames(NameWriter& writer, const std::vector<Plot3DFile_s*>& files) {
     std::int32_t ordinal = 1;
     for (const Plot3DFile_s* file : files) {
         // Without an answer of the host the names may repeat some that are there; no reason to
         // stop.
         findFreeFunctionOrdinal(ordinal);
-        const std::int64_t count = std::min<std::int64_t>(file->numVars, fieldCountLimit(*file));
-        for (std::int64_t k = 1; k <= count; ++k)
+        for (std::int64_t k = 1; k <= countFunctionNames(*file); ++k)
             writer.add(functionName(ordinal, k));
         ++ordinal;
     }
@@ -193,6 +197,19 @@ std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
                      numFunctionVars);
     }
     return writer.lastIndex();
+}
+
+std::int64_t countVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
+                                std::int32_t numSolutionVars,
+                                const Plot3DFileHandler& firstHandler) {
+    NameWriter counter(nullptr);
+    addSpatialNames(counter, numSpatialVars, hasIBlank);
+    if (firstHandler.hasSolutionFile())
+        addSolutionNames(counter, firstHandler, numSolutionVars);
+    std::int64_t count = counter.lastIndex();
+    for (const Plot3DFile_s* file : firstHandler.functionFiles)
+        count += countFunctionNames(*file);
+    return count;
 }
 
 bool findFreeFunctionOrdinal(std::int32_t& ordinal) {

@@ -20,6 +20,11 @@ std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
                                 const Plot3DFileHandler& firstHandler, QuorStringListHandle names,
                                 const std::vector<Plot3DFileHandler>& handlers);
 
+/// How many names buildVariableNames would set, without asking the host anything.
+std::int64_t countVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
+                                std::int32_t numSolutionVars,
+                                const Plot3DFileHandler& firstHandler);
+
 /// Raises `ordinal` until no "F<ordinal>V<k>" is the name of a variable in the frame's data set.
 /// False: a host query failed or memory ran out.
 bool findFreeFunctionOrdinal(std::int32_t& ordinal);

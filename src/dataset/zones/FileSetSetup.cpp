@@ -4,6 +4,7 @@
 
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/variables/VariableFit.h"
 #include "dataset/zones/ZoneFit.h"
 #include "plot3dfile/file/OpenedFile.h"
 
@@ -91,12 +92,10 @@ private:
     /// Whether this file set is the one that later ones take positions and grids from.
     bool isPrimary() const { return request_.isFirstFileSet; }
 
-    /// Whether the data set has all variables from `firstVar` on that the file fills. A load onto
-    /// a data set that is there may have had no memory to add them.
+    /// The load was held against the variables of the data set before it began, but a host without
+    /// memory may have added none.
     bool hasVariablesFor(const Plot3DFile_s& file) const {
-        const std::int64_t last = std::int64_t{context_.firstVar} - 1 + file.numVars +
-                                  (file.hasIBlank && !file.isSolutionOrFunction ? 1 : 0);
-        return last <= request_.existingVarCount;
+        return checkVariablesFor(file, context_.firstVar, request_.existingVarCount);
     }
 
     /// Positions stand for whole fields of a binary file; the rest has to be read through.
@@ -115,8 +114,7 @@ private:
     }
 
     std::int32_t variablesAheadOfFunctions() const {
-        const bool hasIBlank = handler_.hasGridFile() && handler_.gridFile->hasIBlank;
-        return request_.numSpatialVars + (hasIBlank ? 1 : 0) +
+        return variablesAheadOfSolution() +
                (handler_.hasSolutionFile() ? request_.numSolutionVars : 0);
     }
 

@@ -29,7 +29,8 @@ struct Plot3DFileSetRequest_s {
 bool setUpFileSet(const Plot3DFileSetRequest_s& request);
 
 /// Makes the grid's fields of the zones from `destinationBaseZone` on those of the zones from
-/// `sourceBaseZone` on: shared, or copied if the host forbids sharing.
+/// `sourceBaseZone` on: shared, or copied if the host forbids or refuses that. A field that is
+/// passive in its source stays empty. False: a field can't be had, which has been told.
 bool shareGridVariables(const Plot3DLoadOptions_s& options, const Plot3DFileHandler& handler,
                         std::int32_t numSpatialVars, std::int32_t sourceBaseZone,
                         std::int32_t destinationBaseZone, bool hasIBlank);

@@ -2,6 +2,7 @@
 // scan of the first file noted.
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/Scalars.h"
@@ -19,12 +20,19 @@ using Offsets = HostArray<std::int64_t>;
 
 bool shareOrCopy(bool mayShare, std::int32_t sourceZone, std::int32_t destinationZone,
                  std::int32_t var) {
-    if (mayShare) {
-        QuorUtilDataValueShare(sourceZone, destinationZone, var); // refused: the field stays empty
-        return true;
-    }
-    return QuorUtilDataValueAlloc(destinationZone, var) &&
-           QuorUtilDataValueCopy(sourceZone, destinationZone, var);
+    return (mayShare && QuorUtilDataValueShare(sourceZone, destinationZone, var)) ||
+           (QuorUtilDataValueAlloc(destinationZone, var) &&
+            QuorUtilDataValueCopy(sourceZone, destinationZone, var));
+}
+
+/// A load that fails next says so of a file that has nothing to do with it.
+void reportUnshared(std::int32_t sourceZone, std::int32_t destinationZone, std::int32_t var) {
+    if (QuorUtilInterruptIsSet())
+        return; // told as such
+    const std::string text = "Variable " + std::to_string(var) + " of zone " +
+                             std::to_string(destinationZone) + " is that of zone " +
+                             std::to_string(sourceZone) + ", but can be neither shared nor copied.";
+    QuorUtilDialogErrMsg(text.c_str());
 }
 
 /// Points of a whole grid; nodes of an unstructured one.
@@ -103,11 +111,17 @@ bool shareGridVariables(const Plot3DLoadOptions_s& options, const Plot3DFileHand
     for (std::int32_t grid = 0; grid < handler.getNumGrids(); ++grid) {
         if (!isGridSelected(options.gridSet, std::int64_t{grid} + 1))
             continue;
-        for (std::int32_t var = 1; var <= lastVar; ++var)
-            if (!shareOrCopy(mayShare, sourceBaseZone + distance, destinationBaseZone + distance,
-                             var))
+        const std::int32_t source = sourceBaseZone + distance;
+        const std::int32_t destination = destinationBaseZone + distance++;
+        for (std::int32_t var = 1; var <= lastVar; ++var) {
+            // Of a zone of other loads, which need not have values of it to give.
+            if (!handler.hasGridFile() && QuorUtilDataValueIsPassive(source, var))
+                continue;
+            if (!shareOrCopy(mayShare, source, destination, var)) {
+                reportUnshared(source, destination, var);
                 return false;
-        ++distance;
+            }
+        }
     }
     return true;
 }

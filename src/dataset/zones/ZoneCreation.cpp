@@ -73,12 +73,27 @@ private:
 
     bool createZone(std::int32_t grid, std::int32_t zone, std::int32_t baseZone,
                     std::int32_t strand) {
+        if (!handler_.hasGridFile() && baseZone < zone)
+            takeGridTypes(baseZone);
         if (zone > stage_.parentZones.count() ||
             !addZoneForGrid(stage_, handler_, grid, {baseZone, shareNodeMaps_, strand}) ||
             !QuorUtilSetAddMember(stage_.zonesAdded, zone, true))
             return false;
         stage_.parentZones[zone - 1] = stage_.runningGridCount;
         return true;
+    }
+
+    /// The grid that the zone takes over need not have the precision of the solution.
+    void takeGridTypes(std::int32_t baseZone) const {
+        const std::int32_t lastVar = stage_.numSpatialVars + (stage_.hasIBlank ? 1 : 0);
+        for (std::int32_t var = 1; var <= lastVar && var <= stage_.varTypes.count(); ++var) {
+            const std::int32_t type = QuorUtilDataValueGetType(baseZone, var);
+            const bool isKnown = type != QuorFieldDataType_Invalid;
+            stage_.varTypes[var - 1] =
+                isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
+                    ? type
+                    : fieldDataType(handler_, var - 1, stage_.hasIBlank, stage_.numSpatialVars);
+        }
     }
 
     /// A zone that is there gets the solution; it counts as new to the host. The zone goes by the
@@ -122,12 +137,6 @@ std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s
         return QuorZoneType_Ordered;
     constexpr std::int64_t triangleCorners = 3;
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
-}
-
-bool hasElements(std::int32_t zone) {
-    std::int32_t zoneCount = 0;
-    return QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
-           QuorUtilZoneGetType(zone) != QuorZoneType_Ordered;
 }
 
 bool deleteZones(std::int32_t first, std::int32_t last) {
@@ -174,11 +183,23 @@ bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                          stage.existingVarCount, stage.hasIBlank, fileSetIndex == 0});
 }
 
+bool checkElements(std::int32_t zone) {
+    std::int32_t zoneCount = 0;
+    if (QuorUtilDataSetGetInfo(nullptr, &zoneCount, nullptr) && zone <= zoneCount &&
+        hasElements(QuorUtilZoneGetType(zone)))
+        return true;
+    const std::string text = "Zone " + std::to_string(zone) +
+                             " has neither triangles nor tetrahedra that a zone of an "
+                             "unstructured solution could have.";
+    QuorUtilDialogErrMsg(text.c_str());
+    return false;
+}
+
 bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
                     std::int32_t gridIndex, const Plot3DZoneRequest_s& request) {
     const bool isUnstructured = handler.getDataStructure() == Plot3DDataStructure_Unstructured;
     // A solution file knows no elements; they are those of the zone that the grid came with.
-    if (isUnstructured && !handler.hasGridFile() && !hasElements(request.baseZone))
+    if (isUnstructured && !handler.hasGridFile() && !checkElements(request.baseZone))
         return false;
     const Plot3DZoneDims_s dims =
         zoneDimensionsForGrid(stage.options, handler, gridIndex, request.baseZone);

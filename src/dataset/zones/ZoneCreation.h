@@ -52,6 +52,15 @@ bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler&
 bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                        std::int32_t fileSetIndex);
 
+/// Whether a zone of this type (QuorZoneType_e) consists of elements that PLOT3D knows.
+constexpr bool hasElements(std::int32_t zoneType) {
+    return zoneType == QuorZoneType_Triangles || zoneType == QuorZoneType_Tetrahedra;
+}
+
+/// Whether a new zone of an unstructured solution, which knows no elements, could have those of
+/// `zone`. False: told.
+bool checkElements(std::int32_t zone);
+
 /// Sizes that a grid, counted from 0, has as a zone under the load's index ranges. The host's
 /// `zone` is asked for its elements if the grid is unstructured and the handler has no grid file.
 Plot3DZoneDims_s zoneDimensionsForGrid(const Plot3DLoadOptions_s& options,

@@ -62,6 +62,23 @@ bool FileStream::skip(std::int64_t byteCount) {
     return seek(position + byteCount);
 }
 
+void FileStream::watchWith(ReadWatch* watch) {
+    watch_ = watch;
+    bytesInPiece_ = 0;
+    pieceLength_ =
+        watch != nullptr ? bytesAheadOfFirstQuestion : std::numeric_limits<std::int64_t>::max();
+}
+
+bool FileStream::mayReadOn() {
+    if (wasStopped_ || bytesInPiece_ < pieceLength_)
+        return !wasStopped_;
+    if (watch_ != nullptr && !watch_->goesOn(bytesInPiece_))
+        wasStopped_ = hadReadError_ = true;
+    bytesInPiece_ = 0;
+    pieceLength_ = bytesBetweenQuestions;
+    return !wasStopped_;
+}
+
 int FileStream::readCharacterFromFile() {
     return fillBuffer() ? readCharacter() : -1;
 }
@@ -73,7 +90,8 @@ bool FileStream::fillBuffer() {
         buffer_ = std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(fill));
         capacity_ = fill;
     }
-    bufferEnd_ = readFromFile(buffer_.get(), fill);
+    bufferEnd_ = mayReadOn() ? readFromFile(buffer_.get(), fill) : 0;
+    bytesInPiece_ += bufferEnd_;
     return bufferEnd_ > 0;
 }
 
@@ -88,9 +106,17 @@ std::int64_t FileStream::takeFromBuffer(char* target, std::int64_t byteCount) {
 
 std::int64_t FileStream::readPastBuffer(char* target, std::int64_t byteCount) {
     restartBufferAt(tell(), std::min(nextFill_ * fillGrowth, largestFill));
-    const std::int64_t got = readFromFile(target, byteCount);
-    bufferStart_ += got;
-    return got;
+    std::int64_t done = 0;
+    while (done < byteCount && mayReadOn()) {
+        const std::int64_t piece = std::min(byteCount - done, pieceLength_ - bytesInPiece_);
+        const std::int64_t got = readFromFile(target + done, piece);
+        bufferStart_ += got;
+        bytesInPiece_ += got;
+        done += got;
+        if (got < piece)
+            break;
+    }
+    return done;
 }
 
 std::int64_t FileStream::readFromFile(char* target, std::int64_t byteCount) {

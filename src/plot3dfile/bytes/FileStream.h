@@ -3,15 +3,22 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 
 #include "plot3dfile/bytes/FileSystem.h"
+#include "plot3dfile/bytes/ReadWatch.h"
 
 namespace quorvia::quorutildataio {
 
 class FileStream {
 public:
+    /// A watch is asked between pieces of these lengths: late enough that no small load is asked at
+    /// all, then often enough that a slow disk does not make the user wait.
+    static constexpr std::int64_t bytesAheadOfFirstQuestion = 64 * 1024 * 1024;
+    static constexpr std::int64_t bytesBetweenQuestions = 8 * 1024 * 1024;
+
     /// Opens the file; null if it can't be opened.
     static std::unique_ptr<FileStream> open(const std::string& utf8Name);
 
@@ -55,11 +62,19 @@ public:
     std::int64_t size() { return file_->size(); }
 
     /// Whether a read has failed with an error, rather than met the end of the file. Nothing more
-    /// comes from the disk then, so that values behind a hole are never taken for those in it.
+    /// comes from the disk then, so that values behind a hole are never taken for those in it. A
+    /// read that was stopped counts as one.
     bool hadReadError() const { return hadReadError_; }
+
+    /// Has `watch` (borrowed until it is replaced; null for nobody) asked during what is read from
+    /// now on. Once it says no the stream ends, like one that had a read error.
+    void watchWith(ReadWatch* watch);
+    /// Whether the watch has said no.
+    bool wasStopped() const { return wasStopped_; }
 
 private:
     int readCharacterFromFile();
+    bool mayReadOn();
     bool fillBuffer();
     std::int64_t takeFromBuffer(char* target, std::int64_t byteCount);
     std::int64_t readPastBuffer(char* target, std::int64_t byteCount);
@@ -74,6 +89,10 @@ private:
     std::int64_t bufferEnd_ = 0;      // bytes that the buffer holds
     std::int64_t nextFill_;           // bytes to ask for when the buffer is used up
     bool hadReadError_ = false;
+    bool wasStopped_ = false;
+    ReadWatch* watch_ = nullptr;
+    std::int64_t bytesInPiece_ = 0; // read since the watch was asked, or put in place
+    std::int64_t pieceLength_ = std::numeric_limits<std::int64_t>::max();
 };
 
 } // namespace quorvia::quorutildataio

@@ -33,15 +33,17 @@ struct RecordForm {
 // More than one form can tile the same bytes; the first one wins.
 constexpr RecordForm recordForms[] = {{false, 4}, {true, 4}, {false, 8}, {true, 8}};
 
-bool findRecordForm(Plot3DFile_s& file) {
+/// Ends at the first form that tiles the file, and at a walk that did not come to its end.
+RecordWalk_e findRecordForm(Plot3DFile_s& file) {
     file.encoding = Plot3DEncoding_FortranUnformatted;
     for (const RecordForm& form : recordForms) {
         file.byteSwap = form.byteSwap;
         file.markerSize = form.markerSize;
-        if (checkFortranRecords(file))
-            return true;
+        const RecordWalk_e walk = walkFortranRecords(file);
+        if (walk != RecordWalk_e::DoesNotTile || file.stream->hadReadError())
+            return walk;
     }
-    return false;
+    return RecordWalk_e::DoesNotTile;
 }
 
 void settleForPlainBinary(Plot3DFile_s& file) {
@@ -55,9 +57,17 @@ void settleForPlainBinary(Plot3DFile_s& file) {
 
 void sniffEncoding(Plot3DFile_s& file) {
     rewindPlot3DFile(file);
-    file.encoding = looksLikeText(*file.stream) ? Plot3DEncoding_Ascii : Plot3DEncoding_Unknown;
-    if (file.encoding == Plot3DEncoding_Unknown && !findRecordForm(file))
-        settleForPlainBinary(file);
+    bool isInterrupted = false;
+    if (looksLikeText(*file.stream)) {
+        file.encoding = Plot3DEncoding_Ascii;
+    } else {
+        const RecordWalk_e walk = findRecordForm(file);
+        isInterrupted = walk == RecordWalk_e::Interrupted;
+        if (walk == RecordWalk_e::DoesNotTile)
+            settleForPlainBinary(file);
+    }
+    if (isInterrupted || file.stream->hadReadError())
+        file.encoding = Plot3DEncoding_Unknown;
 }
 
 } // namespace quorvia::quorutildataio

@@ -1,6 +1,7 @@
 #include "plot3dfile/detection/StructureDetection.h"
 
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "plot3dfile/detection/StructureValidators.h"
@@ -19,6 +20,14 @@ void reportUndetected(const Plot3DFile_s& file) {
     const std::string kind =
         file.isSolutionOrFunction ? "solution/function file structure.\n" : "grid ";
     reportFileError(file, "Auto Detect cannot determine the Plot 3D " + kind + describeByHandText);
+}
+
+void reportOutOfMemory(const std::string& fileName) {
+    try {
+        QuorUtilDialogErrMsg(("Out of memory.\nFile: " + fileName).c_str());
+    } catch (const std::bad_alloc&) {
+        QuorUtilDialogErrMsg("Out of memory."); // there is none for the file's name either
+    }
 }
 
 void reportMisdescribed(const Plot3DFile_s& file) {
@@ -42,27 +51,21 @@ bool searchOnceMore(Plot3DFile_s& file) {
     }
 }
 
-bool detectAutomatically(Plot3DFile_s& file) {
-    if (searchStructure(file) || searchOnceMore(file))
-        return true;
-    reportUndetected(file);
-    return false;
+bool searchInBothWays(Plot3DFile_s& file) {
+    return searchStructure(file) || (!file.stream->hadReadError() && searchOnceMore(file));
 }
 
-bool testDescription(Plot3DFile_s& file, const Plot3DLoadOptions_s& options) {
+bool fitsDescription(Plot3DFile_s& file, const Plot3DLoadOptions_s& options) {
     file.relaxedChecks = true;
     file.isMultiGrid = options.isMultiGrid;
     file.style = options.style;
     file.dataStructure = options.dataStructure;
     if (tryPrecisions(file))
         return true;
-    if (file.encoding == Plot3DEncoding_Binary) {
-        file.byteSwap = true;
-        if (tryPrecisions(file))
-            return true;
-    }
-    reportMisdescribed(file);
-    return false;
+    if (file.encoding != Plot3DEncoding_Binary)
+        return false;
+    file.byteSwap = true;
+    return tryPrecisions(file);
 }
 
 /// Reuse needs a uniform load, and the structure of a text file is cheap to find but not to trust.
@@ -77,7 +80,14 @@ bool detectOpenFile(Plot3DFile_s& file, Plot3DLoadOptions_s& options, bool isSol
     file.isSolutionOrFunction = isSolutionOrFunction;
     file.hasIBlank = !isSolutionOrFunction && options.asciiHasIBlank;
     file.isDoublePrecision = options.asciiIsDouble;
-    return options.autoDetect ? detectAutomatically(file) : testDescription(file, options);
+    const auto reportMisfit = options.autoDetect ? reportUndetected : reportMisdescribed;
+    if (options.autoDetect ? searchInBothWays(file) : fitsDescription(file, options))
+        return true;
+    if (file.stream->hadReadError())
+        reportFileError(file, unreadableText);
+    else
+        reportMisfit(file);
+    return false;
 }
 
 bool openForDetection(Plot3DFile_s& file, const std::string& fileName) {
@@ -94,15 +104,19 @@ bool isReusable(const Plot3DFileBuilder& builder, bool isSolutionOrFunction) {
            (!isSolutionOrFunction || builder.options.solutionsShareStructure);
 }
 
-/// The outcome of the search is not looked at: the options promise that the files are alike.
+/// Whether the file fits is not looked at: the options promise that the files are alike.
 Plot3DFilePtr buildFromFirstFile(const Plot3DFile_s& firstFile, const std::string& fileName) {
     Plot3DFilePtr file;
-    if (!copyPlot3DFile(firstFile, file, fileName) || !openPlot3DFile(*file))
+    if (!copyPlot3DFile(firstFile, file, fileName))
+        throw std::bad_alloc(); // it fails for nothing else
+    if (!openPlot3DFile(*file))
         return nullptr;
-    if (!searchStructure(*file))
-        searchOnceMore(*file);
+    searchInBothWays(*file);
+    const bool isRead = !file->stream->hadReadError();
+    if (!isRead)
+        reportFileError(*file, unreadableText);
     closePlot3DFile(*file);
-    return file;
+    return isRead ? std::move(file) : nullptr;
 }
 
 /// Whether the first file of this list is the one that tells the load's style. Function files come
@@ -124,14 +138,32 @@ void noteDetectedStructure(Plot3DLoadOptions_s& options, const Plot3DFile_s& fir
     }
 }
 
+Plot3DFilePtr buildRecord(Plot3DFileBuilder& builder, const std::string& fileName,
+                          bool isSolutionOrFunction) {
+    if (isReusable(builder, isSolutionOrFunction))
+        return buildFromFirstFile(*builder.firstFile, fileName);
+    Plot3DFilePtr file;
+    if (!detectStructure(builder, file, fileName, isSolutionOrFunction))
+        return nullptr;
+    if (builder.firstFile == nullptr) {
+        builder.firstFile = file.get();
+        if (builder.options.autoDetect)
+            noteDetectedStructure(builder.options, *file, fileName);
+        return file;
+    }
+    return validateAgainstFirstFile(builder, *file, isSolutionOrFunction) ? std::move(file)
+                                                                          : nullptr;
+}
+
 } // namespace
 
 bool detectStructure(Plot3DFileBuilder& builder, Plot3DFilePtr& file, const std::string& fileName,
                      bool isSolutionOrFunction) {
     file = createPlot3DFile(fileName, false);
     if (file == nullptr)
-        return false;
+        throw std::bad_alloc();
     const bool isDetected = openForDetection(*file, fileName) &&
+                            file->encoding != Plot3DEncoding_Unknown && // told, or interrupted
                             detectOpenFile(*file, builder.options, isSolutionOrFunction);
     closePlot3DFile(*file);
     return isDetected;
@@ -151,19 +183,12 @@ bool validateAgainstFirstFile(Plot3DFileBuilder& builder, Plot3DFile_s& file,
 
 Plot3DFilePtr buildPlot3DFile(Plot3DFileBuilder& builder, const std::string& fileName,
                               bool isSolutionOrFunction) {
-    if (isReusable(builder, isSolutionOrFunction))
-        return buildFromFirstFile(*builder.firstFile, fileName);
-    Plot3DFilePtr file;
-    if (!detectStructure(builder, file, fileName, isSolutionOrFunction))
+    try {
+        return buildRecord(builder, fileName, isSolutionOrFunction);
+    } catch (const std::bad_alloc&) {
+        reportOutOfMemory(fileName);
         return nullptr;
-    if (builder.firstFile == nullptr) {
-        builder.firstFile = file.get();
-        if (builder.options.autoDetect)
-            noteDetectedStructure(builder.options, *file, fileName);
-        return file;
     }
-    return validateAgainstFirstFile(builder, *file, isSolutionOrFunction) ? std::move(file)
-                                                                          : nullptr;
 }
 
 } // namespace quorvia::quorutildataio

@@ -23,16 +23,18 @@ public:
 };
 
 /// The record of a file, closed, its structure known. Null: refused, which has been told to the
-/// user. A later file of a list whose files are alike by the options takes the first one's
-/// structure, size included; if even that does not fit it, its record is given back all the same,
-/// and only a file that does not open is refused. With `autoDetect`, the first file of a list
+/// user, for want of memory too; or the user interrupted, which has not. A later file of a list
+/// whose files are alike by the options takes the first one's structure, size included; if even
+/// that does not fit it, its record is given back all the same, and only a file that does not open
+/// or can't be read is refused. With `autoDetect`, the first file of a list
 /// writes what was found to `dataStructure`, `isMultiGrid` and `style` of the options; for the
 /// first two grid files speak before solution files, and these before function files.
 Plot3DFilePtr buildPlot3DFile(Plot3DFileBuilder& builder, const std::string& fileName,
                               bool isSolutionOrFunction);
 
 /// Detects a file by trial, or tests the manual description, as the options say. Tells the user of
-/// a refusal. The file is closed afterwards.
+/// a refusal. The file is closed afterwards. Throws std::bad_alloc, so that exhausted memory does
+/// not pass for a file that fits nothing.
 bool detectStructure(Plot3DFileBuilder& builder, Plot3DFilePtr& file, const std::string& fileName,
                      bool isSolutionOrFunction);
 
@@ -41,7 +43,8 @@ bool validateAgainstFirstFile(Plot3DFileBuilder& builder, Plot3DFile_s& file,
                               bool isSolutionOrFunction);
 
 // The trials, from the innermost to the outermost. Each writes its candidate into the record and
-// leaves the accepted structure there. The file is open.
+// leaves the accepted structure there. The file is open. Once a read has failed none is accepted.
+// They throw std::bad_alloc.
 bool tryIBlank(Plot3DFile_s& file, bool hasIBlank);
 bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision);
 /// Both precisions, in the order of the file's encoding; of text only the one that stands there.

@@ -26,7 +26,9 @@ bool tryIBlank(Plot3DFile_s& file, bool hasIBlank) {
     file.hasIBlank = hasIBlank;
     if (hasIBlank && file.isSolutionOrFunction)
         return false;
-    return parseLayout(file, false, nullptr, nullptr);
+    // Behind a failed read no reading is to be trusted, whether it fits or not.
+    return !file.stream->hadReadError() && parseLayout(file, false, nullptr, nullptr) &&
+           !file.stream->hadReadError();
 }
 
 bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision) {

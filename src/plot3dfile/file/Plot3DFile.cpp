@@ -18,12 +18,14 @@ void resetReadingState(Plot3DFile_s& file) {
     file.nextRecordStart = 0;
 }
 
-void measureAndSniff(Plot3DFile_s& file) {
+/// False: the file can't be read.
+bool measureAndSniff(Plot3DFile_s& file) {
     const std::int64_t size = file.stream->size();
-    if (size >= 0)
-        file.fileSize = size;
-    rewindPlot3DFile(file);
+    if (size < 0)
+        return false;
+    file.fileSize = size;
     sniffEncoding(file);
+    return !file.stream->hadReadError();
 }
 
 /// Without what earlier trials left behind the last grid: it would cost each file of a long list as
@@ -68,7 +70,8 @@ Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen) {
         return nullptr;
     if (deferOpen || !openPlot3DFile(*file))
         return file;
-    measureAndSniff(*file);
+    if (!measureAndSniff(*file))
+        reportFileError(*file, unreadableText);
     closePlot3DFile(*file);
     return file;
 }

@@ -70,8 +70,9 @@ using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
 using Plot3DFileList = std::vector<Plot3DFilePtr>;
 
 /// Makes the record of a file and leaves the file closed. Unless `deferOpen`, measures the file and
-/// sniffs its encoding; if the file does not open (told to the user), the record stays at its
-/// starting values. Null: no memory for the name.
+/// sniffs its encoding; that stays unknown if the file does not open or can't be read (told to the
+/// user), or if the user interrupted (not told). Null: no memory for the name, which is not told.
+/// Throws std::bad_alloc.
 Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen);
 
 /// Frees the record and all that it owns, and clears the pointer.
@@ -94,10 +95,13 @@ void rewindPlot3DFile(Plot3DFile_s& file);
 void reportFileError(const Plot3DFile_s& file, const std::string& text);
 
 /// Finds out how the open file encodes its numbers: text, one of the four forms of Fortran records
-/// (then `byteSwap`, `markerSize` and `segmentBoundaries` are set too), or plain binary.
+/// (then `byteSwap`, `markerSize` and `segmentBoundaries` are set too), or plain binary. Unknown if
+/// a read failed, or if the user interrupted.
 void sniffEncoding(Plot3DFile_s& file);
 
 /// Text of the message for a file that does not open.
 std::string cannotOpenText(const std::string& fileName);
+/// Text of the message, ahead of the file's name, for a file whose bytes can't be had.
+inline constexpr const char* unreadableText = "The file could not be read.";
 
 } // namespace quorvia::quorutildataio

@@ -76,16 +76,23 @@ bool readFunctionVariableCount(Plot3DFile_s& file, std::int32_t gridIndex) {
     return variableCount == file.numVars;
 }
 
+/// Throws where there is no memory, which is no misfit: the next trial would be believed instead.
+void storeDims(Plot3DFile_s& file, const Plot3DGridDims_s& dims, std::int32_t gridIndex) {
+    if (!storeGridDims(dims.i, dims.j, dims.k, gridIndex, file.gridDims))
+        throw std::bad_alloc();
+}
+
 bool readGridHeader(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t gridIndex,
                     std::int64_t& runningPosition) {
     Plot3DGridDims_s dims{};
     if (!readDims(file, rules, dims) || !rules.acceptsDims(file, dims))
         return false;
     const double pointCount = rules.pointCount(dims);
-    return pointCount < pointsPast64Bits &&
-           addPoints(file, static_cast<std::int64_t>(pointCount), runningPosition) &&
-           storeGridDims(dims.i, dims.j, dims.k, gridIndex, file.gridDims) &&
-           (!isFunctionFile(file) || readFunctionVariableCount(file, gridIndex));
+    if (pointCount >= pointsPast64Bits ||
+        !addPoints(file, static_cast<std::int64_t>(pointCount), runningPosition))
+        return false;
+    storeDims(file, dims, gridIndex);
+    return !isFunctionFile(file) || readFunctionVariableCount(file, gridIndex);
 }
 
 bool headerEnds(Plot3DFile_s& file) {
@@ -175,8 +182,9 @@ bool read1DHeader(Plot3DFile_s& file) {
     if (!readIntegerRecord(file, isFunctionFile(file) ? 2 : 1, values))
         return false;
     std::int64_t runningPosition = file.stream->tell();
-    const bool fits = addPoints(file, values[0], runningPosition) &&
-                      storeGridDims(values[0], 1, 1, 0, file.gridDims);
+    const bool fits = addPoints(file, values[0], runningPosition);
+    if (fits)
+        storeDims(file, {values[0], 1, 1}, 0);
     file.numScalars = 0;
     file.numVars = 1;
     if (isFunctionFile(file)) {

@@ -35,7 +35,8 @@ inline bool isSolutionFile(const Plot3DFile_s& file) {
 double structuredPointCount(const Plot3DGridDims_s& dims);
 
 /// Rewinds and reads the header of a 2-D, 3-D or unstructured file. True: it is plausible, its
-/// counts stand in the record, and the stream stands behind it. Nothing is reported.
+/// counts stand in the record, and the stream stands behind it. Nothing is reported. Throws
+/// std::bad_alloc.
 bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
 
 /// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md.

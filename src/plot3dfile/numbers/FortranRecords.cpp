@@ -7,6 +7,7 @@
 #include <string>
 
 #include "plot3dfile/bytes/ByteOrder.h"
+#include "quorvia/QuorUtil.h"
 
 namespace quorvia::quorutildataio {
 
@@ -16,6 +17,8 @@ constexpr std::int64_t largestPosition = std::numeric_limits<std::int64_t>::max(
 // A segment holds 2 GB, so that no file has so many. But zeros behind a chain that was never closed
 // would each be a segment of it, with a boundary to remember for every 8 bytes of the file.
 constexpr std::int64_t mostSegmentBoundaries = 1'000'000;
+// A file of nothing but short records takes long to walk.
+constexpr std::int64_t bytesBetweenQuestions = std::int64_t{64} << 20;
 // What a sum past 64 bits becomes: every seek to it fails.
 constexpr std::int64_t noPosition = -1;
 
@@ -130,6 +133,14 @@ const char* enterNextRecord(Plot3DFile_s& file) {
     return fault == nullptr && !isAtPayload ? cannotSeek : fault;
 }
 
+// How far the next boundary behind the position is away; very far if there is none.
+std::int64_t bytesAheadOfBoundary(const Plot3DFile_s& file) {
+    const std::vector<std::int64_t>& boundaries = file.segmentBoundaries;
+    const std::int64_t position = file.stream->tell();
+    const auto next = std::upper_bound(boundaries.begin(), boundaries.end(), position);
+    return (next != boundaries.end() ? *next : largestPosition) - position;
+}
+
 bool isLineEnd(int character) {
     return character == '\r' || character == '\n';
 }
@@ -171,13 +182,24 @@ bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length) {
     return endsChain;
 }
 
-bool checkFortranRecords(Plot3DFile_s& file) {
+RecordWalk_e walkFortranRecords(Plot3DFile_s& file) {
     rewindPlot3DFile(file);
     file.segmentBoundaries.clear();
-    while (file.fileSize - file.stream->tell() >= 1)
+    std::int64_t asked = 0; // the position at which the host was asked last
+    while (file.fileSize - file.stream->tell() >= 1) {
+        if (file.stream->tell() - asked >= bytesBetweenQuestions) {
+            if (QuorUtilInterruptIsSet())
+                return RecordWalk_e::Interrupted;
+            asked = file.stream->tell();
+        }
         if (!passOverEmptyRecords(file) && !passOverSegment(file))
-            return false;
-    return true;
+            return RecordWalk_e::DoesNotTile;
+    }
+    return RecordWalk_e::Tiles;
+}
+
+bool checkFortranRecords(Plot3DFile_s& file) {
+    return walkFortranRecords(file) == RecordWalk_e::Tiles;
 }
 
 bool nextRecord(Plot3DFile_s& file, bool report, const char* context) {
@@ -186,7 +208,7 @@ bool nextRecord(Plot3DFile_s& file, bool report, const char* context) {
     const char* fault = enterNextRecord(file);
     if (fault == nullptr)
         return true;
-    if (report)
+    if (report && !file.stream->wasStopped())
         reportFileError(file, context != nullptr ? std::string(fault) + " for " + context : fault);
     return false;
 }
@@ -212,10 +234,29 @@ bool atFileEnd(Plot3DFile_s& file, bool report) {
 }
 
 bool skipSegmentBoundary(Plot3DFile_s& file) {
+    const std::vector<std::int64_t>& boundaries = file.segmentBoundaries;
     const std::int64_t position = file.stream->tell();
-    const bool isAtBoundary =
-        std::binary_search(file.segmentBoundaries.begin(), file.segmentBoundaries.end(), position);
-    return !isAtBoundary || file.stream->skip(2 * widthOf(file));
+    if (!std::binary_search(boundaries.begin(), boundaries.end(), position))
+        return true;
+    const bool isRecordEnd = position == file.nextRecordStart - widthOf(file);
+    return !isRecordEnd && file.stream->skip(2 * widthOf(file));
+}
+
+std::int64_t readAcrossSegments(Plot3DFile_s& file, void* destination, std::int64_t byteCount) {
+    char* target = static_cast<char*>(destination);
+    const bool hasSegments =
+        file.encoding == Plot3DEncoding_FortranUnformatted && !file.segmentBoundaries.empty();
+    if (!hasSegments)
+        return file.stream->read(target, byteCount);
+    std::int64_t done = 0;
+    while (done < byteCount && skipSegmentBoundary(file)) {
+        const std::int64_t piece = std::min(byteCount - done, bytesAheadOfBoundary(file));
+        const std::int64_t got = file.stream->read(target + done, piece);
+        done += got;
+        if (got < piece)
+            break;
+    }
+    return done;
 }
 
 } // namespace quorvia::quorutildataio

@@ -20,13 +20,19 @@ constexpr std::int64_t fullSegmentMarker = -2147483639;
 /// from a leading marker that the trailing one has not confirmed.
 bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length);
 
+enum class RecordWalk_e { Tiles, DoesNotTile, Interrupted };
+
 /// Whether records of the supposed width and byte order tile the whole file. Fills
-/// `segmentBoundaries`.
+/// `segmentBoundaries`. Asks the host for an interruption after every 64 MiB of the file; a read
+/// error is one that does not tile.
+RecordWalk_e walkFortranRecords(Plot3DFile_s& file);
+
+/// Whether they do; false also for a walk that was interrupted.
 bool checkFortranRecords(Plot3DFile_s& file);
 
 /// Moves to the first payload byte of the next record, with `recordLength` its payload over all
 /// segments. True at once for other encodings. On failure, if `report`, tells the user, with
-/// " for " and `context` unless that is null.
+/// " for " and `context` unless that is null; nothing is told of a read that was stopped.
 bool nextRecord(Plot3DFile_s& file, bool report, const char* context);
 
 /// Whether the current record, or the current line of a text file, is used up.
@@ -35,7 +41,13 @@ bool atRecordEnd(Plot3DFile_s& file);
 /// Whether nothing but the last marker or line ends remain. On false, if `report`, tells the user.
 bool atFileEnd(Plot3DFile_s& file, bool report);
 
-/// Steps over the two markers between segments if the stream stands there. False: the seek failed.
+/// Steps over the two markers between segments if the stream stands there. False: the seek failed,
+/// or it stands at the end of the current record, which is noted like the end of a segment.
 bool skipSegmentBoundary(Plot3DFile_s& file);
+
+/// Reads the next `byteCount` bytes that are no markers between segments, wherever these stand: at
+/// the true length of a segment the first of them cuts a value in two. Gives how many came; fewer
+/// mean the end of the file or of the record, or a read error.
+std::int64_t readAcrossSegments(Plot3DFile_s& file, void* destination, std::int64_t byteCount);
 
 } // namespace quorvia::quorutildataio

@@ -55,6 +55,27 @@ bool readInNativeOrder(FileStream& stream, std::int64_t width, std::int64_t valu
     return true;
 }
 
+// A block with one boundary inside, which the stream has not come to: the values ahead of it, the
+// one that it cuts if it does, and those behind it.
+bool readAroundBoundary(FileStream& stream, std::uint32_t markerSize, std::int64_t boundary,
+                        std::int64_t width, std::int64_t valueCount, char* destination) {
+    constexpr auto fortran = Plot3DEncoding_FortranUnformatted;
+    const std::int64_t bytesAhead = boundary - stream.tell();
+    std::int64_t done = bytesAhead / width;
+    if (!readInNativeOrder(stream, width, done, destination))
+        return false;
+    if (bytesAhead % width == 0) {
+        if (!stream.skip(2 * static_cast<std::int64_t>(markerSize)))
+            return false;
+    } else {
+        char* cutValue = destination + done++ * width;
+        if (!readBytesAcrossSegments(stream, markerSize, {boundary}, fortran, cutValue, width))
+            return false;
+        reverseEach(cutValue, width, 1);
+    }
+    return readInNativeOrder(stream, width, valueCount - done, destination + done * width);
+}
+
 bool passOver(FileStream& stream, std::uint32_t markerSize,
               const std::vector<std::int64_t>& segmentBoundaries, std::int64_t byteCount) {
     const std::int64_t boundaryCount =
@@ -80,7 +101,7 @@ bool readValueByValue(Plot3DFile_s& file, bool store, std::int64_t firstIndex, s
     std::array<Number, longestRun> run;
     for (std::int64_t done = 0; done < count;) {
         const std::int64_t wanted = std::min(longestRun, count - done);
-        const std::int64_t got = readPlainRun(file, wanted, run.data());
+        const std::int64_t got = readRun(file, wanted, run.data());
         for (std::int64_t index = 0; store && index < got; ++index)
             destination.store(firstIndex + done + index, run[static_cast<std::size_t>(index)]);
         if (got < wanted)
@@ -140,16 +161,21 @@ bool readNumbersAcrossSegments(FileStream& stream, bool byteSwap, std::uint32_t 
                                Plot3DEncoding_e encoding, std::int64_t width,
                                std::int64_t valueCount, void* destination) {
     const std::int64_t byteCount = blockBytes(width, valueCount);
-    const bool isInterrupted =
-        encoding == Plot3DEncoding_FortranUnformatted &&
-        countSegmentBoundariesInRange(segmentBoundaries, stream.tell(), byteCount) > 0;
-    if (byteSwap && byteCount >= 0 && !isInterrupted)
-        return readInNativeOrder(stream, width, valueCount, static_cast<char*>(destination));
+    if (byteSwap && byteCount >= 0) {
+        char* target = static_cast<char*>(destination);
+        BoundarySpan inside = {segmentBoundaries.end(), segmentBoundaries.end()};
+        if (encoding == Plot3DEncoding_FortranUnformatted)
+            inside = boundariesInside(segmentBoundaries, stream.tell(), byteCount);
+        if (inside.begin == inside.end)
+            return readInNativeOrder(stream, width, valueCount, target);
+        if (inside.end - inside.begin == 1)
+            return readAroundBoundary(stream, markerSize, *inside.begin, width, valueCount, target);
+    }
     if (!readBytesAcrossSegments(stream, markerSize, segmentBoundaries, encoding, destination,
                                  byteCount))
         return false;
     if (byteSwap)
-        reverseEach(destination, width, valueCount); // a boundary may stand inside a value
+        reverseEach(destination, width, valueCount);
     return true;
 }
 

@@ -1,13 +1,31 @@
 #include "plot3dfile/timestep/FieldCount.h"
 
 #include <algorithm>
+#include <optional>
+
+#include "plot3dfile/bytes/CheckedSize.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
 
-bool isAbsentOrPlausible(const Plot3DFile_s* file) {
-    return file == nullptr || (isFieldCountPlausible(*file) && isElementCountPlausible(*file));
+bool isPlausible(const Plot3DFile_s& file) {
+    return isFieldCountPlausible(file) && isElementCountPlausible(file);
+}
+
+/// Numbers of the elements of an unstructured grid file, those that are read and ignored included.
+constexpr std::int64_t integersOfElement = 4;
+
+void addValuesOfGrid(const Plot3DFile_s& file, const Plot3DGridDims_s& dims, CheckedSize& values) {
+    const std::int64_t fields = std::int64_t{std::max(file.numVars, 0)} + (file.hasIBlank ? 1 : 0);
+    values.addProduct({file.numScalars});
+    if (file.dataStructure != Plot3DDataStructure_Unstructured) {
+        values.addProduct({fields, dims.i, dims.j, dims.k});
+        return;
+    }
+    values.addProduct({fields, dims.i});
+    if (!file.isSolutionOrFunction)
+        values.addProduct({integersOfElement, std::int64_t{dims.j} + dims.k});
 }
 
 } // namespace
@@ -39,10 +57,29 @@ bool isElementCountPlausible(const Plot3DFile_s& file) {
     return elements <= limit;
 }
 
+const Plot3DFile_s* findImplausibleFile(const Plot3DFileHandler& handler) {
+    for (const Plot3DFile_s* file : {handler.gridFile, handler.solutionFile})
+        if (file != nullptr && !isPlausible(*file))
+            return file;
+    const auto bad = std::find_if_not(handler.functionFiles.begin(), handler.functionFiles.end(),
+                                      [](const Plot3DFile_s* file) { return isPlausible(*file); });
+    return bad != handler.functionFiles.end() ? *bad : nullptr;
+}
+
 bool areCountsPlausible(const Plot3DFileHandler& handler) {
-    return isAbsentOrPlausible(handler.gridFile) && isAbsentOrPlausible(handler.solutionFile) &&
-           std::all_of(handler.functionFiles.begin(), handler.functionFiles.end(),
-                       isAbsentOrPlausible);
+    return findImplausibleFile(handler) == nullptr;
+}
+
+bool isValueCountPlausible(const Plot3DFile_s& file, std::int64_t fileBytes) {
+    if (file.encoding != Plot3DEncoding_Ascii)
+        return true;
+    // A file that its list's first does not describe may have less than its count says.
+    const auto grids = std::min<std::int64_t>(file.numGrids, std::ssize(file.gridDims));
+    CheckedSize values;
+    for (std::int64_t grid = 0; grid < grids; ++grid)
+        addValuesOfGrid(file, file.gridDims[static_cast<std::size_t>(grid)], values);
+    const std::optional<std::int64_t> promised = values.value();
+    return promised && *promised <= mostValuesPerByte * fileBytes;
 }
 
 } // namespace quorvia::quorutildataio

@@ -23,7 +23,16 @@ bool isFieldCountPlausible(const Plot3DFile_s& file);
 /// in text they are held against the limit of fields. Of other files: true.
 bool isElementCountPlausible(const Plot3DFile_s& file);
 
-/// Both for all files of a time step.
+/// The first file of a time step for which one of these does not hold; null if there is none.
+const Plot3DFile_s* findImplausibleFile(const Plot3DFileHandler& handler);
+/// Whether there is none.
 bool areCountsPlausible(const Plot3DFileHandler& handler);
+
+/// Values that a text file may promise for each of its bytes: scalars, fields of all its grids,
+/// connectivity. A repeat token promises billions in a few characters.
+constexpr std::int64_t mostValuesPerByte = 64;
+
+/// Whether a text file of `fileBytes` bytes promises no more than that. Of other files: true.
+bool isValueCountPlausible(const Plot3DFile_s& file, std::int64_t fileBytes);
 
 } // namespace quorvia::quorutildataio

@@ -42,14 +42,16 @@ public:
     virtual std::string getGridFileName() const;
     virtual std::string getSolutionFileName() const;
 
+    /// The file that answers for the structure; null if there is none at all.
+    const Plot3DFile_s* structureFile() const;
+
     Plot3DFile_s* gridFile;
     Plot3DFile_s* solutionFile;
     std::vector<Plot3DFile_s*> functionFiles;
     std::int32_t fallbackTimeStep = 0;
 
 private:
-    const Plot3DFile_s* valueFile() const;     // of solution and first function file; may be null
-    const Plot3DFile_s* structureFile() const; // of grid file and these; may be null
+    const Plot3DFile_s* valueFile() const; // of solution and first function file; may be null
 };
 
 } // namespace quorvia::quorutildataio

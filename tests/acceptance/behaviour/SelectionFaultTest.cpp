@@ -1,5 +1,7 @@
 // The road of a file selection has host calls of its own ahead of the load; where one of them fails
 // nothing may be loaded but the whole selection.
+#include <filesystem>
+
 #include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/support/LoadedAddOn.h"
 
@@ -39,6 +41,43 @@ TEST_F(FaultySelection, OfANameThatTheHostWithholdsLoadsNothing) {
     EXPECT_FALSE(select(selected).ok);
     EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
     EXPECT_EQ(host().frame().dataSet(), nullptr);
+}
+
+/// Files in a folder that looks like a grid file.
+class FaultyFolder : public LoadedAddOnTest {
+protected:
+    void SetUp() override {
+        LoadedAddOnTest::SetUp();
+        const std::string folder = directory().file("runs.in.old");
+        std::filesystem::create_directory(folder);
+        const SmallFiles files(folder);
+        selected_ = {files.grid("a.x"), files.solution("a.q", 0.25)};
+    }
+    void expectNothing(const host::LoadResult& result) {
+        EXPECT_FALSE(result.ok);
+        EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
+        EXPECT_EQ(host().frame().dataSet(), nullptr);
+    }
+
+    Texts selected_;
+};
+
+TEST_F(FaultyFolder, DoesNotDecideTheKindOfAFile) {
+    expectSelectionLoads(selected_);
+    EXPECT_EQ(zoneNames(), (Texts{"a.q:1", "a.q:2"}));
+}
+
+TEST_F(FaultyFolder, ThatTheHostWithholdsLoadsNothing) {
+    for (const int name : {1, 2}) {
+        host().reset();
+        host().failCall("QuorUtilGetBasePath", name);
+        expectNothing(select(selected_));
+    }
+}
+
+TEST_F(FaultyFolder, ThatTheHostWithholdsOfAListOfDataFilesLoadsNothing) {
+    host().failCall("QuorUtilGetBasePath", 2);
+    expectNothing(load({.settings = {{"FILELIST_DATAFILES", "2"}, {selected_[0], selected_[1]}}}));
 }
 
 } // namespace

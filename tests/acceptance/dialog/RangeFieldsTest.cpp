@@ -87,6 +87,39 @@ TEST_F(RangeFields, StartAboveEndIsToldAndStays) {
     }
 }
 
+// With a skip of 7 it would make a zone of points that nobody has read.
+TEST_F(RangeFields, RangeTurnedRoundIsNotLoaded) {
+    for (const std::string direction : {"I", "J", "K"})
+        for (const char* skip : {"1", "7"}) {
+            expectTheLockOf(direction + "-Index End");
+            const Texts told = {direction +
+                                "-Range Error: end must be greater than or equal to start."};
+            playAtDialog({grid_}, {toPage(subsetPage), type("10", direction + "-Index Start"),
+                                   type(skip, direction + "-Index Skip"),
+                                   type("5", direction + "-Index End"), describe("typed"),
+                                   press("OK"), describe("back")});
+            EXPECT_EQ(messages(described("typed")), told);
+            EXPECT_EQ(messages(described("back")), told);
+            EXPECT_EQ(described("back")["dialog"]["open"], true);
+            EXPECT_EQ(last()["instructions"], Json::array()) << last()["instructions"];
+            EXPECT_TRUE(last()["dataSet"].is_null());
+        }
+}
+
+TEST_F(RangeFields, RangeTurnedRoundLeavesTheDataSetAndCanBeMended) {
+    Commands commands = {select({grid_}), describe("before"),
+                         command("answers", Json::array({true, true}))};
+    for (const Json& each :
+         atDialog({grid_}, {toPage(subsetPage), type("3", "J-Index Start"),
+                            type("2", "J-Index End"), press("OK"), describe("refused"),
+                            toPage(subsetPage), type("2", "J-Index Start"), press("OK")}))
+        commands.push_back(each);
+    play(commands);
+    EXPECT_TRUE(dataSet(described("refused")) == dataSet(described("before")));
+    EXPECT_EQ(last()["ok"], true);
+    EXPECT_EQ(last()["dataSet"]["zones"][0]["j"], 1);
+}
+
 TEST_F(RangeFields, SkipIsComparedWithNothing) {
     EXPECT_EQ(shownIn(3, {type("5", "I-Index End"), type("1000", "I-Index Skip")}), "1000");
     EXPECT_EQ(messages(described("shown")), Texts());

@@ -34,9 +34,13 @@ const char* const knownMessages[] = {
     "Corrupt Connectivity List, Grid=",
     "Failed to load grid ",
     "Invalid Plot 3D ",
+    "The counts in the file's header do not fit the file.",
+    "The file promises more than 64 values for each of its bytes.",
+    "The function file has values of ",
     "Grid ",
     "The number of grids in the ",
     "All files must have the same data structure.",
+    "The values of the file need a data set of ",
     "There are Solution Files mixed up with Function Files. Please load them ",
 };
 

@@ -222,6 +222,20 @@ TEST_F(HugeFiles, FileOfZerosIsRefusedInTime) {
     EXPECT_EQ(messages().size(), 1U);
 }
 
+// Eight times as long; nobody has to wait for the end of it.
+TEST_F(HugeFiles, WalkOverZerosIsInterrupted) {
+    const std::string file = writeSparse("zeros.x", "", 8 * hugeFile);
+    host().settings().progressObserver = [](const host::ProgressState& state) {
+        if (state.text.rfind("Examining file header ...", 0) == 0)
+            host().requestInterrupt();
+    };
+    const host::LoadResult result = load({.gridFiles = {file}});
+    host().settings().progressObserver = nullptr;
+    EXPECT_FALSE(result.ok);
+    EXPECT_TRUE(result.interrupted);
+    EXPECT_EQ(messages(), Texts()); // a walk to the end is followed by a message
+}
+
 // A grid file of one big grid that a job has laid out and not yet filled.
 TEST_F(HugeFiles, HeaderWithHolesBehindItLoadsAtOnce) {
     FileDescription_s description;

@@ -182,7 +182,7 @@ TEST_F(Boundaries, WithAnErrorCostTheirMessageAndNothingElse) {
                                       "\nCheck that version is 1.4 and file is correctly formatted."
                                       "\nBoundary zones will not be loaded."});
     EXPECT_TRUE(dataSet(last()) == dataSet(described("without")));
-    EXPECT_EQ(exitCode_, 0);
+    EXPECT_EQ(exitCode_, 1); // a file was left out
 }
 
 TEST_F(Boundaries, OfAnAppendedGridStandBehindAllZones) {
@@ -196,19 +196,66 @@ TEST_F(Boundaries, OfAnAppendedGridStandBehindAllZones) {
     expectFaces(last(), 5, false, 30);
 }
 
+TEST_F(Boundaries, ThatJoinStrandsFollowOnTheLastZoneAndNotOnTheHighestStrand) {
+    const Files_s files = {.grids = {gridWithBoundaries("a.x")},
+                           .solutions = {series_.solution("join.q", 1)}};
+    const Settings withStrands = withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}};
+    play({load(files, withStrands),
+          load(files, withStrands + Settings{{"APPEND", "Yes"}, {"ADDTOEXISTINGSTRANDS", "Yes"}})});
+    EXPECT_EQ(numbers(last(), "strandId"),
+              (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 3, 4, 5, 6, 7, 8}));
+}
+
+TEST_F(Boundaries, StandInTheWayOfAppendedFunctions) {
+    const Files_s files = {.grids = {gridWithBoundaries("a.x")}};
+    play({load(files, withBoundaries), describe("before"),
+          load({.functions = {series_.function("a.fun", 2)}}, {{"APPEND", "Yes"}})});
+    EXPECT_EQ(messages(last()),
+              Texts{"If you are appending function files, you must append one file per existing "
+                    "time step already loaded. Also, any existing boundary zones will not allow "
+                    "appending function files. You are appending 1 function files with 2 zones "
+                    "each and there exist 8 zones."});
+    EXPECT_EQ(dataSet(last()), dataSet(described("before")));
+}
+
+// Zones of the grids, and a boundary zone of the second step that may not share its Y.
+TEST_F(Boundaries, ShareTheGridWholeOrNotAtAll) {
+    play({command("fail", {{"operation", "QuorUtilDataValueIsSharingOk"}, {"call", 2}}),
+          load({.grids = {gridWithBoundaries("a.x")},
+                .solutions = {series_.solution("share.1.q", 1), series_.solution("share.2.q", 2)}},
+               withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}})});
+    const Json& first = last()["dataSet"]["zones"][4 + faces.size()]["fields"];
+    const Json& second = last()["dataSet"]["zones"][5 + faces.size()]["fields"];
+    for (std::size_t variable = 0; variable < 3; ++variable) {
+        EXPECT_EQ(first[variable]["state"], "deferred");
+        EXPECT_EQ(second[variable]["state"], "shared");
+    }
+    expectFaces(last(), 5 + faces.size(), false);
+}
+
 /// Whether sharing is allowed.
 class BoundariesOfSeries : public Boundaries, public ::testing::WithParamInterface<bool> {
 protected:
     /// Three time steps, whose values are 0, 30 and 60 above the first.
-    void loadSeries(const Settings& more) {
+    void loadSeries(const Settings& more, const Commands& before = {}, const Commands& after = {}) {
         Texts steps;
         for (int step = 0; step < 3; ++step)
             steps.push_back(
                 series_.solution(fmt::format("series.{}.q", step), step + 1, 30.0 * step));
-        play({command("host", command("sharingAllowed", GetParam())),
-              load({.grids = {gridWithBoundaries("a.x", true)}, .solutions = steps},
-                   withBoundaries + more)});
+        Commands commands = before;
+        commands.push_back(command("host", command("sharingAllowed", GetParam())));
+        commands.push_back(load({.grids = {gridWithBoundaries("a.x", true)}, .solutions = steps},
+                                withBoundaries + more));
+        commands.insert(commands.end(), after.begin(), after.end());
+        play(commands);
         EXPECT_EQ(messages(last()), Texts());
+    }
+    /// Numbers of zones, from 1.
+    static Json deletion(std::size_t first, std::size_t count) {
+        Json zones = Json::array();
+        for (std::size_t n = 0; n < count; ++n)
+            zones.push_back(first + n);
+        return command("deleteZones", zones);
     }
 };
 
@@ -228,6 +275,38 @@ TEST_P(BoundariesOfSeries, WithStrandsComeForEachTimeStep) {
             const bool isShared = GetParam() && step > 0;
             EXPECT_EQ(zone["fields"][0]["state"], isShared ? "shared" : "deferred");
         }
+    }
+}
+
+TEST_P(BoundariesOfSeries, OutliveThoseOfEarlierTimeSteps) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(7, faces.size())});
+    expectFaces(last(), 7, true, 30);
+    expectFaces(last(), 7 + faces.size(), true, 60);
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(7, 2 * faces.size())});
+    expectFaces(last(), 7, true, 60);
+}
+
+TEST_P(BoundariesOfSeries, OutliveTheZonesThatTheyBelongTo) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {}, {deletion(1, 6 + faces.size())});
+    expectFaces(last(), 1, true, 30);
+    expectFaces(last(), 1 + faces.size(), true, 60);
+}
+
+TEST_P(BoundariesOfSeries, ComeAgainWhenTheyWereDroppedAndTheFirstTimeStepsDeleted) {
+    loadSeries({{"ASSIGNSTRANDIDS", "Yes"}}, {},
+               {describe("fetched"), command("unload", "all"), deletion(7, faces.size())});
+    expectFaces(last(), 7, true, 30);
+}
+
+// The share that is refused is one of a boundary's, behind those of the two later time steps.
+TEST_P(BoundariesOfSeries, HaveAGridOfTheirOwnWhereTheHostRefusesToShare) {
+    for (const int fieldOfBoundaries : {1, 4, 6}) {
+        const int call = 2 * 2 * 4 + fieldOfBoundaries;
+        loadSeries(
+            {{"ASSIGNSTRANDIDS", "Yes"}},
+            {command("fail", Json{{"operation", "QuorUtilDataValueShare"}, {"call", call}})});
+        for (std::size_t step = 0; step < 3; ++step)
+            expectFaces(last(), 7 + step * faces.size(), true, 30.0 * static_cast<double>(step));
     }
 }
 

@@ -104,9 +104,11 @@ TEST_F(LoadKinds, AppendedFunctionsTellOfTheirVariablesWithoutAnUndoState) {
 
 TEST_F(LoadKinds, NoAppendTouchesThePlotType) {
     for (const LoadKind_e kind : allLoadKinds)
-        if (appends(kind) && kind != LoadKind_e::AppendToLoneGrid) {
-            playKind(kind, "3D");
-            EXPECT_EQ(last()["plotType"], "3D") << nameOf(kind);
+        if (appends(kind)) {
+            const bool isLine = kind == LoadKind_e::AppendToLoneGrid;
+            const std::string before = isLine ? "2D" : "3D"; // a line's own would be XY
+            playKind(kind, before);
+            EXPECT_EQ(last()["plotType"], before) << nameOf(kind);
         }
 }
 

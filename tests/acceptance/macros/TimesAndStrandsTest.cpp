@@ -93,6 +93,20 @@ TEST_F(TimesAndStrands, AppendedZonesNumberOnOrJoin) {
     }
 }
 
+TEST_F(TimesAndStrands, AppendedZonesOfGridsThatDifferAreNewForEachStepUnlessTheyShallJoin) {
+    const auto appended = [this](const Settings& settings) {
+        play({start(LoadKind_e::AppendGrid), gridEachStep(settings)});
+        const Texts all = seriesOf(last());
+        return Texts(all.begin() + 4, all.end());
+    };
+    const Flag append = {"APPEND", "Yes"};
+    EXPECT_EQ(appended({append, strands, differ, newEachStep}),
+              (Texts{"3@1.0", "4@1.0", "5@2.0", "6@2.0"}));
+    EXPECT_EQ(appended({append, strands, differ, newEachStep, join}), kept_);
+    EXPECT_EQ(appended({append, strands, differ, sameByDims}),
+              (Texts{"3@1.0", "4@1.0", "3@2.0", "4@2.0"}));
+}
+
 TEST_F(TimesAndStrands, AppendedZonesWithoutTheOptionHaveNoneEvenIfTheyShallJoin) {
     Texts all = kept_;
     all.insert(all.end(), {"0@3.0", "0@3.0", "0@4.0", "0@4.0"});
@@ -181,6 +195,14 @@ TEST_F(TimeStepsOfOneTime, AreAskedAboutOnAnAppendToo) {
     EXPECT_EQ(undo(described("accepted")), (Texts{"begin", "end ok"}));
     EXPECT_EQ(messages(last()), Texts());
     EXPECT_EQ(zoneNames(last()).size(), 12U);
+}
+
+TEST_F(TimeStepsOfOneTime, LeaveTheTimesOfTheZonesThatAreThere) {
+    play({start(LoadKind_e::AppendGrid), namesTell(Json::array({5.0, 7.0})),
+          sameTimes({{"APPEND", "Yes"}})});
+    EXPECT_EQ(messages(last()), Texts());
+    EXPECT_EQ(seriesOf(last()),
+              (Texts{"1@1.0", "2@1.0", "1@2.0", "2@2.0", "3@5.0", "4@5.0", "3@7.0", "4@7.0"}));
 }
 
 // Two of three are enough.

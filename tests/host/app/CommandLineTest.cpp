@@ -77,11 +77,32 @@ TEST_F(CommandLine, FileListsAreRepeatableAndKeepTheirOrder) {
 }
 
 TEST_F(CommandLine, SettingsKeepTheirOrder) {
-    const LoadArguments_s arguments =
-        load({"--set", "B=2", "--grid", "a.g", "--set", "A=1,,3", "--set=B=3"});
+    const LoadArguments_s arguments = load({"--set", "style=Swift", "--grid", "a.g", "--set",
+                                            "IINDEXRANGE=1,,3", "--set=STYLE=OVERFLOW"});
     const std::vector<std::pair<std::string, std::string>> expected = {
-        {"B", "2"}, {"A", "1,,3"}, {"B", "3"}};
+        {"style", "Swift"}, {"IINDEXRANGE", "1,,3"}, {"STYLE", "OVERFLOW"}};
     EXPECT_EQ(expected, arguments.settings);
+}
+
+TEST_F(CommandLine, SettingWithAnUnknownKeyIsRefused) {
+    expectRefusal("--set: there is no key \"IINDEXRANG\" with a value; the nearest known one is "
+                  "\"IINDEXRANGE\"",
+                  {"load", "--grid", "a.g", "--set", "STYLE=SWIFT", "--set", "IINDEXRANG=1,,3"});
+}
+
+TEST_F(CommandLine, SettingWithAnUnknownWordIsRefused) {
+    expectRefusal("--set: STYLE can't be \"overflw\"; the nearest known word is \"OVERFLOW\"",
+                  {"load", "--grid", "a.g", "--set", "style=overflw"});
+    expectRefusal("--set: DATASTRUCTURE can't be \"3D\"; the nearest known word is \"3DW\"",
+                  {"load", "--grid", "a.g", "--set", "DATASTRUCTURE=3D"});
+    expectRefusal("--set: AUTODETECT can't be \"1\"; the known words are \"Yes\" and \"No\"",
+                  {"load", "--grid", "a.g", "--set", "AUTODETECT=1"});
+}
+
+TEST_F(CommandLine, SettingOfAFileListIsRefused) {
+    expectRefusal("--set: FILELIST_SOLUTIONFILES is followed by several values; give its files "
+                  "with --solution",
+                  {"load", "--grid", "a.g", "--set", "FILELIST_SOLUTIONFILES=2"});
 }
 
 TEST_F(CommandLine, OptionsAreTaken) {

@@ -1,6 +1,6 @@
 // A small add-on library for the tests of quorhost. The name of the first file, without directory
-// and extension, says how the load goes: see kScenes. Every load hands the host the instructions
-// that it was given, or for a selection the names of the files.
+// and extension, says how the load goes: see kScenes. Every load but "first-only" hands the host
+// the instructions that it was given, or for a selection the names of the files.
 //
 // The data set of a good load: variables "X" and "Density ", two zones of 2 x 3 x 5 points whose
 // deferred values are i + 100 j + 10000 k (Density: with the zone's number as sign); the second
@@ -117,6 +117,12 @@ bool loadUnreadable() {
     loadDataSet();
     defer(2, 2, 0);
     return true;
+}
+
+/// Comes in without something that it was given.
+bool loadPartly() {
+    QuorUtilDialogErrMsg("The names can't be read.");
+    return loadWell();
 }
 
 bool askFirst() {
@@ -237,6 +243,7 @@ const std::map<std::string, bool (*)()> kScenes = {
     {"tell-times", tellTimes}, {"fail", fail},
     {"silent", failSilently},  {"leak", leak},
     {"ctrl-c", pressOnce},     {"ctrl-c-twice", pressTwice},
+    {"partly", loadPartly},    {"first-only", loadWell},
 };
 
 std::string sceneOf(const std::string& file) {
@@ -244,8 +251,17 @@ std::string sceneOf(const std::string& file) {
     return name.substr(0, name.find('.'));
 }
 
+/// Hands over instructions with one file, whatever was given besides.
+bool nameAlone(const std::string& file) {
+    quorvia::StringList names;
+    names.append(file.c_str());
+    return QuorUtilImportSetLoaderInstr("Fake Loader", names.getRef());
+}
+
 bool play(const std::string& file, QuorStringListHandle instructions) {
     const auto scene = kScenes.find(sceneOf(file));
+    if (sceneOf(file) == "first-only")
+        return scene->second() && nameAlone(file);
     return scene != kScenes.end() && scene->second() &&
            QuorUtilImportSetLoaderInstr("Fake Loader", instructions);
 }

@@ -1,10 +1,12 @@
 // `quorhost load` in this process, with the fake add-on (FakeAddOn.cpp) in place of the real one.
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/resource.h>
 
 #include "app/Program.h"
 #include "support/TemporaryDirectory.h"
@@ -14,6 +16,40 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 using Strings = std::vector<std::string>;
+
+std::string contentsOf(const std::string& file) {
+    std::ostringstream text;
+    text << std::ifstream(file, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+/// Names, hidden ones included.
+Strings filesOf(const std::filesystem::path& folder) {
+    Strings names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    return names;
+}
+
+/// While one lives, no file of this process grows beyond so many bytes, as on a full disk.
+class SmallFiles {
+public:
+    explicit SmallFiles(rlim_t bytes) : handledBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit = {bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallFiles() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handledBefore_);
+    }
+    SmallFiles(const SmallFiles&) = delete;
+    SmallFiles& operator=(const SmallFiles&) = delete;
+
+private:
+    void (*handledBefore_)(int);
+    rlimit before_ = {};
+};
 
 class LoadCommand : public testing::Test {
 protected:
@@ -95,7 +131,44 @@ TEST_F(LoadCommand, FieldThatCannotBeReadTellsWhy) {
     const Json field = outcome["dataSet"]["zones"][1]["fields"][1];
     EXPECT_EQ("The values are gone.", field["error"]);
     EXPECT_FALSE(field.contains("crc32"));
-    EXPECT_EQ("quorhost: error: The values are gone.\n", err.str());
+    EXPECT_EQ("quorhost: error: The values are gone.\n"
+              "quorhost: error: 1 field could not be read; the table and the JSON list them\n",
+              err.str());
+}
+
+TEST_F(LoadCommand, FieldsThatCannotBeReadEndWith3) {
+    EXPECT_EQ(3, load({"unreadable.g"}));
+    EXPECT_EQ(0, load({"--no-values", "unreadable.g"}));
+}
+
+TEST_F(LoadCommand, LoadThatGoesOnWithoutAFileEndsWith1) {
+    EXPECT_EQ(1, load({"partly.g"}));
+    EXPECT_EQ(0U, out.str().find("Data set \"Fake\""));
+    EXPECT_EQ("quorhost: error: The names can't be read.\n"
+              "quorhost: error: the load came in, but with the error above: something was left "
+              "out\n",
+              err.str());
+}
+
+TEST_F(LoadCommand, FileThatTheInstructionsDoNotNameWasLeftOut) {
+    EXPECT_EQ(1, load({"first-only.g", "other.g"}));
+    EXPECT_EQ("quorhost: error: left out of the load: other.g\n", err.str());
+}
+
+TEST_F(LoadCommand, FileOfNoKindGetsAHint) {
+    EXPECT_EQ(1, load({"fail.g", "dir.g/mesh.bin"}));
+    EXPECT_EQ("quorhost: error: It can't be read.\n    File: fail.g\n"
+              "quorhost: the kind of dir.g/mesh.bin can't be told by its name: give every file "
+              "with --grid, --solution, --function or --name\n",
+              err.str());
+    load({"--grid", "mesh.bin"});
+    EXPECT_EQ(std::string::npos, err.str().find("kind"));
+}
+
+TEST_F(LoadCommand, HintNamesAFewOfManyFiles) {
+    load({"well.g", "a.bin", "b.bin", "c.bin", "d.bin", "E.G"});
+    EXPECT_NE(std::string::npos,
+              err.str().find("the kind of a.bin, b.bin, c.bin and 1 more can't"));
 }
 
 TEST_F(LoadCommand, ListsBecomeInstructions) {
@@ -128,6 +201,41 @@ TEST_F(LoadCommand, JsonFileThatCannotBeWrittenIsAFailure) {
     EXPECT_EQ("quorhost: error: " + file +
                   ": the JSON can't be written: No such file or directory\n",
               err.str());
+}
+
+TEST_F(LoadCommand, JsonThatCannotBeMadeWholeLeavesTheOldFile) {
+    const std::string file = directory.file("outcome.json");
+    std::ofstream(file) << "old";
+    const SmallFiles limit(100);
+    EXPECT_EQ(1, load({"well.g", "--json", file}));
+    EXPECT_NE(std::string::npos, err.str().find("the JSON can't be written: File too large"));
+    EXPECT_EQ("old", contentsOf(file));
+    EXPECT_EQ((Strings{"outcome.json"}), filesOf(directory.path()));
+}
+
+TEST_F(LoadCommand, JsonTakesThePlaceOfAnOldFileAndItsPermissions) {
+    const std::string file = directory.file("outcome.json");
+    std::ofstream(file) << std::string(1 << 20, 'x');
+    std::filesystem::permissions(file, std::filesystem::perms(0640));
+    EXPECT_EQ(0, load({"well.g", "--json", file}));
+    EXPECT_EQ(true, Json::parse(contentsOf(file))["ok"]);
+    EXPECT_EQ(std::filesystem::perms(0640), std::filesystem::status(file).permissions());
+    EXPECT_EQ((Strings{"outcome.json"}), filesOf(directory.path()));
+}
+
+TEST_F(LoadCommand, JsonThroughALinkLeavesTheLink) {
+    std::ofstream(directory.file("outcome.json")) << "old";
+    const std::string link = directory.file("link.json");
+    std::filesystem::create_symlink("outcome.json", link);
+    EXPECT_EQ(0, load({"well.g", "--json", link}));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(true, Json::parse(contentsOf(directory.file("outcome.json")))["ok"]);
+}
+
+TEST_F(LoadCommand, JsonGoesStraightToWhatIsNoPlainFile) {
+    EXPECT_EQ(0, load({"well.g", "--json", "/dev/null"}));
+    EXPECT_FALSE(std::filesystem::is_regular_file("/dev/null"));
+    EXPECT_EQ(1, load({"well.g", "--json", directory.path().string()}));
 }
 
 TEST_F(LoadCommand, QuestionIsAnsweredNoAndSaysSo) {
@@ -184,7 +292,7 @@ TEST_F(LoadCommand, CtrlCLeavesACleanFrame) {
 }
 
 TEST_F(LoadCommand, LoadAfterCtrlCIsNotInterrupted) {
-    EXPECT_EQ(1, load({"ctrl-c.g"}));
+    EXPECT_EQ(130, load({"ctrl-c.g"}));
     EXPECT_EQ(0, load({"well.g"}));
 }
 

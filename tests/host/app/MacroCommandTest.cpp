@@ -285,10 +285,28 @@ TEST_F(MacroRun, FetchAllTellsHowManyFieldsCame) {
 }
 
 TEST_F(MacroRun, FieldThatCantBeReadDoesNotEndTheMacro) {
-    EXPECT_EQ(0, play(R"({"select": {"files": ["unreadable.g"]}},
+    EXPECT_EQ(3, play(R"({"select": {"files": ["unreadable.g"]}},
                          {"fetch": {"zone": 2, "variable": 2}}, {"unload": "all"})"));
     EXPECT_NE(std::string::npos, out.str().find("failed: The values are gone.\n"));
     EXPECT_NE(std::string::npos, out.str().find("  3  unload all"));
+}
+
+TEST_F(MacroRun, LastLoadThatLeftSomethingOutEndsWith1) {
+    const std::string partly = R"({"select": {"files": ["partly.g"]}})";
+    const std::string well = R"({"select": {"files": ["well.g"]}})";
+    EXPECT_EQ(1, play(well + "," + partly));
+    EXPECT_NE(std::string::npos, err.str().find("the last load came in, but with an error"));
+    EXPECT_EQ(0, play(partly + "," + well));
+}
+
+TEST_F(MacroRun, JsonThatCannotBeWrittenLeavesTheOldFile) {
+    const std::string file = directory.file("o.json");
+    std::ofstream(file) << "old";
+    std::filesystem::create_directory(directory.file("full"));
+    EXPECT_EQ(1, play("", {"--json", directory.file("full")}));
+    EXPECT_EQ(2, play(R"({"nothing": 1})", {"--json", file}));
+    std::ifstream in(file);
+    EXPECT_EQ("old", std::string(std::istreambuf_iterator<char>(in), {}));
 }
 
 TEST_F(MacroRun, WhatIsNotThereEndsTheMacro) {
@@ -343,7 +361,7 @@ TEST_F(MacroRun, WhatTheAddOnStillHoldsAtTheEndIsTold) {
 }
 
 TEST_F(MacroRun, CtrlCEndsTheMacro) {
-    EXPECT_EQ(1, play(R"({"select": {"files": ["ctrl-c.g"]}}, {"describe": "never"})"));
+    EXPECT_EQ(130, play(R"({"select": {"files": ["ctrl-c.g"]}}, {"describe": "never"})"));
     EXPECT_NE(std::string::npos,
               err.str().find("quorhost: interrupted, the rest of the macro was not played\n"));
     EXPECT_EQ(std::string::npos, out.str().find("never"));

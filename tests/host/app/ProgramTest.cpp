@@ -68,8 +68,8 @@ TEST(Program, MissingAddOnEndsWith1) {
     EXPECT_TRUE(nlohmann::json::parse(ended.out)["hostError"].is_string());
 }
 
-TEST(Program, FirstCtrlCEndsTheLoadWith1) {
-    EXPECT_EQ(1, runProgram(kWithFake + "ctrl-c.g 2>/dev/null").exitCode());
+TEST(Program, FirstCtrlCEndsTheLoadWith130) {
+    EXPECT_EQ(130, runProgram(kWithFake + "ctrl-c.g 2>/dev/null").exitCode());
 }
 
 TEST(Program, SecondCtrlCEndsTheProgram) {

@@ -14,14 +14,14 @@ constexpr std::int64_t kValueCount = 2 * 3 * 5;
 class CountingDeferral : public Deferral {
 public:
     CountingDeferral(int& loads, bool works) : loads_(loads), works_(works) {}
-    bool load(FieldStorage& storage) override {
+    bool load(FieldStorage& storage) noexcept override {
         ++loads_;
         auto* values = static_cast<float*>(storage.values());
         for (std::int64_t index = 0; works_ && index < storage.valueCount(); ++index)
             values[index] = static_cast<float>(index + 1);
         return works_;
     }
-    bool mayUnload(FieldStorage&) override { return true; }
+    bool mayUnload(FieldStorage&) noexcept override { return true; }
 
 private:
     int& loads_;
@@ -178,13 +178,14 @@ TEST_F(GatherOutcome, EmptyFieldHasNeitherValuesNorError) {
     EXPECT_EQ(30, field.count);
 }
 
-TEST_F(GatherOutcome, ObserverCountsAndEndsTheFetching) {
+TEST_F(GatherOutcome, ObserverCountsBytesAndEndsTheFetching) {
+    constexpr std::int64_t kFieldBytes = 4 * kValueCount;
     addZone(deferred(), deferred());
     addZone(deferred(), deferred());
     DataSetOutcome_s outcome = described();
     EXPECT_FALSE(fetchValues(host, outcome, [](std::int64_t done, std::int64_t total) {
-        EXPECT_EQ(4, total);
-        return done < 3;
+        EXPECT_EQ(4 * kFieldBytes, total);
+        return done < 3 * kFieldBytes;
     }));
     EXPECT_EQ(3, loads);
     EXPECT_FALSE(outcome.zones[1].fields[1].statistics.has_value());

@@ -140,29 +140,6 @@ TEST(Json, ConnectivityTellsElementsAndCorners) {
               zone["connectivity"]);
 }
 
-TEST(Json, TextEndsWithALineEnd) {
-    EXPECT_EQ('\n', toJson(Outcome_s()).back());
-}
-
-/// An outcome of a session in which no dialog was shown.
-Json inSession(const Outcome_s& outcome) {
-    Json json = told(outcome);
-    json["dialog"] = nullptr;
-    json["helpShown"] = Json::array();
-    return json;
-}
-
-TEST(Json, SessionHoldsEachDescriptionUnderItsNameAndTheEnd) {
-    const SessionOutcome_s session = {{{"b", loadedOutcome(2)}, {"a \xff", Outcome_s()}},
-                                      loadedOutcome(1)};
-    const auto told = nlohmann::ordered_json::parse(toJson(session));
-    EXPECT_EQ("quorhost.session/1", told["schema"]);
-    EXPECT_EQ("b", told["descriptions"].begin().key());
-    EXPECT_EQ(inSession(loadedOutcome(2)), told["descriptions"]["b"]);
-    EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].is_null());
-    EXPECT_EQ(inSession(loadedOutcome(1)), told["final"]);
-}
-
 /// A dialog with a page that holds a control of each kind that has a value.
 Dialog sampleDialog() {
     Dialog dialog;
@@ -190,6 +167,92 @@ Dialog sampleDialog() {
     list.selected = {2};
     dialog.focus = list.id;
     return dialog;
+}
+
+// ---- The text itself ----------------------------------------------------------------------------
+
+/// What the library makes of the same values.
+std::string dumped(const std::string& text) {
+    return Json::parse(text).dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+TEST(Json, TextOfNothingIsTheLibrarysDump) {
+    EXPECT_EQ(dumped(toJson(Outcome_s())), toJson(Outcome_s()));
+    EXPECT_EQ(dumped(toJson(SessionOutcome_s())), toJson(SessionOutcome_s()));
+}
+
+TEST(Json, TextOfAnOutcomeIsTheLibrarysDump) {
+    Outcome_s outcome = loadedOutcome(3);
+    outcome.hostError = "No.";
+    outcome.messages = {{MessageOutcome_e::Question, "Which?\nThis?", false}};
+    outcome.progress.add("Zone 1");
+    outcome.progress.add("Zone 2");
+    outcome.stateChanges = {{3, {1, 2}}, {0, {}}};
+    outcome.undo = {{true, std::nullopt}, {false, true}};
+    outcome.dataSet->auxData = {{"Common.Mach", "0.5"}};
+    outcome.dataSet->zones[1].fields.clear();
+    outcome.dataSet->zones[2].connectivity = {7, 4, 0x1a};
+    EXPECT_EQ(dumped(toJson(outcome)), toJson(outcome));
+    EXPECT_EQ(Json({"Zone 1", "Zone 2"}), told(outcome)["progress"]);
+}
+
+TEST(Json, TextOfOddStringsIsTheLibrarysDump) {
+    Outcome_s outcome = loadedOutcome(1);
+    std::string all;
+    for (int byte = 0; byte < 0x80; ++byte)
+        all += static_cast<char>(byte);
+    outcome.dataSet->title = all;
+    outcome.dataSet->variables = {"\"", "\\", "\x7f", "\u00e9t\u00e9 \u6c34", ""};
+    outcome.dataSet->auxData = {{all, "\t"}};
+    EXPECT_EQ(dumped(toJson(outcome)), toJson(outcome));
+    EXPECT_EQ(all, told(outcome)["dataSet"]["title"]);
+}
+
+TEST(Json, TextOfNumbersIsTheLibrarysDump) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.redraws = std::numeric_limits<std::int64_t>::min();
+    for (const double number : {0.0, -0.0, 1.0, 0.1 + 0.2, 1e-5, 123456.75, 1e15, 1e16, -1e300,
+                                5e-324, 1.7976931348623157e308, 1.0 / 3}) {
+        outcome.dataSet->zones[0].solutionTime = number;
+        EXPECT_EQ(dumped(toJson(outcome)), toJson(outcome));
+        EXPECT_EQ(number, told(outcome)["dataSet"]["zones"][0]["solutionTime"].get<double>());
+    }
+}
+
+TEST(Json, TextOfManyZonesIsWrittenInPiecesThatFitTogether) {
+    const Outcome_s outcome = loadedOutcome(2000);
+    EXPECT_EQ(dumped(toJson(outcome)), toJson(outcome));
+}
+
+TEST(Json, TextOfASessionIsTheLibrarysDump) {
+    Outcome_s outcome = loadedOutcome(1);
+    outcome.dialog = sampleDialog();
+    outcome.helpShown = {"page.html#target"};
+    const SessionOutcome_s session = {{{"a", outcome}, {"b", Outcome_s()}}, outcome};
+    EXPECT_EQ(dumped(toJson(session)), toJson(session));
+}
+
+TEST(Json, TextEndsWithALineEnd) {
+    EXPECT_EQ('\n', toJson(Outcome_s()).back());
+}
+
+/// An outcome of a session in which no dialog was shown.
+Json inSession(const Outcome_s& outcome) {
+    Json json = told(outcome);
+    json["dialog"] = nullptr;
+    json["helpShown"] = Json::array();
+    return json;
+}
+
+TEST(Json, SessionHoldsEachDescriptionUnderItsNameAndTheEnd) {
+    const SessionOutcome_s session = {{{"b", loadedOutcome(2)}, {"a \xff", Outcome_s()}},
+                                      loadedOutcome(1)};
+    const auto told = nlohmann::ordered_json::parse(toJson(session));
+    EXPECT_EQ("quorhost.session/1", told["schema"]);
+    EXPECT_EQ("b", told["descriptions"].begin().key());
+    EXPECT_EQ(inSession(loadedOutcome(2)), told["descriptions"]["b"]);
+    EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].is_null());
+    EXPECT_EQ(inSession(loadedOutcome(1)), told["final"]);
 }
 
 TEST(Json, SessionTellsTheDialogAndTheHelp) {

@@ -13,7 +13,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kPatience = 10000; // milliseconds
+constexpr int kPatience = 10000; // milliseconds for each step
 
 } // namespace
 
@@ -54,13 +54,17 @@ void DesktopTest::startWindow(const std::string& addOnPath, const std::vector<st
 }
 
 void DesktopTest::waitUntilDone() {
-    const bool isDone = QTest::qWaitFor(
-        [this] {
-            return person_.isDone() && window_->isReady() &&
-                   QApplication::activeModalWidget() == nullptr;
-        },
-        kPatience);
-    if (!isDone)
+    const auto isDone = [this] {
+        return person_.isDone() && window_->isReady() &&
+               QApplication::activeModalWidget() == nullptr;
+    };
+    bool goesOn = true;
+    while (!isDone() && goesOn) {
+        const int before = person_.doneCount();
+        const auto hasGoneOn = [&] { return isDone() || person_.doneCount() != before; };
+        goesOn = QTest::qWaitFor(hasGoneOn, kPatience);
+    }
+    if (!goesOn)
         ADD_FAILURE() << "the person waits in vain for: " << person_.waitsFor();
 }
 

@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -90,6 +92,9 @@ protected:
     }
     QPushButton& button(const char* text) {
         return *qobject_cast<QPushButton*>(namedWidget(window_, QLatin1String(text)));
+    }
+    static bool comesToTheFront(const QWidget& window) {
+        return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
     }
     std::size_t toldCount() const { return told_.size(); }
     template <typename Action>
@@ -192,6 +197,19 @@ TEST_F(DialogWindowTest, TellsATextOnce) {
     EXPECT_EQ(told<PressDialogButton>(1).button, DialogButton::Apply);
 }
 
+TEST_F(DialogWindowTest, KeepsAHalfTypedTextWhileABoxIsInFront) {
+    ASSERT_TRUE(comesToTheFront(window()));
+    widget<QLineEdit>().setFocus();
+    QTest::keyClicks(&widget<QLineEdit>(), QStringLiteral("17"));
+    QMessageBox box(&window());
+    box.open();
+    ASSERT_TRUE(comesToTheFront(box));
+    box.close();
+    EXPECT_EQ(toldCount(), 0U);
+    click(button("OK"));
+    EXPECT_EQ(told<TypeText>().text, "17");
+}
+
 TEST_F(DialogWindowTest, ClosingTheWindowAsksForCancelAndLeavesItOpen) {
     window().close();
     EXPECT_EQ(told<PressDialogButton>().button, DialogButton::Cancel);
@@ -219,6 +237,19 @@ TEST_F(DialogWindowTest, TakesBackWhatTheGuestDidNotTake) {
     click(widget<QCheckBox>());
     refresh();
     EXPECT_FALSE(widget<QCheckBox>().isChecked());
+}
+
+TEST_F(DialogWindowTest, IsAnsweredOnceItShowsWhatCameOfTheLastThingDone) {
+    EXPECT_FALSE(window().isAnswered());
+    const std::function<void()> deeds[] = {[this] { click(widget<QCheckBox>()); },
+                                           [this] { click(button("OK")); },
+                                           [this] { widget<QTabWidget>().setCurrentIndex(1); }};
+    for (const auto& act : deeds) {
+        refresh();
+        EXPECT_TRUE(window().isAnswered());
+        act();
+        EXPECT_FALSE(window().isAnswered());
+    }
 }
 
 TEST_F(DialogWindowTest, LeavesATextThatIsBeingTyped) {

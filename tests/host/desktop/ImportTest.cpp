@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 #include <QUrl>
 
@@ -50,6 +51,16 @@ protected:
         QApplication::sendEvent(&window(), &event);
         QTest::qWait(0); // the import begins once the drop has ended
         waitUntilDone();
+    }
+    /// Right behind the beginning of the work that a new window begins with, so that its end can't
+    /// come first.
+    void closeOnceBusy() {
+        bool isBusy = false;
+        QTimer::singleShot(0, &window(), [this, &isBusy] {
+            isBusy = window().session().isBusy();
+            window().close();
+        });
+        EXPECT_TRUE(QTest::qWaitFor([&isBusy] { return isBusy; }));
     }
     void answerDrop(const char* button) {
         person().then("the question of a drop", [button] {
@@ -201,8 +212,7 @@ TEST_F(ImportTest, FilesOfTheCommandLineComeInAtTheStart) {
 TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenImportsNothing) {
     writeSample({"vortex", "--steps", "1", "--size", "7x5"});
     startWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().isBusy(); }));
-    window().close();
+    closeOnceBusy();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window().isVisible(); }));
     EXPECT_FALSE(window().session().isBusy());
     EXPECT_EQ(host().frame().dataSet(), nullptr);
@@ -210,8 +220,7 @@ TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenImportsNothing) {
 
 TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenTellsNoFault) {
     startWindow(directory().file("nowhere.so"), {});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().isBusy(); }));
-    window().close();
+    closeOnceBusy();
     EXPECT_TRUE(QTest::qWaitFor([this] { return window().isReady(); }));
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(person().boxTexts(), std::vector<std::string>());

@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "desktop/DialogWindow.h"
+
 namespace quorvia::host {
 namespace {
 
@@ -74,6 +76,21 @@ QDialog* guestDialog() {
     return nullptr;
 }
 
+namespace {
+
+/// The guest's dialog once a person can work at it: it shows what was done before, nothing stands
+/// before it, and it has the keyboard. That comes some time after it is seen; a field that is typed
+/// into before would not notice that it is left.
+QDialog* usableDialog() {
+    auto* dialog = dynamic_cast<DialogWindow*>(guestDialog());
+    const bool isUsable = dialog != nullptr && dialog->isAnswered() &&
+                          QApplication::activeModalWidget() == dialog &&
+                          QApplication::activeWindow() == dialog;
+    return isUsable ? dialog : nullptr;
+}
+
+} // namespace
+
 QWidget* namedWidget(QWidget& window, const QString& name, int which) {
     for (QWidget* widget : window.findChildren<QWidget*>())
         if (widget->isVisible() && (widget->accessibleName() == name || textOf(*widget) == name) &&
@@ -102,7 +119,9 @@ void Person::act() {
     NamedStep_s next = std::move(steps_.front());
     steps_.pop_front();
     acting_ = false;
-    if (!next.step())
+    if (next.step())
+        ++doneCount_;
+    else
         steps_.push_front(std::move(next));
 }
 
@@ -145,8 +164,8 @@ void Person::answerBox(QMessageBox::StandardButton button) {
 
 void Person::inDialog(std::string what, std::function<void(QDialog&)> act) {
     then(std::move(what), [act = std::move(act)] {
-        QDialog* dialog = guestDialog();
-        if (dialog == nullptr || visibleBox() != nullptr || visibleSelection() != nullptr)
+        QDialog* dialog = usableDialog();
+        if (dialog == nullptr)
             return false;
         act(*dialog);
         return true;
@@ -166,8 +185,8 @@ void Person::showPage(int index) {
 
 void Person::clickInDialog(const QString& text, int which) {
     then("\"" + text.toStdString() + "\" to be usable in the dialog", [text, which] {
-        QDialog* dialog = guestDialog();
-        if (dialog == nullptr || visibleBox() != nullptr)
+        QDialog* dialog = usableDialog();
+        if (dialog == nullptr)
             return false;
         QWidget* widget = namedWidget(*dialog, text, which);
         if (widget == nullptr || !widget->isEnabled())

@@ -43,6 +43,7 @@ public:
     void pressKeyInDialog(Qt::Key key);
 
     bool isDone() const { return steps_.empty(); }
+    int doneCount() const { return doneCount_; }
     /// What the person still waits for; empty when done.
     std::string waitsFor() const { return steps_.empty() ? "" : steps_.front().what; }
     /// Texts of the boxes, in order.
@@ -59,6 +60,7 @@ private:
     std::deque<NamedStep_s> steps_;
     std::vector<std::string> boxTexts_;
     bool acting_ = false;
+    int doneCount_ = 0;
 };
 
 // The windows that are open; null for none.

@@ -14,9 +14,11 @@ protected:
         import({"vortex.x", "vortex_t0.00.q", "vortex_t0.25.q"});
         dataSet_ = *window().tree().dataSet();
     }
-    FetchEnd_e fetch(const std::vector<FieldAddress_s>& fields, std::int64_t most = 100) {
-        return fetchFields(host(), dataSet_, fields,
-                           [most](std::int64_t done, std::int64_t) { return done < most; });
+    FetchEnd_e fetch(const std::vector<FieldAddress_s>& fields,
+                     std::int64_t mostBytes = 1'000'000) {
+        return fetchFields(host(), dataSet_, fields, [mostBytes](std::int64_t done, std::int64_t) {
+            return done < mostBytes;
+        });
     }
     const FieldOutcome_s& field(std::int32_t zone, std::int32_t variable) const {
         return *findField(dataSet_, {zone, variable});

@@ -29,9 +29,10 @@ public:
             append(value);
         return *this;
     }
-    /// A Fortran record with 4-byte markers around all that `payload` holds.
+    /// A Fortran record with markers around all that `payload` holds.
+    template <typename Marker = std::int32_t>
     Bytes& record(const Bytes& payload) {
-        const auto length = static_cast<std::int32_t>(payload.text_.size());
+        const auto length = static_cast<Marker>(payload.text_.size());
         append(length);
         text_ += payload.text_;
         append(length);

@@ -100,6 +100,23 @@ TEST_F(DataSize, LimitsPointsOfPlainBinaryGrids) {
     EXPECT_EQ(large->gridDims[0], (Plot3DGridDims_s{2, half - 1, 1}));
 }
 
+TEST_F(DataSize, LimitsElementsOfPlainBinaryGrids) {
+    constexpr std::int32_t most = 2147483645;
+    const auto fits = [this](std::int32_t triangles, std::int32_t tetrahedra) {
+        const std::int64_t elements = std::int64_t{triangles} + tetrahedra;
+        disk.putSparse("mesh", Bytes().integers({5, triangles, tetrahedra}).str(),
+                       12 + 5 * 12 + elements * 16);
+        auto file = createPlot3DFile("mesh", false);
+        EXPECT_TRUE(openPlot3DFile(*file));
+        file->dataStructure = Plot3DDataStructure_Unstructured;
+        return judge(*file);
+    };
+    EXPECT_TRUE(fits(most, 0));
+    EXPECT_FALSE(fits(most + 1, 0));
+    EXPECT_TRUE(fits(0, most));
+    EXPECT_FALSE(fits(0, most + 1));
+}
+
 TEST_F(DataSize, DoesNotOverflowOnAbsurdCountsOfVariables) {
     for (const std::int32_t absurd : {2147483647, -2147483647}) {
         auto file = whole(Bytes().integers({2, 3, 5, absurd, absurd}).reals(90), solutionOrFunction,

@@ -84,6 +84,34 @@ TEST_F(FileList, TriesPrecisionAgainIfTheStructureIsReused) {
     EXPECT_TRUE(second->hasIBlank);
 }
 
+// One plane is read the same way in whole and in planes; searched afresh it would be whole.
+TEST_F(FileList, TriesNoOtherStructureThanTheReusedOne) {
+    options.uniformGridStructure = true;
+    const auto planes = [](std::int32_t count) {
+        Bytes bytes = Bytes().record(payload().integers({2, 3, count}));
+        for (std::int32_t plane = 0; plane < count; ++plane)
+            bytes.record(payload().reals(3 * 6));
+        return bytes.str();
+    };
+    disk.put("planes.x", planes(5));
+    disk.put("one.x", planes(1));
+    ASSERT_EQ(build("planes.x", gridFile)->dataStructure, Plot3DDataStructure_3DPlanes);
+    EXPECT_EQ(build("one.x", gridFile)->dataStructure, Plot3DDataStructure_3DPlanes);
+}
+
+TEST_F(FileList, ReusesTheWidthOfMarkers) {
+    options.uniformGridStructure = true;
+    const auto grid = [](std::int32_t i) {
+        Bytes bytes;
+        bytes.record<std::int64_t>(payload().integers({i, 3, 5}));
+        return bytes.record<std::int64_t>(payload().reals(15 * 3 * i)).str();
+    };
+    disk.put("first.x", grid(2));
+    disk.put("second.x", grid(7));
+    ASSERT_EQ(build("first.x", gridFile)->markerSize, 8U);
+    EXPECT_EQ(build("second.x", gridFile)->gridDims[0], (Plot3DGridDims_s{7, 3, 5}));
+}
+
 TEST_F(FileList, FindsTheByteOrderAgainIfTheStructureIsReused) {
     options.uniformGridStructure = true;
     build("small.x", gridFile);

@@ -33,6 +33,11 @@ protected:
 
 using Texts = std::vector<std::string>;
 
+const std::string otherStructure = "All files must have the same data structure.";
+const std::string otherGridCount =
+    "b does not have the same number of grids as file a. When loading uniform grids the files must "
+    "have the same numbers of grids.";
+
 TEST_F(StructureValidator, TakesFilesThatAreAlike) {
     EXPECT_TRUE(validateGridFile());
     EXPECT_TRUE(validateSolution());
@@ -43,14 +48,24 @@ TEST_F(StructureValidator, RefusesPlanesBesideWhole) {
     next.dataStructure = Plot3DDataStructure_3DPlanes;
     EXPECT_FALSE(validateGridFile());
     EXPECT_FALSE(validateSolution());
-    EXPECT_EQ(messages(), Texts(2, "All files must have the same data structure."));
+    EXPECT_EQ(messages(), Texts(2, otherStructure));
+}
+
+TEST_F(StructureValidator, TellsTheFirstFaultAlone) {
+    next.numVars = 4;
+    next.numGrids = 1;
+    EXPECT_FALSE(validateGridFile());
+    EXPECT_FALSE(validateSolution());
+    next.dataStructure = Plot3DDataStructure_3DPlanes;
+    EXPECT_FALSE(validateGridFile());
+    EXPECT_FALSE(validateSolution());
+    EXPECT_EQ(messages(), (Texts{otherGridCount, otherGridCount, otherStructure, otherStructure}));
 }
 
 TEST_F(StructureValidator, RefusesAnotherNumberOfGridsOfUniformFiles) {
     next.numGrids = 1;
     EXPECT_FALSE(validateSolution());
-    EXPECT_EQ(messages(), Texts{"b does not have the same number of grids as file a. When loading "
-                                "uniform grids the files must have the same numbers of grids."});
+    EXPECT_EQ(messages(), Texts{otherGridCount});
 }
 
 TEST_F(StructureValidator, TakesAnotherNumberOfGridsOfFilesThatAreNotUniform) {

@@ -1,0 +1,214 @@
+// Each service of the host while the host's memory runs out at its first, second, third ...
+// allocation: it happens whole or not at all, as its result says; the guest is blamed for nothing;
+// and the same call works once there is memory again.
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+#include <regex>
+#include <set>
+
+#include "memory/HostPicture.h"
+#include "memory/ServiceScenarios.h"
+#include "state/HostState.h"
+#include "support/AllocationFaults.h"
+
+namespace quorvia::host {
+
+void PrintTo(const ServiceScenario& scenario, std::ostream* out) {
+    *out << scenario.service;
+}
+
+namespace {
+
+using testsupport::FaultSpan_e;
+
+struct Attempt {
+    Ended_e ended = Ended_e::Done;
+    bool wasFaulted = false; // an allocation failed
+};
+
+Ended_e callOf(const ServiceScenario& scenario, Guest& guest) {
+    try {
+        return scenario.call(guest);
+    } catch (const std::bad_alloc&) {
+        return Ended_e::BadAlloc;
+    }
+}
+
+/// Allocation `n`, from 1, fails; 0 for none.
+Attempt attempt(const ServiceScenario& scenario, Guest& guest, std::int64_t n, FaultSpan_e span) {
+    testsupport::failAllocation(n, span);
+    const Ended_e ended = callOf(scenario, guest);
+    return {ended, testsupport::endAllocationFaults()};
+}
+
+class EveryService : public HostTest, public ::testing::WithParamInterface<ServiceScenario> {
+protected:
+    EveryService() {
+        testsupport::countCAllocations();
+        freeLock(); // each stage takes it anew
+    }
+
+    /// A host as at its start, with a guest who is about to call the service.
+    class Stage {
+    public:
+        Stage(const ServiceScenario& scenario, QuorAddOnHandle addOn, bool recordsTranscript) {
+            hostState().toolkit.removeWhere([](const Dialog&) { return true; });
+            hostState().loaders.clear();
+            hostState().stateChangeCallbacks.clear();
+            host().reset();
+            QuorUtilLockStart(addOn);
+            before_ = GivenOut::now();
+            guest_ = std::make_unique<Guest>();
+            guest_->addOn = addOn;
+            scenario.prepare(*guest_);
+            host().recordTranscript(recordsTranscript);
+        }
+        Guest& guest() { return *guest_; }
+        std::string picture() const { return hostPicture(*guest_, before_); }
+        /// What is wrong when the guest has left.
+        Texts faultsAtTheEnd() {
+            guest_.reset();
+            // What these scenarios leave open is theirs to leave open.
+            hostState().guestLockDepth = hostState().entryLockDepth = 0;
+            hostState().openUndoStates = 0;
+            host().checkForLeaks();
+            return host().log().violations;
+        }
+
+    private:
+        GivenOut before_ = {};
+        std::unique_ptr<Guest> guest_;
+    };
+
+    /// Runs without a fault first, and then with each; false once there is nothing left to fail.
+    void failEachAllocation(FaultSpan_e span, bool recordsTranscript) {
+        Stage faultless(GetParam(), addOn(), recordsTranscript);
+        before_ = faultless.picture();
+        ended_ = attempt(GetParam(), faultless.guest(), 0, span).ended;
+        after_ = faultless.picture();
+        ASSERT_TRUE(ended_ == Ended_e::Done || ended_ == Ended_e::Silent);
+        EXPECT_EQ(faultless.faultsAtTheEnd(), Texts());
+        for (std::int64_t n = 1; n < 1000 && failOneAllocation(n, span, recordsTranscript); ++n) {
+        }
+    }
+
+private:
+    bool failOneAllocation(std::int64_t n, FaultSpan_e span, bool recordsTranscript) {
+        SCOPED_TRACE("allocation " + std::to_string(n));
+        Stage stage(GetParam(), addOn(), recordsTranscript);
+        EXPECT_EQ(stage.picture(), before_);
+        const Attempt faulted = attempt(GetParam(), stage.guest(), n, span);
+        const std::string now = stage.picture();
+        EXPECT_EQ(now, expectedAfter(faulted.ended, now));
+        EXPECT_TRUE(faulted.ended != Ended_e::BadAlloc || GetParam().mayThrow);
+        if (now == before_ && before_ != after_) {
+            EXPECT_EQ(callOf(GetParam(), stage.guest()), ended_);
+            EXPECT_EQ(stage.picture(), after_);
+        }
+        EXPECT_EQ(stage.faultsAtTheEnd(), Texts());
+        return faulted.wasFaulted && !HasFailure();
+    }
+    const std::string& expectedAfter(Ended_e ended, const std::string& now) const {
+        if (ended == Ended_e::Refused || ended == Ended_e::BadAlloc)
+            return before_;
+        return ended == Ended_e::Silent && now == before_ ? before_ : after_;
+    }
+
+    std::string before_, after_; // of a run without a fault
+    Ended_e ended_ = Ended_e::Done;
+};
+
+TEST_P(EveryService, HappensWholeOrNotAtAllIfOneAllocationFails) {
+    failEachAllocation(FaultSpan_e::Once, false);
+}
+
+TEST_P(EveryService, HappensWholeOrNotAtAllIfAllAllocationsFailFromOneOn) {
+    failEachAllocation(FaultSpan_e::FromThenOn, false);
+}
+
+TEST_P(EveryService, HappensWholeOrNotAtAllWhileItsCallsAreRecorded) {
+    failEachAllocation(FaultSpan_e::Once, true);
+    failEachAllocation(FaultSpan_e::FromThenOn, true);
+}
+
+std::string testName(const ::testing::TestParamInfo<ServiceScenario>& info) {
+    std::string name = std::to_string(info.index) + '_';
+    for (const char letter : info.param.service)
+        if (std::isalnum(static_cast<unsigned char>(letter)) != 0)
+            name += letter;
+        else if (letter == '~')
+            name += "End";
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Host, EveryService, ::testing::ValuesIn(allScenarios()), testName);
+
+// ---- The faults are there -----------------------------------------------------------------------
+
+TEST(AllocationFault, ReachesTheHost) {
+    testsupport::countCAllocations();
+    const auto number = static_cast<std::int32_t>(QuorFieldDataType_Float);
+    testsupport::failAllocation(1, FaultSpan_e::Once);
+    EXPECT_THROW(FieldStorage::stored(number, 3), std::bad_alloc);
+    EXPECT_TRUE(testsupport::endAllocationFaults());
+    EXPECT_NE(FieldStorage::stored(number, 3), nullptr);
+    EXPECT_FALSE(testsupport::endAllocationFaults());
+}
+
+#ifndef __SANITIZE_ADDRESS__ // which has a malloc of its own
+
+TEST(AllocationFault, ReachesTheBlocksOfTheHost) {
+    testsupport::countCAllocations();
+    testsupport::failAllocation(1, FaultSpan_e::Once);
+    EXPECT_FALSE(static_cast<bool>(ValueBlock::zeroed(8)));
+    EXPECT_TRUE(testsupport::endAllocationFaults());
+}
+
+#endif
+
+// ---- None is left out ---------------------------------------------------------------------------
+
+/// The operations that a header declares, members with their class. Deleted ones are none.
+std::set<std::string> declaredIn(const std::string& header) {
+    const std::regex classHead("^class QUORVIA_HOST_API (\\w+).*");
+    const std::regex operation("^( *)(?:[A-Za-z].*[ *&>])?(~?\\w+)\\(.*");
+    const std::regex notDeclared(".*(= delete;|^ *//|^using|^ *return).*");
+    std::set<std::string> names;
+    std::string className;
+    std::ifstream file(SDK_DIRECTORY "/" + header);
+    std::smatch match;
+    for (std::string line; std::getline(file, line);) {
+        if (line.rfind("};", 0) == 0)
+            className.clear();
+        if (std::regex_match(line, match, classHead))
+            className = match[1];
+        else if (!std::regex_match(line, notDeclared) && std::regex_match(line, match, operation) &&
+                 match[1].length() == (className.empty() ? 0 : 4))
+            names.insert(className.empty() ? match[2].str() : className + "::" + match[2].str());
+    }
+    return names;
+}
+
+TEST(EveryServiceOfTheSdk, HasAScenario) {
+    std::set<std::string> missing;
+    for (const char* header : {"QuorUtil.h", "QuorGUI.h", "QuorUtilityLibrary.h"}) {
+        const std::set<std::string> declared = declaredIn(header);
+        EXPECT_GT(declared.size(), 10U) << header;
+        missing.insert(declared.begin(), declared.end());
+    }
+    for (const ServiceScenario& scenario : allScenarios())
+        missing.erase(scenario.service);
+    EXPECT_EQ(missing, std::set<std::string>());
+}
+
+TEST(EveryServiceOfTheSdk, IsReadFromItsHeaders) {
+    EXPECT_EQ(declaredIn("QuorUtil.h").count("QuorUtilDataSetAddZoneX"), 1U);
+    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("TaskProgress::createSubTask"), 1U);
+    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("StringList::~StringList"), 1U);
+    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("createTaskProgressBar"), 1U);
+}
+
+} // namespace
+
+} // namespace quorvia::host

@@ -1,0 +1,70 @@
+// What `quorhost load --set` takes, held against the loader's own tables and the document.
+#include "app/Settings.h"
+
+#include <algorithm>
+#include <fstream>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "instructions/InstructionKeys.h"
+#include "instructions/InstructionWords.h"
+
+namespace quorvia::quorutildataio {
+namespace {
+
+using host::settingKeys;
+using host::settingProblem;
+
+/// The keys of the document's first table.
+std::vector<std::string> documentedKeys() {
+    const std::regex row("^\\| `([A-Z_]+)`(, `([A-Z_]+)`)? \\|.*");
+    std::vector<std::string> keys;
+    std::ifstream document(INSTRUCTIONS_DOCUMENT);
+    std::smatch match;
+    for (std::string line; std::getline(document, line) && line != "### Names";) {
+        if (!std::regex_match(line, match, row))
+            continue;
+        keys.push_back(match[1]);
+        if (match[3].matched)
+            keys.push_back(match[3]);
+    }
+    return keys;
+}
+
+TEST(Settings, KeysAreKeysOfTheLoader) {
+    for (const std::string_view key : settingKeys())
+        EXPECT_NE(findInstructionKey(std::string(key).c_str()), nullptr) << key;
+}
+
+TEST(Settings, EveryDocumentedKeyIsKnown) {
+    const std::vector<std::string_view> known = settingKeys();
+    EXPECT_EQ(documentedKeys().size(), 22U);
+    for (const std::string& key : documentedKeys())
+        EXPECT_NE(std::find(known.begin(), known.end(), key), known.end()) << key;
+}
+
+TEST(Settings, WordsAreThoseOfTheLoader) {
+    for (const auto& entry : styleWords)
+        EXPECT_EQ(settingProblem("STYLE", entry.word), "");
+    for (const auto& entry : dataStructureWords)
+        EXPECT_EQ(settingProblem("datastructure", entry.word), "");
+    for (const char* word : {"Yes", "no", "T", "false", "YouBetcha"})
+        EXPECT_EQ(settingProblem("APPEND", word), "");
+}
+
+TEST(Settings, RangesSetsAndNamesAreLeftToTheLoader) {
+    EXPECT_EQ(settingProblem("IINDEXRANGE", "x"), "");
+    EXPECT_EQ(settingProblem("FILEGRIDSET", ""), "");
+    EXPECT_EQ(settingProblem("FILENAME_NAMEFILE", "any name"), "");
+}
+
+TEST(Settings, SwitchesHaveNoValueAndAreRefused) {
+    for (const char* word : {"-M", "-I", "-2D", "-FUNCTION", "-B", "STANDARDSYNTAX", "1.0"})
+        EXPECT_NE(settingProblem(word, ""), "") << word;
+}
+
+} // namespace
+} // namespace quorvia::quorutildataio
