@@ -2,14 +2,9 @@
 // failure.
 #pragma once
 
-#include <cstdint>
-
 #include "loader/LoadContext.h"
 
 namespace quorvia::quorutildataio {
-
-/// The weight of the dataset stage on the progress bar: variables times zones, or times K planes.
-std::int64_t estimateLoadWork(const Plot3DLoadContext_s& context);
 
 /// Runs the stage. False: it failed or was interrupted, which has been told, and the host's data
 /// set has been cleaned up: a fresh load leaves an empty frame.

@@ -7,12 +7,15 @@
 #include "instructions/InstructionWriter.h"
 #include "loader/DatasetCompatibility.h"
 #include "loader/DatasetStage.h"
-#include "loader/FileSetRules.h"
+#include "loader/FileSetCounts.h"
 #include "loader/FunctionAppend.h"
+#include "loader/GridCountRules.h"
 #include "loader/HeaderExamination.h"
 #include "loader/LoadContext.h"
 #include "loader/LoadScopes.h"
+#include "loader/LoadWork.h"
 #include "loader/SolutionTimes.h"
+#include "loader/TimeStepPairing.h"
 #include "state/AddOnIdentity.h"
 
 namespace quorvia::quorutildataio {

@@ -1,11 +1,12 @@
-// One field, or one K plane of one, as a walk through its file comes to it.
+#include "dataset/items/VariableItem.h"
+
 #include <optional>
 
-#include "dataset/items/ItemDispatch.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
 

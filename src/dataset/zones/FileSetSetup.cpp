@@ -4,6 +4,7 @@
 
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/zones/OffsetReuse.h"
 #include "dataset/zones/ZoneFit.h"
 #include "plot3dfile/file/OpenedFile.h"
 

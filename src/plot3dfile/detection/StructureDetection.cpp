@@ -3,6 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "plot3dfile/detection/FileCreation.h"
+#include "plot3dfile/detection/StructureTrials.h"
 #include "plot3dfile/detection/StructureValidators.h"
 #include "quorvia/QuorUtil.h"
 

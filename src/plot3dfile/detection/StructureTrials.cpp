@@ -1,5 +1,5 @@
-// The trials of structure detection: which candidates are tried, and in which order.
-#include "plot3dfile/detection/StructureDetection.h"
+#include "plot3dfile/detection/StructureTrials.h"
+
 #include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::quorutildataio {

@@ -1,4 +1,5 @@
-// The size test: the last word of a parser that judges.
+#include "plot3dfile/layout/DataSize.h"
+
 #include <optional>
 
 #include "plot3dfile/bytes/CheckedSize.h"

@@ -41,4 +41,14 @@ bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
 /// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md.
 bool read1DHeader(Plot3DFile_s& file);
 
+/// Reads 1 or 2 integers that form a record, or a line, of their own.
+bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values);
+
+/// Sets `numScalars` by the style; for Overflow reads `numVars` and `numSpecies` first.
+bool readScalarCount(Plot3DFile_s& file);
+
+/// Stores the dimensions of one grid, growing the array as needed. False: no memory.
+bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
+                   std::vector<Plot3DGridDims_s>& gridDims);
+
 } // namespace quorvia::quorutildataio

@@ -1,5 +1,6 @@
 #include "plot3dfile/layout/LayoutParsers.h"
 
+#include "plot3dfile/layout/DataSize.h"
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutWalk.h"
 

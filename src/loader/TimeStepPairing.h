@@ -1,5 +1,5 @@
-// How many grid, solution and function files may go together, and how they pair up into time steps.
-// Each rule tells the user what it refuses. docs/time-series.md holds the tables.
+// Which grid, solution and function files make a time step together, and whether they fit. What is
+// refused has been told. docs/time-series.md holds the tables.
 #pragma once
 
 #include <vector>
@@ -9,17 +9,6 @@
 #include "plot3dfile/timestep/Plot3DFileHandler.h"
 
 namespace quorvia::quorutildataio {
-
-/// The counts of names, before any file is opened.
-bool checkFileSetCounts(const Plot3DLoadOptions_s& options);
-
-/// The numbers of grids in the first file of each list.
-bool checkFileListGridCounts(const Plot3DFileList& gridFiles, const Plot3DFileList& solutionFiles,
-                             const Plot3DFileList& functionFiles);
-
-/// The numbers of grids in all files, under a uniform grid structure.
-bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFileList& solutionFiles,
-                               const Plot3DFileList& functionFiles);
 
 /// Makes the time steps. False: a file stands in the wrong list (told), or no memory (not told).
 bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileList& gridFiles,
