@@ -7,6 +7,7 @@
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/numbers/IndexRange.h"
+#include "plot3dfile/layout/LayoutParsers.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
 

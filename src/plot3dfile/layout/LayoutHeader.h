@@ -19,18 +19,6 @@ struct LayoutRules_s {
     double (*pointCount)(const Plot3DGridDims_s& dims); // as a real: the product may pass 64 bits
 };
 
-/// A grid file has no style: what a manual description says there is meant for its companions.
-inline bool isFunctionFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style == Plot3DStyle_Function;
-}
-inline bool isOverflowFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style == Plot3DStyle_Overflow;
-}
-/// Whether each grid begins with a block of scalars.
-inline bool isSolutionFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style != Plot3DStyle_Function;
-}
-
 /// The product of the dimensions, as a real.
 double structuredPointCount(const Plot3DGridDims_s& dims);
 
