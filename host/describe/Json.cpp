@@ -117,9 +117,13 @@ Json valueOf(const Control& control) {
         return control.value;
     case ControlKind::TextField:
         return control.text;
-    default:
-        return nullptr;
+    case ControlKind::Frame:
+    case ControlKind::Label:
+    case ControlKind::Button:
+    case ControlKind::List:
+        break;
     }
+    return nullptr;
 }
 
 Json control(const Dialog& dialog, const Control& told) {

@@ -138,9 +138,11 @@ bool checkDataSize(Plot3DFile_s& file) {
         return fitsText(file);
     case Plot3DEncoding_FortranUnformatted:
         return fitsFortran(file);
-    default:
-        return fitsBinary(file);
+    case Plot3DEncoding_Binary:
+    case Plot3DEncoding_Unknown:
+        break;
     }
+    return fitsBinary(file);
 }
 
 } // namespace quorvia::quorutildataio

@@ -116,9 +116,10 @@ bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
         return parse3D(file, report, gridSet, receiver);
     case Plot3DDataStructure_Unstructured:
         return parseUnstructured(file, report, gridSet, receiver);
-    default:
-        return true;
+    case Plot3DDataStructure_Unknown:
+        break;
     }
+    return true;
 }
 
 } // namespace quorvia::quorutildataio

@@ -28,9 +28,13 @@ public:
             return deliverUnstructured();
         case Plot3DDataStructure_3DPlanes:
             return deliverPlanes();
-        default:
-            return deliverFields(wholeField);
+        case Plot3DDataStructure_1D:
+        case Plot3DDataStructure_2D:
+        case Plot3DDataStructure_3DWhole:
+        case Plot3DDataStructure_Unknown:
+            break;
         }
+        return deliverFields(wholeField);
     }
 
 private:
