@@ -114,7 +114,6 @@ TEST_F(SubRange, OfIBlankIs32BitIntegersInDoublePrecisionToo) {
 TEST_F(SubRange, StepsOverMarkersInsideASegmentedRecord) {
     std::string bytes = FileBytes().reals(planes<float>(1, 7)).str();
     openFortran(bytes.insert(200, "MARKMARK")).segmentBoundaries = {200};
-    file->inSegmentedRecord = true;
     EXPECT_EQ(values<float>(), selected<float>());
 }
 

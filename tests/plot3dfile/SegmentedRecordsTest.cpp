@@ -110,23 +110,25 @@ TEST_F(SegmentedRecord, BoundaryThatCannotBeSteppedOverFails) {
     EXPECT_FALSE(skipSegmentBoundary(*file));
 }
 
-TEST_F(SegmentedRecord, NumbersStepOverTheMarkersInsideAChain) {
-    openFortran(FileBytes().integers({7, 0, 0, 11, 13}).str());
-    file->segmentBoundaries = {4};
-    file->inSegmentedRecord = true;
+TEST_F(SegmentedRecord, NumbersStepOverTheMarkers) {
+    openFortran(FileBytes().integers({7, 0, 0, 11, 13}).str()).segmentBoundaries = {4};
     std::int32_t first = 0, second = 0;
-    double third = 0.0;
-    EXPECT_TRUE(readInteger(*file, first) && readInteger(*file, second) && readReal(*file, third));
+    EXPECT_TRUE(readInteger(*file, first) && readInteger(*file, second));
     EXPECT_EQ(first, 7);
     EXPECT_EQ(second, 11);
 }
 
-TEST_F(SegmentedRecord, NumbersOutsideAChainTakeTheMarkersForData) {
-    openFortran(FileBytes().integers({7, -8, -8, 11}).str());
-    file->segmentBoundaries = {4};
-    std::int32_t first = 0, second = 0;
-    EXPECT_TRUE(readInteger(*file, first) && readInteger(*file, second));
-    EXPECT_EQ(second, -8);
+// The chain is closed once nextRecord has walked over it; its boundaries stand.
+TEST_F(SegmentedRecord, NumbersStepOverTheMarkersOfARecordThatWasEntered) {
+    placeShortChain();
+    disk.place("wing.x", firstEnd + 25, firstEnd - 3, "abc");
+    disk.place("wing.x", firstEnd + 25, firstEnd + 8, "defgh");
+    openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25);
+    EXPECT_TRUE(checkFortranRecords(*file) && (rewindPlot3DFile(*file), true));
+    EXPECT_TRUE(nextRecord(*file, quietly, nullptr) && file->stream->seek(firstEnd - 3));
+    std::int32_t cut = 0, behind = 0;
+    EXPECT_TRUE(readInteger(*file, cut) && readInteger(*file, behind));
+    EXPECT_EQ(FileBytes().integers({cut, behind}).str(), "abcdefgh");
 }
 
 TEST_F(SegmentedRecord, BlockReadsAcrossOneBoundary) {

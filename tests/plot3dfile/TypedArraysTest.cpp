@@ -210,12 +210,10 @@ TEST_F(Block, SetFunctionGetsWhatCameBeforeTheFilesEnd) {
     EXPECT_EQ(gTaken, Taken({{0, 1.5}, {1, -2.5}}));
 }
 
-// Nobody steps over the markers between segments here.
-TEST_F(Block, SetFunctionTakesMarkersBetweenSegmentsForData) {
+TEST_F(Block, SetFunctionGetsNoMarkersBetweenSegments) {
     openFortran(FileBytes().integers({7, -8, -8, 11}).str()).segmentBoundaries = {4};
-    file->inSegmentedRecord = true;
     EXPECT_TRUE(takeIntegers(0, 2));
-    EXPECT_EQ(gTaken, Taken({{0, 7.0}, {1, -8.0}}));
+    EXPECT_EQ(gTaken, Taken({{0, 7.0}, {1, 11.0}}));
 }
 
 TEST_F(Block, SetFunctionOfManyValuesMissesNone) {

@@ -130,6 +130,14 @@ const char* enterNextRecord(Plot3DFile_s& file) {
     return fault == nullptr && !isAtPayload ? cannotSeek : fault;
 }
 
+// How far the next boundary behind the position is away; very far if there is none.
+std::int64_t bytesAheadOfBoundary(const Plot3DFile_s& file) {
+    const std::vector<std::int64_t>& boundaries = file.segmentBoundaries;
+    const std::int64_t position = file.stream->tell();
+    const auto next = std::upper_bound(boundaries.begin(), boundaries.end(), position);
+    return (next != boundaries.end() ? *next : largestPosition) - position;
+}
+
 bool isLineEnd(int character) {
     return character == '\r' || character == '\n';
 }
@@ -212,10 +220,29 @@ bool atFileEnd(Plot3DFile_s& file, bool report) {
 }
 
 bool skipSegmentBoundary(Plot3DFile_s& file) {
+    const std::vector<std::int64_t>& boundaries = file.segmentBoundaries;
     const std::int64_t position = file.stream->tell();
-    const bool isAtBoundary =
-        std::binary_search(file.segmentBoundaries.begin(), file.segmentBoundaries.end(), position);
-    return !isAtBoundary || file.stream->skip(2 * widthOf(file));
+    if (!std::binary_search(boundaries.begin(), boundaries.end(), position))
+        return true;
+    const bool isRecordEnd = position == file.nextRecordStart - widthOf(file);
+    return !isRecordEnd && file.stream->skip(2 * widthOf(file));
+}
+
+std::int64_t readAcrossSegments(Plot3DFile_s& file, void* destination, std::int64_t byteCount) {
+    char* target = static_cast<char*>(destination);
+    const bool hasSegments =
+        file.encoding == Plot3DEncoding_FortranUnformatted && !file.segmentBoundaries.empty();
+    if (!hasSegments)
+        return file.stream->read(target, byteCount);
+    std::int64_t done = 0;
+    while (done < byteCount && skipSegmentBoundary(file)) {
+        const std::int64_t piece = std::min(byteCount - done, bytesAheadOfBoundary(file));
+        const std::int64_t got = file.stream->read(target + done, piece);
+        done += got;
+        if (got < piece)
+            break;
+    }
+    return done;
 }
 
 } // namespace quorvia::quorutildataio

@@ -35,7 +35,13 @@ bool atRecordEnd(Plot3DFile_s& file);
 /// Whether nothing but the last marker or line ends remain. On false, if `report`, tells the user.
 bool atFileEnd(Plot3DFile_s& file, bool report);
 
-/// Steps over the two markers between segments if the stream stands there. False: the seek failed.
+/// Steps over the two markers between segments if the stream stands there. False: the seek failed,
+/// or it stands at the end of the current record, which is noted like the end of a segment.
 bool skipSegmentBoundary(Plot3DFile_s& file);
+
+/// Reads the next `byteCount` bytes that are no markers between segments, wherever these stand: at
+/// the true length of a segment the first of them cuts a value in two. Gives how many came; fewer
+/// mean the end of the file or of the record, or a read error.
+std::int64_t readAcrossSegments(Plot3DFile_s& file, void* destination, std::int64_t byteCount);
 
 } // namespace quorvia::quorutildataio

@@ -15,12 +15,10 @@ namespace {
 
 template <typename Number>
 bool readBinaryNumber(Plot3DFile_s& file, Number& value) {
+    constexpr std::int64_t width = sizeof(Number);
     value = 0;
-    if (file.encoding == Plot3DEncoding_FortranUnformatted && file.inSegmentedRecord &&
-        !skipSegmentBoundary(file))
-        return false;
     Number stored = 0;
-    if (!file.stream->readExactly(&stored, sizeof(stored)))
+    if (readAcrossSegments(file, &stored, width) != width)
         return false;
     if (file.byteSwap)
         reverseBytes(&stored, sizeof(stored));

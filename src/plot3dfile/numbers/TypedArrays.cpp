@@ -80,7 +80,7 @@ bool readValueByValue(Plot3DFile_s& file, bool store, std::int64_t firstIndex, s
     std::array<Number, longestRun> run;
     for (std::int64_t done = 0; done < count;) {
         const std::int64_t wanted = std::min(longestRun, count - done);
-        const std::int64_t got = readPlainRun(file, wanted, run.data());
+        const std::int64_t got = readRun(file, wanted, run.data());
         for (std::int64_t index = 0; store && index < got; ++index)
             destination.store(firstIndex + done + index, run[static_cast<std::size_t>(index)]);
         if (got < wanted)

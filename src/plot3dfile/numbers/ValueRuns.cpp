@@ -4,6 +4,7 @@
 #include <array>
 
 #include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 #include "plot3dfile/numbers/NumberStream.h"
 
 namespace quorvia::quorutildataio {
@@ -15,18 +16,16 @@ template <typename Stored, typename Value>
 std::int64_t readBinaryRun(Plot3DFile_s& file, std::int64_t count, Value* values) {
     constexpr std::int64_t width = sizeof(Stored);
     std::array<Stored, longestRun> stored;
-    const std::int64_t got = file.stream->read(stored.data(), count * width) / width;
+    const std::int64_t got = readAcrossSegments(file, stored.data(), count * width) / width;
     if (file.byteSwap)
         reverseEach(stored.data(), width, got);
     std::copy_n(stored.begin(), got, values);
     return got;
 }
 
-template <typename Value>
-std::int64_t readOneByOne(Plot3DFile_s& file, std::int64_t count, Value* values,
-                          bool (*readValue)(Plot3DFile_s&, Value&)) {
+std::int64_t readTextIntegers(Plot3DFile_s& file, std::int64_t count, std::int32_t* values) {
     for (std::int64_t done = 0; done < count; ++done)
-        if (!readValue(file, values[done]))
+        if (!readInteger(file, values[done]))
             return done;
     return count;
 }
@@ -42,33 +41,19 @@ std::int64_t readTextReals(Plot3DFile_s& file, std::int64_t count, double* value
     return done;
 }
 
-bool hasMarkersInside(const Plot3DFile_s& file) {
-    return file.encoding == Plot3DEncoding_FortranUnformatted && file.inSegmentedRecord;
-}
-
 } // namespace
 
-std::int64_t readPlainRun(Plot3DFile_s& file, std::int64_t count, double* values) {
+std::int64_t readRun(Plot3DFile_s& file, std::int64_t count, double* values) {
     if (file.encoding == Plot3DEncoding_Ascii)
         return readTextReals(file, count, values);
     return file.isDoublePrecision ? readBinaryRun<double>(file, count, values)
                                   : readBinaryRun<float>(file, count, values);
 }
 
-std::int64_t readPlainRun(Plot3DFile_s& file, std::int64_t count, std::int32_t* values) {
-    if (file.encoding == Plot3DEncoding_Ascii)
-        return readOneByOne(file, count, values, readInteger);
-    return readBinaryRun<std::int32_t>(file, count, values);
-}
-
-std::int64_t readRun(Plot3DFile_s& file, std::int64_t count, double* values) {
-    return hasMarkersInside(file) ? readOneByOne(file, count, values, readReal)
-                                  : readPlainRun(file, count, values);
-}
-
 std::int64_t readRun(Plot3DFile_s& file, std::int64_t count, std::int32_t* values) {
-    return hasMarkersInside(file) ? readOneByOne(file, count, values, readInteger)
-                                  : readPlainRun(file, count, values);
+    if (file.encoding == Plot3DEncoding_Ascii)
+        return readTextIntegers(file, count, values);
+    return readBinaryRun<std::int32_t>(file, count, values);
 }
 
 } // namespace quorvia::quorutildataio

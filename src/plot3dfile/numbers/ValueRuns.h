@@ -12,10 +12,7 @@ namespace quorvia::quorutildataio {
 constexpr std::int64_t longestRun = 1024;
 
 /// Fill `values` with the next `count` (at most longestRun) numbers. Give how many came before the
-/// first that can't be read; the stream stands where it stopped. Markers between the segments of a
-/// Fortran record are data to the plain form and are stepped over by the other, as readReal does.
-std::int64_t readPlainRun(Plot3DFile_s& file, std::int64_t count, double* values);
-std::int64_t readPlainRun(Plot3DFile_s& file, std::int64_t count, std::int32_t* values);
+/// first that can't be read; the stream stands where it stopped.
 std::int64_t readRun(Plot3DFile_s& file, std::int64_t count, double* values);
 std::int64_t readRun(Plot3DFile_s& file, std::int64_t count, std::int32_t* values);
 
