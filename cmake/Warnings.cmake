@@ -5,6 +5,9 @@ target_compile_options(project_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Werror
     -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wcast-align -Wcast-qual
     -Wnon-virtual-dtor -Woverloaded-virtual -Wundef -Wnull-dereference -Wformat=2
-    -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wimplicit-fallthrough)
-# GCC 12 reports false null dereferences inside the standard library's own inlined code.
-target_compile_options(project_warnings INTERFACE -Wno-error=null-dereference)
+    -Wimplicit-fallthrough)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 reports false null dereferences inside the standard library's own inlined code.
+  target_compile_options(project_warnings INTERFACE
+      -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wno-error=null-dereference)
+endif()

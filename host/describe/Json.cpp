@@ -166,9 +166,13 @@ void tellValue(JsonStream& json, const Control& control) {
     case ControlKind::TextField:
         json.value(control.text);
         return;
-    default:
-        json.null();
+    case ControlKind::Frame:
+    case ControlKind::Label:
+    case ControlKind::Button:
+    case ControlKind::List:
+        break;
     }
+    json.null();
 }
 
 void tellCaption(JsonStream& json, const Page* page) {

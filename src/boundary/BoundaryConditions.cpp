@@ -1,7 +1,8 @@
+#include "boundary/BoundaryConditions.h"
+
 #include <array>
 #include <cstring>
 
-#include "boundary/BoundaryZones.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {

@@ -7,6 +7,7 @@
 #include "dataset/ondemand/LongReads.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/file/OpenedFile.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "quorvia/HostHandles.h"
 #include "state/AddOnIdentity.h"

@@ -6,11 +6,13 @@
 #include <optional>
 #include <string>
 
+#include "boundary/BoundaryConditions.h"
 #include "boundary/BoundaryFields.h"
 #include "dataset/items/AuxDataItem.h"
 #include "dataset/items/SetupProgress.h"
 #include "instructions/ValueText.h"
 #include "plot3dfile/file/OpenedFile.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {

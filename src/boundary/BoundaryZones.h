@@ -32,10 +32,4 @@ bool addBoundaryZone(const Plot3DBoundary_s& boundary, const char* name, std::in
                      double solutionTime, bool assignStrandIDs, std::int32_t parentZone,
                      QuorSetHandle zonesAdded);
 
-constexpr std::int64_t boundaryConditionSize = 80; // characters, the closing zero among them
-
-/// Stores the condition that a boundary's name stands for in `condition`, which has room for
-/// boundaryConditionSize characters. A name that says nothing is taken for a wall.
-void classifyBoundary(const char* name, char* condition);
-
 } // namespace quorvia::quorutildataio

@@ -1,12 +1,34 @@
 #include "dialog/FileStructurePage.h"
 
+#include <array>
+#include <string>
+
 #include "dialog/DialogControls.h"
 #include "dialog/OptionCallbacks.h"
 #include "dialog/PageBuilder.h"
+#include "instructions/InstructionWords.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
+
+/// The captions of a table of words, in its order.
+template <typename Value, std::size_t count>
+std::array<const char*, count> captionsOf(const InstructionWord_s<Value> (&words)[count]) {
+    std::array<const char*, count> captions{};
+    for (std::size_t place = 0; place < count; ++place)
+        captions[place] = words[place].caption;
+    return captions;
+}
+
+/// The same as an option menu takes them.
+template <typename Words>
+std::string menuOf(const Words& words) {
+    std::string menu;
+    for (const auto& word : words)
+        menu += (menu.empty() ? "" : ",") + std::string(word.caption);
+    return menu;
+}
 
 constexpr std::int32_t autoDetectItem = 1;
 constexpr std::int32_t manuallyDescribeItem = 2;
@@ -32,13 +54,11 @@ bool buildFileStructurePage() {
     page.frame(233, 74, 9118, 1159, "File Organization");
     fileOrganizationRadio = page.radioBox(659, 190, 2361, 299, {"Auto Detect", "Manually Describe"},
                                           fileOrganizationChosen);
-    styleMenu =
-        page.optionMenu(1194, 674, 2650, 144, "Plot3D Classic,Plot3D Function,Overflow,Swift",
-                        storeChoice<&Plot3DLoadOptions_s::style>);
+    styleMenu = page.optionMenu(1194, 674, 2650, 144, menuOf(styleWords).c_str(),
+                                storeChoice<&Plot3DLoadOptions_s::style>);
     multiGridToggle = page.toggle(1194, 893, 1702, 121, "Multi-Grid",
                                   storeFlag<&Plot3DLoadOptions_s::isMultiGrid>);
-    dataStructureRadio = page.radioBox(5245, 363, 1812, 709,
-                                       {"1-D", "2-D", "3-D Planes", "3-D Whole", "Unstructured"},
+    dataStructureRadio = page.radioBox(5245, 363, 1812, 709, captionsOf(dataStructureWords),
                                        storeChoice<&Plot3DLoadOptions_s::dataStructure>);
     asciiDoubleToggle = page.toggle(576, 1378, 4971, 121, "Assume ASCII Files are Double Precision",
                                     storeFlag<&Plot3DLoadOptions_s::asciiIsDouble>);

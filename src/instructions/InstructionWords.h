@@ -1,4 +1,6 @@
-// The words that stand for a style or a layout in load instructions, for reader and writer alike.
+// The words that stand for a style or a layout in load instructions, for reader and writer alike,
+// and what the dialog calls them. In the order of their values, which is that of the dialog's
+// menus.
 #pragma once
 
 #include "instructions/Plot3DStructure.h"
@@ -9,22 +11,23 @@ namespace quorvia::quorutildataio {
 template <typename Value>
 struct InstructionWord_s {
     const char* word;
+    const char* caption; // in the dialog
     Value value;
 };
 
 inline constexpr InstructionWord_s<Plot3DStyle_e> styleWords[] = {
-    {"PLOT3DCLASSIC", Plot3DStyle_Classic},
-    {"PLOT3DFUNCTION", Plot3DStyle_Function},
-    {"OVERFLOW", Plot3DStyle_Overflow},
-    {"SWIFT", Plot3DStyle_Swift},
+    {"PLOT3DCLASSIC", "Plot3D Classic", Plot3DStyle_Classic},
+    {"PLOT3DFUNCTION", "Plot3D Function", Plot3DStyle_Function},
+    {"OVERFLOW", "Overflow", Plot3DStyle_Overflow},
+    {"SWIFT", "Swift", Plot3DStyle_Swift},
 };
 
 inline constexpr InstructionWord_s<Plot3DDataStructure_e> dataStructureWords[] = {
-    {"1D", Plot3DDataStructure_1D},
-    {"2D", Plot3DDataStructure_2D},
-    {"3DP", Plot3DDataStructure_3DPlanes},
-    {"3DW", Plot3DDataStructure_3DWhole},
-    {"UNSTRUCTURED", Plot3DDataStructure_Unstructured},
+    {"1D", "1-D", Plot3DDataStructure_1D},
+    {"2D", "2-D", Plot3DDataStructure_2D},
+    {"3DP", "3-D Planes", Plot3DDataStructure_3DPlanes},
+    {"3DW", "3-D Whole", Plot3DDataStructure_3DWhole},
+    {"UNSTRUCTURED", "Unstructured", Plot3DDataStructure_Unstructured},
 };
 
 /// The word of `value`; null if it has none.

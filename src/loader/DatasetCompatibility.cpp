@@ -4,6 +4,7 @@
 
 #include "dataset/items/CurrentTask.h"
 #include "dataset/zones/ZoneCreation.h"
+#include "dataset/zones/ZoneDimensions.h"
 
 namespace quorvia::quorutildataio {
 

@@ -2,14 +2,9 @@
 // failure.
 #pragma once
 
-#include <cstdint>
-
 #include "loader/LoadContext.h"
 
 namespace quorvia::quorutildataio {
-
-/// The weight of the dataset stage on the progress bar: variables times zones, or times K planes.
-std::int64_t estimateLoadWork(const Plot3DLoadContext_s& context);
 
 /// Whether the data set, as the stage would make it, has what the files need: all the variables
 /// that they fill, and the elements that solutions leave to zones which are there. Changes nothing.

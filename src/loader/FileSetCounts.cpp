@@ -1,5 +1,4 @@
-// How many grid, solution and function files may go together, judged by their names alone.
-#include "loader/FileSetRules.h"
+#include "loader/FileSetCounts.h"
 
 #include <cstddef>
 

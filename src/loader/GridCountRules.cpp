@@ -1,5 +1,4 @@
-// Whether the headers of all files agree on the number of grids, and hold grids that are wanted.
-#include "loader/FileSetRules.h"
+#include "loader/GridCountRules.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,5 +1,4 @@
-// How heavy the dataset stage of a load is, for the progress bar.
-#include "loader/DatasetStage.h"
+#include "loader/LoadWork.h"
 
 #include <algorithm>
 #include <limits>

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dataset/zones/ZoneCreation.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
@@ -43,7 +44,7 @@ void normaliseStrandOptions(Plot3DLoadOptions_s& options) {
     // Function files hold no time: without one from their names no time step is told from another.
     const bool timesFromNames = options.extractTimeFromSolFileNames &&
                                 !(options.solutionFiles.empty() && options.functionFiles.empty());
-    if (options.style == Plot3DStyle_Function && !timesFromNames)
+    if (styleRules(options.style).scalars.empty() && !timesFromNames)
         options.assignStrandIds = false;
     if (!options.assignStrandIds || !options.append)
         options.addToExistingStrands = false;

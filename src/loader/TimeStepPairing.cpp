@@ -1,5 +1,4 @@
-// Which grid, solution and function files make a time step together, and whether they fit.
-#include "loader/FileSetRules.h"
+#include "loader/TimeStepPairing.h"
 
 #include <cstddef>
 #include <new>

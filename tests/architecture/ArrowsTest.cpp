@@ -15,31 +15,54 @@ namespace fs = std::filesystem;
 
 using Arrows = std::map<std::string, std::set<std::string>>;
 
-// From a room to the rooms that it may use; a room may always use itself.
+// From a room to the rooms that it may use; a room may always use itself. A room within a room is a
+// room of its own.
 const Arrows sourceArrows = {
-    {"addon/sdk", {}},
-    {"filenames", {"addon/sdk"}},
-    {"instructions", {"addon/sdk", "filenames"}},
-    {"addon/state", {"addon/sdk", "instructions"}},
-    {"plot3dfile", {"addon/sdk", "instructions"}},
-    {"dataset", {"addon/sdk", "instructions", "plot3dfile"}},
-    {"boundary", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset"}},
-    {"loader", {"addon/sdk", "addon/state", "instructions", "plot3dfile", "dataset", "boundary"}},
-    {"dialog", {"addon/sdk", "addon/state", "instructions", "boundary", "loader"}},
-    {"addon",
-     {"addon/sdk", "addon/state", "instructions", "filenames", "boundary", "loader", "dialog"}},
+    {"filenames", {"sdk"}},
+    {"instructions", {"sdk", "filenames"}},
+    {"state", {"sdk", "instructions"}},
+    {"plot3dfile/bytes", {}},
+    {"plot3dfile/file", {"sdk", "instructions", "plot3dfile/bytes"}},
+    {"plot3dfile/numbers", {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file"}},
+    {"plot3dfile/layout",
+     {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers"}},
+    {"plot3dfile/detection",
+     {"sdk", "instructions", "plot3dfile/file", "plot3dfile/numbers", "plot3dfile/layout"}},
+    {"plot3dfile/timestep",
+     {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers"}},
+    {"dataset/variables",
+     {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/layout",
+      "plot3dfile/timestep"}},
+    {"dataset/ondemand", {"sdk", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers"}},
+    {"dataset/items",
+     {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers",
+      "plot3dfile/layout", "plot3dfile/timestep", "dataset/ondemand"}},
+    {"dataset/zones",
+     {"sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers",
+      "plot3dfile/layout", "plot3dfile/timestep", "dataset/variables", "dataset/ondemand",
+      "dataset/items"}},
+    {"boundary",
+     {"sdk", "state", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers",
+      "plot3dfile/timestep", "dataset/variables", "dataset/ondemand", "dataset/items",
+      "dataset/zones"}},
+    {"loader",
+     {"sdk", "state", "instructions", "plot3dfile/bytes", "plot3dfile/file", "plot3dfile/layout",
+      "plot3dfile/detection", "plot3dfile/timestep", "dataset/variables", "dataset/ondemand",
+      "dataset/items", "dataset/zones", "boundary"}},
+    {"dialog", {"sdk", "state", "instructions", "boundary", "loader"}},
+    {"addon", {"sdk", "state", "instructions", "filenames", "boundary", "loader", "dialog"}},
 };
 
 const Arrows hostArrows = {
-    {"model", {"addon/sdk"}},
-    {"toolkit", {"addon/sdk"}},
-    {"checks", {"addon/sdk", "model"}},
-    {"state", {"addon/sdk", "model", "toolkit", "checks"}},
-    {"sdk", {"addon/sdk", "model", "toolkit", "checks", "state"}},
-    {"session", {"addon/sdk", "model", "toolkit", "checks", "state"}},
-    {"describe", {"addon/sdk", "model", "toolkit", "state", "session"}},
-    {"app", {"addon/sdk", "model", "toolkit", "state", "session", "describe"}},
-    {"desktop", {"addon/sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"model", {"sdk"}},
+    {"toolkit", {"sdk"}},
+    {"checks", {"sdk", "model"}},
+    {"state", {"sdk", "model", "toolkit", "checks"}},
+    {"services", {"sdk", "model", "toolkit", "checks", "state"}},
+    {"session", {"sdk", "model", "toolkit", "checks", "state"}},
+    {"describe", {"sdk", "model", "toolkit", "state", "session"}},
+    {"app", {"sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"desktop", {"sdk", "model", "toolkit", "state", "session", "describe"}},
 };
 
 const Arrows toolArrows = {
@@ -50,7 +73,7 @@ const Arrows toolArrows = {
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
 std::string roomOf(const std::string& path, const Arrows& arrows) {
     if (path.rfind("quorvia/", 0) == 0)
-        return "addon/sdk";
+        return "sdk";
     std::string room;
     for (const auto& [name, uses] : arrows)
         if (path.rfind(name + "/", 0) == 0 && name.size() > room.size())

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "boundary/BoundaryZones.h"
+#include "boundary/BoundaryConditions.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -8,6 +8,7 @@
 #include "dataset/items/CommonAuxData.h"
 #include "dataset/items/CurrentTask.h"
 #include "dataset/variables/VariableNames.h"
+#include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::testsupport {

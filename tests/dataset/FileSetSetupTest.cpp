@@ -1,4 +1,5 @@
 #include "dataset/zones/FileSetSetup.h"
+#include "dataset/zones/OffsetReuse.h"
 
 #include <algorithm>
 #include <filesystem>

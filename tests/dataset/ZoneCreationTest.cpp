@@ -1,4 +1,5 @@
 #include "dataset/zones/ZoneCreation.h"
+#include "dataset/zones/ZoneDimensions.h"
 
 #include "DatasetFixture.h"
 #include "dataset/items/CurrentTask.h"

@@ -2,7 +2,7 @@
 #include "loader/DatasetStage.h"
 #include "LoaderFixture.h"
 #include "dataset/items/CurrentTask.h"
-#include "loader/FileSetRules.h"
+#include "loader/TimeStepPairing.h"
 #include "plot3dfile/detection/StructureDetection.h"
 #include "quorvia/HostHandles.h"
 #include "state/AddOnIdentity.h"

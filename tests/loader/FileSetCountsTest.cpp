@@ -1,6 +1,6 @@
 // How many grid (g), solution (s) and function (f) files may go together: every rule, both sides.
+#include "loader/FileSetCounts.h"
 #include "LoaderFixture.h"
-#include "loader/FileSetRules.h"
 
 namespace quorvia::testsupport {
 namespace {

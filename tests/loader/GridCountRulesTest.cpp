@@ -1,6 +1,6 @@
 // Whether the headers agree on the number of grids.
+#include "loader/GridCountRules.h"
 #include "LoaderFixture.h"
-#include "loader/FileSetRules.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -2,7 +2,7 @@
 #include <limits>
 
 #include "LoaderFixture.h"
-#include "loader/DatasetStage.h"
+#include "loader/LoadWork.h"
 
 namespace quorvia::testsupport {
 namespace {

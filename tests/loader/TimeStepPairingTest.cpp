@@ -1,6 +1,6 @@
 // How the files pair up: every rule for g grid, s solution and f function files.
+#include "loader/TimeStepPairing.h"
 #include "LoaderFixture.h"
-#include "loader/FileSetRules.h"
 #include "support/AllocationFaults.h"
 
 namespace quorvia::testsupport {

@@ -1,3 +1,4 @@
+#include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/file/Plot3DFile.h"
 
 #include "RecordFixture.h"

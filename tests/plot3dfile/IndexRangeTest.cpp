@@ -1,3 +1,4 @@
+#include "plot3dfile/numbers/IndexRange.h"
 #include "RecordFixture.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 

@@ -10,6 +10,8 @@
 
 #include "FakeDisk.h"
 #include "FileBytes.h"
+#include "plot3dfile/detection/EncodingSniffer.h"
+#include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/file/Plot3DFile.h"
 #include "session/ReferenceHost.h"
 

@@ -1,5 +1,6 @@
 // Records above 2147483639 bytes. The lengths of full segments are true; the disk holds only the
 // few bytes that matter.
+#include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 
 #include <fstream>

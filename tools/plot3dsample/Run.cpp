@@ -31,9 +31,12 @@ std::string kindWord(const SampleFile_s& file) {
         return "grid";
     case FileKind_e::Function:
         return "function";
-    default:
-        return "solution";
+    case FileKind_e::ClassicSolution:
+    case FileKind_e::SwiftSolution:
+    case FileKind_e::OverflowSolution:
+        break;
     }
+    return "solution";
 }
 
 /// Behind two blanks "73x31x5", several grids separated by blanks; for unstructured grids their

@@ -2,6 +2,7 @@
 
 #include "dataset/items/Connectivity.h"
 #include "dataset/items/Scalars.h"
+#include "dataset/items/VariableItem.h"
 #include "dataset/ondemand/LongReads.h"
 
 namespace quorvia::quorutildataio {

@@ -19,11 +19,4 @@ bool dispatchItem(Plot3DFile_s& file, Plot3DItemKind_e kind, std::int32_t grid, 
 /// has interrupted; one that was stopped tells nothing here.
 bool scanFile(Plot3DFile_s& file, QuorSetHandle gridSet, Plot3DItemContext_s& context);
 
-/// Sets up one field, or one K plane of one: registers it for load on demand if it is a whole field
-/// of a binary or Fortran file, and reads it now otherwise. `zone` counts the selected grids from
-/// 0.
-bool setUpVariableItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone, bool include,
-                       std::int32_t varIndex, std::int32_t plane, bool isIBlank, bool report,
-                       const Plot3DItemContext_s& context);
-
 } // namespace quorvia::quorutildataio

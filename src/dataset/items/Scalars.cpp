@@ -6,6 +6,7 @@
 #include <span>
 
 #include "dataset/items/AuxDataItem.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/NumberStream.h"
 #include "plot3dfile/timestep/FieldCount.h"
 
@@ -13,65 +14,33 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-constexpr const char* solutionTime = nullptr; // a place whose value is the zone's time, not an item
-constexpr std::size_t itemsOnDataSet = 3;     // the first ones stand on the data set too
-
-constexpr std::array classicItems = {"Common.ReferenceMachNumber", "Common.AngleOfAttack",
-                                     "Common.ReynoldsNumber", solutionTime};
-constexpr std::array swiftItems = {"Common.ReferenceMachNumber", "Common.AngleOfAttack",
-                                   "Common.ReynoldsNumber", solutionTime, "OMAR"};
-constexpr std::array overflowItems = {"Common.ReferenceMachNumber",
-                                      "Common.AngleOfAttack",
-                                      "Common.ReynoldsNumber",
-                                      solutionTime,
-                                      "G",
-                                      "B",
-                                      "T",
-                                      "I",
-                                      "H",
-                                      "H1",
-                                      "H2"};
-
-std::span<const char* const> itemsOfStyle(Plot3DStyle_e style) {
-    switch (style) {
-    case Plot3DStyle_Classic:
-        return classicItems;
-    case Plot3DStyle_Swift:
-        return swiftItems;
-    case Plot3DStyle_Overflow:
-        return overflowItems;
-    default:
-        return {};
-    }
-}
-
 /// The rule of kinds goes by the first letter, as Fortran's implicit types do.
 bool isIntegerItem(const char* name) {
     return name[0] >= 'I' && name[0] <= 'N';
 }
 
-/// How many of an Overflow file's scalars are tried: no more than its size bears out.
+/// How many of the scalars are tried: of gammas no more than the file's size bears out.
 std::int64_t triedScalars(const Plot3DFile_s& file) {
-    return std::min<std::int64_t>(file.numScalars, static_cast<std::int64_t>(overflowItems.size()) +
-                                                       fieldCountLimit(file));
+    return std::min<std::int64_t>(file.numScalars,
+                                  std::ssize(styleRulesOf(file).scalars) + fieldCountLimit(file));
 }
 
 /// Goes through the scalars of one grid in file order: `setItem(name, isOnDataSet)` for an item,
-/// `setTime()` for the time. False: the first failure ahead of Overflow's list of gammas.
+/// `setTime()` for the time. False: the first failure ahead of the list of gammas.
 template <typename SetItem, typename SetTime>
 bool forEachScalar(const Plot3DFile_s& file, SetItem setItem, SetTime setTime) {
-    const std::span<const char* const> items = itemsOfStyle(file.style);
+    const StyleRules_s& rules = styleRulesOf(file);
     // A 1-D file has four scalars whatever its style.
-    const std::size_t count = std::min(items.size(), static_cast<std::size_t>(file.numScalars));
-    for (std::size_t place = 0; place < count; ++place) {
-        const char* const name = items[place];
-        if (!(name == solutionTime ? setTime() : setItem(name, place < itemsOnDataSet)))
+    const std::size_t count =
+        std::min(rules.scalars.size(), static_cast<std::size_t>(file.numScalars));
+    for (const StyleScalar_s& scalar : rules.scalars.first(count))
+        if (!(scalar.itemName == nullptr ? setTime()
+                                         : setItem(scalar.itemName, scalar.isOnDataSet)))
             return false;
-    }
-    if (file.style != Plot3DStyle_Overflow)
+    if (!rules.hasSpecies)
         return true;
-    const auto listStart = static_cast<std::int64_t>(overflowItems.size());
-    for (std::int64_t gamma = 1; gamma <= triedScalars(file) - listStart; ++gamma) {
+    const std::int64_t gammaCount = triedScalars(file) - std::ssize(rules.scalars);
+    for (std::int64_t gamma = 1; gamma <= gammaCount; ++gamma) {
         std::array<char, 24> name;
         std::snprintf(name.data(), name.size(), "G%lld", static_cast<long long>(gamma));
         setItem(name.data(), false); // one that fails doesn't count
@@ -82,7 +51,7 @@ bool forEachScalar(const Plot3DFile_s& file, SetItem setItem, SetTime setTime) {
 /// What a repeat token promises beyond that, which must not be taken for values. There may be less.
 void passOverMoreGammas(Plot3DFile_s& file) {
     const std::int64_t rest = file.numScalars - triedScalars(file);
-    if (file.style == Plot3DStyle_Overflow && file.encoding == Plot3DEncoding_Ascii)
+    if (styleRulesOf(file).hasSpecies && file.encoding == Plot3DEncoding_Ascii)
         static_cast<void>(skipReals(file, static_cast<std::int32_t>(rest)));
 }
 

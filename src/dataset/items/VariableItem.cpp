@@ -1,12 +1,13 @@
-// One field, or one K plane of one, as a walk through its file comes to it.
+#include "dataset/items/VariableItem.h"
+
 #include <optional>
 
-#include "dataset/items/ItemDispatch.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/bytes/CheckedSize.h"
-#include "plot3dfile/layout/LayoutHeader.h"
+#include "plot3dfile/layout/LayoutParsers.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
 
@@ -65,7 +66,7 @@ bool hasFilePrecision(const Plot3DFile_s& file, std::int32_t type) {
 /// Its variables have the precision of the files that they came with, and the load's own message
 /// names one of those.
 void reportFunctionPrecision(const Plot3DFile_s& file, std::int32_t type) {
-    if (!isFunctionFile(file) ||
+    if (file.style != Plot3DStyle_Function ||
         (type != QuorFieldDataType_Float && type != QuorFieldDataType_Double))
         return;
     reportFileError(file, file.isDoublePrecision

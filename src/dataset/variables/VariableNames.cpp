@@ -10,6 +10,7 @@
 
 #include "dataset/variables/NameFile.h"
 #include "instructions/ValueText.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/timestep/FieldCount.h"
 #include "quorvia/HostHandles.h"
 
@@ -17,7 +18,7 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-constexpr std::int64_t plainOverflowVars = 6; // RHO to GAMMA; not reduced for a missing RHO-W
+constexpr std::int64_t variablesAheadOfSpecies = 6; // RHO to GAMMA; not reduced for a missing RHO-W
 
 /// Sets names one behind the other.
 class NameWriter {
@@ -80,13 +81,13 @@ void addTurbulenceNames(NameWriter& writer, std::int64_t rest, std::int64_t limi
     }
 }
 
-void addOverflowNames(NameWriter& writer, const Plot3DFile_s& file, std::int64_t numSolutionVars) {
+void addSpeciesNames(NameWriter& writer, const Plot3DFile_s& file, std::int64_t numSolutionVars) {
     const std::int64_t limit = fieldCountLimit(file);
     const std::int64_t species = std::max(file.numSpecies, 0);
     writer.add("GAMMA");
     for (std::int64_t s = 1; s <= std::min(species, limit); ++s)
         writer.add("RHO-C" + integerToText(s));
-    addTurbulenceNames(writer, numSolutionVars - species - plainOverflowVars, limit);
+    addTurbulenceNames(writer, numSolutionVars - species - variablesAheadOfSpecies, limit);
 }
 
 void addSolutionNames(NameWriter& writer, const Plot3DFileHandler& handler,
@@ -98,8 +99,8 @@ void addSolutionNames(NameWriter& writer, const Plot3DFileHandler& handler,
         return;
     }
     addConservativeNames(writer, file.dataStructure);
-    if (handler.getStyle() == Plot3DStyle_Overflow && numSolutionVars >= plainOverflowVars)
-        addOverflowNames(writer, file, numSolutionVars);
+    if (styleRules(handler.getStyle()).hasSpecies && numSolutionVars >= variablesAheadOfSpecies)
+        addSpeciesNames(writer, file, numSolutionVars);
 }
 
 std::string functionName(std::int64_t ordinal, std::int64_t k) {

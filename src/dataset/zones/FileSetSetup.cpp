@@ -5,8 +5,10 @@
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
 #include "dataset/variables/VariableFit.h"
+#include "dataset/zones/OffsetReuse.h"
 #include "dataset/zones/ZoneFit.h"
 #include "plot3dfile/file/OpenedFile.h"
+#include "plot3dfile/layout/StyleRules.h"
 
 namespace quorvia::quorutildataio {
 
@@ -28,11 +30,6 @@ bool copyOffsets(const Offsets& source, Offsets& target, std::int64_t count, con
         return false;
     std::copy_n(source.begin(), count, target.begin());
     return true;
-}
-
-bool hasScalars(const Plot3DFile_s& file) {
-    return file.style == Plot3DStyle_Classic || file.style == Plot3DStyle_Overflow ||
-           file.style == Plot3DStyle_Swift;
 }
 
 class FileSetSetup {

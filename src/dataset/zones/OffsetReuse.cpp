@@ -1,5 +1,5 @@
-// Later file sets: grids shared with the first one, and fields registered at the positions that the
-// scan of the first file noted.
+#include "dataset/zones/OffsetReuse.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,7 +9,6 @@
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
-#include "dataset/zones/FileSetSetup.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 
 namespace quorvia::quorutildataio {

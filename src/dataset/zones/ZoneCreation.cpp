@@ -6,6 +6,7 @@
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "dataset/variables/VariableNames.h"
 #include "dataset/zones/FileSetSetup.h"
+#include "dataset/zones/ZoneDimensions.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {

@@ -13,13 +13,6 @@ namespace quorvia::quorutildataio {
 
 constexpr std::int32_t maximumZoneNumber = 2147483646;
 
-/// Sizes of a zone in points, or nodes, elements and corners.
-struct Plot3DZoneDims_s {
-    std::int64_t i;
-    std::int64_t j;
-    std::int64_t k;
-};
-
 /// What stays the same over the file sets of one load, and the counts that run on from one to the
 /// next.
 struct Plot3DZoneStage_s {
@@ -60,12 +53,6 @@ constexpr bool hasElements(std::int32_t zoneType) {
 /// Whether a new zone of an unstructured solution, which knows no elements, could have those of
 /// `zone`. False: told.
 bool checkElements(std::int32_t zone);
-
-/// Sizes that a grid, counted from 0, has as a zone under the load's index ranges. The host's
-/// `zone` is asked for its elements if the grid is unstructured and the handler has no grid file.
-Plot3DZoneDims_s zoneDimensionsForGrid(const Plot3DLoadOptions_s& options,
-                                       const Plot3DFileHandler& handler, std::int32_t gridIndex,
-                                       std::int32_t zone);
 
 /// What one zone is made of beyond its grid.
 struct Plot3DZoneRequest_s {

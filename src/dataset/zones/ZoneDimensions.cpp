@@ -1,4 +1,6 @@
-#include "dataset/zones/ZoneCreation.h"
+#include "dataset/zones/ZoneDimensions.h"
+
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
 

@@ -36,9 +36,6 @@ void reverseWords(char* bytes, std::int64_t wordCount) {
 using Lanes [[gnu::vector_size(16)]] = std::uint8_t;
 constexpr std::int64_t laneBytes = sizeof(Lanes);
 
-constexpr Lanes fourByteOrder = {3, 2, 1, 0, 7, 6, 5, 4, 11, 10, 9, 8, 15, 14, 13, 12};
-constexpr Lanes eightByteOrder = {7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12, 11, 10, 9, 8};
-
 #if defined(__x86_64__)
 // The x86-64 baseline reverses one register at a time, which costs more than reading the bytes from
 // the page cache. Nearly every processor in use can reorder 16 bytes with one instruction.
@@ -46,12 +43,17 @@ bool canShuffle() {
     return __builtin_cpu_supports("ssse3") != 0;
 }
 
-[[gnu::target("ssse3")]] void shuffleLanes(char* bytes, std::int64_t laneCount,
-                                           const Lanes& order) {
+template <typename Word>
+[[gnu::target("ssse3")]] void shuffleLanes(char* bytes, std::int64_t laneCount) {
     for (std::int64_t index = 0; index < laneCount; ++index) {
         Lanes lanes;
         std::memcpy(&lanes, bytes + index * laneBytes, sizeof(Lanes));
-        lanes = __builtin_shuffle(lanes, order);
+        if constexpr (sizeof(Word) == 4)
+            lanes = __builtin_shufflevector(lanes, lanes, 3, 2, 1, 0, 7, 6, 5, 4, 11, 10, 9, 8, 15,
+                                            14, 13, 12);
+        else
+            lanes = __builtin_shufflevector(lanes, lanes, 7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12,
+                                            11, 10, 9, 8);
         std::memcpy(bytes + index * laneBytes, &lanes, sizeof(Lanes));
     }
 }
@@ -60,14 +62,15 @@ bool canShuffle() {
     return false;
 }
 
-void shuffleLanes(char*, std::int64_t, const Lanes&) {}
+template <typename Word>
+void shuffleLanes(char*, std::int64_t) {}
 #endif
 
 template <typename Word>
-void reverseBlock(char* bytes, std::int64_t wordCount, const Lanes& order) {
+void reverseBlock(char* bytes, std::int64_t wordCount) {
     constexpr std::int64_t width = sizeof(Word);
     const std::int64_t laneCount = canShuffle() ? wordCount * width / laneBytes : 0;
-    shuffleLanes(bytes, laneCount, order);
+    shuffleLanes<Word>(bytes, laneCount);
     const std::int64_t shuffledBytes = laneCount * laneBytes;
     reverseWords<Word>(bytes + shuffledBytes, wordCount - shuffledBytes / width);
 }
@@ -92,9 +95,9 @@ void reverseEach(void* values, std::int64_t width, std::int64_t valueCount) {
     char* bytes = static_cast<char*>(values);
     switch (width) {
     case 4:
-        return reverseBlock<std::uint32_t>(bytes, valueCount, fourByteOrder);
+        return reverseBlock<std::uint32_t>(bytes, valueCount);
     case 8:
-        return reverseBlock<std::uint64_t>(bytes, valueCount, eightByteOrder);
+        return reverseBlock<std::uint64_t>(bytes, valueCount);
     default:
         for (std::int64_t index = 0; index < valueCount; ++index)
             reverseBytes(bytes + index * width, width);

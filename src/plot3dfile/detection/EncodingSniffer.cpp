@@ -1,3 +1,5 @@
+#include "plot3dfile/detection/EncodingSniffer.h"
+
 #include "plot3dfile/file/Plot3DFile.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 

@@ -4,6 +4,8 @@
 #include <new>
 #include <utility>
 
+#include "plot3dfile/detection/FileCreation.h"
+#include "plot3dfile/detection/StructureTrials.h"
 #include "plot3dfile/detection/StructureValidators.h"
 #include "quorvia/QuorUtil.h"
 

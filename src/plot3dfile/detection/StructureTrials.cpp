@@ -1,6 +1,7 @@
-// The trials of structure detection: which candidates are tried, and in which order.
-#include "plot3dfile/detection/StructureDetection.h"
+#include "plot3dfile/detection/StructureTrials.h"
+
 #include "plot3dfile/layout/LayoutParsers.h"
+#include "plot3dfile/layout/StyleRules.h"
 
 namespace quorvia::quorutildataio {
 
@@ -16,8 +17,10 @@ bool isLargestFirst(const Plot3DFile_s& file) {
 bool tryStyles(Plot3DFile_s& file) {
     if (!file.isSolutionOrFunction)
         return tryStyle(file, Plot3DStyle_Classic);
-    return tryStyle(file, Plot3DStyle_Classic) || tryStyle(file, Plot3DStyle_Function) ||
-           tryStyle(file, Plot3DStyle_Overflow) || tryStyle(file, Plot3DStyle_Swift);
+    for (const StyleRules_s& rules : allStyleRules())
+        if (tryStyle(file, rules.style))
+            return true;
+    return false;
 }
 
 } // namespace

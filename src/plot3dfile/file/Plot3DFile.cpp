@@ -18,16 +18,6 @@ void resetReadingState(Plot3DFile_s& file) {
     file.nextRecordStart = 0;
 }
 
-/// False: the file can't be read.
-bool measureAndSniff(Plot3DFile_s& file) {
-    const std::int64_t size = file.stream->size();
-    if (size < 0)
-        return false;
-    file.fileSize = size;
-    sniffEncoding(file);
-    return !file.stream->hadReadError();
-}
-
 /// Without what earlier trials left behind the last grid: it would cost each file of a long list as
 /// much memory as all the rest of its record.
 std::vector<Plot3DGridDims_s> gridsInUse(const Plot3DFile_s& file) {
@@ -63,17 +53,10 @@ std::string cannotOpenText(const std::string& fileName) {
     return "The file " + fileName + " could not be opened.";
 }
 
-Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen) {
+Plot3DFilePtr makePlot3DFile(const std::string& fileName) {
     auto file = std::make_unique<Plot3DFile_s>();
     file->fileName = HostString::copyOf(fileName);
-    if (!file->fileName)
-        return nullptr;
-    if (deferOpen || !openPlot3DFile(*file))
-        return file;
-    if (!measureAndSniff(*file))
-        reportFileError(*file, unreadableText);
-    closePlot3DFile(*file);
-    return file;
+    return file->fileName ? std::move(file) : nullptr;
 }
 
 void destroyPlot3DFile(Plot3DFilePtr& file) {
@@ -83,8 +66,7 @@ void destroyPlot3DFile(Plot3DFilePtr& file) {
 bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy, const std::string& fileName) {
     copy = nullptr;
     try {
-        constexpr bool deferOpen = true;
-        Plot3DFilePtr made = createPlot3DFile(fileName, deferOpen);
+        Plot3DFilePtr made = makePlot3DFile(fileName);
         if (!made)
             return false;
         copyStructure(source, *made);

@@ -69,11 +69,8 @@ using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
 /// In the order of the load options' list of names. The load owns the records.
 using Plot3DFileList = std::vector<Plot3DFilePtr>;
 
-/// Makes the record of a file and leaves the file closed. Unless `deferOpen`, measures the file and
-/// sniffs its encoding; that stays unknown if the file does not open or can't be read (told to the
-/// user), or if the user interrupted (not told). Null: no memory for the name, which is not told.
-/// Throws std::bad_alloc.
-Plot3DFilePtr createPlot3DFile(const std::string& fileName, bool deferOpen);
+/// Makes the record of a file that nobody has looked at. Null: no memory for the name.
+Plot3DFilePtr makePlot3DFile(const std::string& fileName);
 
 /// Frees the record and all that it owns, and clears the pointer.
 void destroyPlot3DFile(Plot3DFilePtr& file);
@@ -93,11 +90,6 @@ void rewindPlot3DFile(Plot3DFile_s& file);
 
 /// Shows `text`, "\nFile: " and the file's name in one dialog.
 void reportFileError(const Plot3DFile_s& file, const std::string& text);
-
-/// Finds out how the open file encodes its numbers: text, one of the four forms of Fortran records
-/// (then `byteSwap`, `markerSize` and `segmentBoundaries` are set too), or plain binary. Unknown if
-/// a read failed, or if the user interrupted.
-void sniffEncoding(Plot3DFile_s& file);
 
 /// Text of the message for a file that does not open.
 std::string cannotOpenText(const std::string& fileName);

@@ -1,9 +1,11 @@
-// The size test: the last word of a parser that judges.
+#include "plot3dfile/layout/DataSize.h"
+
 #include <optional>
 
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutParsers.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 #include "plot3dfile/numbers/NumberStream.h"
 
@@ -15,8 +17,8 @@ constexpr double sizeLimit = 2147483646.0; // points, or elements, of one grid i
 constexpr std::int64_t integerBytes = 4;
 constexpr std::int64_t elementBytes = 16;
 
-// What an Overflow file in plain binary holds once, beside its grids and scalars.
-constexpr std::int64_t overflowRealsPerFile = 2;
+// What stands once in a plain binary file that tells its species, beside its grids and scalars.
+constexpr std::int64_t realsPerFileWithSpecies = 2;
 
 bool isUnstructured(const Plot3DFile_s& file) {
     return file.dataStructure == Plot3DDataStructure_Unstructured;
@@ -27,7 +29,7 @@ std::int64_t realBytes(const Plot3DFile_s& file) {
 }
 
 std::int64_t scalarBytes(const Plot3DFile_s& file) {
-    return isSolutionFile(file) ? realBytes(file) * file.numScalars : 0;
+    return hasScalars(file) ? realBytes(file) * file.numScalars : 0;
 }
 
 bool fitsText(Plot3DFile_s& file) {
@@ -76,8 +78,8 @@ bool fitsBinary(const Plot3DFile_s& file) {
     for (std::int32_t grid = 0; grid < file.numGrids; ++grid)
         if (!addGrid(file, file.gridDims[static_cast<std::size_t>(grid)], total))
             return false;
-    if (isOverflowFile(file))
-        total.addProduct({overflowRealsPerFile, realBytes(file)});
+    if (styleRulesOf(file).variableCount == VariableCount_e::OfFile)
+        total.addProduct({realsPerFileWithSpecies, realBytes(file)});
     const std::optional<std::int64_t> expected = total.value();
     const std::int64_t present = file.fileSize - file.stream->tell();
     if (!expected)
@@ -86,7 +88,7 @@ bool fitsBinary(const Plot3DFile_s& file) {
 }
 
 bool fitsScalarRecord(const Plot3DFile_s& file) {
-    if (isOverflowFile(file)) {
+    if (styleRulesOf(file).hasSpecies) {
         // One of the scalars is an integer, which takes 4 bytes in double precision too.
         const std::int64_t integerSaving = file.isDoublePrecision ? integerBytes : 0;
         return file.recordLength >= scalarBytes(file) - integerSaving;
@@ -120,7 +122,7 @@ std::optional<std::int64_t> bytesOfRecord(const Plot3DFile_s& file, const Plot3D
 
 /// Only the first grid's records are looked at: walking them all would read the whole file.
 bool fitsFortran(Plot3DFile_s& file) {
-    if (isSolutionFile(file) && !(nextRecord(file, false, nullptr) && fitsScalarRecord(file)))
+    if (hasScalars(file) && !(nextRecord(file, false, nullptr) && fitsScalarRecord(file)))
         return false;
     const std::optional<std::int64_t> expected = bytesOfRecord(file, file.gridDims.front());
     if (!expected || !nextRecord(file, false, nullptr))
@@ -136,9 +138,11 @@ bool checkDataSize(Plot3DFile_s& file) {
         return fitsText(file);
     case Plot3DEncoding_FortranUnformatted:
         return fitsFortran(file);
-    default:
-        return fitsBinary(file);
+    case Plot3DEncoding_Binary:
+    case Plot3DEncoding_Unknown:
+        break;
     }
+    return fitsBinary(file);
 }
 
 } // namespace quorvia::quorutildataio

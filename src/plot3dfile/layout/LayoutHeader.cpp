@@ -1,11 +1,10 @@
 #include "plot3dfile/layout/LayoutHeader.h"
 
 #include <algorithm>
-#include <limits>
 #include <new>
 
 #include "plot3dfile/bytes/CheckedSize.h"
-#include "plot3dfile/layout/LayoutParsers.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 #include "plot3dfile/numbers/NumberStream.h"
 #include "plot3dfile/numbers/TypedArrays.h"
@@ -21,8 +20,6 @@ constexpr double pointsPast64Bits = 9223372036854775808.0;
 constexpr std::size_t firstGridDimsLength = 1000;
 constexpr std::size_t longestGridDimsGrowth = 100000;
 
-constexpr std::int32_t fewestOverflowSpecies = 2;
-constexpr std::int32_t overflowScalarsAheadOfSpecies = 11;
 constexpr std::int32_t solutionScalars1D = 4;
 constexpr std::int32_t solutionVariables1D = 3;
 
@@ -48,7 +45,7 @@ bool readGridCount(Plot3DFile_s& file) {
 void setVariableCount(Plot3DFile_s& file, const LayoutRules_s& rules) {
     if (!file.isSolutionOrFunction)
         file.numVars = rules.gridVariables;
-    else if (file.style == Plot3DStyle_Classic || file.style == Plot3DStyle_Swift)
+    else if (styleRulesOf(file).variableCount == VariableCount_e::OfLayout)
         file.numVars = rules.solutionVariables;
 }
 
@@ -92,7 +89,8 @@ bool readGridHeader(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t
         !addPoints(file, static_cast<std::int64_t>(pointCount), runningPosition))
         return false;
     storeDims(file, dims, gridIndex);
-    return !isFunctionFile(file) || readFunctionVariableCount(file, gridIndex);
+    return styleRulesOf(file).variableCount != VariableCount_e::OfEachGrid ||
+           readFunctionVariableCount(file, gridIndex);
 }
 
 bool headerEnds(Plot3DFile_s& file) {
@@ -125,25 +123,10 @@ bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* val
 }
 
 bool readScalarCount(Plot3DFile_s& file) {
-    bool isRead = true;
-    switch (file.style) {
-    case Plot3DStyle_Classic:
-        file.numScalars = 4;
-        break;
-    case Plot3DStyle_Swift:
-        file.numScalars = 5;
-        break;
-    case Plot3DStyle_Overflow:
-        isRead = readInteger(file, file.numVars) && readInteger(file, file.numSpecies);
-        // An absurd count of species must not wrap to a small number of scalars.
-        file.numScalars =
-            std::min(std::max(file.numSpecies, fewestOverflowSpecies),
-                     std::numeric_limits<std::int32_t>::max() - overflowScalarsAheadOfSpecies) +
-            overflowScalarsAheadOfSpecies;
-        break;
-    default:
-        file.numScalars = 0;
-    }
+    const StyleRules_s& style = styleRulesOf(file);
+    const bool isRead = style.variableCount != VariableCount_e::OfFile ||
+                        (readInteger(file, file.numVars) && readInteger(file, file.numSpecies));
+    file.numScalars = scalarCount(style, file.numSpecies);
     return isRead;
 }
 
@@ -178,8 +161,9 @@ bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules) {
 
 bool read1DHeader(Plot3DFile_s& file) {
     rewindPlot3DFile(file);
-    std::int32_t values[2] = {0, 0}; // points, and in a function file the number of variables
-    if (!readIntegerRecord(file, isFunctionFile(file) ? 2 : 1, values))
+    std::int32_t values[2] = {0, 0}; // points, and maybe the number of variables
+    const bool countsVariables = styleRulesOf(file).variableCount == VariableCount_e::OfEachGrid;
+    if (!readIntegerRecord(file, countsVariables ? 2 : 1, values))
         return false;
     std::int64_t runningPosition = file.stream->tell();
     const bool fits = addPoints(file, values[0], runningPosition);
@@ -187,7 +171,7 @@ bool read1DHeader(Plot3DFile_s& file) {
         storeDims(file, {values[0], 1, 1}, 0);
     file.numScalars = 0;
     file.numVars = 1;
-    if (isFunctionFile(file)) {
+    if (countsVariables) {
         file.numVars = values[1];
     } else if (file.isSolutionOrFunction) {
         file.numScalars = solutionScalars1D;

@@ -19,18 +19,6 @@ struct LayoutRules_s {
     double (*pointCount)(const Plot3DGridDims_s& dims); // as a real: the product may pass 64 bits
 };
 
-/// A grid file has no style: what a manual description says there is meant for its companions.
-inline bool isFunctionFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style == Plot3DStyle_Function;
-}
-inline bool isOverflowFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style == Plot3DStyle_Overflow;
-}
-/// Whether each grid begins with a block of scalars.
-inline bool isSolutionFile(const Plot3DFile_s& file) {
-    return file.isSolutionOrFunction && file.style != Plot3DStyle_Function;
-}
-
 /// The product of the dimensions, as a real.
 double structuredPointCount(const Plot3DGridDims_s& dims);
 
@@ -41,5 +29,15 @@ bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
 
 /// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md.
 bool read1DHeader(Plot3DFile_s& file);
+
+/// Reads 1 or 2 integers that form a record, or a line, of their own.
+bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values);
+
+/// Sets `numScalars` by the style; for Overflow reads `numVars` and `numSpecies` first.
+bool readScalarCount(Plot3DFile_s& file);
+
+/// Stores the dimensions of one grid, growing the array as needed. False: no memory.
+bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
+                   std::vector<Plot3DGridDims_s>& gridDims);
 
 } // namespace quorvia::quorutildataio

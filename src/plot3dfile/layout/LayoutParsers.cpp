@@ -1,7 +1,9 @@
 #include "plot3dfile/layout/LayoutParsers.h"
 
+#include "plot3dfile/layout/DataSize.h"
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutWalk.h"
+#include "plot3dfile/layout/StyleRules.h"
 
 namespace quorvia::quorutildataio {
 
@@ -11,12 +13,13 @@ bool acceptsAnyFile(const Plot3DFile_s&) {
     return true;
 }
 
-bool isNotOverflow(const Plot3DFile_s& file) {
-    return !isOverflowFile(file);
+bool existsIn2D(const Plot3DFile_s& file) {
+    return styleRulesOf(file).existsIn2D;
 }
 
+/// Here the style that a manual description gives a grid file counts as well.
 bool mayBeUnstructured(const Plot3DFile_s& file) {
-    return file.style != Plot3DStyle_Overflow && file.style != Plot3DStyle_Swift && !file.hasIBlank;
+    return styleRules(file.style).existsUnstructured && !file.hasIBlank;
 }
 
 bool haveOnlyPositiveDims(const Plot3DFile_s&, const Plot3DGridDims_s& dims) {
@@ -37,7 +40,7 @@ double nodeCount(const Plot3DGridDims_s& dims) {
 }
 
 constexpr LayoutRules_s rules2D = {
-    .acceptsFile = isNotOverflow,
+    .acceptsFile = existsIn2D,
     .dimensionCount = 2,
     .lineHoldsGrid = true,
     .gridVariables = 2,
@@ -81,7 +84,7 @@ bool parseGrids(Plot3DFile_s& file, const LayoutRules_s& rules, bool report, Quo
 
 bool parse1D(Plot3DFile_s& file, bool report, QuorSetHandle /*gridSet*/,
              const Plot3DItemReceiver_s* receiver) {
-    if (isOverflowFile(file) || file.hasIBlank || file.isMultiGrid)
+    if (!styleRulesOf(file).existsIn1D || file.hasIBlank || file.isMultiGrid)
         return false;
     return read1DHeader(file) && judgeOrWalk(file, report, nullptr, receiver);
 }
@@ -113,9 +116,10 @@ bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
         return parse3D(file, report, gridSet, receiver);
     case Plot3DDataStructure_Unstructured:
         return parseUnstructured(file, report, gridSet, receiver);
-    default:
-        return true;
+    case Plot3DDataStructure_Unknown:
+        break;
     }
+    return true;
 }
 
 } // namespace quorvia::quorutildataio

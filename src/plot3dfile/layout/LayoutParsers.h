@@ -58,18 +58,4 @@ bool parseUnstructured(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
 bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
                  const Plot3DItemReceiver_s* receiver);
 
-/// Reads 1 or 2 integers that form a record, or a line, of their own.
-bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values);
-
-/// Sets `numScalars` by the style; for Overflow reads `numVars` and `numSpecies` first.
-bool readScalarCount(Plot3DFile_s& file);
-
-/// Stores the dimensions of one grid, growing the array as needed. False: no memory.
-bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
-                   std::vector<Plot3DGridDims_s>& gridDims);
-
-/// Whether the header accounts for the data behind it: every byte of plain binary, the first grid's
-/// records of Fortran, the first scalars' line of text. The stream stands behind the header.
-bool checkDataSize(Plot3DFile_s& file);
-
 } // namespace quorvia::quorutildataio

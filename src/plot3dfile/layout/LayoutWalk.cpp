@@ -1,7 +1,7 @@
 #include "plot3dfile/layout/LayoutWalk.h"
 
 #include "instructions/Plot3DLoadOptions.h"
-#include "plot3dfile/layout/LayoutHeader.h"
+#include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 
 namespace quorvia::quorutildataio {
@@ -28,9 +28,13 @@ public:
             return deliverUnstructured();
         case Plot3DDataStructure_3DPlanes:
             return deliverPlanes();
-        default:
-            return deliverFields(wholeField);
+        case Plot3DDataStructure_1D:
+        case Plot3DDataStructure_2D:
+        case Plot3DDataStructure_3DWhole:
+        case Plot3DDataStructure_Unknown:
+            break;
         }
+        return deliverFields(wholeField);
     }
 
 private:
@@ -39,11 +43,11 @@ private:
                               receiver_.clientData);
     }
 
-    /// A function file has no scalars to take its time from; the receiver knows it from elsewhere.
+    /// Without scalars there is none to take the time from; the receiver knows it from elsewhere.
     bool deliverScalars() {
         if (file_.numScalars >= 1)
             return nextRecord(file_, report_, "Scalars") && deliver(Plot3DItem_Scalars, 0, noPlane);
-        if (isFunctionFile(file_) && receiver_.functionTime != nullptr)
+        if (file_.isSolutionOrFunction && !hasScalars(file_) && receiver_.functionTime != nullptr)
             return receiver_.functionTime(file_, zone_, include_, receiver_.clientData);
         return true;
     }

@@ -1,3 +1,5 @@
+#include "plot3dfile/numbers/IndexRange.h"
+
 #include <algorithm>
 #include <array>
 #include <cassert>

@@ -53,19 +53,4 @@ bool readIntegers(Plot3DFile_s& file, bool store, std::int64_t firstIndex, std::
 bool readReals(Plot3DFile_s& file, bool store, std::int64_t firstIndex, std::int64_t count,
                void* dest, QuorFieldSetFunction setValue);
 
-/// Number of indices that a resolved range selects: each stride, and the end in any case.
-std::int64_t countInRange(const Plot3DIndexRange_s& range);
-
-/// Whether a resolved range selects `index`, counted from 1.
-bool isInRange(const Plot3DIndexRange_s& range, std::int64_t index);
-
-/// Reads a whole block of `dims` points and keeps those that the three resolved ranges select.
-/// `plane` is -1 for a block of all K planes, otherwise the index from 0 of the one plane that the
-/// block holds. `isIBlank`: 32-bit integers, otherwise reals. `dest` and `setValue` as for
-/// readReals.
-bool readIndexRange(Plot3DFile_s& file, std::int32_t plane, std::int32_t i, std::int32_t j,
-                    std::int32_t k, const Plot3DIndexRange_s& iRange,
-                    const Plot3DIndexRange_s& jRange, const Plot3DIndexRange_s& kRange,
-                    bool isIBlank, void* dest, QuorFieldSetFunction setValue);
-
 } // namespace quorvia::quorutildataio

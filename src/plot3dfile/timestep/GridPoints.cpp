@@ -1,6 +1,7 @@
 #include "plot3dfile/timestep/GridPoints.h"
 
 #include "plot3dfile/bytes/CheckedSize.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 
 namespace quorvia::quorutildataio {

@@ -11,8 +11,12 @@
 #include "Bytes.h"
 #include "MemoryFileSystem.h"
 #include "instructions/Plot3DLoadOptions.h"
+#include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/detection/StructureDetection.h"
+#include "plot3dfile/detection/StructureTrials.h"
 #include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/layout/DataSize.h"
+#include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutParsers.h"
 
 namespace quorvia::quorutildataio {

@@ -1,0 +1,12 @@
+// How many grid, solution and function files may go together, judged by their names alone. Each
+// rule tells the user what it refuses. docs/time-series.md holds the tables.
+#pragma once
+
+#include "instructions/Plot3DLoadOptions.h"
+
+namespace quorvia::quorutildataio {
+
+/// The counts of names, before any file is opened.
+bool checkFileSetCounts(const Plot3DLoadOptions_s& options);
+
+} // namespace quorvia::quorutildataio
