@@ -124,6 +124,10 @@ FileForm_s Maker::chooseForm() {
     form.byteOrder = dice_.chance(30) ? ByteOrder_e::Big : ByteOrder_e::Little;
     form.precision = dice_.chance(40) ? Precision_e::Double : Precision_e::Single;
     form.markerBytes = dice_.chance(30) ? 8 : 4;
+    // A line with the count of grids alone is a whole 1-D header.
+    if (shape_.layout == Layout_e::Unstructured && shape_.isMultiGrid &&
+        form.encoding == Encoding_e::Text)
+        form.encoding = Encoding_e::Fortran;
     if (form.encoding == Encoding_e::Text)
         form.precision = shape_.textPrecision;
     return form;
@@ -336,6 +340,8 @@ void Maker::keepPromises(Load_s& load) {
         load.road = Road_e::Instructions;
     if (shape_.layout == Layout_e::ThreeDPlanes)
         load.sharesStructure = false;
+    if (load.road == Road_e::Dialog && load.grids.size() == 1)
+        load.isUniform = true; // the toggle is greyed
 }
 
 Load_s Maker::newLoad() {
@@ -378,7 +384,7 @@ Load_s Maker::onto() {
     Load_s load;
     chooseOptions(load, false);
     const std::int32_t kind = dice_.between(1, 100);
-    load.append = kind > 45;
+    load.append = kind > 45 && (load.road != Road_e::Dialog || host_.dataSet.has_value());
     if (kind > 75 || kind <= 4) {
         addFunctionsAlone(load);
         return load;
@@ -439,7 +445,7 @@ Command Maker::next() {
         return newLoad();
     if (kind <= 60) {
         Load_s load = newLoad();
-        load.append = true;
+        load.append = load.road != Road_e::Dialog || host_.dataSet.has_value();
         return load;
     }
     return onto();

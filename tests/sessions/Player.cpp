@@ -57,6 +57,8 @@ private:
     std::string perform(const Command& command, const Verdict_s& verdict) {
         const std::size_t messagesBefore = host_.log().messages.size();
         const bool isDone = std::visit([this](const auto& what) { return does(what); }, command);
+        if (!host_.script().problem().empty())
+            return host_.script().problem();
         if (!host_.log().violations.empty())
             return "contract broken: " + host_.log().violations.front();
         if (host_.lockDepth() != 0)
@@ -108,9 +110,8 @@ private:
         host_.script().addToScript(
             host::dialogSteps(actionsOf(load), [](const std::string&) {}));
         const bool isDone = host_.importSelection(allPaths(load), true, false).ok;
-        if (!host_.script().problem().empty())
-            throw std::runtime_error(host_.script().problem());
-        host_.script().clearScript();
+        if (host_.script().problem().empty())
+            host_.script().clearScript();
         return isDone;
     }
     bool does(const DeleteZones_s& command) {
