@@ -73,10 +73,10 @@ private:
     std::vector<Boundary_s> chooseBoundaries(const Grids& grids);
 
     Command next();
-    Load_s newLoad();
+    Load_s newLoad(bool append = false);
     Load_s onto();
     void addFunctionsAlone(Load_s& load);
-    void chooseOptions(Load_s& load, bool isGridThere);
+    void chooseOptions(Load_s& load);
     void chooseFiles(Load_s& load, std::int32_t grids, std::int32_t solutions,
                      std::int32_t functions);
     void keepPromises(Load_s& load);
@@ -89,6 +89,17 @@ private:
     Places addList(FileKind_e kind, const char* extension, std::int32_t count,
                    const std::vector<Grids>& grids, const Load_s& load);
 
+    bool takesPart() const {
+        return !shape_.gridSet.empty() ||
+               std::any_of(shape_.ranges.begin(), shape_.ranges.end(),
+                           [](const Range_s& range) { return !range.isWhole(); });
+    }
+    /// Variables of the data set behind coordinates, I-blank and one solution.
+    std::int32_t variablesLeft() const {
+        const std::int32_t coordinates = coordinateCount(shape_.layout);
+        return (host_.dataSet ? host_.dataSet->variableCount() : 0) - coordinates -
+               (shape_.hasIBlank ? 1 : 0) - (coordinates + 2);
+    }
     bool isFlat() const {
         return shape_.layout == Layout_e::OneD || shape_.layout == Layout_e::Unstructured;
     }
@@ -110,6 +121,8 @@ GridDims_s Maker::chooseDims() {
     case Layout_e::Unstructured:
         return dice_.chance(50) ? GridDims_s{dice_.between(7, 12), dice_.between(1, 6), 0}
                                 : GridDims_s{dice_.between(7, 12), 0, dice_.between(1, 6)};
+    case Layout_e::ThreeDPlanes: // a plane of 64-bit reals has the bytes of two of 32-bit ones
+        return {dice_.between(2, 5), dice_.between(2, 5), dice_.between(3, 5)};
     default:
         return {dice_.between(2, 5), dice_.between(2, 5), dice_.between(2, 5)};
     }
@@ -215,9 +228,13 @@ std::size_t Maker::addFile(FileKind_e kind, const char* extension, const FileFor
 Places Maker::addList(FileKind_e kind, const char* extension, std::int32_t count,
                       const std::vector<Grids>& grids, const Load_s& load) {
     FileForm_s form = dice_.chance(70) ? shape_.form : chooseForm();
-    if (kind == FileKind_e::Function && dice_.chance(80)) // beside others precisions must agree
-        form.precision = form.encoding == Encoding_e::Text ? shape_.textPrecision
-                                                           : shape_.form.precision;
+    const Places& beside = load.solutions.empty() ? load.grids : load.solutions;
+    if (kind == FileKind_e::Function && dice_.chance(93)) { // beside others precisions must agree
+        const FileForm_s other = beside.empty() ? shape_.form : file(beside.front()).form;
+        form.precision = other.precision;
+        if (form.encoding == Encoding_e::Text && form.precision != shape_.textPrecision)
+            form.encoding = Encoding_e::Fortran;
+    }
     const bool isOneGridFile = load.grids.size() == 1 || (kind == FileKind_e::Grid && count == 1);
     const bool isUniform = load.isUniform || isOneGridFile;
     const bool mustBeAlike =
@@ -228,8 +245,12 @@ Places Maker::addList(FileKind_e kind, const char* extension, std::int32_t count
     const std::int32_t firstStep = dice_.between(0, 3);
     Places places;
     for (std::int32_t n = 0; n < count; ++n) {
-        if (!mustBeAlike && kind != FileKind_e::Function && dice_.chance(20))
-            form = chooseForm();
+        if (!mustBeAlike && kind != FileKind_e::Function && dice_.chance(20)) {
+            const FileForm_s other = chooseForm();
+            // A boundary zone has the types of its parent and the values of the first grid file.
+            if (!shape_.hasBoundaries || other.precision == form.precision)
+                form = other;
+        }
         const Grids& of = grids[std::min(static_cast<std::size_t>(n), grids.size() - 1)];
         places.push_back(addFile(kind, extension, form, of, hasIBlank, functionCount,
                                  firstStep + n, isNamedByTime && !dice_.chance(3)));
@@ -241,7 +262,9 @@ Places Maker::addList(FileKind_e kind, const char* extension, std::int32_t count
 void Maker::chooseFiles(Load_s& load, std::int32_t grids, std::int32_t solutions,
                         std::int32_t functions) {
     std::vector<Grids> dims = {shape_.grids};
-    const bool mayDiffer = grids > 1 && !load.isUniform && shape_.isMultiGrid;
+    // Boundaries are those of the first grid file, in every step.
+    const bool mayDiffer =
+        grids > 1 && !load.isUniform && shape_.isMultiGrid && !shape_.hasBoundaries;
     for (std::int32_t n = 1; n < std::max({grids, solutions, functions}); ++n) {
         Grids of = shape_.grids;
         if (mayDiffer && dice_.chance(50))
@@ -250,11 +273,12 @@ void Maker::chooseFiles(Load_s& load, std::int32_t grids, std::int32_t solutions
             of.pop_back();
         dims.push_back(of);
     }
-    if (dice_.chance(4)) // somewhere a file that does not fit
-        dims.front() = Grids(shape_.grids.size(), chooseDims());
+    if (dice_.chance(4)) // nothing that fits what is there
+        std::fill(dims.begin(), dims.end(), Grids(shape_.grids.size(), chooseDims()));
     if (grids > 0)
         load.grids = addList(FileKind_e::Grid, ".x", grids, dims, load);
-    if (dice_.chance(3))
+    const bool isPromised = dims.size() > 1 && (load.isUniform || grids == 1);
+    if (!(isPromised && load.sharesStructure) && dice_.chance(3)) // one that does not fit the grid
         dims.back() = Grids(shape_.grids.size(), chooseDims());
     const bool isSwift = shape_.layout != Layout_e::OneD &&
                          shape_.layout != Layout_e::Unstructured && dice_.chance(20);
@@ -277,9 +301,11 @@ void Maker::choosePart(Load_s& load) {
 }
 
 // Before the files are chosen: they keep what the options promise.
-void Maker::chooseOptions(Load_s& load, bool isGridThere) {
+void Maker::chooseOptions(Load_s& load) {
     const std::int32_t road = dice_.between(1, 100);
     load.road = road <= 60 ? Road_e::Instructions : road <= 80 ? Road_e::Selection : Road_e::Dialog;
+    if (takesPart() && load.road == Road_e::Selection && dice_.chance(85))
+        load.road = Road_e::Instructions; // a selection takes whole grids, which would fit nothing
     if (load.road == Road_e::Dialog && wasAtDialog_)
         load.road = Road_e::Instructions; // the dialog remembers what was set before
     const bool needsTextOptions =
@@ -289,9 +315,7 @@ void Maker::chooseOptions(Load_s& load, bool isGridThere) {
     if (load.road == Road_e::Selection)
         return;
     load.sharesStructure = shape_.layout != Layout_e::ThreeDPlanes && dice_.chance(65);
-    // Without a grid file the coordinates are shared under this option alone.
     load.isUniform = dice_.chance(70);
-    (void)isGridThere;
     load.assignsStrands = dice_.chance(75);
     choosePart(load);
     if (load.road == Road_e::Dialog) {
@@ -330,28 +354,43 @@ void Maker::keepPromises(Load_s& load) {
     for (const Range_s& range : load.ranges)
         if (range.end != 0 && !isAllFortran)
             load.gridSet.clear();
+    // A description is of one style, and later files that share the structure may fall to Classic.
     const bool isOfOneStyle = load.solutions.empty() || load.functions.empty();
-    load.isDescribed = load.road == Road_e::Instructions && isOfOneStyle && !isPlain &&
-                       shape_.layout != Layout_e::OneD && dice_.chance(20);
+    const bool isClassic =
+        load.functions.empty() &&
+        (load.solutions.empty() ||
+         file(load.solutions.front()).kind == FileKind_e::ClassicSolution);
+    const bool isDescribable = isClassic || load.solutions.size() + load.functions.size() == 1;
+    load.isDescribed = load.road == Road_e::Instructions && isOfOneStyle && isDescribable &&
+                       !isPlain && shape_.layout != Layout_e::OneD && dice_.chance(20);
     if (load.isDescribed && shape_.layout != Layout_e::ThreeDWhole)
         load.ranges[2] = {}; // the instructions take no K range then
-    if (shape_.layout == Layout_e::ThreeDPlanes && load.road == Road_e::Selection &&
-        all.size() > 2)
-        load.road = Road_e::Instructions;
-    if (shape_.layout == Layout_e::ThreeDPlanes)
+    if (shape_.layout == Layout_e::ThreeDPlanes) { // whose later steps must not share structure
         load.sharesStructure = false;
+        const bool isSeries = std::max({load.grids.size(), load.solutions.size(),
+                                        load.functions.size()}) > 1;
+        if (isSeries && load.road == Road_e::Selection)
+            load.road = Road_e::Instructions;
+    }
     if (load.road == Road_e::Dialog && load.grids.size() == 1)
         load.isUniform = true; // the toggle is greyed
 }
 
-Load_s Maker::newLoad() {
+Load_s Maker::newLoad(bool append) {
     Load_s load;
-    chooseOptions(load, true);
+    load.append = append;
+    chooseOptions(load);
+    load.append &= load.road != Road_e::Dialog || host_.dataSet.has_value(); // greyed otherwise
     const std::int32_t n = dice_.between(2, 3);
     struct Counts_s {
         std::int32_t grids, solutions, functions;
     };
-    const Counts_s counts = dice_.oneOf<Counts_s>({{1, 0, 0},
+    std::vector<Counts_s> appended = {{1, 0, 0}, {n, 0, 0}};
+    if (variablesLeft() >= 0)
+        appended.insert(appended.end(), {{1, 1, 0}, {1, n, 0}, {n, n, 0}, {1, 0, 1}});
+    if (variablesLeft() >= 1)
+        appended.insert(appended.end(), {{1, 1, 1}, {1, n, n}, {n, n, n}});
+    const Counts_s anyhow = dice_.oneOf<Counts_s>({{1, 0, 0},
                                                    {1, 1, 0},
                                                    {1, 1, 0},
                                                    {1, n, 0},
@@ -366,6 +405,7 @@ Load_s Maker::newLoad() {
                                                    {n, n, n},
                                                    {n, 0, n},
                                                    {n, 1, 0}});
+    const Counts_s counts = append && dice_.chance(85) ? dice_.oneOf(appended) : anyhow;
     chooseFiles(load, counts.grids, counts.solutions, counts.functions);
     keepPromises(load);
     return load;
@@ -382,21 +422,22 @@ void Maker::addFunctionsAlone(Load_s& load) {
 /// A load that brings no grid.
 Load_s Maker::onto() {
     Load_s load;
-    chooseOptions(load, false);
+    chooseOptions(load);
     const std::int32_t kind = dice_.between(1, 100);
     load.append = kind > 45 && (load.road != Road_e::Dialog || host_.dataSet.has_value());
     if (kind > 75 || kind <= 4) {
         addFunctionsAlone(load);
         return load;
     }
-    const std::int32_t steps = dice_.between(1, 3);
     // The number of variables must be that of the data set.
-    const std::int32_t coordinates = coordinateCount(shape_.layout) + (shape_.hasIBlank ? 1 : 0);
-    const std::int32_t variables = host_.dataSet ? host_.dataSet->variableCount() : 0;
-    const bool wantsFunctions = variables > coordinates + coordinateCount(shape_.layout) + 2;
-    chooseFiles(load, 0, steps, wantsFunctions && !load.append ? steps : 0);
-    const std::int32_t rest = variables - coordinates - coordinateCount(shape_.layout) - 2;
-    if (rest >= 1 && rest <= 3 && dice_.chance(90))
+    const std::int32_t rest = variablesLeft();
+    if (rest != 0 && load.append && dice_.chance(80)) {
+        addFunctionsAlone(load);
+        return load;
+    }
+    const std::int32_t steps = dice_.between(1, 3);
+    chooseFiles(load, 0, steps, rest > 0 && !load.append ? steps : 0);
+    if (rest >= 1 && rest <= 3 && dice_.chance(95))
         for (const std::size_t place : load.functions)
             session_.files[place].functionCount = rest;
     for (const std::size_t place : load.functions)
@@ -444,9 +485,8 @@ Command Maker::next() {
     if (kind <= 38)
         return newLoad();
     if (kind <= 60) {
-        Load_s load = newLoad();
-        load.append = load.road != Road_e::Dialog || host_.dataSet.has_value();
-        return load;
+        constexpr bool append = true;
+        return newLoad(append);
     }
     return onto();
 }

@@ -19,6 +19,9 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+/// Ahead of what no user could do: a mistake of the session.
+const std::string kImpossible = "impossible: ";
+
 class Performance {
 public:
     explicit Performance(const Session_s& session)
@@ -58,7 +61,7 @@ private:
         const std::size_t messagesBefore = host_.log().messages.size();
         const bool isDone = std::visit([this](const auto& what) { return does(what); }, command);
         if (!host_.script().problem().empty())
-            return host_.script().problem();
+            return kImpossible + host_.script().problem();
         if (!host_.log().violations.empty())
             return "contract broken: " + host_.log().violations.front();
         if (host_.lockDepth() != 0)
@@ -260,7 +263,9 @@ Session_s minimised(const Session_s& session) {
     for (std::size_t index = smallest.commands.size(); index-- > 0;) {
         Session_s shorter = smallest;
         shorter.commands.erase(shorter.commands.begin() + static_cast<std::ptrdiff_t>(index));
-        if (!shorter.commands.empty() && play(shorter, ignored, ignored).command != 0)
+        const Difference_s difference = play(shorter, ignored, ignored);
+        const bool isPossible = difference.text.compare(0, kImpossible.size(), kImpossible) != 0;
+        if (difference.command != 0 && isPossible)
             smallest = shorter;
     }
     return smallest;

@@ -97,6 +97,8 @@ void setFields(const FileModel_s& file, const LoadRun_s& load, DataSet_s& dataSe
 // either case.
 void shareGrid(const LoadRun_s& load, const ExpectedHost_s& host, DataSet_s& dataSet,
                std::int32_t count, std::int32_t source, std::int32_t destination) {
+    if (source == destination)
+        return; // a step that goes onto its own zones
     const std::int32_t last = load.firstSolutionVariable() - 1;
     for (std::int32_t s = 0; s < count; ++s) {
         for (std::int32_t variable = 1; variable <= last; ++variable) {
@@ -104,6 +106,8 @@ void shareGrid(const LoadRun_s& load, const ExpectedHost_s& host, DataSet_s& dat
             Field_s& to = dataSet.field(destination + s, variable);
             if (from.contents == nullptr)
                 throw Refusal("an empty field can't be shared");
+            if (dataSet.zone(source + s).pointCount() != dataSet.zone(destination + s).pointCount())
+                throw Refusal("a zone of another size");
             to.type = from.type;
             to.contents = from.contents;
             if (!host.isSharingAllowed) {

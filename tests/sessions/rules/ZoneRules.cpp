@@ -88,8 +88,12 @@ Zone_s makeZone(const FileSet_s& set, std::int32_t grid, const LoadRun_s& load,
         zone.nodes = shared->nodes;
     for (std::int32_t index = 0; index < host.dataSet->variableCount(); ++index) {
         const bool isIBlank = load.hasIBlank && index == load.coordinates;
-        zone.fields.push_back(
-            {isIBlank ? kInteger : set.isDouble(index) ? kDouble : kSingle, nullptr});
+        const bool isOfGrid = index < load.firstSolutionVariable() - 1;
+        if (set.grid == nullptr && isOfGrid) // as in the zone whose grid this one has
+            zone.fields.push_back({shared->fields[static_cast<std::size_t>(index)].type, nullptr});
+        else
+            zone.fields.push_back(
+                {isIBlank ? kInteger : set.isDouble(index) ? kDouble : kSingle, nullptr});
     }
     return zone;
 }
