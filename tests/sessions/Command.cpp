@@ -28,16 +28,19 @@ struct Teller {
                 listed("functions", load.functions, files);
         for (std::size_t axis = 0; axis < load.ranges.size(); ++axis)
             if (const Range_s& range = load.ranges[axis]; !range.isWhole())
-                text += fmt::format(", {}={},{},{}", "IJK"[axis], range.start, range.end,
-                                    range.skip);
+                text +=
+                    fmt::format(", {}={},{},{}", "IJK"[axis], range.start, range.end, range.skip);
         if (!load.gridSet.empty())
             text += fmt::format(", grid set {}", fmt::join(load.gridSet, ","));
-        const std::pair<bool, const char*> flags[] = {
-            {load.isDescribed, "described by hand"}, {load.sharesStructure, "shared structure"},
-            {load.isUniform, "uniform"},             {load.assignsStrands, "strands"},
-            {load.addsToStrands, "add to strands"},  {load.newStrandEachStep, "new strands"},
-            {load.timesFromNames, "times of names"}, {load.loadsBoundary, "boundary file"},
-            {!load.answersOk, "answers no"}};
+        const std::pair<bool, const char*> flags[] = {{load.isDescribed, "described by hand"},
+                                                      {load.sharesStructure, "shared structure"},
+                                                      {load.isUniform, "uniform"},
+                                                      {load.assignsStrands, "strands"},
+                                                      {load.addsToStrands, "add to strands"},
+                                                      {load.newStrandEachStep, "new strands"},
+                                                      {load.timesFromNames, "times of names"},
+                                                      {load.loadsBoundary, "boundary file"},
+                                                      {!load.answersOk, "answers no"}};
         for (const auto& [isOn, word] : flags)
             if (isOn)
                 text += fmt::format(", {}", word);
@@ -64,8 +67,8 @@ std::string describe(const Session_s& session) {
     for (const FileModel_s& file : session.files)
         text += "  file " + describe(file) + "\n";
     for (std::size_t index = 0; index < session.commands.size(); ++index)
-        text += fmt::format("  {} {}\n", index + 1,
-                            describe(session.commands[index], session.files));
+        text +=
+            fmt::format("  {} {}\n", index + 1, describe(session.commands[index], session.files));
     return text;
 }
 

@@ -66,7 +66,8 @@ struct Session_s {
     std::uint64_t seed = 0;
     std::vector<FileModel_s> files;
     std::vector<Command> commands;
-    bool fetchesOften = true; ///< every value is looked at behind each command, not at the end alone
+    bool fetchesOften =
+        true; ///< every value is looked at behind each command, not at the end alone
 };
 
 /// For people: a command in one line, the session with its files in several.

@@ -28,8 +28,8 @@ std::vector<std::int32_t> expectedHolders(const DataSet_s& dataSet, std::size_t 
     for (const Zone_s& zone : dataSet.zones) {
         const Contents_s* contents = zone.fields[variable].contents.get();
         ++number;
-        holders.push_back(contents == nullptr ? 0
-                                              : firstOf.try_emplace(contents, number).first->second);
+        holders.push_back(
+            contents == nullptr ? 0 : firstOf.try_emplace(contents, number).first->second);
     }
     return holders;
 }
@@ -130,8 +130,7 @@ private:
             text_ = field + "can't be read: " + fetched.error;
         same(field + "values", fetched.count, static_cast<std::int64_t>(expected.size()));
         for (std::size_t index = 0; text_.empty() && index < expected.size(); ++index)
-            same(fmt::format("{}value {}", field, index), valueAt(fetched, index),
-                 expected[index]);
+            same(fmt::format("{}value {}", field, index), valueAt(fetched, index), expected[index]);
     }
 
     host::ReferenceHost& host_;
@@ -148,8 +147,7 @@ std::string findDifference(host::ReferenceHost& host, const ExpectedHost_s& expe
     if (isThere != expected.dataSet.has_value())
         return isThere ? "a data set is there" : "no data set is there";
     if (host.frame().plotType() != expected.plotType)
-        return fmt::format("plot type {}, expected {}", host.frame().plotType(),
-                           expected.plotType);
+        return fmt::format("plot type {}, expected {}", host.frame().plotType(), expected.plotType);
     return isThere ? Comparison(host, *expected.dataSet).find(fetches) : "";
 }
 

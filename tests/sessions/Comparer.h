@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "sessions/ExpectedDataSet.h"
 #include "session/ReferenceHost.h"
+#include "sessions/ExpectedDataSet.h"
 
 namespace quorvia::sessions {
 

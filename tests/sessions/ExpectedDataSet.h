@@ -32,8 +32,8 @@ struct Zone_s {
     std::int64_t i = 1, j = 1, k = 1;
     std::int32_t strand = 0; ///< 0: none
     double time = 0;
-    std::int32_t parentId = 0;     ///< 0: none
-    std::string boundaryCondition; ///< empty: no boundary zone
+    std::int32_t parentId = 0;                              ///< 0: none
+    std::string boundaryCondition;                          ///< empty: no boundary zone
     std::shared_ptr<const std::vector<std::int32_t>> nodes; ///< null: none were stored
     std::vector<Field_s> fields;
 

@@ -34,8 +34,8 @@ struct FileModel_s {
     bool isMultiGrid = true;
     bool hasIBlank = false;
     std::vector<GridDims_s> grids;
-    std::int32_t functionCount = 0; ///< variables of a function file
-    double time = 0;                ///< of a solution file, the same in each grid
+    std::int32_t functionCount = 0;     ///< variables of a function file
+    double time = 0;                    ///< of a solution file, the same in each grid
     std::vector<Boundary_s> boundaries; ///< of a grid file; none: no boundary file beside it
 
     std::int32_t gridCount() const { return static_cast<std::int32_t>(grids.size()); }

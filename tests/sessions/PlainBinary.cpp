@@ -107,13 +107,12 @@ std::vector<Reading_s> readingsInOrder(bool isGrid) {
                     for (const bool hasIBlank : {false, true}) {
                         const bool isFlat =
                             layout == Layout_e::OneD || layout == Layout_e::Unstructured;
-                        const bool exists =
-                            !(hasIBlank && (!isGrid || isFlat)) &&
-                            !(isMultiGrid && layout == Layout_e::OneD) &&
-                            !(kind == FileKind_e::OverflowSolution &&
-                              layout != Layout_e::ThreeDWhole) &&
-                            !(kind == FileKind_e::SwiftSolution &&
-                              layout == Layout_e::Unstructured);
+                        const bool exists = !(hasIBlank && (!isGrid || isFlat)) &&
+                                            !(isMultiGrid && layout == Layout_e::OneD) &&
+                                            !(kind == FileKind_e::OverflowSolution &&
+                                              layout != Layout_e::ThreeDWhole) &&
+                                            !(kind == FileKind_e::SwiftSolution &&
+                                              layout == Layout_e::Unstructured);
                         if (exists)
                             readings.push_back({layout, kind, isMultiGrid, isDouble, hasIBlank});
                     }

@@ -41,7 +41,7 @@ public:
     Performance(const Performance&) = delete;
     Performance& operator=(const Performance&) = delete;
 
-    Difference_s play(std::int64_t& loads, std::int64_t& refusals) {
+    Difference_s play(Tally_s& tally) {
         for (std::size_t index = 0; index < session_.commands.size(); ++index) {
             const Command& command = session_.commands[index];
             const Verdict_s verdict = apply(command, session_.files, expected_);
@@ -49,7 +49,7 @@ public:
             if (!text.empty())
                 return {index + 1, text};
             if (std::holds_alternative<Load_s>(command))
-                ++(verdict.ending == Ending_e::Done ? loads : refusals);
+                ++(verdict.ending == Ending_e::Done ? tally.loads : tally.refusals);
             if (verdict.ending == Ending_e::RefusedAmidst)
                 break; // what is there now is open
         }
@@ -75,8 +75,7 @@ private:
         if (verdict.ending == Ending_e::RefusedAmidst)
             return "";
         const bool isLast = &command == &session_.commands.back();
-        const std::string text =
-            findDifference(host_, expected_, session_.fetchesOften || isLast);
+        const std::string text = findDifference(host_, expected_, session_.fetchesOften || isLast);
         if (!isLast || !text.empty())
             return text.empty() || told.empty() ? text : text + "\n    told: " + told;
         host_.unloadAll(); // every value once more from its file
@@ -110,8 +109,7 @@ private:
             return host_.importInstructions(instructionsOf(load)).ok;
         if (load.road == Road_e::Selection)
             return host_.importSelection(allPaths(load), false, load.append).ok;
-        host_.script().addToScript(
-            host::dialogSteps(actionsOf(load), [](const std::string&) {}));
+        host_.script().addToScript(host::dialogSteps(actionsOf(load), [](const std::string&) {}));
         const bool isDone = host_.importSelection(allPaths(load), true, false).ok;
         if (host_.script().problem().empty())
             host_.script().clearScript();
@@ -245,25 +243,25 @@ host::DialogCommand_s Performance::actionsOf(const Load_s& load) {
             type(axis, "End", range.end);
     }
     if (!load.gridSet.empty())
-        command.actions.emplace_back(host::TypeAction_s{
-            fmt::format("{}", fmt::join(load.gridSet, ",")), "Grid Set"});
+        command.actions.emplace_back(
+            host::TypeAction_s{fmt::format("{}", fmt::join(load.gridSet, ",")), "Grid Set"});
     command.actions.emplace_back(host::PressAction_s{"OK", std::nullopt});
     return command;
 }
 
 } // namespace
 
-Difference_s play(const Session_s& session, std::int64_t& loads, std::int64_t& refusals) {
-    return Performance(session).play(loads, refusals);
+Difference_s play(const Session_s& session, Tally_s& tally) {
+    return Performance(session).play(tally);
 }
 
 Session_s minimised(const Session_s& session) {
     Session_s smallest = session;
-    std::int64_t ignored = 0;
+    Tally_s ignored;
     for (std::size_t index = smallest.commands.size(); index-- > 0;) {
         Session_s shorter = smallest;
         shorter.commands.erase(shorter.commands.begin() + static_cast<std::ptrdiff_t>(index));
-        const Difference_s difference = play(shorter, ignored, ignored);
+        const Difference_s difference = play(shorter, ignored);
         const bool isPossible = difference.text.compare(0, kImpossible.size(), kImpossible) != 0;
         if (difference.command != 0 && isPossible)
             smallest = shorter;

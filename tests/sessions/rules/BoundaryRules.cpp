@@ -86,9 +86,9 @@ void addBoundaryZones(LoadRun_s& load, ExpectedHost_s& host,
     const std::size_t steps = load.givesStrands ? load.sets.size() : 1;
     for (std::size_t step = 0; step < steps; ++step) {
         const FileSet_s& set = load.sets[step];
-        std::int32_t strand =
-            load.givesStrands && load.options.addsToStrands ? dataSet.zones.back().strand
-                                                            : baseStrand;
+        std::int32_t strand = load.givesStrands && load.options.addsToStrands
+                                  ? dataSet.zones.back().strand
+                                  : baseStrand;
         for (std::size_t n = 0; n < gridFile.boundaries.size(); ++n) {
             const Boundary_s& boundary = gridFile.boundaries[n];
             const std::int32_t grid =

@@ -30,8 +30,7 @@ bool findIBlank(const DataSet_s& dataSet, std::int32_t coordinates) {
     for (const Zone_s& zone : dataSet.zones) {
         if (dataSet.variableCount() <= coordinates)
             return false;
-        const bool isInteger =
-            zone.fields[static_cast<std::size_t>(coordinates)].type == kInteger;
+        const bool isInteger = zone.fields[static_cast<std::size_t>(coordinates)].type == kInteger;
         require(isInteger || !isFound, "zones without I-blank behind one that has it");
         isFound = isInteger;
     }
@@ -43,11 +42,10 @@ void compareSizes(const LoadRun_s& load, const DataSet_s& dataSet) {
     const FileModel_s& file = load.sets.front().leading();
     const Layout_e layout = layoutAsRead(file, load);
     for (std::int32_t selected = 0; selected < load.zonesPerStep; ++selected) {
-        const Zone_s& zone = dataSet.zones[static_cast<std::size_t>(
-            load.oldZones - load.zonesPerStep + selected)];
+        const Zone_s& zone =
+            dataSet.zones[static_cast<std::size_t>(load.oldZones - load.zonesPerStep + selected)];
         if (layout == Layout_e::Unstructured) {
-            require(zone.type == 0 ||
-                        zone.i == file.grids[static_cast<std::size_t>(selected)].i,
+            require(zone.type == 0 || zone.i == file.grids[static_cast<std::size_t>(selected)].i,
                     "unlike numbers of nodes");
             continue;
         }

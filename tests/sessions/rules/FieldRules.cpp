@@ -83,8 +83,8 @@ void setFields(const FileModel_s& file, const LoadRun_s& load, DataSet_s& dataSe
             });
         }
         if (file.hasIBlank)
-            dataSet.field(number, firstVariable + file.variableCount()).contents = makeContents(
-                points, isDeferred, [&](auto i, auto j, auto k) -> double {
+            dataSet.field(number, firstVariable + file.variableCount()).contents =
+                makeContents(points, isDeferred, [&](auto i, auto j, auto k) -> double {
                     return iBlankAt(file, grid, i, j, k);
                 });
         if (file.kind == FileKind_e::Grid && file.layout == Layout_e::Unstructured)

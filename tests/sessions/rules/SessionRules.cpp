@@ -58,9 +58,8 @@ void build(LoadRun_s& load, ExpectedHost_s& host) {
     }
     if (load.oldZones > 0) {
         const std::int32_t index =
-            first.grid != nullptr
-                ? first.grid->variableCount() + (first.grid->hasIBlank ? 1 : 0)
-                : 0;
+            first.grid != nullptr ? first.grid->variableCount() + (first.grid->hasIBlank ? 1 : 0)
+                                  : 0;
         while (static_cast<std::size_t>(dataSet.variableCount()) < names.size())
             addVariable(dataSet, names[static_cast<std::size_t>(dataSet.variableCount())],
                         first.isDouble(index) ? kDouble : kSingle);
@@ -91,9 +90,7 @@ void buildOrClear(LoadRun_s& load, ExpectedHost_s& host) {
 
 void setPlotType(const LoadRun_s& load, ExpectedHost_s& host) {
     if (!load.options.append)
-        host.plotType = load.coordinates == 1   ? kPlotXY
-                        : load.coordinates == 2 ? kPlot2D
-                                                : kPlot3D;
+        host.plotType = load.coordinates == 1 ? kPlotXY : load.coordinates == 2 ? kPlot2D : kPlot3D;
 }
 
 struct Applier {
@@ -126,12 +123,11 @@ struct Applier {
         load.zonesPerStep = load.selectedGrids(first.leading());
         require(load.zonesPerStep > 0, "a grid set that selects no grid");
         checkCompatibility(load, host);
-        const FileModel_s* styled = first.solution != nullptr     ? first.solution
+        const FileModel_s* styled = first.solution != nullptr  ? first.solution
                                     : !first.functions.empty() ? first.functions.front()
                                                                : nullptr;
-        load.givesStrands =
-            load.options.assignsStrands &&
-            !(styled != nullptr && styled->isFunction() && load.namedTimes.empty());
+        load.givesStrands = load.options.assignsStrands &&
+                            !(styled != nullptr && styled->isFunction() && load.namedTimes.empty());
         buildOrClear(load, host);
         setPlotType(load, host);
     }

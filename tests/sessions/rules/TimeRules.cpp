@@ -21,8 +21,8 @@ bool findTime(const std::string& name, double& time) {
 void settleStrandOptions(LoadRun_s& load) {
     Load_s& options = load.options;
     const bool isOfFunctions =
-        options.isDescribed && (load.solutions.empty() ? !load.functions.empty()
-                                                       : load.solutions.front()->isFunction());
+        options.isDescribed &&
+        (load.solutions.empty() ? !load.functions.empty() : load.solutions.front()->isFunction());
     if (isOfFunctions && !options.timesFromNames)
         options.assignsStrands = false;
     if (!options.assignsStrands || !options.append)
@@ -42,7 +42,7 @@ void takeTimesFromNames(LoadRun_s& load) {
 }
 
 double timeOf(const FileSet_s& set, const LoadRun_s& load) {
-    const FileModel_s* file = set.solution != nullptr     ? set.solution
+    const FileModel_s* file = set.solution != nullptr  ? set.solution
                               : !set.functions.empty() ? set.functions.front()
                                                        : nullptr;
     const auto found = load.fileTimes.find(file);

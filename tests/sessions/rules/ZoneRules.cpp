@@ -92,8 +92,10 @@ Zone_s makeZone(const FileSet_s& set, std::int32_t grid, const LoadRun_s& load,
         if (set.grid == nullptr && isOfGrid) // as in the zone whose grid this one has
             zone.fields.push_back({shared->fields[static_cast<std::size_t>(index)].type, nullptr});
         else
-            zone.fields.push_back(
-                {isIBlank ? kInteger : set.isDouble(index) ? kDouble : kSingle, nullptr});
+            zone.fields.push_back({isIBlank              ? kInteger
+                                   : set.isDouble(index) ? kDouble
+                                                         : kSingle,
+                                   nullptr});
     }
     return zone;
 }
@@ -195,8 +197,7 @@ void addTimeSteps(LoadRun_s& load, ExpectedHost_s& host, std::vector<std::int32_
                     dataSet.zone(grid + 1).strand = strand;
                 continue;
             }
-            const Zone_s* shared =
-                share <= dataSet.zoneCount() ? &dataSet.zone(share) : nullptr;
+            const Zone_s* shared = share <= dataSet.zoneCount() ? &dataSet.zone(share) : nullptr;
             dataSet.zones.push_back(
                 makeZone(set, grid, load, host, shared, sharesConnectivity(load, step)));
             dataSet.zones.back().strand = strand;
