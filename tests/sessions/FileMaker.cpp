@@ -171,16 +171,24 @@ void FileMaker::chooseFiles(Load_s& load, std::int32_t grids, std::int32_t solut
     }
     if (dice_.chance(4)) // nothing that fits what is there
         std::fill(dims.begin(), dims.end(), Grids(shape_.grids.size(), chooseDims()));
-    if (grids > 0)
+    const auto isGrid = [](const FileModel_s& file) { return file.kind == FileKind_e::Grid; };
+    const auto known = std::find_if(files_.begin(), files_.end(), isGrid);
+    if (grids == 1 && known != files_.end() && dice_.chance(25)) { // once more
+        load.grids = {static_cast<std::size_t>(known - files_.begin())};
+        dims.assign(dims.size(), known->grids);
+    } else if (grids > 0) {
         load.grids = addList(FileKind_e::Grid, ".x", grids, dims, load);
+    }
     const bool isPromised = dims.size() > 1 && (load.isUniform || grids == 1);
     if (!(isPromised && load.sharesStructure) && dice_.chance(3)) // one that does not fit the grid
         dims.back() = Grids(shape_.grids.size(), chooseDims());
-    const bool isSwift = shape_.layout != Layout_e::OneD &&
-                         shape_.layout != Layout_e::Unstructured && dice_.chance(20);
+    std::vector<FileKind_e> kinds = {FileKind_e::ClassicSolution, FileKind_e::ClassicSolution};
+    if (shape_.layout != Layout_e::OneD && shape_.layout != Layout_e::Unstructured)
+        kinds.push_back(FileKind_e::SwiftSolution);
+    if (coordinateCount(shape_.layout) == 3 && shape_.layout != Layout_e::Unstructured)
+        kinds.push_back(FileKind_e::OverflowSolution);
     if (solutions > 0)
-        load.solutions = addList(isSwift ? FileKind_e::SwiftSolution : FileKind_e::ClassicSolution,
-                                 ".q", solutions, dims, load);
+        load.solutions = addList(dice_.oneOf(kinds), ".q", solutions, dims, load);
     if (functions > 0 && solutions == 0 && dice_.chance(15))
         load.solutions = addList(FileKind_e::Function, ".q", functions, dims, load);
     else if (functions > 0)

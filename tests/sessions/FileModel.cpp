@@ -18,8 +18,8 @@ FileDescription_s contentsOf(const FileModel_s& file) {
     contents.isMultiGrid = file.isMultiGrid;
     contents.hasIBlank = file.hasIBlank;
     contents.grids = file.grids;
-    contents.numVars = file.functionCount;
-    std::vector<double> scalars = {0.5, 2.0, 1000.0, file.time, 7.0};
+    contents.numVars = file.variableCount(); // where the header tells it
+    std::vector<double> scalars = {0.5, 2.0, 1000.0, file.time, 7.0, 8.0, 9.0, 10.0};
     scalars.resize(static_cast<std::size_t>(scalarCount(contents)));
     contents.scalars.assign(file.grids.size(), scalars);
     contents.value = [&file](std::int32_t grid, std::int32_t variable, std::int32_t i,

@@ -59,6 +59,8 @@ void Maker::choosePart(Load_s& load) {
     load.gridSet = isMostly ? shape_.gridSet : std::set<std::int32_t>{};
     if (!load.isUniform && !load.gridSet.empty())
         load.gridSet.insert(1); // later steps may have fewer grids
+    if (dice_.chance(2))
+        load.gridSet = {dice_.between(4, 9)}; // none of the files' grids
 }
 
 // Before the files are chosen: they keep what the options promise.

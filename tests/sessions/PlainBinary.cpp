@@ -35,6 +35,8 @@ std::vector<std::int64_t> headerOf(const FileModel_s& file) {
         if (file.isFunction())
             header.push_back(file.functionCount);
     }
+    if (file.kind == FileKind_e::OverflowSolution)
+        header.insert(header.end(), {file.variableCount(), 0}); // no species
     return header;
 }
 

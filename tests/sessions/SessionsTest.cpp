@@ -46,7 +46,7 @@ Tally_s playFrom(std::uint64_t firstSeed, std::uint64_t count) {
 
 // About a minute with the one below. A model that refused everything would find nothing.
 TEST(Sessions, OfKnownSeedsMakeWhatTheModelExpects) {
-    constexpr std::uint64_t knownSeeds = 1800;
+    constexpr std::uint64_t knownSeeds = 5000;
     const Tally_s tally =
         playFrom(numberIn("PLOT3D_TEST_SEED", 1), numberIn("PLOT3D_SESSIONS", knownSeeds));
     EXPECT_GE(tally.loads, tally.refusals / 2);
@@ -55,7 +55,7 @@ TEST(Sessions, OfKnownSeedsMakeWhatTheModelExpects) {
 TEST(Sessions, OfARandomSeedMakeWhatTheModelExpects) {
     if (std::getenv("PLOT3D_TEST_SEED") != nullptr)
         GTEST_SKIP() << "the seed is given";
-    constexpr std::uint64_t randomSeeds = 200;
+    constexpr std::uint64_t randomSeeds = 1000;
     constexpr std::uint64_t behindTheKnown = 1000000;
     playFrom(behindTheKnown + std::random_device()(), randomSeeds);
 }

@@ -115,13 +115,13 @@ struct Applier {
         checkDimensions(load);
         settleShape(load);
         const FileSet_s& first = load.sets.front();
+        load.zonesPerStep = load.selectedGrids(first.leading());
+        require(load.zonesPerStep > 0, "a grid set that selects no grid");
         const bool areFunctionsAlone = first.grid == nullptr && first.solution == nullptr;
         if (areFunctionsAlone) {
             appendFunctions(load, *host.dataSet);
             return;
         }
-        load.zonesPerStep = load.selectedGrids(first.leading());
-        require(load.zonesPerStep > 0, "a grid set that selects no grid");
         checkCompatibility(load, host);
         const FileModel_s* styled = first.solution != nullptr  ? first.solution
                                     : !first.functions.empty() ? first.functions.front()
