@@ -55,6 +55,15 @@ struct Teller {
     }
 };
 
+std::set<std::size_t> usedFiles(const std::vector<Command>& commands) {
+    std::set<std::size_t> used;
+    for (const Command& command : commands)
+        if (const auto* load = std::get_if<Load_s>(&command))
+            for (const auto* places : {&load->grids, &load->solutions, &load->functions})
+                used.insert(places->begin(), places->end());
+    return used;
+}
+
 } // namespace
 
 std::string describe(const Command& command, const std::vector<FileModel_s>& files) {
@@ -64,8 +73,8 @@ std::string describe(const Command& command, const std::vector<FileModel_s>& fil
 std::string describe(const Session_s& session) {
     std::string text = fmt::format("session {}{}\n", session.seed,
                                    session.fetchesOften ? "" : ", values looked at in the end");
-    for (const FileModel_s& file : session.files)
-        text += "  file " + describe(file) + "\n";
+    for (const std::size_t place : usedFiles(session.commands))
+        text += "  file " + describe(session.files[place]) + "\n";
     for (std::size_t index = 0; index < session.commands.size(); ++index)
         text +=
             fmt::format("  {} {}\n", index + 1, describe(session.commands[index], session.files));

@@ -70,7 +70,7 @@ struct Session_s {
         true; ///< every value is looked at behind each command, not at the end alone
 };
 
-/// For people: a command in one line, the session with its files in several.
+/// For people: a command in one line, the session with the files that it uses in several.
 std::string describe(const Command& command, const std::vector<FileModel_s>& files);
 std::string describe(const Session_s& session);
 

@@ -224,6 +224,8 @@ DeleteZones_s Maker::chooseDeletion() {
             if (dice_.chance(70))
                 command.zones.insert(number);
     }
+    if (command.zones.empty())
+        command.zones.insert(count);
     if (static_cast<std::int32_t>(command.zones.size()) == count)
         command.zones.erase(std::prev(command.zones.end()));
     return command;

@@ -44,12 +44,14 @@ Tally_s playFrom(std::uint64_t firstSeed, std::uint64_t count) {
     return tally;
 }
 
-// About a minute with the one below. A model that refused everything would find nothing.
+// About a minute with the random ones. Sessions that were refused from end to end would show
+// nothing.
 TEST(Sessions, OfKnownSeedsMakeWhatTheModelExpects) {
     constexpr std::uint64_t knownSeeds = 5000;
-    const Tally_s tally =
-        playFrom(numberIn("PLOT3D_TEST_SEED", 1), numberIn("PLOT3D_SESSIONS", knownSeeds));
-    EXPECT_GE(tally.loads, tally.refusals / 2);
+    const std::uint64_t count = numberIn("PLOT3D_SESSIONS", knownSeeds);
+    const Tally_s tally = playFrom(numberIn("PLOT3D_TEST_SEED", 1), count);
+    if (count >= knownSeeds)
+        EXPECT_GT(tally.loads, tally.refusals);
 }
 
 TEST(Sessions, OfARandomSeedMakeWhatTheModelExpects) {
