@@ -139,4 +139,35 @@ TEST(Arrows, OfTheToolsNeverReachTheReader) {
     expectNoForbiddenInclude("tools", toolArrows);
 }
 
+bool beginsWithOneOf(const std::string& text, const std::vector<std::string>& beginnings) {
+    for (const std::string& beginning : beginnings)
+        if (text.rfind(beginning, 0) == 0)
+            return true;
+    return false;
+}
+
+/// Includes of the folder that begin with none of `allowed`.
+std::vector<std::string> includesBeyond(const char* folder,
+                                        const std::vector<std::string>& allowed) {
+    std::vector<std::string> beyond;
+    for (const auto& entry : fs::directory_iterator(fs::path(PLOT3D_SOURCE_DIR) / folder))
+        if (isSource(entry.path()))
+            for (const std::string& include : quotedIncludes(entry.path()))
+                if (!beginsWithOneOf(include, allowed))
+                    beyond.push_back(entry.path().filename().string() + " includes " + include);
+    return beyond;
+}
+
+// What a load should make of its files is worked out without the add-on, the rules without the host
+// as well.
+TEST(Arrows, OfTheModelOfSessionsNeverReachTheAddOn) {
+    EXPECT_EQ(includesBeyond("tests/sessions",
+                             {"sessions/", "plot3dwriter/", "session/", "app/macro/", "support/"}),
+              std::vector<std::string>());
+    EXPECT_EQ(includesBeyond("tests/sessions/rules",
+                             {"sessions/rules/", "sessions/Command.h", "sessions/ExpectedDataSet.h",
+                              "sessions/FileModel.h"}),
+              std::vector<std::string>());
+}
+
 } // namespace
