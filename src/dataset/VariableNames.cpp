@@ -108,9 +108,8 @@ std::string functionName(std::int64_t ordinal, std::int64_t k) {
 void addFunctionNames(NameWriter& writer, const std::vector<Plot3DFile_s*>& files) {
     std::int32_t ordinal = 1;
     for (const Plot3DFile_s* file : files) {
-        // Without an answer of the host the names may repeat some that are there; no reason to
-        // stop.
-        findFreeFunctionOrdinal(ordinal);
+        if (!findFreeFunctionOrdinal(ordinal))
+            throw std::bad_alloc(); // a name might repeat one that is there
         const std::int64_t count = std::min<std::int64_t>(file->numVars, fieldCountLimit(*file));
         for (std::int64_t k = 1; k <= count; ++k)
             writer.add(functionName(ordinal, k));
