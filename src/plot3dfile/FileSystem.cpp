@@ -80,6 +80,11 @@ public:
             return nullptr;
         return file;
     }
+
+    bool hasFile(const std::string& utf8Name) override {
+        struct stat status = {};
+        return stat(utf8Name.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    }
 };
 
 PosixFileSystem gPosixFileSystem;
