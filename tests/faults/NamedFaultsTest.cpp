@@ -87,6 +87,13 @@ TEST_F(NamedFaults, OfTheSecondOpenOfABoundaryFileAreTold) {
     EXPECT_EQ(host().frame().dataSet()->zoneCount(), 4);
 }
 
+// Nobody asks for the file by name at the dialog, so that it could be missed.
+TEST_F(NamedFaults, OfTheFirstOpenOfABoundaryFileAreTold) {
+    EXPECT_TRUE(play("DialogBesideBoundaries", "side/a.x.fvbnd", Fault_e::OpenFails, 1));
+    EXPECT_EQ(messages(), Texts{"The file " + path("side/a.x.fvbnd") + " could not be opened."});
+    EXPECT_EQ(host().frame().dataSet()->zoneCount(), 2);
+}
+
 TEST_F(NamedFaults, OfMemoryForBoundaryZonesAreTold) {
     EXPECT_TRUE(play("BoundaryFile", "side", Fault_e::HostBlockOnce, 34));
     EXPECT_EQ(messages(),

@@ -223,6 +223,12 @@ void Sessions::addSelections() {
                               selected("append", later, Survival_e::BeforeAndVariables)};
 
     using namespace host;
+    Session_s& besideBoundaries = add("DialogBesideBoundaries");
+    besideBoundaries.sideFile = SideFile_e::Boundaries;
+    besideBoundaries.zonesWithoutBoundaries = 2;
+    besideBoundaries.steps = {atDialog("load",
+                                       {directory_.file("side/a.x"), directory_.file("side/1.q")},
+                                       {PressAction_s{"OK", {}}})};
     add("Dialog").steps = {
         atDialog("load", first, {PressAction_s{"OK", {}}}),
         atDialog("append", later,
