@@ -9,7 +9,7 @@ namespace quorvia::testsupport {
 
 namespace {
 
-constexpr std::int64_t samplesOfAKind = 9;
+constexpr std::int64_t samplesOfAKind = 18;
 
 std::string environment(const char* name) {
     const char* const given = std::getenv(name);
