@@ -16,9 +16,9 @@ std::string difference(const Standing_s& expected, const Standing_s& found);
 bool isWithoutSideFile(const Session_s& session, const Standing_s& found,
                        const Standing_s& expected);
 
-/// Whether nothing but some of the instructions is missing: a host that has no memory for all of
-/// them keeps fewer.
-bool isWithoutSomeInstructions(const Standing_s& found, const Standing_s& expected);
+/// Whether nothing but auxiliary data and some of the instructions is missing: a load goes on where
+/// the host does not take an item.
+bool isWithoutWhatHostRefused(const Standing_s& found, const Standing_s& expected);
 
 /// What a refused step has lost or changed that it may not; empty if nothing. `expected` is what it
 /// would have made.
