@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "app/CommandLine.h"
+#include "app/EndWithoutMemory.h"
 #include "app/LoadCommand.h"
 #include "app/MacroCommand.h"
 
@@ -35,6 +36,7 @@ void tellFailure(std::ostream& err, const char* what) {
 } // namespace
 
 int run(const std::vector<std::string>& arguments, const Console_s& console) noexcept {
+    const EndWithoutMemory end;
     try {
         const Command command = parseCommandLine(arguments, console.out, console.err);
         return static_cast<int>(std::visit(CarryOut_s{console}, command));
