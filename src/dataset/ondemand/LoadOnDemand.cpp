@@ -55,9 +55,7 @@ bool readField(const Plot3DLodRecord_s& record, QuorFieldHandle field) {
         return false;
     FetchWatch watch(width * record.numValues);
     const WatchedReading watched(*stream, watch);
-    return readNumbersAcrossSegments(*stream, variable.byteSwap, variable.markerSize,
-                                     variable.segmentBoundaries, variable.encoding, width,
-                                     record.numValues, values);
+    return readNumbersAcrossSegments(*stream, variable, width, record.numValues, values);
 }
 
 } // namespace

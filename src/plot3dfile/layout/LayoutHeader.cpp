@@ -117,9 +117,8 @@ bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* val
         if (file.relaxedChecks ? file.recordLength < expected : file.recordLength != expected)
             return false;
     }
-    return readIntegerBlock(*file.stream, file.byteSwap, file.markerSize, file.segmentBoundaries,
-                            file.encoding, true, count, values) &&
-           atRecordEnd(file);
+    constexpr bool store = true;
+    return readIntegerBlock(*file.stream, file, store, count, values) && atRecordEnd(file);
 }
 
 bool readScalarCount(Plot3DFile_s& file) {
