@@ -219,9 +219,11 @@ bool atRecordEnd(Plot3DFile_s& file) {
         return file.relaxedChecks || file.stream->tell() == file.nextRecordStart - widthOf(file);
     case Plot3DEncoding_Ascii:
         return isLineUsedUp(file);
-    default:
-        return true;
+    case Plot3DEncoding_Binary:
+    case Plot3DEncoding_Unknown:
+        break;
     }
+    return true;
 }
 
 bool atFileEnd(Plot3DFile_s& file, bool report) {
