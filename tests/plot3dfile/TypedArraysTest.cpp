@@ -257,5 +257,21 @@ TEST_F(Block, PassedOverThroughTheSetFunctionMustBeThere) {
     EXPECT_EQ(gTaken, Taken());
 }
 
+class BinaryNumber : public testsupport::RecordFixture {};
+
+TEST_F(BinaryNumber, ThatTheFilesEndCutsIsZero) {
+    openBinary("abc");
+    std::int32_t integer = 7;
+    EXPECT_FALSE(readInteger(*file, integer));
+    EXPECT_EQ(integer, 0);
+    for (const bool isDoublePrecision : {false, true}) {
+        file->isDoublePrecision = isDoublePrecision;
+        file->stream->seek(0);
+        double real = 7.0;
+        EXPECT_FALSE(readReal(*file, real));
+        EXPECT_EQ(real, 0.0);
+    }
+}
+
 } // namespace
 } // namespace quorvia::quorutildataio

@@ -35,7 +35,7 @@ struct Destination {
 };
 
 std::int64_t valueWidth(const Plot3DFile_s& file, bool isIBlank) {
-    return !isIBlank && file.isDoublePrecision ? 8 : 4;
+    return isIBlank ? integerWidth : realWidth(file);
 }
 
 bool failWith(bool report, const char* text) {

@@ -5,7 +5,7 @@
 #include <limits>
 #include <span>
 
-#include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/bytes/BinaryNumbers.h"
 #include "plot3dfile/numbers/ValueDestination.h"
 #include "plot3dfile/numbers/ValueRuns.h"
 
@@ -45,38 +45,48 @@ std::int64_t bytesBetweenSegments(const Plot3DRecordForm_s& form) {
     return 2 * static_cast<std::int64_t>(form.markerSize);
 }
 
-bool readInNativeOrder(FileStream& stream, std::int64_t width, std::int64_t valueCount,
-                       char* destination) {
+/// Of numbers in the opposite byte order, without a boundary among them.
+bool readSwapped(FileStream& stream, std::int64_t width, std::int64_t valueCount,
+                 char* destination) {
+    constexpr bool byteSwap = true;
     const std::int64_t valuesPerChunk = std::max<std::int64_t>(swapChunkBytes / width, 1);
     for (std::int64_t done = 0; done < valueCount;) {
         const std::int64_t count = std::min(valuesPerChunk, valueCount - done);
         char* chunk = destination + done * width;
-        if (!stream.readExactly(chunk, count * width))
+        if (readBinaryNumbers(stream, byteSwap, width, count, chunk) != count)
             return false;
-        reverseEach(chunk, width, count);
         done += count;
     }
     return true;
 }
 
-// A block with one boundary inside, which the stream has not come to: the values ahead of it, the
-// one that it cuts if it does, and those behind it.
+/// In either byte order, with any number of boundaries among the numbers or inside one.
+bool readByTheRuleOfBlocks(FileStream& stream, const Plot3DRecordForm_s& form, std::int64_t width,
+                           std::int64_t valueCount, void* destination) {
+    const auto readBytes = [&](void* bytes, std::int64_t byteCount) {
+        return readBytesAcrossSegments(stream, form, bytes, byteCount) ? byteCount : 0;
+    };
+    return readBinaryNumbers(readBytes, form.byteSwap, width, valueCount, destination) ==
+           valueCount;
+}
+
+// A block of such numbers with one boundary inside, which the stream has not come to: the values
+// ahead of it, the one that it cuts if it does, and those behind it.
 bool readAroundBoundary(FileStream& stream, const Plot3DRecordForm_s& form, std::int64_t boundary,
                         std::int64_t width, std::int64_t valueCount, char* destination) {
     const std::int64_t bytesAhead = boundary - stream.tell();
     std::int64_t done = bytesAhead / width;
-    if (!readInNativeOrder(stream, width, done, destination))
+    if (!readSwapped(stream, width, done, destination))
         return false;
     if (bytesAhead % width == 0) {
         if (!stream.skip(bytesBetweenSegments(form)))
             return false;
     } else {
         char* cutValue = destination + done++ * width;
-        if (!readBytesAcrossSegments(stream, form, cutValue, width))
+        if (!readByTheRuleOfBlocks(stream, form, width, 1, cutValue))
             return false;
-        reverseEach(cutValue, width, 1);
     }
-    return readInNativeOrder(stream, width, valueCount - done, destination + done * width);
+    return readSwapped(stream, width, valueCount - done, destination + done * width);
 }
 
 bool passOver(FileStream& stream, const Plot3DRecordForm_s& form, std::int64_t byteCount) {
@@ -153,19 +163,17 @@ bool readBytesAcrossSegments(FileStream& stream, const Plot3DRecordForm_s& form,
 bool readNumbersAcrossSegments(FileStream& stream, const Plot3DRecordForm_s& form,
                                std::int64_t width, std::int64_t valueCount, void* destination) {
     const std::int64_t byteCount = blockBytes(width, valueCount);
-    if (form.byteSwap && byteCount >= 0) {
+    if (byteCount < 0)
+        return false;
+    if (form.byteSwap) {
         char* target = static_cast<char*>(destination);
         const Boundaries inside = boundariesOfBlock(stream, form, byteCount);
         if (inside.empty())
-            return readInNativeOrder(stream, width, valueCount, target);
+            return readSwapped(stream, width, valueCount, target);
         if (inside.size() == 1)
             return readAroundBoundary(stream, form, inside.front(), width, valueCount, target);
     }
-    if (!readBytesAcrossSegments(stream, form, destination, byteCount))
-        return false;
-    if (form.byteSwap)
-        reverseEach(destination, width, valueCount);
-    return true;
+    return readByTheRuleOfBlocks(stream, form, width, valueCount, destination);
 }
 
 bool readIntegerBlock(FileStream& stream, const Plot3DRecordForm_s& form, bool store,
