@@ -97,7 +97,7 @@ private:
         return true;
     }
 
-    std::int64_t width() const { return file_.isDoublePrecision ? 8 : 4; }
+    std::int64_t width() const { return realWidth(file_); }
 
     /// Moves on to the variable. The way there is counted in 32 bits, so that a variable which
     /// begins 2 GiB or more behind its grid's first is not found.

@@ -64,6 +64,29 @@ TEST_F(Block, OfIntegersHas4BytesEachEvenInDoublePrecision) {
     EXPECT_EQ(values, std::vector<std::int32_t>({9, 17, -19, 23}));
 }
 
+// One boundary behind the first integer; markers of 8 bytes.
+TEST_F(Block, IsReadByThePartsOfItsForm) {
+    constexpr auto fortran = Plot3DEncoding_FortranUnformatted;
+    constexpr bool byteSwap = true, isDoublePrecision = true;
+    FileBytes bytes(Order::Swapped);
+    openFortran(bytes.integers({17}).raw("MARKERS-markers-").integers({-19}).doubles({1.5}).str());
+    std::vector<std::int32_t> integers(2);
+    double real = 0.0;
+    EXPECT_TRUE(
+        readIntegerBlock(*file->stream, byteSwap, 8, {4}, fortran, store, 2, integers.data()));
+    EXPECT_TRUE(readRealBlock(*file->stream, byteSwap, 8, {4}, fortran, isDoublePrecision, store, 1,
+                              &real));
+    EXPECT_EQ(integers, std::vector<std::int32_t>({17, -19}));
+    EXPECT_EQ(real, 1.5);
+}
+
+TEST_F(Block, IsPassedOverByThePartsOfItsForm) {
+    openFortran(std::string(64, 'x'));
+    EXPECT_TRUE(
+        readRealBlock(*file->stream, false, 8, {4}, file->encoding, true, passOver, 3, nullptr));
+    EXPECT_EQ(file->stream->tell(), 3 * 8 + 2 * 8);
+}
+
 // Long enough for several reads, and no multiple of anything.
 TEST_F(Block, IsTurnedIntoTheMachinesByteOrder) {
     std::vector<float> reals(200003);
@@ -232,6 +255,22 @@ TEST_F(Block, PassedOverThroughTheSetFunctionMustBeThere) {
     openBinary("abcd");
     EXPECT_FALSE(readReals(*file, passOver, 0, 2, gFieldHandle, take));
     EXPECT_EQ(gTaken, Taken());
+}
+
+class BinaryNumber : public testsupport::RecordFixture {};
+
+TEST_F(BinaryNumber, ThatTheFilesEndCutsIsZero) {
+    openBinary("abc");
+    std::int32_t integer = 7;
+    EXPECT_FALSE(readInteger(*file, integer));
+    EXPECT_EQ(integer, 0);
+    for (const bool isDoublePrecision : {false, true}) {
+        file->isDoublePrecision = isDoublePrecision;
+        file->stream->seek(0);
+        double real = 7.0;
+        EXPECT_FALSE(readReal(*file, real));
+        EXPECT_EQ(real, 0.0);
+    }
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "dataset/items/AuxDataItem.h"
+#include "plot3dfile/bytes/BinaryNumbers.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/NumberStream.h"
 #include "plot3dfile/timestep/FieldCount.h"
@@ -85,20 +86,11 @@ void storeSolutionTime(Plot3DFile_s& file, std::int32_t zone, double time) {
     file.solutionTime = time;
 }
 
-template <typename Number>
-bool readNumber(FileStream& stream, bool byteSwap, Number& value) {
-    if (!stream.readExactly(&value, sizeof value))
-        return false;
-    if (byteSwap)
-        reverseBytes(&value, sizeof value);
-    return true;
-}
-
 bool readRawReal(FileStream& stream, bool isDoublePrecision, bool byteSwap, double& value) {
     if (isDoublePrecision)
-        return readNumber(stream, byteSwap, value);
+        return readBinaryNumber(stream, byteSwap, value);
     float single = 0.0F;
-    const bool ok = readNumber(stream, byteSwap, single);
+    const bool ok = readBinaryNumber(stream, byteSwap, single);
     value = static_cast<double>(single);
     return ok;
 }
@@ -107,7 +99,7 @@ bool readRawScalar(FileStream& stream, bool isDoublePrecision, bool byteSwap, bo
                    AuxDataText& text) {
     if (isInteger) {
         std::int32_t value = 0;
-        return readNumber(stream, byteSwap, value) && formatInteger(value, text);
+        return readBinaryNumber(stream, byteSwap, value) && formatInteger(value, text);
     }
     double value = 0.0;
     return readRawReal(stream, isDoublePrecision, byteSwap, value) && formatReal(value, text);

@@ -35,7 +35,7 @@ struct Destination {
 };
 
 std::int64_t valueWidth(const Plot3DFile_s& file, bool isIBlank) {
-    return !isIBlank && file.isDoublePrecision ? 8 : 4;
+    return isIBlank ? integerWidth : realWidth(file);
 }
 
 bool failWith(bool report, const char* text) {
@@ -82,16 +82,25 @@ bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t 
     return failWith(report, "Datatype mismatch while attempting to replace a solution var.");
 }
 
-/// A deferred block is not read, but the walk goes on behind it.
-bool passOver(Plot3DFile_s& file, std::int64_t position, std::int64_t byteCount) {
-    const std::int64_t boundaries =
-        countSegmentBoundariesInRange(file.segmentBoundaries, position, byteCount);
-    CheckedSize end(position);
-    end.addProduct({byteCount});
-    end.addProduct({boundaries, 2, file.markerSize});
-    return end.value() && file.stream->seek(*end.value());
+bool readBlock(Plot3DFile_s& file, const VariableItem& item, bool store,
+               const Destination& target) {
+    const std::int64_t planesBefore = item.isWholeField ? 0 : item.plane;
+    std::int64_t firstIndex = 0;
+    if (__builtin_mul_overflow(planesBefore, item.valueCount, &firstIndex))
+        return false;
+    return item.isIBlank
+               ? readIntegers(file, store, firstIndex, item.valueCount, target.dest,
+                              target.setValue)
+               : readReals(file, store, firstIndex, item.valueCount, target.dest, target.setValue);
 }
 
+/// The block of a grid that is not loaded, or of a field that stays in the file. The length of the
+/// former goes by the ends of the index ranges, like that of a loaded one.
+bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
+    return readBlock(file, item, false, Destination()) || failItem(file, item, report);
+}
+
+/// A deferred block is not read, but the walk goes on behind it.
 bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, bool report) {
     const std::int32_t type = QuorUtilDataValueGetType(item.hostZone, item.hostVar);
     if (!checkType(file, item, type, report))
@@ -104,7 +113,7 @@ bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, 
         failWith(report, "Failed to set up the variable.");
         return failItem(file, item, report);
     }
-    return passOver(file, position, *byteCount.value()) || failItem(file, item, report);
+    return readPast(file, item, report);
 }
 
 Destination findDestination(const VariableItem& item) {
@@ -116,18 +125,6 @@ Destination findDestination(const VariableItem& item) {
     if (field == nullptr)
         return Destination();
     return {field, QuorUtilDataValueRefGetSetFunc(field), QuorUtilDataValueGetRefType(field)};
-}
-
-bool readBlock(Plot3DFile_s& file, const VariableItem& item, bool store,
-               const Destination& target) {
-    const std::int64_t planesBefore = item.isWholeField ? 0 : item.plane;
-    std::int64_t firstIndex = 0;
-    if (__builtin_mul_overflow(planesBefore, item.valueCount, &firstIndex))
-        return false;
-    return item.isIBlank
-               ? readIntegers(file, store, firstIndex, item.valueCount, target.dest,
-                              target.setValue)
-               : readReals(file, store, firstIndex, item.valueCount, target.dest, target.setValue);
 }
 
 bool readSubset(Plot3DFile_s& file, const VariableItem& item, const Destination& target) {
@@ -148,12 +145,6 @@ bool readNow(Plot3DFile_s& file, const VariableItem& item, bool report) {
     const bool ok =
         item.ranges.isSubset ? readSubset(file, item, target) : readBlock(file, item, true, target);
     return ok || failItem(file, item, report);
-}
-
-/// The block of a grid that is not loaded. Its length goes by the ends of the index ranges, like
-/// that of a loaded one.
-bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
-    return readBlock(file, item, false, Destination()) || failItem(file, item, report);
 }
 
 } // namespace

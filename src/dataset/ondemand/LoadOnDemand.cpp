@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <new>
+#include <optional>
 
 #include "dataset/ondemand/LongReads.h"
 #include "plot3dfile/file/Plot3DFile.h"
@@ -16,21 +17,14 @@ Plot3DLodRecord_s* recordOf(QuorFieldHandle field) {
     return static_cast<Plot3DLodRecord_s*>(QuorUtilDataValueGetClientData(field));
 }
 
-std::int64_t widthAtHost(std::int32_t type) {
-    switch (type) {
-    case QuorFieldDataType_Float:
-    case QuorFieldDataType_Int32:
-        return 4;
-    case QuorFieldDataType_Double:
-        return 8;
-    default:
-        return 0;
-    }
-}
-
-std::int64_t widthInFile(std::int32_t type, const Plot3DVariable_s& variable) {
-    const bool isInteger = type == QuorFieldDataType_Int32;
-    return !isInteger && variable.isDoublePrecision ? 8 : 4;
+/// Empty if the field's type is not that of the file's numbers: a host whose array has narrower
+/// values would be written past its end.
+std::optional<std::int64_t> widthInFile(std::int32_t type, const Plot3DRecordForm_s& form) {
+    if (type == QuorFieldDataType_Int32)
+        return integerWidth;
+    const std::int32_t realType =
+        form.isDoublePrecision ? QuorFieldDataType_Double : QuorFieldDataType_Float;
+    return type == realType ? std::optional(realWidth(form)) : std::nullopt;
 }
 
 bool isByteCountSane(std::int64_t valueCount, std::int64_t width) {
@@ -47,17 +41,13 @@ bool readField(const Plot3DLodRecord_s& record, QuorFieldHandle field) {
     if (!stream->seek(record.fileOffset))
         return false;
     void* const values = QuorUtilDataValueGetRawPtrByRef(field);
-    const std::int32_t type = QuorUtilDataValueGetRefType(field);
-    const std::int64_t width = widthInFile(type, variable);
-    // A host whose array has narrower values than the file would be written past its end.
-    if (values == nullptr || width != widthAtHost(type) ||
-        !isByteCountSane(record.numValues, width))
+    const std::optional<std::int64_t> width =
+        widthInFile(QuorUtilDataValueGetRefType(field), variable);
+    if (values == nullptr || !width || !isByteCountSane(record.numValues, *width))
         return false;
-    FetchWatch watch(width * record.numValues);
+    FetchWatch watch(*width * record.numValues);
     const WatchedReading watched(*stream, watch);
-    return readNumbersAcrossSegments(*stream, variable.byteSwap, variable.markerSize,
-                                     variable.segmentBoundaries, variable.encoding, width,
-                                     record.numValues, values);
+    return readNumbersAcrossSegments(*stream, variable, *width, record.numValues, values);
 }
 
 } // namespace

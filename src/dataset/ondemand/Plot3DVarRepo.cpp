@@ -9,11 +9,7 @@ Plot3DVarRepo gVarRepo;
 std::shared_ptr<Plot3DVariable_s> describe(const Plot3DFile_s& file) {
     auto variable = std::make_shared<Plot3DVariable_s>();
     variable->fileName = file.fileName.str();
-    variable->encoding = file.encoding;
-    variable->isDoublePrecision = file.isDoublePrecision;
-    variable->byteSwap = file.byteSwap;
-    variable->markerSize = file.markerSize;
-    variable->segmentBoundaries = file.segmentBoundaries;
+    static_cast<Plot3DRecordForm_s&>(*variable) = file;
     return variable;
 }
 

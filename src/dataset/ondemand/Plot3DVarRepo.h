@@ -12,13 +12,8 @@
 namespace quorvia::quorutildataio {
 
 /// Nothing writes it after its creation. Lives until the last field of the file has let go of it.
-struct Plot3DVariable_s {
+struct Plot3DVariable_s : Plot3DRecordForm_s {
     std::string fileName;
-    Plot3DEncoding_e encoding;
-    bool isDoublePrecision;
-    bool byteSwap;
-    std::uint32_t markerSize;                    // bytes of one Fortran record marker
-    std::vector<std::int64_t> segmentBoundaries; // file positions, ascending; see Plot3DFile_s
 };
 
 /// A cache while one file set is set up: one Plot3DVariable_s for each Plot3DFile_s. The key is an

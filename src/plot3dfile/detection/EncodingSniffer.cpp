@@ -27,18 +27,18 @@ bool looksLikeText(FileStream& stream) {
     return true;
 }
 
-struct RecordForm {
+struct MarkerForm_s {
     bool byteSwap;
     std::uint32_t markerSize;
 };
 
 // More than one form can tile the same bytes; the first one wins.
-constexpr RecordForm recordForms[] = {{false, 4}, {true, 4}, {false, 8}, {true, 8}};
+constexpr MarkerForm_s markerForms[] = {{false, 4}, {true, 4}, {false, 8}, {true, 8}};
 
 /// Ends at the first form that tiles the file, and at a walk that did not come to its end.
-RecordWalk_e findRecordForm(Plot3DFile_s& file) {
+RecordWalk_e findMarkerForm(Plot3DFile_s& file) {
     file.encoding = Plot3DEncoding_FortranUnformatted;
-    for (const RecordForm& form : recordForms) {
+    for (const MarkerForm_s& form : markerForms) {
         file.byteSwap = form.byteSwap;
         file.markerSize = form.markerSize;
         const RecordWalk_e walk = walkFortranRecords(file);
@@ -63,7 +63,7 @@ void sniffEncoding(Plot3DFile_s& file) {
     if (looksLikeText(*file.stream)) {
         file.encoding = Plot3DEncoding_Ascii;
     } else {
-        const RecordWalk_e walk = findRecordForm(file);
+        const RecordWalk_e walk = findMarkerForm(file);
         isInterrupted = walk == RecordWalk_e::Interrupted;
         if (walk == RecordWalk_e::DoesNotTile)
             settleForPlainBinary(file);

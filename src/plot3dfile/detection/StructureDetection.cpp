@@ -48,9 +48,11 @@ bool searchOnceMore(Plot3DFile_s& file) {
     case Plot3DEncoding_FortranUnformatted:
         file.relaxedChecks = true;
         return searchStructure(file);
-    default:
-        return false;
+    case Plot3DEncoding_Ascii:
+    case Plot3DEncoding_Unknown:
+        break;
     }
+    return false;
 }
 
 bool searchInBothWays(Plot3DFile_s& file) {

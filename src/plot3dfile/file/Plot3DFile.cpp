@@ -26,24 +26,7 @@ std::vector<Plot3DGridDims_s> gridsInUse(const Plot3DFile_s& file) {
 }
 
 void copyStructure(const Plot3DFile_s& source, Plot3DFile_s& copy) {
-    copy.byteSwap = source.byteSwap;
-    copy.encoding = source.encoding;
-    copy.dataStructure = source.dataStructure;
-    copy.isSolutionOrFunction = source.isSolutionOrFunction;
-    copy.style = source.style;
-    copy.hasIBlank = source.hasIBlank;
-    copy.isDoublePrecision = source.isDoublePrecision;
-    copy.isMultiGrid = source.isMultiGrid;
-    copy.numGrids = source.numGrids;
-    copy.numVars = source.numVars;
-    copy.numScalars = source.numScalars;
-    copy.numSpecies = source.numSpecies;
-    copy.fileSize = source.fileSize;
-    copy.markerSize = source.markerSize;
-    copy.relaxedChecks = source.relaxedChecks;
-    copy.inSegmentedRecord = source.inSegmentedRecord;
-    copy.segmentBoundaries = source.segmentBoundaries;
-    copy.solutionsShareStructure = source.solutionsShareStructure;
+    static_cast<Plot3DFileStructure_s&>(copy) = source;
     copy.gridDims = gridsInUse(source);
 }
 

@@ -9,16 +9,10 @@
 
 #include "instructions/Plot3DStructure.h"
 #include "plot3dfile/bytes/FileStream.h"
+#include "plot3dfile/file/Plot3DRecordForm.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
-
-enum Plot3DEncoding_e : std::int32_t {
-    Plot3DEncoding_Binary = 0,             // numbers back to back
-    Plot3DEncoding_FortranUnformatted = 1, // records between length markers
-    Plot3DEncoding_Ascii = 2,              // text tokens
-    Plot3DEncoding_Unknown = 255
-};
 
 /// Numbers of points of a grid; in an unstructured grid nodes, triangles and tetrahedra.
 struct Plot3DGridDims_s {
@@ -29,39 +23,40 @@ struct Plot3DGridDims_s {
     bool operator==(const Plot3DGridDims_s&) const = default;
 };
 
-struct Plot3DFile_s {
-    std::unique_ptr<FileStream> stream; // null while the file is closed
-    HostString fileName;                // UTF-8 path
-    bool byteSwap = false;              // numbers are in the opposite order to the machine's
-    Plot3DEncoding_e encoding = Plot3DEncoding_Unknown;
+/// What is found out of a file, from its bytes or from the options, and holds for another file of
+/// the same structure. A copy of a record takes it over whole, so that a new field of the structure
+/// belongs here.
+struct Plot3DFileStructure_s : Plot3DRecordForm_s {
     Plot3DDataStructure_e dataStructure = Plot3DDataStructure_Unknown;
     bool isSolutionOrFunction = false; // false for a grid file
     Plot3DStyle_e style = Plot3DStyle_Unknown;
-    bool hasIBlank = false;         // each grid carries an I-blank block
-    bool isDoublePrecision = false; // reals are 64 bits wide, otherwise 32
-    bool isMultiGrid = false;       // the file begins with a count of grids
+    bool hasIBlank = false;   // each grid carries an I-blank block
+    bool isMultiGrid = false; // the file begins with a count of grids
     std::int32_t numGrids = 0;
-    std::int32_t numVars = 0;               // real variables of a grid, I-blank not counted
-    std::int32_t numScalars = 0;            // scalars ahead of each grid's variables
-    std::int32_t numSpecies = 0;            // Overflow only: the header's second count
+    std::int32_t numVars = 0;    // real variables of a grid, I-blank not counted
+    std::int32_t numScalars = 0; // scalars ahead of each grid's variables
+    std::int32_t numSpecies = 0; // Overflow only: the header's second count
+    std::int64_t fileSize = 0;   // bytes, measured when the record is created; 0 until then
+    bool solutionsShareStructure = false; // the option as it stood when the file was detected
+    bool relaxedChecks = false;           // records and files may be longer than expected
+    bool inSegmentedRecord = false;       // inside a record that is stored as several segments
+};
+
+/// What stands here itself is the file's own: a copy takes over none of it but `gridDims`, as far
+/// as they are in use.
+struct Plot3DFile_s : Plot3DFileStructure_s {
+    std::unique_ptr<FileStream> stream;     // null while the file is closed
+    HostString fileName;                    // UTF-8 path
     std::vector<Plot3DGridDims_s> gridDims; // by grid index from 0; may be longer than numGrids
     double solutionTime = 0.0;
     std::int32_t repeatCount = 0; // text only: how many more times repeatValue is delivered
     double repeatValue = 0.0;
-    std::int64_t fileSize = 0; // bytes, measured when the record is created; 0 until then
     // File positions, in bytes from the file's start, noted while the file is scanned:
     HostArray<std::int64_t> iBlankOffsets;  // by grid
     HostArray<std::int64_t> varOffsets;     // by grid times numVars plus variable
     HostArray<std::int64_t> auxDataOffsets; // by running number of the selected grid
-    bool solutionsShareStructure = false;   // the option as it stood when the file was detected
-    std::uint32_t markerSize = 4;           // bytes of a Fortran record marker, 4 or 8
     std::int64_t recordLength = -1;         // payload bytes of the current Fortran record
     std::int64_t nextRecordStart = 0;       // position of the next record's first marker
-    bool relaxedChecks = false;             // records and files may be longer than expected
-    bool inSegmentedRecord = false;         // inside a record that is stored as several segments
-    // Positions, ascending, of each payload end inside a segmented record: a trailing marker and
-    // the next leading marker stand there.
-    std::vector<std::int64_t> segmentBoundaries;
     std::int32_t lookahead = 32; // text only: character read, not consumed; -1 at end of file
 };
 

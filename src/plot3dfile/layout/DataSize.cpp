@@ -14,7 +14,6 @@ namespace quorvia::quorutildataio {
 namespace {
 
 constexpr double sizeLimit = 2147483646.0; // points, or elements, of one grid in plain binary
-constexpr std::int64_t integerBytes = 4;
 constexpr std::int64_t elementBytes = 16;
 
 // What stands once in a plain binary file that tells its species, beside its grids and scalars.
@@ -24,12 +23,8 @@ bool isUnstructured(const Plot3DFile_s& file) {
     return file.dataStructure == Plot3DDataStructure_Unstructured;
 }
 
-std::int64_t realBytes(const Plot3DFile_s& file) {
-    return file.isDoublePrecision ? 8 : 4;
-}
-
 std::int64_t scalarBytes(const Plot3DFile_s& file) {
-    return hasScalars(file) ? realBytes(file) * file.numScalars : 0;
+    return hasScalars(file) ? realWidth(file) * file.numScalars : 0;
 }
 
 bool fitsText(Plot3DFile_s& file) {
@@ -57,14 +52,14 @@ bool addGrid(const Plot3DFile_s& file, const Plot3DGridDims_s& dims, CheckedSize
     if (isUnstructured(file)) {
         if (!isUnstructuredGridSane(dims))
             return false;
-        total.addProduct({file.numVars, realBytes(file), dims.i});
+        total.addProduct({file.numVars, realWidth(file), dims.i});
         total.addProduct({connectivityBytes(file, dims)});
     } else {
         if (!isStructuredGridSane(dims))
             return false;
-        total.addProduct({file.numVars, realBytes(file), dims.i, dims.j, dims.k});
+        total.addProduct({file.numVars, realWidth(file), dims.i, dims.j, dims.k});
         if (file.hasIBlank)
-            total.addProduct({integerBytes, dims.i, dims.j, dims.k});
+            total.addProduct({integerWidth, dims.i, dims.j, dims.k});
     }
     total.addProduct({scalarBytes(file)});
     return true;
@@ -79,7 +74,7 @@ bool fitsBinary(const Plot3DFile_s& file) {
         if (!addGrid(file, file.gridDims[static_cast<std::size_t>(grid)], total))
             return false;
     if (styleRulesOf(file).variableCount == VariableCount_e::OfFile)
-        total.addProduct({realsPerFileWithSpecies, realBytes(file)});
+        total.addProduct({realsPerFileWithSpecies, realWidth(file)});
     const std::optional<std::int64_t> expected = total.value();
     const std::int64_t present = file.fileSize - file.stream->tell();
     if (!expected)
@@ -90,7 +85,7 @@ bool fitsBinary(const Plot3DFile_s& file) {
 bool fitsScalarRecord(const Plot3DFile_s& file) {
     if (styleRulesOf(file).hasSpecies) {
         // One of the scalars is an integer, which takes 4 bytes in double precision too.
-        const std::int64_t integerSaving = file.isDoublePrecision ? integerBytes : 0;
+        const std::int64_t integerSaving = realWidth(file) - integerWidth;
         return file.recordLength >= scalarBytes(file) - integerSaving;
     }
     return file.relaxedChecks ? file.recordLength >= scalarBytes(file)
@@ -114,9 +109,9 @@ std::optional<std::int64_t> bytesOfRecord(const Plot3DFile_s& file, const Plot3D
     if (!points)
         return std::nullopt;
     CheckedSize bytes(connectivityBytes(file, dims));
-    bytes.addProduct({realBytes(file), file.numVars, *points});
+    bytes.addProduct({realWidth(file), file.numVars, *points});
     if (file.hasIBlank)
-        bytes.addProduct({integerBytes, *points});
+        bytes.addProduct({integerWidth, *points});
     return bytes.value();
 }
 

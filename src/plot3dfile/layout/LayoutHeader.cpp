@@ -13,7 +13,6 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-constexpr std::int64_t integerBytes = 4;
 constexpr double leastBytesPerGrid = 16.0;
 constexpr double pointsPast64Bits = 9223372036854775808.0;
 
@@ -113,13 +112,12 @@ bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* val
         return atRecordEnd(file);
     }
     if (file.encoding == Plot3DEncoding_FortranUnformatted) {
-        const std::int64_t expected = integerBytes * count;
+        const std::int64_t expected = integerWidth * count;
         if (file.relaxedChecks ? file.recordLength < expected : file.recordLength != expected)
             return false;
     }
-    return readIntegerBlock(*file.stream, file.byteSwap, file.markerSize, file.segmentBoundaries,
-                            file.encoding, true, count, values) &&
-           atRecordEnd(file);
+    constexpr bool store = true;
+    return readIntegerBlock(*file.stream, file, store, count, values) && atRecordEnd(file);
 }
 
 bool readScalarCount(Plot3DFile_s& file) {

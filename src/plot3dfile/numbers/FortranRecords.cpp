@@ -6,7 +6,7 @@
 #include <limits>
 #include <string>
 
-#include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/bytes/BinaryNumbers.h"
 #include "quorvia/QuorUtil.h"
 
 namespace quorvia::quorutildataio {
@@ -29,10 +29,8 @@ std::int64_t widthOf(const Plot3DFile_s& file) {
 template <typename Marker>
 bool readMarkerOf(Plot3DFile_s& file, std::int64_t& marker) {
     Marker stored = 0;
-    if (!file.stream->readExactly(&stored, sizeof(stored)))
+    if (!readBinaryNumber(*file.stream, file.byteSwap, stored))
         return false;
-    if (file.byteSwap)
-        reverseBytes(&stored, sizeof(stored));
     marker = stored;
     return true;
 }
@@ -219,9 +217,11 @@ bool atRecordEnd(Plot3DFile_s& file) {
         return file.relaxedChecks || file.stream->tell() == file.nextRecordStart - widthOf(file);
     case Plot3DEncoding_Ascii:
         return isLineUsedUp(file);
-    default:
-        return true;
+    case Plot3DEncoding_Binary:
+    case Plot3DEncoding_Unknown:
+        break;
     }
+    return true;
 }
 
 bool atFileEnd(Plot3DFile_s& file, bool report) {

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "plot3dfile/bytes/ByteOrder.h"
-#include "plot3dfile/numbers/FortranRecords.h"
+#include "plot3dfile/numbers/BinaryRuns.h"
 #include "plot3dfile/numbers/RealToken.h"
 
 namespace quorvia::quorutildataio {
@@ -14,25 +13,11 @@ namespace {
 // ---- Binary and Fortran
 
 template <typename Number>
-bool readBinaryNumber(Plot3DFile_s& file, Number& value) {
-    constexpr std::int64_t width = sizeof(Number);
+bool readBinary(Plot3DFile_s& file, Number& value) {
+    if (readBinaryRun(file, 1, &value) == 1)
+        return true;
     value = 0;
-    Number stored = 0;
-    if (readAcrossSegments(file, &stored, width) != width)
-        return false;
-    if (file.byteSwap)
-        reverseBytes(&stored, sizeof(stored));
-    value = stored;
-    return true;
-}
-
-bool readBinaryReal(Plot3DFile_s& file, double& value) {
-    if (file.isDoublePrecision)
-        return readBinaryNumber(file, value);
-    float narrow = 0.0F;
-    const bool isRead = readBinaryNumber(file, narrow);
-    value = narrow;
-    return isRead;
+    return false;
 }
 
 // ---- Text
@@ -163,7 +148,7 @@ const char* convertWholeReal(const char* token, const char* windowEnd, double& v
 
 bool readInteger(Plot3DFile_s& file, std::int32_t& value) {
     if (file.encoding != Plot3DEncoding_Ascii)
-        return readBinaryNumber(file, value);
+        return readBinary(file, value);
     if (file.repeatCount < 1)
         return readRepeatable(file, value, readIntegerToken);
     --file.repeatCount;
@@ -173,7 +158,7 @@ bool readInteger(Plot3DFile_s& file, std::int32_t& value) {
 
 bool readReal(Plot3DFile_s& file, double& value) {
     if (file.encoding != Plot3DEncoding_Ascii)
-        return readBinaryReal(file, value);
+        return readBinary(file, value);
     if (file.repeatCount < 1)
         return readRepeatable(file, value, readRealToken);
     --file.repeatCount;

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 
-#include "plot3dfile/bytes/ByteOrder.h"
 #include "plot3dfile/file/Plot3DFile.h"
 
 namespace quorvia::quorutildataio {

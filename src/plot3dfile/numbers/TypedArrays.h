@@ -23,20 +23,26 @@ std::int64_t countSegmentBoundariesInRange(const std::vector<std::int64_t>& segm
 /// of a Fortran file. Every stretch is measured from the block's start, also behind a second
 /// boundary; one that would run past the destination by that rule fails. False: that, a short read,
 /// a failed seek or a negative count; the destination is partly written.
-bool readBytesAcrossSegments(FileStream& stream, std::uint32_t markerSize,
-                             const std::vector<std::int64_t>& segmentBoundaries,
-                             Plot3DEncoding_e encoding, void* destination, std::int64_t byteCount);
+bool readBytesAcrossSegments(FileStream& stream, const Plot3DRecordForm_s& form, void* destination,
+                             std::int64_t byteCount);
 
 /// The same for a block of numbers of `width` bytes each, delivered in the machine's byte order. In
 /// that order the block is one read; in the other it comes in pieces of 256 KiB, so that the bytes
 /// are reversed while they are still in the cache.
-bool readNumbersAcrossSegments(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
-                               const std::vector<std::int64_t>& segmentBoundaries,
-                               Plot3DEncoding_e encoding, std::int64_t width,
-                               std::int64_t valueCount, void* destination);
+bool readNumbersAcrossSegments(FileStream& stream, const Plot3DRecordForm_s& form,
+                               std::int64_t width, std::int64_t valueCount, void* destination);
 
 /// Reads (`store`) or passes over `count` values of a binary or Fortran file into `destination`, an
-/// array of 32-bit integers, or of reals of the given precision.
+/// array of 32-bit integers, or of reals of the form's precision.
+bool readIntegerBlock(FileStream& stream, const Plot3DRecordForm_s& form, bool store,
+                      std::int64_t count, void* destination);
+bool readRealBlock(FileStream& stream, const Plot3DRecordForm_s& form, bool store,
+                   std::int64_t count, void* destination);
+
+/// The same for who has no form; each call copies the boundaries into one.
+bool readBytesAcrossSegments(FileStream& stream, std::uint32_t markerSize,
+                             const std::vector<std::int64_t>& segmentBoundaries,
+                             Plot3DEncoding_e encoding, void* destination, std::int64_t byteCount);
 bool readIntegerBlock(FileStream& stream, bool byteSwap, std::uint32_t markerSize,
                       const std::vector<std::int64_t>& segmentBoundaries, Plot3DEncoding_e encoding,
                       bool store, std::int64_t count, void* destination);

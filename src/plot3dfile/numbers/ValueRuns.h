@@ -5,11 +5,9 @@
 #include <cstdint>
 
 #include "plot3dfile/file/Plot3DFile.h"
+#include "plot3dfile/numbers/BinaryRuns.h"
 
 namespace quorvia::quorutildataio {
-
-/// The most values of one run.
-constexpr std::int64_t longestRun = 1024;
 
 /// Fill `values` with the next `count` (at most longestRun) numbers. Give how many came before the
 /// first that can't be read; the stream stands where it stopped.

@@ -33,7 +33,7 @@ void addValuesOfGrid(const Plot3DFile_s& file, const Plot3DGridDims_s& dims, Che
 std::int64_t fieldCountLimit(const Plot3DFile_s& file) {
     if (file.encoding == Plot3DEncoding_Ascii)
         return std::max<std::int64_t>(file.fileSize, 1000);
-    return file.fileSize / (file.isDoublePrecision ? 8 : 4);
+    return file.fileSize / realWidth(file);
 }
 
 bool isFieldCountPlausible(const Plot3DFile_s& file) {
