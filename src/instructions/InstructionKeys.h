@@ -1,9 +1,12 @@
-// The keys of load instructions and how each reads its values. docs/instructions.md tells the same
-// table to users.
+// How each key of load instructions reads its values. Which key stands for which option is told by
+// OptionKeys; the entries that only older lists hold stand here.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <iterator>
 
+#include "instructions/OptionKeys.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "quorvia/HostHandles.h"
 
@@ -16,10 +19,7 @@ struct InstructionParse_s {
     HostString current = {};
     std::int64_t index = 0; // of `current`, from 1
     bool standardSyntax = false;
-    bool styleSeen = false;
-    bool dataStructureSeen = false;
-    bool multiGridSeen = false;
-    bool kRangeSeen = false;
+    std::array<bool, std::size(optionKeys)> keysSeen = {}; // also by their older names
 };
 
 struct InstructionKey_s {
