@@ -5,6 +5,7 @@
 
 #include "instructions/InstructionKeys.h"
 #include "instructions/InstructionStrings.h"
+#include "instructions/OptionsValidation.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
@@ -104,19 +105,6 @@ bool parseLoadInstructions(QuorStringListHandle instructions, Plot3DLoadOptions_
         return false;
     }
     return validateLoadOptions(options);
-}
-
-bool validateLoadOptions(const Plot3DLoadOptions_s& options) {
-    if (options.append && !QuorUtilDataSetIsAvailable()) {
-        QuorUtilDialogErrMsg("Cannot append without an existing data set.");
-        return false;
-    }
-    if (options.gridFiles.empty() && options.solutionFiles.empty() &&
-        options.functionFiles.empty()) {
-        QuorUtilDialogErrMsg("Must have at least one grid, solution or function file.");
-        return false;
-    }
-    return true;
 }
 
 } // namespace quorvia::quorutildataio

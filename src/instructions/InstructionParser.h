@@ -12,7 +12,4 @@ namespace quorvia::quorutildataio {
 /// of keys names; the record holds what had been read, and the caller releases it.
 bool parseLoadInstructions(QuorStringListHandle instructions, Plot3DLoadOptions_s& options);
 
-/// The last step of the parse: files to load, and a data set to append to. Shows what is wrong.
-bool validateLoadOptions(const Plot3DLoadOptions_s& options);
-
 } // namespace quorvia::quorutildataio
