@@ -54,7 +54,8 @@ void loadAtOnce(const SelectedFiles_s& files, bool append) {
         QuorUtilDialogErrMsg("Out of Memory!!!");
         return;
     }
-    loadFromInstructions(instructions.get(), fromSelection);
+    // The host asks for no result, and what went wrong has been told.
+    static_cast<void>(loadFromInstructions(instructions.get(), fromSelection));
 }
 
 void showLoadDialog(SelectedFiles_s&& files) {

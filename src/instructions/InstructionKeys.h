@@ -24,18 +24,18 @@ struct InstructionParse_s {
 
 struct InstructionKey_s {
     const char* word;
-    /// Takes the values behind the key. False ends the parse; what was wrong has been shown, unless
-    /// it is one of the silent refusals.
+    /// Takes the values behind the key. False ends the parse. False (told): a value is missing or
+    /// wrong. False (not told): one of the silent refusals.
     bool (*read)(InstructionParse_s& parse);
 };
 
-/// Fetches the value that is due. False: the list has ended (told).
-bool fetchInstructionValue(InstructionParse_s& parse);
+/// Fetches the value that is due. False (told): the list has ended.
+[[nodiscard]] bool fetchInstructionValue(InstructionParse_s& parse);
 
-/// The same for a name; an empty one is refused without a message.
-bool fetchInstructionName(InstructionParse_s& parse);
+/// The same for a name. False (told): the list has ended. False (not told): the name is empty.
+[[nodiscard]] bool fetchInstructionName(InstructionParse_s& parse);
 
-/// Finds a key, whatever its case. Null: `word` (which may be null) is no key.
-const InstructionKey_s* findInstructionKey(const char* word);
+/// Finds a key, whatever its case. Null (not told): `word` (which may be null) is no key.
+[[nodiscard]] const InstructionKey_s* findInstructionKey(const char* word);
 
 } // namespace quorvia::quorutildataio

@@ -43,7 +43,7 @@ struct OptionKey_s {
     AnyOptionMember member;
     WrittenWhen_e writtenWhen = WrittenWhen_e::Always;
     /// A second flag that reading sets: for files and names that the key was met, also if it is
-    /// then refused; for a flag the same value. Null: none.
+    /// then refused; for a flag the same value. It may be null.
     OptionMember<bool> readAlso = nullptr;
     const char* rangeLabel = nullptr; // of a range, in messages
 };
