@@ -13,7 +13,7 @@ namespace quorvia::quorutildataio {
 
 /// Sets the names in `names` (host string list, by index from 1) and gives the last index set.
 /// `numFunctionVars` is the variable count of the first function file of the first file set. Throws
-/// std::bad_alloc if the host could not take a name.
+/// std::bad_alloc if the host could not take a name, or does not tell those that are taken.
 std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
                                 std::int32_t numSolutionVars, std::int32_t numFunctionVars,
                                 const Plot3DLoadOptions_s& options,
