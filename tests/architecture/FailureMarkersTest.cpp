@@ -18,8 +18,18 @@ namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
 /// The rooms of src/ that are held to it, with all that lies in them.
-const char* const heldRooms[] = {"addon",        "boundary", "dialog", "filenames",
-                                 "instructions", "loader",   "state"};
+const char* const heldRooms[] = {
+    "addon",
+    "boundary",
+    "dialog",
+    "filenames",
+    "instructions",
+    "loader",
+    "state",
+    "plot3dfile/layout",
+    "plot3dfile/detection",
+    "plot3dfile/timestep",
+};
 
 struct Function_s {
     std::string name;
