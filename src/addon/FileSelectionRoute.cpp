@@ -4,6 +4,7 @@
 #include "boundary/BoundaryFileLocation.h"
 #include "dialog/LoadDialog.h"
 #include "filenames/FileNameClassification.h"
+#include "instructions/OptionKeys.h"
 #include "quorvia/QuorGUI.h"
 #include "state/AddOnIdentity.h"
 #include "state/DialogState.h"
@@ -53,7 +54,8 @@ void loadAtOnce(const SelectedFiles_s& files, bool append) {
         QuorUtilDialogErrMsg("Out of Memory!!!");
         return;
     }
-    loadFromInstructions(instructions.get(), fromSelection);
+    // The host asks for no result, and what went wrong has been told.
+    static_cast<void>(loadFromInstructions(instructions.get(), fromSelection));
 }
 
 void showLoadDialog(SelectedFiles_s&& files) {
@@ -73,19 +75,20 @@ void showLoadDialog(SelectedFiles_s&& files) {
 } // namespace
 
 HostStringList composeInstructions(const SelectedFiles_s& files, bool append) {
+    using Options = Plot3DLoadOptions_s;
     InstructionComposer instructions;
-    instructions.append("STANDARDSYNTAX", "1.0");
-    instructions.appendFiles("FILELIST_GRIDFILES", files.gridFiles);
-    instructions.appendFiles("FILELIST_SOLUTIONFILES", files.solutionFiles);
-    instructions.appendFiles("FILELIST_FUNCTIONFILES", files.functionFiles);
+    instructions.append(standardSyntaxWord, standardSyntaxVersion);
+    instructions.appendFiles(optionKeyWord(&Options::gridFiles), files.gridFiles);
+    instructions.appendFiles(optionKeyWord(&Options::solutionFiles), files.solutionFiles);
+    instructions.appendFiles(optionKeyWord(&Options::functionFiles), files.functionFiles);
     if (!files.nameFile.empty())
-        instructions.append("FILENAME_NAMEFILE", files.nameFile);
+        instructions.append(optionKeyWord(&Options::nameFile), files.nameFile);
     if (hasBoundaryFile(files.gridFiles))
-        instructions.append("LOADBOUNDARY", "Yes");
+        instructions.append(optionKeyWord(&Options::loadBoundary), trueWord);
     if (append)
-        instructions.append("APPEND", "Yes");
-    instructions.append("SOLUTIONSSHARESTRUCTURE", "Yes");
-    instructions.append("ASSIGNSTRANDIDS", "Yes");
+        instructions.append(optionKeyWord(&Options::append), trueWord);
+    instructions.append(optionKeyWord(&Options::solutionsShareStructure), trueWord);
+    instructions.append(optionKeyWord(&Options::assignStrandIdsRequested), trueWord);
     return std::move(instructions).finish();
 }
 

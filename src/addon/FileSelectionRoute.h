@@ -17,7 +17,7 @@ struct SelectedFiles_s {
 };
 
 /// The instructions that load the selection at once, with its boundary file if there is one beside
-/// the first grid file. Null: the host had no memory for them; nothing was shown.
-HostStringList composeInstructions(const SelectedFiles_s& files, bool append);
+/// the first grid file. Null (not told): the host had no memory for them.
+[[nodiscard]] HostStringList composeInstructions(const SelectedFiles_s& files, bool append);
 
 } // namespace quorvia::quorutildataio

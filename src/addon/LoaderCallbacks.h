@@ -9,8 +9,8 @@
 namespace quorvia::quorutildataio {
 
 /// A finished list of instructions (borrowed), from a macro or a layout. Nothing is asked of the
-/// user.
-bool loaderCallback(QuorStringListHandle instructions);
+/// user. False (told): the parse or the load failed, as for loadFromInstructions.
+[[nodiscard]] bool loaderCallback(QuorStringListHandle instructions);
 
 /// The files (borrowed) of the host's import file selection: composes instructions and loads at
 /// once, or, with `advancedOptions`, shows the load dialog, which has its own control for `append`.
@@ -19,7 +19,8 @@ void loaderSelectedCallback(QuorStringListHandle files, bool advancedOptions, bo
 /// Reacts to the host's code 15 and to no other: drops the dialog's files.
 void stateChangeCallback(std::int32_t code);
 
-/// Parses the instructions into a record of its own and loads. True if the load succeeded.
-bool loadFromInstructions(QuorStringListHandle instructions, bool fromSelection);
+/// Parses the instructions into a record of its own and loads. False (told): the parse or the load
+/// failed. False (not told): a silent refusal of parseLoadInstructions, or an interruption.
+[[nodiscard]] bool loadFromInstructions(QuorStringListHandle instructions, bool fromSelection);
 
 } // namespace quorvia::quorutildataio

@@ -16,8 +16,8 @@ namespace quorvia::quorutildataio {
 /// their fetches apart.
 using Plot3DSharedFile = std::shared_ptr<Plot3DFile_s>;
 
-/// Null: no memory.
-Plot3DSharedFile copyForFields(const Plot3DFile_s& file);
+/// Null (not told): no memory.
+[[nodiscard]] Plot3DSharedFile copyForFields(const Plot3DFile_s& file);
 
 /// What the host keeps for one variable of one boundary zone, in a block of its own memory. Nothing
 /// of the load has to live on for it.
@@ -44,16 +44,18 @@ Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int
 
 /// Has the host fetch the variables from `firstVar` to `lastVar` of a zone from `file` on demand,
 /// by `shared`, its copy. `file` must have been scanned, since its `varOffsets` tell where the
-/// grids are. False: they don't, there is no copy, or the host refuses a variable; those ahead of
-/// it stay set up.
-bool setUpBoundaryVars(const Plot3DFile_s& file, const Plot3DSharedFile& shared, std::int32_t skipI,
-                       std::int32_t skipJ, std::int32_t skipK, const Plot3DBoundary_s& boundary,
-                       std::int32_t zone, std::int32_t lastVar, std::int32_t firstVar);
+/// grids are. False (not told): they don't, there is no copy, or the host refuses a variable; those
+/// ahead of it stay set up.
+[[nodiscard]] bool setUpBoundaryVars(const Plot3DFile_s& file, const Plot3DSharedFile& shared,
+                                     std::int32_t skipI, std::int32_t skipJ, std::int32_t skipK,
+                                     const Plot3DBoundary_s& boundary, std::int32_t zone,
+                                     std::int32_t lastVar, std::int32_t firstVar);
 
 /// The callbacks of a boundary zone's fields. A failed fetch, also an interrupted one, leaves the
-/// file closed and holds nothing; it may be tried again. Only a file that does not open is told.
-bool loadBoundaryVar(QuorFieldHandle field);
-bool unloadBoundaryVar(QuorFieldHandle field);
+/// file closed and holds nothing; it may be tried again. False (told): the file does not open.
+/// False (not told): any other failure.
+[[nodiscard]] bool loadBoundaryVar(QuorFieldHandle field);
+[[nodiscard]] bool unloadBoundaryVar(QuorFieldHandle field);
 void cleanUpBoundaryVar(QuorFieldHandle field);
 
 } // namespace quorvia::quorutildataio

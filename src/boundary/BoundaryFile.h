@@ -36,19 +36,20 @@ struct Plot3DBoundary_s {
 /// In the order of the file; null for none.
 using Plot3DBoundaryList = std::unique_ptr<Plot3DBoundary_s>;
 
-/// The boundary alone, without what follows it; null if there is no memory.
-Plot3DBoundaryList copyBoundary(const Plot3DBoundary_s& boundary);
+/// The boundary alone, without what follows it. Null (not told): no memory.
+[[nodiscard]] Plot3DBoundaryList copyBoundary(const Plot3DBoundary_s& boundary);
 
 /// Reads the options' `boundaryFile` for the grids of `gridFile`. `head` and `names` get what was
 /// read, `count` is raised by the number of records. A file that does not open has no boundaries.
-/// False: the file is not as it should be, which has been told with the line; what was read before,
+/// False (told): the file is not as it should be; the message has the line. What was read before,
 /// that line's record included, is in the list.
-bool readBoundaryFile(const Plot3DLoadOptions_s& options, const Plot3DFile_s& gridFile,
-                      Plot3DBoundaryList& head, HostStringList& names, std::int64_t& count);
+[[nodiscard]] bool readBoundaryFile(const Plot3DLoadOptions_s& options,
+                                    const Plot3DFile_s& gridFile, Plot3DBoundaryList& head,
+                                    HostStringList& names, std::int64_t& count);
 
-/// Reads one boundary line into `boundary`. False: a token is missing or bad, or a range is not in
-/// the grid; the other fields are filled all the same. `nameIndex` may be any number.
-bool parseBoundaryLine(const std::string& line, const Plot3DFile_s& gridFile,
-                       Plot3DBoundary_s& boundary);
+/// Reads one boundary line into `boundary`. False (not told): a token is missing or bad, or a range
+/// is not in the grid; the other fields are filled all the same. `nameIndex` may be any number.
+[[nodiscard]] bool parseBoundaryLine(const std::string& line, const Plot3DFile_s& gridFile,
+                                     Plot3DBoundary_s& boundary);
 
 } // namespace quorvia::quorutildataio

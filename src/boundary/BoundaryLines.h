@@ -10,16 +10,17 @@
 
 namespace quorvia::quorutildataio {
 
-/// Reads the next line, its line end included, or the next 255 characters of a longer one. False:
-/// end of file or a read error; `line` is as it was. What stands behind a zero byte is dropped.
-bool readBoundaryTextLine(FileStream& stream, std::string& line);
+/// Reads the next line, its line end included, or the next 255 characters of a longer one. False
+/// (not told): end of file or a read error; `line` is as it was. What stands behind a zero byte is
+/// dropped.
+[[nodiscard]] bool readBoundaryTextLine(FileStream& stream, std::string& line);
 
 /// Takes the next token off the front of `rest`; empty if there is none. Blanks, tabs, carriage
 /// returns and line feeds stand between tokens.
 std::string takeToken(std::string_view& rest);
 
-/// The decimal integer at the start of a token, whatever follows it. Empty: the token starts with
-/// none, or it passes 32 bits.
-std::optional<std::int32_t> leadingInteger(std::string_view token);
+/// The decimal integer at the start of a token, whatever follows it. Empty (not told): the token
+/// starts with none, or it passes 32 bits.
+[[nodiscard]] std::optional<std::int32_t> leadingInteger(std::string_view token);
 
 } // namespace quorvia::quorutildataio

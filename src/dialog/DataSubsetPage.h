@@ -5,8 +5,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Makes the page with its controls, once. False: the host could not make all of it.
-bool buildDataSubsetPage();
+/// Makes the page with its controls, once. False (not told): the host could not make all of it.
+[[nodiscard]] bool buildDataSubsetPage();
 
 /// Shows the options. The K range is shown for data of any dimension.
 void refreshDataSubsetPage(const Plot3DLoadOptions_s& options);

@@ -6,6 +6,7 @@
 #include "dialog/FileSelectionRefresh.h"
 #include "dialog/LoadDialog.h"
 #include "dialog/WithinMemory.h"
+#include "instructions/OptionsValidation.h"
 #include "loader/LoadDriver.h"
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorGUI.h"
@@ -36,20 +37,6 @@ bool settleOptions() {
     return true;
 }
 
-/// False: the user was told what is missing.
-bool areOptionsComplete() {
-    if (gLoadOptions.append && !QuorUtilDataSetIsAvailable()) {
-        QuorUtilDialogErrMsg("Cannot append without an existing data set.");
-        return false;
-    }
-    if (gLoadOptions.gridFiles.empty() && gLoadOptions.solutionFiles.empty() &&
-        gLoadOptions.functionFiles.empty()) {
-        QuorUtilDialogErrMsg("Must have at least one grid, solution or function file.");
-        return false;
-    }
-    return true;
-}
-
 /// The function files take the place of the solution files among what is remembered: a dialog that
 /// comes back shows them there. OK is defined so, uneven as it is.
 void retainFiles() {
@@ -77,7 +64,7 @@ bool loadCopyOfOptions() {
 
 /// False: the dialog is to come back.
 bool loadWhatIsChosen() {
-    if (!settleOptions() || !areOptionsComplete())
+    if (!settleOptions() || !validateLoadOptions(gLoadOptions))
         return false;
     showFiles(solutionList, gLoadOptions.solutionFiles);
     showFiles(functionList, gLoadOptions.functionFiles);

@@ -48,7 +48,8 @@ bool browseForNameFile() {
 
 void nameFileBrowsed() {
     const HostLock lock(addOnID);
-    runWithinMemory(browseForNameFile);
+    // Cancelled, or told: the field stays as it was.
+    static_cast<void>(runWithinMemory(browseForNameFile));
 }
 
 } // namespace

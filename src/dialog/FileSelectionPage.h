@@ -3,7 +3,7 @@
 
 namespace quorvia::quorutildataio {
 
-/// Makes the page with its controls, once. False: the host could not make all of it.
-bool buildFileSelectionPage();
+/// Makes the page with its controls, once. False (not told): the host could not make all of it.
+[[nodiscard]] bool buildFileSelectionPage();
 
 } // namespace quorvia::quorutildataio

@@ -5,8 +5,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Makes the page with its controls, once. False: the host could not make all of it.
-bool buildFileStructurePage();
+/// Makes the page with its controls, once. False (not told): the host could not make all of it.
+[[nodiscard]] bool buildFileStructurePage();
 
 /// Shows the options. The described structure is shown, greyed, also while it is not in use.
 void refreshFileStructurePage(const Plot3DLoadOptions_s& options);

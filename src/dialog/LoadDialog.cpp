@@ -35,7 +35,8 @@ void emptyFiles() {
 void dialogLaunched() {
     startDialogLock();
     emptyFiles();
-    runWithinMemory(takeRetainedFiles);
+    // Told: the dialog shows the files that there was memory for.
+    static_cast<void>(runWithinMemory(takeRetainedFiles));
     refreshDialogPage(fileSelectionPage, gLoadOptions);
 }
 

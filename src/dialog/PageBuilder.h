@@ -14,7 +14,7 @@ class PageBuilder {
 public:
     explicit PageBuilder(std::int32_t page) : page_(page) {}
 
-    /// False once a control could not be made.
+    /// Whether every control could be made.
     bool isWhole() const { return isWhole_; }
 
     void frame(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height,

@@ -8,9 +8,9 @@
 
 namespace quorvia::quorutildataio {
 
-/// What `work` returns, a bool. False, and the user was told, if memory ran out.
+/// What `work` returns, a bool. False (told): memory ran out.
 template <typename Work>
-bool runWithinMemory(Work work) {
+[[nodiscard]] bool runWithinMemory(Work work) {
     try {
         return work();
     } catch (const std::bad_alloc&) {

@@ -16,10 +16,12 @@ void buildFilePatternTables();
 std::string filePatternListText(bool withCommas);
 
 /// Sorts `names` (borrowed, may be null) into the outputs, which come in empty. Names of no kind
-/// are dropped and told to the user once for all. False: a second name file was met, or the host
-/// could not hand out a name; told either way.
-bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gridFiles,
-                       std::vector<std::string>& solutionFiles,
-                       std::vector<std::string>& functionFiles, std::string& nameFile);
+/// are dropped and told to the user once for all. False (told): a second name file was met, or the
+/// host could not hand out a name.
+[[nodiscard]] bool classifyFileNames(QuorStringListHandle names,
+                                     std::vector<std::string>& gridFiles,
+                                     std::vector<std::string>& solutionFiles,
+                                     std::vector<std::string>& functionFiles,
+                                     std::string& nameFile);
 
 } // namespace quorvia::quorutildataio

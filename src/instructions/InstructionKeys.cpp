@@ -1,8 +1,11 @@
 #include "instructions/InstructionKeys.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <iterator>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "instructions/IndexRangeText.h"
@@ -15,114 +18,116 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-template <bool Plot3DLoadOptions_s::*flag>
-bool readFlag(InstructionParse_s& parse) {
-    return readBooleanInstruction(parse.options.*flag, parse.current, parse.instructions,
-                                  parse.index);
+void setFlag(Plot3DLoadOptions_s& options, OptionMember<bool> flagOrNull, bool value) {
+    if (flagOrNull != nullptr)
+        options.*flagOrNull = value;
 }
 
-bool readIsMultiGrid(InstructionParse_s& parse) {
-    parse.multiGridSeen = true;
-    return readFlag<&Plot3DLoadOptions_s::isMultiGrid>(parse);
-}
+/// Reads the value of one key, each form of value in its way. False as for `read` of
+/// InstructionKey_s.
+class ValueReader {
+public:
+    ValueReader(InstructionParse_s& parse, const OptionKey_s& key) : parse_(parse), key_(key) {}
 
-bool readAssignStrandIds(InstructionParse_s& parse) {
-    const bool wasRead = readFlag<&Plot3DLoadOptions_s::assignStrandIds>(parse);
-    parse.options.assignStrandIdsRequested = parse.options.assignStrandIds;
-    return wasRead;
-}
-
-/// A word that stands for no style is refused without a message.
-bool readStyle(InstructionParse_s& parse) {
-    parse.styleSeen = true;
-    return fetchInstructionValue(parse) &&
-           findValue(styleWords, parse.current.get(), parse.options.style);
-}
-
-/// A word that stands for no layout is refused without a message.
-bool readDataStructure(InstructionParse_s& parse) {
-    parse.dataStructureSeen = true;
-    return fetchInstructionValue(parse) &&
-           findValue(dataStructureWords, parse.current.get(), parse.options.dataStructure);
-}
-
-bool readRange(InstructionParse_s& parse, Plot3DIndexRange_s& range, const char* label) {
-    return fetchInstructionValue(parse) &&
-           parseIndexRange(parse.current.view().data(), range, label);
-}
-
-bool readIRange(InstructionParse_s& parse) {
-    return readRange(parse, parse.options.iRange, "I-Index");
-}
-
-bool readJRange(InstructionParse_s& parse) {
-    return readRange(parse, parse.options.jRange, "J-Index");
-}
-
-bool readKRange(InstructionParse_s& parse) {
-    parse.kRangeSeen = true;
-    return readRange(parse, parse.options.kRange, "K-Index");
-}
-
-bool readGridSet(InstructionParse_s& parse) {
-    constexpr bool withBrackets = true;
-    if (!fetchInstructionValue(parse))
-        return false;
-    HostSet set;
-    const bool isGood = parseSetText(parse.current.view().data(), set, !withBrackets);
-    if (!isGood)
-        QuorUtilDialogErrMsg("Invalid Set assigned to FILEGRIDSET");
-    if (parse.options.gridSet != nullptr) // of an earlier key
-        QuorUtilSetDealloc(&parse.options.gridSet);
-    parse.options.gridSet = set.release();
-    return isGood;
-}
-
-/// A count of zero or below reads no names. A count that is no number is refused without a message.
-bool readFileList(InstructionParse_s& parse, std::vector<std::string>& files) {
-    files.clear();
-    std::int32_t count = 0;
-    if (!fetchInstructionValue(parse) || !parseCount(parse.current.str(), count))
-        return false;
-    for (; count > 0; --count) {
-        if (!fetchInstructionName(parse))
-            return false;
-        files.push_back(trimFileName(parse.current.view()));
+    bool operator()(OptionMember<bool> flag) {
+        const bool wasRead = readBooleanInstruction(parse_.options.*flag, parse_.current,
+                                                    parse_.instructions, parse_.index);
+        setFlag(parse_.options, key_.readAlso, parse_.options.*flag);
+        return wasRead;
     }
-    return true;
+
+    /// A count of zero or below reads no names. A count that is no number is refused without a
+    /// message.
+    bool operator()(OptionMember<std::vector<std::string>> list) {
+        std::vector<std::string>& files = parse_.options.*list;
+        setFlag(parse_.options, key_.readAlso, true);
+        files.clear();
+        std::int32_t count = 0;
+        if (!fetchInstructionValue(parse_) || !parseCount(parse_.current.str(), count))
+            return false;
+        for (; count > 0; --count) {
+            if (!fetchInstructionName(parse_))
+                return false;
+            files.push_back(trimFileName(parse_.current.view()));
+        }
+        return true;
+    }
+
+    bool operator()(OptionMember<std::string> name) {
+        setFlag(parse_.options, key_.readAlso, true);
+        if (!fetchInstructionName(parse_))
+            return false;
+        parse_.options.*name = parse_.current.str();
+        return true;
+    }
+
+    /// A word that stands for no style is refused without a message.
+    bool operator()(OptionMember<Plot3DStyle_e> style) {
+        return fetchInstructionValue(parse_) &&
+               findValue(styleWords, parse_.current.get(), parse_.options.*style);
+    }
+
+    /// A word that stands for no layout is refused without a message.
+    bool operator()(OptionMember<Plot3DDataStructure_e> dataStructure) {
+        return fetchInstructionValue(parse_) &&
+               findValue(dataStructureWords, parse_.current.get(), parse_.options.*dataStructure);
+    }
+
+    bool operator()(OptionMember<Plot3DIndexRange_s> range) {
+        return fetchInstructionValue(parse_) &&
+               parseIndexRange(parse_.current.view().data(), parse_.options.*range,
+                               key_.rangeLabel);
+    }
+
+    bool operator()(OptionMember<QuorSetHandle> handle) {
+        constexpr bool withBrackets = true;
+        if (!fetchInstructionValue(parse_))
+            return false;
+        HostSet set;
+        const bool isGood = parseSetText(parse_.current.view().data(), set, !withBrackets);
+        if (!isGood)
+            QuorUtilDialogErrMsg(("Invalid Set assigned to " + std::string(key_.word)).c_str());
+        QuorSetHandle& stored = parse_.options.*handle;
+        if (stored != nullptr) // of an earlier key
+            QuorUtilSetDealloc(&stored);
+        stored = set.release();
+        return isGood;
+    }
+
+private:
+    InstructionParse_s& parse_;
+    const OptionKey_s& key_;
+};
+
+template <std::size_t index>
+bool readOption(InstructionParse_s& parse) {
+    constexpr const OptionKey_s& key = optionKeys[index];
+    parse.keysSeen[index] = true;
+    return std::visit(ValueReader(parse, key), key.member);
 }
 
-bool readGridFiles(InstructionParse_s& parse) {
-    parse.options.hasGridFiles = true;
-    return readFileList(parse, parse.options.gridFiles);
+template <std::size_t... indices>
+constexpr std::array<InstructionKey_s, sizeof...(indices)>
+makeKeys(std::index_sequence<indices...> /*all*/) {
+    return {{{optionKeys[indices].word, readOption<indices>}...}};
 }
 
-bool readSolutionFiles(InstructionParse_s& parse) {
-    parse.options.hasSolutionFiles = true;
-    return readFileList(parse, parse.options.solutionFiles);
-}
+constexpr auto keys = makeKeys(std::make_index_sequence<std::size(optionKeys)>());
 
-bool readFunctionFiles(InstructionParse_s& parse) {
-    return readFileList(parse, parse.options.functionFiles);
-}
+// Older names of keys, and switches.
 
-bool readNameFile(InstructionParse_s& parse) {
-    parse.options.hasNameFile = true;
-    if (!fetchInstructionName(parse))
-        return false;
-    parse.options.nameFile = parse.current.str();
-    return true;
-}
+template <auto member>
+constexpr auto readAs = readOption<optionKeyIndex(member)>;
 
 /// A switch that no longer means anything.
 bool skipSwitch(InstructionParse_s& /*parse*/) {
     return true;
 }
 
-// The switches below do not stand in for the tags that a standard list needs: `...Seen` stays.
+// The switches below do not stand in for the tags that a standard list needs: `keysSeen` stays.
 
-template <bool Plot3DLoadOptions_s::*flag>
-bool setFlag(InstructionParse_s& parse) {
+template <OptionMember<bool> flag>
+bool switchOn(InstructionParse_s& parse) {
     parse.options.*flag = true;
     return true;
 }
@@ -140,41 +145,17 @@ bool setFunctionStyle(InstructionParse_s& parse) {
 
 using Options = Plot3DLoadOptions_s;
 
-constexpr InstructionKey_s keys[] = {
-    {"APPEND", readFlag<&Options::append>},
-    {"FILELIST_GRIDFILES", readGridFiles},
-    {"FILELIST_SOLUTIONFILES", readSolutionFiles},
-    {"FILELIST_FUNCTIONFILES", readFunctionFiles},
-    {"FILENAME_NAMEFILE", readNameFile},
-    {"ISMULTIGRID", readIsMultiGrid},
-    {"STYLE", readStyle},
-    {"DATASTRUCTURE", readDataStructure},
-    {"IINDEXRANGE", readIRange},
-    {"JINDEXRANGE", readJRange},
-    {"KINDEXRANGE", readKRange},
-    {"FILEGRIDSET", readGridSet},
-    {"AUTODETECT", readFlag<&Options::autoDetect>},
-    {"LOADBOUNDARY", readFlag<&Options::loadBoundary>},
-    {"ASCIIISDOUBLE", readFlag<&Options::asciiIsDouble>},
-    {"ASCIIHASIBLANK", readFlag<&Options::asciiHasIBlank>},
-    {"SOLUTIONSSHARESTRUCTURE", readFlag<&Options::solutionsShareStructure>},
-    {"ASSIGNSTRANDIDS", readAssignStrandIds},
-    {"ADDTOEXISTINGSTRANDS", readFlag<&Options::addToExistingStrands>},
-    {"UNIFORMGRIDSTRUCTURE", readFlag<&Options::uniformGridStructure>},
-    {"ASSIGNNEWSTRANDIDFOREACHTIMESTEP", readFlag<&Options::assignNewStrandIdForEachTimeStep>},
-    {"EXTRACTTIMEFROMSOLFILENAMES", readFlag<&Options::extractTimeFromSolFileNames>},
-
-    // Of older layouts and macros.
+constexpr InstructionKey_s olderKeys[] = {
     {"FILELIST_DATAFILES", readDataFiles},
     {"FILENAME_GRIDFILE", readOneGridFile},
     {"-GF", readOneGridFile},
     {"-SF", readOneSolutionFile},
-    {"-NF", readNameFile},
-    {"-KSET", readKRange},
-    {"-JSET", readJRange},
-    {"-ISET", readIRange},
-    {"-M", setFlag<&Options::isMultiGrid>},
-    {"-I", setFlag<&Options::asciiHasIBlank>},
+    {"-NF", readAs<&Options::nameFile>},
+    {"-KSET", readAs<&Options::kRange>},
+    {"-JSET", readAs<&Options::jRange>},
+    {"-ISET", readAs<&Options::iRange>},
+    {"-M", switchOn<&Options::isMultiGrid>},
+    {"-I", switchOn<&Options::asciiHasIBlank>},
     {"-1D", setDataStructure<Plot3DDataStructure_1D>},
     {"-2D", setDataStructure<Plot3DDataStructure_2D>},
     {"-3DP", setDataStructure<Plot3DDataStructure_3DPlanes>},
@@ -189,6 +170,14 @@ constexpr InstructionKey_s keys[] = {
     {"-F", skipSwitch},
 };
 
+template <typename Keys>
+const InstructionKey_s* findAmong(const Keys& among, const char* word) {
+    for (const InstructionKey_s& key : among)
+        if (isSameWord(key.word, word))
+            return &key;
+    return nullptr;
+}
+
 } // namespace
 
 bool fetchInstructionValue(InstructionParse_s& parse) {
@@ -201,10 +190,8 @@ bool fetchInstructionName(InstructionParse_s& parse) {
 }
 
 const InstructionKey_s* findInstructionKey(const char* word) {
-    const auto* found = std::find_if(std::begin(keys), std::end(keys), [word](const auto& key) {
-        return isSameWord(key.word, word);
-    });
-    return found != std::end(keys) ? found : nullptr;
+    const InstructionKey_s* key = findAmong(keys, word);
+    return key != nullptr ? key : findAmong(olderKeys, word);
 }
 
 } // namespace quorvia::quorutildataio

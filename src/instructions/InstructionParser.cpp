@@ -1,16 +1,17 @@
 #include "instructions/InstructionParser.h"
 
 #include <new>
+#include <string>
 
 #include "instructions/InstructionKeys.h"
 #include "instructions/InstructionStrings.h"
+#include "instructions/OptionsValidation.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
 
-constexpr const char* standardSyntaxWord = "STANDARDSYNTAX";
 constexpr bool reportMissing = true;
 
 /// What a list has to state explicitly, whatever the defaults of the record are.
@@ -62,18 +63,33 @@ bool readKeysWithinMemory(InstructionParse_s& parse) {
     }
 }
 
-const char* findFault(const InstructionParse_s& parse) {
-    if (parse.kRangeSeen && parse.options.dataStructure != Plot3DDataStructure_3DWhole)
+template <auto member>
+bool wasSeen(const InstructionParse_s& parse) {
+    return parse.keysSeen[optionKeyIndex(member)];
+}
+
+template <auto member>
+std::string findMissingTag(const InstructionParse_s& parse) {
+    if (wasSeen<member>(parse))
+        return {};
+    return std::string(optionKeyWord(member)) + " tag is required if " +
+           optionKeyWord(&Plot3DLoadOptions_s::autoDetect) + " is FALSE.";
+}
+
+/// What is wrong with a list that was read, all in all; empty if nothing is.
+std::string findFault(const InstructionParse_s& parse) {
+    using Options = Plot3DLoadOptions_s;
+    if (wasSeen<&Options::kRange>(parse) &&
+        parse.options.dataStructure != Plot3DDataStructure_3DWhole)
         return "Error: Not allowed to use -KSet when data is not 3d whole";
     if (!parse.standardSyntax || parse.options.autoDetect)
-        return nullptr;
-    if (!parse.styleSeen)
-        return "STYLE tag is required if AUTODETECT is FALSE.";
-    if (!parse.dataStructureSeen)
-        return "DATASTRUCTURE tag is required if AUTODETECT is FALSE.";
-    if (!parse.multiGridSeen)
-        return "ISMULTIGRID tag is required if AUTODETECT is FALSE.";
-    return nullptr;
+        return {};
+    for (const auto& findTagFault :
+         {findMissingTag<&Options::style>, findMissingTag<&Options::dataStructure>,
+          findMissingTag<&Options::isMultiGrid>})
+        if (const std::string fault = findTagFault(parse); !fault.empty())
+            return fault;
+    return {};
 }
 
 } // namespace
@@ -84,24 +100,11 @@ bool parseLoadInstructions(QuorStringListHandle instructions, Plot3DLoadOptions_
     InstructionParse_s parse = {instructions, options};
     if (!readKeysWithinMemory(parse))
         return false;
-    if (const char* fault = findFault(parse)) {
-        QuorUtilDialogErrMsg(fault);
+    if (const std::string fault = findFault(parse); !fault.empty()) {
+        QuorUtilDialogErrMsg(fault.c_str());
         return false;
     }
     return validateLoadOptions(options);
-}
-
-bool validateLoadOptions(const Plot3DLoadOptions_s& options) {
-    if (options.append && !QuorUtilDataSetIsAvailable()) {
-        QuorUtilDialogErrMsg("Cannot append without an existing data set.");
-        return false;
-    }
-    if (options.gridFiles.empty() && options.solutionFiles.empty() &&
-        options.functionFiles.empty()) {
-        QuorUtilDialogErrMsg("Must have at least one grid, solution or function file.");
-        return false;
-    }
-    return true;
 }
 
 } // namespace quorvia::quorutildataio

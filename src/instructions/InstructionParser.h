@@ -8,11 +8,10 @@
 namespace quorvia::quorutildataio {
 
 /// Sets the defaults and reads `instructions` (borrowed) into `options`. True: the options may go
-/// to the load. False: what was wrong has been shown, save for the silent refusals that the table
-/// of keys names; the record holds what had been read, and the caller releases it.
-bool parseLoadInstructions(QuorStringListHandle instructions, Plot3DLoadOptions_s& options);
-
-/// The last step of the parse: files to load, and a data set to append to. Shows what is wrong.
-bool validateLoadOptions(const Plot3DLoadOptions_s& options);
+/// to the load. False (told): the list is wrong. False (not told): a word that stands for nothing,
+/// an empty name, a count that is no number, no memory. The record holds what had been read, and
+/// the caller releases it.
+[[nodiscard]] bool parseLoadInstructions(QuorStringListHandle instructions,
+                                         Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

@@ -6,6 +6,7 @@
 #include <new>
 #include <sstream>
 
+#include "instructions/OptionKeys.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
@@ -40,7 +41,7 @@ void showMissingOption(const std::string& word) {
 }
 
 bool isTrueString(const char* text) {
-    constexpr const char* trueWords[] = {"Yes", "Y", "True", "T", "YouBetcha"};
+    constexpr const char* trueWords[] = {trueWord, "Y", "True", "T", "YouBetcha"};
     return std::any_of(std::begin(trueWords), std::end(trueWords),
                        [text](const char* word) { return isSameWord(word, text); });
 }

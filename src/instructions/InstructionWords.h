@@ -30,18 +30,18 @@ inline constexpr InstructionWord_s<Plot3DDataStructure_e> dataStructureWords[] =
     {"UNSTRUCTURED", "Unstructured", Plot3DDataStructure_Unstructured},
 };
 
-/// The word of `value`; null if it has none.
+/// The word of `value`. Null (not told): it has none.
 template <typename Words, typename Value>
-const char* findWord(const Words& words, Value value) {
+[[nodiscard]] const char* findWord(const Words& words, Value value) {
     for (const auto& entry : words)
         if (entry.value == value)
             return entry.word;
     return nullptr;
 }
 
-/// Stores what `word` stands for, whatever its case. False: it is none of the words.
+/// Stores what `word` stands for, whatever its case. False (not told): it is none of the words.
 template <typename Words, typename Value>
-bool findValue(const Words& words, const char* word, Value& value) {
+[[nodiscard]] bool findValue(const Words& words, const char* word, Value& value) {
     for (const auto& entry : words)
         if (isSameWord(entry.word, word)) {
             value = entry.value;

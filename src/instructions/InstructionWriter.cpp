@@ -3,9 +3,11 @@
 #include <array>
 #include <cstdio>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "instructions/InstructionWords.h"
+#include "instructions/OptionKeys.h"
 #include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
@@ -21,60 +23,15 @@ void appendValue(QuorStringListHandle list, const char* key, const char* value) 
     append(list, value);
 }
 
-void appendFlag(QuorStringListHandle list, const char* key, bool flag) {
-    appendValue(list, key, flag ? "Yes" : "No");
-}
-
-/// The key and its word; the key alone if the value has none.
-void appendWord(QuorStringListHandle list, const char* key, const char* wordOrNull) {
-    append(list, key);
-    if (wordOrNull != nullptr)
-        append(list, wordOrNull);
-}
-
-bool appendFiles(QuorStringListHandle list, const char* key,
-                 const std::vector<std::string>& files) {
-    if (files.empty())
-        return true;
+bool appendNames(QuorStringListHandle list, const char* key,
+                 const std::vector<std::string>& names) {
     if (!append(list, key) ||
-        !append(list, integerToText(static_cast<std::int64_t>(files.size())).c_str()))
+        !append(list, integerToText(static_cast<std::int64_t>(names.size())).c_str()))
         return false;
-    for (const std::string& file : files)
-        if (!append(list, file.c_str()))
+    for (const std::string& name : names)
+        if (!append(list, name.c_str()))
             return false;
     return true;
-}
-
-bool appendAllFiles(QuorStringListHandle list, const Plot3DLoadOptions_s& options) {
-    return appendFiles(list, "FILELIST_GRIDFILES", options.gridFiles) &&
-           appendFiles(list, "FILELIST_SOLUTIONFILES", options.solutionFiles) &&
-           appendFiles(list, "FILELIST_FUNCTIONFILES", options.functionFiles);
-}
-
-void appendStructure(QuorStringListHandle list, const Plot3DLoadOptions_s& options) {
-    appendFlag(list, "ISMULTIGRID", options.isMultiGrid);
-    appendWord(list, "STYLE", findWord(styleWords, options.style));
-    appendWord(list, "DATASTRUCTURE", findWord(dataStructureWords, options.dataStructure));
-}
-
-void appendRanges(QuorStringListHandle list, const Plot3DLoadOptions_s& options) {
-    appendValue(list, "IINDEXRANGE", formatIndexRange(options.iRange));
-    appendValue(list, "JINDEXRANGE", formatIndexRange(options.jRange));
-    if (options.dataStructure == Plot3DDataStructure_3DWhole)
-        appendValue(list, "KINDEXRANGE", formatIndexRange(options.kRange));
-}
-
-void appendFlags(QuorStringListHandle list, const Plot3DLoadOptions_s& options) {
-    appendFlag(list, "AUTODETECT", options.autoDetect);
-    appendFlag(list, "LOADBOUNDARY", options.loadBoundary);
-    appendFlag(list, "ASCIIISDOUBLE", options.asciiIsDouble);
-    appendFlag(list, "ASCIIHASIBLANK", options.asciiHasIBlank);
-    appendFlag(list, "SOLUTIONSSHARESTRUCTURE", options.solutionsShareStructure);
-    appendFlag(list, "ASSIGNSTRANDIDS", options.assignStrandIdsRequested);
-    appendFlag(list, "ADDTOEXISTINGSTRANDS", options.addToExistingStrands);
-    appendFlag(list, "UNIFORMGRIDSTRUCTURE", options.uniformGridStructure);
-    appendFlag(list, "ASSIGNNEWSTRANDIDFOREACHTIMESTEP", options.assignNewStrandIdForEachTimeStep);
-    appendFlag(list, "EXTRACTTIMEFROMSOLFILENAMES", options.extractTimeFromSolFileNames);
 }
 
 /// A start or end of 0 is an empty field, which a reader takes for the default.
@@ -106,6 +63,75 @@ HostString formatSet(QuorSetHandle set) {
     return HostString::copyOf(text);
 }
 
+bool isWritten(WrittenWhen_e when, const Plot3DLoadOptions_s& options) {
+    const bool rangesApply =
+        !options.autoDetect || options.dataStructure != Plot3DDataStructure_Unstructured;
+    switch (when) {
+    case WrittenWhen_e::Always:
+        return true;
+    case WrittenWhen_e::NameFileIsUsed:
+        return options.hasNameFile;
+    case WrittenWhen_e::StructureIsGiven:
+        return !options.autoDetect;
+    case WrittenWhen_e::RangesApply:
+        return rangesApply;
+    case WrittenWhen_e::KRangeApplies:
+        return rangesApply && options.dataStructure == Plot3DDataStructure_3DWhole;
+    }
+    return false;
+}
+
+/// Writes keys with their values, each form of value in its way.
+class OptionWriter {
+public:
+    OptionWriter(QuorStringListHandle list, const Plot3DLoadOptions_s& options)
+        : list_(list), options_(options) {}
+
+    void write(const OptionKey_s& key) {
+        if (isWritten(key.writtenWhen, options_))
+            std::visit([&](auto member) { writeValue(key.word, options_.*member); }, key.member);
+    }
+
+    /// Whether the list holds all files. Other appends are not watched; without all its files a
+    /// list would repeat another load.
+    bool hasAllFiles() const { return hasAllFiles_; }
+
+private:
+    void writeValue(const char* key, bool flag) {
+        appendValue(list_, key, flag ? trueWord : falseWord);
+    }
+    void writeValue(const char* key, const std::vector<std::string>& files) {
+        if (!files.empty())
+            hasAllFiles_ = hasAllFiles_ && appendNames(list_, key, files);
+    }
+    void writeValue(const char* key, const std::string& name) {
+        appendValue(list_, key, name.c_str());
+    }
+    void writeValue(const char* key, Plot3DStyle_e style) {
+        writeWord(key, findWord(styleWords, style));
+    }
+    void writeValue(const char* key, Plot3DDataStructure_e dataStructure) {
+        writeWord(key, findWord(dataStructureWords, dataStructure));
+    }
+    void writeValue(const char* key, const Plot3DIndexRange_s& range) {
+        appendValue(list_, key, formatIndexRange(range));
+    }
+    void writeValue(const char* /*key*/, QuorSetHandle set) {
+        appendGridSetInstruction(list_, set);
+    }
+
+    /// The key alone if the value has no word.
+    void writeWord(const char* key, const char* wordOrNull) {
+        append(list_, key);
+        if (wordOrNull != nullptr)
+            append(list_, wordOrNull);
+    }
+
+    QuorStringListHandle list_;
+    const Plot3DLoadOptions_s& options_;
+    bool hasAllFiles_ = true;
+};
+
 } // namespace
 
 HostStringList writeLoadInstructions(const Plot3DLoadOptions_s& options) {
@@ -114,19 +140,11 @@ HostStringList writeLoadInstructions(const Plot3DLoadOptions_s& options) {
         QuorUtilDialogErrMsg("Out of Memory!!!");
         return list;
     }
-    appendValue(list.get(), "STANDARDSYNTAX", "1.0");
-    appendFlag(list.get(), "APPEND", options.append);
-    const bool filesAreWhole = appendAllFiles(list.get(), options);
-    if (options.hasNameFile)
-        appendValue(list.get(), "FILENAME_NAMEFILE", options.nameFile.c_str());
-    if (!options.autoDetect)
-        appendStructure(list.get(), options);
-    if (!options.autoDetect || options.dataStructure != Plot3DDataStructure_Unstructured)
-        appendRanges(list.get(), options);
-    appendGridSetInstruction(list.get(), options.gridSet);
-    appendFlags(list.get(), options);
-    // The other appends are not watched; without all its files a list would repeat another load.
-    if (!filesAreWhole)
+    appendValue(list.get(), standardSyntaxWord, standardSyntaxVersion);
+    OptionWriter writer(list.get(), options);
+    for (const OptionKey_s& key : optionKeys)
+        writer.write(key);
+    if (!writer.hasAllFiles())
         list.reset();
     return list;
 }
@@ -143,7 +161,7 @@ void appendGridSetInstruction(QuorStringListHandle list, QuorSetHandle set) {
     if (set == nullptr)
         return;
     if (const HostString text = formatSet(set))
-        appendValue(list, "FILEGRIDSET", text.get());
+        appendValue(list, optionKeyWord(&Plot3DLoadOptions_s::gridSet), text.get());
 }
 
 } // namespace quorvia::quorutildataio

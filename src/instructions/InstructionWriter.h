@@ -6,9 +6,9 @@
 
 namespace quorvia::quorutildataio {
 
-/// The instructions, keys in a fixed order. Null: the host had no memory for the list (told to the
-/// user) or for a file name (not told).
-HostStringList writeLoadInstructions(const Plot3DLoadOptions_s& options);
+/// The instructions, keys in a fixed order. Null (told): the host had no memory for the list. Null
+/// (not told): it had none for a file name.
+[[nodiscard]] HostStringList writeLoadInstructions(const Plot3DLoadOptions_s& options);
 
 /// "start,end,skip", with an empty field for a `start` or `end` of 0. The text lies in one static
 /// buffer and is valid until the next call.

@@ -13,7 +13,7 @@ bool isTurnedRound(const Plot3DIndexRange_s& range);
 /// `rangeName`: "I-Range", "J-Range" or "K-Range".
 void tellRangeIsTurnedRound(const char* rangeName);
 
-/// False: a range of the load is turned round; the first one has been told.
-bool checkIndexRanges(const Plot3DLoadOptions_s& options);
+/// False (told): a range of the load is turned round; the message names the first one.
+[[nodiscard]] bool checkIndexRanges(const Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

@@ -22,15 +22,15 @@ inline bool isSameWord(const char* a, const char* b) {
 }
 
 /// Reads blanks, an optional minus sign and at most ten digits, and moves the cursor behind them.
-/// False: no digit, or more than ten; `value` keeps what it held, negated if a sign was read, so it
-/// must come in initialised.
-bool readSignedInteger(const char*& cursor, std::int64_t& value);
+/// False (not told): no digit, or more than ten; `value` keeps what it held, negated if a sign was
+/// read, so it must come in initialised.
+[[nodiscard]] bool readSignedInteger(const char*& cursor, std::int64_t& value);
 
 /// Reads items `first`, `first-last` or `first-last:skip`, separated by commas and blanks, into a
-/// new host set. An empty text gives an empty set. False: bad text or no memory; `set` is null
-/// then. `withBrackets`: the text stands in brackets, and what follows the closing one is not
-/// looked at.
-bool parseSetText(const char* text, HostSet& set, bool withBrackets);
+/// new host set. An empty text gives an empty set. False (not told): bad text or no memory;
+/// `set` is null then. `withBrackets`: the text stands in brackets, and what follows the closing
+/// one is not looked at.
+[[nodiscard]] bool parseSetText(const char* text, HostSet& set, bool withBrackets);
 
 /// Plain decimal digits, with a minus sign if negative.
 std::string integerToText(std::int64_t value);

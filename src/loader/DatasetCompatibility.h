@@ -6,7 +6,7 @@
 namespace quorvia::quorutildataio {
 
 /// Fills `existingZoneCount`, `existingVarCount` and `firstNewZone`, and may set `hasIBlank`.
-/// Changes nothing in the host. False: they can't be joined, which has been told.
-bool checkDatasetCompatibility(Plot3DLoadContext_s& context);
+/// Changes nothing in the host. False (told): they can't be joined.
+[[nodiscard]] bool checkDatasetCompatibility(Plot3DLoadContext_s& context);
 
 } // namespace quorvia::quorutildataio

@@ -6,7 +6,7 @@
 
 namespace quorvia::quorutildataio {
 
-/// The counts of names, before any file is opened.
-bool checkFileSetCounts(const Plot3DLoadOptions_s& options);
+/// The counts of names, before any file is opened. False (told): they don't go together.
+[[nodiscard]] bool checkFileSetCounts(const Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

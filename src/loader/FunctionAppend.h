@@ -9,10 +9,10 @@
 namespace quorvia::quorutildataio {
 
 /// Adds the variables and tells the host of them, then sets the files up, one for each time step
-/// that is there. Every file set holds function files alone. False: the numbers of zones differ or
-/// a file can't be used, which is told save for an interruption, I-blank in a file and memory;
-/// variables that were added stay.
-bool appendFunctionFiles(std::vector<Plot3DFileHandler>& fileSets,
-                         const Plot3DLoadOptions_s& options);
+/// that is there. Every file set holds function files alone. False (told): the numbers of zones
+/// differ or a file can't be used. False (not told): an interruption, I-blank in a file, no memory.
+/// Variables that were added stay.
+[[nodiscard]] bool appendFunctionFiles(std::vector<Plot3DFileHandler>& fileSets,
+                                       const Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

@@ -11,16 +11,21 @@
 
 namespace quorvia::quorutildataio {
 
-/// The numbers of grids in the first file of each list.
-bool checkFileListGridCounts(const Plot3DFileList& gridFiles, const Plot3DFileList& solutionFiles,
-                             const Plot3DFileList& functionFiles);
+/// The numbers of grids in the first file of each list. False (told): they differ.
+[[nodiscard]] bool checkFileListGridCounts(const Plot3DFileList& gridFiles,
+                                           const Plot3DFileList& solutionFiles,
+                                           const Plot3DFileList& functionFiles);
 
-/// The numbers of grids in all files, under a uniform grid structure.
-bool checkUniformGridStructure(const Plot3DFileList& gridFiles, const Plot3DFileList& solutionFiles,
-                               const Plot3DFileList& functionFiles);
+/// The numbers of grids in all files, under a uniform grid structure. False (told): a file has more
+/// than the first.
+[[nodiscard]] bool checkUniformGridStructure(const Plot3DFileList& gridFiles,
+                                             const Plot3DFileList& solutionFiles,
+                                             const Plot3DFileList& functionFiles);
 
 /// Whether the load takes a grid of each time step; of the first it takes `zonesPerTimeStep`.
-bool checkGridSet(const Plot3DLoadOptions_s& options,
-                  const std::vector<Plot3DFileHandler>& handlers, std::int32_t zonesPerTimeStep);
+/// False (told): it takes none of a file.
+[[nodiscard]] bool checkGridSet(const Plot3DLoadOptions_s& options,
+                                const std::vector<Plot3DFileHandler>& handlers,
+                                std::int32_t zonesPerTimeStep);
 
 } // namespace quorvia::quorutildataio

@@ -7,8 +7,8 @@ namespace quorvia::quorutildataio {
 
 /// Fills the context's three lists of records, and settles what the headers tell: solution files
 /// that are function files in truth change lists, and a load from a selection with function files
-/// takes its times from their names. False: a file was refused (told), or the user interrupted (not
-/// told). What the headers tell is settled also then.
-bool examineFiles(Plot3DLoadContext_s& context);
+/// takes its times from their names. False (told): a file was refused. False (not told): the user
+/// interrupted. What the headers tell is settled also then.
+[[nodiscard]] bool examineFiles(Plot3DLoadContext_s& context);
 
 } // namespace quorvia::quorutildataio

@@ -8,8 +8,8 @@ namespace quorvia::quorutildataio {
 /// Examines the files, pairs them into time steps, creates or extends the host's data set and hands
 /// the host the instructions that repeat the load. `fromSelection`: the user chose the files,
 /// rather than the host handing over instructions. Changes `options` as the load settles them.
-/// False: the load failed; the user has been told, except of an interruption while headers are
-/// examined.
-bool loadPlot3DData(bool fromSelection, Plot3DLoadOptions_s& options);
+/// False (told): the load failed. False (not told): the user interrupted it while headers were
+/// examined or function files appended, an appended file has I-blank, or no memory.
+[[nodiscard]] bool loadPlot3DData(bool fromSelection, Plot3DLoadOptions_s& options);
 
 } // namespace quorvia::quorutildataio

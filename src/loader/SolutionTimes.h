@@ -17,12 +17,14 @@ void normaliseStrandOptions(Plot3DLoadOptions_s& options);
 /// memory.
 void extractSolutionTimes(Plot3DLoadOptions_s& options);
 
-/// False: the times are all the same and could not be told apart. `firstZone` counts from 1.
-bool checkSolutionTimes(std::int32_t firstZone, Plot3DLoadOptions_s& options,
-                        std::vector<Plot3DFileHandler>& fileSets);
+/// Tells times apart that are the same. False (not told): they are and stay so, which the user is
+/// asked about. False (told): no memory. `firstZone` counts from 1.
+[[nodiscard]] bool checkSolutionTimes(std::int32_t firstZone, Plot3DLoadOptions_s& options,
+                                      std::vector<Plot3DFileHandler>& fileSets);
 
-/// Gives the zones of the load the times of their solution files' names. False: a name has no time.
-bool assignSolutionTimes(std::int32_t firstZone, const Plot3DLoadOptions_s& options,
-                         std::vector<Plot3DFileHandler>& fileSets);
+/// Gives the zones of the load the times of their solution files' names. False (not told): a name
+/// has no time.
+[[nodiscard]] bool assignSolutionTimes(std::int32_t firstZone, const Plot3DLoadOptions_s& options,
+                                       std::vector<Plot3DFileHandler>& fileSets);
 
 } // namespace quorvia::quorutildataio

@@ -10,13 +10,17 @@
 
 namespace quorvia::quorutildataio {
 
-/// Makes the time steps. False: a file stands in the wrong list (told), or no memory (not told).
-bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileList& gridFiles,
-                           const Plot3DFileList& solutionFiles, const Plot3DFileList& functionFiles,
-                           std::vector<Plot3DFileHandler>& handlers);
+/// Makes the time steps. False (told): a file stands in the wrong list. False (not told): no
+/// memory.
+[[nodiscard]] bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options,
+                                         const Plot3DFileList& gridFiles,
+                                         const Plot3DFileList& solutionFiles,
+                                         const Plot3DFileList& functionFiles,
+                                         std::vector<Plot3DFileHandler>& handlers);
 
 /// Dimensions of the files of each time step, of the first alone if `uniformGridStructure`.
-bool checkHandlerDimensions(const std::vector<Plot3DFileHandler>& handlers,
-                            bool uniformGridStructure);
+/// False (told): they differ.
+[[nodiscard]] bool checkHandlerDimensions(const std::vector<Plot3DFileHandler>& handlers,
+                                          bool uniformGridStructure);
 
 } // namespace quorvia::quorutildataio

@@ -9,13 +9,14 @@ namespace quorvia::quorutildataio {
 
 // The trials, from the innermost to the outermost. Each writes its candidate into the record and
 // leaves the accepted structure there. The file is open. Once a read has failed none is accepted.
-// They throw std::bad_alloc.
-bool tryIBlank(Plot3DFile_s& file, bool hasIBlank);
-bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision);
+// They throw std::bad_alloc. False (not told): nothing fits, which is normal, or a read failed.
+[[nodiscard]] bool tryIBlank(Plot3DFile_s& file, bool hasIBlank);
+[[nodiscard]] bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision);
 /// Both precisions, in the order of the file's encoding; of text only the one that stands there.
-bool tryPrecisions(Plot3DFile_s& file);
-bool tryStyle(Plot3DFile_s& file, Plot3DStyle_e style);
-bool tryDataStructure(Plot3DFile_s& file, Plot3DDataStructure_e dataStructure);
-bool searchStructure(Plot3DFile_s& file);
+/// False (not told): neither fits.
+[[nodiscard]] bool tryPrecisions(Plot3DFile_s& file);
+[[nodiscard]] bool tryStyle(Plot3DFile_s& file, Plot3DStyle_e style);
+[[nodiscard]] bool tryDataStructure(Plot3DFile_s& file, Plot3DDataStructure_e dataStructure);
+[[nodiscard]] bool searchStructure(Plot3DFile_s& file);
 
 } // namespace quorvia::quorutildataio

@@ -9,7 +9,8 @@ namespace quorvia::quorutildataio {
 
 class Plot3DFileStructureValidatorInterface {
 public:
-    virtual bool validate(const Plot3DFile_s& file) = 0;
+    /// False (told): the file differs.
+    [[nodiscard]] virtual bool validate(const Plot3DFile_s& file) = 0;
     virtual ~Plot3DFileStructureValidatorInterface() = default;
 };
 
@@ -19,8 +20,9 @@ protected:
     Plot3DFileStructureValidatorAbstract(const Plot3DFile_s& firstFile,
                                          const Plot3DLoadOptions_s& options);
 
-    bool checkDataStructure(const Plot3DFile_s& file) const;
-    bool checkGridCounts(const Plot3DFile_s& file) const;
+    /// Parts of a validation. False (told): a difference.
+    [[nodiscard]] bool checkDataStructure(const Plot3DFile_s& file) const;
+    [[nodiscard]] bool checkGridCounts(const Plot3DFile_s& file) const;
 
     const Plot3DFile_s* firstFile;
     bool uniformGrids;
@@ -30,18 +32,21 @@ class Plot3DGridFileStructureValidator : public virtual Plot3DFileStructureValid
 public:
     Plot3DGridFileStructureValidator(const Plot3DFile_s& firstFile,
                                      const Plot3DLoadOptions_s& options);
-    bool validate(const Plot3DFile_s& file) override;
+    /// False (told): the file differs.
+    [[nodiscard]] bool validate(const Plot3DFile_s& file) override;
 };
 
 class Plot3DNonGridFileStructureValidator : public virtual Plot3DFileStructureValidatorAbstract {
 public:
     Plot3DNonGridFileStructureValidator(const Plot3DFile_s& firstFile,
                                         const Plot3DLoadOptions_s& options);
-    bool validate(const Plot3DFile_s& file) override;
+    /// False (told): the file differs.
+    [[nodiscard]] bool validate(const Plot3DFile_s& file) override;
 };
 
 /// Whether the grids of both files have the same dimensions, grid by grid of `a`; of unstructured
-/// grids the same number of nodes. Tells the first difference, with the grid's index from 0.
-bool compareFileDimensions(const Plot3DFile_s& a, const Plot3DFile_s& b);
+/// grids the same number of nodes. False (told): the first difference, with the grid's index from
+/// 0.
+[[nodiscard]] bool compareFileDimensions(const Plot3DFile_s& a, const Plot3DFile_s& b);
 
 } // namespace quorvia::quorutildataio

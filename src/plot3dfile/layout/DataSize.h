@@ -7,6 +7,7 @@ namespace quorvia::quorutildataio {
 
 /// Whether the header accounts for the data behind it: every byte of plain binary, the first grid's
 /// records of Fortran, the first scalars' line of text. The stream stands behind the header.
-bool checkDataSize(Plot3DFile_s& file);
+/// False (not told): it does not.
+[[nodiscard]] bool checkDataSize(Plot3DFile_s& file);
 
 } // namespace quorvia::quorutildataio

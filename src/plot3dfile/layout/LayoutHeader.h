@@ -23,21 +23,25 @@ struct LayoutRules_s {
 double structuredPointCount(const Plot3DGridDims_s& dims);
 
 /// Rewinds and reads the header of a 2-D, 3-D or unstructured file. True: it is plausible, its
-/// counts stand in the record, and the stream stands behind it. Nothing is reported. Throws
+/// counts stand in the record, and the stream stands behind it. False (not told): it is not. Throws
 /// std::bad_alloc.
-bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
+[[nodiscard]] bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules);
 
-/// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md.
-bool read1DHeader(Plot3DFile_s& file);
+/// The same for a 1-D file. Leaves `numGrids` alone: see docs/detection.md. False (not told): it is
+/// not plausible.
+[[nodiscard]] bool read1DHeader(Plot3DFile_s& file);
 
-/// Reads 1 or 2 integers that form a record, or a line, of their own.
-bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values);
+/// Reads 1 or 2 integers that form a record, or a line, of their own. False (not told): there is no
+/// such record.
+[[nodiscard]] bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values);
 
-/// Sets `numScalars` by the style; for Overflow reads `numVars` and `numSpecies` first.
-bool readScalarCount(Plot3DFile_s& file);
+/// Sets `numScalars` by the style; for Overflow reads `numVars` and `numSpecies` first. False (not
+/// told): these can't be read.
+[[nodiscard]] bool readScalarCount(Plot3DFile_s& file);
 
-/// Stores the dimensions of one grid, growing the array as needed. False: no memory.
-bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
-                   std::vector<Plot3DGridDims_s>& gridDims);
+/// Stores the dimensions of one grid, growing the array as needed. False (not told): no
+/// memory.
+[[nodiscard]] bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k,
+                                 std::int32_t gridIndex, std::vector<Plot3DGridDims_s>& gridDims);
 
 } // namespace quorvia::quorutildataio

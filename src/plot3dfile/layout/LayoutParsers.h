@@ -45,17 +45,20 @@ struct Plot3DItemReceiver_s {
 };
 
 /// `gridSet` (grid numbers from 1; null or empty selects all) and `report` matter to a walk only.
-bool parse1D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-             const Plot3DItemReceiver_s* receiver);
-bool parse2D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-             const Plot3DItemReceiver_s* receiver);
-bool parse3D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-             const Plot3DItemReceiver_s* receiver);
-bool parseUnstructured(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-                       const Plot3DItemReceiver_s* receiver);
+/// False (not told): the header or the data do not fit. A walk also fails as walkGrids does: False
+/// (told): a record is missing, with `report`.
+[[nodiscard]] bool parse1D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                           const Plot3DItemReceiver_s* receiver);
+[[nodiscard]] bool parse2D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                           const Plot3DItemReceiver_s* receiver);
+[[nodiscard]] bool parse3D(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                           const Plot3DItemReceiver_s* receiver);
+[[nodiscard]] bool parseUnstructured(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                                     const Plot3DItemReceiver_s* receiver);
 
 /// The parser of the record's `dataStructure`; a structure outside the enumeration counts as done.
-bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-                 const Plot3DItemReceiver_s* receiver);
+/// False (told), False (not told): as that parser.
+[[nodiscard]] bool parseLayout(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                               const Plot3DItemReceiver_s* receiver);
 
 } // namespace quorvia::quorutildataio

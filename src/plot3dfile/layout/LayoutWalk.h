@@ -6,9 +6,10 @@
 
 namespace quorvia::quorutildataio {
 
-/// Delivers every item of `numGrids` grids. The stream stands behind the header. False: the
-/// receiver stopped the walk, or a record is missing, which has been told if `report`.
-bool walkGrids(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
-               const Plot3DItemReceiver_s& receiver);
+/// Delivers every item of `numGrids` grids. The stream stands behind the header. False
+/// (told): a record is missing, with `report`. False (not told): it is, without; or the receiver
+/// stopped the walk.
+[[nodiscard]] bool walkGrids(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
+                             const Plot3DItemReceiver_s& receiver);
 
 } // namespace quorvia::quorutildataio

@@ -23,8 +23,9 @@ bool isFieldCountPlausible(const Plot3DFile_s& file);
 /// in text they are held against the limit of fields. Of other files: true.
 bool isElementCountPlausible(const Plot3DFile_s& file);
 
-/// The first file of a time step for which one of these does not hold; null if there is none.
-const Plot3DFile_s* findImplausibleFile(const Plot3DFileHandler& handler);
+/// The first file of a time step for which one of these does not hold. Null (not told): there is
+/// none.
+[[nodiscard]] const Plot3DFile_s* findImplausibleFile(const Plot3DFileHandler& handler);
 /// Whether there is none.
 bool areCountsPlausible(const Plot3DFileHandler& handler);
 

@@ -70,7 +70,7 @@ TEST_F(LayoutHeader, GrowsManyDimensionsByAHundredThousand) {
 TEST_F(LayoutHeader, KeepsLeftoverDimensionsOfEarlierTrials) {
     auto file =
         openRecord(Bytes().integers({2, 3, 5}).reals(90).str(), Plot3DDataStructure_3DWhole);
-    storeGridDims(7, 11, 13, 1, file->gridDims);
+    EXPECT_TRUE(storeGridDims(7, 11, 13, 1, file->gridDims));
     EXPECT_TRUE(judge(*file));
     EXPECT_EQ(file->numGrids, 1);
     EXPECT_EQ(file->gridDims[1], (Plot3DGridDims_s{7, 11, 13}));
