@@ -5,7 +5,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Fills `existingZoneCount`, `existingVarCount` and `firstNewZone`, and may set `hasIBlank`.
+/// Fills `existingZoneCount`, the shape's `existingVarCount` and `firstNewZone`, and may set its
+/// `hasIBlank`.
 /// Changes nothing in the host. False: they can't be joined, which has been told.
 bool checkDatasetCompatibility(Plot3DLoadContext_s& context);
 

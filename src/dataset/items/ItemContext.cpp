@@ -14,14 +14,14 @@ bool continuesCharacter(char byte) {
 Plot3DItemContext_s makeItemContext(const Plot3DLoadOptions_s& options,
                                     std::int32_t firstZoneOfLoad, std::int32_t firstZone) {
     const bool hasTimedFiles = !options.solutionFiles.empty() || !options.functionFiles.empty();
-    return {options.iRange,
-            options.jRange,
-            options.kRange,
-            firstZoneOfLoad,
-            firstZone,
-            1,
-            &options.solutionTimes,
-            options.extractTimeFromSolFileNames && hasTimedFiles};
+    return {.iRange = options.iRange,
+            .jRange = options.jRange,
+            .kRange = options.kRange,
+            .firstZoneOfLoad = firstZoneOfLoad,
+            .firstZone = firstZone,
+            .firstVar = 1,
+            .solutionTimes = &options.solutionTimes,
+            .extractTimes = options.extractTimeFromSolFileNames && hasTimedFiles};
 }
 
 std::string_view fileTail(std::string_view path) {

@@ -65,13 +65,13 @@ public:
             return false;
         if (takesGridFromEarlierZones() && !shareGrid())
             return false;
-        context_.firstVar = variablesAheadOfSolution() + 1;
+        context_.firstVar = request_.shape.gridVarCount() + 1;
         if (!hasVariablesFor(file) || !fitsZones(file, request_))
             return false;
         if (!isPrimary() && options_.solutionsShareStructure && canReuse(file))
             return takeOverOffsets(file) &&
                    reuseSolutionOffsets(file, options_, request_.firstZoneOfLoad,
-                                        request_.firstZone, variablesAheadOfSolution());
+                                        request_.firstZone, request_.shape.gridVarCount());
         return allocateSolutionOffsets(file) && scanFile(file, options_.gridSet, context_);
     }
 
@@ -92,7 +92,7 @@ private:
     /// The load was held against the variables of the data set before it began, but a host without
     /// memory may have added none.
     bool hasVariablesFor(const Plot3DFile_s& file) const {
-        return checkVariablesFor(file, context_.firstVar, request_.existingVarCount);
+        return checkVariablesFor(file, context_.firstVar, request_.shape.existingVarCount);
     }
 
     /// Positions stand for whole fields of a binary file; the rest has to be read through.
@@ -106,13 +106,9 @@ private:
                (!isPrimary() || options_.append || options_.hasGridFiles);
     }
 
-    std::int32_t variablesAheadOfSolution() const {
-        return request_.numSpatialVars + (request_.hasIBlank ? 1 : 0);
-    }
-
     std::int32_t variablesAheadOfFunctions() const {
-        return variablesAheadOfSolution() +
-               (handler_.hasSolutionFile() ? request_.numSolutionVars : 0);
+        return request_.shape.gridVarCount() +
+               (handler_.hasSolutionFile() ? request_.shape.numSolutionVars : 0);
     }
 
     std::int64_t offsetCount(const Plot3DFile_s& file) const {
@@ -146,7 +142,8 @@ private:
         const Plot3DFile_s* primary = request_.firstHandler.solutionFile;
         if (primary == nullptr)
             return false;
-        const std::int64_t fields = std::int64_t{handler_.getNumGrids()} * request_.numSolutionVars;
+        const std::int64_t fields =
+            std::int64_t{handler_.getNumGrids()} * request_.shape.numSolutionVars;
         return copyOffsets(primary->varOffsets, file.varOffsets, fields,
                            "Subsequent Offset Array") &&
                (!primary->auxDataOffsets ||
@@ -155,8 +152,9 @@ private:
     }
 
     bool shareGrid() const {
-        return shareGridVariables(options_, handler_, request_.numSpatialVars,
-                                  request_.firstZoneOfLoad, request_.firstZone, request_.hasIBlank);
+        return shareGridVariables(options_, handler_, request_.shape.numSpatialVars,
+                                  request_.firstZoneOfLoad, request_.firstZone,
+                                  request_.shape.hasIBlank);
     }
 
     bool scanGridFile(Plot3DFile_s& file) { return openAndScan(file); }

@@ -77,7 +77,9 @@ private:
         if (!handler_.hasGridFile() && baseZone < zone)
             takeGridTypes(baseZone);
         if (zone > stage_.parentZones.count() ||
-            !addZoneForGrid(stage_, handler_, grid, {baseZone, shareNodeMaps_, strand}) ||
+            !addZoneForGrid(
+                stage_, handler_, grid,
+                {.baseZone = baseZone, .shareNodeMap = shareNodeMaps_, .strand = strand}) ||
             !QuorUtilSetAddMember(stage_.zonesAdded, zone, true))
             return false;
         stage_.parentZones[zone - 1] = stage_.runningGridCount;
@@ -86,14 +88,13 @@ private:
 
     /// The grid that the zone takes over need not have the precision of the solution.
     void takeGridTypes(std::int32_t baseZone) const {
-        const std::int32_t lastVar = stage_.numSpatialVars + (stage_.hasIBlank ? 1 : 0);
+        const std::int32_t lastVar = stage_.shape.gridVarCount();
         for (std::int32_t var = 1; var <= lastVar && var <= stage_.varTypes.count(); ++var) {
             const std::int32_t type = QuorUtilDataValueGetType(baseZone, var);
             const bool isKnown = type != QuorFieldDataType_Invalid;
-            stage_.varTypes[var - 1] =
-                isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
-                    ? type
-                    : fieldDataType(handler_, var - 1, stage_.hasIBlank, stage_.numSpatialVars);
+            stage_.varTypes[var - 1] = isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
+                                           ? type
+                                           : fieldDataType(handler_, var - 1, stage_.shape);
         }
     }
 
@@ -129,8 +130,7 @@ private:
 
 void fillTypes(const Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler) {
     for (std::int64_t var = 0; var < stage.varTypes.count(); ++var)
-        stage.varTypes[var] = fieldDataType(handler, static_cast<std::int32_t>(var),
-                                            stage.hasIBlank, stage.numSpatialVars);
+        stage.varTypes[var] = fieldDataType(handler, static_cast<std::int32_t>(var), stage.shape);
 }
 
 std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s& dims) {
@@ -179,9 +179,13 @@ bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
     FileSetZones zones(stage, handler, fileSetIndex);
     if (!zones.addAll())
         return false;
-    return setUpFileSet({stage.options, handler, stage.firstHandler, stage.zoneBase,
-                         stage.firstNewZone, stage.numSpatialVars, stage.numSolutionVars,
-                         stage.existingVarCount, stage.hasIBlank, fileSetIndex == 0});
+    return setUpFileSet({.options = stage.options,
+                         .handler = handler,
+                         .firstHandler = stage.firstHandler,
+                         .firstZoneOfLoad = stage.zoneBase,
+                         .firstZone = stage.firstNewZone,
+                         .shape = stage.shape,
+                         .isFirstFileSet = fileSetIndex == 0});
 }
 
 bool checkElements(std::int32_t zone) {
