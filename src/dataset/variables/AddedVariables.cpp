@@ -41,7 +41,7 @@ std::int32_t firstSolutionType(const Plot3DFileHandler& handler) {
 bool addVariablesOf(const Plot3DFile_s& file, std::int32_t ordinal, const ZoneTypes& types,
                     HostSet& varsAdded, std::int32_t& varCount) {
     for (std::int32_t k = 1; k <= file.numVars; ++k) {
-        const std::string name = "F" + std::to_string(ordinal) + "V" + std::to_string(k);
+        const std::string name = functionName(ordinal, k);
         const HostArgList arguments(QuorUtilArgListAlloc());
         if (!arguments || !addVariable(arguments.get(), name.c_str(), types))
             return false;

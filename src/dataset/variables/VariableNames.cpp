@@ -9,7 +9,6 @@
 #include <unordered_set>
 
 #include "dataset/variables/NameFile.h"
-#include "instructions/ValueText.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/timestep/FieldCount.h"
 #include "quorvia/HostHandles.h"
@@ -86,7 +85,7 @@ void addSpeciesNames(NameWriter& writer, const Plot3DFile_s& file, std::int64_t 
     const std::int64_t species = std::max(file.numSpecies, 0);
     writer.add("GAMMA");
     for (std::int64_t s = 1; s <= std::min(species, limit); ++s)
-        writer.add("RHO-C" + integerToText(s));
+        writer.add("RHO-C" + std::to_string(s));
     addTurbulenceNames(writer, numSolutionVars - species - variablesAheadOfSpecies, limit);
 }
 
@@ -101,10 +100,6 @@ void addSolutionNames(NameWriter& writer, const Plot3DFileHandler& handler,
     addConservativeNames(writer, file.dataStructure);
     if (styleRules(handler.getStyle()).hasSpecies && numSolutionVars >= variablesAheadOfSpecies)
         addSpeciesNames(writer, file, numSolutionVars);
-}
-
-std::string functionName(std::int64_t ordinal, std::int64_t k) {
-    return "F" + integerToText(ordinal) + "V" + integerToText(k);
 }
 
 std::int64_t countFunctionNames(const Plot3DFile_s& file) {
@@ -207,6 +202,10 @@ std::int64_t countVariableNames(const Plot3DLoadShape_s& shape,
     for (const Plot3DFile_s* file : firstHandler.functionFiles)
         count += countFunctionNames(*file);
     return count;
+}
+
+std::string functionName(std::int64_t ordinal, std::int64_t k) {
+    return "F" + std::to_string(ordinal) + "V" + std::to_string(k);
 }
 
 bool findFreeFunctionOrdinal(std::int32_t& ordinal) {

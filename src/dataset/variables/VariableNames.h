@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "dataset/variables/LoadShape.h"
@@ -34,6 +35,9 @@ inline std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVa
 /// How many names buildVariableNames would set, without asking the host anything.
 std::int64_t countVariableNames(const Plot3DLoadShape_s& shape,
                                 const Plot3DFileHandler& firstHandler);
+
+/// "F<ordinal>V<k>": variable `k`, from 1, of a function file.
+std::string functionName(std::int64_t ordinal, std::int64_t k);
 
 /// Raises `ordinal` until no "F<ordinal>V<k>" is the name of a variable in the frame's data set.
 /// False: a host query failed or memory ran out.
