@@ -6,6 +6,7 @@
 #include <span>
 
 #include "dataset/items/AuxDataItem.h"
+#include "dataset/items/NotedOffsets.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/NumberStream.h"
 #include "plot3dfile/timestep/FieldCount.h"
@@ -75,11 +76,6 @@ bool setIfPresent(QuorAuxDataHandle auxData, const char* name, const AuxDataText
     return auxData == nullptr || setAuxDataItem(auxData, name, text.data());
 }
 
-void noteScalarsOffset(const Plot3DFile_s& file, std::int32_t zone) {
-    if (zone < file.auxDataOffsets.count())
-        file.auxDataOffsets[zone] = file.stream->tell();
-}
-
 void storeSolutionTime(Plot3DFile_s& file, std::int32_t zone, double time) {
     QuorUtilZoneSetSolutionTime(zone, time);
     file.solutionTime = time;
@@ -121,7 +117,7 @@ bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool 
     ScalarTargets targets;
     if (include) {
         targets = {QuorUtilAuxDataZoneGetRef(hostZone), QuorUtilAuxDataDataSetGetRef()};
-        noteScalarsOffset(file, zone);
+        noteOffset(file.auxDataOffsets, zone, file.stream->tell());
     }
     const auto setItem = [&](const char* name, bool isOnDataSet) {
         AuxDataText text;

@@ -1,9 +1,8 @@
 #include "dataset/zones/AppendedFunctions.h"
 
-#include <algorithm>
-
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/zones/ZoneFit.h"
 #include "plot3dfile/file/OpenedFile.h"
 
@@ -14,14 +13,6 @@ namespace {
 bool hasKnownStructure(const Plot3DFile_s& file) {
     return file.dataStructure >= Plot3DDataStructure_1D &&
            file.dataStructure <= Plot3DDataStructure_Unstructured;
-}
-
-bool allocateOffsets(Plot3DFile_s& file, const Plot3DFileHandler& handler) {
-    constexpr std::int64_t notNoted = -1;
-    file.varOffsets = HostArray<std::int64_t>::allocate(
-        std::int64_t{file.numVars} * handler.getNumGrids(), "Primary Function Offset Array");
-    std::fill(file.varOffsets.begin(), file.varOffsets.end(), notNoted);
-    return static_cast<bool>(file.varOffsets);
 }
 
 /// The zones were made by other loads, of other files.
@@ -38,7 +29,7 @@ bool setUpFile(const Plot3DAppendedFunctions_s& request, const Plot3DFileHandler
                Plot3DItemContext_s& context) {
     Plot3DFile_s& file = *handler.functionFiles.front();
     const OpenedFile opened(file);
-    if (!opened || !allocateOffsets(file, handler))
+    if (!opened || !allocateFunctionOffsets(file, handler.getNumGrids()))
         return false;
     if (!hasKnownStructure(file))
         return true; // there is nothing that could be scanned

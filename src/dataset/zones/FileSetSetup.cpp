@@ -4,6 +4,7 @@
 
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/variables/VariableFit.h"
 #include "dataset/zones/OffsetReuse.h"
 #include "dataset/zones/ZoneFit.h"
@@ -13,24 +14,6 @@
 namespace quorvia::quorutildataio {
 
 namespace {
-
-using Offsets = HostArray<std::int64_t>;
-
-constexpr std::int64_t notNoted = -1; // the entry of an item that no scan has come to
-
-bool allocateOffsets(Offsets& offsets, std::int64_t count, const char* label) {
-    offsets = Offsets::allocate(count, label);
-    std::fill(offsets.begin(), offsets.end(), notNoted);
-    return static_cast<bool>(offsets);
-}
-
-/// New entries from another file's. False: that file has fewer, or no memory.
-bool copyOffsets(const Offsets& source, Offsets& target, std::int64_t count, const char* label) {
-    if (source.count() < count || !allocateOffsets(target, count, label))
-        return false;
-    std::copy_n(source.begin(), count, target.begin());
-    return true;
-}
 
 class FileSetSetup {
 public:
@@ -161,9 +144,7 @@ private:
 
     bool scanFunctionFile(Plot3DFile_s& file) {
         const OpenedFile opened(file);
-        return opened &&
-               allocateOffsets(file.varOffsets, offsetCount(file),
-                               "Primary Function Offset Array") &&
+        return opened && allocateFunctionOffsets(file, handler_.getNumGrids()) &&
                functionsFit(file) && scanFile(file, options_.gridSet, context_);
     }
 
