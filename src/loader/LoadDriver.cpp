@@ -4,6 +4,7 @@
 
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/items/CurrentTask.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 #include "instructions/InstructionWriter.h"
 #include "instructions/TurnedRange.h"
 #include "loader/DatasetCompatibility.h"

@@ -13,14 +13,6 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-/// The records of files may end with the load, and their addresses be given to others.
-struct ClearRepoAtEnd {
-    ClearRepoAtEnd() = default;
-    ~ClearRepoAtEnd() { Plot3DVarRepo::instance().clear(); }
-    ClearRepoAtEnd(const ClearRepoAtEnd&) = delete;
-    ClearRepoAtEnd& operator=(const ClearRepoAtEnd&) = delete;
-};
-
 /// The zones of one file set, grid by grid.
 class FileSetZones {
 public:
@@ -173,7 +165,7 @@ bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler&
 
 bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                        std::int32_t fileSetIndex) {
-    const ClearRepoAtEnd guard;
+    const VarRepoClearing repoClearing;
     stage.strands.beginFileSet();
     fillTypes(stage, handler);
     FileSetZones zones(stage, handler, fileSetIndex);
