@@ -10,9 +10,6 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-constexpr std::int32_t triangleCorners = 3;
-constexpr std::int32_t tetrahedronCorners = 4;
-
 bool readElements(Plot3DFile_s& file, bool store, QuorNodeMapHandle nodeMap,
                   const Plot3DGridDims_s& dims) {
     const std::int32_t nodes = dims.i;

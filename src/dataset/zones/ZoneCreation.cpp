@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "dataset/items/Connectivity.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "dataset/variables/VariableNames.h"
@@ -128,7 +129,6 @@ void fillTypes(const Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler)
 std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s& dims) {
     if (handler.getDataStructure() != Plot3DDataStructure_Unstructured)
         return QuorZoneType_Ordered;
-    constexpr std::int64_t triangleCorners = 3;
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
 }
 
