@@ -8,7 +8,6 @@
 #include "dataset/variables/VariableNames.h"
 #include "dataset/zones/FileSetSetup.h"
 #include "dataset/zones/ZoneDimensions.h"
-#include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
 
@@ -61,7 +60,7 @@ private:
     std::int32_t strandFor(std::int32_t grid, std::int32_t baseZone) {
         if (!stage_.assignStrandIDs)
             return noStrand;
-        return stage_.strands.strandForGrid(handler_.getGridDims(grid), integerToText(baseZone))
+        return stage_.strands.strandForGrid(handler_.getGridDims(grid), std::to_string(baseZone))
             .strand;
     }
 
@@ -107,9 +106,9 @@ private:
     }
 
     void reportTooManyZones(std::int32_t selected) const {
-        const std::string text = "Failed to load grid " + integerToText(selected) + " from " +
+        const std::string text = "Failed to load grid " + std::to_string(selected) + " from " +
                                  handler_.getGridFileName() + "\nMaximum number of zones is " +
-                                 integerToText(maximumZoneNumber) + ".";
+                                 std::to_string(maximumZoneNumber) + ".";
         QuorUtilDialogErrMsg(text.c_str());
     }
 
