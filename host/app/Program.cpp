@@ -23,6 +23,15 @@ struct CarryOut_s {
     ExitCode_e operator()(ExitCode_e code) const { return code; }
 };
 
+/// The text goes out as it is if there is no memory for the form of an error line.
+void tellFailure(std::ostream& err, const char* what) {
+    try {
+        tellError(err, what);
+    } catch (const std::exception&) {
+        err << "quorhost: error: " << what << '\n';
+    }
+}
+
 } // namespace
 
 int run(const std::vector<std::string>& arguments, const Console_s& console) noexcept {
@@ -30,7 +39,7 @@ int run(const std::vector<std::string>& arguments, const Console_s& console) noe
         const Command command = parseCommandLine(arguments, console.out, console.err);
         return static_cast<int>(std::visit(CarryOut_s{console}, command));
     } catch (const std::exception& failure) {
-        tellError(console.err, failure.what());
+        tellFailure(console.err, failure.what());
         return static_cast<int>(ExitCode_e::Failed);
     }
 }

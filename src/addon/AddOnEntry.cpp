@@ -35,25 +35,28 @@ void showHostTooOld() {
 }
 
 template <typename Function>
-void appendFunction(QuorArgListHandle arguments, const char* key, Function function) {
-    QuorUtilArgListAppendFunction(arguments, key, reinterpret_cast<QuorFunction>(function));
+bool appendFunction(QuorArgListHandle arguments, const char* key, Function function) {
+    return QuorUtilArgListAppendFunction(arguments, key, reinterpret_cast<QuorFunction>(function));
 }
 
+/// A host that does not take all of it gets no loader, like one that refuses the registration.
 void registerLoader() {
     const HostArgList list(QuorUtilArgListAlloc());
     if (!list)
-        return; // like a registration that the host refuses: there is no loader
+        return;
     const QuorArgListHandle arguments = list.get();
-    QuorUtilArgListAppendString(arguments, "LoaderName", loaderName);
-    QuorUtilArgListAppendString(arguments, "FileNameExtensions",
-                                filePatternListText(false).c_str());
-    QuorUtilArgListAppendInt(arguments, "LoaderCallbackVersion", 1);
-    appendFunction(arguments, "LoaderCallback", loaderCallback);
-    appendFunction(arguments, "LoaderSelectedCallback", loaderSelectedCallback);
-    QuorUtilArgListAppendInt(arguments, "AllowMultiFileSelection", 1);
-    QuorUtilArgListAppendInt(arguments, "AllowAdvancedOptions", 1);
-    QuorUtilArgListAppendInt(arguments, "AllowAppending", 1);
-    QuorUtilImportAddLoaderX(arguments);
+    const bool isWhole =
+        QuorUtilArgListAppendString(arguments, "LoaderName", loaderName) &&
+        QuorUtilArgListAppendString(arguments, "FileNameExtensions",
+                                    filePatternListText(false).c_str()) &&
+        QuorUtilArgListAppendInt(arguments, "LoaderCallbackVersion", 1) &&
+        appendFunction(arguments, "LoaderCallback", loaderCallback) &&
+        appendFunction(arguments, "LoaderSelectedCallback", loaderSelectedCallback) &&
+        QuorUtilArgListAppendInt(arguments, "AllowMultiFileSelection", 1) &&
+        QuorUtilArgListAppendInt(arguments, "AllowAdvancedOptions", 1) &&
+        QuorUtilArgListAppendInt(arguments, "AllowAppending", 1);
+    if (isWhole)
+        QuorUtilImportAddLoaderX(arguments);
 }
 
 } // namespace
@@ -70,7 +73,8 @@ void InitQuorAddOn113() {
     addOnID = QuorUtilAddOnRegister(registrationWord, loaderName, PLOT3DLOADER_VERSION, authorText);
     gRetainedSolutionFiles.clear();
     buildFilePatternTables();
-    registerLoader();
+    if (addOnID != nullptr) // without an identity no load could take the lock
+        registerLoader();
     setLoadOptionDefaults(gLoadOptions);
     QuorUtilStateChangeAddCallback(stateChangeCallback);
 }

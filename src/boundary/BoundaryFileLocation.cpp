@@ -3,6 +3,7 @@
 #include <string>
 
 #include "plot3dfile/bytes/FileSystem.h"
+#include "plot3dfile/file/Plot3DFile.h"
 
 namespace quorvia::quorutildataio {
 
@@ -16,6 +17,8 @@ bool findBoundaryFile(Plot3DLoadOptions_s& options) {
             options.boundaryFile = name;
             return true;
         }
+        if (fileSystem().hasFile(name)) // it would be missed, where nobody asked for it by name
+            QuorUtilDialogErrMsg(cannotOpenText(name).c_str());
     }
     return false;
 }

@@ -1,5 +1,7 @@
 #include "loader/BoundaryStage.h"
 
+#include <string>
+
 #include "boundary/BoundaryFile.h"
 #include "boundary/BoundaryZones.h"
 #include "quorvia/HostHandles.h"
@@ -13,9 +15,15 @@ void addBoundaryZones(Plot3DLoadContext_s& context, QuorSetHandle zonesAdded) {
     Plot3DBoundaryList boundaries;
     HostStringList names;
     std::int64_t count = 0;
-    if (readBoundaryFile(context.options, *first.gridFile, boundaries, names, count))
-        createBoundaryZones(context.options, context.fileSets, boundaries.get(), names.get(),
-                            context.assignStrandIDs, context.parentZones, zonesAdded);
+    const std::string& fileName = context.options.boundaryFile;
+    if (!readBoundaryFile(context.options, *first.gridFile, boundaries, names, count))
+        return;
+    if (!names) // the file was found before the headers were read, and does not open now
+        QuorUtilDialogErrMsg(cannotOpenText(fileName).c_str());
+    else if (!createBoundaryZones(context.options, context.fileSets, boundaries.get(), names.get(),
+                                  context.assignStrandIDs, context.parentZones, zonesAdded))
+        QuorUtilDialogErrMsg(
+            ("Not all boundary zones could be loaded.\nFile: " + fileName).c_str());
 }
 
 } // namespace quorvia::quorutildataio

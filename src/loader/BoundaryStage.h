@@ -6,7 +6,7 @@
 namespace quorvia::quorutildataio {
 
 /// Reads the boundary file and adds its zones, which go into `zonesAdded` (borrowed) too. A failure
-/// leaves the load as it is, with the boundary zones made so far; a bad file has been told.
+/// leaves the load as it is, with the boundary zones made so far, and has been told.
 void addBoundaryZones(Plot3DLoadContext_s& context, QuorSetHandle zonesAdded);
 
 } // namespace quorvia::quorutildataio

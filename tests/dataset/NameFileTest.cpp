@@ -82,7 +82,8 @@ TEST_F(NameFile, ThrowsWhenTheHostTakesNoName) {
 TEST_F(NameFile, StopsWithoutMemoryForALine) {
     host().failCall("QuorUtilStringAlloc", 2);
     EXPECT_EQ(namesFrom("a\nb\n"), (Texts{"a", "v2", "v3", "v4"}));
-    EXPECT_EQ(messages(), Texts());
+    EXPECT_EQ(messages(), Texts{"The Name File " + directory.file("names.txt") +
+                                " could not be read to its end."});
 }
 
 } // namespace

@@ -53,6 +53,26 @@ void cutName(char* line) {
         line[length] = '\0';
 }
 
+/// False: there is no memory for a line, or the file could not be read on.
+bool setNames(FileStream& stream, QuorStringListHandle names, std::int32_t firstIndex,
+              std::int32_t count) {
+    TextReader reader(stream);
+    for (std::int32_t n = 0; n < count; ++n) {
+        const HostString line(QuorUtilStringAlloc(lineBufferSize, "Name File Variable Name"));
+        if (!line)
+            return false;
+        readLine(reader, line.get());
+        if (stream.hadReadError())
+            return false; // what has come of the line is no name
+        if (line.view().empty())
+            return true; // the end of the file
+        cutName(line.get());
+        if (!QuorUtilStringListSetString(names, std::int64_t{firstIndex} + n, line.get()))
+            throw std::bad_alloc();
+    }
+    return true;
+}
+
 } // namespace
 
 void readNameFile(const std::string& path, QuorStringListHandle names, std::int32_t firstIndex,
@@ -62,18 +82,8 @@ void readNameFile(const std::string& path, QuorStringListHandle names, std::int3
         QuorUtilDialogErrMsg(("The Name File " + path + " could not be opened.").c_str());
         return;
     }
-    TextReader reader(*stream);
-    for (std::int32_t n = 0; n < count; ++n) {
-        const HostString line(QuorUtilStringAlloc(lineBufferSize, "Name File Variable Name"));
-        if (!line)
-            return;
-        readLine(reader, line.get());
-        if (line.view().empty())
-            return; // the end of the file
-        cutName(line.get());
-        if (!QuorUtilStringListSetString(names, std::int64_t{firstIndex} + n, line.get()))
-            throw std::bad_alloc();
-    }
+    if (!setNames(*stream, names, firstIndex, count))
+        QuorUtilDialogErrMsg(("The Name File " + path + " could not be read to its end.").c_str());
 }
 
 } // namespace quorvia::quorutildataio

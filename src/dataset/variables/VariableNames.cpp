@@ -109,9 +109,8 @@ std::int64_t countFunctionNames(const Plot3DFile_s& file) {
 void addFunctionNames(NameWriter& writer, const std::vector<Plot3DFile_s*>& files) {
     std::int32_t ordinal = 1;
     for (const Plot3DFile_s* file : files) {
-        // Without an answer of the host the names may repeat some that are there; no reason to
-        // stop.
-        findFreeFunctionOrdinal(ordinal);
+        if (!findFreeFunctionOrdinal(ordinal))
+            throw std::bad_alloc(); // a name might repeat one that is there
         for (std::int64_t k = 1; k <= countFunctionNames(*file); ++k)
             writer.add(functionName(ordinal, k));
         ++ordinal;

@@ -14,7 +14,7 @@
 namespace quorvia::quorutildataio {
 
 /// Sets the names in `names` (host string list, by index from 1) and gives the last index set.
-/// Throws std::bad_alloc if the host could not take a name.
+/// Throws std::bad_alloc if the host could not take a name, or does not tell those that are taken.
 std::int32_t buildVariableNames(const Plot3DLoadShape_s& shape, const Plot3DLoadOptions_s& options,
                                 const Plot3DFileHandler& firstHandler, QuorStringListHandle names);
 

@@ -29,12 +29,21 @@ bool setUpFile(const Plot3DAppendedFunctions_s& request, const Plot3DFileHandler
                Plot3DItemContext_s& context) {
     Plot3DFile_s& file = *handler.functionFiles.front();
     const OpenedFile opened(file);
-    if (!opened || !allocateFunctionOffsets(file, handler.getNumGrids()))
+    if (!opened)
         return false;
+    if (!allocateFunctionOffsets(file, handler.getNumGrids())) {
+        reportFileError(file, "Out of memory.");
+        return false;
+    }
     if (!hasKnownStructure(file))
         return true; // there is nothing that could be scanned
-    return fits(file, request, context.firstZone) &&
-           scanFile(file, request.options.gridSet, context);
+    if (!fits(file, request, context.firstZone))
+        return false;
+    if (scanFile(file, request.options.gridSet, context))
+        return true;
+    if (file.stream->hadReadError()) // in the header, which is read in silence
+        reportFileError(file, "The file could not be read.");
+    return false;
 }
 
 } // namespace

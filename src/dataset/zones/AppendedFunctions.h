@@ -19,8 +19,8 @@ struct Plot3DAppendedFunctions_s {
 };
 
 /// Sets up the first function file of each handler on the next zones, as many as it has grids.
-/// False: a file does not open, does not fit its zones, or can't be scanned (told), it has I-blank,
-/// memory ran out, or the load is to stop (not told). What has been set up so far stays.
+/// False: a file does not open, does not fit its zones, or can't be scanned, or memory ran out
+/// (told), it has I-blank, or the load is to stop (not told). What has been set up so far stays.
 bool setUpAppendedFunctions(const Plot3DAppendedFunctions_s& request,
                             std::vector<Plot3DFileHandler>& handlers);
 

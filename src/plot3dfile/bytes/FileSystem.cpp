@@ -17,10 +17,21 @@ constexpr std::int64_t largestRead = 0x7ffff000; // what Linux takes in one call
 
 class PosixFile final : public RandomAccessFile {
 public:
-    explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
-    ~PosixFile() override { close(descriptor_); }
+    PosixFile() = default;
+    ~PosixFile() override {
+        if (descriptor_ >= 0)
+            close(descriptor_);
+    }
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
+
+    bool open(const char* utf8Name) {
+        do {
+            // Without O_NONBLOCK a pipe would hold the host until somebody writes to it.
+            descriptor_ = ::open(utf8Name, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        } while (descriptor_ < 0 && errno == EINTR);
+        return descriptor_ >= 0;
+    }
 
     bool isRegular() {
         struct stat status = {};
@@ -39,7 +50,7 @@ public:
             if (got < 0)
                 return -1;
             if (got == 0)
-                break;
+                return isAtEnd(position + done) ? done : -1;
             done += got;
         }
         return done;
@@ -51,23 +62,28 @@ public:
     }
 
 private:
-    int descriptor_;
+    /// A file system that is out of order may give nothing where there is something, which must not
+    /// pass for the end of the file.
+    bool isAtEnd(std::int64_t position) {
+        const std::int64_t bytes = size();
+        return bytes >= 0 && position >= bytes;
+    }
+
+    int descriptor_ = -1;
 };
 
 class PosixFileSystem final : public FileSystem {
 public:
     std::unique_ptr<RandomAccessFile> open(const std::string& utf8Name) override {
-        int descriptor = -1;
-        do {
-            // Without O_NONBLOCK a pipe would hold the host until somebody writes to it.
-            descriptor = ::open(utf8Name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-        } while (descriptor < 0 && errno == EINTR);
-        if (descriptor < 0)
-            return nullptr;
-        auto file = std::make_unique<PosixFile>(descriptor);
-        if (!file->isRegular())
+        auto file = std::make_unique<PosixFile>(); // first: without memory nothing is left open
+        if (!file->open(utf8Name.c_str()) || !file->isRegular())
             return nullptr;
         return file;
+    }
+
+    bool hasFile(const std::string& utf8Name) override {
+        struct stat status = {};
+        return stat(utf8Name.c_str(), &status) == 0 && S_ISREG(status.st_mode);
     }
 };
 

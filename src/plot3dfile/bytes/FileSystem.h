@@ -30,6 +30,10 @@ public:
     /// Null if there is no such file, if it may not be read, or if it is no regular file (a
     /// directory, or a pipe that would never end).
     virtual std::unique_ptr<RandomAccessFile> open(const std::string& utf8Name) = 0;
+
+    /// Whether there is such a regular file, readable or not. Tells one that can't be opened from
+    /// one that was never there.
+    virtual bool hasFile(const std::string& utf8Name) { return open(utf8Name) != nullptr; }
 };
 
 /// The file system in use; the platform's, unless a test has put another in its place.
