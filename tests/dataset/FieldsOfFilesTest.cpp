@@ -4,6 +4,7 @@
 #include "DatasetFixture.h"
 #include "FakeFiles.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/items/VariableItem.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/layout/LayoutParsers.h"
 

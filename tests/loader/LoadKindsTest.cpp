@@ -409,7 +409,7 @@ TEST_F(AppendedFunctions, WantTheHostsAnswer) {
     loadFirst();
     host().failCall("QuorUtilDataSetGetInfo", 1);
     EXPECT_EQ(refusal({functionFile("a.fun", twoGrids, 2)}),
-              "QuorUtilDataSetGetInfo: there is no data set");
+              "QuorUtilDataSetGetInfo: failed on purpose");
 }
 
 TEST_F(AppendedFunctions, EndQuietlyOnInterruptionAndKeepTheVariables) {

@@ -5,6 +5,7 @@
 
 #include "RecordFixture.h"
 #include "plot3dfile/numbers/FortranRecords.h"
+#include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/NumberStream.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 

@@ -68,20 +68,19 @@ TEST(StyleRules, HaveWordsAndCaptionsInTheOrderOfTheMenu) {
 
 // A style with scalars that none of them is the time of would give every time step the time 0.
 TEST(StyleRules, HaveExactlyOneTimeAmongTheScalars) {
-    for (const StyleRules_s& rules : allStyleRules())
-        if (!rules.scalars.empty())
-            EXPECT_EQ(std::count_if(
-                          rules.scalars.begin(), rules.scalars.end(),
-                          [](const StyleScalar_s& scalar) { return scalar.itemName == nullptr; }),
-                      1)
-                << findWord(styleWords, rules.style);
+    const auto isTime = [](const StyleScalar_s& scalar) { return scalar.itemName == nullptr; };
+    for (const StyleRules_s& rules : allStyleRules()) {
+        const auto times = std::count_if(rules.scalars.begin(), rules.scalars.end(), isTime);
+        EXPECT_EQ(times, rules.scalars.empty() ? 0 : 1) << findWord(styleWords, rules.style);
+    }
 }
 
 // Four scalars are all that a 1-D file has.
 TEST(StyleRules, HaveFourScalarsAtLeastWhereThereAreAnyIn1D) {
-    for (const StyleRules_s& rules : allStyleRules())
-        if (rules.existsIn1D && !rules.scalars.empty())
-            EXPECT_GE(rules.scalars.size(), 4U) << findWord(styleWords, rules.style);
+    for (const StyleRules_s& rules : allStyleRules()) {
+        const bool hasFewer = !rules.scalars.empty() && rules.scalars.size() < 4;
+        EXPECT_FALSE(rules.existsIn1D && hasFewer) << findWord(styleWords, rules.style);
+    }
 }
 
 TEST(StyleRules, OfAGridFileAreThoseOfNoStyle) {
