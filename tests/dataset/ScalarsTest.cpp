@@ -162,6 +162,7 @@ protected:
     }
     Plot3DFile_s& textOf(const std::string& numbers, Plot3DStyle_e style, std::int32_t numScalars) {
         Plot3DFile_s& file = writeBytes("q.txt", numbers);
+        file.isSolutionOrFunction = true;
         file.style = style;
         file.numScalars = numScalars;
         openPlot3DFile(file);

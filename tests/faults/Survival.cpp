@@ -87,7 +87,7 @@ std::optional<DataSetOutcome_s> withoutAuxData(std::optional<DataSetOutcome_s> d
         return dataSet;
     dataSet->auxData.clear();
     for (ZoneOutcome_s& zone : dataSet->zones)
-        zone.auxData.clear();
+        zone.auxData = {};
     return dataSet;
 }
 
