@@ -93,7 +93,7 @@ void ReferenceHost::reset() {
     host.solutionTimesChanged = false;
     host.lastError.clear();
     host.toolkit.closeAll();
-    host.script = {};
+    host.script.reset();
     host.user = &host.script;
     host.resetSerial = host.serials.last();
 }

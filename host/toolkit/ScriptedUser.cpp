@@ -38,7 +38,13 @@ void ScriptedUser::takeLooksLeft() {
     script_ = std::move(others);
 }
 
-void ScriptedUser::clearScript() {
+void ScriptedUser::reset() noexcept {
+    answers_.clear();
+    laterAnswers_ = false;
+    clearScript();
+}
+
+void ScriptedUser::clearScript() noexcept {
     script_.clear();
     fileChoices_.clear();
     problem_.clear();

@@ -42,7 +42,9 @@ public:
     void addToScript(std::vector<ScriptEntry> entries);
     /// When no dialog will come any more: the looks that are left are taken.
     void takeLooksLeft();
-    void clearScript();
+    void clearScript() noexcept;
+    /// As if nothing had ever been written down. Needs no memory.
+    void reset() noexcept;
 
     /// Entries that are still to be played, file choices that nobody asked for included.
     std::size_t entriesLeft() const { return script_.size() + fileChoices_.size(); }
