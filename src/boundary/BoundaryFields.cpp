@@ -4,6 +4,7 @@
 #include <new>
 #include <optional>
 
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/ondemand/LongReads.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/file/OpenedFile.h"
@@ -32,14 +33,6 @@ ClientDataPtr allocateClientData() {
 
 Plot3DBoundaryClientData_s* clientDataOf(QuorFieldHandle field) {
     return static_cast<Plot3DBoundaryClientData_s*>(QuorUtilDataValueGetClientData(field));
-}
-
-/// Where the first variable of a grid stands; empty if no scan has come to it.
-std::optional<std::int64_t> gridOffsetOf(const Plot3DFile_s& file, std::int32_t gridNumber) {
-    const std::int64_t index = (std::int64_t{gridNumber} - 1) * file.numVars;
-    if (index < 0 || index >= file.varOffsets.count() || file.varOffsets[index] < 0)
-        return std::nullopt;
-    return file.varOffsets[index];
 }
 
 bool isInside(const Plot3DBoundary_s& boundary, const Plot3DGridDims_s& dims) {
@@ -191,7 +184,9 @@ Plot3DSharedFile copyForFields(const Plot3DFile_s& file) {
 bool setUpBoundaryVars(const Plot3DFile_s& file, const Plot3DSharedFile& shared, std::int32_t skipI,
                        std::int32_t skipJ, std::int32_t skipK, const Plot3DBoundary_s& boundary,
                        std::int32_t zone, std::int32_t lastVar, std::int32_t firstVar) {
-    const std::optional<std::int64_t> gridOffset = gridOffsetOf(file, boundary.gridNumber);
+    constexpr std::int32_t firstOfGrid = 0;
+    const std::optional<std::int64_t> gridOffset = notedOffset(
+        file.varOffsets, fieldEntry(file, std::int64_t{boundary.gridNumber} - 1, firstOfGrid));
     for (std::int32_t var = firstVar; var <= lastVar; ++var) {
         ClientDataPtr data = allocateClientData();
         if (data == nullptr || !gridOffset || !shared)

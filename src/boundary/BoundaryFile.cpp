@@ -188,20 +188,8 @@ Plot3DBoundary_s::~Plot3DBoundary_s() {
 }
 
 Plot3DBoundaryList copyBoundary(const Plot3DBoundary_s& boundary) {
-    Plot3DBoundaryList copy(new (std::nothrow) Plot3DBoundary_s);
-    if (copy == nullptr)
-        return nullptr;
-    copy->nameIndex = boundary.nameIndex;
-    copy->gridNumber = boundary.gridNumber;
-    copy->iStart = boundary.iStart;
-    copy->iEnd = boundary.iEnd;
-    copy->jStart = boundary.jStart;
-    copy->jEnd = boundary.jEnd;
-    copy->kStart = boundary.kStart;
-    copy->kEnd = boundary.kEnd;
-    copy->logicalField = boundary.logicalField;
-    copy->trailingValue = boundary.trailingValue;
-    return copy;
+    const Plot3DBoundaryLine_s& line = boundary;
+    return Plot3DBoundaryList(new (std::nothrow) Plot3DBoundary_s(line));
 }
 
 bool readBoundaryFile(const Plot3DLoadOptions_s& options, const Plot3DFile_s& gridFile,

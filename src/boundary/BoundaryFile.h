@@ -12,8 +12,9 @@
 
 namespace quorvia::quorutildataio {
 
-/// One boundary. The ranges are resolved: they count from 1 and include their ends.
-struct Plot3DBoundary_s {
+/// What a line says of a boundary. The ranges are resolved: they count from 1 and include their
+/// ends.
+struct Plot3DBoundaryLine_s {
     std::int32_t nameIndex = 0;  // into the list of names, from 1
     std::int32_t gridNumber = 0; // from 1
     std::int32_t iStart = 0;
@@ -24,9 +25,14 @@ struct Plot3DBoundary_s {
     std::int32_t kEnd = 0;
     bool logicalField = false;      // carried along; nothing reads it
     std::int32_t trailingValue = 0; // the same
+};
+
+/// One boundary, and those behind it in the file.
+struct Plot3DBoundary_s : Plot3DBoundaryLine_s {
     std::unique_ptr<Plot3DBoundary_s> next;
 
     Plot3DBoundary_s() = default;
+    explicit Plot3DBoundary_s(const Plot3DBoundaryLine_s& line) : Plot3DBoundaryLine_s(line) {}
     Plot3DBoundary_s(const Plot3DBoundary_s&) = delete;
     Plot3DBoundary_s& operator=(const Plot3DBoundary_s&) = delete;
     /// Frees the chain behind it one by one, so that a long list does not use up the stack.

@@ -20,7 +20,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 std::string rangeText(std::int32_t start, std::int32_t end) {
-    return "[" + integerToText(start) + "-" + integerToText(end) + "]";
+    return "[" + std::to_string(start) + "-" + std::to_string(end) + "]";
 }
 
 /// Null if there is no memory.

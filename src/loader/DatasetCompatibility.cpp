@@ -41,16 +41,16 @@ public:
             return refuse("No dataset present in Quorvia.  Cannot load solution only plot3d "
                           "files.");
         if (!QuorUtilDataSetGetInfo(nullptr, &context_.existingZoneCount,
-                                    &context_.existingVarCount))
+                                    &context_.shape.existingVarCount))
             return refuse("Cannot query for dataset information.");
         required_ = countSpatialVarsOfFrame();
         if (required_ == 0)
             return refuse("Must be in XY,Polar,2D or 3D plot type for this operation.");
-        if (context_.existingVarCount < required_)
+        if (context_.shape.existingVarCount < required_)
             return refuse("Not enough unique spatial vars available.");
         const bool fieldsFit = checkFields();
         if (!options_.hasGridFiles && sawIBlank_)
-            context_.hasIBlank = true;
+            context_.shape.hasIBlank = true;
         return fieldsFit;
     }
 
@@ -69,7 +69,7 @@ private:
 
     bool checkFields() {
         for (std::int32_t zone = 1; zone <= context_.existingZoneCount; ++zone)
-            for (std::int32_t var = 1; var <= context_.existingVarCount; ++var)
+            for (std::int32_t var = 1; var <= context_.shape.existingVarCount; ++var)
                 if (!checkField(zone, var))
                     return false;
         return true;
@@ -98,31 +98,29 @@ private:
                       "position.");
     }
 
-    /// 64-bit: headers may claim any numbers.
     std::int64_t neededVars() const {
-        return std::int64_t{context_.numSpatialVars} + context_.numSolutionVars +
-               context_.numFunctionVars + (context_.hasIBlank ? 1 : 0);
+        return context_.shape.gridAndSolutionVarCount() + context_.shape.numFunctionVars;
     }
 
     /// A 1-D solution goes into any plot.
     bool checkSpatialVars() const {
-        if (required_ == context_.numSpatialVars ||
+        if (required_ == context_.shape.numSpatialVars ||
             (first_.getDataStructure() == Plot3DDataStructure_1D && options_.hasSolutionFiles))
             return true;
         return refuse("Not allowed to append if existing dataset does not have the same number of "
                       "spatial variables (" +
                       std::to_string(required_) + ") as the number required by the plot3d files (" +
-                      std::to_string(context_.numSpatialVars) + ").");
+                      std::to_string(context_.shape.numSpatialVars) + ").");
     }
 
     bool checkGridFiles() const {
         if (!first_.hasGridFile())
             return refuse("The list of grid files to append is empty.");
-        if (!options_.hasSolutionFiles || neededVars() <= context_.existingVarCount)
+        if (!options_.hasSolutionFiles || neededVars() <= context_.shape.existingVarCount)
             return true;
         return refuse("Not allowed to append if existing dataset that has fewer number of "
                       "variables (" +
-                      std::to_string(context_.existingVarCount) +
+                      std::to_string(context_.shape.existingVarCount) +
                       ") than the number of variables required by the incoming grid and solution "
                       "files (" +
                       std::to_string(neededVars()) + ").");
@@ -139,11 +137,11 @@ private:
     }
 
     bool checkVarCount() const {
-        if (context_.existingVarCount == neededVars())
+        if (context_.shape.existingVarCount == neededVars())
             return true;
         return refuse("Not allowed to load solution in existing dataset that does not have the "
                       "number of variables (" +
-                      std::to_string(context_.existingVarCount) +
+                      std::to_string(context_.shape.existingVarCount) +
                       ") equal to the number of variables retrieved from in the solution files (" +
                       std::to_string(neededVars()) + ").\nTry loading with a grid file.");
     }

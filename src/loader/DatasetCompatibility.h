@@ -5,8 +5,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Fills `existingZoneCount`, `existingVarCount` and `firstNewZone`, and may set `hasIBlank`.
-/// Changes nothing in the host. False (told): they can't be joined.
+/// Fills `existingZoneCount`, the shape's `existingVarCount` and `firstNewZone`, and may set its
+/// `hasIBlank`. Changes nothing in the host. False (told): they can't be joined.
 [[nodiscard]] bool checkDatasetCompatibility(Plot3DLoadContext_s& context);
 
 } // namespace quorvia::quorutildataio

@@ -33,13 +33,12 @@ void reportFailedFileSet(const Plot3DFileHandler& fileSet) {
 
 /// Of a load without zones to give them to, new variables are not added.
 std::int64_t countVariablesToBe(const Plot3DLoadContext_s& context) {
-    const std::int64_t names =
-        countVariableNames(context.hasIBlank, context.numSpatialVars, context.numSolutionVars,
-                           context.fileSets.front());
+    const std::int64_t names = countVariableNames(context.shape, context.fileSets.front());
     if (!context.options.append && context.options.hasGridFiles)
         return names;
-    return context.existingZoneCount > 0 ? std::max<std::int64_t>(context.existingVarCount, names)
-                                         : context.existingVarCount;
+    return context.existingZoneCount > 0
+               ? std::max<std::int64_t>(context.shape.existingVarCount, names)
+               : context.shape.existingVarCount;
 }
 
 bool checkVariables(const Plot3DLoadContext_s& context) {
@@ -47,11 +46,10 @@ bool checkVariables(const Plot3DLoadContext_s& context) {
     // Counts that are absurd are told by the stage.
     if (!std::all_of(fileSets.begin(), fileSets.end(), areCountsPlausible))
         return true;
-    const Plot3DVariablePlaces_s places = {context.numSpatialVars, context.hasIBlank,
-                                           context.numSolutionVars, countVariablesToBe(context)};
-    const auto bad =
-        std::find_if_not(fileSets.begin(), fileSets.end(), [&places](const auto& fileSet) {
-            return checkVariablesFor(fileSet, places);
+    const std::int64_t varCount = countVariablesToBe(context);
+    const auto bad = std::find_if_not(
+        fileSets.begin(), fileSets.end(), [&context, varCount](const auto& fileSet) {
+            return checkVariablesFor(fileSet, context.shape, varCount);
         });
     if (bad != fileSets.end())
         reportFailedFileSet(*bad);
@@ -155,9 +153,7 @@ bool DatasetStage::prepare() {
     varNames = HostStringList(QuorUtilStringListAlloc());
     if (!zonesAdded || !varNames)
         return false;
-    varCount = buildVariableNames(context.hasIBlank, context.numSpatialVars,
-                                  context.numSolutionVars, context.numFunctionVars, options, first,
-                                  varNames.get(), context.fileSets);
+    varCount = buildVariableNames(context.shape, options, first, varNames.get());
     arguments = HostArgList(QuorUtilArgListAlloc());
     if (!arguments)
         return false;
@@ -168,11 +164,11 @@ bool DatasetStage::prepare() {
     addVarsToGrid = joinsLoneGrid(context);
     if (!countVariables() || !adjustZones())
         return false;
-    if (context.existingVarCount < varCount && context.existingZoneCount > 0 &&
+    if (context.shape.existingVarCount < varCount && context.existingZoneCount > 0 &&
         !addMissingVariables(options, first, varNames.get(), arguments.get(), varCount,
-                             context.existingVarCount, varsAdded))
+                             context.shape.existingVarCount, varsAdded))
         return false;
-    varTypes = HostArray<std::int32_t>::allocate(context.existingVarCount, "vardatatypes");
+    varTypes = HostArray<std::int32_t>::allocate(context.shape.existingVarCount, "vardatatypes");
     if (!varTypes) {
         QuorUtilDialogErrMsg("memory allocation error.");
         return false;
@@ -192,7 +188,7 @@ bool DatasetStage::createDataSet() {
 
 /// The host knows best how many variables the data set has by now.
 bool DatasetStage::countVariables() {
-    if (QuorUtilDataSetGetInfo(nullptr, nullptr, &context.existingVarCount))
+    if (QuorUtilDataSetGetInfo(nullptr, nullptr, &context.shape.existingVarCount))
         return true;
     QuorUtilPostLastErrorMessage();
     return false;
@@ -224,7 +220,7 @@ bool DatasetStage::adjustZones() {
         QuorUtilDialogErrMsg("memory allocation error");
         return false;
     }
-    for (std::int32_t var = context.numSpatialVars + 1; var <= varCount; ++var)
+    for (std::int32_t var = context.shape.numSpatialVars + 1; var <= varCount; ++var)
         if (!QuorUtilSetAddMember(varsAltered.get(), var, showErrors))
             return false;
     return true;
@@ -261,11 +257,8 @@ bool DatasetStage::addZones() {
                                       : context.existingZoneCount - context.zonesPerTimeStep + 1;
     Plot3DZoneStage_s stage{.options = options,
                             .firstHandler = first,
+                            .shape = context.shape,
                             .zoneBase = zoneBase,
-                            .existingVarCount = context.existingVarCount,
-                            .hasIBlank = context.hasIBlank,
-                            .numSpatialVars = context.numSpatialVars,
-                            .numSolutionVars = context.numSolutionVars,
                             .assignStrandIDs = context.assignStrandIDs,
                             .replaceSolution = replacesSolution(),
                             .addVarsToGrid = addVarsToGrid,
@@ -340,7 +333,7 @@ bool DatasetStage::deleteNewZonesAndVars() {
     removeUpTo(zones.get(), context.existingZoneCount);
     if (!QuorUtilSetIsEmpty(zones.get()))
         QuorUtilDataSetDeleteZone(zones.get());
-    removeUpTo(vars.get(), context.existingVarCount);
+    removeUpTo(vars.get(), context.shape.existingVarCount);
     if (!QuorUtilSetIsEmpty(vars.get()))
         QuorUtilDataSetDeleteVar(vars.get());
     return true;

@@ -71,9 +71,12 @@ const char* firstRefusal(const CountRule_s (&rules)[ruleCount], Counts counts) {
 } // namespace
 
 bool checkFileSetCounts(const Plot3DLoadOptions_s& options) {
-    const NameCounts_s counts{options.gridFiles.size(), options.solutionFiles.size(),
-                              options.functionFiles.size(), options.append,
-                              options.hasGridFiles && options.hasSolutionFiles};
+    const NameCounts_s counts{.g = options.gridFiles.size(),
+                              .s = options.solutionFiles.size(),
+                              .f = options.functionFiles.size(),
+                              .append = options.append,
+                              .hasGridAndSolution =
+                                  options.hasGridFiles && options.hasSolutionFiles};
     const char* refusal = counts.f == 0 ? firstRefusal(rulesWithoutFunctions, counts)
                                         : firstRefusal(rulesWithFunctions, counts);
     if (refusal == pass)

@@ -63,7 +63,11 @@ bool appendFunctionFiles(std::vector<Plot3DFileHandler>& fileSets,
     }
     const std::int32_t oldVarCount = varCount;
     return checkCounts(fileSets) && addVariables(fileSets, zones, varCount) &&
-           setUpAppendedFunctions({options, zones, oldVarCount + 1, varCount}, fileSets);
+           setUpAppendedFunctions({.options = options,
+                                   .zoneCount = zones,
+                                   .firstVar = oldVarCount + 1,
+                                   .lastVar = varCount},
+                                  fileSets);
 }
 
 } // namespace quorvia::quorutildataio

@@ -6,7 +6,7 @@ bool joinsLoneGrid(const Plot3DLoadContext_s& context) {
     constexpr std::int32_t mostVarsOfGrid = 4; // X, Y, Z, IBlank
     const Plot3DFileHandler& first = context.fileSets.front();
     return context.options.append && first.hasSolutionFile() && !first.hasGridFile() &&
-           context.existingVarCount <= mostVarsOfGrid;
+           context.shape.existingVarCount <= mostVarsOfGrid;
 }
 
 std::int32_t countSelectedGrids(const Plot3DLoadOptions_s& options,

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "dataset/variables/LoadShape.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/file/Plot3DFile.h"
 #include "plot3dfile/timestep/Plot3DFileHandler.h"
@@ -23,14 +24,10 @@ struct Plot3DLoadContext_s {
     Plot3DFileList solutionFiles;
     Plot3DFileList functionFiles;
     std::vector<Plot3DFileHandler> fileSets; // one for each time step; they borrow the records
-    std::int32_t numSpatialVars = 0;
-    std::int32_t numSolutionVars = 0;
-    std::int32_t numFunctionVars = 0;
+    Plot3DLoadShape_s shape;
     Plot3DDataStructure_e dataStructure = Plot3DDataStructure_Unknown;
-    bool hasIBlank = false;
     std::int32_t zonesPerTimeStep = 0;
     std::int32_t existingZoneCount = 0;
-    std::int32_t existingVarCount = 0;
     std::int32_t firstNewZone = 0; // from 1
     bool assignStrandIDs = false;
     HostArray<std::int32_t> parentZones; // by zone number minus 1

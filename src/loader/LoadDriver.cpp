@@ -4,6 +4,7 @@
 
 #include "boundary/BoundaryFileLocation.h"
 #include "dataset/items/CurrentTask.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 #include "instructions/InstructionWriter.h"
 #include "instructions/TurnedRange.h"
 #include "loader/DatasetCompatibility.h"
@@ -92,16 +93,17 @@ bool checkTextValues(const Plot3DLoadContext_s& context) {
 /// The first time step stands for the load.
 void readShape(Plot3DLoadContext_s& context) {
     const Plot3DFileHandler& first = context.fileSets.front();
+    Plot3DLoadShape_s& shape = context.shape;
     if (first.hasSolutionFile())
-        context.numSolutionVars = first.solutionFile->numVars;
+        shape.numSolutionVars = first.solutionFile->numVars;
     if (first.hasFunctionFiles())
-        context.numFunctionVars = first.functionFiles.front()->numVars;
+        shape.numFunctionVars = first.functionFiles.front()->numVars;
     if (first.hasGridFile() || first.hasSolutionFile()) {
         context.dataStructure = first.getDataStructure();
-        context.numSpatialVars = coordinateCount(context.dataStructure);
+        shape.numSpatialVars = coordinateCount(context.dataStructure);
     }
     if (first.hasGridFile())
-        context.hasIBlank = first.gridFile->hasIBlank;
+        shape.hasIBlank = first.gridFile->hasIBlank;
 }
 
 bool appendsFunctionsAlone(const Plot3DLoadContext_s& context) {

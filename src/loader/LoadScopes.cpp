@@ -1,7 +1,6 @@
 #include "loader/LoadScopes.h"
 
 #include "dataset/items/CurrentTask.h"
-#include "dataset/ondemand/Plot3DVarRepo.h"
 
 namespace quorvia::quorutildataio {
 
@@ -21,10 +20,6 @@ void LoadUndoState::end(bool success) {
     if (context.undoStarted)
         QuorUtilUndoStateEnd(doInvalidate, success);
     context.undoStarted = false;
-}
-
-VarRepoClearing::~VarRepoClearing() {
-    Plot3DVarRepo::instance().clear();
 }
 
 } // namespace quorvia::quorutildataio

@@ -34,13 +34,4 @@ private:
     Plot3DLoadContext_s& context;
 };
 
-/// Empties the process-wide repository, whose keys are addresses of the load's records.
-class VarRepoClearing {
-public:
-    VarRepoClearing() = default;
-    ~VarRepoClearing();
-    VarRepoClearing(const VarRepoClearing&) = delete;
-    VarRepoClearing& operator=(const VarRepoClearing&) = delete;
-};
-
 } // namespace quorvia::quorutildataio

@@ -37,10 +37,8 @@ std::int64_t zonesOf(const Plot3DFileHandler& fileSet) {
 } // namespace
 
 std::int64_t estimateLoadWork(const Plot3DLoadContext_s& context) {
-    const std::int64_t varsPerZone =
-        weightOf(std::int64_t{context.numSpatialVars} + context.numSolutionVars +
-                 (context.hasIBlank ? 1 : 0));
-    const std::int64_t functionVars = weightOf(context.numFunctionVars);
+    const std::int64_t varsPerZone = weightOf(context.shape.gridAndSolutionVarCount());
+    const std::int64_t functionVars = weightOf(context.shape.numFunctionVars);
     if (hasUniformGrids(context.options)) {
         const Plot3DFileHandler& first = context.fileSets.front();
         const auto functionFiles = static_cast<std::int64_t>(first.functionFiles.size());

@@ -155,8 +155,10 @@ bool pairFilesIntoHandlers(const Plot3DLoadOptions_s& options, const Plot3DFileL
     if (!checkStyles(solutionFiles, !areFunctions) || !checkStyles(functionFiles, areFunctions))
         return false;
 
-    const FileCounts_s counts{gridFiles.size(), solutionFiles.size(), functionFiles.size(),
-                              !options.solutionTimes.empty()};
+    const FileCounts_s counts{.g = gridFiles.size(),
+                              .s = solutionFiles.size(),
+                              .f = functionFiles.size(),
+                              .hasTimes = !options.solutionTimes.empty()};
     const PairingRule_s* rule = pairingRules;
     while (!rule->fits(counts))
         ++rule;

@@ -219,18 +219,16 @@ Plot3DFileHandler DatasetTest::step(Plot3DFile_s* grid, Plot3DFile_s* solution,
 bool DatasetTest::load(TimeSteps steps) {
     const Plot3DFileHandler& first = steps.front();
     const Plot3DDataStructure_e structure = first.getDataStructure();
-    numSpatialVars = structure == Plot3DDataStructure_1D   ? 1
-                     : structure == Plot3DDataStructure_2D ? 2
-                                                           : 3;
-    numSolutionVars = first.hasSolutionFile() ? first.solutionFile->numVars : 0;
-    hasIBlank = first.hasGridFile() && first.gridFile->hasIBlank;
-    const std::int32_t functionVars =
-        first.hasFunctionFiles() ? first.functionFiles.front()->numVars : 0;
+    shape.numSpatialVars = structure == Plot3DDataStructure_1D   ? 1
+                           : structure == Plot3DDataStructure_2D ? 2
+                                                                 : 3;
+    shape.numSolutionVars = first.hasSolutionFile() ? first.solutionFile->numVars : 0;
+    shape.hasIBlank = first.hasGridFile() && first.gridFile->hasIBlank;
+    shape.numFunctionVars = first.hasFunctionFiles() ? first.functionFiles.front()->numVars : 0;
     const HostStringList names(QuorUtilStringListAlloc());
     if (!names)
         return false;
-    buildVariableNames(hasIBlank, numSpatialVars, numSolutionVars, functionVars, options, first,
-                       names.get(), steps);
+    buildVariableNames(shape, options, first, names.get());
     const HostArgList arguments(QuorUtilArgListAlloc());
     if (!arguments)
         return false;
@@ -242,10 +240,10 @@ bool DatasetTest::load(TimeSteps steps) {
 }
 
 bool DatasetTest::addZones(TimeSteps& steps) {
-    std::int32_t varCount = 0;
-    if (!QuorUtilDataSetGetInfo(nullptr, nullptr, &varCount))
+    if (!QuorUtilDataSetGetInfo(nullptr, nullptr, &shape.existingVarCount))
         return false;
-    HostArray<std::int32_t> types = HostArray<std::int32_t>::allocate(varCount, "vardatatypes");
+    HostArray<std::int32_t> types =
+        HostArray<std::int32_t>::allocate(shape.existingVarCount, "vardatatypes");
     parentZones = HostArray<std::int32_t>::allocate(100, "Parent Zone Array");
     const HostArgList arguments(QuorUtilArgListAlloc());
     if (!types || !parentZones || !arguments)
@@ -255,12 +253,9 @@ bool DatasetTest::addZones(TimeSteps& steps) {
     currentTask = createTaskProgressBar(1);
     Plot3DZoneStage_s stage{.options = options,
                             .firstHandler = steps.front(),
+                            .shape = shape,
                             .zoneBase = options.hasGridFiles ? existingZoneCount + 1
                                                              : existingZoneCount - zonesPerStep + 1,
-                            .existingVarCount = varCount,
-                            .hasIBlank = hasIBlank,
-                            .numSpatialVars = numSpatialVars,
-                            .numSolutionVars = numSolutionVars,
                             .assignStrandIDs = options.assignStrandIds,
                             .replaceSolution = !options.append && !options.hasGridFiles,
                             .addVarsToGrid = addVarsToGrid,

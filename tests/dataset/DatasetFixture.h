@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dataset/variables/LoadShape.h"
 #include "dataset/zones/ZoneCreation.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/file/Plot3DFile.h"
@@ -109,9 +110,7 @@ protected:
     quorutildataio::Plot3DLoadOptions_s options;
 
     // The counts that addZones works with; load() sets them from the first time step.
-    std::int32_t numSpatialVars = 3;
-    std::int32_t numSolutionVars = 0;
-    bool hasIBlank = false;
+    quorutildataio::Plot3DLoadShape_s shape{.numSpatialVars = 3};
     bool addVarsToGrid = false;
     std::int32_t existingZoneCount = 0;
     std::int32_t firstNewZone = 1;

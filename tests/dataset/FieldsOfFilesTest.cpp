@@ -248,7 +248,7 @@ TEST_F(FieldsOfFiles, OfOtherPrecisionThanTheZonesAreTold) {
     makeDataSet({"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"});
     makeZone(oneGrid[0], 8);
     existingZoneCount = 1;
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     for (const FileForm_s& form : {binary(ByteOrder_e::Little, Precision_e::Double), text()}) {
         Plot3DFile_s& solution = write("q", describeSolution(oneGrid, 0.0), form);
         solution.isDoublePrecision = true;

@@ -338,7 +338,13 @@ TEST_F(FileSetSetup, TakesNoPositionsThatNoScanHasNoted) {
     Plot3DFile_s& q = write("q", describeSolution(oneGrid, 1));
     TimeSteps steps = {step(&x, &q)};
     ASSERT_TRUE(load(steps));
-    EXPECT_FALSE(setUpFileSet({options, steps[0], steps[0], 1, 1, 3, 5, 8, false, false}));
+    EXPECT_FALSE(setUpFileSet({.options = options,
+                               .handler = steps[0],
+                               .firstHandler = steps[0],
+                               .firstZoneOfLoad = 1,
+                               .firstZone = 1,
+                               .shape = shape,
+                               .isFirstFileSet = false}));
     EXPECT_EQ(messages(), Texts());
 }
 

@@ -32,8 +32,8 @@ protected:
         const std::int32_t solutionVars = first.hasSolutionFile() ? first.solutionFile->numVars : 0;
         const std::int32_t functionVars =
             first.hasFunctionFiles() ? first.functionFiles.front()->numVars : 0;
-        lastIndex = buildVariableNames(hasIBlank, spatialVars, solutionVars, functionVars, options,
-                                       first, list.get(), {first});
+        lastIndex = buildVariableNames(shape.hasIBlank, spatialVars, solutionVars, functionVars,
+                                       options, first, list.get(), {first});
         Texts names;
         for (std::int64_t index = 1; index <= QuorUtilStringListGetCount(list.get()); ++index)
             names.push_back(HostString(QuorUtilStringListGetString(list.get(), index)).str());
@@ -69,7 +69,7 @@ TEST_F(VariableNames, BeginWithOneTwoOrThreeSpatialOnes) {
 }
 
 TEST_F(VariableNames, HaveIBlankBehindTheSpatialOnes) {
-    hasIBlank = true;
+    shape.hasIBlank = true;
     EXPECT_EQ(namesOf(step(&recordOf("x"))), (Texts{"X", "Y", "Z", "IBlank"}));
     EXPECT_EQ(namesOf(step(&recordOf("x")), 2), (Texts{"X", "Y", "IBlank"}));
 }
@@ -145,7 +145,7 @@ TEST_F(VariableNames, TakeAsManyLinesAsTheNameFileHas) {
 
 TEST_F(VariableNames, OfSpaceAndIBlankNeverComeFromTheNameFile) {
     useNameFile("a\nb\nc\nd\ne\nf\n");
-    hasIBlank = true;
+    shape.hasIBlank = true;
     EXPECT_EQ(namesOf(step(&recordOf("x"), &solution(in2D, classic, 4)), 2),
               (Texts{"X", "Y", "IBlank", "a", "b", "c", "d"}));
 }
@@ -234,15 +234,18 @@ TEST_F(FreeFunctionOrdinal, FailsWithTheHost) {
 
 class FieldDataType : public VariableNames {};
 
+constexpr Plot3DLoadShape_s withIBlank{.numSpatialVars = 3, .hasIBlank = true};
+constexpr Plot3DLoadShape_s withoutIBlank{.numSpatialVars = 3};
+
 TEST_F(FieldDataType, IsIntegerForIBlankAlone) {
     Plot3DFile_s& grid = recordOf("x");
     grid.hasIBlank = true;
     grid.numVars = 3;
     grid.isDoublePrecision = true;
     const Plot3DFileHandler handler = step(&grid);
-    EXPECT_EQ(fieldDataType(handler, 2, true, 3), QuorFieldDataType_Double);
-    EXPECT_EQ(fieldDataType(handler, 3, true, 3), QuorFieldDataType_Int32);
-    EXPECT_EQ(fieldDataType(handler, 3, false, 3), QuorFieldDataType_Double);
+    EXPECT_EQ(fieldDataType(handler, 2, withIBlank), QuorFieldDataType_Double);
+    EXPECT_EQ(fieldDataType(handler, 3, withIBlank), QuorFieldDataType_Int32);
+    EXPECT_EQ(fieldDataType(handler, 3, withoutIBlank), QuorFieldDataType_Double);
 }
 
 TEST_F(FieldDataType, IsThePrecisionOfTheFile) {
@@ -251,8 +254,8 @@ TEST_F(FieldDataType, IsThePrecisionOfTheFile) {
     Plot3DFile_s& doubleSolution = solution(in3D, classic, 5);
     doubleSolution.isDoublePrecision = true;
     const Plot3DFileHandler handler = step(&grid, &doubleSolution);
-    EXPECT_EQ(fieldDataType(handler, 2, false, 3), QuorFieldDataType_Float);
-    EXPECT_EQ(fieldDataType(handler, 3, false, 3), QuorFieldDataType_Double);
+    EXPECT_EQ(fieldDataType(handler, 2, withoutIBlank), QuorFieldDataType_Float);
+    EXPECT_EQ(fieldDataType(handler, 3, withoutIBlank), QuorFieldDataType_Double);
 }
 
 } // namespace

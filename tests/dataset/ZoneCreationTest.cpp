@@ -243,7 +243,7 @@ TEST_F(ExistingZones, ThatCannotBeRenamedFail) {
 TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
     const FileDescription_s q = describeSolution(oneGrid, 0.5);
     TimeSteps steps = {step(nullptr, &write("q", q))};
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zoneCount(), 3);
     EXPECT_EQ(state(1, 3), host::FieldState::Stored);
@@ -256,7 +256,7 @@ TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
 TEST_F(ExistingZones, GetTheNewSolutionOfATextInPlaceOfTheirValues) {
     const FileDescription_s q = describeSolution(oneGrid, 0.5);
     TimeSteps steps = {step(nullptr, &write("q", q, text()))};
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(values(1, 8), fieldOf(q, 0, 4));
 }
@@ -268,7 +268,7 @@ TEST_F(ExistingZones, LendNodeMapAndGridToASolutionThatIsAppendedBesideThem) {
     TimeSteps steps = {
         step(nullptr, &write("q", describeSolution({{11, 5, 0}}, 1, Layout_e::Unstructured)))};
     options.append = true;
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     existingZoneCount = 4;
     firstNewZone = 5;
     ASSERT_TRUE(addZones(steps));
@@ -281,7 +281,7 @@ TEST_F(ExistingZones, LendNodeMapAndGridToASolutionThatIsAppendedBesideThem) {
 TEST_F(ExistingZones, LendTheirGridToLaterTimeStepsOfASolution) {
     TimeSteps steps = {step(nullptr, &solution("q1", oneGrid, 1)),
                        step(nullptr, &solution("q2", oneGrid, 2))};
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     firstNewZone = 3; // so that the second time step's zone comes behind the three
     existingZoneCount = 3;
     ASSERT_TRUE(addZones(steps));
@@ -294,7 +294,7 @@ TEST_F(ExistingZones, ThatGetASolutionAppendedTakeStrandsAndCountAsAdded) {
     TimeSteps steps = {step(nullptr, &solution("q", two))};
     options.append = true;
     addVarsToGrid = true;
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     existingZoneCount = 2;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(strands(), (Numbers32{1, 2, 0}));
@@ -311,7 +311,7 @@ TEST_F(ExistingZones, KeepTheirGridWhenASolutionIsAppended) {
     TimeSteps steps = {step(nullptr, &solution("q", oneGrid))};
     options.append = true;
     addVarsToGrid = true;
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     existingZoneCount = 1;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(values(1, 1)[0], 17.0);
@@ -319,7 +319,7 @@ TEST_F(ExistingZones, KeepTheirGridWhenASolutionIsAppended) {
 
 TEST_F(ExistingZones, OfOtherSizesAreNotFilled) {
     TimeSteps steps = {step(nullptr, &solution("q", {{2, 3, 7}}))};
-    numSolutionVars = 5;
+    shape.numSolutionVars = 5;
     existingZoneCount = 1;
     EXPECT_FALSE(addZones(steps));
     EXPECT_EQ(state(1, 4), host::FieldState::Stored);

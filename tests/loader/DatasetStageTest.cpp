@@ -20,7 +20,7 @@ class DatasetStage : public LoaderTest {
 protected:
     DatasetStage() : context(options, false) {
         currentTask = createTaskProgressBar(1);
-        context.numSpatialVars = 3;
+        context.shape.numSpatialVars = 3;
         context.assignStrandIDs = true;
         context.parentZones = HostArray<std::int32_t>::allocate(100, "Parent Zone Array");
     }
@@ -40,7 +40,7 @@ protected:
         build(options.solutionFiles, context.solutionFiles, true);
         ASSERT_TRUE(pairFilesIntoHandlers(options, context.gridFiles, context.solutionFiles, {},
                                           context.fileSets));
-        context.numSolutionVars = solutions > 0 ? 5 : 0;
+        context.shape.numSolutionVars = solutions > 0 ? 5 : 0;
         context.zonesPerTimeStep = 2;
         context.firstNewZone = 1;
     }
@@ -48,7 +48,7 @@ protected:
     void joinOldDataSet(const Texts& variables, std::int32_t zones) {
         makeOldDataSet(variables, zones);
         context.existingZoneCount = zones;
-        context.existingVarCount = static_cast<std::int32_t>(variables.size());
+        context.shape.existingVarCount = static_cast<std::int32_t>(variables.size());
         context.firstNewZone = options.append ? zones + 1 : 1;
     }
     bool run() { return createDatasetAndZones(context); }
@@ -201,7 +201,7 @@ TEST_F(DatasetStage, DeletesNewVariablesOnFailure) {
     options.append = true;
     joinOldDataSet(gridAndSolution, 3);
     // The stage counts the variables itself; a failed count leaves those of the check.
-    context.existingVarCount = 5;
+    context.shape.existingVarCount = 5;
     host().failCall("QuorUtilDataSetGetInfo", 1);
     EXPECT_FALSE(run());
     EXPECT_EQ(messages().size(), 1U); // the host's own words

@@ -12,8 +12,8 @@ using namespace quorutildataio;
 class LoadWork : public LoaderTest {
 protected:
     LoadWork() : context(options, false) {
-        context.numSpatialVars = 3;
-        context.numSolutionVars = 5;
+        context.shape.numSpatialVars = 3;
+        context.shape.numSolutionVars = 5;
         options.uniformGridStructure = false;
     }
     Plot3DFile_s* addGrid(std::int32_t gridCount) {
@@ -34,7 +34,7 @@ protected:
 TEST_F(LoadWork, IsZonesTimesVariables) {
     addStep(addGrid(7));
     EXPECT_EQ(estimateLoadWork(context), 7 * (3 + 5));
-    context.hasIBlank = true;
+    context.shape.hasIBlank = true;
     EXPECT_EQ(estimateLoadWork(context), 7 * (3 + 5 + 1));
 }
 
@@ -47,7 +47,7 @@ TEST_F(LoadWork, CountsPlanesOfAFileInPlanes) {
 }
 
 TEST_F(LoadWork, OfUnlikeStepsIsSummed) {
-    context.numFunctionVars = 2;
+    context.shape.numFunctionVars = 2;
     addStep(addGrid(7));
     addStep(addGrid(11));
     EXPECT_EQ(estimateLoadWork(context), (7 + 11) * (3 + 5 + 2));
@@ -55,7 +55,7 @@ TEST_F(LoadWork, OfUnlikeStepsIsSummed) {
 
 TEST_F(LoadWork, OfUniformStepsIsTheFirstStepsEachTime) {
     options.uniformGridStructure = true;
-    context.numFunctionVars = 2;
+    context.shape.numFunctionVars = 2;
     addStep(addGrid(7), {addFunctions(7), addFunctions(7), addFunctions(7)});
     addStep(addGrid(2));
     EXPECT_EQ(estimateLoadWork(context), 2 * 7 * (3 + 5 + 2 * 3));
@@ -71,7 +71,7 @@ TEST_F(LoadWork, OfOneGridFileIsTheFirstStepsEachTime) {
 
 TEST_F(LoadWork, OfAbsurdCountsStaysInRange) {
     constexpr std::int32_t absurd = std::numeric_limits<std::int32_t>::max();
-    context.numSolutionVars = absurd;
+    context.shape.numSolutionVars = absurd;
     Plot3DFile_s* grid = addGrid(7);
     grid->dataStructure = Plot3DDataStructure_3DPlanes;
     for (Plot3DGridDims_s& dims : grid->gridDims)
@@ -79,7 +79,7 @@ TEST_F(LoadWork, OfAbsurdCountsStaysInRange) {
     addStep(grid);
     addStep(grid);
     EXPECT_EQ(estimateLoadWork(context), std::numeric_limits<std::int64_t>::max());
-    context.numSolutionVars = -absurd;
+    context.shape.numSolutionVars = -absurd;
     EXPECT_EQ(estimateLoadWork(context), 0);
 }
 

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "dataset/items/AuxDataItem.h"
-#include "instructions/ValueText.h"
 #include "quorvia/HostHandles.h"
 
 namespace quorvia::quorutildataio {
@@ -31,7 +30,7 @@ constexpr std::array knownVariables = {
 bool setItemOfVariable(QuorAuxDataHandle auxData, std::string_view name, std::int64_t var) {
     for (const KnownVariable& known : knownVariables)
         if (known.name == name)
-            return setAuxDataItem(auxData, known.item, integerToText(var).c_str());
+            return setAuxDataItem(auxData, known.item, std::to_string(var).c_str());
     return true;
 }
 

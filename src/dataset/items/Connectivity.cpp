@@ -3,15 +3,11 @@
 #include <string>
 
 #include "dataset/items/SetupProgress.h"
-#include "instructions/ValueText.h"
 #include "plot3dfile/numbers/NumberStream.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
-
-constexpr std::int32_t triangleCorners = 3;
-constexpr std::int32_t tetrahedronCorners = 4;
 
 bool readElements(Plot3DFile_s& file, bool store, QuorNodeMapHandle nodeMap,
                   const Plot3DGridDims_s& dims) {
@@ -44,7 +40,7 @@ bool setUpConnectivityItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t z
         readElements(file, include, nodeMap, file.gridDims[static_cast<std::size_t>(grid)]);
     if (!ok && report && !file.stream->wasStopped())
         QuorUtilDialogErrMsg(
-            ("Corrupt Connectivity List, Grid=" + integerToText(grid + 1) + ".").c_str());
+            ("Corrupt Connectivity List, Grid=" + std::to_string(grid + 1) + ".").c_str());
     return ok;
 }
 

@@ -10,6 +10,10 @@
 
 namespace quorvia::quorutildataio {
 
+/// Nodes of one element.
+constexpr std::int32_t triangleCorners = 3;
+constexpr std::int32_t tetrahedronCorners = 4;
+
 /// Reads the elements of one grid, with `include` into the node map of its zone. False: a number
 /// can't be read or is no node (told to the user if `report`).
 bool setUpConnectivityItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone, bool include,

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <string_view>
 
 #include "instructions/Plot3DLoadOptions.h"
 
@@ -26,8 +25,5 @@ struct Plot3DItemContext_s {
 /// The ranges, zones and times of a load; `firstVar` is 1.
 Plot3DItemContext_s makeItemContext(const Plot3DLoadOptions_s& options,
                                     std::int32_t firstZoneOfLoad, std::int32_t firstZone);
-
-/// The last 17 characters of a path, or all of a shorter one: how progress texts name a file.
-std::string_view fileTail(std::string_view path);
 
 } // namespace quorvia::quorutildataio

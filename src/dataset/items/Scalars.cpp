@@ -6,6 +6,7 @@
 #include <span>
 
 #include "dataset/items/AuxDataItem.h"
+#include "dataset/items/NotedOffsets.h"
 #include "plot3dfile/bytes/BinaryNumbers.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/NumberStream.h"
@@ -76,11 +77,6 @@ bool setIfPresent(QuorAuxDataHandle auxData, const char* name, const AuxDataText
     return auxData == nullptr || setAuxDataItem(auxData, name, text.data());
 }
 
-void noteScalarsOffset(const Plot3DFile_s& file, std::int32_t zone) {
-    if (zone < file.auxDataOffsets.count())
-        file.auxDataOffsets[zone] = file.stream->tell();
-}
-
 void storeSolutionTime(Plot3DFile_s& file, std::int32_t zone, double time) {
     QuorUtilZoneSetSolutionTime(zone, time);
     file.solutionTime = time;
@@ -113,7 +109,7 @@ bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool 
     ScalarTargets targets;
     if (include) {
         targets = {QuorUtilAuxDataZoneGetRef(hostZone), QuorUtilAuxDataDataSetGetRef()};
-        noteScalarsOffset(file, zone);
+        noteOffset(file.auxDataOffsets, zone, file.stream->tell());
     }
     const auto setItem = [&](const char* name, bool isOnDataSet) {
         AuxDataText text;

@@ -1,9 +1,9 @@
 #include "dataset/items/SetupProgress.h"
 
 #include <string>
+#include <string_view>
 
 #include "dataset/items/CurrentTask.h"
-#include "dataset/items/ItemContext.h"
 
 namespace quorvia::quorutildataio {
 
@@ -18,6 +18,27 @@ std::string digitsOf(std::int32_t number) {
     return digits;
 }
 
+/// A byte of UTF-8 behind the first of its character.
+bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// The last 17 characters of a path, or all of a shorter one: how progress texts name a file.
+std::string_view fileTail(std::string_view path) {
+    constexpr std::int32_t tailLength = 17;
+    std::size_t start = path.size();
+    for (std::int32_t characters = 0; start > 0 && characters < tailLength;)
+        characters += continuesCharacter(path[--start]) ? 0 : 1;
+    return path.substr(start);
+}
+
+void appendSource(std::string& text, std::int32_t gridNumber, const Plot3DFile_s& file) {
+    text += " from Grid ";
+    text += digitsOf(gridNumber);
+    text += " in ...";
+    text += fileTail(file.fileName.view());
+}
+
 } // namespace
 
 FieldSteps::FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
@@ -27,10 +48,7 @@ FieldSteps::FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DF
     text_ += digitsOf(zone);
     text_ += ", Var=";
     place_ = text_.size();
-    text_ += " from Grid ";
-    text_ += digitsOf(gridNumber);
-    text_ += " in ...";
-    text_ += fileTail(file.fileName.view());
+    appendSource(text_, gridNumber, file);
 }
 
 bool FieldSteps::step(std::int32_t var) {
@@ -45,10 +63,8 @@ bool FieldSteps::step(std::int32_t var) {
 void showConnectivity(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file) {
     std::string text = "Loading Connectivity for Zone=";
     text += digitsOf(zone);
-    text += ", from Grid ";
-    text += digitsOf(gridNumber);
-    text += " in ...";
-    text += fileTail(file.fileName.view());
+    text += ',';
+    appendSource(text, gridNumber, file);
     text += '.';
     showOnCurrentTask(text.c_str());
 }

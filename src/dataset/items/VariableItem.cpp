@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
@@ -50,13 +51,12 @@ bool failItem(const Plot3DFile_s& file, const VariableItem& item, bool report) {
                     item.isIBlank ? "Error loading IBlank Variable." : "Error loading Variable.");
 }
 
-void noteOffset(Plot3DFile_s& file, const VariableItem& item, std::int32_t varIndex,
-                std::int64_t position) {
-    const HostArray<std::int64_t>& offsets = item.isIBlank ? file.iBlankOffsets : file.varOffsets;
-    const std::int64_t index =
-        item.isIBlank ? item.grid : std::int64_t{item.grid} * file.numVars + varIndex;
-    if (index < offsets.count())
-        offsets[index] = position;
+void notePosition(const Plot3DFile_s& file, const VariableItem& item, std::int32_t varIndex,
+                  std::int64_t position) {
+    if (item.isIBlank)
+        noteOffset(file.iBlankOffsets, item.grid, position);
+    else
+        noteOffset(file.varOffsets, fieldEntry(file, item.grid, varIndex), position);
 }
 
 bool hasFilePrecision(const Plot3DFile_s& file, std::int32_t type) {
@@ -166,7 +166,7 @@ bool setUpVariableItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone,
     item.ranges = resolveGridRanges(context.iRange, context.jRange, context.kRange, item.dims,
                                     isUnstructured);
     const std::int64_t position = file.stream->tell();
-    noteOffset(file, item, varIndex, position);
+    notePosition(file, item, varIndex, position);
     const std::optional<std::int64_t> count =
         item.isWholeField ? countUpToEnds(item.ranges)
                           : std::int64_t{item.dims.i} * item.dims.j; // two 32-bit factors fit

@@ -39,4 +39,13 @@ private:
     std::vector<Entry> entries_; // a file set has few files
 };
 
+/// Empties the repository of the process when its scope ends.
+class VarRepoClearing {
+public:
+    VarRepoClearing() = default;
+    ~VarRepoClearing() { Plot3DVarRepo::instance().clear(); }
+    VarRepoClearing(const VarRepoClearing&) = delete;
+    VarRepoClearing& operator=(const VarRepoClearing&) = delete;
+};
+
 } // namespace quorvia::quorutildataio

@@ -31,17 +31,17 @@ bool addVariable(QuorArgListHandle arguments, const char* name, const ZoneTypes&
 
 /// The type of the first variable that is not of the grid.
 std::int32_t firstSolutionType(const Plot3DFileHandler& handler) {
-    constexpr bool hasIBlank = false; // its place is not asked for
+    constexpr Plot3DLoadShape_s withoutIBlank; // its place is not asked for
     const Plot3DFile_s* grid = handler.gridFile;
     const std::int32_t index = grid != nullptr ? grid->numVars + (grid->hasIBlank ? 1 : 0) : 0;
-    return fieldDataType(handler, index, hasIBlank, 0);
+    return fieldDataType(handler, index, withoutIBlank);
 }
 
 /// The variables of one function file.
 bool addVariablesOf(const Plot3DFile_s& file, std::int32_t ordinal, const ZoneTypes& types,
                     HostSet& varsAdded, std::int32_t& varCount) {
     for (std::int32_t k = 1; k <= file.numVars; ++k) {
-        const std::string name = "F" + std::to_string(ordinal) + "V" + std::to_string(k);
+        const std::string name = functionName(ordinal, k);
         const HostArgList arguments(QuorUtilArgListAlloc());
         if (!arguments || !addVariable(arguments.get(), name.c_str(), types))
             return false;

@@ -14,17 +14,18 @@ bool checkVariablesFor(const Plot3DFile_s& file, std::int64_t firstVar, std::int
     return false;
 }
 
-bool checkVariablesFor(const Plot3DFileHandler& handler, const Plot3DVariablePlaces_s& places) {
-    std::int64_t next = std::int64_t{places.numSpatialVars} + (places.hasIBlank ? 1 : 0) + 1;
-    if (handler.hasGridFile() && !checkVariablesFor(*handler.gridFile, 1, places.varCount))
+bool checkVariablesFor(const Plot3DFileHandler& handler, const Plot3DLoadShape_s& shape,
+                       std::int64_t varCount) {
+    std::int64_t next = std::int64_t{shape.gridVarCount()} + 1;
+    if (handler.hasGridFile() && !checkVariablesFor(*handler.gridFile, 1, varCount))
         return false;
     if (handler.hasSolutionFile()) {
-        if (!checkVariablesFor(*handler.solutionFile, next, places.varCount))
+        if (!checkVariablesFor(*handler.solutionFile, next, varCount))
             return false;
-        next += places.numSolutionVars;
+        next += shape.numSolutionVars;
     }
     for (const Plot3DFile_s* file : handler.functionFiles) {
-        if (!checkVariablesFor(*file, next, places.varCount))
+        if (!checkVariablesFor(*file, next, varCount))
             return false;
         next += file->numVars;
     }

@@ -9,7 +9,6 @@
 #include <unordered_set>
 
 #include "dataset/variables/NameFile.h"
-#include "instructions/ValueText.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/timestep/FieldCount.h"
 #include "quorvia/HostHandles.h"
@@ -46,13 +45,13 @@ private:
     std::int32_t lastIndex_ = 0;
 };
 
-void addSpatialNames(NameWriter& writer, std::int32_t numSpatialVars, bool hasIBlank) {
+void addSpatialNames(NameWriter& writer, const Plot3DLoadShape_s& shape) {
     writer.add("X");
-    if (numSpatialVars > 1)
+    if (shape.numSpatialVars > 1)
         writer.add("Y");
-    if (numSpatialVars > 2)
+    if (shape.numSpatialVars > 2)
         writer.add("Z");
-    if (hasIBlank)
+    if (shape.hasIBlank)
         writer.add("IBlank");
 }
 
@@ -86,7 +85,7 @@ void addSpeciesNames(NameWriter& writer, const Plot3DFile_s& file, std::int64_t 
     const std::int64_t species = std::max(file.numSpecies, 0);
     writer.add("GAMMA");
     for (std::int64_t s = 1; s <= std::min(species, limit); ++s)
-        writer.add("RHO-C" + integerToText(s));
+        writer.add("RHO-C" + std::to_string(s));
     addTurbulenceNames(writer, numSolutionVars - species - variablesAheadOfSpecies, limit);
 }
 
@@ -101,10 +100,6 @@ void addSolutionNames(NameWriter& writer, const Plot3DFileHandler& handler,
     addConservativeNames(writer, file.dataStructure);
     if (styleRules(handler.getStyle()).hasSpecies && numSolutionVars >= variablesAheadOfSpecies)
         addSpeciesNames(writer, file, numSolutionVars);
-}
-
-std::string functionName(std::int64_t ordinal, std::int64_t k) {
-    return "F" + integerToText(ordinal) + "V" + integerToText(k);
 }
 
 std::int64_t countFunctionNames(const Plot3DFile_s& file) {
@@ -175,18 +170,15 @@ std::int32_t countSolutionVars(const Plot3DFileHandler& handler) {
 
 } // namespace
 
-std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
-                                std::int32_t numSolutionVars, std::int32_t numFunctionVars,
-                                const Plot3DLoadOptions_s& options,
-                                const Plot3DFileHandler& firstHandler, QuorStringListHandle names,
-                                const std::vector<Plot3DFileHandler>&) {
+std::int32_t buildVariableNames(const Plot3DLoadShape_s& shape, const Plot3DLoadOptions_s& options,
+                                const Plot3DFileHandler& firstHandler, QuorStringListHandle names) {
     NameWriter writer(names);
-    const std::int32_t firstSolutionIndex = 1 + numSpatialVars + (hasIBlank ? 1 : 0);
-    addSpatialNames(writer, numSpatialVars, hasIBlank);
+    const std::int32_t firstSolutionIndex = 1 + shape.gridVarCount();
+    addSpatialNames(writer, shape);
     if (firstHandler.hasSolutionFile()) {
-        addSolutionNames(writer, firstHandler, numSolutionVars);
+        addSolutionNames(writer, firstHandler, shape.numSolutionVars);
         if (options.hasNameFile)
-            readNameFile(options.nameFile, names, firstSolutionIndex, numSolutionVars);
+            readNameFile(options.nameFile, names, firstSolutionIndex, shape.numSolutionVars);
     }
     if (!firstHandler.hasFunctionFiles())
         return writer.lastIndex();
@@ -194,22 +186,25 @@ std::int32_t buildVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
     if (options.hasNameFile) {
         // From the top of the file again: the two kinds are named independently.
         readNameFile(options.nameFile, names, firstSolutionIndex + countSolutionVars(firstHandler),
-                     numFunctionVars);
+                     shape.numFunctionVars);
     }
     return writer.lastIndex();
 }
 
-std::int64_t countVariableNames(bool hasIBlank, std::int32_t numSpatialVars,
-                                std::int32_t numSolutionVars,
+std::int64_t countVariableNames(const Plot3DLoadShape_s& shape,
                                 const Plot3DFileHandler& firstHandler) {
     NameWriter counter(nullptr);
-    addSpatialNames(counter, numSpatialVars, hasIBlank);
+    addSpatialNames(counter, shape);
     if (firstHandler.hasSolutionFile())
-        addSolutionNames(counter, firstHandler, numSolutionVars);
+        addSolutionNames(counter, firstHandler, shape.numSolutionVars);
     std::int64_t count = counter.lastIndex();
     for (const Plot3DFile_s* file : firstHandler.functionFiles)
         count += countFunctionNames(*file);
     return count;
+}
+
+std::string functionName(std::int64_t ordinal, std::int64_t k) {
+    return "F" + std::to_string(ordinal) + "V" + std::to_string(k);
 }
 
 bool findFreeFunctionOrdinal(std::int32_t& ordinal) {
@@ -222,9 +217,9 @@ bool findFreeFunctionOrdinal(std::int32_t& ordinal) {
     }
 }
 
-std::int32_t fieldDataType(const Plot3DFileHandler& handler, std::int32_t varIndex, bool hasIBlank,
-                           std::int32_t numSpatialVars) {
-    if (hasIBlank && varIndex == numSpatialVars)
+std::int32_t fieldDataType(const Plot3DFileHandler& handler, std::int32_t varIndex,
+                           const Plot3DLoadShape_s& shape) {
+    if (shape.hasIBlank && varIndex == shape.numSpatialVars)
         return QuorFieldDataType_Int32;
     const bool hasPrecision = handler.hasGridFile() || handler.hasSolutionFile();
     return hasPrecision && handler.isVarDoublePrecision(varIndex) ? QuorFieldDataType_Double

@@ -1,9 +1,8 @@
 #include "dataset/zones/AppendedFunctions.h"
 
-#include <algorithm>
-
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/zones/ZoneFit.h"
 #include "plot3dfile/file/OpenedFile.h"
 
@@ -14,14 +13,6 @@ namespace {
 bool hasKnownStructure(const Plot3DFile_s& file) {
     return file.dataStructure >= Plot3DDataStructure_1D &&
            file.dataStructure <= Plot3DDataStructure_Unstructured;
-}
-
-bool allocateOffsets(Plot3DFile_s& file, const Plot3DFileHandler& handler) {
-    constexpr std::int64_t notNoted = -1;
-    file.varOffsets = HostArray<std::int64_t>::allocate(
-        std::int64_t{file.numVars} * handler.getNumGrids(), "Primary Function Offset Array");
-    std::fill(file.varOffsets.begin(), file.varOffsets.end(), notNoted);
-    return static_cast<bool>(file.varOffsets);
 }
 
 /// The zones were made by other loads, of other files.
@@ -40,7 +31,7 @@ bool setUpFile(const Plot3DAppendedFunctions_s& request, const Plot3DFileHandler
     const OpenedFile opened(file);
     if (!opened)
         return false;
-    if (!allocateOffsets(file, handler)) {
+    if (!allocateFunctionOffsets(file, handler.getNumGrids())) {
         reportFileError(file, "Out of memory.");
         return false;
     }

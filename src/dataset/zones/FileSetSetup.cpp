@@ -4,6 +4,7 @@
 
 #include "dataset/items/ItemContext.h"
 #include "dataset/items/ItemDispatch.h"
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/variables/VariableFit.h"
 #include "dataset/zones/OffsetReuse.h"
 #include "dataset/zones/ZoneFit.h"
@@ -13,24 +14,6 @@
 namespace quorvia::quorutildataio {
 
 namespace {
-
-using Offsets = HostArray<std::int64_t>;
-
-constexpr std::int64_t notNoted = -1; // the entry of an item that no scan has come to
-
-bool allocateOffsets(Offsets& offsets, std::int64_t count, const char* label) {
-    offsets = Offsets::allocate(count, label);
-    std::fill(offsets.begin(), offsets.end(), notNoted);
-    return static_cast<bool>(offsets);
-}
-
-/// New entries from another file's. False: that file has fewer, or no memory.
-bool copyOffsets(const Offsets& source, Offsets& target, std::int64_t count, const char* label) {
-    if (source.count() < count || !allocateOffsets(target, count, label))
-        return false;
-    std::copy_n(source.begin(), count, target.begin());
-    return true;
-}
 
 class FileSetSetup {
 public:
@@ -65,13 +48,13 @@ public:
             return false;
         if (takesGridFromEarlierZones() && !shareGrid())
             return false;
-        context_.firstVar = variablesAheadOfSolution() + 1;
+        context_.firstVar = request_.shape.gridVarCount() + 1;
         if (!hasVariablesFor(file) || !fitsZones(file, request_))
             return false;
         if (!isPrimary() && options_.solutionsShareStructure && canReuse(file))
             return takeOverOffsets(file) &&
                    reuseSolutionOffsets(file, options_, request_.firstZoneOfLoad,
-                                        request_.firstZone, variablesAheadOfSolution());
+                                        request_.firstZone, request_.shape.gridVarCount());
         return allocateSolutionOffsets(file) && scanFile(file, options_.gridSet, context_);
     }
 
@@ -92,7 +75,7 @@ private:
     /// The load was held against the variables of the data set before it began, but a host without
     /// memory may have added none.
     bool hasVariablesFor(const Plot3DFile_s& file) const {
-        return checkVariablesFor(file, context_.firstVar, request_.existingVarCount);
+        return checkVariablesFor(file, context_.firstVar, request_.shape.existingVarCount);
     }
 
     /// Positions stand for whole fields of a binary file; the rest has to be read through.
@@ -106,13 +89,9 @@ private:
                (!isPrimary() || options_.append || options_.hasGridFiles);
     }
 
-    std::int32_t variablesAheadOfSolution() const {
-        return request_.numSpatialVars + (request_.hasIBlank ? 1 : 0);
-    }
-
     std::int32_t variablesAheadOfFunctions() const {
-        return variablesAheadOfSolution() +
-               (handler_.hasSolutionFile() ? request_.numSolutionVars : 0);
+        return request_.shape.gridVarCount() +
+               (handler_.hasSolutionFile() ? request_.shape.numSolutionVars : 0);
     }
 
     std::int64_t offsetCount(const Plot3DFile_s& file) const {
@@ -146,7 +125,8 @@ private:
         const Plot3DFile_s* primary = request_.firstHandler.solutionFile;
         if (primary == nullptr)
             return false;
-        const std::int64_t fields = std::int64_t{handler_.getNumGrids()} * request_.numSolutionVars;
+        const std::int64_t fields =
+            std::int64_t{handler_.getNumGrids()} * request_.shape.numSolutionVars;
         return copyOffsets(primary->varOffsets, file.varOffsets, fields,
                            "Subsequent Offset Array") &&
                (!primary->auxDataOffsets ||
@@ -155,17 +135,16 @@ private:
     }
 
     bool shareGrid() const {
-        return shareGridVariables(options_, handler_, request_.numSpatialVars,
-                                  request_.firstZoneOfLoad, request_.firstZone, request_.hasIBlank);
+        return shareGridVariables(options_, handler_, request_.shape.numSpatialVars,
+                                  request_.firstZoneOfLoad, request_.firstZone,
+                                  request_.shape.hasIBlank);
     }
 
     bool scanGridFile(Plot3DFile_s& file) { return openAndScan(file); }
 
     bool scanFunctionFile(Plot3DFile_s& file) {
         const OpenedFile opened(file);
-        return opened &&
-               allocateOffsets(file.varOffsets, offsetCount(file),
-                               "Primary Function Offset Array") &&
+        return opened && allocateFunctionOffsets(file, handler_.getNumGrids()) &&
                functionsFit(file) && scanFile(file, options_.gridSet, context_);
     }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "dataset/variables/LoadShape.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/timestep/Plot3DFileHandler.h"
 
@@ -17,10 +18,7 @@ struct Plot3DFileSetRequest_s {
     const Plot3DFileHandler& firstHandler; // the load's first file set's
     std::int32_t firstZoneOfLoad;
     std::int32_t firstZone; // of this file set
-    std::int32_t numSpatialVars;
-    std::int32_t numSolutionVars;
-    std::int32_t existingVarCount; // variables of the data set
-    bool hasIBlank;
+    const Plot3DLoadShape_s& shape;
     bool isFirstFileSet;
 };
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dataset/items/ItemContext.h"
+#include "dataset/items/NotedOffsets.h"
 #include "dataset/items/Scalars.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/LoadOnDemand.h"
@@ -14,8 +15,6 @@
 namespace quorvia::quorutildataio {
 
 namespace {
-
-using Offsets = HostArray<std::int64_t>;
 
 bool shareOrCopy(bool mayShare, std::int32_t sourceZone, std::int32_t destinationZone,
                  std::int32_t var) {
@@ -44,13 +43,6 @@ std::optional<std::int64_t> countPoints(const Plot3DFile_s& file, std::int32_t g
     return points.value();
 }
 
-/// The entry at `index`; empty if there is none or no scan has filled it.
-std::optional<std::int64_t> offsetAt(const Offsets& offsets, std::int64_t index) {
-    if (index < 0 || index >= offsets.count() || offsets[index] < 0)
-        return std::nullopt;
-    return offsets[index];
-}
-
 /// One grid of a file whose fields are registered without a scan.
 class GridReuse {
 public:
@@ -63,16 +55,15 @@ public:
 
     bool registerVariables(std::int32_t varBase) {
         for (std::int32_t v = 1; v <= layout_.numVars; ++v)
-            if (!registerField(
-                    v, varBase + v,
-                    offsetAt(layout_.varOffsets, std::int64_t{grid_} * layout_.numVars + v - 1)))
+            if (!registerField(v, varBase + v,
+                               notedOffset(layout_.varOffsets, fieldEntry(layout_, grid_, v - 1))))
                 return false;
         return true;
     }
 
     bool registerIBlank() {
         const std::int32_t var = layout_.numVars + 1;
-        return registerField(var, var, offsetAt(layout_.iBlankOffsets, grid_));
+        return registerField(var, var, notedOffset(layout_.iBlankOffsets, grid_));
     }
 
 private:
@@ -92,7 +83,7 @@ private:
 
 bool rereadScalarsAt(Plot3DFile_s& file, std::int64_t selected, std::int32_t zone,
                      const Plot3DItemContext_s& context) {
-    const std::optional<std::int64_t> position = offsetAt(file.auxDataOffsets, selected);
+    const std::optional<std::int64_t> position = notedOffset(file.auxDataOffsets, selected);
     return position && file.stream->seek(*position) && rereadScalars(file, zone, context);
 }
 

@@ -2,24 +2,16 @@
 
 #include <string>
 
+#include "dataset/items/Connectivity.h"
 #include "dataset/items/SetupProgress.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "dataset/variables/VariableNames.h"
 #include "dataset/zones/FileSetSetup.h"
 #include "dataset/zones/ZoneDimensions.h"
-#include "instructions/ValueText.h"
 
 namespace quorvia::quorutildataio {
 
 namespace {
-
-/// The records of files may end with the load, and their addresses be given to others.
-struct ClearRepoAtEnd {
-    ClearRepoAtEnd() = default;
-    ~ClearRepoAtEnd() { Plot3DVarRepo::instance().clear(); }
-    ClearRepoAtEnd(const ClearRepoAtEnd&) = delete;
-    ClearRepoAtEnd& operator=(const ClearRepoAtEnd&) = delete;
-};
 
 /// The zones of one file set, grid by grid.
 class FileSetZones {
@@ -68,7 +60,7 @@ private:
     std::int32_t strandFor(std::int32_t grid, std::int32_t baseZone) {
         if (!stage_.assignStrandIDs)
             return noStrand;
-        return stage_.strands.strandForGrid(handler_.getGridDims(grid), integerToText(baseZone))
+        return stage_.strands.strandForGrid(handler_.getGridDims(grid), std::to_string(baseZone))
             .strand;
     }
 
@@ -77,7 +69,9 @@ private:
         if (!handler_.hasGridFile() && baseZone < zone)
             takeGridTypes(baseZone);
         if (zone > stage_.parentZones.count() ||
-            !addZoneForGrid(stage_, handler_, grid, {baseZone, shareNodeMaps_, strand}) ||
+            !addZoneForGrid(
+                stage_, handler_, grid,
+                {.baseZone = baseZone, .shareNodeMap = shareNodeMaps_, .strand = strand}) ||
             !QuorUtilSetAddMember(stage_.zonesAdded, zone, true))
             return false;
         stage_.parentZones[zone - 1] = stage_.runningGridCount;
@@ -86,14 +80,13 @@ private:
 
     /// The grid that the zone takes over need not have the precision of the solution.
     void takeGridTypes(std::int32_t baseZone) const {
-        const std::int32_t lastVar = stage_.numSpatialVars + (stage_.hasIBlank ? 1 : 0);
+        const std::int32_t lastVar = stage_.shape.gridVarCount();
         for (std::int32_t var = 1; var <= lastVar && var <= stage_.varTypes.count(); ++var) {
             const std::int32_t type = QuorUtilDataValueGetType(baseZone, var);
             const bool isKnown = type != QuorFieldDataType_Invalid;
-            stage_.varTypes[var - 1] =
-                isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
-                    ? type
-                    : fieldDataType(handler_, var - 1, stage_.hasIBlank, stage_.numSpatialVars);
+            stage_.varTypes[var - 1] = isKnown && !QuorUtilDataValueIsPassive(baseZone, var)
+                                           ? type
+                                           : fieldDataType(handler_, var - 1, stage_.shape);
         }
     }
 
@@ -113,9 +106,9 @@ private:
     }
 
     void reportTooManyZones(std::int32_t selected) const {
-        const std::string text = "Failed to load grid " + integerToText(selected) + " from " +
+        const std::string text = "Failed to load grid " + std::to_string(selected) + " from " +
                                  handler_.getGridFileName() + "\nMaximum number of zones is " +
-                                 integerToText(maximumZoneNumber) + ".";
+                                 std::to_string(maximumZoneNumber) + ".";
         QuorUtilDialogErrMsg(text.c_str());
     }
 
@@ -129,14 +122,12 @@ private:
 
 void fillTypes(const Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler) {
     for (std::int64_t var = 0; var < stage.varTypes.count(); ++var)
-        stage.varTypes[var] = fieldDataType(handler, static_cast<std::int32_t>(var),
-                                            stage.hasIBlank, stage.numSpatialVars);
+        stage.varTypes[var] = fieldDataType(handler, static_cast<std::int32_t>(var), stage.shape);
 }
 
 std::int64_t zoneTypeOf(const Plot3DFileHandler& handler, const Plot3DZoneDims_s& dims) {
     if (handler.getDataStructure() != Plot3DDataStructure_Unstructured)
         return QuorZoneType_Ordered;
-    constexpr std::int64_t triangleCorners = 3;
     return dims.k == triangleCorners ? QuorZoneType_Triangles : QuorZoneType_Tetrahedra;
 }
 
@@ -173,15 +164,19 @@ bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler&
 
 bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
                        std::int32_t fileSetIndex) {
-    const ClearRepoAtEnd guard;
+    const VarRepoClearing repoClearing;
     stage.strands.beginFileSet();
     fillTypes(stage, handler);
     FileSetZones zones(stage, handler, fileSetIndex);
     if (!zones.addAll())
         return false;
-    return setUpFileSet({stage.options, handler, stage.firstHandler, stage.zoneBase,
-                         stage.firstNewZone, stage.numSpatialVars, stage.numSolutionVars,
-                         stage.existingVarCount, stage.hasIBlank, fileSetIndex == 0});
+    return setUpFileSet({.options = stage.options,
+                         .handler = handler,
+                         .firstHandler = stage.firstHandler,
+                         .firstZoneOfLoad = stage.zoneBase,
+                         .firstZone = stage.firstNewZone,
+                         .shape = stage.shape,
+                         .isFirstFileSet = fileSetIndex == 0});
 }
 
 bool checkElements(std::int32_t zone) {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "dataset/variables/LoadShape.h"
 #include "dataset/zones/StrandMap.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/timestep/Plot3DFileHandler.h"
@@ -18,11 +19,8 @@ constexpr std::int32_t maximumZoneNumber = 2147483646;
 struct Plot3DZoneStage_s {
     const Plot3DLoadOptions_s& options;
     const Plot3DFileHandler& firstHandler;
-    std::int32_t zoneBase;         // zone of the load's first time step that later zones share with
-    std::int32_t existingVarCount; // variables of the data set
-    bool hasIBlank;
-    std::int32_t numSpatialVars;
-    std::int32_t numSolutionVars;
+    const Plot3DLoadShape_s& shape;
+    std::int32_t zoneBase; // zone of the load's first time step that later zones share with
     bool assignStrandIDs;
     bool replaceSolution;                 // the first file set rewrites zones that are there
     bool addVarsToGrid;                   // the same, and the zones get strands

@@ -1,5 +1,6 @@
 #include "dataset/zones/ZoneDimensions.h"
 
+#include "dataset/items/Connectivity.h"
 #include "plot3dfile/numbers/IndexRange.h"
 #include "plot3dfile/numbers/TypedArrays.h"
 #include "plot3dfile/timestep/GridPoints.h"
@@ -7,9 +8,6 @@
 namespace quorvia::quorutildataio {
 
 namespace {
-
-constexpr std::int64_t triangleCorners = 3;
-constexpr std::int64_t tetrahedronCorners = 4;
 
 Plot3DZoneDims_s elementZoneDims(const Plot3DGridDims_s& dims) {
     const std::int64_t nodes = dims.i;

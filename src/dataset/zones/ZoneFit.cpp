@@ -15,6 +15,23 @@ bool isWalked(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options, std:
            isGridSelected(options.gridSet, std::int64_t{grid} + 1);
 }
 
+/// Walks the file's grids beside the zones from `firstZone` on. `pointsOf` gives the points of the
+/// zone that a grid is to fill, empty if there is none.
+template <typename PointsOfZone>
+bool fits(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options, std::int32_t firstZone,
+          const PointsOfZone& pointsOf) {
+    std::int32_t zone = firstZone;
+    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
+        if (!isWalked(file, options, grid))
+            continue;
+        const std::optional<std::int64_t> points = pointsOf(grid, zone);
+        if (!points || points != countSelected(resolveGridRanges(options, file, grid)))
+            return false;
+        ++zone;
+    }
+    return true;
+}
+
 std::optional<std::int64_t> pointsOfExistingZone(std::int32_t zone) {
     std::int64_t i = 0;
     std::int64_t j = 0;
@@ -48,36 +65,17 @@ bool hasZone(const Plot3DFileSetRequest_s& request, std::int32_t grid) {
 } // namespace
 
 bool fitsZones(const Plot3DFile_s& file, const Plot3DFileSetRequest_s& request) {
-    std::int32_t zone = request.firstZone;
-    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
-        if (!isWalked(file, request.options, grid))
-            continue;
-        if (!hasZone(request, grid))
-            return false;
-        const std::optional<std::int64_t> points =
-            countSelected(resolveGridRanges(request.options, file, grid));
-        if (!points || points != pointsOfZone(request, grid, zone))
-            return false;
-        ++zone;
-    }
-    return true;
+    return fits(
+        file, request.options, request.firstZone, [&request](std::int32_t grid, std::int32_t zone) {
+            return hasZone(request, grid) ? pointsOfZone(request, grid, zone) : std::nullopt;
+        });
 }
 
 bool fitsExistingZones(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options,
                        std::int32_t firstZone, std::int32_t zoneCount) {
-    std::int32_t zone = firstZone;
-    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
-        if (!isWalked(file, options, grid))
-            continue;
-        if (zone > zoneCount)
-            return false;
-        const std::optional<std::int64_t> points =
-            countSelected(resolveGridRanges(options, file, grid));
-        if (!points || points != pointsOfExistingZone(zone))
-            return false;
-        ++zone;
-    }
-    return true;
+    return fits(file, options, firstZone, [zoneCount](std::int32_t, std::int32_t zone) {
+        return zone <= zoneCount ? pointsOfExistingZone(zone) : std::nullopt;
+    });
 }
 
 bool isSubsetTaken(const Plot3DFile_s& file, const Plot3DLoadOptions_s& options) {
