@@ -12,25 +12,11 @@ namespace {
 
 // ---- The log ------------------------------------------------------------------------------------
 
-MessageOutcome_e kindOf(MessageKind kind) {
-    switch (kind) {
-    case MessageKind::Error:
-        return MessageOutcome_e::Error;
-    case MessageKind::Information:
-        return MessageOutcome_e::Information;
-    case MessageKind::Question:
-        return MessageOutcome_e::Question;
-    }
-    return MessageOutcome_e::Error;
-}
-
 void describeEvents(const HostLog& log, Outcome_s& outcome) {
     outcome.progress = log.progress;
     outcome.instructions = log.instructions;
-    for (const StateChange& change : log.stateChanges)
-        outcome.stateChanges.push_back({change.code, change.members});
-    for (const UndoEvent& event : log.undo)
-        outcome.undo.push_back({event.kind == UndoKind::Begin, event.success});
+    outcome.stateChanges = log.stateChanges;
+    outcome.undo = log.undo;
     outcome.redraws = log.redraws;
     outcome.helpShown = log.helpTargets;
 }
@@ -51,27 +37,13 @@ AuxDataItems describeAuxData(const AuxData& auxData) {
     return AuxDataItems(auxData.begin(), auxData.end());
 }
 
-FieldState_e stateOf(const Field& field, bool isShared) {
-    if (isShared)
-        return FieldState_e::Shared;
-    switch (field.state()) {
-    case FieldState::Empty:
-        return FieldState_e::Empty;
-    case FieldState::Deferred:
-        return FieldState_e::Deferred;
-    case FieldState::Stored:
-        return FieldState_e::Stored;
-    }
-    return FieldState_e::Empty;
-}
-
 FieldOutcome_s describeField(const Zone& zone, std::size_t variable, std::int32_t holder) {
     const Field& field = zone.fields[variable];
     FieldOutcome_s result;
     result.variable = static_cast<std::int32_t>(variable) + 1;
     result.type = static_cast<QuorFieldDataType_e>(field.type);
     result.sharedWith = holder == zone.number ? 0 : holder;
-    result.state = stateOf(field, result.sharedWith != 0);
+    result.state = field.state();
     result.count = zone.valueCount(field.location);
     return result;
 }
@@ -161,7 +133,7 @@ void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
 }
 
 bool isFetched(const FieldOutcome_s& field) {
-    return field.state == FieldState_e::Deferred || field.state == FieldState_e::Stored;
+    return field.state != FieldState::Empty && field.sharedWith == 0;
 }
 
 std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
@@ -173,10 +145,6 @@ std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
 }
 
 } // namespace
-
-MessageOutcome_s describeMessage(const Message& message) {
-    return {kindOf(message.kind), message.text, message.answer};
-}
 
 Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     Outcome_s outcome;
@@ -198,7 +166,7 @@ bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObse
     for (ZoneOutcome_s& zone : dataSet.zones) {
         for (FieldOutcome_s& field : zone.fields) {
             // The holder has a lower number, so it has been fetched already.
-            if (field.state == FieldState_e::Shared)
+            if (field.sharedWith != 0)
                 copyFromHolder(dataSet, field);
             if (!isFetched(field))
                 continue;
@@ -221,9 +189,7 @@ std::int64_t unreadFieldCount(const Outcome_s& outcome) {
 
 void updateLog(ReferenceHost& host, Outcome_s& outcome) {
     const HostLog& log = host.log();
-    outcome.messages.clear();
-    for (const Message& message : log.messages)
-        outcome.messages.push_back(describeMessage(message));
+    outcome.messages = log.messages;
     outcome.violations = log.violations;
     outcome.lockDepth = host.lockDepth();
 }

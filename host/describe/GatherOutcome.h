@@ -10,8 +10,6 @@
 
 namespace quorvia::host {
 
-MessageOutcome_s describeMessage(const Message& message);
-
 /// What the host shows now, without fetching a value. `result` is what the import gave.
 Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result);
 

@@ -100,14 +100,17 @@ std::string sizesOf(const ZoneOutcome_s& zone) {
 }
 
 std::string fieldStates(const ZoneOutcome_s& zone) {
-    constexpr std::array kStates = {FieldState_e::Deferred, FieldState_e::Stored,
-                                    FieldState_e::Shared, FieldState_e::Empty};
+    const std::array<std::string_view, 4> words = {wordOf(FieldState::Deferred),
+                                                   wordOf(FieldState::Stored), sharedWord,
+                                                   wordOf(FieldState::Empty)};
     std::vector<std::string> parts;
-    for (const FieldState_e state : kStates) {
-        const auto isSo = [state](const FieldOutcome_s& field) { return field.state == state; };
+    for (const std::string_view word : words) {
+        const auto isSo = [word](const FieldOutcome_s& field) {
+            return stateWordOf(field) == word;
+        };
         const auto count = std::count_if(zone.fields.begin(), zone.fields.end(), isSo);
         if (count > 0)
-            parts.push_back(fmt::format("{} {}", count, wordOf(state)));
+            parts.push_back(fmt::format("{} {}", count, word));
     }
     return fmt::format("{}", fmt::join(parts, ", "));
 }
@@ -234,11 +237,11 @@ std::string indented(std::string_view text) {
     return result;
 }
 
-void printMessages(std::ostream& out, const std::vector<MessageOutcome_s>& messages) {
+void printMessages(std::ostream& out, const std::vector<Message>& messages) {
     if (messages.empty())
         return;
     out << "\nMessages\n";
-    for (const MessageOutcome_s& message : messages) {
+    for (const Message& message : messages) {
         out << fmt::format("  {}:\n{}", wordOf(message.kind), indented(message.text));
         if (message.answer)
             out << fmt::format("    answered: {}\n",

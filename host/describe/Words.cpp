@@ -2,28 +2,26 @@
 
 namespace quorvia::host {
 
-const char* wordOf(MessageOutcome_e kind) {
+const char* wordOf(MessageKind kind) {
     switch (kind) {
-    case MessageOutcome_e::Error:
+    case MessageKind::Error:
         return "error";
-    case MessageOutcome_e::Information:
+    case MessageKind::Information:
         return "information";
-    case MessageOutcome_e::Question:
+    case MessageKind::Question:
         return "question";
     }
     return "unknown";
 }
 
-const char* wordOf(FieldState_e state) {
+const char* wordOf(FieldState state) {
     switch (state) {
-    case FieldState_e::Empty:
+    case FieldState::Empty:
         return "empty";
-    case FieldState_e::Deferred:
+    case FieldState::Deferred:
         return "deferred";
-    case FieldState_e::Stored:
+    case FieldState::Stored:
         return "stored";
-    case FieldState_e::Shared:
-        return "shared";
     }
     return "unknown";
 }
@@ -70,6 +68,10 @@ const char* wordOf(QuorPlotType_e type) {
         return "polar";
     }
     return "unknown";
+}
+
+const char* stateWordOf(const FieldOutcome_s& field) {
+    return field.sharedWith != 0 ? sharedWord : wordOf(field.state);
 }
 
 } // namespace quorvia::host

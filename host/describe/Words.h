@@ -6,10 +6,15 @@
 namespace quorvia::host {
 
 /// Static texts, valid for ever; "unknown" for a number that is none of the enumeration's.
-const char* wordOf(MessageOutcome_e kind);
-const char* wordOf(FieldState_e state);
+const char* wordOf(MessageKind kind);
+const char* wordOf(FieldState state);
 const char* wordOf(QuorFieldDataType_e type);
 const char* wordOf(QuorZoneType_e type);
 const char* wordOf(QuorPlotType_e type);
+
+/// Of a field that another zone holds too.
+inline constexpr const char* sharedWord = "shared";
+/// `sharedWord`, or the word of its state.
+const char* stateWordOf(const FieldOutcome_s& field);
 
 } // namespace quorvia::host

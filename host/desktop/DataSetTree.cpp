@@ -40,7 +40,7 @@ QString sizeOf(const ZoneOutcome_s& zone) {
 QString stateOf(const FieldOutcome_s& field) {
     if (field.error)
         return QStringLiteral("failed");
-    if (field.state == FieldState_e::Shared)
+    if (field.sharedWith != 0)
         return QStringLiteral("shared with zone %1").arg(field.sharedWith);
     return QString::fromLatin1(wordOf(field.state));
 }
@@ -206,7 +206,7 @@ void DataSetTree::showVariableValues(QTreeWidgetItem* item) const {
     std::size_t fields = 0;
     for (const ZoneOutcome_s& zone : dataSet_->zones) {
         const FieldOutcome_s* field = findField(*dataSet_, {zone.number, variableOf(item)});
-        if (field == nullptr || field->state == FieldState_e::Empty)
+        if (field == nullptr || field->state == FieldState::Empty)
             continue;
         ++fields;
         item->setText(kType, QString::fromLatin1(wordOf(field->type)));

@@ -14,7 +14,7 @@ FieldAddress_s holderOf(const DataSetOutcome_s& dataSet, FieldAddress_s address)
 }
 
 bool isWanted(const FieldOutcome_s* field) {
-    return field != nullptr && field->state != FieldState_e::Empty && !field->statistics;
+    return field != nullptr && field->state != FieldState::Empty && !field->statistics;
 }
 
 void copyFromHolders(DataSetOutcome_s& dataSet) {

@@ -116,10 +116,10 @@ TEST_F(GatherOutcome, TellsStatesBeforeAnyFetch) {
     addZone(deferred(), stored());
     addZone(dataSet->zone(1)->fields[0].storage, nullptr);
     const DataSetOutcome_s outcome = described();
-    EXPECT_EQ(FieldState_e::Deferred, outcome.zones[0].fields[0].state);
-    EXPECT_EQ(FieldState_e::Stored, outcome.zones[0].fields[1].state);
-    EXPECT_EQ(FieldState_e::Shared, outcome.zones[1].fields[0].state);
-    EXPECT_EQ(FieldState_e::Empty, outcome.zones[1].fields[1].state);
+    EXPECT_EQ(FieldState::Deferred, outcome.zones[0].fields[0].state);
+    EXPECT_EQ(FieldState::Stored, outcome.zones[0].fields[1].state);
+    EXPECT_EQ(FieldState::Deferred, outcome.zones[1].fields[0].state);
+    EXPECT_EQ(FieldState::Empty, outcome.zones[1].fields[1].state);
     EXPECT_EQ(0, loads);
 }
 
@@ -146,7 +146,7 @@ TEST_F(GatherOutcome, FetchedFieldTellsItsValues) {
 
 TEST_F(GatherOutcome, FieldThatWasFetchedStaysDeferredInTheOutcome) {
     addZone(deferred(), nullptr);
-    EXPECT_EQ(FieldState_e::Deferred, fetched().zones[0].fields[0].state);
+    EXPECT_EQ(FieldState::Deferred, fetched().zones[0].fields[0].state);
 }
 
 TEST_F(GatherOutcome, FieldOfManyZonesIsFetchedOnce) {
