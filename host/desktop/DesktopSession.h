@@ -10,15 +10,15 @@
 
 #include <QWidget>
 
-#include "desktop/ActionQueue.h"
 #include "desktop/DesktopUser.h"
 #include "desktop/GuestWindows.h"
 #include "desktop/GuestWork.h"
 #include "desktop/ImportFileDialog.h"
-#include "desktop/ProgressFeed.h"
 #include "desktop/ProgressWindow.h"
 #include "desktop/ValueFetch.h"
+#include "session/ActionQueue.h"
 #include "session/AddOnLibrary.h"
+#include "session/ProgressFeed.h"
 #include "session/ReferenceHost.h"
 
 namespace quorvia::host {
