@@ -123,27 +123,6 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
     return result;
 }
 
-// ---- Values -------------------------------------------------------------------------------------
-
-void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
-    const ZoneOutcome_s& holder = dataSet.zones[static_cast<std::size_t>(field.sharedWith) - 1];
-    const FieldOutcome_s& original = holder.fields[static_cast<std::size_t>(field.variable) - 1];
-    field.statistics = original.statistics;
-    field.error = original.error;
-}
-
-bool isFetched(const FieldOutcome_s& field) {
-    return field.state != FieldState::Empty && field.sharedWith == 0;
-}
-
-std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
-    std::int64_t count = 0;
-    for (const ZoneOutcome_s& zone : dataSet.zones)
-        for (const FieldOutcome_s& field : zone.fields)
-            count += isFetched(field) ? byteCountOf(field) : 0;
-    return count;
-}
-
 } // namespace
 
 Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
@@ -159,22 +138,6 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
         outcome.dialog = *dialog;
     updateLog(host, outcome);
     return outcome;
-}
-
-bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObserver& observer) {
-    FetchSeries series(host, countBytes(dataSet), observer);
-    for (ZoneOutcome_s& zone : dataSet.zones) {
-        for (FieldOutcome_s& field : zone.fields) {
-            // The holder has a lower number, so it has been fetched already.
-            if (field.sharedWith != 0)
-                copyFromHolder(dataSet, field);
-            if (!isFetched(field))
-                continue;
-            if (!series.mayGoOn() || !series.fetch(zone.number, field))
-                return false;
-        }
-    }
-    return true;
 }
 
 std::int64_t unreadFieldCount(const Outcome_s& outcome) {

@@ -1,5 +1,7 @@
 #include "describe/Words.h"
 
+#include <fmt/core.h>
+
 namespace quorvia::host {
 
 const char* wordOf(MessageKind kind) {
@@ -72,6 +74,25 @@ const char* wordOf(QuorPlotType_e type) {
 
 const char* stateWordOf(const FieldOutcome_s& field) {
     return field.sharedWith != 0 ? sharedWord : wordOf(field.state);
+}
+
+std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+    return fmt::format("{} {}", count, count == 1 ? one : many);
+}
+
+std::string sizeText(const DataSetOutcome_s& dataSet) {
+    return counted(dataSet.zones.size(), "zone", "zones") + ", " +
+           counted(dataSet.variables.size(), "variable", "variables");
+}
+
+std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet) {
+    return dataSet ? sizeText(*dataSet) : "no data set";
+}
+
+std::string sizeText(const ZoneOutcome_s& zone) {
+    if (zone.type == QuorZoneType_Ordered)
+        return fmt::format("{} x {} x {}", zone.i, zone.j, zone.k);
+    return fmt::format("{} nodes, {} elements", zone.i, zone.j);
 }
 
 } // namespace quorvia::host

@@ -10,12 +10,12 @@
 
 #include <QWidget>
 
+#include "describe/ValueFetch.h"
 #include "desktop/DesktopUser.h"
 #include "desktop/GuestWindows.h"
 #include "desktop/GuestWork.h"
 #include "desktop/ImportFileDialog.h"
 #include "desktop/ProgressWindow.h"
-#include "desktop/ValueFetch.h"
 #include "session/ActionQueue.h"
 #include "session/AddOnLibrary.h"
 #include "session/ProgressFeed.h"
