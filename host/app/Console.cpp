@@ -95,15 +95,15 @@ void tellError(std::ostream& err, std::string_view text) {
     err << fmt::format("quorhost: error: {}\n", withIndentedLines(text));
 }
 
-void tellMessage(std::ostream& err, const MessageOutcome_s& message) {
+void tellMessage(std::ostream& err, const Message& message) {
     switch (message.kind) {
-    case MessageOutcome_e::Error:
+    case MessageKind::Error:
         tellError(err, message.text);
         return;
-    case MessageOutcome_e::Information:
+    case MessageKind::Information:
         err << fmt::format("quorhost: {}\n", withIndentedLines(message.text));
         return;
-    case MessageOutcome_e::Question:
+    case MessageKind::Question:
         err << fmt::format("quorhost: question: {}\n    {}\n", withIndentedLines(message.text),
                            message.answer.value_or(false)
                                ? "answered OK or Yes"

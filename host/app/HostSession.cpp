@@ -1,7 +1,5 @@
 #include "app/HostSession.h"
 
-#include "describe/GatherOutcome.h"
-
 namespace quorvia::host {
 HostSession::HostSession(const Console_s& console, ProgressLine& progress,
                          std::int64_t memoryLimitBytes) {
@@ -16,7 +14,7 @@ HostSession::HostSession(const Console_s& console, ProgressLine& progress,
     };
     settings.messageObserver = [&progress, &console](const auto& message) {
         progress.clear();
-        tellMessage(console.err, describeMessage(message));
+        tellMessage(console.err, message);
     };
 }
 

@@ -64,9 +64,7 @@ std::vector<std::string> filesNotNamed(const std::vector<std::string>& files,
 }
 
 bool toldAnError(const Outcome_s& outcome) {
-    const auto isError = [](const MessageOutcome_s& message) {
-        return message.kind == MessageOutcome_e::Error;
-    };
+    const auto isError = [](const Message& message) { return message.kind == MessageKind::Error; };
     return std::any_of(outcome.messages.begin(), outcome.messages.end(), isError);
 }
 

@@ -16,6 +16,7 @@
 #include "describe/Json.h"
 #include "describe/Table.h"
 #include "describe/TextGrid.h"
+#include "describe/ValueFetch.h"
 #include "session/AddOnLibrary.h"
 #include "session/AddOnPath.h"
 #include "session/ReferenceHost.h"

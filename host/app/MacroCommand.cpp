@@ -14,6 +14,7 @@
 #include "app/Output.h"
 #include "app/macro/MacroParser.h"
 #include "app/macro/MacroPlayer.h"
+#include "describe/GatherOutcome.h"
 #include "describe/Json.h"
 #include "describe/Table.h"
 #include "describe/TextGrid.h"

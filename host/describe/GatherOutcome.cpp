@@ -12,25 +12,11 @@ namespace {
 
 // ---- The log ------------------------------------------------------------------------------------
 
-MessageOutcome_e kindOf(MessageKind kind) {
-    switch (kind) {
-    case MessageKind::Error:
-        return MessageOutcome_e::Error;
-    case MessageKind::Information:
-        return MessageOutcome_e::Information;
-    case MessageKind::Question:
-        return MessageOutcome_e::Question;
-    }
-    return MessageOutcome_e::Error;
-}
-
 void describeEvents(const HostLog& log, Outcome_s& outcome) {
     outcome.progress = log.progress;
     outcome.instructions = log.instructions;
-    for (const StateChange& change : log.stateChanges)
-        outcome.stateChanges.push_back({change.code, change.members});
-    for (const UndoEvent& event : log.undo)
-        outcome.undo.push_back({event.kind == UndoKind::Begin, event.success});
+    outcome.stateChanges = log.stateChanges;
+    outcome.undo = log.undo;
     outcome.redraws = log.redraws;
     outcome.helpShown = log.helpTargets;
 }
@@ -51,27 +37,13 @@ AuxDataItems describeAuxData(const AuxData& auxData) {
     return AuxDataItems(auxData.begin(), auxData.end());
 }
 
-FieldState_e stateOf(const Field& field, bool isShared) {
-    if (isShared)
-        return FieldState_e::Shared;
-    switch (field.state()) {
-    case FieldState::Empty:
-        return FieldState_e::Empty;
-    case FieldState::Deferred:
-        return FieldState_e::Deferred;
-    case FieldState::Stored:
-        return FieldState_e::Stored;
-    }
-    return FieldState_e::Empty;
-}
-
 FieldOutcome_s describeField(const Zone& zone, std::size_t variable, std::int32_t holder) {
     const Field& field = zone.fields[variable];
     FieldOutcome_s result;
     result.variable = static_cast<std::int32_t>(variable) + 1;
     result.type = static_cast<QuorFieldDataType_e>(field.type);
     result.sharedWith = holder == zone.number ? 0 : holder;
-    result.state = stateOf(field, result.sharedWith != 0);
+    result.state = field.state();
     result.count = zone.valueCount(field.location);
     return result;
 }
@@ -151,32 +123,7 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
     return result;
 }
 
-// ---- Values -------------------------------------------------------------------------------------
-
-void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {
-    const ZoneOutcome_s& holder = dataSet.zones[static_cast<std::size_t>(field.sharedWith) - 1];
-    const FieldOutcome_s& original = holder.fields[static_cast<std::size_t>(field.variable) - 1];
-    field.statistics = original.statistics;
-    field.error = original.error;
-}
-
-bool isFetched(const FieldOutcome_s& field) {
-    return field.state == FieldState_e::Deferred || field.state == FieldState_e::Stored;
-}
-
-std::int64_t countBytes(const DataSetOutcome_s& dataSet) {
-    std::int64_t count = 0;
-    for (const ZoneOutcome_s& zone : dataSet.zones)
-        for (const FieldOutcome_s& field : zone.fields)
-            count += isFetched(field) ? byteCountOf(field) : 0;
-    return count;
-}
-
 } // namespace
-
-MessageOutcome_s describeMessage(const Message& message) {
-    return {kindOf(message.kind), message.text, message.answer};
-}
 
 Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     Outcome_s outcome;
@@ -193,22 +140,6 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     return outcome;
 }
 
-bool fetchValues(ReferenceHost& host, DataSetOutcome_s& dataSet, const FetchObserver& observer) {
-    FetchSeries series(host, countBytes(dataSet), observer);
-    for (ZoneOutcome_s& zone : dataSet.zones) {
-        for (FieldOutcome_s& field : zone.fields) {
-            // The holder has a lower number, so it has been fetched already.
-            if (field.state == FieldState_e::Shared)
-                copyFromHolder(dataSet, field);
-            if (!isFetched(field))
-                continue;
-            if (!series.mayGoOn() || !series.fetch(zone.number, field))
-                return false;
-        }
-    }
-    return true;
-}
-
 std::int64_t unreadFieldCount(const Outcome_s& outcome) {
     std::int64_t count = 0;
     if (!outcome.dataSet)
@@ -221,9 +152,7 @@ std::int64_t unreadFieldCount(const Outcome_s& outcome) {
 
 void updateLog(ReferenceHost& host, Outcome_s& outcome) {
     const HostLog& log = host.log();
-    outcome.messages.clear();
-    for (const Message& message : log.messages)
-        outcome.messages.push_back(describeMessage(message));
+    outcome.messages = log.messages;
     outcome.violations = log.violations;
     outcome.lockDepth = host.lockDepth();
 }

@@ -14,9 +14,9 @@ namespace quorvia::host {
 namespace {
 
 /// Every tell() writes one value.
-void tell(JsonStream& json, const MessageOutcome_s& told);
-void tell(JsonStream& json, const StateChangeOutcome_s& change);
-void tell(JsonStream& json, const UndoOutcome_s& event);
+void tell(JsonStream& json, const Message& told);
+void tell(JsonStream& json, const StateChange& change);
+void tell(JsonStream& json, const UndoEvent& event);
 void tell(JsonStream& json, const FieldOutcome_s& told);
 void tell(JsonStream& json, const ConnectivityOutcome_s& told);
 void tell(JsonStream& json, const ZoneOutcome_s& told);
@@ -66,7 +66,7 @@ std::string checksum(std::uint32_t crc32) {
     return fmt::format("{:08x}", crc32);
 }
 
-void tell(JsonStream& json, const MessageOutcome_s& told) {
+void tell(JsonStream& json, const Message& told) {
     json.beginObject();
     member(json, "kind", wordOf(told.kind));
     member(json, "text", told.text);
@@ -74,16 +74,16 @@ void tell(JsonStream& json, const MessageOutcome_s& told) {
     json.endObject();
 }
 
-void tell(JsonStream& json, const StateChangeOutcome_s& change) {
+void tell(JsonStream& json, const StateChange& change) {
     json.beginObject();
     member(json, "code", change.code);
     member(json, "members", change.members);
     json.endObject();
 }
 
-void tell(JsonStream& json, const UndoOutcome_s& event) {
+void tell(JsonStream& json, const UndoEvent& event) {
     json.beginObject();
-    member(json, "event", event.begins ? "begin" : "end");
+    member(json, "event", event.kind == UndoKind::Begin ? "begin" : "end");
     member(json, "success", event.success);
     json.endObject();
 }
@@ -106,7 +106,7 @@ void tell(JsonStream& json, const FieldOutcome_s& told) {
     json.beginObject();
     member(json, "variable", told.variable);
     member(json, "type", wordOf(told.type));
-    member(json, "state", wordOf(told.state));
+    member(json, "state", stateWordOf(told));
     member(json, "sharedWith", told.sharedWith);
     member(json, "count", told.count);
     if (told.statistics) {

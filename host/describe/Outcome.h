@@ -12,19 +12,12 @@
 #include <vector>
 
 #include "describe/Sparse.h"
+#include "model/Zone.h"
 #include "quorvia/QuorUtil.h"
-#include "state/TextLog.h"
+#include "state/HostLog.h"
 #include "toolkit/Dialog.h"
 
 namespace quorvia::host {
-
-/// How a field came out of the load, before any value was fetched.
-enum class FieldState_e {
-    Empty,    // no storage and no way to get values
-    Deferred, // values come from the add-on on demand
-    Stored,   // the load itself wrote the values
-    Shared    // the field of a zone with a lower number is this one's too
-};
 
 /// Of all values of a field, in 64-bit reals.
 struct FieldStatistics_s {
@@ -39,8 +32,8 @@ struct FieldStatistics_s {
 struct FieldOutcome_s {
     std::int32_t variable = 0; // from 1
     QuorFieldDataType_e type = QuorFieldDataType_Invalid;
-    FieldState_e state = FieldState_e::Empty;
-    std::int32_t sharedWith = 0;          // zone number from 1; 0: not shared
+    FieldState state = FieldState::Empty; // before any value was fetched
+    std::int32_t sharedWith = 0;          // the lowest zone with the same field; 0: this one
     std::int64_t count = 0;               // values, not bytes
     Sparse<FieldStatistics_s> statistics; // absent if the values were not fetched
     Sparse<std::string> error;            // why a fetch failed
@@ -109,33 +102,15 @@ struct DataSetOutcome_s {
     friend bool operator==(const DataSetOutcome_s&, const DataSetOutcome_s&) = default;
 };
 
-enum class MessageOutcome_e { Error, Information, Question };
-
-struct MessageOutcome_s {
-    MessageOutcome_e kind = MessageOutcome_e::Error;
-    std::string text;
-    std::optional<bool> answer; // of a question: true is OK or Yes
-};
-
-struct StateChangeOutcome_s {
-    std::int32_t code = 0;
-    std::vector<std::int64_t> members;
-};
-
-struct UndoOutcome_s {
-    bool begins = true;
-    std::optional<bool> success; // of an end
-};
-
 struct Outcome_s {
     bool ok = false;
     std::optional<std::string> hostError; // what stopped the host itself
-    std::vector<MessageOutcome_s> messages;
+    std::vector<Message> messages;
     TextLog progress; // the texts shown, in order
     QuorPlotType_e plotType = QuorPlotType_None;
     std::vector<std::string> instructions; // last handed over
-    std::vector<StateChangeOutcome_s> stateChanges;
-    std::vector<UndoOutcome_s> undo;
+    std::vector<StateChange> stateChanges;
+    std::vector<UndoEvent> undo;
     std::int64_t redraws = 0;
     std::int64_t lockDepth = 0;
     std::vector<std::string> violations; // of the contract, by the add-on

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <map>
 #include <ostream>
 #include <string_view>
@@ -11,16 +10,13 @@
 #include <fmt/ranges.h>
 
 #include "describe/TextGrid.h"
+#include "describe/VariableSummary.h"
 #include "describe/Words.h"
 
 namespace quorvia::host {
 namespace {
 
 using Align_e = TextGrid::Align_e;
-
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    return fmt::format("{} {}", count, count == 1 ? one : many);
-}
 
 void printLeftOut(std::ostream& out, std::size_t total, std::size_t shown, std::string_view what) {
     if (total > shown)
@@ -36,36 +32,11 @@ void printHead(std::ostream& out, const Outcome_s& outcome) {
         return;
     }
     const DataSetOutcome_s& dataSet = *outcome.dataSet;
-    out << fmt::format("Data set \"{}\": {}, {}, plot type {}\n", onOneLine(dataSet.title),
-                       counted(dataSet.zones.size(), "zone", "zones"),
-                       counted(dataSet.variables.size(), "variable", "variables"),
-                       wordOf(outcome.plotType));
+    out << fmt::format("Data set \"{}\": {}, plot type {}\n", onOneLine(dataSet.title),
+                       sizeText(dataSet), wordOf(outcome.plotType));
 }
 
 // ---- Variables ----------------------------------------------------------------------------------
-
-/// What all zones together tell of one variable.
-struct VariableSummary_s {
-    double min = std::numeric_limits<double>::infinity();
-    double max = -std::numeric_limits<double>::infinity();
-    std::vector<QuorFieldDataType_e> types;
-};
-
-VariableSummary_s summariseVariable(const DataSetOutcome_s& dataSet, std::size_t index) {
-    VariableSummary_s result;
-    for (const ZoneOutcome_s& zone : dataSet.zones) {
-        if (index >= zone.fields.size())
-            continue;
-        const FieldOutcome_s& field = zone.fields[index];
-        if (std::find(result.types.begin(), result.types.end(), field.type) == result.types.end())
-            result.types.push_back(field.type);
-        if (!field.statistics)
-            continue;
-        result.min = std::min(result.min, field.statistics->min);
-        result.max = std::max(result.max, field.statistics->max);
-    }
-    return result;
-}
 
 std::string typeWords(const std::vector<QuorFieldDataType_e>& types) {
     std::vector<std::string_view> words;
@@ -81,11 +52,11 @@ void printVariables(std::ostream& out, const DataSetOutcome_s& dataSet) {
                    {"minimum", Align_e::Right},
                    {"maximum", Align_e::Right}});
     for (std::size_t index = 0; index < dataSet.variables.size(); ++index) {
-        const VariableSummary_s summary = summariseVariable(dataSet, index);
-        const bool hasRange = summary.min <= summary.max;
-        grid.addRow({fmt::format("{}", index + 1), dataSet.variables[index],
-                     typeWords(summary.types), hasRange ? fmt::format("{:.7g}", summary.min) : "-",
-                     hasRange ? fmt::format("{:.7g}", summary.max) : "-"});
+        const auto number = static_cast<std::int32_t>(index) + 1;
+        const VariableSummary_s summary = summariseVariable(dataSet, number);
+        grid.addRow({fmt::format("{}", number), dataSet.variables[index], typeWords(summary.types),
+                     summary.hasRange() ? fmt::format("{:.7g}", summary.min) : "-",
+                     summary.hasRange() ? fmt::format("{:.7g}", summary.max) : "-"});
     }
     out << "\nVariables\n";
     grid.print(out);
@@ -93,21 +64,18 @@ void printVariables(std::ostream& out, const DataSetOutcome_s& dataSet) {
 
 // ---- Zones --------------------------------------------------------------------------------------
 
-std::string sizesOf(const ZoneOutcome_s& zone) {
-    if (zone.type == QuorZoneType_Ordered)
-        return fmt::format("{} x {} x {}", zone.i, zone.j, zone.k);
-    return fmt::format("{} nodes, {} elements", zone.i, zone.j);
-}
-
 std::string fieldStates(const ZoneOutcome_s& zone) {
-    constexpr std::array kStates = {FieldState_e::Deferred, FieldState_e::Stored,
-                                    FieldState_e::Shared, FieldState_e::Empty};
+    const std::array<std::string_view, 4> words = {wordOf(FieldState::Deferred),
+                                                   wordOf(FieldState::Stored), sharedWord,
+                                                   wordOf(FieldState::Empty)};
     std::vector<std::string> parts;
-    for (const FieldState_e state : kStates) {
-        const auto isSo = [state](const FieldOutcome_s& field) { return field.state == state; };
+    for (const std::string_view word : words) {
+        const auto isSo = [word](const FieldOutcome_s& field) {
+            return stateWordOf(field) == word;
+        };
         const auto count = std::count_if(zone.fields.begin(), zone.fields.end(), isSo);
         if (count > 0)
-            parts.push_back(fmt::format("{} {}", count, wordOf(state)));
+            parts.push_back(fmt::format("{} {}", count, word));
     }
     return fmt::format("{}", fmt::join(parts, ", "));
 }
@@ -128,7 +96,7 @@ void printZones(std::ostream& out, const DataSetOutcome_s& dataSet, TableLimits_
     const std::size_t shown = std::min(dataSet.zones.size(), limits.lines);
     for (std::size_t index = 0; index < shown; ++index) {
         const ZoneOutcome_s& zone = dataSet.zones[index];
-        grid.addRow({fmt::format("{}", zone.number), zone.name, wordOf(zone.type), sizesOf(zone),
+        grid.addRow({fmt::format("{}", zone.number), zone.name, wordOf(zone.type), sizeText(zone),
                      numberOrDash(zone.strandId), fmt::format("{:.7g}", zone.solutionTime),
                      numberOrDash(zone.parentZone), fieldStates(zone)});
     }
@@ -234,11 +202,11 @@ std::string indented(std::string_view text) {
     return result;
 }
 
-void printMessages(std::ostream& out, const std::vector<MessageOutcome_s>& messages) {
+void printMessages(std::ostream& out, const std::vector<Message>& messages) {
     if (messages.empty())
         return;
     out << "\nMessages\n";
-    for (const MessageOutcome_s& message : messages) {
+    for (const Message& message : messages) {
         out << fmt::format("  {}:\n{}", wordOf(message.kind), indented(message.text));
         if (message.answer)
             out << fmt::format("    answered: {}\n",

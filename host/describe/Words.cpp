@@ -1,29 +1,29 @@
 #include "describe/Words.h"
 
+#include <fmt/core.h>
+
 namespace quorvia::host {
 
-const char* wordOf(MessageOutcome_e kind) {
+const char* wordOf(MessageKind kind) {
     switch (kind) {
-    case MessageOutcome_e::Error:
+    case MessageKind::Error:
         return "error";
-    case MessageOutcome_e::Information:
+    case MessageKind::Information:
         return "information";
-    case MessageOutcome_e::Question:
+    case MessageKind::Question:
         return "question";
     }
     return "unknown";
 }
 
-const char* wordOf(FieldState_e state) {
+const char* wordOf(FieldState state) {
     switch (state) {
-    case FieldState_e::Empty:
+    case FieldState::Empty:
         return "empty";
-    case FieldState_e::Deferred:
+    case FieldState::Deferred:
         return "deferred";
-    case FieldState_e::Stored:
+    case FieldState::Stored:
         return "stored";
-    case FieldState_e::Shared:
-        return "shared";
     }
     return "unknown";
 }
@@ -70,6 +70,29 @@ const char* wordOf(QuorPlotType_e type) {
         return "polar";
     }
     return "unknown";
+}
+
+const char* stateWordOf(const FieldOutcome_s& field) {
+    return field.sharedWith != 0 ? sharedWord : wordOf(field.state);
+}
+
+std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+    return fmt::format("{} {}", count, count == 1 ? one : many);
+}
+
+std::string sizeText(const DataSetOutcome_s& dataSet) {
+    return counted(dataSet.zones.size(), "zone", "zones") + ", " +
+           counted(dataSet.variables.size(), "variable", "variables");
+}
+
+std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet) {
+    return dataSet ? sizeText(*dataSet) : "no data set";
+}
+
+std::string sizeText(const ZoneOutcome_s& zone) {
+    if (zone.type == QuorZoneType_Ordered)
+        return fmt::format("{} x {} x {}", zone.i, zone.j, zone.k);
+    return fmt::format("{} nodes, {} elements", zone.i, zone.j);
 }
 
 } // namespace quorvia::host

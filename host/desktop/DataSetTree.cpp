@@ -1,7 +1,5 @@
 #include "desktop/DataSetTree.h"
 
-#include <algorithm>
-#include <limits>
 #include <utility>
 
 #include <QContextMenuEvent>
@@ -9,6 +7,7 @@
 #include <QMenu>
 #include <QPainter>
 
+#include "describe/VariableSummary.h"
 #include "describe/Words.h"
 #include "desktop/Texts.h"
 #include "desktop/ZoneGroups.h"
@@ -31,16 +30,10 @@ std::int32_t variableOf(const QTreeWidgetItem* item) {
     return item->data(kName, kVariableRole).toInt();
 }
 
-QString sizeOf(const ZoneOutcome_s& zone) {
-    if (zone.type == QuorZoneType_Ordered)
-        return QStringLiteral("%1 x %2 x %3").arg(zone.i).arg(zone.j).arg(zone.k);
-    return QStringLiteral("%1 nodes, %2 elements").arg(zone.i).arg(zone.j);
-}
-
 QString stateOf(const FieldOutcome_s& field) {
     if (field.error)
         return QStringLiteral("failed");
-    if (field.state == FieldState_e::Shared)
+    if (field.sharedWith != 0)
         return QStringLiteral("shared with zone %1").arg(field.sharedWith);
     return QString::fromLatin1(wordOf(field.state));
 }
@@ -53,7 +46,7 @@ QString spanOf(const StrandGroup_s& group) {
     std::size_t zones = 0;
     for (const TimeGroup_s& time : group.times)
         zones += time.zones.size();
-    const QString count = counted(zones, "zone", "zones");
+    const QString count = shownCount(zones, "zone", "zones");
     if (group.times.size() < 2)
         return count;
     return QStringLiteral("%1, times %2 to %3")
@@ -95,10 +88,8 @@ void DataSetTree::showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType)
     dataSet_ = std::move(dataSet);
     auto* root = new QTreeWidgetItem(this);
     root->setText(kName, shown(dataSet_->title));
-    root->setText(kDetails, QStringLiteral("%1, %2, plot type %3")
-                                .arg(counted(dataSet_->zones.size(), "zone", "zones"),
-                                     counted(dataSet_->variables.size(), "variable", "variables"),
-                                     QLatin1String(wordOf(plotType))));
+    root->setText(kDetails, QStringLiteral("%1, plot type %2")
+                                .arg(shown(sizeText(*dataSet_)), QLatin1String(wordOf(plotType))));
     addVariables(root);
     addZones(root);
     addAuxData(root, dataSet_->auxData);
@@ -117,8 +108,9 @@ QTreeWidgetItem* DataSetTree::addItem(QTreeWidgetItem* parent, const QString& na
 }
 
 void DataSetTree::addVariables(QTreeWidgetItem* root) {
-    QTreeWidgetItem* group = addItem(root, QStringLiteral("Variables"),
-                                     counted(dataSet_->variables.size(), "variable", "variables"));
+    QTreeWidgetItem* group =
+        addItem(root, QStringLiteral("Variables"),
+                shownCount(dataSet_->variables.size(), "variable", "variables"));
     std::int32_t number = 0;
     for (const std::string& name : dataSet_->variables) {
         QTreeWidgetItem* item = addItem(group, shown(name), QString());
@@ -130,7 +122,7 @@ void DataSetTree::addVariables(QTreeWidgetItem* root) {
 
 void DataSetTree::addZones(QTreeWidgetItem* root) {
     QTreeWidgetItem* all =
-        addItem(root, QStringLiteral("Zones"), counted(dataSet_->zones.size(), "zone", "zones"));
+        addItem(root, QStringLiteral("Zones"), shownCount(dataSet_->zones.size(), "zone", "zones"));
     all->setExpanded(true);
     for (const StrandGroup_s& group : groupZones(*dataSet_)) {
         const QString name = group.strand == 0 ? QStringLiteral("Static zones")
@@ -138,8 +130,8 @@ void DataSetTree::addZones(QTreeWidgetItem* root) {
         QTreeWidgetItem* strand = addItem(all, name, spanOf(group));
         strand->setExpanded(true);
         for (const TimeGroup_s& time : group.times) {
-            QTreeWidgetItem* step =
-                addItem(strand, timeText(time.time), counted(time.zones.size(), "zone", "zones"));
+            QTreeWidgetItem* step = addItem(strand, timeText(time.time),
+                                            shownCount(time.zones.size(), "zone", "zones"));
             for (const std::size_t place : time.zones)
                 addZone(step, dataSet_->zones[place]);
             step->setExpanded(group.times.size() == 1);
@@ -151,8 +143,9 @@ void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
     const QString of = zone.parentZone == 0
                            ? QString()
                            : QStringLiteral(", boundary of zone %1").arg(zone.parentZone);
-    QTreeWidgetItem* item = addItem(
-        parent, QStringLiteral("%1  %2").arg(zone.number).arg(shown(zone.name)), sizeOf(zone) + of);
+    QTreeWidgetItem* item =
+        addItem(parent, QStringLiteral("%1  %2").arg(zone.number).arg(shown(zone.name)),
+                shown(sizeText(zone)) + of);
     item->setText(kType, QString::fromLatin1(wordOf(zone.type)));
     item->setData(kName, kZoneRole, zone.number);
     item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator); // filled once it is opened
@@ -161,8 +154,8 @@ void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
 void DataSetTree::addAuxData(QTreeWidgetItem* parent, const AuxDataItems& auxData) {
     if (auxData.empty())
         return;
-    QTreeWidgetItem* group =
-        addItem(parent, QStringLiteral("Auxiliary data"), counted(auxData.size(), "item", "items"));
+    QTreeWidgetItem* group = addItem(parent, QStringLiteral("Auxiliary data"),
+                                     shownCount(auxData.size(), "item", "items"));
     for (const auto& [name, text] : auxData)
         addItem(group, shown(name), shown(text));
 }
@@ -200,28 +193,16 @@ void DataSetTree::showFieldValues(QTreeWidgetItem* item) const {
 
 /// The range over the zones whose values were fetched.
 void DataSetTree::showVariableValues(QTreeWidgetItem* item) const {
-    double least = std::numeric_limits<double>::infinity();
-    double most = -least;
-    std::size_t fetched = 0;
-    std::size_t fields = 0;
-    for (const ZoneOutcome_s& zone : dataSet_->zones) {
-        const FieldOutcome_s* field = findField(*dataSet_, {zone.number, variableOf(item)});
-        if (field == nullptr || field->state == FieldState_e::Empty)
-            continue;
-        ++fields;
-        item->setText(kType, QString::fromLatin1(wordOf(field->type)));
-        if (!field->statistics)
-            continue;
-        ++fetched;
-        least = std::min(least, field->statistics->min);
-        most = std::max(most, field->statistics->max);
-    }
-    item->setText(kDetails,
-                  fetched == fields || fetched == 0
-                      ? QString()
-                      : QStringLiteral("range of %1 of %2 zones").arg(fetched).arg(fields));
-    item->setText(kMinimum, least <= most ? shownNumber(least) : QString());
-    item->setText(kMaximum, least <= most ? shownNumber(most) : QString());
+    const VariableSummary_s all = summariseVariable(*dataSet_, variableOf(item));
+    if (all.fieldCount > 0)
+        item->setText(kType, QString::fromLatin1(wordOf(all.lastType)));
+    const bool isPart = all.fetchedCount > 0 && all.fetchedCount < all.fieldCount;
+    item->setText(
+        kDetails,
+        isPart ? QStringLiteral("range of %1 of %2 zones").arg(all.fetchedCount).arg(all.fieldCount)
+               : QString());
+    item->setText(kMinimum, all.hasRange() ? shownNumber(all.min) : QString());
+    item->setText(kMaximum, all.hasRange() ? shownNumber(all.max) : QString());
 }
 
 void DataSetTree::showValuesBelow(QTreeWidgetItem* item) const {
@@ -266,11 +247,7 @@ void DataSetTree::collectFields(const QTreeWidgetItem* item,
 }
 
 std::vector<FieldAddress_s> DataSetTree::allFields() const {
-    std::vector<FieldAddress_s> fields;
-    if (dataSet_)
-        for (const ZoneOutcome_s& zone : dataSet_->zones)
-            addFieldsOfZone(zone.number, fields);
-    return fields;
+    return dataSet_ ? fieldsOf(*dataSet_) : std::vector<FieldAddress_s>();
 }
 
 std::vector<FieldAddress_s> DataSetTree::selectedFields() const {

@@ -9,7 +9,7 @@
 #include <QTreeWidget>
 
 #include "describe/Outcome.h"
-#include "desktop/ValueFetch.h"
+#include "describe/ValueFetch.h"
 
 namespace quorvia::host {
 

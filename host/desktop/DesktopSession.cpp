@@ -86,11 +86,8 @@ void DesktopSession::openAddOn(const std::string& path,
 
 void DesktopSession::readLoader() {
     loader_.reset();
-    if (host().loaders().empty())
-        return;
-    const Loader& loader = host().loaders().back();
-    loader_ = LoaderTraits_s{loader.name, loader.fileNameExtensions, loader.allowsSeveralFiles,
-                             loader.allowsAdvancedOptions, loader.allowsAppending};
+    if (!host().loaders().empty())
+        loader_ = host().loaders().back();
 }
 
 void DesktopSession::import(const FileSelection_s& selection,

@@ -10,15 +10,15 @@
 
 #include <QWidget>
 
-#include "desktop/ActionQueue.h"
+#include "describe/ValueFetch.h"
 #include "desktop/DesktopUser.h"
 #include "desktop/GuestWindows.h"
 #include "desktop/GuestWork.h"
 #include "desktop/ImportFileDialog.h"
-#include "desktop/ProgressFeed.h"
 #include "desktop/ProgressWindow.h"
-#include "desktop/ValueFetch.h"
+#include "session/ActionQueue.h"
 #include "session/AddOnLibrary.h"
+#include "session/ProgressFeed.h"
 #include "session/ReferenceHost.h"
 
 namespace quorvia::host {
@@ -47,7 +47,7 @@ public:
     /// Gets why the library could not be opened; empty if it could.
     void openAddOn(const std::string& path, std::function<void(std::string error)> done);
     /// The loader that was registered last; nothing if there is none.
-    const std::optional<LoaderTraits_s>& loader() const { return loader_; }
+    const std::optional<Loader>& loader() const { return loader_; }
 
     void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
     /// Adds the statistics of `fields` to `dataSet`, which is the one that is there.
@@ -77,7 +77,7 @@ private:
     DesktopUser user_;
     ProgressWindow progress_;
     std::unique_ptr<AddOnLibrary> library_;
-    std::optional<LoaderTraits_s> loader_;
+    std::optional<Loader> loader_;
     std::vector<std::string> violations_;
     GuestWork work_; // goes first: its thread uses all the others
 };

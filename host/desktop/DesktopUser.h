@@ -5,7 +5,7 @@
 
 #include <atomic>
 
-#include "desktop/ActionQueue.h"
+#include "session/ActionQueue.h"
 #include "toolkit/User.h"
 
 namespace quorvia::host {

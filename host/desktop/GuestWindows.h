@@ -12,7 +12,7 @@
 #include <QPoint>
 #include <QWidget>
 
-#include "desktop/ActionQueue.h"
+#include "session/ActionQueue.h"
 #include "toolkit/User.h"
 
 namespace quorvia::host {

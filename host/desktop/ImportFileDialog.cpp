@@ -64,7 +64,7 @@ struct Options_s {
 };
 
 /// Empty if appending can be chosen.
-QString whyNoAppend(const LoaderTraits_s& loader, bool hasDataSet, bool advanced) {
+QString whyNoAppend(const Loader& loader, bool hasDataSet, bool advanced) {
     if (!loader.allowsAppending)
         return QStringLiteral("This loader can't append.");
     if (!hasDataSet)
@@ -74,7 +74,7 @@ QString whyNoAppend(const LoaderTraits_s& loader, bool hasDataSet, bool advanced
     return {};
 }
 
-Options_s addOptions(QFileDialog& dialog, const LoaderTraits_s& loader, bool hasDataSet) {
+Options_s addOptions(QFileDialog& dialog, const Loader& loader, bool hasDataSet) {
     const Options_s options{new QCheckBox(QStringLiteral("A&dvanced options"), &dialog),
                             new QCheckBox(QStringLiteral("&Append to the data set"), &dialog)};
     options.advanced->setObjectName(QStringLiteral("advanced"));
@@ -107,8 +107,7 @@ Options_s addOptions(QFileDialog& dialog, const LoaderTraits_s& loader, bool has
 
 } // namespace
 
-FileSelection_s selectFilesToImport(QWidget* parent, const LoaderTraits_s& loader,
-                                    bool hasDataSet) {
+FileSelection_s selectFilesToImport(QWidget* parent, const Loader& loader, bool hasDataSet) {
     QFileDialog dialog(parent);
     prepare(dialog, QStringLiteral("Import: %1").arg(shown(loader.name)),
             loader.allowsSeveralFiles);

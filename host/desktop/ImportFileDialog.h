@@ -6,18 +6,10 @@
 
 #include <QWidget>
 
+#include "state/Loader.h"
 #include "toolkit/User.h"
 
 namespace quorvia::host {
-
-/// What a registered loader says of itself.
-struct LoaderTraits_s {
-    std::string name;
-    std::string fileNameExtensions; // patterns with blanks, commas or semicolons between them
-    bool allowsSeveralFiles = false;
-    bool allowsAdvancedOptions = false;
-    bool allowsAppending = false;
-};
 
 struct FileSelection_s {
     std::vector<std::string> files; // whole paths; none for Cancel
@@ -25,9 +17,9 @@ struct FileSelection_s {
     bool append = false;
 };
 
-/// The selection of the import menu. `hasDataSet`: there is something to append to. Remembers the
-/// folder.
-FileSelection_s selectFilesToImport(QWidget* parent, const LoaderTraits_s& loader, bool hasDataSet);
+/// The selection of the import menu. The loader's extensions are patterns with blanks, commas or
+/// semicolons between them. `hasDataSet`: there is something to append to. Remembers the folder.
+FileSelection_s selectFilesToImport(QWidget* parent, const Loader& loader, bool hasDataSet);
 
 /// What a guest asks for; none for Cancel. Remembers the folder.
 std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest& request);

@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include "describe/Words.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
 
@@ -19,14 +20,6 @@ namespace quorvia::host {
 namespace {
 
 constexpr const char* kImportPage = "data-loading.html#data-loading/plot3d";
-
-QString sizeText(const std::optional<DataSetOutcome_s>& dataSet) {
-    if (!dataSet)
-        return QStringLiteral("no data set");
-    return QStringLiteral("%1, %2").arg(
-        counted(dataSet->zones.size(), "zone", "zones"),
-        counted(dataSet->variables.size(), "variable", "variables"));
-}
 
 std::vector<std::string> localFiles(const QMimeData& data) {
     std::vector<std::string> files;
@@ -178,14 +171,14 @@ void MainWindow::importByHand() {
 void MainWindow::import(const FileSelection_s& selection) {
     session_.import(selection, [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
     workBegins(
-        QStringLiteral("Importing %1").arg(counted(selection.files.size(), "file", "files")));
+        QStringLiteral("Importing %1").arg(shownCount(selection.files.size(), "file", "files")));
 }
 
 void MainWindow::showImport(ImportOutcome_s outcome) {
     QString what = outcome.result.interrupted ? QStringLiteral("Import cancelled: %1")
                    : outcome.result.ok        ? QStringLiteral("Imported: %1")
                                               : QStringLiteral("Nothing was imported: %1");
-    what = what.arg(sizeText(outcome.dataSet));
+    what = what.arg(shown(sizeText(outcome.dataSet)));
     // What an import has left alone keeps its ranges, and what was opened in the tree stays open.
     const bool isAsBefore = !outcome.result.ok && outcome.dataSet && tree_->shows(*outcome.dataSet);
     if (!outcome.dataSet)
@@ -223,7 +216,7 @@ void MainWindow::fetch(std::vector<FieldAddress_s> fields) {
     const DataSetOutcome_s* dataSet = tree_->dataSet();
     if (dataSet == nullptr || fields.empty() || session_.isBusy())
         return;
-    const QString count = counted(fields.size(), "field", "fields");
+    const QString count = shownCount(fields.size(), "field", "fields");
     session_.fetch(*dataSet, std::move(fields), [this](DataSetOutcome_s fetched, FetchEnd_e end) {
         showFetched(std::move(fetched), end);
     });

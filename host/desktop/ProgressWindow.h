@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "desktop/ProgressFeed.h"
+#include "session/ProgressFeed.h"
 
 namespace quorvia::host {
 

@@ -1,5 +1,7 @@
 #include "desktop/Texts.h"
 
+#include "describe/Words.h"
+
 namespace quorvia::host {
 
 QString shownCaption(const std::string& caption) {
@@ -11,8 +13,8 @@ QString shownNumber(double value) {
     return QString::number(value, 'g', kDigits);
 }
 
-QString counted(std::size_t count, const char* one, const char* many) {
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+QString shownCount(std::size_t count, const char* one, const char* many) {
+    return shown(counted(count, one, many));
 }
 
 } // namespace quorvia::host

@@ -20,6 +20,6 @@ QString shownCaption(const std::string& caption);
 QString shownNumber(double value);
 
 /// "1 zone", "3 zones".
-QString counted(std::size_t count, const char* one, const char* many);
+QString shownCount(std::size_t count, const char* one, const char* many);
 
 } // namespace quorvia::host

@@ -10,6 +10,7 @@
 #include "describe/GatherOutcome.h"
 #include "describe/Json.h"
 #include "describe/Statistics.h"
+#include "describe/ValueFetch.h"
 #include "faults/Survival.h"
 #include "session/AddOnLibrary.h"
 #include "session/ReferenceHost.h"

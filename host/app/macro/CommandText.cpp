@@ -5,12 +5,9 @@
 #include <fmt/core.h>
 #include <fmt/ranges.h>
 
+#include "describe/Words.h"
+
 namespace quorvia::host {
-
-std::string counted(std::size_t count, std::string_view thing) {
-    return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
-}
-
 namespace {
 
 std::string fileNames(const std::vector<std::string>& files) {
@@ -26,7 +23,7 @@ struct Tell_s {
                            command.append ? ", append" : "", command.advanced ? ", advanced" : "");
     }
     std::string operator()(const InstructionsCommand_s& command) const {
-        return "instructions, " + counted(command.instructions.size(), "string");
+        return "instructions, " + counted(command.instructions.size(), "string", "strings");
     }
     std::string operator()(const ReplayCommand_s&) const { return "replay"; }
     std::string operator()(const AnswersCommand_s& command) const {
@@ -36,7 +33,7 @@ struct Tell_s {
         return fmt::format("answers {}", fmt::join(words, ", "));
     }
     std::string operator()(const DialogCommand_s& command) const {
-        return "dialog, " + counted(command.actions.size(), "action");
+        return "dialog, " + counted(command.actions.size(), "action", "actions");
     }
     std::string operator()(const HostCommand_s&) const { return "host"; }
     std::string operator()(const DataSetCommand_s& command) const {
@@ -70,13 +67,6 @@ struct Tell_s {
 
 std::string commandText(const MacroCommand& command) {
     return std::visit(Tell_s(), command);
-}
-
-std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet) {
-    if (!dataSet)
-        return "no data set";
-    return counted(dataSet->zones.size(), "zone") + ", " +
-           counted(dataSet->variables.size(), "variable");
 }
 
 } // namespace quorvia::host

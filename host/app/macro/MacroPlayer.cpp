@@ -10,6 +10,9 @@
 #include "app/macro/CommandText.h"
 #include "app/macro/DialogSteps.h"
 #include "app/macro/OutcomeSlices.h"
+#include "describe/GatherOutcome.h"
+#include "describe/ValueFetch.h"
+#include "describe/Words.h"
 #include "session/AddOnLibrary.h"
 #include "session/ReferenceHost.h"
 
@@ -199,7 +202,8 @@ private:
         if (script.cancelledDialogs() > 0)
             account += ", the dialog was still open and was cancelled";
         if (script.entriesLeft() > 0)
-            account += fmt::format(", {} left", counted(script.entriesLeft(), "dialog action"));
+            account += fmt::format(
+                ", {} left", counted(script.entriesLeft(), "dialog action", "dialog actions"));
         script.clearScript();
         if (!problem.empty())
             throw CommandProblem(problem);

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/macro/Macro.h"
-#include "describe/GatherOutcome.h"
+#include "describe/FetchSeries.h"
 #include "describe/Outcome.h"
 
 namespace quorvia::host {

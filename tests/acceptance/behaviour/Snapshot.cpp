@@ -2,6 +2,7 @@
 
 #include "describe/GatherOutcome.h"
 #include "describe/Json.h"
+#include "describe/ValueFetch.h"
 
 namespace quorvia::testsupport {
 

@@ -6,6 +6,7 @@
 
 #include "acceptance/support/LoadedAddOn.h"
 #include "describe/GatherOutcome.h"
+#include "describe/ValueFetch.h"
 #include "plot3dwriter/Plot3DWriter.h"
 
 namespace quorvia::testsupport {

@@ -111,9 +111,9 @@ TEST(Json, VariableNamesKeepTrailingBlanks) {
 
 TEST(Json, MessagesTellKindAndAnswer) {
     Outcome_s outcome;
-    outcome.messages = {{MessageOutcome_e::Error, "Bad.", std::nullopt},
-                        {MessageOutcome_e::Information, "Good.", std::nullopt},
-                        {MessageOutcome_e::Question, "Which?", false}};
+    outcome.messages = {{MessageKind::Error, "Bad.", std::nullopt},
+                        {MessageKind::Information, "Good.", std::nullopt},
+                        {MessageKind::Question, "Which?", false}};
     EXPECT_EQ(Json::parse(R"([{"kind":"error","text":"Bad.","answer":null},
                               {"kind":"information","text":"Good.","answer":null},
                               {"kind":"question","text":"Which?","answer":false}])"),
@@ -123,7 +123,7 @@ TEST(Json, MessagesTellKindAndAnswer) {
 TEST(Json, HostEventsAreTold) {
     Outcome_s outcome;
     outcome.stateChanges = {{3, {1, 2}}};
-    outcome.undo = {{true, std::nullopt}, {false, true}};
+    outcome.undo = {{UndoKind::Begin, 0, std::nullopt}, {UndoKind::End, 0, true}};
     const Json json = told(outcome);
     EXPECT_EQ(Json::parse(R"([{"code":3,"members":[1,2]}])"), json["stateChanges"]);
     EXPECT_EQ(Json::parse(R"([{"event":"begin","success":null},{"event":"end","success":true}])"),
@@ -184,11 +184,11 @@ TEST(Json, TextOfNothingIsTheLibrarysDump) {
 TEST(Json, TextOfAnOutcomeIsTheLibrarysDump) {
     Outcome_s outcome = loadedOutcome(3);
     outcome.hostError = "No.";
-    outcome.messages = {{MessageOutcome_e::Question, "Which?\nThis?", false}};
+    outcome.messages = {{MessageKind::Question, "Which?\nThis?", false}};
     outcome.progress.add("Zone 1");
     outcome.progress.add("Zone 2");
     outcome.stateChanges = {{3, {1, 2}}, {0, {}}};
-    outcome.undo = {{true, std::nullopt}, {false, true}};
+    outcome.undo = {{UndoKind::Begin, 0, std::nullopt}, {UndoKind::End, 0, true}};
     outcome.dataSet->auxData = {{"Common.Mach", "0.5"}};
     outcome.dataSet->zones[1].fields.clear();
     outcome.dataSet->zones[2].connectivity = {7, 4, 0x1a};

@@ -69,7 +69,7 @@ TEST(Table, UnstructuredZoneTellsNodesAndElements) {
 
 TEST(Table, CountsTheStatesOfAZonesFields) {
     Outcome_s outcome = loadedOutcome(1);
-    outcome.dataSet->zones[0].fields[1].state = FieldState_e::Shared;
+    outcome.dataSet->zones[0].fields[1].sharedWith = 7;
     EXPECT_TRUE(contains(table(outcome), "  1 deferred, 1 shared\n"));
 }
 
@@ -109,7 +109,7 @@ TEST(Table, ListsValuesThatCouldNotBeFetched) {
 
 TEST(Table, MessagesOfSeveralLinesStayReadable) {
     Outcome_s outcome;
-    outcome.messages = {{MessageOutcome_e::Question, "Replace?\nFile: a.q", true}};
+    outcome.messages = {{MessageKind::Question, "Replace?\nFile: a.q", true}};
     EXPECT_EQ("No data set\n"
               "\n"
               "Messages\n"

@@ -251,9 +251,10 @@ std::vector<ServiceScenario> textFieldScenarios() {
          }},
         {"QuorGUITextFieldValidateLgIndex", readyLongField, // the user is told that it is none
          [](Guest& guest) {
-             return QuorGUITextFieldValidateLgIndex(guest.control, longText, 1, 9, false)
-                        ? Ended_e::Refused
-                        : Ended_e::Silent;
+             const bool isValid =
+                 QuorGUITextFieldValidateLgIndex(guest.control, longText, 1, 9, false);
+             const bool isTold = !hostState().log.messages.empty();
+             return !isValid && isTold ? Ended_e::Silent : Ended_e::Refused;
          }},
         {"QuorGUITextFieldSetSet", readyFieldAndSet,
          [](Guest& guest) {

@@ -1,12 +1,12 @@
 // Each service of the host while the host's memory runs out at its first, second, third ...
 // allocation: it happens whole or not at all, as its result says; the guest is blamed for nothing;
-// and the same call works once there is memory again.
-#include <algorithm>
+// and the same call works once there is memory again. And each as its row among the operations
+// tells: counted by its name, and failing on purpose if it has a way to.
 #include <cctype>
-#include <fstream>
-#include <regex>
-#include <set>
+#include <memory>
+#include <new>
 
+#include "checks/Operations.h"
 #include "memory/HostPicture.h"
 #include "memory/ServiceScenarios.h"
 #include "state/HostState.h"
@@ -32,6 +32,8 @@ Ended_e callOf(const ServiceScenario& scenario, Guest& guest) {
         return scenario.call(guest);
     } catch (const std::bad_alloc&) {
         return Ended_e::BadAlloc;
+    } catch (const InterruptedException&) {
+        return Ended_e::Refused;
     }
 }
 
@@ -132,6 +134,46 @@ TEST_P(EveryService, HappensWholeOrNotAtAllWhileItsCallsAreRecorded) {
     failEachAllocation(FaultSpan_e::FromThenOn, true);
 }
 
+/// The scenarios with a row among the operations: not those of what calls other operations, and
+/// not those of what a user does.
+class EveryOperation : public EveryService {
+protected:
+    const OperationTraits& row() const {
+        return OperationId::at(*rowOf(GetParam().service)).traits();
+    }
+    /// He stops a task that has done its step, or answers No: what happened before stands.
+    bool isRefusedByTheUser() const {
+        return row().name == "QuorUtilDialogMessageBox" ||
+               row().name.rfind("TaskProgress::", 0) == 0;
+    }
+};
+
+TEST_P(EveryOperation, IsCountedByItsName) {
+    Stage stage(GetParam(), addOn(), false);
+    const std::int64_t before = host().callCount(row().name);
+    callOf(GetParam(), stage.guest());
+    EXPECT_GT(host().callCount(row().name), before);
+    EXPECT_EQ(stage.faultsAtTheEnd(), Texts());
+}
+
+TEST_P(EveryOperation, FailsOnPurposeIfItsRowSaysSo) {
+    Stage stage(GetParam(), addOn(), false);
+    const std::string before = stage.picture();
+    host().failCall(row().name, 1);
+    const Ended_e ended = callOf(GetParam(), stage.guest());
+    const bool isRefused = ended == Ended_e::Refused || ended == Ended_e::BadAlloc;
+    EXPECT_EQ(isRefused, row().failure == Failure::Possible);
+    // A task has done its step when it passes on that the user wants it to stop.
+    EXPECT_TRUE(!isRefused || isRefusedByTheUser() || stage.picture() == before);
+    EXPECT_EQ(stage.faultsAtTheEnd(), Texts());
+}
+
+std::vector<ServiceScenario> scenariosOfOperations() {
+    std::vector<ServiceScenario> scenarios = allScenarios();
+    std::erase_if(scenarios, [](const auto& each) { return !rowOf(each.service); });
+    return scenarios;
+}
+
 std::string testName(const ::testing::TestParamInfo<ServiceScenario>& info) {
     std::string name = std::to_string(info.index) + '_';
     for (const char letter : info.param.service)
@@ -143,6 +185,8 @@ std::string testName(const ::testing::TestParamInfo<ServiceScenario>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Host, EveryService, ::testing::ValuesIn(allScenarios()), testName);
+INSTANTIATE_TEST_SUITE_P(Host, EveryOperation, ::testing::ValuesIn(scenariosOfOperations()),
+                         testName);
 
 // ---- The faults are there -----------------------------------------------------------------------
 
@@ -167,48 +211,5 @@ TEST(AllocationFault, ReachesTheBlocksOfTheHost) {
 
 #endif
 
-// ---- None is left out ---------------------------------------------------------------------------
-
-/// The operations that a header declares, members with their class. Deleted ones are none.
-std::set<std::string> declaredIn(const std::string& header) {
-    const std::regex classHead("^class QUORVIA_HOST_API (\\w+).*");
-    const std::regex operation("^( *)(?:[A-Za-z].*[ *&>])?(~?\\w+)\\(.*");
-    const std::regex notDeclared(".*(= delete;|^ *//|^using|^ *return).*");
-    std::set<std::string> names;
-    std::string className;
-    std::ifstream file(SDK_DIRECTORY "/" + header);
-    std::smatch match;
-    for (std::string line; std::getline(file, line);) {
-        if (line.rfind("};", 0) == 0)
-            className.clear();
-        if (std::regex_match(line, match, classHead))
-            className = match[1];
-        else if (!std::regex_match(line, notDeclared) && std::regex_match(line, match, operation) &&
-                 match[1].length() == (className.empty() ? 0 : 4))
-            names.insert(className.empty() ? match[2].str() : className + "::" + match[2].str());
-    }
-    return names;
-}
-
-TEST(EveryServiceOfTheSdk, HasAScenario) {
-    std::set<std::string> missing;
-    for (const char* header : {"QuorUtil.h", "QuorGUI.h", "QuorUtilityLibrary.h"}) {
-        const std::set<std::string> declared = declaredIn(header);
-        EXPECT_GT(declared.size(), 10U) << header;
-        missing.insert(declared.begin(), declared.end());
-    }
-    for (const ServiceScenario& scenario : allScenarios())
-        missing.erase(scenario.service);
-    EXPECT_EQ(missing, std::set<std::string>());
-}
-
-TEST(EveryServiceOfTheSdk, IsReadFromItsHeaders) {
-    EXPECT_EQ(declaredIn("QuorUtil.h").count("QuorUtilDataSetAddZoneX"), 1U);
-    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("TaskProgress::createSubTask"), 1U);
-    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("StringList::~StringList"), 1U);
-    EXPECT_EQ(declaredIn("QuorUtilityLibrary.h").count("createTaskProgressBar"), 1U);
-}
-
 } // namespace
-
 } // namespace quorvia::host

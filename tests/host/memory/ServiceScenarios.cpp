@@ -1,5 +1,6 @@
 #include "memory/ServiceScenarios.h"
 
+#include "checks/Operations.h"
 #include "state/HostState.h"
 
 namespace quorvia::host {
@@ -22,6 +23,14 @@ std::vector<ServiceScenario> allScenarios() {
                               utilityScenarios(), sessionScenarios()})
         scenarios.insert(scenarios.end(), group.begin(), group.end());
     return scenarios;
+}
+
+std::optional<std::size_t> rowOf(const std::string& service) {
+    const std::optional<std::size_t> row = findOperation(service);
+    const std::size_t colons = service.find("::");
+    if (row || colons == std::string::npos)
+        return row;
+    return findOperation(service.substr(colons + 2));
 }
 
 } // namespace quorvia::host

@@ -1,7 +1,9 @@
 // For each service of the host a guest who calls it: what he has readied, and the one call.
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -68,6 +70,10 @@ std::vector<ServiceScenario> utilityScenarios();
 /// What a user does at the host, which calls the guest back.
 std::vector<ServiceScenario> sessionScenarios();
 std::vector<ServiceScenario> allScenarios();
+
+/// The place of a service in the table of operations (checks/Operations.h), which names what makes
+/// and ends an object by its class alone; nothing for one that is not in it.
+std::optional<std::size_t> rowOf(const std::string& service);
 
 // ---- For what scenarios ready -------------------------------------------------------------------
 

@@ -1,4 +1,5 @@
-#include "desktop/ActionQueue.h"
+// What the user did at a dialog, and when the guest gets it.
+#include "session/ActionQueue.h"
 
 #include <thread>
 

@@ -1,4 +1,4 @@
-#include "desktop/ActionQueue.h"
+#include "session/ActionQueue.h"
 
 #include <utility>
 

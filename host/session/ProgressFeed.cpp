@@ -1,4 +1,4 @@
-#include "desktop/ProgressFeed.h"
+#include "session/ProgressFeed.h"
 
 #include <utility>
 
