@@ -57,7 +57,7 @@ TEST(Sessions, OfKnownSeedsMakeWhatTheModelExpects) {
 
 TEST(Sessions, OfARandomSeedMakeWhatTheModelExpects) {
     if (std::getenv("PLOT3D_TEST_SEED") != nullptr)
-        GTEST_SKIP() << "the seed is given";
+        GTEST_SKIP() << "a seed was given";
     constexpr std::uint64_t randomSeeds = 1000;
     constexpr std::uint64_t behindTheKnown = 1000000;
     playFrom(behindTheKnown + std::random_device()(), randomSeeds);
