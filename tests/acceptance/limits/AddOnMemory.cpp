@@ -37,6 +37,15 @@ void* operator new(std::size_t size) {
     return block;
 }
 
+// Sanitizers have one of their own, which does not lead to ours.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void operator delete(void* block) noexcept {
     if (block != nullptr)
         heldBytes -= static_cast<std::int64_t>(malloc_usable_size(block));
