@@ -1,6 +1,5 @@
 // Every n-th thing of every kind fails in sessions of every kind; each n in a process of its own.
 // faults/SampledPoints.h tells which n are taken.
-#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -31,17 +30,7 @@ TEST_P(FaultSweep, EndsLikeTheFaultlessOrIsRefused) {
         GTEST_SKIP() << "another point was asked for";
     watchFilesOf(sessions().folder());
     const Reference reference = playWithoutFaults(session());
-    const auto countPoints = [&] {
-        const ChildResult_s counted = play(reference, std::numeric_limits<std::int64_t>::max());
-        EXPECT_EQ(counted.problem, "") << "without a fault";
-        EXPECT_GT(counted.count, 0) << "nothing of this kind happens";
-        return counted.count;
-    };
-    for (const std::int64_t n : pointsToTry(countPoints, name())) {
-        const ChildResult_s played = play(reference, n);
-        if (!played.problem.empty())
-            ADD_FAILURE() << played.problem << "\nrepeat with PLOT3D_FAULT=" << name() << "/" << n;
-    }
+    expectWellAtEachPoint(name(), [&](std::int64_t n) { return play(reference, n); });
 }
 
 std::vector<std::size_t> allPlaces() {

@@ -3,7 +3,11 @@
 #include <cstdlib>
 #include <functional>
 #include <iostream>
+#include <limits>
 #include <random>
+#include <set>
+
+#include <gtest/gtest.h>
 
 namespace quorvia::testsupport {
 
@@ -26,13 +30,7 @@ std::uint64_t seed() {
     return chosen;
 }
 
-} // namespace
-
-bool isWanted(const std::string& name) {
-    const std::string one = environment("PLOT3D_FAULT");
-    return one.empty() || one.starts_with(name + "/");
-}
-
+/// Out of 1 to what `countPoints` gives; the one that was asked for may lie behind them.
 std::set<std::int64_t> pointsToTry(const std::function<std::int64_t()>& countPoints,
                                    const std::string& name) {
     const std::string one = environment("PLOT3D_FAULT");
@@ -47,6 +45,28 @@ std::set<std::int64_t> pointsToTry(const std::function<std::int64_t()>& countPoi
     while (!takesAll && std::ssize(chosen) < samplesOfAKind)
         chosen.insert(1 + static_cast<std::int64_t>(random() % static_cast<std::uint64_t>(count)));
     return chosen;
+}
+
+} // namespace
+
+bool isWanted(const std::string& name) {
+    const std::string one = environment("PLOT3D_FAULT");
+    return one.empty() || one.starts_with(name + "/");
+}
+
+void expectWellAtEachPoint(const std::string& name,
+                           const std::function<ChildResult_s(std::int64_t n)>& play) {
+    const auto countPoints = [&] {
+        const ChildResult_s counted = play(std::numeric_limits<std::int64_t>::max());
+        EXPECT_EQ(counted.problem, "") << "without a fault";
+        EXPECT_GT(counted.count, 0) << "nothing of this kind happens";
+        return counted.count;
+    };
+    for (const std::int64_t n : pointsToTry(countPoints, name)) {
+        const ChildResult_s played = play(n);
+        if (!played.problem.empty())
+            ADD_FAILURE() << played.problem << "\nrepeat with PLOT3D_FAULT=" << name << "/" << n;
+    }
 }
 
 const Sessions& sessions() {

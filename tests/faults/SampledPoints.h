@@ -5,9 +5,9 @@
 
 #include <cstdint>
 #include <functional>
-#include <set>
 #include <string>
 
+#include "faults/ChildProcess.h"
 #include "faults/Session.h"
 
 namespace quorvia::testsupport {
@@ -15,9 +15,11 @@ namespace quorvia::testsupport {
 /// False if one point was asked for, and it is not one of `name`.
 bool isWanted(const std::string& name);
 
-/// Out of 1 to what `count` gives; the one that was asked for may lie behind them.
-std::set<std::int64_t> pointsToTry(const std::function<std::int64_t()>& count,
-                                   const std::string& name);
+/// Plays the points to try. `play(n)` lets the n-th point, from 1, fail in a child; one that is
+/// never reached makes a run without a fault, whose count is that of all points. Each problem fails
+/// the test, with the words that repeat it.
+void expectWellAtEachPoint(const std::string& name,
+                           const std::function<ChildResult_s(std::int64_t n)>& play);
 
 /// The sessions of the program; their files are written at the first call.
 const Sessions& sessions();
