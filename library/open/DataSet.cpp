@@ -1,0 +1,1 @@
+#include <plot3d/DataSet.h>

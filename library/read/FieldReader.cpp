@@ -1,0 +1,1 @@
+#include <plot3d/FieldReader.h>

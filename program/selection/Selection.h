@@ -1,0 +1,45 @@
+// Which part of a data set a command works on: variables, zones, times, points, and what becomes of
+// blanked points.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <plot3d/DataSet.h>
+
+#include "manners/Command.h"
+
+namespace plot3d::program {
+
+/// As the user writes it: indices from 1, ends included.
+class SelectionArguments {
+public:
+    /// --variable, --zone, --time, --i, --j, --k, --point, --blank.
+    void declare(CLI::App& app);
+
+    /// Indices from 0, ascending. Throws plot3d::Error (Usage) for a pattern or number that meets
+    /// nothing, with the names that are there.
+    std::vector<std::size_t> variables(const DataSet& data) const;
+    std::vector<std::size_t> zones(const DataSet& data) const;
+    /// The box that --i, --j, --k or --point select in a zone; nothing if it holds no point of it.
+    /// Of an unstructured zone its nodes along I.
+    std::optional<Box> box(const Zone& zone) const;
+    /// Whether points whose I-blank is 0 are left out.
+    bool skipsBlanked() const { return skipsBlanked_; }
+
+private:
+    std::string variables_; // patterns with * and ?, separated by commas; empty: all
+    std::string zones_;     // "1,3-5"; empty: all
+    std::string times_;     // "0.5" or "0.5:2" or "last"; empty: all
+    std::string i_, j_, k_; // "FIRST,LAST,STEP"
+    std::string point_;     // "I,J,K"
+    bool skipsBlanked_ = true;
+};
+
+/// The variable that holds I-blank; nothing if the data set has none.
+std::optional<std::size_t> iBlankVariable(const DataSet& data);
+
+} // namespace plot3d::program
