@@ -77,6 +77,14 @@ TEST_F(ReadCounts, OfAWholeFieldAreItsBytesInPiecesOfSomeMebibytes) {
     EXPECT_EQ(countsOf(size, Box::whole(size), otherOrder()).bytes, size.count() * 8);
 }
 
+TEST_F(ReadCounts, OfEmptyPiecesAreNone) {
+    const FieldFile file{{7, 5, 3}, ValueType::Int32, machineOrder(), {0, 100, 0, 0}, false};
+    const plot3d::FieldReader reader(file.write(directory_), file.size);
+    EXPECT_EQ(readBytes(reader, Box::whole(file.size)),
+              expectedBytes(file.type, file.size, Box::whole(file.size)));
+    EXPECT_EQ(reader.readCount(), 2);
+}
+
 TEST_F(ReadCounts, OfASmallBoxAreOneReadFromItsFirstValueToItsLast) {
     const Counts counts = countsOf({50, 40, 30}, {{5, 9, 1}, {10, 12, 1}, {20, 21, 1}});
     EXPECT_EQ(counts.reads, 1);
