@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* programDescription =
     "Loads PLOT3D data sets through the data-loader add-on, outside the host that the\n"
-    "add-on was made for, and tells how each load came out.";
+    "add-on was made for, and reports how each load came out.";
 
 constexpr const char* examples =
     "Examples:\n"
@@ -33,7 +33,7 @@ constexpr const char* examples =
 constexpr const char* macroNotes =
     "FILE holds {\"commands\": [...]} with one object for each command: select, instructions,\n"
     "replay, answers, dialog, host, dataSet, interruptAtStep, fail, stateChange, fetch,\n"
-    "unload, deleteZones, resetFrame, describe. docs/macros.md tells them all.\n"
+    "unload, deleteZones, resetFrame, describe. docs/macros.md describes them all.\n"
     "\n"
     "Examples:\n"
     "  quorhost macro session.json\n"

@@ -64,7 +64,7 @@ bool readSetItem(const char*& cursor, SetItem_s& item) {
 }
 
 bool addSetItem(QuorSetHandle set, const SetItem_s& item) {
-    // The host would refuse the last member, after milliards of others.
+    // The host would refuse the last member, after billions of others.
     if (item.last - (item.last - item.first) % item.skip > largestMember)
         return false;
     for (std::int64_t member = item.first; member <= item.last; member += item.skip)
