@@ -178,7 +178,7 @@ Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int
 
 Plot3DSharedFile copyForFields(const Plot3DFile_s& file) {
     Plot3DFilePtr copy;
-    copyPlot3DFile(file, copy, file.fileName.str()); // null if it fails
+    static_cast<void>(copyPlot3DFile(file, copy, file.fileName.str())); // null if it fails
     return copy;
 }
 

@@ -177,7 +177,7 @@ Plot3DFile_s& DatasetTest::write(const std::string& name, const FileDescription_
     if (form.encoding == Encoding_e::Binary)
         file.byteSwap = form.byteOrder == ByteOrder_e::Big;
     file.numGrids = 1;
-    openPlot3DFile(file);
+    EXPECT_TRUE(openPlot3DFile(file));
     const bool fits = parseLayout(file, false, nullptr, nullptr);
     closePlot3DFile(file);
     if (!fits)

@@ -165,7 +165,7 @@ protected:
         file.isSolutionOrFunction = true;
         file.style = style;
         file.numScalars = numScalars;
-        openPlot3DFile(file);
+        EXPECT_TRUE(openPlot3DFile(file));
         return file;
     }
     bool setUp(Plot3DFile_s& file, bool include = true) {
@@ -292,7 +292,7 @@ class ScalarToAuxData : public ScalarItem {
 protected:
     bool readItem(const std::string& bytes, bool isDouble, bool byteSwap, const char* name) {
         Plot3DFile_s& file = writeBytes("q.bin", bytes);
-        openPlot3DFile(file);
+        EXPECT_TRUE(openPlot3DFile(file));
         return readScalarToAuxData(*file.stream, isDouble, byteSwap, QuorUtilAuxDataZoneGetRef(1),
                                    name);
     }

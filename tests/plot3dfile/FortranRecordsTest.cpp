@@ -171,7 +171,7 @@ TEST_F(NextRecord, StandsAtThePayloadAndKnowsItsLength) {
 TEST_F(NextRecord, PassesOverWhatWasNotRead) {
     openFortran(FileBytes().record("ab").record("cdefg").str());
     next();
-    file->stream->seek(17);
+    EXPECT_TRUE(file->stream->seek(17));
     EXPECT_TRUE(next());
     EXPECT_EQ(file->stream->tell(), 14);
 }
@@ -249,11 +249,11 @@ TEST_F(RecordEnd, OfPlainBinaryIsEverywhere) {
 
 TEST_F(RecordEnd, OfFortranIsBeforeTheTrailingMarker) {
     openFortran(FileBytes().record("abcd").str());
-    nextRecord(*file, quietly, nullptr);
+    ASSERT_TRUE(nextRecord(*file, quietly, nullptr));
     EXPECT_FALSE(atRecordEnd(*file));
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     EXPECT_TRUE(atRecordEnd(*file));
-    file->stream->seek(9);
+    EXPECT_TRUE(file->stream->seek(9));
     EXPECT_FALSE(atRecordEnd(*file));
 }
 
@@ -273,7 +273,7 @@ TEST_F(RecordEnd, OfTextIsTheLineEnd) {
 
 TEST_F(RecordEnd, OfTextConsumesBlanksAndNoLineEnd) {
     openText(" , \n2");
-    atRecordEnd(*file);
+    EXPECT_TRUE(atRecordEnd(*file));
     EXPECT_EQ(file->lookahead, '\n');
     EXPECT_TRUE(atRecordEnd(*file));
     EXPECT_EQ(file->stream->tell(), 4);

@@ -93,20 +93,20 @@ TEST_F(SegmentedRecord, LastSegmentOfFullLengthLeavesTheChainOpen) {
 TEST_F(SegmentedRecord, BoundaryIsSteppedOverOnlyWhereItStands) {
     placeChain();
     openStored(Plot3DEncoding_FortranUnformatted, chainSize);
-    checkFortranRecords(*file);
+    ASSERT_TRUE(checkFortranRecords(*file));
     for (const std::int64_t position : {firstEnd - 1, firstEnd + 1, std::int64_t{4}}) {
-        file->stream->seek(position);
+        EXPECT_TRUE(file->stream->seek(position));
         EXPECT_TRUE(skipSegmentBoundary(*file));
         EXPECT_EQ(file->stream->tell(), position);
     }
-    file->stream->seek(firstEnd);
+    EXPECT_TRUE(file->stream->seek(firstEnd));
     EXPECT_TRUE(skipSegmentBoundary(*file));
     EXPECT_EQ(file->stream->tell(), secondStart);
 }
 
 TEST_F(SegmentedRecord, BoundaryThatCannotBeSteppedOverFails) {
     openFortran("abcd").segmentBoundaries = {0x7ffffffffffffffd};
-    file->stream->seek(0x7ffffffffffffffd);
+    EXPECT_TRUE(file->stream->seek(0x7ffffffffffffffd));
     EXPECT_FALSE(skipSegmentBoundary(*file));
 }
 
@@ -136,8 +136,8 @@ TEST_F(SegmentedRecord, BlockReadsAcrossOneBoundary) {
     disk.place("wing.x", firstEnd + 25, firstEnd - 3, "abc");
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, "defgh");
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25);
-    checkFortranRecords(*file);
-    file->stream->seek(firstEnd - 3);
+    ASSERT_TRUE(checkFortranRecords(*file));
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     std::string bytes(8, '\0');
     EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, file->segmentBoundaries, file->encoding,
                                         bytes.data(), 8));
@@ -153,7 +153,7 @@ TEST_F(SegmentedRecord, ValueThatABoundaryCutsIsWholeInEitherByteOrder) {
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, value.substr(3));
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25).segmentBoundaries = {firstEnd};
     file->byteSwap = true;
-    file->stream->seek(firstEnd - 3);
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     std::int32_t read = 0;
     EXPECT_TRUE(readIntegers(*file, true, 0, 1, &read, nullptr));
     EXPECT_EQ(read, 0x01020304);
@@ -162,7 +162,7 @@ TEST_F(SegmentedRecord, ValueThatABoundaryCutsIsWholeInEitherByteOrder) {
 TEST_F(SegmentedRecord, PassingOverABlockTakesTheMarkersAlong) {
     placeShortChain();
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25).segmentBoundaries = {firstEnd};
-    file->stream->seek(firstEnd - 3);
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     disk.readCount = 0;
     EXPECT_TRUE(readIntegers(*file, false, 0, 2, nullptr, nullptr));
     EXPECT_EQ(file->stream->tell(), firstEnd + 13);
@@ -236,7 +236,7 @@ TEST(SegmentedFile, IsReadBehind4GiB) {
         const Plot3DFilePtr file = createPlot3DFile(name, false);
         EXPECT_EQ(file->encoding, Plot3DEncoding_FortranUnformatted);
         ASSERT_TRUE(openPlot3DFile(*file));
-        file->stream->seek(secondEnd - 2);
+        EXPECT_TRUE(file->stream->seek(secondEnd - 2));
         std::string bytes(6, '\0');
         EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, file->segmentBoundaries,
                                             file->encoding, bytes.data(), 6));

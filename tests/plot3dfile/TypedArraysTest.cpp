@@ -137,7 +137,7 @@ TEST_F(Block, Past64BitsFails) {
     float value = 0.0F;
     EXPECT_FALSE(readReals(*file, store, 0, most / 2, &value, nullptr));
     EXPECT_FALSE(readReals(*file, passOver, 0, most / 2, nullptr, nullptr));
-    file->stream->seek(50);
+    EXPECT_TRUE(file->stream->seek(50));
     EXPECT_FALSE(readReals(*file, passOver, 0, most / 4, nullptr, nullptr));
 }
 
@@ -266,7 +266,7 @@ TEST_F(BinaryNumber, ThatTheFilesEndCutsIsZero) {
     EXPECT_EQ(integer, 0);
     for (const bool isDoublePrecision : {false, true}) {
         file->isDoublePrecision = isDoublePrecision;
-        file->stream->seek(0);
+        EXPECT_TRUE(file->stream->seek(0));
         double real = 7.0;
         EXPECT_FALSE(readReal(*file, real));
         EXPECT_EQ(real, 0.0);

@@ -65,7 +65,7 @@ protected:
         file->nextRecordStart = boundaries.back() + 4;
         file->byteSwap = form.order == Order_e::Swapped;
         file->isDoublePrecision = form.isDouble;
-        file->stream->seek(4);
+        EXPECT_TRUE(file->stream->seek(4));
     }
 
     /// The values of a 3 x 2 x 2 block at I 1 and 3, from the open file.
@@ -183,7 +183,7 @@ TEST_F(ValuesAcrossSegments, AreNotTakenFromTheNextRecord) {
 TEST_F(ValuesAcrossSegments, ThatBreakOffAreNone) {
     openSegments(realsOf({}, 2), 6);
     openFortran("LEAD" + realsOf({}, 2).substr(0, 6) + "MARKmark?").segmentBoundaries = {10};
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     double value = 5.0;
     EXPECT_FALSE(readReal(*file, value));
     EXPECT_EQ(value, 0.0);
@@ -196,7 +196,7 @@ TEST_F(ValuesAcrossSegments, StepOverMarkersOfTheirWidth) {
     openFortran("LEADLEAD" + payload.substr(0, 3) + "MARKMARKmarkmark" + payload.substr(3))
         .segmentBoundaries = {11};
     file->markerSize = 8;
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     double first = 0.0, second = 0.0;
     EXPECT_TRUE(readReal(*file, first) && readReal(*file, second));
     EXPECT_EQ(first, 1.0);

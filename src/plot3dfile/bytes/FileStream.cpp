@@ -41,7 +41,7 @@ std::int64_t FileStream::read(void* destination, std::int64_t byteCount) {
 
 FileStream::Window_s FileStream::window() {
     if (bufferPosition_ == bufferEnd_)
-        fillBuffer();
+        static_cast<void>(fillBuffer()); // an empty window says so
     return {buffer_.get() + bufferPosition_, buffer_.get() + bufferEnd_};
 }
 
