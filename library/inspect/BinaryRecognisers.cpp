@@ -35,24 +35,7 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     return std::nullopt;
 }
 
-/// A description by hand is no cure: it takes 32-bit reals first, for which the file is long
-/// enough.
-FoundProblem recogniseLongRealsWithRest(Evidence_s& evidence) {
-    if (!evidence.isGuessed || evidence.form.encoding != io::Plot3DEncoding_Binary)
-        return std::nullopt;
-    const plot3d::ByteAccount& bytes = evidence.account->bytes;
-    if (!evidence.reading->isDoublePrecision || bytes.surplus == 0)
-        return std::nullopt;
-    FoundProblem problem = problemOf(
-        counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
-            " stand behind 64-bit reals. Described by hand the file would be read as 32-bit reals.",
-        counted(bytes.used, "byte"), counted(bytes.size, "byte"),
-        copyBeginningCommand(evidence.file.name(), bytes.used));
-    problem->misfit.byte = bytes.used;
-    return problem;
-}
-
-constexpr std::array<Recogniser, 2> table = {recogniseLongIntegers, recogniseLongRealsWithRest};
+constexpr std::array<Recogniser, 1> table = {recogniseLongIntegers};
 
 } // namespace
 

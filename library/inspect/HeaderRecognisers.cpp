@@ -1,5 +1,7 @@
 // Files whose header lacks something, or says something that is not read.
 #include <array>
+#include <bit>
+#include <cmath>
 
 #include "inspect/HeaderGuess.h"
 #include "inspect/Problems.h"
@@ -53,6 +55,19 @@ FoundProblem recogniseTwoKindsOfElements(Evidence_s& evidence) {
 
 // ---- A function file without its count of variables
 
+/// Further integers of a header would be tiny as reals.
+bool beginsWithReals(Evidence_s& evidence, const HeaderGuess_s& guess) {
+    if (isText(guess))
+        return !evidence.text->areIntegers(guess.headerEnd, 1);
+    const bool isFortran = guess.form.encoding == io::Plot3DEncoding_FortranUnformatted;
+    const std::int64_t position = guess.headerEnd + (isFortran ? guess.form.markerSize : 0);
+    const auto bits = integerAt(evidence.file, position, guess.form.byteSwap);
+    if (!bits)
+        return false;
+    const float real = std::bit_cast<float>(*bits);
+    return real == 0.0F || std::fabs(real) > 1e-20F;
+}
+
 /// 0: the data are no whole number of variables.
 std::int64_t variablesOf(const HeaderGuess_s& guess, std::int64_t realWidth) {
     const std::int64_t points = pointsOf(guess);
@@ -85,7 +100,7 @@ FoundProblem recogniseMissingCountOfVariables(Evidence_s& evidence) {
         return std::nullopt;
     for (const HeaderGuess_s& guess : guessHeaders(evidence)) {
         const std::int64_t variables = variablesOf(guess);
-        if (variables < 1)
+        if (variables < 1 || !beginsWithReals(evidence, guess))
             continue;
         return problemOf("A function file without its count of variables behind the dimensions: " +
                              grouped(variables) + " would fit.",
