@@ -12,7 +12,7 @@
 #include "open/FileSorting.h"
 #include "open/HostLoad.h"
 #include "open/HostLock.h"
-#include "open/LinkedAddOn.h"
+#include "open/LoadFailure.h"
 #include "open/LoadInstructions.h"
 
 namespace plot3d {
@@ -26,12 +26,21 @@ void demandToGoOn(const Watch& watch) {
         throw Error(ErrorKind::Interrupted, "The load was stopped.");
 }
 
+Content_s loadExplained(const FileLists& files, const OpenOptions& options, bool withBoundary,
+                        const Watch& watch) {
+    try {
+        return loadAtHost(composeInstructions(files, options, withBoundary), watch);
+    } catch (const Error& error) {
+        throw explained(error, files, watch);
+    }
+}
+
 /// The host lock is held.
 Content_s load(const FileLists& files, const std::vector<std::string>& boundaryFiles,
                const OpenOptions& options, const Watch& watch) {
     const BoundaryUse_s boundary = boundaryUse(files, boundaryFiles, options.boundaries);
     demandToGoOn(watch);
-    Content_s content = loadAtHost(composeInstructions(files, options, boundary.isLoaded), watch);
+    Content_s content = loadExplained(files, options, boundary.isLoaded, watch);
     demandToGoOn(watch);
     content.files = files;
     content.notes.insert(content.notes.end(), boundary.notes.begin(), boundary.notes.end());
@@ -65,7 +74,6 @@ DataSet::~DataSet() = default;
 DataSet DataSet::open(const std::vector<std::string>& files, const OpenOptions& options,
                       const Watch& watch) {
     const HostLock lock;
-    registerLinkedAddOn();
     SortedFiles_s sorted = sortByKind(files, watch);
     if (!options.nameFile.empty())
         sorted.lists.name = options.nameFile;
@@ -80,7 +88,6 @@ DataSet DataSet::open(const FileLists& files, const OpenOptions& options, const 
         lists.name = options.nameFile;
     demandFiles(lists);
     const HostLock lock;
-    registerLinkedAddOn();
     return DataSet(std::make_shared<const Content>(Content{load(lists, {}, options, watch)}));
 }
 
