@@ -27,14 +27,13 @@ NodeGradient NodeGradients::at(std::int64_t i, std::int64_t j, std::int64_t k) c
     const std::int64_t node = i + j * strides[1] + k * strides[2];
 
     NodeGradient gradient;
-    std::array<Vector, 3> along; // how x, y, z change for one index
+    std::array<Vector, 3> along; // differences of x, y, z
     for (std::size_t n = 0; n < 3; ++n) {
         const std::int64_t up = std::min(indices[n] + 1, counts[n] - 1) - indices[n];
         const std::int64_t down = indices[n] - std::max<std::int64_t>(indices[n] - 1, 0);
         auto& difference = gradient.differences_[n];
         difference = {static_cast<std::size_t>(node + up * strides[n]),
-                      static_cast<std::size_t>(node - down * strides[n]),
-                      up + down == 2 ? 0.5 : 1.0};
+                      static_cast<std::size_t>(node - down * strides[n])};
         for (std::size_t axis = 0; axis < 3; ++axis)
             along[n][axis] = coordinates_[axis].empty() ? 0.0 : difference.of(coordinates_[axis]);
     }

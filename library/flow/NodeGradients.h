@@ -25,17 +25,15 @@ public:
 
 private:
     friend class NodeGradients;
-    /// f[plus] - f[minus], times the factor: the change of f for one index.
+    /// Of the values at two nodes beside this one. Whether they are one index apart or two cancels
+    /// out: values and coordinates are differenced alike.
     struct Difference {
         std::size_t plus;
         std::size_t minus; // the same as plus along a direction with one point
-        double factor;
-        double of(std::span<const double> values) const {
-            return (values[plus] - values[minus]) * factor;
-        }
+        double of(std::span<const double> values) const { return values[plus] - values[minus]; }
     };
     std::array<Difference, 3> differences_;
-    std::array<Vector, 3> metrics_; // how much the indices I, J, K change along x, y, z
+    std::array<Vector, 3> metrics_; // differences along I, J, K for a step along x, y, z
 };
 
 class NodeGradients {
