@@ -19,8 +19,8 @@ bool areAlike(std::string_view a, std::string_view b) {
                       [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-const plot3dlib::FlowQuantity& formulaOf(const DerivedQuantity& quantity) {
-    for (const plot3dlib::FlowQuantity& formula : plot3dlib::flowQuantities())
+const plot3dlib::FlowQuantity_s& formulaOf(const DerivedQuantity& quantity) {
+    for (const plot3dlib::FlowQuantity_s& formula : plot3dlib::flowQuantities())
         if (formula.number == quantity.number)
             return formula;
     throw Error(ErrorKind::Usage, "there is no quantity of this number",
@@ -39,7 +39,7 @@ void requireZone(const DataSet& data, std::size_t zone) {
 const std::vector<DerivedQuantity>& derivedQuantities() {
     static const std::vector<DerivedQuantity> quantities = [] {
         std::vector<DerivedQuantity> all;
-        for (const plot3dlib::FlowQuantity& formula : plot3dlib::flowQuantities())
+        for (const plot3dlib::FlowQuantity_s& formula : plot3dlib::flowQuantities())
             all.push_back({formula.number, formula.word, formula.components});
         return all;
     }();
@@ -67,7 +67,7 @@ std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
     std::string reason;
     if (!canDerive(data, zone, quantity, reason))
         throw Error(ErrorKind::Unsupported, quantity.name + " can't be computed: " + reason);
-    const plot3dlib::FlowQuantity& formula = formulaOf(quantity);
+    const plot3dlib::FlowQuantity_s& formula = formulaOf(quantity);
     const plot3dlib::ZoneFlow values(data, zone, formula.needs, gas, stop);
     return formula.compute(values.flow(), values.constants(), stop);
 }

@@ -8,7 +8,7 @@ namespace {
 
 using plot3d::AuxiliaryData;
 using plot3d::DataSet;
-using Variable = FlowVariables::Variable;
+using Variable = FlowVariables_s::Variable;
 
 template <typename Number>
 std::optional<Number> numberIn(const AuxiliaryData& items, const char* name) {
@@ -68,8 +68,8 @@ private:
 
 } // namespace
 
-FlowVariables flowVariablesOf(const DataSet& data) {
-    FlowVariables variables;
+FlowVariables_s flowVariablesOf(const DataSet& data) {
+    FlowVariables_s variables;
     variables.coordinates = {data.findVariable("X"), data.findVariable("Y"),
                              data.findVariable("Z")};
     variables.density = variableIn(data, "Common.DensityVar");
@@ -91,8 +91,8 @@ std::optional<double> freeStreamGamma(const DataSet& data, std::size_t zone) {
     return numberIn<double>(data.zones()[zone].auxiliaryData, "G");
 }
 
-std::string whatIsMissing(const DataSet& data, std::size_t zone, const FlowNeeds& needs) {
-    const FlowVariables variables = flowVariablesOf(data);
+std::string whatIsMissing(const DataSet& data, std::size_t zone, const FlowNeeds_s& needs) {
+    const FlowVariables_s variables = flowVariablesOf(data);
     ZoneCheck check(data, zone);
     if (needs.density)
         check.require(variables.density, "density");

@@ -4,11 +4,12 @@
 
 namespace plot3dlib {
 
-ZoneFlow::ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds& needs,
+ZoneFlow::ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds_s& needs,
                    const plot3d::Gas& gas, const std::stop_token& stop) {
-    const FlowVariables variables = flowVariablesOf(data);
+    const FlowVariables_s variables = flowVariablesOf(data);
     flow_.size = data.zones()[zone].size;
-    const auto valuesOf = [&](const FlowVariables::Variable& variable) -> std::span<const double> {
+    const auto valuesOf =
+        [&](const FlowVariables_s::Variable& variable) -> std::span<const double> {
         if (!variable || data.kind(zone, *variable) == plot3d::FieldKind::Empty)
             return {};
         auto& values = values_.emplace_back(static_cast<std::size_t>(flow_.size.count()));

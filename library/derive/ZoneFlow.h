@@ -18,16 +18,16 @@ namespace plot3dlib {
 class ZoneFlow {
 public:
     /// Throws Error.
-    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds& needs,
+    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds_s& needs,
              const plot3d::Gas& gas, const std::stop_token& stop);
 
-    const Flow& flow() const { return flow_; }
-    const FlowConstants& constants() const { return constants_; }
+    const Flow_s& flow() const { return flow_; }
+    const FlowConstants_s& constants() const { return constants_; }
 
 private:
     std::list<std::vector<double>> values_; // the flow borrows them
-    Flow flow_;
-    FlowConstants constants_;
+    Flow_s flow_;
+    FlowConstants_s constants_;
 };
 
 } // namespace plot3dlib

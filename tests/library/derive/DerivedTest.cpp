@@ -49,15 +49,15 @@ class DerivedTest : public ::testing::Test {
 protected:
     DerivedTest() {
         flow_.state = [](const Vector& at) {
-            return State{1.0 + 0.01 * at[0],
-                         {0.5 - 0.7 * at[1], 0.7 * at[0], 0},
-                         2.0 + 0.1 * at[0] + 0.2 * at[1]};
+            return State_s{1.0 + 0.01 * at[0],
+                           {0.5 - 0.7 * at[1], 0.7 * at[0], 0},
+                           2.0 + 0.1 * at[0] + 0.2 * at[1]};
         };
     }
     DataSet open() const { return flow_.open(directory_); }
     std::string file(const char* name) const { return directory_.file(name); }
 
-    TestFlow flow_;
+    TestFlow_s flow_;
     quorvia::testsupport::TemporaryDirectory directory_;
 };
 
@@ -66,7 +66,7 @@ TEST_F(DerivedTest, HaveTheValuesOfTheFlow) {
     const Components pressure = derive(data, 0, named("pressure"));
     const Components temperature = derive(data, 0, named("temperature"));
     for (std::size_t n = 0; n < pressure[0].size(); ++n) {
-        const State state = flow_.stateAt(n);
+        const State_s state = flow_.stateAt(n);
         EXPECT_NEAR(pressure[0][n], state.pressure, 1e-13);
         EXPECT_NEAR(temperature[0][n], state.pressure / state.density, 1e-13);
     }
