@@ -80,7 +80,7 @@ TEST_P(Percentiles, OfOneValueAndOfOneThatRepeats) {
 
 INSTANTIATE_TEST_SUITE_P(HeldValues, Percentiles, testing::Values(1, 16, 500, 1000000));
 
-TEST(PercentilesOfNothingAreNotANumber) {
+TEST(NoPercentiles, AreNotANumber) {
     for (const double value : inLittleRoom({}, 10))
         EXPECT_TRUE(std::isnan(value));
 }

@@ -37,9 +37,19 @@ protected:
         const Ended_s run = stats(words);
         EXPECT_EQ(run.code, 0) << run.err;
         std::map<std::string, Json> variables;
-        for (const Json& variable : Json::parse(run.out).at("variables"))
+        const Json whole = Json::parse(run.out);
+        for (const Json& variable : whole.at("variables"))
             variables[variable.at("name")] = variable;
         return variables;
+    }
+
+    /// The variable of a function file.
+    Json toldOfFunction(const Sizes& sizes, const Value& value,
+                        const std::vector<std::string>& more = {}) const {
+        std::vector<std::string> words = {write("a.x", gridFile(sizes, placeValue)),
+                                          write("a.f", functionFile(sizes, 1, value))};
+        words.insert(words.end(), more.begin(), more.end());
+        return told(words)["F1V1"];
     }
 };
 
@@ -48,7 +58,7 @@ TEST_F(StatsCommandTest, ShowsExtremesWithTheirPlaces) {
     EXPECT_EQ(run.out, "2 zones, 135 points, 1 variable\n\n"
                        "  variable  count  minimum      maximum     mean  deviation  "
                        "minimum at zone: i,j,k  maximum at zone: i,j,k\n"
-                       "  Y           135  1000000  1.10412e+07  3232422     4158540  "
+                       "  Y           135  1000000  1.10402e+07  3234625    4161523  "
                        "1: 1,1,1                2: 2,3,5\n");
 }
 
@@ -88,11 +98,9 @@ TEST_F(StatsCommandTest, TellsIBlankAsATableOfItsValues) {
 }
 
 TEST_F(StatsCommandTest, CountsWhatIsNoNumberAndLeavesItOut) {
-    const auto file =
-        write("a.f", functionFile({{3, 2, 2}}, 1, [](auto, auto, auto i, auto j, auto) {
-                  return i == 0 ? NAN : j == 0 ? -INFINITY : 1.0 * i;
-              }));
-    const Json variable = told({file})["F1V1"];
+    const Json variable = toldOfFunction({{3, 2, 2}}, [](auto, auto, auto i, auto j, auto) {
+        return i == 0 ? NAN : j == 0 ? -INFINITY : 1.0 * i;
+    });
     EXPECT_EQ(variable["nan"], 4);
     EXPECT_EQ(variable["infinite"], 4);
     EXPECT_EQ(variable["mean"], 1.5);
@@ -100,13 +108,12 @@ TEST_F(StatsCommandTest, CountsWhatIsNoNumberAndLeavesItOut) {
 }
 
 TEST_F(StatsCommandTest, HasNothingToTellWhereNoValueCounts) {
-    const auto file =
-        write("a.f", functionFile({{3, 2, 2}}, 1, [](auto...) { return double(NAN); }));
-    const Json variable = told({file, "--percentiles", "50", "--histogram"})["F1V1"];
+    const Json variable = toldOfFunction({{3, 2, 2}}, [](auto...) { return double(NAN); },
+                                         {"--percentiles", "50", "--histogram"});
     for (const char* key : {"min", "max", "minAt", "maxAt", "mean", "deviation", "histogram"})
         EXPECT_TRUE(variable[key].is_null()) << key;
     EXPECT_TRUE(variable["percentiles"][0]["value"].is_null());
-    EXPECT_EQ(stats({file}).code, 0);
+    EXPECT_EQ(stats({file("a.x"), file("a.f")}).code, 0);
 }
 
 TEST_F(StatsCommandTest, ShowsOnePointThroughTime) {
@@ -130,24 +137,23 @@ TEST_F(StatsCommandTest, ShowsOnePointThroughTime) {
     EXPECT_EQ(told(words)["RHO"]["zones"].size(), 2U);
 }
 
-TEST_F(StatsCommandTest, TellsThatPercentilesAreThoseOfTheSortedValues) {
-    const auto file = write(
-        "a.f", functionFile({{11, 1, 1}, {3, 3, 1}}, 1, [](auto grid, auto, auto i, auto j, auto) {
-            return 10.0 - i + 100 * grid - 3 * j;
-        }));
-    const Json variable = told({file, "--percentiles", "0,25,50,100", "--zone", "1"})["F1V1"];
-    EXPECT_EQ(variable["percentiles"],
+TEST_F(StatsCommandTest, TellsPercentilesOfZonesAndOfAllTogether) {
+    const Json variable = toldOfFunction(
+        {{11, 1, 1}, {3, 3, 1}},
+        [](auto grid, auto, auto i, auto j, auto) { return 10.0 - i + 100 * grid - 3 * j; },
+        {"--percentiles", "0,25,50,100"});
+    EXPECT_EQ(variable["zones"][0]["percentiles"],
               Json::parse(R"([{"percent":0.0,"value":0.0},{"percent":25.0,"value":2.5},
                               {"percent":50.0,"value":5.0},{"percent":100.0,"value":10.0}])"));
-    EXPECT_EQ(told({file, "--percentiles", "60"})["F1V1"]["percentiles"][0]["value"], 102.4);
+    EXPECT_EQ(variable["percentiles"][1]["value"], 4.75); // place 4.75 of 0 to 19
+    EXPECT_EQ(variable["percentiles"][3]["value"], 110);
 }
 
 TEST_F(StatsCommandTest, CountsZonesInTheBinsOfTheWholeVariable) {
-    const auto file =
-        write("a.f",
-              functionFile({{4, 1, 1}, {2, 1, 1}}, 1,
-                           [](auto grid, auto, auto i, auto, auto) { return 1.0 * i + 8 * grid; }));
-    const Json variable = told({file, "--histogram", "3"})["F1V1"];
+    const Json variable =
+        toldOfFunction({{4, 1, 1}, {2, 1, 1}},
+                       [](auto grid, auto, auto i, auto, auto) { return 1.0 * i + 8 * grid; },
+                       {"--histogram", "3"});
     EXPECT_EQ(variable["histogram"], Json::parse(R"({"min":0.0,"max":9.0,"counts":[3,1,2]})"));
     EXPECT_EQ(variable["zones"][0]["histogram"]["counts"], Json::parse("[3,1,0]"));
     EXPECT_EQ(variable["zones"][1]["histogram"]["counts"], Json::parse("[0,0,2]"));
@@ -188,7 +194,8 @@ TEST_F(StatsCommandTest, HashesToTheChecksumsOfTheHost) {
 }
 
 TEST_F(StatsCommandTest, TellsWhatCannotBeReadAndGoesOnWithTheRest) {
-    std::vector<std::string> words = {"--share-structure"};
+    std::vector<std::string> words = {"--share-structure",
+                                      write("a.x", gridFile({{3, 5, 2}}, placeValue))};
     for (const char* name : {"a1.q", "a2.q"})
         words.push_back(write(name, solutionFile({{3, 5, 2}}, placeValue)));
     std::filesystem::resize_file(words.back(), std::filesystem::file_size(words.back()) - 40);
