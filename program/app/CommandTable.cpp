@@ -1,12 +1,14 @@
 #include "app/CommandTable.h"
 
 #include "info/InfoCommand.h"
+#include "stats/StatsCommand.h"
 
 namespace plot3d::program {
 
 Commands allCommands() {
     Commands commands;
     commands.push_back(std::make_unique<InfoCommand>());
+    commands.push_back(std::make_unique<StatsCommand>());
     return commands;
 }
 
