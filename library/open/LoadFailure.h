@@ -1,0 +1,20 @@
+// What the host said of a load, as an error or as notes of the library.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <plot3d/Error.h>
+
+#include "session/ReferenceHost.h"
+
+namespace plot3dlib {
+
+/// Why a load came to nothing.
+plot3d::Error failureOf(const quorvia::host::LoadResult& result,
+                        const std::vector<quorvia::host::Message>& messages);
+
+/// What was said in a load that came to its end, one line for each message.
+std::vector<std::string> notesOf(const std::vector<quorvia::host::Message>& messages);
+
+} // namespace plot3dlib
