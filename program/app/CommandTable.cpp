@@ -1,0 +1,13 @@
+#include "app/CommandTable.h"
+
+#include "info/InfoCommand.h"
+
+namespace plot3d::program {
+
+Commands allCommands() {
+    Commands commands;
+    commands.push_back(std::make_unique<InfoCommand>());
+    return commands;
+}
+
+} // namespace plot3d::program

@@ -1,0 +1,39 @@
+// plot3d info: what files are, and what is wrong with those that can't be read.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <plot3d/FileInfo.h>
+
+#include "manners/Command.h"
+
+namespace plot3d::program {
+
+class InfoCommand : public Command {
+public:
+    /// Looks at one file: plot3d::inspect, or what a test puts in its place.
+    using Inspect =
+        std::function<FileInfo(const std::string&, const InspectOptions&, const Watch&)>;
+
+    InfoCommand();
+    explicit InfoCommand(Inspect inspect);
+
+    const char* name() const override { return "info"; }
+    const char* purpose() const override;
+    const char* examples() const override;
+    const char* failureMeans() const override;
+    void declare(CLI::App& app) override;
+    int run(const Surroundings_s& surroundings) override;
+
+private:
+    Inspect inspect_;
+    std::vector<std::string> files_;
+    std::string as_;
+    bool why_ = false;
+    bool all_ = false;
+    bool json_ = false;
+};
+
+} // namespace plot3d::program
