@@ -1,6 +1,5 @@
 #include "selection/DataArguments.h"
 
-#include <ostream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -8,7 +7,10 @@
 
 #include <plot3d/Error.h>
 
-#include "selection/FileList.h"
+#include "manners/FileList.h"
+#include "manners/Options.h"
+#include "manners/ProgressWatch.h"
+#include "manners/Talk.h"
 
 namespace plot3d::program {
 namespace {
@@ -32,47 +34,43 @@ bool isEmpty(const FileLists& lists) {
 /// Lists of known kinds, with what standard input lists in the place of `-`.
 FileLists listedByKind(const FileLists& lists, std::istream& in) {
     FileLists result = lists;
-    result.grid = withListedFiles(lists.grid, in);
-    result.solution = withListedFiles(lists.solution, in);
-    result.function = withListedFiles(lists.function, in);
+    result.grid = filesNamed(lists.grid, in);
+    result.solution = filesNamed(lists.solution, in);
+    result.function = filesNamed(lists.function, in);
     return result;
 }
 
-void tellNotes(const DataSet& data, const Surroundings_s& surroundings) {
-    if (surroundings.quiet)
-        return;
+/// Opens with progress, and tells the notes of the load.
+template <typename Files>
+DataSet opened(const Files& files, const OpenOptions& options, const Surroundings_s& surroundings) {
+    ProgressWatch progress(surroundings);
+    DataSet data = DataSet::open(files, options, progress.watch());
+    progress.clear();
     for (const std::string& note : data.notes())
-        surroundings.err << "plot3d: warning: " << note << '\n';
-}
-
-Watch watchOf(const Surroundings_s& surroundings) {
-    return {{}, surroundings.stop};
+        tellWarning(surroundings, note);
+    return data;
 }
 
 } // namespace
 
 void DataArguments::declare(CLI::App& app) {
-    auto* files = app.add_option("FILE", files_,
-                                 "Files of one data set in any order; - reads a list of them from "
-                                 "standard input");
-    const auto kind = [&](const char* name, std::vector<std::string>& list, const char* help) {
-        app.add_option(name, list, help)->option_text("FILE...")->excludes(files);
+    CLI::Option* const files =
+        addFiles(app, files_,
+                 "Files of one data set in any order; - reads a list of them from standard input");
+    const auto addKind = [&](const char* name, std::vector<std::string>& list, const char* help) {
+        addRepeatable(app, name, list, "FILE", help)->allow_extra_args()->excludes(files);
     };
-    kind("--grid", lists_.grid, "Grid files, where names don't tell the kinds");
-    kind("--solution", lists_.solution, "Solution files, likewise");
-    kind("--function", lists_.function, "Function files, likewise");
+    addKind("--grid", lists_.grid, "Grid files, where neither names nor bytes tell the kinds");
+    addKind("--solution", lists_.solution, "Solution files, likewise");
+    addKind("--function", lists_.function, "Function files, likewise");
     declareOptions(app);
 }
 
 void DataArguments::declareOptions(CLI::App& app) {
-    app.add_option("--name", nameFile_, "File with the names of the variables")
-        ->option_text("FILE");
-    app.add_option("--set", settings_,
-                   "A load instruction, such as AUTODETECT=No; may be given several times")
-        ->option_text("KEY=VALUE")
-        ->check(settingProblem)
-        ->take_all()
-        ->allow_extra_args(false);
+    app.add_option("--name", nameFile_, "File with the names of the variables")->type_name("FILE");
+    addRepeatable(app, "--set", settings_, "KEY=VALUE",
+                  "A load instruction, such as AUTODETECT=No; may come several times")
+        ->check(settingProblem);
     app.add_flag("--share-structure", sharesStructure_,
                  "Take all files of a kind to be built like the first, without looking");
     app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files");
@@ -91,26 +89,21 @@ OpenOptions DataArguments::options() const {
 DataSet DataArguments::open(const Surroundings_s& surroundings) const {
     if (isEmpty(lists_))
         return open(files(surroundings), surroundings);
-    DataSet data =
-        DataSet::open(listedByKind(lists_, surroundings.in), options(), watchOf(surroundings));
-    tellNotes(data, surroundings);
-    return data;
+    return opened(listedByKind(lists_, surroundings.in), options(), surroundings);
 }
 
 DataSet DataArguments::open(const std::vector<std::string>& files,
                             const Surroundings_s& surroundings) const {
     if (files.empty())
         throw Error(ErrorKind::Usage, "no file is named");
-    DataSet data = DataSet::open(files, options(), watchOf(surroundings));
-    tellNotes(data, surroundings);
-    return data;
+    return opened(files, options(), surroundings);
 }
 
 std::vector<std::string> DataArguments::files(const Surroundings_s& surroundings) const {
     std::vector<std::string> names = files_;
     for (const auto* list : {&lists_.grid, &lists_.solution, &lists_.function})
         names.insert(names.end(), list->begin(), list->end());
-    return program::withListedFiles(names, surroundings.in);
+    return filesNamed(names, surroundings.in);
 }
 
 } // namespace plot3d::program

@@ -64,26 +64,25 @@ void SelectionArguments::declareVariable(CLI::App& app) {
     app.add_option("--variable", variables_,
                    "Variables by name, separated by commas; * and ? stand for any characters and "
                    "for one")
-        ->option_text("NAMES");
+        ->type_name("NAMES");
 }
 
 void SelectionArguments::declare(CLI::App& app) {
     declareVariable(app);
-    app.add_option("--zone", zones_, "Zones by number from 1, such as 1,3-5")->option_text("LIST");
+    app.add_option("--zone", zones_, "Zones by number from 1, such as 1,3-5")->type_name("LIST");
     app.add_option("--time", times_, "Solution times: one, a range such as 0.5:2, or first or last")
-        ->option_text("TIME");
+        ->type_name("TIME");
     const auto* help = "FIRST,LAST,STEP from 1; -1 is the last; one number is that index alone";
     const auto range = parsedBy(parseIndexRange);
-    app.add_option("--i", i_, help)->option_text("RANGE")->check(range);
-    app.add_option("--j", j_, help)->option_text("RANGE")->check(range);
-    app.add_option("--k", k_, help)->option_text("RANGE")->check(range);
+    app.add_option("--i", i_, help)->type_name("RANGE")->check(range);
+    app.add_option("--j", j_, help)->type_name("RANGE")->check(range);
+    app.add_option("--k", k_, help)->type_name("RANGE")->check(range);
     app.add_option("--point", point_, "One point of each zone, by its indices from 1")
-        ->option_text("I,J,K")
+        ->type_name("I,J,K")
         ->check(parsedBy(parsePoint))
         ->excludes("--i", "--j", "--k");
     app.add_option("--blank", blank_, "What becomes of points whose I-blank is 0 (default: skip)")
-        ->option_text("skip|keep")
-        ->check(CLI::IsMember({"skip", "keep"}));
+        ->type_name("skip|keep");
 }
 
 std::vector<std::size_t> SelectionArguments::variables(const DataSet& data) const {

@@ -1,4 +1,3 @@
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -6,7 +5,6 @@
 
 #include <plot3d/Error.h>
 
-#include "selection/FileList.h"
 #include "selection/NamePattern.h"
 #include "selection/NumberList.h"
 #include "selection/TimeRange.h"
@@ -87,12 +85,6 @@ TEST(TimeRange, ThatSelectsNothingIsToldWithTheTimes) {
     EXPECT_EQ(messageOf([] { parseTimes("0.7", {0, 0.5}); }), "no time is 0.7; there are: 0, 0.5");
     EXPECT_THROW(parseTimes("soon", times), Error);
     EXPECT_THROW(parseTimes("nan", times), Error);
-}
-
-TEST(FileList, StandsInThePlaceOfADash) {
-    std::istringstream in("b.x\n\nwing one.q\r\n");
-    EXPECT_EQ(withListedFiles({"a.x", "-", "c.q"}, in),
-              (std::vector<std::string>{"a.x", "b.x", "wing one.q", "c.q"}));
 }
 
 } // namespace

@@ -41,7 +41,6 @@ TEST(SelectionBox, IsMissingInAZoneWithoutThePoints) {
 TEST(Selection, RefusesWhatItCannotUnderstandWhileTheCommandLineIsRead) {
     EXPECT_THROW(boxOf("--i 0", Zone()), CLI::ValidationError);
     EXPECT_THROW(boxOf("--point 1,2,3,4", Zone()), CLI::ValidationError);
-    EXPECT_THROW(boxOf("--blank hide", Zone()), CLI::ValidationError);
     EXPECT_THROW(boxOf("--point 1 --k 1", Zone()), CLI::ExcludesError);
 }
 

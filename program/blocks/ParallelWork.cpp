@@ -1,0 +1,87 @@
+#include "blocks/ParallelWork.h"
+
+#include <algorithm>
+#include <atomic>
+#include <exception>
+#include <limits>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include <plot3d/Error.h>
+
+namespace plot3d::program {
+namespace {
+
+class Work {
+public:
+    Work(std::size_t count, const std::function<void(std::size_t)>& work, const WorkWatch_s& watch)
+        : count_(count), work_(work), watch_(watch) {}
+
+    enum class TellsProgress_e : unsigned char { No, Yes };
+
+    void goOn(TellsProgress_e tells) noexcept {
+        for (std::size_t index = next_++; index < count_ && mayGoOn(); index = next_++)
+            doOne(index, tells);
+    }
+
+    void throwFailure() const {
+        if (failure_)
+            std::rethrow_exception(failure_);
+        if (watch_.stop.stop_requested())
+            throw Error(ErrorKind::Interrupted, "stopped");
+    }
+
+private:
+    bool mayGoOn() const { return !hasFailed_ && !watch_.stop.stop_requested(); }
+
+    void doOne(std::size_t index, TellsProgress_e tells) noexcept {
+        try {
+            work_(index);
+            const std::size_t done = ++done_;
+            if (tells == TellsProgress_e::Yes && watch_.progress)
+                watch_.progress(static_cast<double>(done) / static_cast<double>(count_));
+        } catch (...) {
+            keep(index, std::current_exception());
+        }
+    }
+
+    void keep(std::size_t index, std::exception_ptr failure) {
+        const std::lock_guard lock(failureLock_);
+        if (index < failedIndex_) {
+            failedIndex_ = index;
+            failure_ = std::move(failure);
+        }
+        hasFailed_ = true;
+    }
+
+    std::size_t count_;
+    const std::function<void(std::size_t)>& work_;
+    const WorkWatch_s& watch_;
+    std::atomic<std::size_t> next_ = 0;
+    std::atomic<std::size_t> done_ = 0;
+    std::atomic<bool> hasFailed_ = false;
+    std::mutex failureLock_;
+    std::size_t failedIndex_ = std::numeric_limits<std::size_t>::max();
+    std::exception_ptr failure_;
+};
+
+} // namespace
+
+int coreCount() {
+    return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+}
+
+void inParallel(std::size_t count, int threads, const std::function<void(std::size_t)>& work,
+                const WorkWatch_s& watch) {
+    Work all(count, work, watch);
+    {
+        std::vector<std::jthread> helpers;
+        for (int helper = 1; helper < threads && static_cast<std::size_t>(helper) < count; ++helper)
+            helpers.emplace_back([&all] { all.goOn(Work::TellsProgress_e::No); });
+        all.goOn(Work::TellsProgress_e::Yes);
+    }
+    all.throwFailure();
+}
+
+} // namespace plot3d::program
