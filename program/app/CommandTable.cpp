@@ -1,5 +1,6 @@
 #include "app/CommandTable.h"
 
+#include "convert/ConvertCommand.h"
 #include "info/InfoCommand.h"
 
 namespace plot3d::program {
@@ -7,6 +8,7 @@ namespace plot3d::program {
 Commands allCommands() {
     Commands commands;
     commands.push_back(std::make_unique<InfoCommand>());
+    commands.push_back(std::make_unique<ConvertCommand>());
     return commands;
 }
 

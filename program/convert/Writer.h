@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "convert/output/Format.h"
 #include "convert/contents/Contents.h"
 #include "convert/contents/FileForm.h"
+#include "convert/output/Format.h"
 
 namespace plot3d::program {
 

@@ -22,12 +22,14 @@ fs::path folderOf(const std::string& indexName) {
 fs::path begunBeside(const fs::path& target) {
     constexpr int mostTries = 100; // leftovers of programs that were killed
     std::error_code error;
-    for (int attempt = 0; attempt < mostTries && !error; ++attempt) {
+    for (int attempt = 0; attempt < mostTries; ++attempt) {
         const fs::path path = console::growingName(target.parent_path(), attempt);
         if (fs::create_directory(path, error)) {
             console::Growing::add(path);
             return path;
         }
+        if (error && error != std::errc::file_exists) // the index file has such a name, too
+            break;
     }
     throw Error(ErrorKind::Refused, "no folder can be made beside it: " + error.message(),
                 {.file = target.string()});

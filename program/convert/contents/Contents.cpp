@@ -2,31 +2,14 @@
 
 #include <algorithm>
 
+#include "blocks/BlockSplit.h"
+
 namespace plot3d::program {
-
-namespace {
-
-Range run(std::int64_t first, std::int64_t count) {
-    return {first, first + count - 1, 1};
-}
-
-} // namespace
 
 void forEachBlock(const Extent& size, std::int64_t mostPoints,
                   const std::function<void(const Box& box, std::int64_t count)>& visit) {
-    const std::int64_t columns = std::min(size.i, mostPoints);
-    const std::int64_t rows =
-        columns < size.i ? 1 : std::clamp<std::int64_t>(mostPoints / size.i, 1, size.j);
-    const std::int64_t planes =
-        rows < size.j ? 1 : std::clamp<std::int64_t>(mostPoints / (size.i * size.j), 1, size.k);
-    for (std::int64_t k = 0; k < size.k; k += planes)
-        for (std::int64_t j = 0; j < size.j; j += rows)
-            for (std::int64_t i = 0; i < size.i; i += columns) {
-                const Box box = {run(i, std::min(columns, size.i - i)),
-                                 run(j, std::min(rows, size.j - j)),
-                                 run(k, std::min(planes, size.k - k))};
-                visit(box, box.count());
-            }
+    for (const Box& box : blocksOf(Box::whole(size), mostPoints))
+        visit(box, box.count());
 }
 
 std::vector<std::string> namesOf(const Contents& contents) {

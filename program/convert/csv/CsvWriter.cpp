@@ -4,7 +4,7 @@
 
 #include "convert/output/ByteOutput.h"
 #include "convert/output/RealText.h"
-#include "convert/output/ResultFile.h"
+#include "manners/ResultFile.h"
 
 namespace plot3d::program {
 
@@ -105,12 +105,12 @@ private:
 
 Written_s CsvWriter::write(Contents& contents, const Target_s& target) {
     ResultFile file(target.path, target.overwrites);
-    ByteOutput out(file.growing(), target.path);
+    ByteOutput out(file.growingPath(), target.path);
     out.write(headerOf(contents));
     for (std::size_t zone = 0; zone < contents.zones().size(); ++zone)
         ZoneLines(contents, zone, out).write();
     out.finish();
-    file.appear();
+    file.finish();
     return {{target.path}, {}};
 }
 

@@ -1,8 +1,8 @@
 #include "convert/npz/NpzWriter.h"
 
 #include "convert/npz/ZipOutput.h"
-#include "convert/output/ResultFile.h"
 #include "convert/output/UniqueNames.h"
+#include "manners/ResultFile.h"
 
 namespace plot3d::program {
 
@@ -110,7 +110,7 @@ void writeZone(Contents& contents, std::size_t zone, const std::vector<std::stri
 
 Written_s NpzWriter::write(Contents& contents, const Target_s& target) {
     ResultFile file(target.path, target.overwrites);
-    ByteOutput out(file.growing(), target.path);
+    ByteOutput out(file.growingPath(), target.path);
     Archive archive(out);
     const std::vector<std::string> names = uniqueNames(namesOf(contents));
     for (std::size_t zone = 0; zone < contents.zones().size(); ++zone)
@@ -118,7 +118,7 @@ Written_s NpzWriter::write(Contents& contents, const Target_s& target) {
     writeTimes(contents, archive);
     archive.finish();
     out.finish();
-    file.appear();
+    file.finish();
     return {{target.path}, {}};
 }
 

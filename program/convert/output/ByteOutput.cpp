@@ -16,7 +16,7 @@ constexpr std::size_t bufferBytes = std::size_t{1} << 18;
 constexpr mode_t asTheUserHasIt = 0666;
 } // namespace
 
-ByteOutput::ByteOutput(const std::string& path, std::string shownName)
+ByteOutput::ByteOutput(const std::filesystem::path& path, std::string shownName)
     : shownName_(std::move(shownName)) {
     buffer_.reserve(bufferBytes);
     file_ = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, asTheUserHasIt);

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -15,7 +16,7 @@ class ByteOutput {
 public:
     /// Begins the file `path` anew. Failures name `shownName`, the file that the user asked for.
     /// This and all else throws Error (Refused) with the system's reason.
-    ByteOutput(const std::string& path, std::string shownName);
+    ByteOutput(const std::filesystem::path& path, std::string shownName);
     /// Without finish() the file may be incomplete, and nobody is told.
     ~ByteOutput();
     ByteOutput(const ByteOutput&) = delete;

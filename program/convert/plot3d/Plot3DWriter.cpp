@@ -1,10 +1,11 @@
 #include "convert/plot3d/Plot3DWriter.h"
 
 #include <algorithm>
+#include <list>
 #include <regex>
 
-#include "convert/output/ResultFile.h"
 #include "convert/plot3d/FileSet.h"
+#include "manners/ResultFile.h"
 
 namespace plot3d::program {
 
@@ -61,18 +62,19 @@ Written_s Plot3DWriter::write(Contents& contents, const Target_s& target) {
     noteBoundaries(contents, written.notes);
     noteNames(contents, plans, written.notes);
     noteText(plans.front(), written.notes);
-    std::vector<ResultFile> files;
+    std::list<ResultFile> files;
     for (const FilePlan_s& plan : plans) {
         files.emplace_back(plan.path, target.overwrites);
         written.files.push_back(plan.path);
     }
-    for (std::size_t index = 0; index < plans.size(); ++index) {
-        ByteOutput out(files[index].growing(), plans[index].path);
-        writeFileContents(contents, plans[index], out);
+    auto file = files.begin();
+    for (const FilePlan_s& plan : plans) {
+        ByteOutput out((file++)->growingPath(), plan.path);
+        writeFileContents(contents, plan, out);
         out.finish();
     }
-    for (ResultFile& file : files)
-        file.appear();
+    for (ResultFile& whole : files)
+        whole.finish();
     return written;
 }
 

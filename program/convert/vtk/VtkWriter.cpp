@@ -1,21 +1,19 @@
 #include "convert/vtk/VtkWriter.h"
 
-#include <filesystem>
 #include <utility>
 
 #include <plot3d/Error.h>
 
 #include "convert/output/ByteOutput.h"
 #include "convert/output/RealText.h"
-#include "convert/output/ResultFile.h"
 #include "convert/vtk/AppendedFile.h"
 #include "convert/vtk/ZonePiece.h"
+#include "manners/ResultFile.h"
+#include "manners/ResultFolder.h"
 
 namespace plot3d::program {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 [[noreturn]] void refuse(const std::string& message, const std::string& next) {
     ErrorFacts facts;
@@ -29,23 +27,16 @@ std::string fileElement(const std::string& type, const std::string& body) {
            ">\n" + body + "  </" + type + ">\n</VTKFile>\n";
 }
 
-void writeText(const std::string& path, const std::string& shownName, const std::string& text) {
-    ByteOutput out(path, shownName);
-    out.write(text);
-    out.finish();
-}
-
 /// The index file with its folder of pieces.
 class Pieces {
 public:
     Pieces(Contents& contents, const Target_s& target)
-        : contents_(contents), index_(target.path, target.overwrites),
-          folder_(folderOf(target.path), target.overwrites),
-          folderName_(fs::path(folder_.target()).filename().string()) {}
+        : contents_(contents), result_(target.path, target.overwrites),
+          shownFolder_(withoutExtension(target.path)) {}
 
     void writeMultiBlock() {
         writeZones();
-        writeIndex(multiBlock(contents_.steps().front(), folderName_ + "/"));
+        writeIndex(multiBlock(contents_.steps().front(), result_.name() + "/"));
     }
 
     void writeSeries() {
@@ -53,21 +44,17 @@ public:
         std::string body;
         for (std::size_t step = 0; step < contents_.steps().size(); ++step) {
             const std::string name = "step_" + std::to_string(step + 1) + ".vtm";
-            writeText(folder_.growing() + "/" + name, folder_.target() + "/" + name,
-                      multiBlock(contents_.steps()[step], ""));
+            ByteOutput out(result_.growingPath() / name, shownFolder_ + "/" + name);
+            out.write(multiBlock(contents_.steps()[step], ""));
+            out.finish();
             body += "    <DataSet timestep=\"";
             appendNumber(body, contents_.steps()[step].time);
-            body += "\" part=\"0\" file=\"" + xmlText(folderName_ + "/" + name) + "\"/>\n";
+            body += "\" part=\"0\" file=\"" + xmlText(result_.name() + "/" + name) + "\"/>\n";
         }
         writeIndex(fileElement("Collection", body));
     }
 
 private:
-    static std::string folderOf(const std::string& path) {
-        const std::string stem = withoutExtension(path);
-        return stem == path ? path + ".pieces" : stem;
-    }
-
     std::string pieceName(std::size_t zone) const {
         const ContentZone_s& facts = contents_.zones()[zone];
         return "zone_" + std::to_string(facts.number) + pieceExtension(facts);
@@ -75,8 +62,8 @@ private:
 
     void writeZones() {
         for (std::size_t zone = 0; zone < contents_.zones().size(); ++zone) {
-            ByteOutput out(folder_.growing() + "/" + pieceName(zone),
-                           folder_.target() + "/" + pieceName(zone));
+            const std::string name = pieceName(zone);
+            ByteOutput out(result_.growingPath() / name, shownFolder_ + "/" + name);
             writeZonePiece(contents_, zone, out);
             out.finish();
         }
@@ -91,17 +78,14 @@ private:
         return fileElement("vtkMultiBlockDataSet", body);
     }
 
-    /// The pieces appear ahead of what names them.
     void writeIndex(const std::string& text) {
-        writeText(index_.growing(), index_.target(), text);
-        folder_.appear();
-        index_.appear();
+        result_.index() << text;
+        result_.finish();
     }
 
     Contents& contents_;
-    ResultFile index_;
-    ResultFolder folder_;
-    std::string folderName_;
+    ResultFolder result_;
+    std::string shownFolder_;
 };
 
 void writeSinglePiece(Contents& contents, const Target_s& target) {
@@ -114,10 +98,10 @@ void writeSinglePiece(Contents& contents, const Target_s& target) {
         refuse(std::string("a zone of this kind goes into a ") + fitting + " file",
                "name a .vtm or " + std::string(fitting) + " file");
     ResultFile file(target.path, target.overwrites);
-    ByteOutput out(file.growing(), target.path);
+    ByteOutput out(file.growingPath(), target.path);
     writeZonePiece(contents, 0, out);
     out.finish();
-    file.appear();
+    file.finish();
 }
 
 } // namespace
