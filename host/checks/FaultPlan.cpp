@@ -4,7 +4,7 @@ namespace quorvia::host {
 
 bool FaultPlan::isPlanned(OperationId operation, std::int64_t call) {
     return failures_.erase({operation.index(), call}) != 0 &&
-           operation.traits().failure == Failure::Possible;
+           operation.traits().failure == Failure_e::Possible;
 }
 
 void FaultPlan::failCall(OperationId operation, std::int64_t n) {

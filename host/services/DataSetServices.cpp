@@ -12,7 +12,7 @@ bool createDataSet(Call& call, QuorArgListHandle arguments) {
     const QuorStringListHandle names = reader.stringList("VarNames");
     if (!reader.ok())
         return false;
-    const GuestStringList* list = call.object(names);
+    const GuestStringList_s* list = call.object(names);
     if (list == nullptr)
         return false;
     std::vector<std::string> variableNames;
@@ -25,7 +25,7 @@ bool createDataSet(Call& call, QuorArgListHandle arguments) {
 /// The numbers to delete; null, and a violation, if one of them does not exist.
 const std::set<std::int64_t>* numbersUpTo(Call& call, QuorSetHandle set, std::int32_t count,
                                           const char* what) {
-    const GuestSet* found = call.object(set);
+    const GuestSet_s* found = call.object(set);
     if (found == nullptr)
         return nullptr;
     if (!found->members.empty() && *found->members.rbegin() > count) {
@@ -66,7 +66,7 @@ bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*cou
             call.refuse("there is no data set");
             return nullptr;
         }
-        GuestSet set;
+        GuestSet_s set;
         for (std::int64_t number = 1; number <= (data->*count)(); ++number)
             set.members.insert(set.members.end(), number);
         return call.host().handles.of(QuorSetHandle{}).add(call.operation(), std::move(set));

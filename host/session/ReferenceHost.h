@@ -20,17 +20,17 @@
 
 namespace quorvia::host {
 
-struct HostState;
+struct HostState_s;
 
 /// How an import ended.
-struct LoadResult {
+struct LoadResult_s {
     bool ok = false; // of a selection: instructions were handed over and taken in this import
     bool interrupted = false; // by the user, or by interruptAtStep
     std::string hostError;    // what stopped the host itself, want of memory too; empty for nothing
 };
 
 /// The values of one field.
-struct FetchResult {
+struct FetchResult_s {
     bool ok = false;
     std::string error;            // why not; several messages are joined by line ends
     const void* values = nullptr; // I fastest, then J, then K; valid until the next fetch or unload
@@ -53,8 +53,8 @@ public:
     /// Empties the log alone.
     void clearLog();
 
-    HostSettings& settings();
-    const HostLog& log() const;
+    HostSettings_s& settings();
+    const HostLog_s& log() const;
     Frame& frame();
     /// How deep the guest holds the host's lock, by all its means together.
     std::int64_t lockDepth() const;
@@ -64,12 +64,12 @@ public:
     // ---- What the user does ---------------------------------------------------------------------
 
     /// The registered loaders, in order; an import goes to the last one.
-    const std::vector<Loader>& loaders() const;
+    const std::vector<Loader_s>& loaders() const;
     std::vector<std::string> loaderNames() const;
     /// Hands `files` to the loader registered last, as the import menu does.
-    LoadResult importSelection(const std::vector<std::string>& files, bool advanced, bool append);
+    LoadResult_s importSelection(const std::vector<std::string>& files, bool advanced, bool append);
     /// Hands the loader instructions, as a macro or a layout does.
-    LoadResult importInstructions(const std::vector<std::string>& instructions);
+    LoadResult_s importInstructions(const std::vector<std::string>& instructions);
 
     /// Who answers the host and works with its dialogs: `user`, which must live on; null for the
     /// scripted user, who does at first.
@@ -88,7 +88,7 @@ public:
     bool interruptRequested() const noexcept;
 
     /// The values of a field, numbers from 1; a deferred field is fetched if it is not in memory.
-    FetchResult fetch(std::int32_t zone, std::int32_t variable);
+    FetchResult_s fetch(std::int32_t zone, std::int32_t variable);
     /// Drops fetched values. False: nothing was in memory, or the guest does not allow it.
     bool unload(std::int32_t zone, std::int32_t variable);
     void unloadAll();
@@ -128,11 +128,11 @@ public:
     void checkForLeaks();
 
     /// For the services and the session; not for programs.
-    HostState& state() { return state_; }
+    HostState_s& state() { return state_; }
 
 private:
     ReferenceHost();
-    HostState& state_;
+    HostState_s& state_;
 };
 
 } // namespace quorvia::host

@@ -23,9 +23,9 @@
 
 namespace quorvia::host {
 
-struct HostState {
-    HostSettings settings;
-    HostLog log;
+struct HostState_s {
+    HostSettings_s settings;
+    HostLog_s log;
     FaultPlan faults;
     Transcript transcript;
 
@@ -42,7 +42,7 @@ struct HostState {
     bool solutionTimesChanged = false; // and nobody was told yet
     std::string lastError;
 
-    std::vector<Loader> loaders;
+    std::vector<Loader_s> loaders;
     std::vector<QuorStateChangeCallback> stateChangeCallbacks;
     Toolkit toolkit;
     ScriptedUser script;
@@ -78,7 +78,7 @@ struct HostState {
     bool fetch(FieldStorage& storage);
     /// Logs the message; a text that only tells is shown to the user, a question was. Needs no
     /// memory of the host's.
-    void showMessage(MessageKind kind, std::string_view text,
+    void showMessage(MessageKind_e kind, std::string_view text,
                      std::optional<bool> answer = std::nullopt);
     void tellSolutionTimes();
     /// Those that are there now; one that a callback adds is not called.
@@ -90,6 +90,6 @@ private:
 };
 
 /// The state of the one host.
-HostState& hostState();
+HostState_s& hostState();
 
 } // namespace quorvia::host

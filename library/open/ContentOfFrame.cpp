@@ -13,7 +13,7 @@ namespace {
 
 namespace host = quorvia::host;
 
-plot3d::ZoneKind kindOf(const host::Zone& zone) {
+plot3d::ZoneKind kindOf(const host::Zone_s& zone) {
     constexpr std::int32_t quadrilaterals = 2; // in the numbering of the host's zone types
     constexpr std::int32_t bricks = 4;
     switch (zone.type) {
@@ -30,7 +30,7 @@ plot3d::ZoneKind kindOf(const host::Zone& zone) {
     }
 }
 
-plot3d::Zone zoneOf(const host::DataSet& data, const host::Zone& source) {
+plot3d::Zone zoneOf(const host::DataSet& data, const host::Zone_s& source) {
     plot3d::Zone zone;
     zone.name = source.name;
     zone.kind = kindOf(source);
@@ -76,7 +76,7 @@ Content_s contentOf(const host::Frame& frame, HostFields_e hostFields) {
     content.title = data->title;
     content.auxiliaryData = data->auxData;
     content.dimensions = dimensionsOf(frame.plotType());
-    for (const host::Variable& variable : data->variables())
+    for (const host::Variable_s& variable : data->variables())
         content.variables.push_back({variable.name});
     content.zones.reserve(data->zones().size());
     for (const auto& zone : data->zones())

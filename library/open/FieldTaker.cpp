@@ -91,7 +91,7 @@ void FieldTaker::takeVariable(std::size_t variable) {
         data_.fieldHolders(static_cast<std::int64_t>(variable) + 1);
     for (std::size_t zone = 0; zone < holders.size(); ++zone) {
         FieldRecord_s& record = content_.field(zone, variable);
-        const host::Field& field = data_.zones()[zone]->fields[variable];
+        const host::Field_s& field = data_.zones()[zone]->fields[variable];
         record.type = valueTypeOf(field.type);
         record.holder = static_cast<std::uint32_t>(zone);
         if (field.storage == nullptr)
@@ -183,7 +183,7 @@ void FieldTaker::takeFromHost(std::size_t zone, const std::shared_ptr<Storage>& 
         content_.fieldsAtHost.push_back(storage);
         return;
     }
-    host::HostState& state = host::ReferenceHost::instance().state();
+    host::HostState_s& state = host::ReferenceHost::instance().state();
     const auto copy = Storage::stored(storage->type(), storage->valueCount());
     if (copy == nullptr || !state.fetch(*storage))
         throw Error(ErrorKind::Unreadable,

@@ -12,7 +12,7 @@ namespace plot3dlib {
 
 namespace {
 
-using quorvia::host::LoadResult;
+using quorvia::host::LoadResult_s;
 using quorvia::host::ReferenceHost;
 
 /// Passes the host's progress on. What the caller's function throws must not pass through the
@@ -21,7 +21,7 @@ class ProgressTeller {
 public:
     ProgressTeller(ReferenceHost& host, const plot3d::Watch& watch) : host_(host), watch_(watch) {}
 
-    void tell(const quorvia::host::ProgressState& state) noexcept {
+    void tell(const quorvia::host::ProgressState_s& state) noexcept {
         const auto now = std::chrono::steady_clock::now();
         if (!watch_.progress || thrown_ != nullptr || (state.open && now < next_))
             return;
@@ -57,12 +57,12 @@ private:
     ReferenceHost& host_;
 };
 
-LoadResult importWatched(ReferenceHost& host, const std::vector<std::string>& instructions,
-                         const plot3d::Watch& watch) {
+LoadResult_s importWatched(ReferenceHost& host, const std::vector<std::string>& instructions,
+                           const plot3d::Watch& watch) {
     ProgressTeller teller(host, watch);
     host.settings().progressObserver = [&teller](const auto& state) { teller.tell(state); };
     const std::stop_callback stopLoad(watch.stop, [&host] { host.requestInterrupt(); });
-    const LoadResult result = host.importInstructions(instructions);
+    const LoadResult_s result = host.importInstructions(instructions);
     host.settings().progressObserver = nullptr;
     teller.rethrow();
     return result;
@@ -74,7 +74,7 @@ Content_s loadAtHost(const std::vector<std::string>& instructions, const plot3d:
     ReferenceHost& host = ReferenceHost::instance();
     const CleanHost clean(host);
     host.setAnswers({}, /*afterwards=*/true);
-    const LoadResult result = importWatched(host, instructions, watch);
+    const LoadResult_s result = importWatched(host, instructions, watch);
     if (!result.ok || result.interrupted || host.frame().dataSet() == nullptr)
         throw failureOf(result, host.log().messages);
     Content_s content = contentOf(host.frame(), HostFields_e::Fetched);

@@ -13,8 +13,8 @@ namespace {
 using plot3d::Error;
 using plot3d::ErrorFacts;
 using plot3d::ErrorKind;
-using quorvia::host::Message;
-using quorvia::host::MessageKind;
+using quorvia::host::Message_s;
+using quorvia::host::MessageKind_e;
 
 std::string onOneLine(std::string text) {
     std::replace_if(
@@ -75,7 +75,7 @@ std::string wordsWithoutDialog(const std::string& text) {
                : "No structure of a grid file fits the file.";
 }
 
-Error errorOf(const Message& message) {
+Error errorOf(const Message_s& message) {
     const Said_s said = split(message.text);
     ErrorFacts facts = ofFile(said.file);
     const ErrorKind kind = kindOf(said.text);
@@ -87,13 +87,13 @@ Error errorOf(const Message& message) {
 
 } // namespace
 
-Error failureOf(const quorvia::host::LoadResult& result, const std::vector<Message>& messages) {
+Error failureOf(const quorvia::host::LoadResult_s& result, const std::vector<Message_s>& messages) {
     if (result.interrupted)
         return Error(ErrorKind::Interrupted, "The load was stopped.");
     if (!result.hostError.empty())
         return Error(kindOf(result.hostError), onOneLine(result.hostError));
-    const auto first = std::find_if(messages.begin(), messages.end(), [](const Message& message) {
-        return message.kind == MessageKind::Error;
+    const auto first = std::find_if(messages.begin(), messages.end(), [](const Message_s& message) {
+        return message.kind == MessageKind_e::Error;
     });
     if (first != messages.end())
         return errorOf(*first);
@@ -101,12 +101,12 @@ Error failureOf(const quorvia::host::LoadResult& result, const std::vector<Messa
                                      "a word or a value that no load takes.");
 }
 
-std::vector<std::string> notesOf(const std::vector<Message>& messages) {
+std::vector<std::string> notesOf(const std::vector<Message_s>& messages) {
     std::vector<std::string> notes;
-    for (const Message& message : messages) {
+    for (const Message_s& message : messages) {
         const Said_s said = split(message.text);
         std::string note = said.file.empty() ? said.text : said.file + ": " + said.text;
-        if (message.kind == MessageKind::Question)
+        if (message.kind == MessageKind_e::Question)
             note += message.answer.value_or(false) ? " (answered: yes)" : " (answered: no)";
         notes.push_back(std::move(note));
     }

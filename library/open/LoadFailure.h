@@ -11,10 +11,10 @@
 namespace plot3dlib {
 
 /// Why a load came to nothing.
-plot3d::Error failureOf(const quorvia::host::LoadResult& result,
-                        const std::vector<quorvia::host::Message>& messages);
+plot3d::Error failureOf(const quorvia::host::LoadResult_s& result,
+                        const std::vector<quorvia::host::Message_s>& messages);
 
 /// What was said in a load that came to its end, one line for each message.
-std::vector<std::string> notesOf(const std::vector<quorvia::host::Message>& messages);
+std::vector<std::string> notesOf(const std::vector<quorvia::host::Message_s>& messages);
 
 } // namespace plot3dlib

@@ -17,7 +17,8 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-struct EndClientData {
+class EndClientData {
+public:
     void operator()(Plot3DBoundaryClientData_s* data) const {
         data->~Plot3DBoundaryClientData_s();
         char* block = static_cast<char*>(static_cast<void*>(data));

@@ -10,7 +10,7 @@
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
 using namespace quorvia::testsupport;
-using host::FieldState;
+using host::FieldState_e;
 
 namespace {
 
@@ -104,7 +104,7 @@ TEST_F(FileSetSetup, ReadsNothingOfLaterSolutionsButTheirScalars) {
     const WatchedFiles files;
     ASSERT_TRUE(load({step(&x, &q1), step(&x, &q2)}));
     EXPECT_LT(files.bytesRead, 3 * 4096 + 1);
-    EXPECT_EQ(state(2, 4), FieldState::Deferred);
+    EXPECT_EQ(state(2, 4), FieldState_e::Deferred);
 }
 
 TEST_F(FileSetSetup, ScansLaterSolutionsThatDoNotShareTheirStructure) {
@@ -256,7 +256,7 @@ TEST_F(FileSetSetup, StopsAtAFunctionFileWhoseNameHasNoTime) {
     Plot3DFile_s& f = write("f", describeFunction(oneGrid, 2));
     options.solutionTimes = {{"another", 1.0}};
     EXPECT_FALSE(load({step(&write("x", describeGrid(oneGrid)), nullptr, {&f})}));
-    EXPECT_EQ(state(1, 4), FieldState::Empty);
+    EXPECT_EQ(state(1, 4), FieldState_e::Empty);
 }
 
 TEST_F(FileSetSetup, AsksForItsArraysUnderTheirLabels) {
@@ -354,8 +354,8 @@ TEST_F(FileSetSetup, StopsAtAnInterruptionOfTheReuse) {
     Plot3DFile_s& q2 = write("q2", solutionAt(oneGrid, 2));
     host().interruptAtStep(3 + 5 + 2);
     EXPECT_FALSE(load({step(&x, &q1), step(&x, &q2)}));
-    EXPECT_EQ(state(2, 4), FieldState::Deferred);
-    EXPECT_EQ(state(2, 5), FieldState::Empty);
+    EXPECT_EQ(state(2, 4), FieldState_e::Deferred);
+    EXPECT_EQ(state(2, 5), FieldState_e::Empty);
     EXPECT_EQ(q2.stream, nullptr);
 }
 

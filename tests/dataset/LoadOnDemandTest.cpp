@@ -46,7 +46,7 @@ protected:
 
 TEST_F(LoadOnDemand, ReadsFromThePositionOfTheField) {
     ASSERT_TRUE(registerLodVariable(source("skip" + bytesOf(sevenNumbers) + "rest"), 1, 1, 4, 7));
-    EXPECT_EQ(state(1, 1), host::FieldState::Deferred);
+    EXPECT_EQ(state(1, 1), host::FieldState_e::Deferred);
     EXPECT_EQ(values(1, 1), sevenValues);
 }
 

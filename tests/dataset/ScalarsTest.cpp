@@ -192,7 +192,7 @@ TEST_F(ScalarItem, OfOverflowPassesOverGammasThatFail) {
     EXPECT_EQ(messages(), Texts());
 }
 
-// A header that claims 2 milliard species must not make as many attempts.
+// A header that claims 2 billion species must not make as many attempts.
 TEST_F(ScalarItem, OfOverflowTriesNoMoreGammasThanTheFileBearsOut) {
     Plot3DFile_s& file = textOf("11*1 9999999*2", Plot3DStyle_Overflow, 2000000000);
     EXPECT_TRUE(setUp(file));

@@ -7,7 +7,7 @@ namespace quorvia::testsupport {
 
 class FakeFile : public quorutildataio::RandomAccessFile {
 public:
-    FakeFile(FakeDisk& disk, std::shared_ptr<FakeDisk::Contents> contents)
+    FakeFile(FakeDisk& disk, std::shared_ptr<FakeDisk::Contents_s> contents)
         : disk_(disk), contents_(std::move(contents)) {
         ++disk_.openFiles;
     }
@@ -44,7 +44,7 @@ private:
     }
 
     FakeDisk& disk_;
-    std::shared_ptr<FakeDisk::Contents> contents_;
+    std::shared_ptr<FakeDisk::Contents_s> contents_;
 };
 
 void FakeDisk::put(const std::string& name, const std::string& bytes) {
@@ -54,9 +54,9 @@ void FakeDisk::put(const std::string& name, const std::string& bytes) {
 
 void FakeDisk::place(const std::string& name, std::int64_t size, std::int64_t position,
                      const std::string& bytes) {
-    std::shared_ptr<Contents>& contents = files_[name];
+    std::shared_ptr<Contents_s>& contents = files_[name];
     if (!contents)
-        contents = std::make_shared<Contents>();
+        contents = std::make_shared<Contents_s>();
     contents->size = size;
     contents->pieces[position] = bytes;
 }

@@ -40,11 +40,11 @@ public:
 
 private:
     friend class FakeFile;
-    struct Contents {
+    struct Contents_s {
         std::int64_t size = 0;
         std::map<std::int64_t, std::string> pieces; // by position; they don't overlap
     };
-    std::map<std::string, std::shared_ptr<Contents>> files_;
+    std::map<std::string, std::shared_ptr<Contents_s>> files_;
 };
 
 } // namespace quorvia::testsupport

@@ -7,7 +7,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 using testsupport::Texts;
 
 class FileRecord : public testsupport::RecordFixture {};
@@ -100,7 +100,7 @@ TEST_F(FileRecord, ReportNamesTheFileOnALineOfItsOwn) {
 }
 
 TEST_F(FileRecord, CopyHasTheStructureAndItsOwnName) {
-    sniff(FileBytes(Order::Swapped, 8).record("2357").str());
+    sniff(FileBytes(Order_e::Swapped, 8).record("2357").str());
     file->numVars = 5;
     file->relaxedChecks = true;
     file->segmentBoundaries = {17, 19};

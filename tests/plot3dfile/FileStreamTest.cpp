@@ -154,7 +154,7 @@ TEST_F(Stream, TellsErrorOfADirectRead) {
 
 TEST_F(Stream, WindowShowsTheBufferAndConsumeMovesOn) {
     open("0123456789");
-    const FileStream::Window window = stream->window();
+    const FileStream::Window_s window = stream->window();
     EXPECT_EQ(std::string(window.begin, window.end), "0123456789");
     stream->consume(4);
     EXPECT_EQ(read(2), "45");
@@ -162,7 +162,7 @@ TEST_F(Stream, WindowShowsTheBufferAndConsumeMovesOn) {
 
 TEST_F(Stream, WindowIsEmptyAtTheEnd) {
     open("0123456789").seek(10);
-    const FileStream::Window window = stream->window();
+    const FileStream::Window_s window = stream->window();
     EXPECT_EQ(window.begin, window.end);
 }
 

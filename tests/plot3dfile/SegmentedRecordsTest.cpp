@@ -14,14 +14,14 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 constexpr bool quietly = false;
 constexpr std::int64_t full = 2147483639;
 constexpr std::int64_t firstEnd = 4 + full;     // of the first segment's payload
 constexpr std::int64_t secondStart = 12 + full; // of the second segment's payload
 
-struct Mark {
+struct Mark_s {
     std::int64_t position;
     std::int64_t value;
 };
@@ -31,22 +31,22 @@ constexpr std::int64_t secondEnd = secondStart + full;
 constexpr std::int64_t thirdStart = secondEnd + 8;
 constexpr std::int64_t thirdEnd = thirdStart + 24;
 constexpr std::int64_t chainSize = thirdEnd + 4 + 12;
-const std::vector<Mark> chainMarks = {
+const std::vector<Mark_s> chainMarks = {
     {0, -full},          {firstEnd, full}, {firstEnd + 4, -full}, {secondEnd, -full},
     {secondEnd + 4, 24}, {thirdEnd, -24},  {thirdEnd + 4, 4},     {thirdEnd + 12, 4}};
 
 class SegmentedRecord : public testsupport::RecordFixture {
 protected:
-    void placeMarks(const std::vector<Mark>& marks, std::int64_t size, Order order) {
-        for (const Mark& mark : marks)
+    void placeMarks(const std::vector<Mark_s>& marks, std::int64_t size, Order_e order) {
+        for (const Mark_s& mark : marks)
             disk.place("wing.x", size, mark.position, FileBytes(order).marker(mark.value).str());
     }
-    void placeChain(Order order = Order::Native) { placeMarks(chainMarks, chainSize, order); }
+    void placeChain(Order_e order = Order_e::Native) { placeMarks(chainMarks, chainSize, order); }
 
     /// A chain of a full segment and one of 13 bytes.
     void placeShortChain() {
         placeMarks({{0, -full}, {firstEnd, full}, {firstEnd + 4, 13}, {firstEnd + 21, -13}},
-                   firstEnd + 25, Order::Native);
+                   firstEnd + 25, Order_e::Native);
     }
 };
 
@@ -59,7 +59,7 @@ TEST_F(SegmentedRecord, TilesTheFileAndNotesEveryPayloadEnd) {
 }
 
 TEST_F(SegmentedRecord, IsFoundInTheOtherByteOrder) {
-    placeChain(Order::Swapped);
+    placeChain(Order_e::Swapped);
     EXPECT_EQ(sniffStored().encoding, Plot3DEncoding_FortranUnformatted);
     EXPECT_TRUE(file->byteSwap);
     EXPECT_EQ(file->segmentBoundaries, std::vector<std::int64_t>({firstEnd, secondEnd, thirdEnd}));
@@ -85,7 +85,7 @@ TEST_F(SegmentedRecord, CountsItsPayloadOverAllSegments) {
 // The pair of the last segment is positive ahead, negative and of the full length behind.
 TEST_F(SegmentedRecord, LastSegmentOfFullLengthLeavesTheChainOpen) {
     placeMarks({{0, -full}, {firstEnd, full}, {firstEnd + 4, full}, {secondEnd, -full}},
-               secondEnd + 4, Order::Native);
+               secondEnd + 4, Order_e::Native);
     EXPECT_EQ(sniffStored().encoding, Plot3DEncoding_FortranUnformatted);
     EXPECT_TRUE(file->inSegmentedRecord);
 }
@@ -147,7 +147,7 @@ TEST_F(SegmentedRecord, BlockReadsAcrossOneBoundary) {
 
 // Full segments have an odd length, so that a boundary cuts a value in two.
 TEST_F(SegmentedRecord, ValueThatABoundaryCutsIsWholeInEitherByteOrder) {
-    const std::string value = FileBytes(Order::Swapped).integers({0x01020304}).str();
+    const std::string value = FileBytes(Order_e::Swapped).integers({0x01020304}).str();
     placeShortChain();
     disk.place("wing.x", firstEnd + 25, firstEnd - 3, value.substr(0, 3));
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, value.substr(3));
@@ -226,7 +226,7 @@ TEST(SegmentedFile, IsReadBehind4GiB) {
     const std::string name = directory.write("big.x", "");
     std::filesystem::resize_file(name, static_cast<std::uintmax_t>(chainSize));
     std::fstream out(name, std::ios::in | std::ios::out | std::ios::binary);
-    for (const Mark& mark : chainMarks)
+    for (const Mark_s& mark : chainMarks)
         out.seekp(mark.position) << FileBytes().marker(mark.value).str();
     out.seekp(secondEnd - 2) << "ab";
     out.seekp(thirdStart) << "cdef";

@@ -39,7 +39,7 @@ std::int64_t FileStream::read(void* destination, std::int64_t byteCount) {
     return done;
 }
 
-FileStream::Window FileStream::window() {
+FileStream::Window_s FileStream::window() {
     if (bufferPosition_ == bufferEnd_)
         fillBuffer();
     return {buffer_.get() + bufferPosition_, buffer_.get() + bufferEnd_};

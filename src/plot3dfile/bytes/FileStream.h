@@ -42,11 +42,11 @@ public:
 
     /// The bytes that the buffer holds at the position; fills it if it is empty. `begin` == `end`:
     /// the end of the file. consume() moves the position on inside them. For scanning text in bulk.
-    struct Window {
+    struct Window_s {
         const char* begin;
         const char* end;
     };
-    Window window();
+    Window_s window();
     void consume(std::int64_t byteCount) { bufferPosition_ += byteCount; }
 
     /// Moves to a position in bytes from the file's start; it may lie behind the end. False: the

@@ -42,8 +42,8 @@ protected:
         return options;
     }
     static plot3d::FieldKind expectedKind(const FileReading& file) {
-        return file.state() == quorvia::host::FieldState::Deferred ? plot3d::FieldKind::InFile
-                                                                   : plot3d::FieldKind::InMemory;
+        return file.state() == quorvia::host::FieldState_e::Deferred ? plot3d::FieldKind::InFile
+                                                                     : plot3d::FieldKind::InMemory;
     }
 };
 

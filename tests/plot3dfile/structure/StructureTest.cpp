@@ -17,7 +17,7 @@ StructureTest::~StructureTest() {
 
 std::vector<std::string> StructureTest::messages() const {
     std::vector<std::string> texts;
-    for (const host::Message& message : host::ReferenceHost::instance().log().messages)
+    for (const host::Message_s& message : host::ReferenceHost::instance().log().messages)
         texts.push_back(message.text);
     return texts;
 }
