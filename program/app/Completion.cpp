@@ -117,7 +117,7 @@ std::string zshCompletion(const std::vector<CommandPage_s>& pages) {
         text +=
             fmt::format("        '{}:{}'\n", pages[number].name, zshText(pages[number].purpose));
     text += "    )\n"
-            "    if (( CURRENT == 2 )); then\n"
+            "    if (( CURRENT == 2 )) || [[ $words[2] == -* ]]; then\n"
             "        [[ $PREFIX == -* ]] || _describe command commands\n        " +
             zshArguments(pages.front()) +
             "\n        return\n    fi\n    local command=$words[2]\n"

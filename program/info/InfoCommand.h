@@ -1,6 +1,7 @@
 // plot3d info: what files are, and what is wrong with those that can't be read.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -28,6 +29,16 @@ public:
     int run(const Surroundings_s& surroundings) override;
 
 private:
+    InspectOptions options() const;
+    std::size_t inspectAll(const std::vector<std::string>& files,
+                           const Surroundings_s& surroundings,
+                           const std::function<void(const FileInfo&)>& show) const;
+    /// These give the number of files that are not ok.
+    std::size_t showText(const std::vector<std::string>& files,
+                         const Surroundings_s& surroundings) const;
+    std::size_t showJson(const std::vector<std::string>& files,
+                         const Surroundings_s& surroundings) const;
+
     Inspect inspect_;
     std::vector<std::string> files_;
     std::string as_;

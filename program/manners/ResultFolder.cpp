@@ -1,8 +1,11 @@
 #include "manners/ResultFolder.h"
 
+#include <cerrno>
+#include <cstring>
 #include <system_error>
 
 #include <plot3d/Error.h>
+#include <sys/stat.h>
 
 namespace plot3d::program {
 
@@ -21,17 +24,18 @@ fs::path folderOf(const std::string& indexName) {
 /// Makes a folder under a name that is nobody's.
 fs::path begunBeside(const fs::path& target) {
     constexpr int mostTries = 100; // leftovers of programs that were killed
-    std::error_code error;
+    constexpr mode_t asTheUserHasIt = 0777;
     for (int attempt = 0; attempt < mostTries; ++attempt) {
         const fs::path path = console::growingName(target.parent_path(), attempt);
-        if (fs::create_directory(path, error)) {
+        if (mkdir(path.c_str(), asTheUserHasIt) == 0) {
             console::Growing::add(path);
             return path;
         }
-        if (error && error != std::errc::file_exists) // the index file has such a name, too
+        if (errno != EEXIST)
             break;
     }
-    throw Error(ErrorKind::Refused, "no folder can be made beside it: " + error.message(),
+    throw Error(ErrorKind::Refused,
+                std::string("no folder can be made beside it: ") + std::strerror(errno),
                 {.file = target.string()});
 }
 

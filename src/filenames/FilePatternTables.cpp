@@ -1,5 +1,7 @@
 #include "filenames/FilePatternTables.h"
 
+#include <utility>
+
 #include "filenames/FileNameClassification.h"
 
 namespace quorvia::quorutildataio {
@@ -9,12 +11,21 @@ std::vector<std::string> gSolutionPatterns;
 std::vector<std::string> gFunctionPatterns;
 std::vector<std::string> gNamePatterns;
 
+FilePatterns_s filePatterns() {
+    return {
+        .grid = {"g.*", "*.g", "x.*", "*.x", "xyz.*", "*.xyz", "*.in", "*.in.*", "in.*", "*.p3d"},
+        .solution = {"q.*", "*.q", "*.qfile"},
+        .function = {"f.*", "*.f", "fun.*", "*.fun"},
+        .name = {"*.nam"},
+    };
+}
+
 void buildFilePatternTables() {
-    gGridPatterns = {"g.*",   "*.g",  "x.*",    "*.x",  "xyz.*",
-                     "*.xyz", "*.in", "*.in.*", "in.*", "*.p3d"};
-    gSolutionPatterns = {"q.*", "*.q", "*.qfile"};
-    gFunctionPatterns = {"f.*", "*.f", "fun.*", "*.fun"};
-    gNamePatterns = {"*.nam"};
+    FilePatterns_s patterns = filePatterns();
+    gGridPatterns = std::move(patterns.grid);
+    gSolutionPatterns = std::move(patterns.solution);
+    gFunctionPatterns = std::move(patterns.function);
+    gNamePatterns = std::move(patterns.name);
 }
 
 std::string filePatternListText(bool withCommas) {

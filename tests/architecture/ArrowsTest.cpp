@@ -89,6 +89,14 @@ const Arrows toolArrows = {
     {"plot3dsample", {"plot3dwriter"}},
 };
 
+const Arrows programArrows = {
+    {"console", {}}, // at the top, used by the rooms of the program
+    {"manners", {"console"}},
+    {"selection", {"console", "manners"}},
+    {"info", {"console", "manners"}},
+    {"app", {"console", "manners", "info"}},
+};
+
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
 std::string roomOf(const std::string& path, const Arrows& arrows) {
     if (path.rfind("quorvia/", 0) == 0)
@@ -164,6 +172,10 @@ TEST(Arrows, OfTheToolsNeverReachTheReader) {
     expectNoForbiddenInclude("tools", toolArrows);
 }
 
+TEST(Arrows, OfTheProgramGoOneWay) {
+    expectNoForbiddenInclude("program", programArrows);
+}
+
 bool beginsWithOneOf(const std::string& text, const std::vector<std::string>& beginnings) {
     for (const std::string& beginning : beginnings)
         if (text.rfind(beginning, 0) == 0)
@@ -181,6 +193,10 @@ std::vector<std::string> includesBeyond(const char* folder,
                 if (!beginsWithOneOf(include, allowed))
                     beyond.push_back(entry.path().filename().string() + " includes " + include);
     return beyond;
+}
+
+TEST(Arrows, OfTheConsoleGoNowhere) {
+    EXPECT_EQ(includesBeyond("console", {"console/"}), std::vector<std::string>());
 }
 
 // What a load should make of its files is worked out without the add-on, the rules without the host

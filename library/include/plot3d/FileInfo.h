@@ -66,7 +66,8 @@ struct Trial {
 struct ByteAccount {
     std::int64_t size = 0;
     std::int64_t used = 0;    // taken by the reading, markers included
-    std::int64_t missing = 0; // the reading goes on behind the file's end by so many
+    std::int64_t missing = 0; // the reading goes on behind the file's end by so many; of text two for
+                              // each missing number, the least that it takes
     std::int64_t surplus = 0; // in the file, and not taken
 };
 
@@ -101,6 +102,7 @@ struct FileInfo {
 struct InspectOptions {
     std::optional<FileKind> as; // take it for this kind; otherwise told from name and bytes
     bool allReadings = false;   // go on behind the first reading that fits: what else it could mean
+    bool trials = true;         // fill FileInfo::trials; without, a look at many files is quicker
 };
 
 /// Never fails because of what the file holds: that is told in the result. Throws Error

@@ -38,23 +38,6 @@ void reportMisdescribed(const Plot3DFile_s& file) {
                               "file format is inconsistent with manually supplied description.");
 }
 
-/// A second chance for what the first search could not know: the byte order of plain binary, and
-/// records of a Fortran file that are longer than its header says. Text has none.
-bool searchOnceMore(Plot3DFile_s& file) {
-    switch (file.encoding) {
-    case Plot3DEncoding_Binary:
-        file.byteSwap = true;
-        return searchStructure(file);
-    case Plot3DEncoding_FortranUnformatted:
-        file.relaxedChecks = true;
-        return searchStructure(file);
-    case Plot3DEncoding_Ascii:
-    case Plot3DEncoding_Unknown:
-        break;
-    }
-    return false;
-}
-
 bool searchInBothWays(Plot3DFile_s& file) {
     return searchStructure(file) || (!file.stream->hadReadError() && searchOnceMore(file));
 }

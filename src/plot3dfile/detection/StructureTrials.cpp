@@ -23,15 +23,21 @@ bool tryStyles(Plot3DFile_s& file) {
     return false;
 }
 
+bool fitsReading(Plot3DFile_s& file) {
+    if (file.hasIBlank && file.isSolutionOrFunction)
+        return refuseReading(file, Plot3DMisfit_e::NotInLayout);
+    // Behind a failed read no reading is to be trusted, whether it fits or not.
+    return !file.stream->hadReadError() && parseLayout(file, false, nullptr, nullptr) &&
+           !file.stream->hadReadError();
+}
+
 } // namespace
 
 bool tryIBlank(Plot3DFile_s& file, bool hasIBlank) {
     file.hasIBlank = hasIBlank;
-    if (hasIBlank && file.isSolutionOrFunction)
-        return false;
-    // Behind a failed read no reading is to be trusted, whether it fits or not.
-    return !file.stream->hadReadError() && parseLayout(file, false, nullptr, nullptr) &&
-           !file.stream->hadReadError();
+    file.misfit.what = Plot3DMisfit_e::None;
+    const bool fits = fitsReading(file);
+    return file.observer == nullptr ? fits : file.observer->takesTrial(file, fits);
 }
 
 bool tryPrecision(Plot3DFile_s& file, bool isDoublePrecision) {
@@ -73,6 +79,21 @@ bool searchStructure(Plot3DFile_s& file) {
         if (tryDataStructure(file, dataStructure))
             return true;
     file.dataStructure = Plot3DDataStructure_Unknown;
+    return false;
+}
+
+bool searchOnceMore(Plot3DFile_s& file) {
+    switch (file.encoding) {
+    case Plot3DEncoding_Binary:
+        file.byteSwap = true;
+        return searchStructure(file);
+    case Plot3DEncoding_FortranUnformatted:
+        file.relaxedChecks = true;
+        return searchStructure(file);
+    case Plot3DEncoding_Ascii:
+    case Plot3DEncoding_Unknown:
+        break;
+    }
     return false;
 }
 

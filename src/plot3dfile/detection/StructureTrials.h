@@ -18,5 +18,9 @@ namespace quorvia::quorutildataio {
 [[nodiscard]] bool tryStyle(Plot3DFile_s& file, Plot3DStyle_e style);
 [[nodiscard]] bool tryDataStructure(Plot3DFile_s& file, Plot3DDataStructure_e dataStructure);
 [[nodiscard]] bool searchStructure(Plot3DFile_s& file);
+/// A second chance for what that search could not know: the byte order of plain binary, and
+/// records of a Fortran file that are longer than its header says. Text has none. False (not told):
+/// that doesn't fit either.
+[[nodiscard]] bool searchOnceMore(Plot3DFile_s& file);
 
 } // namespace quorvia::quorutildataio

@@ -9,6 +9,8 @@
 
 #include "instructions/Plot3DStructure.h"
 #include "plot3dfile/bytes/FileStream.h"
+#include "plot3dfile/file/DetectionObserver.h"
+#include "plot3dfile/file/Plot3DMisfit.h"
 #include "plot3dfile/file/Plot3DRecordForm.h"
 #include "quorvia/HostHandles.h"
 
@@ -58,6 +60,8 @@ struct Plot3DFile_s : Plot3DFileStructure_s {
     std::int64_t recordLength = -1;         // payload bytes of the current Fortran record
     std::int64_t nextRecordStart = 0;       // position of the next record's first marker
     std::int32_t lookahead = 32; // text only: character read, not consumed; -1 at end of file
+    Plot3DMisfit_s misfit;       // of the last reading that was judged; None: it fits
+    DetectionObserver* observer = nullptr; // borrowed
 };
 
 using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
@@ -82,6 +86,18 @@ bool closePlot3DFile(Plot3DFile_s& file);
 
 /// Moves the open stream to the file's start and resets the reading state.
 void rewindPlot3DFile(Plot3DFile_s& file);
+
+/// Notes what does not fit the reading that is being judged, of the grid with this index from 0.
+/// False always, so that a judgement can end with it.
+inline bool refuseReading(Plot3DFile_s& file, Plot3DMisfit_e what, std::int64_t expected = 0,
+                          std::int64_t found = 0, std::int32_t gridIndex = 0) {
+    // Of text one character is read ahead, but none before the first.
+    const bool isAhead = file.encoding == Plot3DEncoding_Ascii && file.lookahead >= 0;
+    const std::int64_t position = file.stream->tell();
+    file.misfit = {what, gridIndex, isAhead && position > 0 ? position - 1 : position, expected,
+                   found};
+    return false;
+}
 
 /// Shows `text`, "\nFile: " and the file's name in one dialog.
 void reportFileError(const Plot3DFile_s& file, const std::string& text);

@@ -1,5 +1,6 @@
 #include "plot3dfile/layout/DataSize.h"
 
+#include <limits>
 #include <optional>
 
 #include "plot3dfile/bytes/CheckedSize.h"
@@ -28,7 +29,22 @@ std::int64_t scalarBytes(const Plot3DFile_s& file) {
 }
 
 bool fitsText(Plot3DFile_s& file) {
-    return skipReals(file, file.numScalars) && atRecordEnd(file);
+    if (!skipReals(file, file.numScalars))
+        return refuseReading(file, Plot3DMisfit_e::ScalarsMissing, file.numScalars);
+    return atRecordEnd(file) || refuseReading(file, Plot3DMisfit_e::ScalarsLine, file.numScalars);
+}
+
+std::int64_t asInteger(double number) {
+    constexpr double past64Bits = 9223372036854775808.0;
+    return number < past64Bits ? static_cast<std::int64_t>(number)
+                               : std::numeric_limits<std::int64_t>::max();
+}
+
+bool refuseGrid(Plot3DFile_s& file, const Plot3DGridDims_s& dims, std::int32_t gridIndex) {
+    const double size =
+        isUnstructured(file) ? static_cast<double>(dims.j) + dims.k : structuredPointCount(dims);
+    return refuseReading(file, Plot3DMisfit_e::GridTooBig, asInteger(sizeLimit) - 1,
+                         asInteger(size), gridIndex);
 }
 
 bool isUnstructuredGridSane(const Plot3DGridDims_s& dims) {
@@ -66,30 +82,40 @@ bool addGrid(const Plot3DFile_s& file, const Plot3DGridDims_s& dims, CheckedSize
 }
 
 /// Every byte behind the header must be accounted for.
-bool fitsBinary(const Plot3DFile_s& file) {
-    if (file.numGrids > static_cast<std::int64_t>(file.gridDims.size()))
-        return false; // only a 1-D trial, which takes over the count of an earlier one
+bool fitsBinary(Plot3DFile_s& file) {
+    if (file.numGrids > static_cast<std::int64_t>(file.gridDims.size())) {
+        // Only a 1-D trial, which takes over the count of an earlier one.
+        return refuseReading(file, Plot3DMisfit_e::GridCountUnknown, 1, file.numGrids);
+    }
     CheckedSize total;
-    for (std::int32_t grid = 0; grid < file.numGrids; ++grid)
-        if (!addGrid(file, file.gridDims[static_cast<std::size_t>(grid)], total))
-            return false;
+    for (std::int32_t grid = 0; grid < file.numGrids; ++grid) {
+        const Plot3DGridDims_s& dims = file.gridDims[static_cast<std::size_t>(grid)];
+        if (!addGrid(file, dims, total))
+            return refuseGrid(file, dims, grid);
+    }
     if (styleRulesOf(file).variableCount == VariableCount_e::OfFile)
         total.addProduct({realsPerFileWithSpecies, realWidth(file)});
     const std::optional<std::int64_t> expected = total.value();
     const std::int64_t present = file.fileSize - file.stream->tell();
     if (!expected)
-        return false;
-    return file.relaxedChecks ? *expected <= present : *expected == present;
+        return refuseReading(file, Plot3DMisfit_e::SizePasses64Bits);
+    return (file.relaxedChecks ? *expected <= present : *expected == present) ||
+           refuseReading(file, Plot3DMisfit_e::DataSize, *expected, present);
 }
 
-bool fitsScalarRecord(const Plot3DFile_s& file) {
-    if (styleRulesOf(file).hasSpecies) {
-        // One of the scalars is an integer, which takes 4 bytes in double precision too.
-        const std::int64_t integerSaving = realWidth(file) - integerWidth;
-        return file.recordLength >= scalarBytes(file) - integerSaving;
-    }
-    return file.relaxedChecks ? file.recordLength >= scalarBytes(file)
-                              : file.recordLength == scalarBytes(file);
+bool fitsRecordLength(const Plot3DFile_s& file, std::int64_t expected, bool mayBeLonger) {
+    return mayBeLonger ? file.recordLength >= expected : file.recordLength == expected;
+}
+
+bool fitsScalarRecord(Plot3DFile_s& file) {
+    if (!nextRecord(file, false, nullptr))
+        return refuseReading(file, Plot3DMisfit_e::ScalarsMissing, file.numScalars);
+    const bool hasSpecies = styleRulesOf(file).hasSpecies;
+    // One of its scalars is an integer, which takes 4 bytes in double precision too.
+    const std::int64_t integerSaving = hasSpecies ? realWidth(file) - integerWidth : 0;
+    const std::int64_t expected = scalarBytes(file) - integerSaving;
+    return fitsRecordLength(file, expected, hasSpecies || file.relaxedChecks) ||
+           refuseReading(file, Plot3DMisfit_e::ScalarsRecord, expected, file.recordLength);
 }
 
 /// Points of the first record of variables.
@@ -117,12 +143,15 @@ std::optional<std::int64_t> bytesOfRecord(const Plot3DFile_s& file, const Plot3D
 
 /// Only the first grid's records are looked at: walking them all would read the whole file.
 bool fitsFortran(Plot3DFile_s& file) {
-    if (hasScalars(file) && !(nextRecord(file, false, nullptr) && fitsScalarRecord(file)))
+    if (hasScalars(file) && !fitsScalarRecord(file))
         return false;
     const std::optional<std::int64_t> expected = bytesOfRecord(file, file.gridDims.front());
-    if (!expected || !nextRecord(file, false, nullptr))
-        return false;
-    return file.relaxedChecks ? file.recordLength >= *expected : file.recordLength == *expected;
+    if (!expected)
+        return refuseReading(file, Plot3DMisfit_e::SizePasses64Bits);
+    if (!nextRecord(file, false, nullptr))
+        return refuseReading(file, Plot3DMisfit_e::DataMissing, *expected);
+    return fitsRecordLength(file, *expected, file.relaxedChecks) ||
+           refuseReading(file, Plot3DMisfit_e::DataRecord, *expected, file.recordLength);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "plot3dfile/layout/LayoutHeader.h"
 
 #include <algorithm>
+#include <limits>
 #include <new>
 
 #include "plot3dfile/bytes/CheckedSize.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr double leastBytesPerGrid = 16.0;
 constexpr double pointsPast64Bits = 9223372036854775808.0;
+constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 
 constexpr std::size_t firstGridDimsLength = 1000;
 constexpr std::size_t longestGridDimsGrowth = 100000;
@@ -23,13 +25,20 @@ constexpr std::int32_t solutionScalars1D = 4;
 constexpr std::int32_t solutionVariables1D = 3;
 
 /// Where the data would end if each point so far took one byte.
-bool addPoints(const Plot3DFile_s& file, std::int64_t pointCount, std::int64_t& runningPosition) {
+bool addPoints(Plot3DFile_s& file, std::int64_t pointCount, std::int32_t gridIndex,
+               std::int64_t& runningPosition) {
     CheckedSize sum(runningPosition);
     sum.addProduct({pointCount});
     if (!sum.value() || *sum.value() < 1 || *sum.value() >= file.fileSize)
-        return false;
+        return refuseReading(file, Plot3DMisfit_e::GridsPassEnd, sum.value().value_or(largest),
+                             file.fileSize, gridIndex);
     runningPosition = *sum.value();
     return true;
+}
+
+std::int64_t mostGrids(const Plot3DFile_s& file) {
+    return std::max<std::int64_t>(file.fileSize - 1, 0) /
+           static_cast<std::int64_t>(leastBytesPerGrid);
 }
 
 bool readGridCount(Plot3DFile_s& file) {
@@ -37,8 +46,9 @@ bool readGridCount(Plot3DFile_s& file) {
     if (file.isMultiGrid && !readIntegerRecord(file, 1, &file.numGrids))
         return false;
     // A wrong byte order makes counts in the billions: they must end here, ahead of any long loop.
-    return file.numGrids > 0 &&
-           static_cast<double>(file.fileSize) > file.numGrids * leastBytesPerGrid;
+    if (file.numGrids > 0 && static_cast<double>(file.fileSize) > file.numGrids * leastBytesPerGrid)
+        return true;
+    return refuseReading(file, Plot3DMisfit_e::GridCount, mostGrids(file), file.numGrids);
 }
 
 void setVariableCount(Plot3DFile_s& file, const LayoutRules_s& rules) {
@@ -48,15 +58,18 @@ void setVariableCount(Plot3DFile_s& file, const LayoutRules_s& rules) {
         file.numVars = rules.solutionVariables;
 }
 
-bool readDims(Plot3DFile_s& file, const LayoutRules_s& rules, Plot3DGridDims_s& dims) {
+bool readDims(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t gridIndex,
+              Plot3DGridDims_s& dims) {
     const bool lineMustGoOn =
         rules.lineHoldsGrid && file.encoding != Plot3DEncoding_Binary && !file.relaxedChecks;
     std::int32_t values[3] = {1, 1, 1};
     for (std::int32_t index = 0; index < rules.dimensionCount; ++index) {
         if (index > 0 && lineMustGoOn && atRecordEnd(file))
-            return false;
+            return refuseReading(file, Plot3DMisfit_e::DimensionsLineEnds, rules.dimensionCount,
+                                 index, gridIndex);
         if (!readInteger(file, values[index]))
-            return false;
+            return refuseReading(file, Plot3DMisfit_e::DimensionsMissing, rules.dimensionCount,
+                                 index, gridIndex);
     }
     dims = {values[0], values[1], values[2]};
     return true;
@@ -66,10 +79,11 @@ bool readDims(Plot3DFile_s& file, const LayoutRules_s& rules, Plot3DGridDims_s& 
 bool readFunctionVariableCount(Plot3DFile_s& file, std::int32_t gridIndex) {
     std::int32_t variableCount = 0;
     if (!readInteger(file, variableCount))
-        return false;
+        return refuseReading(file, Plot3DMisfit_e::VariablesMissing, 0, 0, gridIndex);
     if (gridIndex == 0)
         file.numVars = variableCount;
-    return variableCount == file.numVars;
+    return variableCount == file.numVars || refuseReading(file, Plot3DMisfit_e::VariablesDiffer,
+                                                          file.numVars, variableCount, gridIndex);
 }
 
 /// Throws where there is no memory, which is no misfit: the next trial would be believed instead.
@@ -81,11 +95,14 @@ void storeDims(Plot3DFile_s& file, const Plot3DGridDims_s& dims, std::int32_t gr
 bool readGridHeader(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t gridIndex,
                     std::int64_t& runningPosition) {
     Plot3DGridDims_s dims{};
-    if (!readDims(file, rules, dims) || !rules.acceptsDims(file, dims))
+    if (!readDims(file, rules, gridIndex, dims))
         return false;
+    if (!rules.acceptsDims(file, dims))
+        return rules.refuseDims(file, dims, gridIndex);
     const double pointCount = rules.pointCount(dims);
-    if (pointCount >= pointsPast64Bits ||
-        !addPoints(file, static_cast<std::int64_t>(pointCount), runningPosition))
+    if (pointCount >= pointsPast64Bits)
+        return refuseReading(file, Plot3DMisfit_e::GridsPassEnd, largest, file.fileSize, gridIndex);
+    if (!addPoints(file, static_cast<std::int64_t>(pointCount), gridIndex, runningPosition))
         return false;
     storeDims(file, dims, gridIndex);
     return styleRulesOf(file).variableCount != VariableCount_e::OfEachGrid ||
@@ -93,7 +110,29 @@ bool readGridHeader(Plot3DFile_s& file, const LayoutRules_s& rules, std::int32_t
 }
 
 bool headerEnds(Plot3DFile_s& file) {
-    return file.encoding == Plot3DEncoding_Binary || atRecordEnd(file);
+    if (file.encoding == Plot3DEncoding_Binary || atRecordEnd(file))
+        return true;
+    const std::int64_t end = file.nextRecordStart - static_cast<std::int64_t>(file.markerSize);
+    return refuseReading(file, Plot3DMisfit_e::HeaderGoesOn, end, file.stream->tell());
+}
+
+bool readIntegerLine(Plot3DFile_s& file, std::int32_t count, std::int32_t* values) {
+    for (std::int32_t index = 0; index < count; ++index) {
+        if (atRecordEnd(file))
+            return refuseReading(file, Plot3DMisfit_e::IntegersLineEnds, count, index);
+        if (!readInteger(file, values[index]))
+            return refuseReading(file, Plot3DMisfit_e::IntegersMissing, count, index);
+    }
+    return atRecordEnd(file) || refuseReading(file, Plot3DMisfit_e::IntegersLineGoesOn, count);
+}
+
+bool hasLengthOfIntegers(Plot3DFile_s& file, std::int32_t count) {
+    if (file.encoding != Plot3DEncoding_FortranUnformatted)
+        return true;
+    const std::int64_t expected = integerWidth * count;
+    if (file.relaxedChecks ? file.recordLength >= expected : file.recordLength == expected)
+        return true;
+    return refuseReading(file, Plot3DMisfit_e::IntegersRecord, expected, file.recordLength);
 }
 
 } // namespace
@@ -104,20 +143,14 @@ double structuredPointCount(const Plot3DGridDims_s& dims) {
 
 bool readIntegerRecord(Plot3DFile_s& file, std::int32_t count, std::int32_t* values) {
     if (!nextRecord(file, false, nullptr))
+        return refuseReading(file, Plot3DMisfit_e::IntegersMissing, count);
+    if (file.encoding == Plot3DEncoding_Ascii)
+        return readIntegerLine(file, count, values);
+    if (!hasLengthOfIntegers(file, count))
         return false;
-    if (file.encoding == Plot3DEncoding_Ascii) {
-        for (std::int32_t index = 0; index < count; ++index)
-            if (atRecordEnd(file) || !readInteger(file, values[index]))
-                return false;
-        return atRecordEnd(file);
-    }
-    if (file.encoding == Plot3DEncoding_FortranUnformatted) {
-        const std::int64_t expected = integerWidth * count;
-        if (file.relaxedChecks ? file.recordLength < expected : file.recordLength != expected)
-            return false;
-    }
     constexpr bool store = true;
-    return readIntegerBlock(*file.stream, file, store, count, values) && atRecordEnd(file);
+    return (readIntegerBlock(*file.stream, file, store, count, values) && atRecordEnd(file)) ||
+           refuseReading(file, Plot3DMisfit_e::IntegersMissing, count);
 }
 
 bool readScalarCount(Plot3DFile_s& file) {
@@ -125,7 +158,7 @@ bool readScalarCount(Plot3DFile_s& file) {
     const bool isRead = style.variableCount != VariableCount_e::OfFile ||
                         (readInteger(file, file.numVars) && readInteger(file, file.numSpecies));
     file.numScalars = scalarCount(style, file.numSpecies);
-    return isRead;
+    return isRead || refuseReading(file, Plot3DMisfit_e::SpeciesMissing);
 }
 
 bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t gridIndex,
@@ -146,10 +179,12 @@ bool storeGridDims(std::int32_t i, std::int32_t j, std::int32_t k, std::int32_t 
 
 bool readHeader(Plot3DFile_s& file, const LayoutRules_s& rules) {
     rewindPlot3DFile(file);
-    const bool hasDimensions = readGridCount(file) && nextRecord(file, false, nullptr);
+    const bool hasCount = readGridCount(file);
+    const bool hasDimensions = hasCount && nextRecord(file, false, nullptr);
     setVariableCount(file, rules);
     if (!hasDimensions)
-        return false;
+        return hasCount &&
+               refuseReading(file, Plot3DMisfit_e::DimensionsMissing, rules.dimensionCount);
     std::int64_t runningPosition = file.stream->tell();
     for (std::int32_t gridIndex = 0; gridIndex < file.numGrids; ++gridIndex)
         if (!readGridHeader(file, rules, gridIndex, runningPosition))
@@ -164,7 +199,7 @@ bool read1DHeader(Plot3DFile_s& file) {
     if (!readIntegerRecord(file, countsVariables ? 2 : 1, values))
         return false;
     std::int64_t runningPosition = file.stream->tell();
-    const bool fits = addPoints(file, values[0], runningPosition);
+    const bool fits = addPoints(file, values[0], 0, runningPosition);
     if (fits)
         storeDims(file, {values[0], 1, 1}, 0);
     file.numScalars = 0;
@@ -175,7 +210,9 @@ bool read1DHeader(Plot3DFile_s& file) {
         file.numScalars = solutionScalars1D;
         file.numVars = solutionVariables1D;
     }
-    return fits && values[0] >= 1 && headerEnds(file);
+    if (fits && values[0] < 1)
+        return refuseReading(file, Plot3DMisfit_e::Dimension, 1, values[0]);
+    return fits && headerEnds(file);
 }
 
 } // namespace quorvia::quorutildataio

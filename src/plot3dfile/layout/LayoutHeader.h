@@ -16,6 +16,8 @@ struct LayoutRules_s {
     std::int32_t gridVariables;
     std::int32_t solutionVariables; // of Classic and Swift
     bool (*acceptsDims)(const Plot3DFile_s& file, const Plot3DGridDims_s& dims);
+    bool (*refuseDims)(Plot3DFile_s& file, const Plot3DGridDims_s& dims,
+                       std::int32_t gridIndex);         // notes why; false always
     double (*pointCount)(const Plot3DGridDims_s& dims); // as a real: the product may pass 64 bits
 };
 

@@ -1,5 +1,7 @@
 #include "plot3dfile/layout/LayoutParsers.h"
 
+#include <algorithm>
+
 #include "plot3dfile/layout/DataSize.h"
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutWalk.h"
@@ -26,6 +28,12 @@ bool haveOnlyPositiveDims(const Plot3DFile_s&, const Plot3DGridDims_s& dims) {
     return dims.i >= 1 && dims.j >= 1 && dims.k >= 1;
 }
 
+bool refuseLeastDimension(Plot3DFile_s& file, const Plot3DGridDims_s& dims,
+                          std::int32_t gridIndex) {
+    const std::int32_t first = dims.i < 1 ? dims.i : dims.j < 1 ? dims.j : dims.k;
+    return refuseReading(file, Plot3DMisfit_e::Dimension, 1, first, gridIndex);
+}
+
 /// Nodes with triangles or with tetrahedra, never with both; beside a grid file 1 stands for both.
 bool areNodesAndElements(const Plot3DFile_s& file, const Plot3DGridDims_s& dims) {
     if (dims.i < 1)
@@ -33,6 +41,19 @@ bool areNodesAndElements(const Plot3DFile_s& file, const Plot3DGridDims_s& dims)
     if (file.isSolutionOrFunction)
         return dims.j == 1 && dims.k == 1;
     return (dims.j == 0 && dims.k > 0) || (dims.k == 0 && dims.j >= 1);
+}
+
+bool refuseElements(Plot3DFile_s& file, const Plot3DGridDims_s& dims, std::int32_t gridIndex) {
+    if (dims.i < 1 || dims.j < 0 || dims.k < 0)
+        return refuseReading(file, Plot3DMisfit_e::Dimension, dims.i < 1 ? 1 : 0,
+                             dims.i < 1 ? dims.i : std::min(dims.j, dims.k), gridIndex);
+    if (file.isSolutionOrFunction)
+        return refuseReading(file, Plot3DMisfit_e::NotNodesAlone, 1, dims.j != 1 ? dims.j : dims.k,
+                             gridIndex);
+    const bool hasBoth = dims.j > 0 && dims.k > 0;
+    return refuseReading(file,
+                         hasBoth ? Plot3DMisfit_e::TwoKindsOfElements : Plot3DMisfit_e::NoElements,
+                         dims.j, dims.k, gridIndex);
 }
 
 double nodeCount(const Plot3DGridDims_s& dims) {
@@ -46,6 +67,7 @@ constexpr LayoutRules_s rules2D = {
     .gridVariables = 2,
     .solutionVariables = 4,
     .acceptsDims = haveOnlyPositiveDims,
+    .refuseDims = refuseLeastDimension,
     .pointCount = structuredPointCount,
 };
 
@@ -56,6 +78,7 @@ constexpr LayoutRules_s rules3D = {
     .gridVariables = 3,
     .solutionVariables = 5,
     .acceptsDims = haveOnlyPositiveDims,
+    .refuseDims = refuseLeastDimension,
     .pointCount = structuredPointCount,
 };
 
@@ -66,6 +89,7 @@ constexpr LayoutRules_s rulesUnstructured = {
     .gridVariables = 3,
     .solutionVariables = 5,
     .acceptsDims = areNodesAndElements,
+    .refuseDims = refuseElements,
     .pointCount = nodeCount,
 };
 
@@ -76,8 +100,9 @@ bool judgeOrWalk(Plot3DFile_s& file, bool report, QuorSetHandle gridSet,
 
 bool parseGrids(Plot3DFile_s& file, const LayoutRules_s& rules, bool report, QuorSetHandle gridSet,
                 const Plot3DItemReceiver_s* receiver) {
-    return rules.acceptsFile(file) && readHeader(file, rules) &&
-           judgeOrWalk(file, report, gridSet, receiver);
+    if (!rules.acceptsFile(file))
+        return refuseReading(file, Plot3DMisfit_e::NotInLayout);
+    return readHeader(file, rules) && judgeOrWalk(file, report, gridSet, receiver);
 }
 
 } // namespace
@@ -85,7 +110,7 @@ bool parseGrids(Plot3DFile_s& file, const LayoutRules_s& rules, bool report, Quo
 bool parse1D(Plot3DFile_s& file, bool report, QuorSetHandle /*gridSet*/,
              const Plot3DItemReceiver_s* receiver) {
     if (!styleRulesOf(file).existsIn1D || file.hasIBlank || file.isMultiGrid)
-        return false;
+        return refuseReading(file, Plot3DMisfit_e::NotInLayout);
     return read1DHeader(file) && judgeOrWalk(file, report, nullptr, receiver);
 }
 

@@ -101,7 +101,7 @@ const StyleRules_s& styleRules(Plot3DStyle_e style) {
     return row != rows.end() ? *row : unknownStyle;
 }
 
-const StyleRules_s& styleRulesOf(const Plot3DFile_s& file) {
+const StyleRules_s& styleRulesOf(const Plot3DFileStructure_s& file) {
     return file.isSolutionOrFunction ? styleRules(file.style) : unknownStyle;
 }
 

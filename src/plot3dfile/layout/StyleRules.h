@@ -45,7 +45,7 @@ const StyleRules_s& styleRules(Plot3DStyle_e style);
 
 /// The row of a solution or function file; of a grid file, which has no style, that of an unknown
 /// one: what a manual description says there is meant for its companions.
-const StyleRules_s& styleRulesOf(const Plot3DFile_s& file);
+const StyleRules_s& styleRulesOf(const Plot3DFileStructure_s& file);
 
 /// Whether each grid begins with a block of scalars.
 bool hasScalars(const Plot3DFile_s& file);

@@ -139,6 +139,10 @@ std::int64_t bytesAheadOfBoundary(const Plot3DFile_s& file) {
     return (next != boundaries.end() ? *next : largestPosition) - position;
 }
 
+bool isInterrupted(const Plot3DFile_s& file) {
+    return file.observer != nullptr ? !file.observer->goesOn() : QuorUtilInterruptIsSet();
+}
+
 bool isLineEnd(int character) {
     return character == '\r' || character == '\n';
 }
@@ -186,7 +190,7 @@ RecordWalk_e walkFortranRecords(Plot3DFile_s& file) {
     std::int64_t asked = 0; // the position at which the host was asked last
     while (file.fileSize - file.stream->tell() >= 1) {
         if (file.stream->tell() - asked >= bytesBetweenQuestions) {
-            if (QuorUtilInterruptIsSet())
+            if (isInterrupted(file))
                 return RecordWalk_e::Interrupted;
             asked = file.stream->tell();
         }

@@ -23,8 +23,8 @@ bool readRecordMarker(Plot3DFile_s& file, std::int64_t& length);
 enum class RecordWalk_e { Tiles, DoesNotTile, Interrupted };
 
 /// Whether records of the supposed width and byte order tile the whole file. Fills
-/// `segmentBoundaries`. Asks the host for an interruption after every 64 MiB of the file; a read
-/// error is one that does not tile.
+/// `segmentBoundaries`. Asks the host, or the file's observer, for an interruption after every 64
+/// MiB of the file; a read error is one that does not tile.
 RecordWalk_e walkFortranRecords(Plot3DFile_s& file);
 
 /// Whether they do; false also for a walk that was interrupted.

@@ -1,0 +1,135 @@
+#include "inspect/Choice.h"
+
+#include <algorithm>
+
+#include "inspect/TextAccount.h"
+
+namespace plot3dlib {
+
+namespace {
+
+using Readings = std::vector<Reading_s>;
+
+bool isText(const Evidence_s& evidence) {
+    return evidence.form.encoding == io::Plot3DEncoding_Ascii;
+}
+
+Account_s accountFor(Evidence_s& evidence, const Reading_s& reading) {
+    return evidence.text ? accountOfText(evidence.file, *evidence.text, reading)
+                         : accountOf(evidence.file, reading);
+}
+
+bool isExact(Evidence_s& evidence, const Reading_s& reading) {
+    return evidence.text ? fitsExactly(*evidence.text, reading)
+                         : accountOf(evidence.file, reading).isExact();
+}
+
+bool mayHaveIBlank(const Reading_s& reading) {
+    return !reading.isSolutionOrFunction && reading.dataStructure != io::Plot3DDataStructure_1D &&
+           reading.dataStructure != io::Plot3DDataStructure_Unstructured;
+}
+
+/// Text does not tell whether it holds I-blank.
+void addReadingsWithIBlank(Readings& readings) {
+    const std::size_t count = readings.size();
+    for (std::size_t index = 0; index < count; ++index)
+        if (mayHaveIBlank(readings[index])) {
+            readings.push_back(readings[index]);
+            readings.back().hasIBlank = true;
+        }
+}
+
+class Chooser {
+public:
+    Chooser(Evidence_s& evidence, bool allReadings)
+        : evidence_(evidence), allReadings_(allReadings) {}
+
+    Choice_s run() {
+        for (const Kinds_e kinds : kindsToTry())
+            tryKinds(kinds);
+        if (isText(evidence_))
+            evidence_.text = std::make_unique<TextScan>(evidence_.file);
+        choose();
+        return std::move(choice_);
+    }
+
+private:
+    std::vector<Kinds_e> kindsToTry() const {
+        const bool isGrid =
+            evidence_.expectedKind.value_or(plot3d::FileKind::Grid) == plot3d::FileKind::Grid;
+        const Kinds_e first = isGrid ? Kinds_e::Grid : Kinds_e::SolutionOrFunction;
+        const Kinds_e second = isGrid ? Kinds_e::SolutionOrFunction : Kinds_e::Grid;
+        if (evidence_.expectedKind && !allReadings_)
+            return {first};
+        return {first, second};
+    }
+
+    void tryKinds(Kinds_e kinds) {
+        Search_s search =
+            searchFile(evidence_.file, evidence_.form, {.kinds = kinds, .goesOn = allReadings_});
+        choice_.trials.insert(choice_.trials.end(), search.trials.begin(), search.trials.end());
+        if (search.readings.empty())
+            return;
+        firstOfKinds_.push_back(search.readings.front());
+        triedKinds_.push_back(kinds);
+    }
+
+    void choose() {
+        for (const Reading_s& first : firstOfKinds_)
+            if (isExact(evidence_, first)) {
+                take(first, first);
+                noteFurtherKinds();
+                return;
+            }
+        for (std::size_t index = 0; index < firstOfKinds_.size(); ++index)
+            if (takeExactOf(index)) {
+                noteFurtherKinds();
+                return;
+            }
+        if (!firstOfKinds_.empty())
+            take(firstOfKinds_.front(), firstOfKinds_.front());
+    }
+
+    /// Goes on behind the reading that a load takes, which does not account for every byte.
+    bool takeExactOf(std::size_t index) {
+        Readings readings = searchFile(evidence_.file, evidence_.form,
+                                       {.kinds = triedKinds_[index], .goesOn = true})
+                                .readings;
+        if (isText(evidence_))
+            addReadingsWithIBlank(readings);
+        const auto exact = std::find_if(readings.begin(), readings.end(),
+                                        [&](const auto& r) { return isExact(evidence_, r); });
+        if (exact == readings.end())
+            return false;
+        take(firstOfKinds_[index], *exact);
+        return true;
+    }
+
+    void take(const Reading_s& loaded, const Reading_s& reading) {
+        evidence_.loaded = loaded;
+        evidence_.reading = reading;
+        evidence_.account = accountFor(evidence_, reading);
+    }
+
+    void noteFurtherKinds() {
+        for (const Reading_s& first : firstOfKinds_) {
+            const plot3d::FileKind kind = kindOf(first);
+            if (kind != kindOf(*evidence_.reading) && isExact(evidence_, first))
+                choice_.alsoFits.push_back(kind);
+        }
+    }
+
+    Evidence_s& evidence_;
+    const bool allReadings_;
+    Choice_s choice_;
+    Readings firstOfKinds_;
+    std::vector<Kinds_e> triedKinds_;
+};
+
+} // namespace
+
+Choice_s chooseReading(Evidence_s& evidence, bool allReadings) {
+    return Chooser(evidence, allReadings).run();
+}
+
+} // namespace plot3dlib

@@ -1,0 +1,13 @@
+// What a file that fits nothing was probably meant to be.
+#pragma once
+
+#include "inspect/Evidence.h"
+
+namespace plot3dlib {
+
+/// Looks for readings with a good header, whatever the size of the file, and among these for the
+/// one whose data look like numbers and whose size comes nearest. Sets `reading`, `account` and
+/// `isGuessed`; `form` too, where the file is Fortran with a broken end.
+void guessReading(Evidence_s& evidence);
+
+} // namespace plot3dlib

@@ -1,0 +1,30 @@
+// What is wrong with a file, or odd in it: tables of recognisers, asked one after the other. Each
+// looks at what was found out, and knows one thing. Empty: it is not that.
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include <plot3d/FileInfo.h>
+
+#include "inspect/Evidence.h"
+
+namespace plot3dlib {
+
+using Recogniser = std::optional<plot3d::FileProblem> (*)(Evidence_s& evidence);
+
+/// Of files that are something else altogether, told from their first bytes.
+std::span<const Recogniser> strangerRecognisers();
+/// Of text, of plain binary, of Fortran files that no reading takes, or that it does not fit.
+std::span<const Recogniser> textRecognisers();
+std::span<const Recogniser> binaryRecognisers();
+std::span<const Recogniser> fortranRecognisers();
+/// Of what is missing at a file's end by its reading, and of what stands there beside it. These
+/// come last, and take whatever file is so.
+std::span<const Recogniser> endRecognisers();
+
+/// The first that knows the file.
+std::optional<plot3d::FileProblem> recognise(std::span<const Recogniser> recognisers,
+                                             Evidence_s& evidence);
+
+} // namespace plot3dlib
