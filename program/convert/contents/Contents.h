@@ -36,6 +36,7 @@ struct ContentZone_s {
     double time = 0.0;
     std::int32_t strand = 0;
     bool isBoundary = false;
+    std::size_t fileStep = 0; // which of the files that follow one another in time it came from
     AuxiliaryData auxiliaryData;
     std::vector<double> scalars; // ahead of the zone's variables in a solution file; may be empty
 };

@@ -86,6 +86,8 @@ void DataSetContents::addZones(const ContentSelection_s& selection) {
         content.strand = zone.strand;
         content.isBoundary = zone.parent.has_value();
         content.auxiliaryData = zone.auxiliaryData;
+        if (selected.zone < facts_.zoneFiles.size())
+            content.fileStep = facts_.zoneFiles[selected.zone];
         if (selected.zone < facts_.zoneScalars.size())
             content.scalars = facts_.zoneScalars[selected.zone];
         zones_.push_back(content);

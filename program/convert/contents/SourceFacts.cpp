@@ -51,48 +51,40 @@ std::optional<std::size_t> gridNumberOf(const Zone& zone) {
     return number;
 }
 
-/// The zones of one solution file come one after the other, with rising numbers of grids.
-class ZoneScalars {
-public:
-    ZoneScalars(const DataSet& data, const Watch& watch) : data_(data), watch_(watch) {}
-
-    void addTo(SourceFacts_s& facts) {
-        facts.zoneScalars.resize(data_.zones().size());
-        std::size_t file = 0;
-        std::size_t lastNumber = 0;
-        for (std::size_t zone = 0; zone < data_.zones().size(); ++zone) {
-            const std::optional<std::size_t> number = gridNumberOf(data_.zones()[zone]);
-            if (!number)
-                continue;
-            if (*number <= lastNumber)
-                ++file;
-            lastNumber = *number;
-            const SolutionScalars_s* const scalars = scalarsOf(file);
-            if (scalars != nullptr && *number <= scalars->ofGrid.size())
-                facts.zoneScalars[zone] = scalars->ofGrid[*number - 1];
-            if (scalars != nullptr)
-                facts.speciesCount = scalars->speciesCount;
-        }
+/// The zones of one file come one after the other, with rising numbers of grids.
+std::vector<std::size_t> zoneFilesOf(const std::vector<Zone>& zones) {
+    std::vector<std::size_t> files;
+    std::size_t file = 0;
+    std::size_t lastNumber = 0;
+    for (const Zone& zone : zones) {
+        const std::size_t number = gridNumberOf(zone).value_or(lastNumber + 1);
+        if (number <= lastNumber)
+            ++file;
+        lastNumber = number;
+        files.push_back(file);
     }
+    return files;
+}
 
-private:
-    const SolutionScalars_s* scalarsOf(std::size_t file) {
-        if (file >= data_.files().solution.size())
-            return nullptr;
-        if (file != readFile_) {
-            const FileInfo info =
-                inspectAs(FileKind::Solution, data_.files().solution[file], watch_);
-            scalars_ = info.ok ? readSolutionScalars(info, watch_.stop) : SolutionScalars_s();
-            readFile_ = file;
+void addScalars(const DataSet& data, const Watch& watch, SourceFacts_s& facts) {
+    SolutionScalars_s scalars;
+    std::optional<std::size_t> scalarsFile; // that they were read from
+    facts.zoneScalars.resize(data.zones().size());
+    for (std::size_t zone = 0; zone < data.zones().size(); ++zone) {
+        const std::optional<std::size_t> number = gridNumberOf(data.zones()[zone]);
+        const std::size_t file = facts.zoneFiles[zone];
+        if (!number || file >= data.files().solution.size())
+            continue;
+        if (file != scalarsFile) {
+            const FileInfo info = inspectAs(FileKind::Solution, data.files().solution[file], watch);
+            scalars = info.ok ? readSolutionScalars(info, watch.stop) : SolutionScalars_s();
+            scalarsFile = file;
+            facts.speciesCount = scalars.speciesCount;
         }
-        return &scalars_;
+        if (*number <= scalars.ofGrid.size())
+            facts.zoneScalars[zone] = scalars.ofGrid[*number - 1];
     }
-
-    const DataSet& data_;
-    const Watch& watch_;
-    std::optional<std::size_t> readFile_;
-    SolutionScalars_s scalars_;
-};
+}
 
 /// Species have names of their own, as many as the header says, whether or not they have values.
 int namedVariables(const FileInfo& info, int speciesCount) {
@@ -106,11 +98,12 @@ int namedVariables(const FileInfo& info, int speciesCount) {
 SourceFacts_s readSourceFacts(const DataSet& data, const Watch& watch) {
     SourceFacts_s facts;
     facts.form = firstForm(data, watch);
+    facts.zoneFiles = zoneFilesOf(data.zones());
     const FileLists& files = data.files();
     if (!files.solution.empty()) {
         const FileInfo info = inspectAs(FileKind::Solution, files.solution.front(), watch);
         facts.style = info.style.value_or(Style::Classic);
-        ZoneScalars(data, watch).addTo(facts);
+        addScalars(data, watch, facts);
         facts.solutionVariables = namedVariables(info, facts.speciesCount);
     }
     for (const std::string& file : files.function)

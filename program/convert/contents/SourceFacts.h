@@ -17,9 +17,12 @@ struct SourceFacts_s {
     FileForm_s form; // of the first grid file, without one of the first solution or function file
     Style style = Style::Classic;
     int speciesCount = 0;
-    int solutionVariables = 0;                    // of the data set, that come of a solution file
-    std::vector<int> functionVariables;           // likewise, of each function file of a time
-    std::vector<std::vector<double>> zoneScalars; // by zone of the data set; may be empty
+    int solutionVariables = 0;          // of the data set, that come of a solution file
+    std::vector<int> functionVariables; // likewise, of each function file of a time
+    /// Both by zone of the data set, and empty where the files were not looked at. Zones of one
+    /// file may have different times, so that these don't tell the files apart.
+    std::vector<std::size_t> zoneFiles; // from 0, in the order of time
+    std::vector<std::vector<double>> zoneScalars;
 };
 
 /// Looks at the files again. Throws Error.

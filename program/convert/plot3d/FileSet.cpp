@@ -1,7 +1,7 @@
 #include "convert/plot3d/FileSet.h"
 
 #include <algorithm>
-#include <array>
+#include <map>
 #include <utility>
 
 #include <plot3d/Error.h>
@@ -33,9 +33,12 @@ public:
         : contents_(contents), wishes_(target.form), target_(target.path),
           stem_(formatOfName(target.path) == Format_e::Plot3D ? withoutExtension(target.path)
                                                               : target.path) {
-        for (const TimeStep& step : contents.steps())
-            steps_.push_back(withoutBoundaries(step.zones));
-        steps_.erase(std::remove(steps_.begin(), steps_.end(), Zones()), steps_.end());
+        std::map<std::size_t, Zones> byStep;
+        for (std::size_t zone = 0; zone < contents.zones().size(); ++zone)
+            if (!contents.zones()[zone].isBoundary)
+                byStep[contents.zones()[zone].fileStep].push_back(zone);
+        for (const auto& [step, zones] : byStep)
+            steps_.push_back(zones);
     }
 
     std::vector<FilePlan_s> plan() {
@@ -52,13 +55,6 @@ public:
 private:
     [[noreturn]] static void refuse(const std::string& message) {
         throw Error(ErrorKind::Unsupported, message);
-    }
-
-    Zones withoutBoundaries(const Zones& zones) const {
-        Zones kept;
-        std::copy_if(zones.begin(), zones.end(), std::back_inserter(kept),
-                     [this](std::size_t zone) { return !contents_.zones()[zone].isBoundary; });
-        return kept;
     }
 
     void planGrids() {

@@ -78,7 +78,7 @@ public:
         for (std::size_t index = 0; index < grid.contents.grids.size(); ++index)
             zones.push_back(zone(grid, static_cast<std::int32_t>(index)));
         text_ << json({{"coordinates", opened_.readings.front().variableCount()},
-                       {"times", json::array({0.0})},
+                       {"times", times()},
                        {"zones", zones}});
     }
 
@@ -103,6 +103,13 @@ private:
         if (isUnstructured)
             facts["elements"] = elements(dims, index);
         return facts;
+    }
+
+    json times() const {
+        json all = json::array();
+        for (const plot3d::TimeStep& step : data_.timeSteps())
+            all.push_back(step.time);
+        return all;
     }
 
     json field(const FieldExpectation_s& expected, const std::array<std::int64_t, 3>& size,

@@ -154,6 +154,13 @@ def check_npz(path, expected):
         expect(set(archive.files) == keys | {"times"}, f"keys are {archive.files}")
 
 
+def one_nan(values):
+    """Text has one NaN for all that there are."""
+    if values.dtype.kind != "f":
+        return values
+    return numpy.where(numpy.isnan(values), values.dtype.type("nan"), values)
+
+
 def check_csv(path, expected):
     with open(path, newline="") as file:
         rows = list(csv.reader(file))
@@ -170,8 +177,8 @@ def check_csv(path, expected):
         expect(all(float(line[1]) == zone["time"] for line in lines), "times")
         for column, field in enumerate(zone["fields"], 5):
             texts = [line[column] for line in lines]
-            expect_same(numpy.array(texts, dtype=float).astype(field["type"]), field["values"],
-                        field["name"])
+            read = numpy.array(texts, dtype=float).astype(field["type"])
+            expect_same(one_nan(read), one_nan(field["values"]), field["name"])
     expect(row == len(rows), f"{len(rows)} lines")
 
 
