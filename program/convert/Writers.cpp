@@ -1,3 +1,4 @@
+#include "convert/cgns/CgnsWriter.h"
 #include "convert/csv/CsvWriter.h"
 #include "convert/npz/NpzWriter.h"
 #include "convert/plot3d/Plot3DWriter.h"
@@ -12,7 +13,7 @@ std::unique_ptr<Writer> makeWriter(Format_e format) {
     case Format_e::Vtk:
         return std::make_unique<VtkWriter>();
     case Format_e::Cgns:
-        return nullptr;
+        return std::make_unique<CgnsWriter>();
     case Format_e::Npz:
         return std::make_unique<NpzWriter>();
     case Format_e::Csv:

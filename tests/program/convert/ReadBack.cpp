@@ -98,6 +98,7 @@ private:
         const auto zoneIndex = static_cast<std::size_t>(index);
         json facts = {{"name", data_.zones()[zoneIndex].name},
                       {"time", data_.zones()[zoneIndex].time},
+                      {"strand", data_.zones()[zoneIndex].strand},
                       {"size", size},
                       {"fields", fields}};
         if (isUnstructured)

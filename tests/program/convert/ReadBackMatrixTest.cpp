@@ -7,7 +7,7 @@ namespace {
 using ReadBackMatrix = ReadBackTest;
 
 TEST_F(ReadBackMatrix, HoldsEveryValueInEachFormat) {
-    const std::vector<std::string> endings = {"npz", "csv", "pvd"};
+    const std::vector<std::string> endings = {"cgns", "npz", "csv", "pvd"};
     for (const MatrixCase_s& matrixCase : everyCase()) {
         const std::string where = folder(nameOf(matrixCase));
         const OpenedCase_s opened = writeCase(where, matrixCase);
