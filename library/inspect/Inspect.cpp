@@ -98,7 +98,7 @@ void inspectOpened(ExaminedFile& file, const plot3d::InspectOptions& options,
     info.bytes = {file.size(), 0, 0, file.size()};
     Evidence_s evidence(file);
     evidence.expectedKind = options.as ? options.as : kindOfName(file.name());
-    if (tellStranger(evidence, info) || isListFile(file, evidence.expectedKind, info))
+    if (isListFile(file, evidence.expectedKind, info) || tellStranger(evidence, info))
         return;
     inspectData(evidence, options, info);
 }

@@ -12,7 +12,6 @@
 #include "open/FileSorting.h"
 #include "open/HostLoad.h"
 #include "open/HostLock.h"
-#include "open/LinkedAddOn.h"
 #include "open/LoadInstructions.h"
 
 namespace plot3d {
@@ -65,7 +64,6 @@ DataSet::~DataSet() = default;
 DataSet DataSet::open(const std::vector<std::string>& files, const OpenOptions& options,
                       const Watch& watch) {
     const HostLock lock;
-    registerLinkedAddOn();
     SortedFiles_s sorted = sortByKind(files, watch);
     if (!options.nameFile.empty())
         sorted.lists.name = options.nameFile;
@@ -80,7 +78,6 @@ DataSet DataSet::open(const FileLists& files, const OpenOptions& options, const 
         lists.name = options.nameFile;
     demandFiles(lists);
     const HostLock lock;
-    registerLinkedAddOn();
     return DataSet(std::make_shared<const Content>(Content{load(lists, {}, options, watch)}));
 }
 
