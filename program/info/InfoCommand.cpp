@@ -6,7 +6,6 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
-#include <plot3d/Error.h>
 #include <plot3d/FileNames.h>
 
 #include "console/JsonStream.h"
@@ -20,10 +19,7 @@
 
 namespace plot3d::program {
 
-InfoCommand::InfoCommand()
-    : InfoCommand([](const std::string& file, const InspectOptions&, const Watch&) -> FileInfo {
-          throw Error(ErrorKind::Unsupported, "can't be looked at yet", {.file = file});
-      }) {}
+InfoCommand::InfoCommand() : InfoCommand(inspect) {}
 
 InfoCommand::InfoCommand(Inspect inspect) : inspect_(std::move(inspect)) {}
 
@@ -62,6 +58,7 @@ void InfoCommand::declare(CLI::App& app) {
 InspectOptions InfoCommand::options() const {
     InspectOptions options;
     options.allReadings = why_;
+    options.trials = why_ || json_;
     if (as_ == "grid")
         options.as = FileKind::Grid;
     if (as_ == "solution")
@@ -101,7 +98,7 @@ std::size_t InfoCommand::showText(const std::vector<std::string>& files,
         isFirst = false;
         printSummary(info, lists, surroundings);
         if (why_)
-            printWhy(info, surroundings);
+            printWhy(info, lists, surroundings);
     });
 }
 
@@ -126,6 +123,7 @@ int InfoCommand::run(const Surroundings_s& surroundings) {
     std::stable_sort(files.begin(), files.end(), naturalLess);
     const std::size_t badCount =
         json_ ? showJson(files, surroundings) : showText(files, surroundings);
+    surroundings.out.flush(); // what follows belongs below it
     if (badCount > 0 && files.size() > 1)
         tellNote(surroundings,
                  fmt::format("{} of {} files can't be read as they are", badCount, files.size()));

@@ -108,6 +108,7 @@ void writeCandidate(JsonStream& json, const Candidate& candidate, bool isText) {
     member(json, "multiGrid", candidate.multiGrid);
     member(json, "iBlank", candidate.iBlank);
     member(json, "precision", onlyIf(!isText, candidate.precision));
+    word(json, "byteOrder", candidate.byteOrder);
     json.endObject();
 }
 

@@ -134,18 +134,26 @@ std::string scalarsText(const Scalars& scalars) {
 }
 
 std::string misfitText(const Misfit& misfit) {
-    std::string text = misfit.what;
+    std::string details;
+    const auto add = [&details](const std::string& text) {
+        details += (details.empty() ? "" : ", ") + text;
+    };
     if (misfit.line)
-        text += fmt::format(", line {}", grouped(*misfit.line));
+        add(fmt::format("line {}", grouped(*misfit.line)));
     if (misfit.line && misfit.column)
-        text += fmt::format(" column {}", grouped(*misfit.column));
+        add(fmt::format("column {}", grouped(*misfit.column)));
     if (misfit.byte && !misfit.line)
-        text += fmt::format(", at byte {}", grouped(*misfit.byte));
+        add(fmt::format("at byte {}", grouped(*misfit.byte)));
     if (!misfit.expected.empty())
-        text += ", expected " + misfit.expected;
+        add("expected " + misfit.expected);
     if (!misfit.found.empty())
-        text += ", found " + misfit.found;
-    return text;
+        add("found " + misfit.found);
+    if (details.empty())
+        return misfit.what;
+    std::string what = misfit.what;
+    if (!what.empty() && what.back() == '.')
+        what.pop_back();
+    return fmt::format("{} ({})", what, details);
 }
 
 } // namespace plot3d::program

@@ -30,7 +30,7 @@ std::string accountText(const ByteAccount& bytes);
 /// "Mach 0.5, alpha 2 degrees, Reynolds 1e+06, time 0", as far as there are any.
 std::string scalarsText(const Scalars& scalars);
 
-/// "what, at byte 819,228, expected ..., found ...", as far as it is known.
+/// "What (at byte 819,228, expected ..., found ...)", as far as it is known.
 std::string misfitText(const Misfit& misfit);
 
 } // namespace plot3d::program

@@ -154,13 +154,14 @@ void printGrids(Sheet& sheet, const FileInfo& info, Lists_e lists) {
                                : fmt::format("{}, {}", size, counted(points, "point", many)));
         return;
     }
-    sheet.line("grids", fmt::format("{}, {} in all",
+    const std::vector<Run_s> runs = runsOf(
+        info.grids.size(), [&](std::size_t index) { return sizeText(info.grids[index], layout); });
+    const std::string alike = runs.size() == 1 ? " of " + runs.front().text : "";
+    sheet.line("grids", fmt::format("{}{}, {} in all",
                                     console::grouped(static_cast<std::int64_t>(info.grids.size())),
-                                    counted(points, "point", many)));
-    printRuns(sheet, "",
-              runsOf(info.grids.size(),
-                     [&](std::size_t index) { return sizeText(info.grids[index], layout); }),
-              lists);
+                                    alike, counted(points, "point", many)));
+    if (runs.size() > 1)
+        printRuns(sheet, "", runs, lists);
 }
 
 void printScalars(Sheet& sheet, const FileInfo& info, Lists_e lists) {

@@ -5,6 +5,11 @@
 #include <plot3d/Error.h>
 
 namespace plot3d::program {
+namespace {
+
+constexpr auto aMoment = std::chrono::milliseconds(200);
+
+} // namespace
 
 int progressColumns(const Surroundings_s& surroundings) {
     constexpr int usualColumns = 80;
@@ -20,7 +25,11 @@ int progressColumns(const Surroundings_s& surroundings) {
 }
 
 ProgressWatch::ProgressWatch(const Surroundings_s& surroundings)
-    : line_(surroundings.err, progressColumns(surroundings)), stop_(surroundings.stop) {}
+    : line_(surroundings.err, progressColumns(surroundings)),
+      firstShown_(Clock::now() + (surroundings.progress == ProgressWish_e::Always
+                                      ? std::chrono::milliseconds(0)
+                                      : aMoment)),
+      stop_(surroundings.stop) {}
 
 Watch ProgressWatch::watch() {
     return {[this](const Progress& progress) {
@@ -36,7 +45,8 @@ void ProgressWatch::setPart(double first, double last) {
 }
 
 void ProgressWatch::show(double fraction, const std::string& text, std::int64_t bytes) {
-    line_.show(fraction, text, bytes);
+    if (Clock::now() >= firstShown_)
+        line_.show(fraction, text, bytes);
 }
 
 void throwIfStopped(const std::stop_token& stop) {

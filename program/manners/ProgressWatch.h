@@ -1,6 +1,7 @@
 // Progress on standard error and a way to stop, as one plot3d::Watch for what a command does.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -14,7 +15,8 @@ namespace plot3d::program {
 /// Whether and how wide progress is shown: 0 for not at all.
 int progressColumns(const Surroundings_s& surroundings);
 
-/// Takes its line away when it ends; what is told on `err` meanwhile needs a clear() ahead of it.
+/// Work that ends within a moment shows nothing unless progress is always wanted. Takes its line
+/// away when it ends; what is told on `err` meanwhile needs a clear() ahead of it.
 class ProgressWatch {
 public:
     explicit ProgressWatch(const Surroundings_s& surroundings);
@@ -29,7 +31,10 @@ public:
     void clear() { line_.clear(); }
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     console::ProgressLine line_;
+    Clock::time_point firstShown_; // not before
     std::stop_token stop_;
     double first_ = 0;
     double last_ = 1;

@@ -42,7 +42,7 @@ inline FileInfo multiGrid() {
     return info;
 }
 
-/// A file that no reading fits, with two trials.
+/// A file that no reading fits, with four trials.
 inline FileInfo refused() {
     FileInfo info;
     info.file = "my blunt.q";
@@ -58,7 +58,12 @@ inline FileInfo refused() {
     Candidate solution;
     solution.kind = FileKind::Solution;
     solution.style = Style::Classic;
-    info.trials = {{solution, misfit}, {solution, {}}};
+    solution.byteOrder = ByteOrder::Big;
+    Candidate blanked = solution;
+    blanked.iBlank = true;
+    Misfit impossible;
+    impossible.what = "there is no I-blank in such a file";
+    info.trials = {{solution, misfit}, {blanked, misfit}, {blanked, impossible}, {solution, {}}};
     return info;
 }
 

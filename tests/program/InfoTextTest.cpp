@@ -28,15 +28,19 @@ TEST_F(InfoText, OfSeveralGrids) {
               "  bytes      all 5,000 bytes used\n");
 }
 
+TEST_F(InfoText, GridsOfOneSizeTakeOneLine) {
+    files["multi.x"].grids = {{2, 3, 5}, {2, 3, 5}};
+    EXPECT_NE(told({"multi.x"}).find("  grids      2 of 2 x 3 x 5, 60 points in all\n  bytes"),
+              std::string::npos);
+}
+
 TEST_F(InfoText, OfARefusedFileTellsWhatToTry) {
-    EXPECT_EQ(
-        told({"my blunt.q"}),
-        "my blunt.q\n"
-        "  kind       no PLOT3D file that can be read\n"
-        "  encoding   plain binary, big-endian\n"
-        "  problem    484 bytes too many, at byte 819,228, expected the file's end, found 484 "
-        "bytes\n"
-        "  try        plot3d info --why 'my blunt.q'\n");
+    EXPECT_EQ(told({"my blunt.q"}), "my blunt.q\n"
+                                    "  kind       no PLOT3D file that can be read\n"
+                                    "  encoding   plain binary, big-endian\n"
+                                    "  problem    484 bytes too many (at byte 819,228, expected "
+                                    "the file's end, found 484 bytes)\n"
+                                    "  try        plot3d info --why 'my blunt.q'\n");
     EXPECT_EQ(code, 1);
 }
 
@@ -93,20 +97,38 @@ TEST_F(InfoText, MissingBytesAreTold) {
 TEST_F(InfoText, FitsTheTerminal) {
     columns = 60;
     EXPECT_NE(told({"my blunt.q"})
-                  .find("  problem    484 bytes too many, at byte 819,228, expected\n"
-                        "             the file's end, found 484 bytes\n"
+                  .find("  problem    484 bytes too many (at byte 819,228, expected\n"
+                        "             the file's end, found 484 bytes)\n"
                         "  try        plot3d info --why 'my blunt.q'\n"),
               std::string::npos);
 }
 
-TEST_F(InfoText, WhyShowsEveryReading) {
-    EXPECT_NE(told({"--why", "my blunt.q"})
-                  .find("     kind      layout     style    grids   I-blank  reals   first misfit\n"
-                        "  1  solution  3-D whole  Classic  single  -        32-bit  484 bytes too "
-                        "many, at byte 819,228, expected the file's end, found 484 bytes\n"
-                        "  2  solution  3-D whole  Classic  single  -        32-bit  fits\n"),
-              std::string::npos);
+TEST_F(InfoText, WhyShowsTheReadings) {
+    columns = 90;
+    EXPECT_NE(
+        told({"--why", "my blunt.q"})
+            .find("\n"
+                  "  tried  reading                                  first misfit\n"
+                  "    1-2  solution Classic, 3-D whole, single      484 bytes too many (at byte "
+                  "819,228,\n"
+                  "         grid, any I-blank, 32-bit, big-endian    expected the file's end, "
+                  "found 484\n"
+                  "                                                  bytes)\n"),
+        std::string::npos);
     EXPECT_TRUE(asked.front().allReadings);
+    EXPECT_TRUE(asked.front().trials);
+}
+
+TEST_F(InfoText, WhyLeavesOutWhatNoFileCanHaveUnlessAllIsWanted) {
+    const std::string few = told({"--why", "my blunt.q"});
+    EXPECT_EQ(few.find("no I-blank"), std::string::npos);
+    EXPECT_NE(few.find("  left out: 1 reading that no file can have; --all shows each reading by "
+                       "itself\n"),
+              std::string::npos);
+    const std::string all = told({"--why", "--all", "my blunt.q"});
+    EXPECT_NE(all.find("      2  solution"), std::string::npos);
+    EXPECT_NE(all.find("  there is no I-blank in such a file\n"), std::string::npos);
+    EXPECT_NE(all.find("  none: fits\n"), std::string::npos);
 }
 
 TEST_F(InfoText, AKindCanBeGiven) {

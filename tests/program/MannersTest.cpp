@@ -76,6 +76,7 @@ TEST_F(Manners, ProgressIsForTerminalsUnlessAskedFor) {
 
 TEST_F(Manners, ProgressOfAPartCountsAsThatPart) {
     surroundings.errColumns = 60;
+    surroundings.progress = ProgressWish_e::Always;
     ProgressWatch progress(surroundings);
     progress.setPart(0.5, 1);
     progress.watch().progress({"reading", 0.5, -1});

@@ -35,14 +35,16 @@ struct Scalars {
     std::optional<double> time;
 };
 
-/// One reading of a file that was tried. `encoding` is sniffed ahead of all trials.
+/// One reading of a file that was tried. The encoding is sniffed ahead of all trials, with it the
+/// byte order of Fortran records.
 struct Candidate {
     FileKind kind = FileKind::Grid;
     Layout layout = Layout::ThreeDWhole;
     std::optional<Style> style; // of solution and function files
     bool multiGrid = false;
     bool iBlank = false;
-    int precision = 32; // bits of a real
+    int precision = 32;                 // bits of a real
+    std::optional<ByteOrder> byteOrder; // of binary and Fortran files
 };
 
 /// The first thing that does not fit a reading, or is wrong with a file. What is not known is
@@ -66,8 +68,8 @@ struct Trial {
 struct ByteAccount {
     std::int64_t size = 0;
     std::int64_t used = 0;    // taken by the reading, markers included
-    std::int64_t missing = 0; // the reading goes on behind the file's end by so many; of text two for
-                              // each missing number, the least that it takes
+    std::int64_t missing = 0; // the reading goes on behind the file's end by so many; of text two
+                              // for each missing number, the least that it takes
     std::int64_t surplus = 0; // in the file, and not taken
 };
 
