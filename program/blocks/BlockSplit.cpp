@@ -17,8 +17,8 @@ std::vector<Range> partsOf(const Range& range, std::int64_t indicesOfPart) {
     std::int64_t done = 0;
     for (std::int64_t part = 0; part < parts; ++part) {
         const std::int64_t end = count / parts * (part + 1) + std::min(part + 1, count % parts);
-        result.push_back({range.first + done * range.step, range.first + (end - 1) * range.step,
-                          range.step});
+        result.push_back(
+            {range.first + done * range.step, range.first + (end - 1) * range.step, range.step});
         done = end;
     }
     return result;

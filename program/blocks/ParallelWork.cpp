@@ -13,16 +13,16 @@
 namespace plot3d::program {
 namespace {
 
+constexpr std::size_t caller = 0;
+
 class Work {
 public:
-    Work(std::size_t count, const std::function<void(std::size_t)>& work, const WorkWatch_s& watch)
+    Work(std::size_t count, const WorkOnIndex& work, const WorkWatch_s& watch)
         : count_(count), work_(work), watch_(watch) {}
 
-    enum class TellsProgress_e : unsigned char { No, Yes };
-
-    void goOn(TellsProgress_e tells) noexcept {
+    void goOn(std::size_t worker) noexcept {
         for (std::size_t index = next_++; index < count_ && mayGoOn(); index = next_++)
-            doOne(index, tells);
+            doOne(index, worker);
     }
 
     void throwFailure() const {
@@ -35,11 +35,11 @@ public:
 private:
     bool mayGoOn() const { return !hasFailed_ && !watch_.stop.stop_requested(); }
 
-    void doOne(std::size_t index, TellsProgress_e tells) noexcept {
+    void doOne(std::size_t index, std::size_t worker) noexcept {
         try {
-            work_(index);
+            work_(index, worker);
             const std::size_t done = ++done_;
-            if (tells == TellsProgress_e::Yes && watch_.progress)
+            if (worker == caller && watch_.progress)
                 watch_.progress(static_cast<double>(done) / static_cast<double>(count_));
         } catch (...) {
             keep(index, std::current_exception());
@@ -56,7 +56,7 @@ private:
     }
 
     std::size_t count_;
-    const std::function<void(std::size_t)>& work_;
+    const WorkOnIndex& work_;
     const WorkWatch_s& watch_;
     std::atomic<std::size_t> next_ = 0;
     std::atomic<std::size_t> done_ = 0;
@@ -72,14 +72,14 @@ int coreCount() {
     return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 }
 
-void inParallel(std::size_t count, int threads, const std::function<void(std::size_t)>& work,
-                const WorkWatch_s& watch) {
+void inParallel(std::size_t count, int threads, const WorkOnIndex& work, const WorkWatch_s& watch) {
     Work all(count, work, watch);
     {
         std::vector<std::jthread> helpers;
-        for (int helper = 1; helper < threads && static_cast<std::size_t>(helper) < count; ++helper)
-            helpers.emplace_back([&all] { all.goOn(Work::TellsProgress_e::No); });
-        all.goOn(Work::TellsProgress_e::Yes);
+        const std::size_t workers = std::min(static_cast<std::size_t>(threads), count);
+        for (std::size_t helper = caller + 1; helper < workers; ++helper)
+            helpers.emplace_back([&all, helper] { all.goOn(helper); });
+        all.goOn(caller);
     }
     all.throwFailure();
 }

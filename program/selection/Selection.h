@@ -10,14 +10,9 @@
 #include <plot3d/DataSet.h>
 
 #include "manners/Command.h"
+#include "selection/SelectedZone.h"
 
 namespace plot3d::program {
-
-/// Points of one zone.
-struct SelectedZone_s {
-    std::size_t zone = 0; // index from 0
-    Box box;              // holds one point at least
-};
 
 /// As the user writes it: indices from 1 (or from the end: -1 is the last), ends included. What
 /// can't be understood is refused while the command line is read.

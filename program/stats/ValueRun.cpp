@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace plot3d::program {
 namespace {
@@ -27,14 +30,40 @@ inline Register<Value> registerAt(const Value* values) {
     return result;
 }
 
+/// The first or second half of four values as 64-bit reals.
+#ifdef __SSE2__ // compilers go through general registers otherwise
+inline Pair firstTwo(const Register<std::int32_t>& values) {
+    return _mm_cvtepi32_pd(reinterpret_cast<__m128i>(values));
+}
+inline Pair lastTwo(const Register<std::int32_t>& values) {
+    const auto both = reinterpret_cast<__m128i>(values);
+    return _mm_cvtepi32_pd(_mm_unpackhi_epi64(both, both));
+}
+inline Pair firstTwo(const Register<float>& values) {
+    return _mm_cvtps_pd(values);
+}
+inline Pair lastTwo(const Register<float>& values) {
+    return _mm_cvtps_pd(_mm_movehl_ps(values, values));
+}
+#else
+template <typename Value>
+Pair firstTwo(const Register<Value>& values) {
+    return {static_cast<double>(values[0]), static_cast<double>(values[1])};
+}
+template <typename Value>
+Pair lastTwo(const Register<Value>& values) {
+    return {static_cast<double>(values[2]), static_cast<double>(values[3])};
+}
+#endif
+
 /// Calls `take` with the number of each pair of lanes, from 0, and its two values.
 template <typename Value, typename Take>
 inline void forEachPair(std::size_t part, const Register<Value>& values, Take take) {
     if constexpr (valuesOfRegister<Value> == 2) {
         take(part, values);
     } else {
-        take(2 * part, Pair{static_cast<double>(values[0]), static_cast<double>(values[1])});
-        take(2 * part + 1, Pair{static_cast<double>(values[2]), static_cast<double>(values[3])});
+        take(2 * part, firstTwo(values));
+        take(2 * part + 1, lastTwo(values));
     }
 }
 
@@ -64,8 +93,8 @@ struct Extremes_s {
 template <typename Value>
 Extremes_s<Value> extremesOf(std::span<const Value> values) {
     Extremes_s<Value> result = {values[0], values[0], 0};
-    Register<Value> min[registers<Value>];
-    Register<Value> max[registers<Value>];
+    Register<Value> min[2];
+    Register<Value> max[2];
     std::fill(std::begin(min), std::end(min), Register<Value>{} + values[0]);
     std::fill(std::begin(max), std::end(max), Register<Value>{} + values[0]);
     Sums_s sums;
@@ -73,18 +102,18 @@ Extremes_s<Value> extremesOf(std::span<const Value> values) {
     for (; at + lanes <= values.size(); at += lanes) {
         for (std::size_t part = 0; part < registers<Value>; ++part) {
             const auto next = registerAt(values.data() + at + part * valuesOfRegister<Value>);
-            min[part] = next < min[part] ? next : min[part];
-            max[part] = next > max[part] ? next : max[part];
+            min[part % 2] = next < min[part % 2] ? next : min[part % 2];
+            max[part % 2] = next > max[part % 2] ? next : max[part % 2];
             forEachPair<Value>(part, next, [&sums](std::size_t pair, const Pair& two) {
                 sums.pairs[pair] += two;
             });
         }
     }
-    for (std::size_t part = 0; part < registers<Value>; ++part) {
-        for (std::size_t lane = 0; lane < valuesOfRegister<Value>; ++lane) {
-            result.take(min[part][lane]);
-            result.take(max[part][lane]);
-        }
+    for (std::size_t lane = 0; lane < valuesOfRegister<Value>; ++lane) {
+        result.take(min[0][lane]);
+        result.take(min[1][lane]);
+        result.take(max[0][lane]);
+        result.take(max[1][lane]);
     }
     result.sum = sums.total();
     for (; at < values.size(); ++at) {

@@ -95,7 +95,10 @@ const Arrows programArrows = {
     {"manners", {"console"}},
     {"selection", {"console", "manners"}},
     {"info", {"console", "manners"}},
-    {"app", {"console", "manners", "info"}},
+    {"blocks", {}},
+    {"stats", {"console", "manners", "selection", "blocks"}},
+    {"diff", {"console", "manners", "selection", "blocks"}},
+    {"app", {"console", "manners", "info", "stats", "diff"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
