@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeDisk.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::quorutildataio {
 namespace {
