@@ -2,11 +2,11 @@
 #include <filesystem>
 
 #include "DatasetFixture.h"
-#include "FakeFiles.h"
 #include "dataset/items/ItemDispatch.h"
 #include "dataset/items/VariableItem.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/layout/LayoutParsers.h"
+#include "support/FakeDisk.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
@@ -77,7 +77,7 @@ TEST_F(FieldsOfFiles, OfTextAreReadInFullWithoutARecord) {
 
 TEST_F(FieldsOfFiles, OfBinaryFilesAreNotReadByTheLoad) {
     Plot3DFile_s& grid = write("x", describeGrid({{41, 43, 47}}));
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&grid)}));
     EXPECT_LT(files.bytesRead, 8192);
     EXPECT_EQ(deferredCount(), 3);

@@ -87,7 +87,7 @@ TEST_F(FileRecord, ClosingAClosedRecordIsHarmless) {
 }
 
 TEST_F(FileRecord, RewindingGoesToTheStart) {
-    openText("3*7 9").stream->seek(4);
+    ASSERT_TRUE(openText("3*7 9").stream->seek(4));
     file->repeatCount = 2;
     rewindPlot3DFile(*file);
     EXPECT_EQ(file->stream->tell(), 0);

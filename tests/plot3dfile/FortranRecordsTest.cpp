@@ -282,7 +282,7 @@ TEST_F(RecordEnd, OfTextConsumesBlanksAndNoLineEnd) {
 class FileEnd : public testsupport::RecordFixture {};
 
 TEST_F(FileEnd, OfFortranIsTheLastMarker) {
-    openFortran(FileBytes().record("abcd").str()).stream->seek(8);
+    ASSERT_TRUE(openFortran(FileBytes().record("abcd").str()).stream->seek(8));
     EXPECT_TRUE(atFileEnd(*file, withReport));
     EXPECT_EQ(file->stream->tell(), 8);
 }

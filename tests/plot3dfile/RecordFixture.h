@@ -8,12 +8,12 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeDisk.h"
 #include "FileBytes.h"
 #include "plot3dfile/detection/EncodingSniffer.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/file/Plot3DFile.h"
 #include "session/ReferenceHost.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::testsupport {
 

@@ -177,7 +177,7 @@ TEST_F(SegmentedRecord, BlockThatEndsAtABoundaryStopsAheadOfTheMarkers) {
 }
 
 TEST_F(SegmentedRecord, BlockThatStartsAtABoundaryBeginsWithTheMarkers) {
-    openFortran("abcdMARKmarkef").stream->seek(4);
+    ASSERT_TRUE(openFortran("abcdMARKmarkef").stream->seek(4));
     std::string bytes(6, '\0');
     EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, {4}, file->encoding, bytes.data(), 6));
     EXPECT_EQ(bytes, "MARKma");

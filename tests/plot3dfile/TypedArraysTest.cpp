@@ -124,7 +124,7 @@ TEST_F(Block, OfNoValuesReadsNothing) {
 }
 
 TEST_F(Block, OfNegativeCountFails) {
-    openBinary(FileBytes().zeros(100).str()).stream->seek(50);
+    ASSERT_TRUE(openBinary(FileBytes().zeros(100).str()).stream->seek(50));
     std::int32_t value = 9;
     EXPECT_FALSE(readIntegers(*file, store, 0, -1, &value, nullptr));
     EXPECT_FALSE(readIntegers(*file, passOver, 0, -1, nullptr, nullptr));

@@ -6,12 +6,10 @@ namespace quorvia::quorutildataio {
 
 StructureTest::StructureTest() {
     host::ReferenceHost::instance().reset();
-    setFileSystem(&disk);
     setLoadOptionDefaults(options);
 }
 
 StructureTest::~StructureTest() {
-    setFileSystem(nullptr);
     EXPECT_EQ(host::ReferenceHost::instance().log().violations, std::vector<std::string>());
 }
 
