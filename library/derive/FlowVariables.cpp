@@ -23,6 +23,15 @@ std::optional<Number> numberIn(const AuxiliaryData& items, const char* name) {
     return number;
 }
 
+/// Of the zone, or else of its parent.
+std::optional<double> numberOfZone(const DataSet& data, std::size_t zone, const char* name) {
+    const plot3d::Zone& itself = data.zones()[zone];
+    const auto ofZone = numberIn<double>(itself.auxiliaryData, name);
+    if (ofZone || !itself.parent)
+        return ofZone;
+    return numberIn<double>(data.zones()[*itself.parent].auxiliaryData, name);
+}
+
 Variable variableIn(const DataSet& data, const char* item) {
     const auto number = numberIn<std::size_t>(data.auxiliaryData(), item); // from 1
     if (!number || *number < 1 || *number > data.variables().size())
@@ -83,12 +92,12 @@ FlowVariables_s flowVariablesOf(const DataSet& data) {
 
 std::optional<double> freeStreamMach(const DataSet& data, std::size_t zone) {
     constexpr const char* name = "Common.ReferenceMachNumber";
-    const auto ofZone = numberIn<double>(data.zones()[zone].auxiliaryData, name);
+    const auto ofZone = numberOfZone(data, zone, name);
     return ofZone ? ofZone : numberIn<double>(data.auxiliaryData(), name);
 }
 
 std::optional<double> freeStreamGamma(const DataSet& data, std::size_t zone) {
-    return numberIn<double>(data.zones()[zone].auxiliaryData, "G");
+    return numberOfZone(data, zone, "G");
 }
 
 std::string whatIsMissing(const DataSet& data, std::size_t zone, const FlowNeeds_s& needs) {

@@ -26,9 +26,9 @@ struct FlowVariables_s {
 
 FlowVariables_s flowVariablesOf(const plot3d::DataSet& data);
 
-/// Those of auxiliary data of the zone, and of the data set where the zone has none.
+/// By the auxiliary data of the zone; of its parent, where a boundary has none; of the data set.
 std::optional<double> freeStreamMach(const plot3d::DataSet& data, std::size_t zone);
-/// Overflow's GAMINF; the zone's alone.
+/// Overflow's GAMINF: that of the zone or its parent.
 std::optional<double> freeStreamGamma(const plot3d::DataSet& data, std::size_t zone);
 
 /// What the zone lacks, one sentence; empty if it has all.

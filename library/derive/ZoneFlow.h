@@ -1,4 +1,4 @@
-// The values of one zone that a formula needs, read from the data set.
+// The values that a formula needs, read from the data set.
 #pragma once
 
 #include <cstddef>
@@ -14,12 +14,12 @@
 
 namespace plot3dlib {
 
-/// Owns the values. The zone has what is needed (whatIsMissing).
+/// Owns the values of a box of a zone, which has what is needed (whatIsMissing).
 class ZoneFlow {
 public:
     /// Throws Error.
-    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds_s& needs,
-             const plot3d::Gas& gas, const std::stop_token& stop);
+    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const plot3d::Box& box,
+             const FlowNeeds_s& needs, const plot3d::Gas& gas, const std::stop_token& stop);
 
     const Flow_s& flow() const { return flow_; }
     const FlowConstants_s& constants() const { return constants_; }

@@ -14,6 +14,7 @@
 #include "open/HostLock.h"
 #include "open/LoadFailure.h"
 #include "open/LoadInstructions.h"
+#include "open/LoadLimits.h"
 
 namespace plot3d {
 
@@ -35,12 +36,28 @@ Content_s loadExplained(const FileLists& files, const OpenOptions& options, bool
     }
 }
 
+/// Where the files were taken to be alike and can't have been read so, they are loaded once more,
+/// each looked at by itself.
+Content_s loadAsToldOrSafely(const FileLists& files, const OpenOptions& options, bool withBoundary,
+                             const Watch& watch) {
+    Content_s content = loadExplained(files, options, withBoundary, watch);
+    if (!options.shareStructure || isComplete(content))
+        return content;
+    OpenOptions safe = options;
+    safe.shareStructure = false;
+    content = loadExplained(files, safe, withBoundary, watch);
+    content.notes.push_back("Each file was looked at by itself: files of planes, and of "
+                            "unstructured grids, can't be read by the structure of the first.");
+    return content;
+}
+
 /// The host lock is held.
 Content_s load(const FileLists& files, const std::vector<std::string>& boundaryFiles,
                const OpenOptions& options, const Watch& watch) {
+    demandReadable(options);
     const BoundaryUse_s boundary = boundaryUse(files, boundaryFiles, options.boundaries);
     demandToGoOn(watch);
-    Content_s content = loadExplained(files, options, boundary.isLoaded, watch);
+    Content_s content = loadAsToldOrSafely(files, options, boundary.isLoaded, watch);
     demandToGoOn(watch);
     content.files = files;
     content.notes.insert(content.notes.end(), boundary.notes.begin(), boundary.notes.end());

@@ -57,7 +57,7 @@ Components TestFlow_s::compute(int number, const plot3dlib::FlowConstants_s& con
     return quantityOf(number).compute(flow, constants, {});
 }
 
-plot3d::DataSet TestFlow_s::open(const quorvia::testsupport::TemporaryDirectory& directory) const {
+void TestFlow_s::write(const quorvia::testsupport::TemporaryDirectory& directory) const {
     writer::FileDescription_s grid;
     grid.layout = size.k == 1 ? writer::Layout_e::TwoD : writer::Layout_e::ThreeDWhole;
     grid.grids = {{static_cast<std::int32_t>(size.i), static_cast<std::int32_t>(size.j),
@@ -75,6 +75,10 @@ plot3d::DataSet TestFlow_s::open(const quorvia::testsupport::TemporaryDirectory&
     };
     writeFile(directory.file("flow.x"), grid);
     writeFile(directory.file("flow.q"), solution);
+}
+
+plot3d::DataSet TestFlow_s::open(const quorvia::testsupport::TemporaryDirectory& directory) const {
+    write(directory);
     return plot3d::DataSet::open(
         std::vector<std::string>{directory.file("flow.x"), directory.file("flow.q")});
 }

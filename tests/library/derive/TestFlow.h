@@ -38,7 +38,9 @@ struct TestFlow_s {
     Vector placeAt(std::size_t index) const;
     /// By number, from arrays alone.
     Components compute(int number, const plot3dlib::FlowConstants_s& constants = {}) const;
-    /// Writes a grid and a Classic solution of 64-bit reals, and opens them.
+    /// Writes flow.x, a grid, and flow.q, a Classic solution, of 64-bit reals.
+    void write(const quorvia::testsupport::TemporaryDirectory& directory) const;
+    /// The same, and opens them.
     plot3d::DataSet open(const quorvia::testsupport::TemporaryDirectory& directory) const;
 };
 

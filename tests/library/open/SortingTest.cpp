@@ -80,6 +80,14 @@ TEST_F(Sorting, LetsInstructionsHaveTheLastWord) {
     EXPECT_TRUE(isOfStep(data, 0, 0, 2, 0, 1));
 }
 
+TEST_F(Sorting, RefusesASetOfGridsBesideARangeWithAnEnd) {
+    plot3d::OpenOptions options;
+    options.instructions = {{"filegridset", "2"}, {"IINDEXRANGE", "1,2,1"}};
+    EXPECT_EQ(failureOf({writeGrid()}, options).kind(), ErrorKind::Unsupported);
+    options.instructions = {{"FILEGRIDSET", "2"}, {"IINDEXRANGE", "1,,2"}};
+    EXPECT_EQ(DataSet::open({writeGrid()}, options).zones().size(), 1u);
+}
+
 TEST_F(Sorting, RefusesWordsThatNoLoadTakes) {
     plot3d::OpenOptions options;
     options.instructions = {{"STYLE", "NONE"}};
