@@ -6,7 +6,7 @@
 #include <plot3d/Error.h>
 
 #include "FieldFile.h"
-#include "plot3dfile/FakeDisk.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::testsupport {
 namespace {
