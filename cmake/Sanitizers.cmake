@@ -1,6 +1,14 @@
-option(PLOT3D_SANITIZE "Build everything under AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+set(PLOT3D_SANITIZE "" CACHE STRING
+    "Build everything under sanitizers: address (and undefined behaviour), thread, or none if empty")
+set_property(CACHE PLOT3D_SANITIZE PROPERTY STRINGS "" address thread)
+if(PLOT3D_SANITIZE STREQUAL "address")
+  set(sanitizers address,undefined)
+elseif(PLOT3D_SANITIZE STREQUAL "thread")
+  set(sanitizers thread)
+elseif(PLOT3D_SANITIZE)
+  message(FATAL_ERROR "PLOT3D_SANITIZE is ${PLOT3D_SANITIZE}: address, thread or nothing expected")
+endif()
 if(PLOT3D_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
-                      -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  add_compile_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${sanitizers})
 endif()

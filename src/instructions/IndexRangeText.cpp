@@ -10,7 +10,7 @@ namespace {
 /// Above this one more digit could pass 32 bits.
 constexpr std::int32_t maxBeforeNextDigit = 99999999;
 
-bool isDigit(char c) {
+bool isIndexDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
@@ -36,8 +36,8 @@ const char* findRangeFault(const Plot3DIndexRange_s& range) {
 } // namespace
 
 bool parseIndexRangeField(const char*& cursor, std::int32_t& field, const std::string& label) {
-    std::int32_t value = isDigit(*cursor) ? 0 : field;
-    for (; isDigit(*cursor); ++cursor) {
+    std::int32_t value = isIndexDigit(*cursor) ? 0 : field;
+    for (; isIndexDigit(*cursor); ++cursor) {
         if (value > maxBeforeNextDigit) {
             QuorUtilDialogErrMsg("Input too large.");
             return false;

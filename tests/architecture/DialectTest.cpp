@@ -58,7 +58,7 @@ Texts namesWithK(const std::string& code) {
     return names;
 }
 
-Texts faultsOf(std::istream& source, Types_e types) {
+Texts nameFaultsOf(std::istream& source, Types_e types) {
     Texts faults;
     for (std::string line; std::getline(source, line);) {
         const std::string code = codeOf(line);
@@ -70,9 +70,9 @@ Texts faultsOf(std::istream& source, Types_e types) {
     return faults;
 }
 
-Texts faultsOf(const std::string& source, Types_e types = Types_e::Suffixed) {
+Texts nameFaultsOf(const std::string& source, Types_e types = Types_e::Suffixed) {
     std::istringstream in(source);
-    return faultsOf(in, types);
+    return nameFaultsOf(in, types);
 }
 
 std::vector<fs::path> sourcesIn(const fs::path& folder) {
@@ -96,7 +96,7 @@ TEST(Dialect, IsSpokenInEverySource) {
             const bool isPlain = name.starts_with(folderOfPlainTypes);
             std::ifstream in(source);
             for (const std::string& fault :
-                 faultsOf(in, isPlain ? Types_e::Plain : Types_e::Suffixed))
+                 nameFaultsOf(in, isPlain ? Types_e::Plain : Types_e::Suffixed))
                 faults.push_back(name + ": " + fault);
         }
     EXPECT_GT(sourceCount, 400);
@@ -104,36 +104,37 @@ TEST(Dialect, IsSpokenInEverySource) {
 }
 
 TEST(Dialect, EndsRecordsInS) {
-    EXPECT_EQ(faultsOf("struct Grid_s {\n    struct Point_s;\n"), Texts());
-    EXPECT_EQ(faultsOf("struct Grid {\n"), Texts{"struct Grid"});
-    EXPECT_EQ(faultsOf("struct Grid;\n"), Texts{"struct Grid"});
-    EXPECT_EQ(faultsOf("    struct alignas(16) Grid final : public Base {\n"),
+    EXPECT_EQ(nameFaultsOf("struct Grid_s {\n    struct Point_s;\n"), Texts());
+    EXPECT_EQ(nameFaultsOf("struct Grid {\n"), Texts{"struct Grid"});
+    EXPECT_EQ(nameFaultsOf("struct Grid;\n"), Texts{"struct Grid"});
+    EXPECT_EQ(nameFaultsOf("    struct alignas(16) Grid final : public Base {\n"),
               Texts{"struct Grid"});
-    EXPECT_EQ(faultsOf("template <typename T> struct Grid { T t; };\n"), Texts{"struct Grid"});
+    EXPECT_EQ(nameFaultsOf("template <typename T> struct Grid { T t; };\n"), Texts{"struct Grid"});
 }
 
 TEST(Dialect, EndsEnumerationsInE) {
-    EXPECT_EQ(faultsOf("enum class Kind_e { Small };\nenum Kind_e : int {\n"), Texts());
-    EXPECT_EQ(faultsOf("enum class Kind { Small };\n"), Texts{"enum Kind"});
-    EXPECT_EQ(faultsOf("enum Kind : std::int32_t {\n"), Texts{"enum Kind"});
+    EXPECT_EQ(nameFaultsOf("enum class Kind_e { Small };\nenum Kind_e : int {\n"), Texts());
+    EXPECT_EQ(nameFaultsOf("enum class Kind { Small };\n"), Texts{"enum Kind"});
+    EXPECT_EQ(nameFaultsOf("enum Kind : std::int32_t {\n"), Texts{"enum Kind"});
 }
 
 TEST(Dialect, HasPlainNamesOfClasses) {
-    EXPECT_EQ(faultsOf("class Reader : public Base {\nstruct stat* status = nullptr;\n"), Texts());
-    EXPECT_EQ(faultsOf("class Reader_s {\n"), Texts{"class Reader_s"});
+    EXPECT_EQ(nameFaultsOf("class Reader : public Base {\nstruct stat* status = nullptr;\n"),
+              Texts());
+    EXPECT_EQ(nameFaultsOf("class Reader_s {\n"), Texts{"class Reader_s"});
 }
 
 TEST(Dialect, HasConstantsWithoutK) {
-    EXPECT_EQ(faultsOf("constexpr int most = 3, kMax = 5; // not kMost\nsay(\"kMost\");\n"),
+    EXPECT_EQ(nameFaultsOf("constexpr int most = 3, kMax = 5; // not kMost\nsay(\"kMost\");\n"),
               Texts());
-    EXPECT_EQ(faultsOf("constexpr int kMost = 3;\n"), Texts{"kMost"});
-    EXPECT_EQ(faultsOf("enum Id_e { kRangeIsWrong };\n"), Texts{"kRangeIsWrong"});
-    EXPECT_EQ(faultsOf("->Unit(benchmark::kMillisecond)\n"), Texts());
+    EXPECT_EQ(nameFaultsOf("constexpr int kMost = 3;\n"), Texts{"kMost"});
+    EXPECT_EQ(nameFaultsOf("enum Id_e { kRangeIsWrong };\n"), Texts{"kRangeIsWrong"});
+    EXPECT_EQ(nameFaultsOf("->Unit(benchmark::kMillisecond)\n"), Texts());
 }
 
 TEST(Dialect, LeavesTypesPlainWhereTheyAreToBe) {
-    EXPECT_EQ(faultsOf("struct Grid {\n", Types_e::Plain), Texts());
-    EXPECT_EQ(faultsOf("const int kMost = 3;\n", Types_e::Plain), Texts{"kMost"});
+    EXPECT_EQ(nameFaultsOf("struct Grid {\n", Types_e::Plain), Texts());
+    EXPECT_EQ(nameFaultsOf("const int kMost = 3;\n", Types_e::Plain), Texts{"kMost"});
 }
 
 } // namespace

@@ -17,7 +17,6 @@ using plot3dwriter::Encoding_e;
 using plot3dwriter::FileForm_s;
 using plot3dwriter::Precision_e;
 
-const GridList twoGrids = {{2, 3, 5}, {5, 3, 7}};
 const Part_s bottom = {1, 5, 1, 3, 1, 1}; // of the second grid
 const Part_s inner = {2, 4, 2, 3, 3, 6};
 
@@ -33,7 +32,7 @@ protected:
 };
 
 TEST_P(BoundaryFieldForms, HaveTheValuesOfTheirParents) {
-    useFiles({iblankGridFile("a.x", twoGrids)}, {solutionFile("a.q", twoGrids, 0.25)});
+    useFiles({iblankGridFile("a.x", parentGrids)}, {solutionFile("a.q", parentGrids, 0.25)});
     writeBoundaries("a.x", {"wall"},
                     {"1 2 1 $ 1 $ 1 1 F 0", "1 2 2 4 2 3 3 6 F 0", "1 1 2 2 1 3 5 5 F 0"});
     loadWell();
@@ -61,12 +60,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 class BoundaryFields : public BoundaryTest {
 protected:
-    std::string grid = gridFile("a.x", twoGrids);
+    std::string grid = gridFile("a.x", parentGrids);
 
     void useOneFace() { writeBoundaries("a.x", {"wall"}, {"1 2 1 $ 1 $ 1 1 F 0"}); }
     void useSeries() {
         useFiles({grid},
-                 {solutionFile("a.q", twoGrids, 0.25), solutionFile("b.q", twoGrids, 0.75)});
+                 {solutionFile("a.q", parentGrids, 0.25), solutionFile("b.q", parentGrids, 0.75)});
         options.assignStrandIds = options.assignStrandIdsRequested = true;
         useOneFace();
     }
@@ -131,7 +130,7 @@ TEST_F(BoundaryFields, OfLaterTimeStepsShareTheGridWholeOrNotAtAll) {
 }
 
 TEST_F(BoundaryFields, OfLaterTimeStepsShareTheIBlankToo) {
-    iblankGridFile("a.x", twoGrids);
+    iblankGridFile("a.x", parentGrids);
     useSeries();
     loadWell();
     EXPECT_EQ(holder(6, 4), 5);
@@ -147,7 +146,7 @@ TEST_F(BoundaryFields, AlsoComeFromSolutionsThatAreScanned) {
 }
 
 TEST_F(BoundaryFields, ComeFromTheFunctionFileIfThereIsNoSolution) {
-    useFiles({grid}, {}, {functionFile("a.fun", twoGrids, 2)});
+    useFiles({grid}, {}, {functionFile("a.fun", parentGrids, 2)});
     useOneFace();
     loadWell();
     ASSERT_EQ(variableNames().size(), 5U);
@@ -155,8 +154,8 @@ TEST_F(BoundaryFields, ComeFromTheFunctionFileIfThereIsNoSolution) {
 }
 
 TEST_F(BoundaryFields, ShowTheLastOfSeveralFunctionFilesInTheFirstsPlace) {
-    const std::string covered = functionFile("a.fun", twoGrids, 2);
-    useFiles({grid}, {}, {covered, functionFile("b.fun", twoGrids, 2)});
+    const std::string covered = functionFile("a.fun", parentGrids, 2);
+    useFiles({grid}, {}, {covered, functionFile("b.fun", parentGrids, 2)});
     options.assignStrandIds = options.assignStrandIdsRequested = false;
     useOneFace();
     loadWell();
@@ -168,7 +167,8 @@ TEST_F(BoundaryFields, ShowTheLastOfSeveralFunctionFilesInTheFirstsPlace) {
 }
 
 TEST_F(BoundaryFields, StayEmptyForFunctionsBesideASolution) {
-    useFiles({grid}, {solutionFile("a.q", twoGrids, 0.25)}, {functionFile("a.fun", twoGrids, 2)});
+    useFiles({grid}, {solutionFile("a.q", parentGrids, 0.25)},
+             {functionFile("a.fun", parentGrids, 2)});
     useOneFace();
     loadWell();
     EXPECT_EQ(state(3, 8), host::FieldState_e::Deferred);
@@ -182,7 +182,7 @@ TEST_F(BoundaryFields, CostNoFileAccessUntilTheyAreWanted) {
     std::filesystem::remove(grid);
     EXPECT_EQ(state(3, 1), host::FieldState_e::Deferred);
     EXPECT_EQ(host().fetch(3, 1).error, "The file " + grid + " could not be opened.");
-    gridFile("a.x", twoGrids);
+    gridFile("a.x", parentGrids);
     expectShows(3, 2, bottom);
 }
 

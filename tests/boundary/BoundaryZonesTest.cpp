@@ -6,19 +6,16 @@
 namespace quorvia::testsupport {
 namespace {
 
-const GridList twoGrids = {{2, 3, 5}, {5, 3, 7}};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
-
 class BoundaryZones : public BoundaryTest {
 protected:
-    std::string grid = gridFile("a.x", twoGrids);
+    std::string grid = gridFile("a.x", parentGrids);
 
     /// One time step for each time, on one grid file.
     void useSeries(const std::vector<double>& times) {
         Texts solutions;
         for (const double time : times)
             solutions.push_back(
-                solutionFile("s" + std::to_string(solutions.size()) + ".q", twoGrids, time));
+                solutionFile("s" + std::to_string(solutions.size()) + ".q", parentGrids, time));
         useFiles({grid}, solutions);
         options.assignStrandIds = options.assignStrandIdsRequested = true;
     }
@@ -186,7 +183,7 @@ TEST_F(BoundaryZones, StandInTheWayOfAppendedFunctions) {
     useFiles({grid});
     useTwoFaces();
     loadWell();
-    useFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
+    useFiles({}, {}, {functionFile("a.fun", parentGrids, 2)});
     options.append = true;
     options.loadBoundary = false;
     EXPECT_FALSE(load());

@@ -8,8 +8,6 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList oneGrid = {{2, 3, 5}};
-
 class AddedVariables : public DatasetTest {
 protected:
     AddedVariables() {

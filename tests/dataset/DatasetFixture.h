@@ -32,6 +32,9 @@ using plot3dwriter::Layout_e;
 using plot3dwriter::Precision_e;
 using GridList = std::vector<GridDims_s>;
 
+inline const GridList oneGrid = {{2, 3, 5}};
+inline const GridList threeGrids = {{2, 3, 5}, {3, 2, 2}, {2, 2, 7}};
+
 /// Exact in 32 bits for every file here.
 double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
                   std::int32_t k);

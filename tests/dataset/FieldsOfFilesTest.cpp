@@ -15,7 +15,6 @@ using host::FieldState_e;
 
 namespace {
 
-const GridList oneGrid = {{2, 3, 5}};
 const GridList twoGrids = {{2, 3, 5}, {7, 2, 3}};
 
 class FieldsOfFiles : public DatasetTest {

@@ -14,9 +14,6 @@ using host::FieldState_e;
 
 namespace {
 
-const GridList oneGrid = {{2, 3, 5}};
-const GridList threeGrids = {{2, 3, 5}, {3, 2, 2}, {2, 2, 7}};
-
 class FileSetSetup : public DatasetTest {
 protected:
     /// Values that tell the files of a time series apart.

@@ -11,18 +11,18 @@ using namespace quorvia::testsupport;
 
 namespace {
 
-const GridList twoGrids = {{2, 3, 5}, {3, 2, 2}};
+const GridList gridPair = {{2, 3, 5}, {3, 2, 2}};
 
 class HostFaults : public DatasetTest, public ::testing::WithParamInterface<std::string> {
 protected:
     TimeSteps timeSeries(const FileForm_s& form) {
-        FileDescription_s grid = describeGrid(twoGrids);
+        FileDescription_s grid = describeGrid(gridPair);
         grid.hasIBlank = true;
         Plot3DFile_s& x = write("x", grid, form);
-        Plot3DFile_s& q1 = write("q1", describeSolution(twoGrids, 1), form);
-        Plot3DFile_s& q2 = write("q2", describeSolution(twoGrids, 2), form);
-        Plot3DFile_s& f1 = write("f1", describeFunction(twoGrids, 2), form);
-        Plot3DFile_s& f2 = write("f2", describeFunction(twoGrids, 2), form);
+        Plot3DFile_s& q1 = write("q1", describeSolution(gridPair, 1), form);
+        Plot3DFile_s& q2 = write("q2", describeSolution(gridPair, 2), form);
+        Plot3DFile_s& f1 = write("f1", describeFunction(gridPair, 2), form);
+        Plot3DFile_s& f2 = write("f2", describeFunction(gridPair, 2), form);
         return {step(&x, &q1, {&f1}), step(&x, &q2, {&f2})};
     }
     TimeSteps surface() {

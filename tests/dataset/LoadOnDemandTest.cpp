@@ -14,8 +14,6 @@ using namespace quorvia::testsupport;
 
 namespace {
 
-const GridList oneGrid = {{2, 3, 5}};
-
 /// A data set of a zone of 7 points with X, and a file that X is read from.
 class LoadOnDemand : public DatasetTest {
 protected:

@@ -13,8 +13,6 @@ using namespace quorvia::testsupport;
 
 namespace {
 
-const GridList threeGrids = {{2, 3, 5}, {3, 2, 2}, {2, 2, 7}};
-
 class Scalars : public DatasetTest {
 protected:
     FileDescription_s overflow(const GridList& grids, std::int32_t species) {

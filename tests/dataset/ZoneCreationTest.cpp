@@ -13,7 +13,6 @@ namespace {
 
 using Numbers32 = std::vector<std::int32_t>;
 
-const GridList oneGrid = {{2, 3, 5}};
 const GridList fourGrids = {{2, 3, 5}, {3, 2, 2}, {2, 2, 7}, {5, 2, 3}};
 const Texts flowVariables = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 

@@ -7,13 +7,14 @@ namespace {
 
 using SelectionControls = LoadDialogTest;
 
-struct ToggleRow_s {
+struct SelectionToggleRow_s {
     const char* name;
     const std::int32_t& toggle;
     bool Plot3DLoadOptions_s::*flag;
 };
 
-class SelectionToggle : public LoadDialogTest, public ::testing::WithParamInterface<ToggleRow_s> {
+class SelectionToggle : public LoadDialogTest,
+                        public ::testing::WithParamInterface<SelectionToggleRow_s> {
 protected:
     void SetUp() override {
         LoadDialogTest::SetUp();
@@ -60,13 +61,15 @@ TEST_P(SelectionToggle, LeavesTheOtherFlagsAlone) {
 
 INSTANTIATE_TEST_SUITE_P(
     EachToggle, SelectionToggle,
-    ::testing::Values(
-        ToggleRow_s{"Append", appendToggle, &Plot3DLoadOptions_s::append},
-        ToggleRow_s{"AssignStrand", assignStrandToggle, &Plot3DLoadOptions_s::assignStrandIds},
-        ToggleRow_s{"AddToStrands", addToStrandsToggle, &Plot3DLoadOptions_s::addToExistingStrands},
-        ToggleRow_s{"UniformGrid", uniformGridToggle, &Plot3DLoadOptions_s::uniformGridStructure},
-        ToggleRow_s{"NewStrandPerStep", newStrandPerStepToggle,
-                    &Plot3DLoadOptions_s::assignNewStrandIdForEachTimeStep}),
+    ::testing::Values(SelectionToggleRow_s{"Append", appendToggle, &Plot3DLoadOptions_s::append},
+                      SelectionToggleRow_s{"AssignStrand", assignStrandToggle,
+                                           &Plot3DLoadOptions_s::assignStrandIds},
+                      SelectionToggleRow_s{"AddToStrands", addToStrandsToggle,
+                                           &Plot3DLoadOptions_s::addToExistingStrands},
+                      SelectionToggleRow_s{"UniformGrid", uniformGridToggle,
+                                           &Plot3DLoadOptions_s::uniformGridStructure},
+                      SelectionToggleRow_s{"NewStrandPerStep", newStrandPerStepToggle,
+                                           &Plot3DLoadOptions_s::assignNewStrandIdForEachTimeStep}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(SelectionControls, AppendSwitchedOffClearsAddingToStrandsEvenWhileThatIsGreyed) {

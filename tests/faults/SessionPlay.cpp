@@ -19,32 +19,32 @@ namespace quorvia::testsupport {
 
 namespace {
 
-host::ReferenceHost& theHost() {
+host::ReferenceHost& playingHost() {
     return host::ReferenceHost::instance();
 }
 
 /// Fetches every value and drops it again.
 Standing_s takeStanding() {
-    host::Outcome_s outcome = host::describeOutcome(theHost(), {});
+    host::Outcome_s outcome = host::describeOutcome(playingHost(), {});
     if (outcome.dataSet)
-        host::fetchValues(theHost(), *outcome.dataSet);
-    theHost().unloadAll();
+        host::fetchValues(playingHost(), *outcome.dataSet);
+    playingHost().unloadAll();
     return {.dataSet = std::move(outcome.dataSet),
             .plotType = outcome.plotType,
             .instructions = std::move(outcome.instructions)};
 }
 
 void beginAnew(const Session_s& session) {
-    theHost().reset();
-    theHost().settings().sharingAllowed = session.sharingAllowed;
-    theHost().settings().plainArrays = session.plainArrays;
+    playingHost().reset();
+    playingHost().settings().sharingAllowed = session.sharingAllowed;
+    playingHost().settings().plainArrays = session.plainArrays;
 }
 
 std::string brokenContract() {
-    theHost().checkForLeaks();
-    for (const std::string& violation : theHost().log().violations)
+    playingHost().checkForLeaks();
+    for (const std::string& violation : playingHost().log().violations)
         return "violation: " + violation;
-    if (theHost().lockDepth() != 0)
+    if (playingHost().lockDepth() != 0)
         return "the lock is held";
     if (openFiles() != 0)
         return "a file is still open";
@@ -53,13 +53,13 @@ std::string brokenContract() {
 
 std::string allMessages() {
     std::set<std::string> texts; // one that comes for each field is told once
-    for (const host::Message_s& message : theHost().log().messages)
+    for (const host::Message_s& message : playingHost().log().messages)
         texts.insert(message.text);
     std::string all;
     for (const std::string& text : texts)
         all += "\n    message: " + text;
-    if (!theHost().script().problem().empty())
-        all += "\n    " + theHost().script().problem();
+    if (!playingHost().script().problem().empty())
+        all += "\n    " + playingHost().script().problem();
     return all;
 }
 
@@ -133,7 +133,7 @@ bool FaultyPlay::openLibrary() {
         return false; // told to the program that opens it
     }
     const FaultPause pause;
-    const bool isRegistered = library_ != nullptr && theHost().loaders().size() == 1;
+    const bool isRegistered = library_ != nullptr && playingHost().loaders().size() == 1;
     if (!isRegistered && error.empty() && messagesSent() == 0 && !isHostsOwn(fault_))
         complain("no loader was registered, and nobody was told");
     return isRegistered;
@@ -152,7 +152,7 @@ void FaultyPlay::playSteps() {
 
 Ending_s FaultyPlay::run(const Step_s& step, const Standing_s& expected) {
     const std::int64_t messagesBefore = messagesSent();
-    const std::size_t textsBefore = theHost().log().progress.count();
+    const std::size_t textsBefore = playingHost().log().progress.count();
     Ending_s ending;
     try {
         const host::LoadResult_s result = step.run();
@@ -165,8 +165,8 @@ Ending_s FaultyPlay::run(const Step_s& step, const Standing_s& expected) {
     }
     const FaultPause pause;
     ending.told = !ending.hostError.empty() || messagesSent() - messagesBefore > expected.messages;
-    if (theHost().log().progress.count() > textsBefore)
-        ending.lastText = theHost().log().progress.texts().back();
+    if (playingHost().log().progress.count() > textsBefore)
+        ending.lastText = playingHost().log().progress.texts().back();
     return ending;
 }
 
@@ -200,7 +200,7 @@ void FaultyPlay::fetchAll(const Standing_s& expected) {
         for (const host::FieldOutcome_s& field : zone.fields)
             fetchOne(zone, field);
     progress_ = "unloading of values";
-    theHost().unloadAll();
+    playingHost().unloadAll();
     const FaultPause pause;
     progress_ = "second fetch";
     if (const Standing_s again = takeStanding(); !(again == expected))
@@ -210,7 +210,7 @@ void FaultyPlay::fetchAll(const Standing_s& expected) {
 void FaultyPlay::fetchOne(const host::ZoneOutcome_s& zone, const host::FieldOutcome_s& field) {
     host::FetchResult_s fetched;
     try {
-        fetched = theHost().fetch(zone.number, field.variable);
+        fetched = playingHost().fetch(zone.number, field.variable);
     } catch (const std::bad_alloc&) {
         return; // told to the program that asked
     }
@@ -228,7 +228,7 @@ void FaultyPlay::fetchOne(const host::ZoneOutcome_s& zone, const host::FieldOutc
 
 void FaultyPlay::closeSession() {
     progress_ = "reset of the frame";
-    theHost().frame().reset();
+    playingHost().frame().reset();
     progress_ = "unloading of the library";
     library_.reset();
     const FaultPause pause;
@@ -258,7 +258,7 @@ Reference playWithoutFaults(const Session_s& session) {
         standing.messages = messagesSent() - messagesBefore;
         reference.push_back(std::move(standing));
     }
-    theHost().frame().reset();
+    playingHost().frame().reset();
     library->unload();
     if (const std::string broken = brokenContract(); !broken.empty())
         throw std::runtime_error(session.name + ": " + broken);

@@ -10,10 +10,6 @@ using testsupport::Members;
 using testsupport::Texts;
 using Options = Plot3DLoadOptions_s;
 
-std::string missingOption(const std::string& word) {
-    return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
-}
-
 class InstructionKeys : public testsupport::ParserTest {};
 
 struct FlagKey_s {

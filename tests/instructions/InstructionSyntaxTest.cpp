@@ -6,13 +6,6 @@ namespace {
 
 using testsupport::Texts;
 
-const std::string noFiles = "Must have at least one grid, solution or function file.";
-const std::string rangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
-
-std::string missingOption(const std::string& word) {
-    return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
-}
-
 class InstructionSyntax : public testsupport::ParserTest {};
 
 TEST_F(InstructionSyntax, RefusesAListWithoutFiles) {

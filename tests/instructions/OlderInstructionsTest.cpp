@@ -10,13 +10,6 @@ namespace {
 
 using testsupport::Texts;
 
-constexpr const char* rangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
-constexpr const char* noFiles = "Must have at least one grid, solution or function file.";
-
-std::string missingOption(const std::string& word) {
-    return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
-}
-
 class OlderInstructions : public testsupport::ParserTest {
 protected:
     static void SetUpTestSuite() {

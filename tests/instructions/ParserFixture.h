@@ -11,6 +11,15 @@ namespace quorvia::testsupport {
 
 class ParserTest : public GuestTest {
 protected:
+    inline static const std::string noFiles =
+        "Must have at least one grid, solution or function file.";
+    inline static const std::string rangeNotAllowed =
+        "Error: Not allowed to use -KSet when data is not 3d whole";
+    /// What is shown of a word without its option.
+    static std::string missingOption(const std::string& word) {
+        return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
+    }
+
     void TearDown() override {
         quorutildataio::releaseLoadOptions(options_);
         GuestTest::TearDown();

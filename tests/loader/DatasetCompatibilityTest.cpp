@@ -8,10 +8,8 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList oneGrid = {{2, 3, 5}}; // like the zones of makeOldDataSet
 const GridList otherSize = {{2, 3, 7}};
 const Texts onlyGrid = {"X", "Y", "Z"};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 const Texts withIBlank = {"X", "Y", "Z", "IBlank", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 class DatasetCompatibility : public LoaderTest {

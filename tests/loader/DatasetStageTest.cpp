@@ -12,8 +12,7 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList twoGrids = {{2, 3, 5}, {2, 3, 5}};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+const GridList likeGrids = {{2, 3, 5}, {2, 3, 5}};
 
 /// The context stands as the driver leaves it before the stage.
 class DatasetStage : public LoaderTest {
@@ -34,8 +33,8 @@ protected:
     void useSteps(bool hasGridFile, int solutions) {
         Texts names;
         for (int step = 1; step <= solutions; ++step)
-            names.push_back(solutionFile("s" + std::to_string(step) + ".q", twoGrids, step));
-        useFiles(hasGridFile ? Texts{gridFile("a.x", twoGrids)} : Texts(), names);
+            names.push_back(solutionFile("s" + std::to_string(step) + ".q", likeGrids, step));
+        useFiles(hasGridFile ? Texts{gridFile("a.x", likeGrids)} : Texts(), names);
         build(options.gridFiles, context.gridFiles, false);
         build(options.solutionFiles, context.solutionFiles, true);
         ASSERT_TRUE(pairFilesIntoHandlers(options, context.gridFiles, context.solutionFiles, {},

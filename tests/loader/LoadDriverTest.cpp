@@ -8,8 +8,6 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
-
 const std::string noBoundaryFile =
     "The boundary file does not exist in the same directory as the grid file and will not be "
     "loaded.This may have an effect on the dataset if anything relies on the boundary zones.";

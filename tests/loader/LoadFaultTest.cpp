@@ -8,8 +8,6 @@
 namespace quorvia::testsupport {
 namespace {
 
-const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
-
 /// What makes a load take another road through the dataset stage.
 struct FaultCase_s {
     const char* name;

@@ -8,7 +8,6 @@
 namespace quorvia::testsupport {
 namespace {
 
-const GridList oneGrid = {{2, 3, 5}};
 const GridList line = {{7, 1, 1}};
 
 enum class Kind_e { Replace, AppendGrid, AppendSolution, AppendToLoneGrid, AppendFunctions };

@@ -21,6 +21,10 @@ using plot3dwriter::GridDims_s;
 using plot3dwriter::Layout_e;
 using GridList = std::vector<GridDims_s>;
 
+inline const GridList oneGrid = {{2, 3, 5}}; // like the zones of makeOldDataSet
+inline const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
+inline const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+
 constexpr bool fromSelection = true; // for loads: the user chose the files
 
 /// The value at a place of a file, all counted from 0. Exact in 32 bits.

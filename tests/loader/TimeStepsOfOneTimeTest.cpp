@@ -11,8 +11,6 @@ constexpr const char* question =
 
 constexpr bool yes = true;
 
-const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
-
 class TimeStepsOfOneTime : public LoaderTest {
 protected:
     void useSteps(const Texts& names) {

@@ -178,7 +178,7 @@ TEST_F(Stream, MissingFileDoesNotOpen) {
 
 // ---- Watched
 
-constexpr std::int64_t mebibyte = 1024 * 1024;
+constexpr std::int64_t oneMiB = 1024 * 1024;
 
 class Watch : public ReadWatch {
 public:
@@ -203,33 +203,33 @@ protected:
 };
 
 TEST_F(WatchedStream, AsksNothingOfUpTo64MiB) {
-    openBig(64 * mebibyte);
-    EXPECT_EQ(read(64 * mebibyte).substr(64 * mebibyte - 4), "mark");
+    openBig(64 * oneMiB);
+    EXPECT_EQ(read(64 * oneMiB).substr(64 * oneMiB - 4), "mark");
     EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
     EXPECT_EQ(disk.readCount, 1);
 }
 
 TEST_F(WatchedStream, AsksBehind64MiBAndThenEvery8) {
-    openBig(81 * mebibyte);
-    EXPECT_EQ(read(81 * mebibyte).substr(81 * mebibyte - 4), "mark");
-    EXPECT_EQ(watch.asked, std::vector<std::int64_t>({64 * mebibyte, 8 * mebibyte, 8 * mebibyte}));
-    EXPECT_EQ(stream->tell(), 81 * mebibyte);
+    openBig(81 * oneMiB);
+    EXPECT_EQ(read(81 * oneMiB).substr(81 * oneMiB - 4), "mark");
+    EXPECT_EQ(watch.asked, std::vector<std::int64_t>({64 * oneMiB, 8 * oneMiB, 8 * oneMiB}));
+    EXPECT_EQ(stream->tell(), 81 * oneMiB);
 }
 
 TEST_F(WatchedStream, CountsSmallReadsToo) {
-    openBig(90 * mebibyte);
+    openBig(90 * oneMiB);
     std::string part(1000, '\0');
     while (stream->readExactly(part.data(), 1000))
         continue;
     ASSERT_EQ(watch.asked.size(), 4U);
-    EXPECT_GE(watch.asked[0], 64 * mebibyte);
-    EXPECT_LT(watch.asked[0] + watch.asked[1], 73 * mebibyte);
+    EXPECT_GE(watch.asked[0], 64 * oneMiB);
+    EXPECT_LT(watch.asked[0] + watch.asked[1], 73 * oneMiB);
 }
 
 TEST_F(WatchedStream, EndsForGoodOnceItIsStopped) {
     watch.stopsAt = 2;
-    openBig(90 * mebibyte);
-    EXPECT_EQ(std::ssize(read(90 * mebibyte)), 72 * mebibyte);
+    openBig(90 * oneMiB);
+    EXPECT_EQ(std::ssize(read(90 * oneMiB)), 72 * oneMiB);
     EXPECT_TRUE(stream->wasStopped() && stream->hadReadError());
     ASSERT_TRUE(stream->seek(0));
     EXPECT_EQ(read(1), "");
@@ -238,16 +238,16 @@ TEST_F(WatchedStream, EndsForGoodOnceItIsStopped) {
 }
 
 TEST_F(WatchedStream, AsksNobodyOnceTheWatchIsOver) {
-    openBig(90 * mebibyte).watchWith(nullptr);
-    EXPECT_EQ(std::ssize(read(90 * mebibyte)), 90 * mebibyte);
+    openBig(90 * oneMiB).watchWith(nullptr);
+    EXPECT_EQ(std::ssize(read(90 * oneMiB)), 90 * oneMiB);
     EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
 }
 
 TEST_F(WatchedStream, BeginsToCountWhenTheWatchBegins) {
-    openBig(120 * mebibyte).watchWith(nullptr);
-    read(60 * mebibyte);
+    openBig(120 * oneMiB).watchWith(nullptr);
+    read(60 * oneMiB);
     stream->watchWith(&watch);
-    read(60 * mebibyte);
+    read(60 * oneMiB);
     EXPECT_EQ(watch.asked, std::vector<std::int64_t>());
 }
 

@@ -16,7 +16,7 @@ namespace {
 using testsupport::FileBytes;
 using testsupport::Order_e;
 
-constexpr bool quietly = false;
+constexpr bool untold = false;
 constexpr std::int64_t full = 2147483639;
 constexpr std::int64_t firstEnd = 4 + full;     // of the first segment's payload
 constexpr std::int64_t secondStart = 12 + full; // of the second segment's payload
@@ -74,10 +74,10 @@ TEST_F(SegmentedRecord, IsFoundWithoutReadingItsPayload) {
 TEST_F(SegmentedRecord, CountsItsPayloadOverAllSegments) {
     placeChain();
     openStored(Plot3DEncoding_FortranUnformatted, chainSize);
-    EXPECT_TRUE(nextRecord(*file, quietly, nullptr));
+    EXPECT_TRUE(nextRecord(*file, untold, nullptr));
     EXPECT_EQ(file->recordLength, 2 * full + 24);
     EXPECT_EQ(file->stream->tell(), 4);
-    EXPECT_TRUE(nextRecord(*file, quietly, nullptr));
+    EXPECT_TRUE(nextRecord(*file, untold, nullptr));
     EXPECT_EQ(file->recordLength, 4);
     EXPECT_EQ(file->stream->tell(), thirdEnd + 8);
 }
@@ -125,7 +125,7 @@ TEST_F(SegmentedRecord, NumbersStepOverTheMarkersOfARecordThatWasEntered) {
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, "defgh");
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25);
     EXPECT_TRUE(checkFortranRecords(*file) && (rewindPlot3DFile(*file), true));
-    EXPECT_TRUE(nextRecord(*file, quietly, nullptr) && file->stream->seek(firstEnd - 3));
+    EXPECT_TRUE(nextRecord(*file, untold, nullptr) && file->stream->seek(firstEnd - 3));
     std::int32_t cut = 0, behind = 0;
     EXPECT_TRUE(readInteger(*file, cut) && readInteger(*file, behind));
     EXPECT_EQ(FileBytes().integers({cut, behind}).str(), "abcdefgh");

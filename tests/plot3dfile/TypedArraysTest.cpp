@@ -16,27 +16,27 @@ constexpr bool store = true;
 constexpr bool passOver = false;
 
 // A field at the host that gives no array: it only takes values.
-std::map<std::int64_t, double> gTaken;
+std::map<std::int64_t, double> gTakenByIndex;
 int gFieldTag = 0;
 QuorFieldHandle gFieldHandle = reinterpret_cast<QuorFieldHandle>(&gFieldTag);
 
-void take(QuorFieldHandle field, std::int64_t index, double value) {
+void takeByIndex(QuorFieldHandle field, std::int64_t index, double value) {
     EXPECT_EQ(field, gFieldHandle);
-    gTaken[index] = value;
+    gTakenByIndex[index] = value;
 }
 
 class Block : public testsupport::RecordFixture {
 protected:
     void SetUp() override {
         RecordFixture::SetUp();
-        gTaken.clear();
+        gTakenByIndex.clear();
     }
 
     bool takeReals(std::int64_t first, std::int64_t count) {
-        return readReals(*file, store, first, count, gFieldHandle, take);
+        return readReals(*file, store, first, count, gFieldHandle, takeByIndex);
     }
     bool takeIntegers(std::int64_t first, std::int64_t count) {
-        return readIntegers(*file, store, first, count, gFieldHandle, take);
+        return readIntegers(*file, store, first, count, gFieldHandle, takeByIndex);
     }
 
     using Taken = std::map<std::int64_t, double>;
@@ -199,10 +199,10 @@ TEST_F(Block, OfTextIsTheSameInBulkAsOneByOne) {
 TEST_F(Block, OfTextInSinglePrecisionLosesDigits) {
     openText("0.1");
     EXPECT_TRUE(takeReals(0, 1));
-    EXPECT_EQ(gTaken, Taken({{0, static_cast<double>(0.1F)}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{0, static_cast<double>(0.1F)}}));
     openText("0.1").isDoublePrecision = true;
     EXPECT_TRUE(takeReals(0, 1));
-    EXPECT_EQ(gTaken, Taken({{0, 0.1}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{0, 0.1}}));
 }
 
 TEST_F(Block, OfTextIntegersLandsFromTheFirstIndexOn) {
@@ -216,7 +216,7 @@ TEST_F(Block, GoesThroughTheSetFunctionWithItsIndices) {
     openBinary(FileBytes().reals({1.5F, -2.5F}).integers({17, -19}).str());
     EXPECT_TRUE(takeReals(7, 2));
     EXPECT_TRUE(takeIntegers(11, 2));
-    EXPECT_EQ(gTaken, Taken({{7, 1.5}, {8, -2.5}, {11, 17.0}, {12, -19.0}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{7, 1.5}, {8, -2.5}, {11, 17.0}, {12, -19.0}}));
 }
 
 TEST_F(Block, GoesThroughTheSetFunctionInTheOtherByteOrder) {
@@ -224,19 +224,19 @@ TEST_F(Block, GoesThroughTheSetFunctionInTheOtherByteOrder) {
     file->isDoublePrecision = true;
     EXPECT_TRUE(takeReals(0, 1));
     EXPECT_TRUE(takeIntegers(1, 1));
-    EXPECT_EQ(gTaken, Taken({{0, 1.5}, {1, 17.0}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{0, 1.5}, {1, 17.0}}));
 }
 
 TEST_F(Block, SetFunctionGetsWhatCameBeforeTheFilesEnd) {
     openBinary(FileBytes().reals({1.5F, -2.5F}).raw("abc").str());
     EXPECT_FALSE(takeReals(0, 3));
-    EXPECT_EQ(gTaken, Taken({{0, 1.5}, {1, -2.5}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{0, 1.5}, {1, -2.5}}));
 }
 
 TEST_F(Block, SetFunctionGetsNoMarkersBetweenSegments) {
     openFortran(FileBytes().integers({7, -8, -8, 11}).str()).segmentBoundaries = {4};
     EXPECT_TRUE(takeIntegers(0, 2));
-    EXPECT_EQ(gTaken, Taken({{0, 7.0}, {1, 11.0}}));
+    EXPECT_EQ(gTakenByIndex, Taken({{0, 7.0}, {1, 11.0}}));
 }
 
 TEST_F(Block, SetFunctionOfManyValuesMissesNone) {
@@ -245,16 +245,16 @@ TEST_F(Block, SetFunctionOfManyValuesMissesNone) {
         reals[index] = static_cast<float>(index);
     openBinary(FileBytes().reals(reals).str());
     EXPECT_TRUE(takeReals(0, 5003));
-    for (const auto& [index, value] : gTaken)
+    for (const auto& [index, value] : gTakenByIndex)
         ASSERT_EQ(value, static_cast<double>(index));
-    EXPECT_EQ(gTaken.size(), reals.size());
+    EXPECT_EQ(gTakenByIndex.size(), reals.size());
 }
 
 // Passing over through a set function reads, and so notices that the file ends.
 TEST_F(Block, PassedOverThroughTheSetFunctionMustBeThere) {
     openBinary("abcd");
-    EXPECT_FALSE(readReals(*file, passOver, 0, 2, gFieldHandle, take));
-    EXPECT_EQ(gTaken, Taken());
+    EXPECT_FALSE(readReals(*file, passOver, 0, 2, gFieldHandle, takeByIndex));
+    EXPECT_EQ(gTakenByIndex, Taken());
 }
 
 class BinaryNumber : public testsupport::RecordFixture {};

@@ -15,14 +15,14 @@ namespace {
 using testsupport::FileBytes;
 using testsupport::Order_e;
 
-constexpr std::int32_t allPlanes = -1;
+constexpr std::int32_t everyPlane = -1;
 constexpr std::int64_t longestSegment = 23; // longer ones cut a value at no other place
 
-std::vector<double> gTaken;
+std::vector<double> gTakenInOrder;
 
-void take(QuorFieldHandle, std::int64_t index, double value) {
-    gTaken.resize(static_cast<std::size_t>(index) + 1, -1.0);
-    gTaken.back() = value;
+void takeInOrder(QuorFieldHandle, std::int64_t index, double value) {
+    gTakenInOrder.resize(static_cast<std::size_t>(index) + 1, -1.0);
+    gTakenInOrder.back() = value;
 }
 
 template <typename Number>
@@ -72,7 +72,7 @@ protected:
     template <typename Number>
     std::vector<Number> firstAndThird(bool isIBlank) {
         std::vector<Number> selected(8, Number(-1));
-        EXPECT_TRUE(readIndexRange(*file, allPlanes, 3, 2, 2, {1, 3, 2}, {1, 2, 1}, {1, 2, 1},
+        EXPECT_TRUE(readIndexRange(*file, everyPlane, 3, 2, 2, {1, 3, 2}, {1, 2, 1}, {1, 2, 1},
                                    isIBlank, selected.data(), nullptr));
         return selected;
     }
@@ -109,9 +109,9 @@ TEST_F(ValuesAcrossSegments, ThroughTheSetFunctionAreWholeWhereverTheBoundarySta
     for (const Form_s form : everyForm)
         for (std::int64_t segment = 1; segment <= longestSegment; ++segment) {
             openSegments(realsOf(form, 7), segment, form);
-            gTaken.clear();
-            EXPECT_TRUE(readReals(*file, true, 0, 7, nullptr, take));
-            ASSERT_EQ(gTaken, countedFromOne<double>(7)) << segment;
+            gTakenInOrder.clear();
+            EXPECT_TRUE(readReals(*file, true, 0, 7, nullptr, takeInOrder));
+            ASSERT_EQ(gTakenInOrder, countedFromOne<double>(7)) << segment;
         }
 }
 
@@ -154,7 +154,7 @@ TEST_F(ValuesAcrossSegments, OfABlockAreWholeWhereverItsOneBoundaryStands) {
 TEST_F(ValuesAcrossSegments, OfLongRowsAreWhole) {
     openSegments(realsOf({}, 5003), 4099);
     std::vector<float> ends(4);
-    EXPECT_TRUE(readIndexRange(*file, allPlanes, 5003, 1, 1, {3, 5002, 2000}, {1, 1, 1}, {1, 1, 1},
+    EXPECT_TRUE(readIndexRange(*file, everyPlane, 5003, 1, 1, {3, 5002, 2000}, {1, 1, 1}, {1, 1, 1},
                                false, ends.data(), nullptr));
     EXPECT_EQ(ends, std::vector<float>({3, 2003, 4003, 5002}));
 }
@@ -174,7 +174,7 @@ TEST_F(ValuesAcrossSegments, AreNotTakenFromTheNextRecord) {
     for (const std::int64_t segment : {5, 6, 7, 8}) {
         openSegments(realsOf({}, 2), segment);
         std::vector<float> values(4, -1.0F);
-        EXPECT_FALSE(readIndexRange(*file, allPlanes, 4, 1, 1, {1, 4, 1}, {1, 1, 1}, {1, 1, 1},
+        EXPECT_FALSE(readIndexRange(*file, everyPlane, 4, 1, 1, {1, 4, 1}, {1, 1, 1}, {1, 1, 1},
                                     false, values.data(), nullptr));
         EXPECT_EQ(values, std::vector<float>({1, 2, -1, -1})) << segment;
     }

@@ -13,7 +13,7 @@ namespace {
 
 using plot3dwriter::GridDims_s;
 
-constexpr double machNumber = 0.2;
+constexpr double cylinderMachNumber = 0.2;
 constexpr double outerRadius = 4;
 constexpr double holeRadius = 2; ///< the background is cut out where the O-grid serves better
 constexpr double span = 1;
@@ -119,9 +119,9 @@ std::vector<SampleFile_s> cylinderFiles(const SampleOptions_s& options) {
     const Mesh_s mesh = cylinderMesh(options, layout);
     const FlowField flow = [point = mesh.point](const PointIndex_s& index) {
         const Point_t place = point(index);
-        return cylinderFlow(place[0], place[1], machNumber);
+        return cylinderFlow(place[0], place[1], cylinderMachNumber);
     };
-    const Reference_s reference = {machNumber, 0, 1e5, 0};
+    const Reference_s reference = {cylinderMachNumber, 0, 1e5, 0};
     std::vector<SampleFile_s> files = {
         gridFile(options, "cylinder", layout, mesh),
         flowFile(options, "cylinder", style, layout, mesh, flow, reference)};

@@ -15,8 +15,8 @@ constexpr TubeState_s driver = {1, 0, 1};
 constexpr TubeState_s driven = {0.125, 0, 0.1};
 constexpr double diaphragm = 0.5; ///< the tube is 1 long
 constexpr double width = 0.1;
-constexpr double timeStep = 0.05;
-constexpr std::int32_t usualSteps = 5;
+constexpr double shockTimeStep = 0.05;
+constexpr std::int32_t usualShockSteps = 5;
 
 Mesh_s tubeMesh(const GridDims_s& size) {
     Mesh_s mesh;
@@ -59,11 +59,11 @@ std::vector<SampleFile_s> shockTubeFiles(const SampleOptions_s& options) {
         refuseIBlank(options);
     const FileKind_e style = chooseStyle(options, stylesOf(layout));
     const Mesh_s mesh = tubeMesh(chooseSize(options, layout, {101, 5, 3}));
-    const std::int32_t steps = options.steps.value_or(usualSteps);
+    const std::int32_t steps = options.steps.value_or(usualShockSteps);
     std::vector<SampleFile_s> files = {gridFile(options, "shocktube", layout, mesh)};
     for (std::int32_t step = 0; step < steps; ++step) {
-        const double time = timeStep * step;
-        const std::string stem = stemAtTime("shocktube", time, timeStep * (steps - 1));
+        const double time = shockTimeStep * step;
+        const std::string stem = stemAtTime("shocktube", time, shockTimeStep * (steps - 1));
         files.push_back(
             flowFile(options, stem, style, layout, mesh, tubeAt(mesh, time), {0, 0, 0, time}));
     }

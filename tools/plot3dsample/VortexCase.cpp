@@ -11,7 +11,7 @@ namespace {
 
 using plot3dwriter::GridDims_s;
 
-constexpr double machNumber = 0.5;
+constexpr double vortexMachNumber = 0.5;
 constexpr double strength = 0.4;
 constexpr double halfLength = 5;
 constexpr double startX = -2.5;
@@ -35,10 +35,10 @@ double fromCentre(double x, double centre) {
 }
 
 FlowField vortexAt(const Mesh_s& mesh, double time) {
-    const double centre = startX + machNumber * time;
+    const double centre = startX + vortexMachNumber * time;
     return [point = mesh.point, centre](const PointIndex_s& index) {
         const Point_t place = point(index);
-        return vortexFlow(fromCentre(place[0], centre), place[1], machNumber, strength);
+        return vortexFlow(fromCentre(place[0], centre), place[1], vortexMachNumber, strength);
     };
 }
 
@@ -56,7 +56,7 @@ std::vector<SampleFile_s> vortexFiles(const SampleOptions_s& options) {
         const double time = timeStep * step;
         const std::string stem = stemAtTime("vortex", time, timeStep * (steps - 1));
         files.push_back(flowFile(options, stem, style, layout, mesh, vortexAt(mesh, time),
-                                 {machNumber, 0, 1e6, time}));
+                                 {vortexMachNumber, 0, 1e6, time}));
     }
     if (style == FileKind_e::Function)
         files.push_back(flowNameFile("vortex", layout));

@@ -13,6 +13,7 @@ namespace quorvia::testsupport {
 inline constexpr const char* selectionPage = "File Selection";
 inline constexpr const char* structurePage = "File Structure";
 inline constexpr const char* subsetPage = "Data Subset";
+inline constexpr const char* appendCaption = "Append to Existing Data Set";
 
 /// What a user does at the dialog.
 using Actions = std::vector<Json>;

@@ -5,7 +5,6 @@
 namespace quorvia::testsupport {
 namespace {
 
-constexpr const char* appendCaption = "Append to Existing Data Set";
 constexpr const char* lossQuestion = "Warning: All current data will be lost. Continue?";
 
 class DialogOk : public DialogSession {

@@ -4,7 +4,6 @@
 namespace quorvia::testsupport {
 namespace {
 
-constexpr const char* appendCaption = "Append to Existing Data Set";
 constexpr const char* uniformCaption = "Uniform Grid Structure";
 constexpr const char* newStrandCaption = "Assign New Strand IDs for Each Time Step";
 constexpr const char* assignCaption = "Assign Strand IDs for Zones";

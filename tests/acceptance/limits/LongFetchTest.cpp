@@ -18,21 +18,21 @@ constexpr std::int64_t stepBytes = 8 * 1024 * 1024;
 constexpr GridDims_s bigGrid = {281, 283, 293};
 constexpr std::int64_t points = std::int64_t{281} * 283 * 293;
 
-struct FormCase_s {
+struct FetchForm_s {
     const char* name;
     Encoding_e encoding;
     ByteOrder_e byteOrder;
     Precision_e precision;
 };
 
-void PrintTo(const FormCase_s& formCase, std::ostream* out) {
+void PrintTo(const FetchForm_s& formCase, std::ostream* out) {
     *out << formCase.name;
 }
 
 class LongFetch : public LoadedAddOnTest {
 protected:
     /// A grid file of zeros, but that Y of its last point is 1.
-    void loadGrid(const GridDims_s& dims, const FormCase_s& formCase,
+    void loadGrid(const GridDims_s& dims, const FetchForm_s& formCase,
                   const std::vector<std::pair<std::string, std::string>>& settings = {}) {
         FileDescription_s grid;
         grid.grids = {dims};
@@ -49,8 +49,8 @@ protected:
         putOneAhead(file, written.blocks.at(2).position, formCase);
         expectLoads({.gridFiles = {file}, .settings = settings});
     }
-    static constexpr FormCase_s plain = {"Plain", Encoding_e::Binary, ByteOrder_e::Little,
-                                         Precision_e::Single};
+    static constexpr FetchForm_s plain = {"Plain", Encoding_e::Binary, ByteOrder_e::Little,
+                                          Precision_e::Single};
     static std::vector<double> lastTwo(std::int32_t variable) {
         const std::vector<double> found = values(1, variable);
         return {found.end() - 2, found.end()};
@@ -63,7 +63,7 @@ protected:
 
 private:
     static void putOneAhead(const std::string& file, std::int64_t position,
-                            const FormCase_s& formCase) {
+                            const FetchForm_s& formCase) {
         std::string one = formCase.precision == Precision_e::Double
                               ? std::string("\0\0\0\0\0\0\xF0\x3F", 8)
                               : std::string("\0\0\x80\x3F", 4);
@@ -75,7 +75,7 @@ private:
     }
 };
 
-class StoppedFetch : public LongFetch, public ::testing::WithParamInterface<FormCase_s> {};
+class StoppedFetch : public LongFetch, public ::testing::WithParamInterface<FetchForm_s> {};
 
 TEST_P(StoppedFetch, LeavesTheFieldToBeFetchedAgain) {
     loadGrid(bigGrid, GetParam());
@@ -92,10 +92,11 @@ TEST_P(StoppedFetch, LeavesTheFieldToBeFetchedAgain) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachForm, StoppedFetch,
-                         ::testing::Values(FormCase_s{"Binary", Encoding_e::Binary,
-                                                      ByteOrder_e::Little, Precision_e::Single},
-                                           FormCase_s{"FortranBigEndianDouble", Encoding_e::Fortran,
-                                                      ByteOrder_e::Big, Precision_e::Double}),
+                         ::testing::Values(FetchForm_s{"Binary", Encoding_e::Binary,
+                                                       ByteOrder_e::Little, Precision_e::Single},
+                                           FetchForm_s{"FortranBigEndianDouble",
+                                                       Encoding_e::Fortran, ByteOrder_e::Big,
+                                                       Precision_e::Double}),
                          [](const auto& formCase) { return formCase.param.name; });
 
 TEST_F(LongFetch, MovesABarOfItsOwnWithTheBytes) {

@@ -47,7 +47,7 @@ class TwoSegments {
 public:
     TwoSegments(const std::string& name, const Form_s& form,
                 const std::vector<std::int32_t>& header, std::int64_t payloadBytes)
-        : form_(form), file_(open(name.c_str(), O_CREAT | O_RDWR, 0600)) {
+        : file_(open(name.c_str(), O_CREAT | O_RDWR, 0600)) {
         std::string start = form.integerOf(4 * std::ssize(header));
         for (const std::int32_t number : header)
             start += form.integerOf(number);
@@ -76,7 +76,6 @@ private:
             throw std::runtime_error("cannot write");
     }
 
-    Form_s form_;
     int file_;
     std::int64_t payload_ = 0; // its position in the file
 };
@@ -179,16 +178,16 @@ constexpr Form_s littleDouble = {"LittleDouble", false, true};
 constexpr Form_s bigSingle = {"BigSingle", true, false};
 constexpr Form_s bigDouble = {"BigDouble", true, true};
 
-std::string nameOf(const ::testing::TestParamInfo<Form_s>& info) {
+std::string nameOfForm(const ::testing::TestParamInfo<Form_s>& info) {
     return info.param.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(EachForm, SegmentedRange, ::testing::Values(littleSingle, bigDouble),
-                         nameOf);
-INSTANTIATE_TEST_SUITE_P(EachForm, SegmentedIBlankRange, ::testing::Values(bigDouble), nameOf);
+                         nameOfForm);
+INSTANTIATE_TEST_SUITE_P(EachForm, SegmentedIBlankRange, ::testing::Values(bigDouble), nameOfForm);
 INSTANTIATE_TEST_SUITE_P(EachForm, SegmentedConnectivity,
                          ::testing::Values(littleSingle, littleDouble, bigSingle, bigDouble),
-                         nameOf);
+                         nameOfForm);
 
 } // namespace
 } // namespace quorvia::testsupport

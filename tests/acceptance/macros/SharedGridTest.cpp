@@ -10,7 +10,7 @@ using plot3dwriter::Encoding_e;
 using plot3dwriter::Layout_e;
 using plot3dwriter::Precision_e;
 
-const Settings append = {{"APPEND", "Yes"}};
+const Settings appending = {{"APPEND", "Yes"}};
 
 Json sharing(bool isAllowed) {
     return command("host", command("sharingAllowed", isAllowed));
@@ -106,17 +106,18 @@ protected:
 };
 
 TEST_P(MixedPrecisionOf, AppendedSolutionHasTheGridThatIsThere) {
-    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}}, append)});
+    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}}, appending)});
     expectSteps(grid_, {{1, other_}, {2, other_}});
 }
 
 TEST_P(MixedPrecisionOf, AppendedStepsHaveTheGridThatIsThere) {
-    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}, {3, other_}}, append)});
+    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}, {3, other_}}, appending)});
     expectSteps(grid_, {{1, other_}, {2, other_}, {3, other_}});
 }
 
 TEST_P(MixedPrecisionOf, AppendedSolutionMayHaveAPrecisionOfItsOwn) {
-    playAll({fresh(grid_, {{1, grid_}}), onto({{2, other_}}, append), onto({{3, grid_}}, append)});
+    playAll({fresh(grid_, {{1, grid_}}), onto({{2, other_}}, appending),
+             onto({{3, grid_}}, appending)});
     expectSteps(grid_, {{1, grid_}, {2, other_}, {3, grid_}});
 }
 
@@ -126,7 +127,7 @@ TEST_P(MixedPrecisionOf, ReplacedSolutionKeepsTheGridInEveryStep) {
 }
 
 TEST_P(MixedPrecisionOf, SolutionMayBeAppendedToOneThatReplacedAnother) {
-    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}}), onto({{3, other_}}, append)});
+    playAll({fresh(grid_, {{1, other_}}), onto({{2, other_}}), onto({{3, other_}}, appending)});
     expectSteps(grid_, {{2, other_}, {3, other_}});
 }
 
@@ -175,7 +176,7 @@ TEST_F(MixedPrecision, AppendedSurfaceHasTheGridThatIsThere) {
     files_.form.precision = s;
     const std::string surface = files_.surface("s.x");
     files_.form.precision = d;
-    Settings unstructured = append;
+    Settings unstructured = appending;
     unstructured.insert(unstructured.end(), {{"AUTODETECT", "No"},
                                              {"STYLE", "PLOT3DCLASSIC"},
                                              {"DATASTRUCTURE", "UNSTRUCTURED"},
@@ -194,7 +195,7 @@ TEST_F(MixedPrecision, AppendedSurfaceHasTheGridThatIsThere) {
 TEST_F(MixedPrecision, StepsThatJoinALoneLineHaveItsGrid) {
     series_.layout = Layout_e::OneD;
     series_.grids = {{7, 1, 1}};
-    play({fresh(s, {{1, d}}), onto({{2, d}, {3, d}}, append)});
+    play({fresh(s, {{1, d}}), onto({{2, d}, {3, d}}, appending)});
     expectSteps(s, {{2, d}, {3, d}});
 }
 
@@ -205,8 +206,8 @@ TEST_F(MixedPrecision, EachZoneHasTheTypesOfTheOneThatItSharesWith) {
     series_.form.precision = d;
     const std::string both = series_.solution("both.q", 3, 30);
     series_.grids = {{2, 3, 5}};
-    play({fresh(s, {{1, s}}), load({.grids = grid(d), .solutions = solutions({{2, s}})}, append),
-          load({.solutions = {both}}, append)});
+    play({fresh(s, {{1, s}}), load({.grids = grid(d), .solutions = solutions({{2, s}})}, appending),
+          load({.solutions = {both}}, appending)});
     EXPECT_EQ(messages(last()), Texts());
     const Json& zones = last()["dataSet"]["zones"];
     ASSERT_EQ(zones.size(), 4U);
@@ -238,7 +239,8 @@ protected:
 
 TEST_F(RefusedShare, OfASingleFieldBecomesACopy) {
     for (const int call : {1, 3, 6}) {
-        play({fresh(s, {{1, d}}), failing("QuorUtilDataValueShare", call), onto({{2, d}}, append)});
+        play({fresh(s, {{1, d}}), failing("QuorUtilDataValueShare", call),
+              onto({{2, d}}, appending)});
         expectSteps(s, {{1, d}, {2, d}});
     }
     EXPECT_EQ(gridStates(4), (Texts{"shared", "shared", "stored"}));
@@ -253,14 +255,14 @@ TEST_F(RefusedShare, OfTheOneGridOfANewDataSetBecomesACopy) {
 TEST_F(RefusedShare, ThatIsNoCopyEitherIsTold) {
     for (const char* operation : {"QuorUtilDataValueCopy", "QuorUtilDataValueAlloc"})
         EXPECT_EQ(refusalOf({fresh(s, {{1, d}}), failing("QuorUtilDataValueShare", 5),
-                             failing(operation, 1), onto({{2, d}}, append)}),
+                             failing(operation, 1), onto({{2, d}}, appending)}),
                   told("Variable 2 of zone 4 is that of zone 2", "2.q"))
             << operation;
 }
 
 TEST_F(RefusedShare, WithoutSharingACopyThatFailsIsTold) {
     EXPECT_EQ(refusalOf({fresh(s, {{1, d}}), sharing(false), failing("QuorUtilDataValueCopy", 4),
-                         onto({{2, d}}, append)}),
+                         onto({{2, d}}, appending)}),
               told("Variable 1 of zone 4 is that of zone 2", "2.q"));
 }
 
@@ -277,7 +279,7 @@ TEST_F(RefusedShare, OfAPassiveIBlankLeavesItWithoutValues) {
                            {"variables", {"X", "Y", "Z", "IBlank", "R", "U", "V", "W", "E"}},
                            {"zones", Json::array({zone, passive})}}),
               command("host", Json{{"plotType", "3D"}, {"sharingAllowed", isAllowed}}),
-              onto({{1, d}}, append)});
+              onto({{1, d}}, appending)});
         EXPECT_EQ(messages(last()), Texts());
         const Json& fields = last()["dataSet"]["zones"][2]["fields"];
         EXPECT_EQ(fields[3]["state"], "empty");

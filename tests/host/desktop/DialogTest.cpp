@@ -79,7 +79,7 @@ TEST_F(LoadDialogTest, OkThatWasPressedOverARefusedFieldWaitsForAnother) {
     person().typeInto(jEnd, QStringLiteral("no number"), Person::Leave_e::NotYet);
     press("OK");
     person().answerBox();
-    person().inDialog("the field as it was before", [this](QDialog& dialog) {
+    person().inDialog("the field as it was before", [](QDialog& dialog) {
         EXPECT_EQ(host().frame().dataSet(), nullptr);
         EXPECT_EQ(dialog.findChild<QTabWidget*>()->currentIndex(), subsetPage);
     });

@@ -9,8 +9,6 @@ namespace {
 
 constexpr bool showErrors = true;
 
-void readyNothing(Guest_s&) {}
-
 void readyList(Guest_s& guest) {
     guest.list = HostStringList(QuorUtilStringListAlloc());
     QuorUtilStringListAppendString(guest.list.get(), longText);

@@ -9,8 +9,6 @@ namespace {
 
 constexpr std::array<std::int32_t, 2> types = {QuorFieldDataType_Double, QuorFieldDataType_Int32};
 
-void readyNothing(Guest_s&) {}
-
 void readyDataSetArguments(Guest_s& guest) {
     guest.list = HostStringList(QuorUtilStringListAlloc());
     QuorUtilStringListAppendString(guest.list.get(), longText);

@@ -12,8 +12,6 @@ bool typed(const char*) {
     return true;
 }
 
-void readyNothing(Guest_s&) {}
-
 void readyDialog(Guest_s& guest) {
     guest.dialog = QuorGUIDialogCreateModal(QuorGUIId_MainWindow, 5003, 2003, "Guest", pressed,
                                             pressed, nullptr, nullptr, nullptr);
@@ -40,7 +38,7 @@ void readyOptionMenu(Guest_s& guest) {
     guest.control = QuorGUIOptionMenuAdd(guest.dialog, 0, 0, 10, 10, "one,two", chosen);
 }
 
-void readyList(Guest_s& guest) {
+void readyListControl(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUIListAdd(guest.dialog, 0, 0, 10, 10, true, chosen);
     QuorGUIListAppendItem(guest.control, longText);
@@ -57,7 +55,7 @@ void play(std::vector<DialogAction> actions) {
 }
 
 void readySelection(Guest_s& guest) {
-    readyList(guest);
+    readyListControl(guest);
     play({SelectItems_s{guest.control, {1, 2}}});
     QuorGUIDialogLaunch(guest.dialog);
 }
@@ -194,12 +192,12 @@ std::vector<ServiceScenario_s> valueScenarios() {
              QuorGUIOptionMenuSet(guest.control, 2);
              return Ended_e::Done;
          }},
-        {"QuorGUIListDeleteAllItems", readyList,
+        {"QuorGUIListDeleteAllItems", readyListControl,
          [](Guest_s& guest) {
              QuorGUIListDeleteAllItems(guest.control);
              return Ended_e::Done;
          }},
-        {"QuorGUIListAppendItem", readyList,
+        {"QuorGUIListAppendItem", readyListControl,
          [](Guest_s& guest) {
              QuorGUIListAppendItem(guest.control, longText);
              return Ended_e::Silent;

@@ -131,7 +131,7 @@ TEST_F(NoMemory, ImportIsEndedByTheHost) {
     EXPECT_TRUE(host().importInstructions(instructions).ok);
 }
 
-bool typed(const char*) {
+bool typedInto(const char*) {
     return true;
 }
 
@@ -140,7 +140,7 @@ protected:
     NoMemoryAtADialog() {
         dialog_ = QuorGUIDialogCreateModal(QuorGUIId_MainWindow, 5003, 2003, "Guest", nullptr,
                                            nullptr, nullptr, nullptr, nullptr);
-        field_ = QuorGUITextFieldAdd(dialog_, 0, 0, 10, 10, typed);
+        field_ = QuorGUITextFieldAdd(dialog_, 0, 0, 10, 10, typedInto);
         QuorGUITextFieldSetString(field_, longText);
     }
     static const Dialog_s& model() { return host().toolkit().dialogs().back(); }

@@ -6,8 +6,6 @@ namespace quorvia::host {
 
 namespace {
 
-void readyNothing(Guest_s&) {}
-
 void watchBar(Guest_s& guest) {
     ReferenceHost::instance().settings().progressObserver = [&guest](const ProgressState_s& state) {
         guest.shownFraction = state.fraction;
@@ -61,14 +59,14 @@ void readyDeferredFields(Guest_s& guest) {
     host().fetch(2, 1);
 }
 
-bool loadWithoutMemory(QuorFieldHandle) {
+bool loadValuesWithoutMemory(QuorFieldHandle) {
     throw std::bad_alloc();
 }
 
 void readyFieldWithoutMemory(Guest_s& guest) {
     readyZones(guest);
-    QuorUtilDataValueCustomLOD(1, 1, loadWithoutMemory, nullptr, FakeSource_s::cleanUp, nullptr,
-                               nullptr, &guest.first);
+    QuorUtilDataValueCustomLOD(1, 1, loadValuesWithoutMemory, nullptr, FakeSource_s::cleanUp,
+                               nullptr, nullptr, &guest.first);
 }
 
 bool handOver(QuorStringListHandle instructions) {
@@ -78,7 +76,7 @@ void handOverSelected(QuorStringListHandle files, bool, bool) {
     handOver(files);
 }
 
-void readyLoader(Guest_s&) {
+void readyLoaderLibrary(Guest_s&) {
     host().state().loaders.push_back(
         {"Guest Loader", "*.guest", true, true, true, handOver, handOverSelected});
 }
@@ -194,9 +192,9 @@ std::vector<ServiceScenario_s> sessionScenarios() {
              host().sendStateChange(QuorStateChange_FilesForgotten);
              return Ended_e::Done;
          }},
-        {"ReferenceHost::importInstructions", readyLoader,
+        {"ReferenceHost::importInstructions", readyLoaderLibrary,
          [](Guest_s&) { return told(host().importInstructions(files()).ok); }},
-        {"ReferenceHost::importSelection", readyLoader,
+        {"ReferenceHost::importSelection", readyLoaderLibrary,
          [](Guest_s&) { return told(host().importSelection(files(), false, false).ok); }},
     };
 }

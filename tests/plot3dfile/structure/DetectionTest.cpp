@@ -8,7 +8,7 @@ namespace {
 using Detection = StructureTest;
 using Texts = std::vector<std::string>;
 
-constexpr std::int64_t points = 30; // of 2 x 3 x 5
+constexpr std::int64_t pointCount = 30; // of 2 x 3 x 5
 
 const char* const noGridFound =
     "Auto Detect cannot determine the Plot 3D grid Please manually describe the file on the File "
@@ -24,7 +24,7 @@ Bytes fortranGrid(std::int64_t bytesOfData) {
 // ---- Order of trials ----------------------------------------------------------------------------
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryForWhole) {
-    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * points).str());
+    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
 }
@@ -56,7 +56,7 @@ TEST_F(Detection, TakesTextFor3DWholeIfAny3DReadingFits) {
 }
 
 // A 2-D grid of one point in double precision. The low half of its X, the smallest number above 0,
-// stands where 3-D has its K, and then 1 x 1 x 1 points in single precision fill the file.
+// stands where 3-D has its K, and then 1 x 1 x 1 pointCount in single precision fill the file.
 TEST_F(Detection, Takes2DFor3DIfItsHeaderFits) {
     const std::string bytes =
         Bytes().integers({1, 1}).doubles(1, 4.9406564584124654e-324).doubles(1).str();
@@ -69,7 +69,7 @@ TEST_F(Detection, Takes2DFor3DIfItsHeaderFits) {
     EXPECT_FALSE(found->isDoublePrecision);
 }
 
-// n x 1 x 1 points have the bytes of n nodes.
+// n x 1 x 1 pointCount have the bytes of n nodes.
 TEST_F(Detection, TakesSolutionsOfUnstructuredDataFor3DWhole) {
     auto file = detect(Bytes().integers({7, 1, 1}).reals(4 + 5 * 7).str(), solutionOrFunction);
     ASSERT_NE(file, nullptr);
@@ -120,7 +120,7 @@ TEST_F(Detection, ForgetsTheStructureOfAFileThatFitsNone) {
 }
 
 TEST_F(Detection, TriesNoIBlankInSolutions) {
-    auto file = openRecord(Bytes().integers({2, 3, 5}).reals(4 + 6 * points).str(),
+    auto file = openRecord(Bytes().integers({2, 3, 5}).reals(4 + 6 * pointCount).str(),
                            Plot3DDataStructure_3DWhole, solutionOrFunction);
     EXPECT_FALSE(tryIBlank(*file, true));
     EXPECT_TRUE(file->hasIBlank);
@@ -131,7 +131,7 @@ TEST_F(Detection, TriesNoIBlankInSolutions) {
 
 TEST_F(Detection, FindsTheOtherByteOrderOfPlainBinaryInASecondSearch) {
     Bytes reversed(Bytes::Order_e::Big);
-    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * points).str());
+    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
     EXPECT_FALSE(file->relaxedChecks);
@@ -145,7 +145,7 @@ TEST_F(Detection, RelaxesItsChecksForLongerFortranRecords) {
         bool hasIBlank;
     } readings[] = {{36, true, true}, {26, true, false}, {20, false, true}, {14, false, false}};
     for (const auto& reading : readings) {
-        auto file = detect(fortranGrid(reading.bytesPerPoint * points).str());
+        auto file = detect(fortranGrid(reading.bytesPerPoint * pointCount).str());
         ASSERT_NE(file, nullptr);
         EXPECT_TRUE(file->relaxedChecks);
         EXPECT_EQ(file->isDoublePrecision, reading.isDoublePrecision);
@@ -206,7 +206,7 @@ TEST_F(Detection, TellsOfEachTryToOpenAFileThatIsNotThere) {
 
 TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
     disk.vanishAfterOpens("file", 1);
-    EXPECT_EQ(detect(Bytes().integers({2, 3, 5}).reals(3 * points).str()), nullptr);
+    EXPECT_EQ(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
     EXPECT_EQ(messages(), Texts{"The file file could not be opened."});
 }
 
@@ -214,7 +214,7 @@ TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
 
 TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, true);
-    const std::string bytes = Bytes().integers({2, 3, 5}).reals(3 * points).str();
+    const std::string bytes = Bytes().integers({2, 3, 5}).reals(3 * pointCount).str();
     EXPECT_EQ(detect(bytes), nullptr);
     EXPECT_EQ(detect(bytes, solutionOrFunction), nullptr);
     EXPECT_EQ(messages(),
@@ -226,7 +226,7 @@ TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
     describe(Plot3DDataStructure_3DPlanes, Plot3DStyle_Classic, false);
-    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * points).str());
+    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DPlanes);
     EXPECT_TRUE(file->relaxedChecks);
@@ -235,21 +235,21 @@ TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
 TEST_F(Detection, FindsTheByteOrderOfADescribedFile) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
     Bytes reversed(Bytes::Order_e::Big);
-    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * points).str());
+    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
 }
 
 TEST_F(Detection, TakesTheShortestReadingOfDescribedPlainBinary) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(Bytes().integers({2, 3, 5}).doubles(3 * points).str());
+    auto file = detect(Bytes().integers({2, 3, 5}).doubles(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_FALSE(file->isDoublePrecision);
 }
 
 TEST_F(Detection, TakesTheLongestReadingOfDescribedFortran) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(fortranGrid(28 * points).str());
+    auto file = detect(fortranGrid(28 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->isDoublePrecision);
     EXPECT_TRUE(file->hasIBlank);
@@ -269,9 +269,9 @@ TEST_F(Detection, GivesADescribed1DFileNoGrids) {
 
 TEST_F(Detection, TakesAGridFileWhateverStyleItsCompanionsHave) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Overflow, false);
-    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * points).str()), nullptr);
+    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Function, false);
-    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * points).str()), nullptr);
+    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
 }
 
 } // namespace

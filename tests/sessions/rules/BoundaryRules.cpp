@@ -40,8 +40,8 @@ std::string conditionOf(const std::string& name) {
     return "Wall"; // known or not
 }
 
-Zone_s makeZone(const Boundary_s& boundary, const LoadRun_s& load, ExpectedHost_s& host,
-                const Zone_s* parent) {
+Zone_s makeBoundaryZone(const Boundary_s& boundary, const LoadRun_s& load, ExpectedHost_s& host,
+                        const Zone_s* parent) {
     Zone_s zone;
     zone.id = ++host.lastId;
     zone.name = fmt::format("{}: I[{}-{}],J[{}-{}],K[{}-{}]", boundary.name, boundary.first.i,
@@ -98,7 +98,7 @@ void addBoundaryZones(LoadRun_s& load, ExpectedHost_s& host,
             for (std::size_t place = parents.size(); place > 0; --place)
                 if (parents[place - 1] == grid)
                     parent = &dataSet.zones[place - 1];
-            Zone_s zone = makeZone(boundary, load, host, parent);
+            Zone_s zone = makeBoundaryZone(boundary, load, host, parent);
             if (load.givesStrands) {
                 zone.strand = ++strand;
                 zone.time = timeOf(set, load);

@@ -5,11 +5,6 @@ namespace quorvia::sessions {
 
 namespace {
 
-void require(bool holds, const char* why) {
-    if (!holds)
-        throw Refusal(why);
-}
-
 /// Coordinates that the plot offers.
 std::int32_t coordinatesOfPlot(std::int32_t plotType) {
     switch (plotType) {

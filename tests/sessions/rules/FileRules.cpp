@@ -9,11 +9,6 @@ namespace {
 
 using Files = std::vector<const FileModel_s*>;
 
-void require(bool holds, const char* why) {
-    if (!holds)
-        throw Refusal(why);
-}
-
 bool haveSameSizes(const FileModel_s& a, const FileModel_s& b) {
     const bool isLine = a.layout == Layout_e::Unstructured;
     for (std::int32_t grid = 0; grid < a.gridCount(); ++grid) {

@@ -23,6 +23,12 @@ public:
     using Refusal::Refusal;
 };
 
+/// Refuses the load where a rule does not hold.
+inline void require(bool holds, const char* why) {
+    if (!holds)
+        throw Refusal(why);
+}
+
 /// The files of one time step.
 struct FileSet_s {
     const FileModel_s* grid = nullptr;

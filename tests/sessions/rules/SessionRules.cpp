@@ -6,11 +6,6 @@ namespace quorvia::sessions {
 
 namespace {
 
-void require(bool holds, const char* why) {
-    if (!holds)
-        throw Refusal(why);
-}
-
 LoadRun_s begin(const Load_s& asked, const std::vector<FileModel_s>& files) {
     LoadRun_s load;
     load.options = asked;
