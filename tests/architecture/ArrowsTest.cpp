@@ -70,7 +70,8 @@ Arrows libraryArrows() {
     Arrows arrows = {
         {"facts", {}},
         {"read", {"facts", "plot3dfile/bytes"}},
-        {"derive", {"facts"}},
+        {"flow", {"facts"}},
+        {"derive", {"facts", "flow"}},
         {"inspect",
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
           "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection"}},
