@@ -90,11 +90,11 @@ DataSet::~DataSet() = default;
 
 DataSet DataSet::open(const std::vector<std::string>& files, const OpenOptions& options,
                       const Watch& watch) {
-    const HostLock lock;
     SortedFiles_s sorted = sortByKind(files, watch);
     if (!options.nameFile.empty())
         sorted.lists.name = options.nameFile;
     demandFiles(sorted.lists);
+    const HostLock lock;
     return DataSet(std::make_shared<const Content>(
         Content{load(sorted.lists, sorted.boundaryFiles, options, watch)}));
 }

@@ -1,7 +1,9 @@
 #include "open/FieldTaker.h"
 
 #include <bit>
+#include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -59,6 +61,8 @@ void FieldTaker::takeAll() {
     content_.fields.resize(content_.zones.size() * content_.variables.size());
     for (std::size_t variable = 0; variable < content_.variables.size(); ++variable)
         takeVariable(variable);
+    for (std::size_t zone = 0; zone < content_.zones.size(); ++zone)
+        straightenOffsets(zone);
     for (const auto& [zone, boundary] : boundaries_)
         takeBoundary(zone, *boundary);
 }
@@ -128,6 +132,27 @@ void FieldTaker::takeFromHost(std::size_t zone, const StoragePtr& storage, Field
     record.kind = FieldKind::InMemory;
     record.place = static_cast<std::uint32_t>(content_.storedFields.size());
     content_.storedFields.push_back(copy);
+}
+
+/// The add-on, on its way past a field, misses the end of a segment that it would pass only by the
+/// markers of others. So the field behind one with several ends in it is put where it must be.
+void FieldTaker::straightenOffsets(std::size_t zone) {
+    const std::int64_t count = content_.zones[zone].size.count();
+    for (std::size_t variable = 1; variable < content_.variables.size(); ++variable) {
+        const FieldRecord_s& ahead = content_.field(zone, variable - 1);
+        FieldRecord_s& field = content_.field(zone, variable);
+        if (ahead.kind != FieldKind::InFile || field.kind != FieldKind::InFile ||
+            ahead.place != field.place)
+            continue;
+        const FileForm_s& form = content_.forms[field.place];
+        const std::int64_t byteCount = count * plot3d::width(ahead.type);
+        if (form.segmentEnds.size() < 2 || piecesOf(form, ahead.offset, byteCount).size() < 3)
+            continue;
+        const std::int64_t behind = positionBehind(form, ahead.offset, byteCount);
+        const std::int64_t markers = 2 * form.markerBytes * std::ssize(form.segmentEnds);
+        if (std::abs(field.offset - behind) <= markers) // else it is not the next one in the file
+            field.offset = behind;
+    }
 }
 
 void FieldTaker::takeBoundary(std::size_t zone, const BoundaryRecord& boundary) {

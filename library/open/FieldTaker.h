@@ -36,6 +36,8 @@ private:
     bool takeFromFile(const Storage& storage, FieldRecord_s& record);
     void takeFromHost(std::size_t zone, const StoragePtr& storage, FieldRecord_s& record);
 
+    void straightenOffsets(std::size_t zone);
+
     // Of a boundary's zone, once all others are there.
     void takeBoundary(std::size_t zone, const BoundaryRecord& boundary);
     void takePart(std::size_t zone, std::size_t variable, const plot3d::Box& box);
