@@ -157,9 +157,8 @@ void printGrids(Sheet& sheet, const FileInfo& info, Lists_e lists) {
     const std::vector<Run_s> runs = runsOf(
         info.grids.size(), [&](std::size_t index) { return sizeText(info.grids[index], layout); });
     const std::string alike = runs.size() == 1 ? " of " + runs.front().text : "";
-    sheet.line("grids", fmt::format("{}{}, {} in all",
-                                    console::grouped(static_cast<std::int64_t>(info.grids.size())),
-                                    alike, counted(points, "point", many)));
+    sheet.line("grids", fmt::format("{}{}, {} in all", console::grouped(info.grids.size()), alike,
+                                    counted(points, "point", many)));
     if (runs.size() > 1)
         printRuns(sheet, "", runs, lists);
 }
@@ -180,7 +179,7 @@ void printNames(Sheet& sheet, const FileInfo& info, Lists_e lists) {
     if (info.names.empty())
         return;
     const bool isCut = lists == Lists_e::Shortened && info.names.size() > mostShown;
-    std::string text = console::grouped(static_cast<std::int64_t>(info.names.size())) + ":";
+    std::string text = console::grouped(info.names.size()) + ":";
     for (std::size_t number = 0; number < (isCut ? mostShown : info.names.size()); ++number)
         text += (number == 0 ? " " : ", ") + info.names[number];
     sheet.line(info.kind == FileKind::Boundary ? "boundaries" : "names",
