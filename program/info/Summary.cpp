@@ -62,6 +62,9 @@ std::string kindText(const FileInfo& info) {
     if (!info.kind)
         return "no PLOT3D file that can be read";
     std::string text = fmt::format("{} file", wordOf(*info.kind));
+    const bool isData = info.kind != FileKind::Name && info.kind != FileKind::Boundary;
+    if (isData && !info.layout)
+        return fmt::format("no {} that can be read", text);
     if (info.style && *info.kind == FileKind::Solution)
         text += fmt::format(", style {}", wordOf(*info.style));
     if (info.layout)
@@ -208,7 +211,7 @@ void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& sur
         sheet.line("variables", console::grouped(info.variables));
     printScalars(sheet, info, lists);
     printNames(sheet, info, lists);
-    if (info.kind)
+    if (info.encoding)
         sheet.line("bytes", accountText(info.bytes));
     printOtherKinds(sheet, info);
     for (const FileProblem& warning : info.warnings) {
