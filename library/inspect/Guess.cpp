@@ -6,12 +6,14 @@
 
 #include "inspect/TextAccount.h"
 #include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 
 namespace plot3dlib {
 
 namespace {
 
 constexpr std::int64_t sampleBytes = 512;
+constexpr std::int64_t longestHeader = 1024 * 1024;
 
 struct Guess_s {
     Reading_s reading;
@@ -101,23 +103,17 @@ void guessBinary(Evidence_s& evidence) {
         take(evidence, std::move(*guess));
 }
 
-/// A Fortran file that was cut short does not look like one: its records do not end with it.
-bool guessFortran(Evidence_s& evidence) {
-    for (const std::uint32_t markerSize : {4U, 8U})
-        for (const bool byteSwap : {false, true}) {
-            io::Plot3DRecordForm_s form;
-            form.encoding = io::Plot3DEncoding_FortranUnformatted;
-            form.markerSize = markerSize;
-            form.byteSwap = byteSwap;
-            std::vector<Reading_s> readings = readingsAtAnySize(evidence, form);
-            if (readings.empty())
-                continue;
-            evidence.form = form;
-            Account_s account = accountOf(evidence.file, readings.front());
-            take(evidence, {std::move(readings.front()), std::move(account), true, 0});
-            return true;
-        }
-    return false;
+/// Whether the file's first record, of a header that is not too long, ends as it begins.
+bool beginsWithRecord(ExaminedFile& file, const io::Plot3DRecordForm_s& form) {
+    io::Plot3DFile_s record;
+    static_cast<io::Plot3DRecordForm_s&>(record) = form;
+    record.stream = file.stream();
+    io::rewindPlot3DFile(record);
+    std::int64_t length = 0;
+    std::int64_t trailing = -1;
+    return io::readRecordMarker(record, length) && length >= io::integerWidth &&
+           length <= longestHeader && record.stream->skip(length) &&
+           io::readRecordMarker(record, trailing) && trailing == length;
 }
 
 void guessText(Evidence_s& evidence) {
@@ -130,14 +126,35 @@ void guessText(Evidence_s& evidence) {
 
 } // namespace
 
+bool guessCutRecords(Evidence_s& evidence) {
+    if (evidence.form.encoding != io::Plot3DEncoding_Binary)
+        return false;
+    for (const std::uint32_t markerSize : {4U, 8U})
+        for (const bool byteSwap : {false, true}) {
+            io::Plot3DRecordForm_s form;
+            form.encoding = io::Plot3DEncoding_FortranUnformatted;
+            form.markerSize = markerSize;
+            form.byteSwap = byteSwap;
+            if (!beginsWithRecord(evidence.file, form))
+                continue;
+            std::vector<Reading_s> readings = readingsAtAnySize(evidence, form);
+            if (readings.empty())
+                continue;
+            evidence.form = form;
+            Account_s account = accountOf(evidence.file, readings.front());
+            take(evidence, {std::move(readings.front()), std::move(account), true, 0});
+            return true;
+        }
+    return false;
+}
+
 void guessReading(Evidence_s& evidence) {
     switch (evidence.form.encoding) {
     case io::Plot3DEncoding_Ascii:
         guessText(evidence);
         return;
     case io::Plot3DEncoding_Binary:
-        if (!guessFortran(evidence))
-            guessBinary(evidence);
+        guessBinary(evidence);
         return;
     case io::Plot3DEncoding_FortranUnformatted:
     case io::Plot3DEncoding_Unknown:
