@@ -10,6 +10,11 @@ namespace plot3dlib {
 
 namespace {
 
+/// No real, which is a greater integer unless it is tiny.
+bool isSize(std::int32_t word) {
+    return word > 0 && word < 100'000'000;
+}
+
 FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     for (const bool byteSwap : {false, true}) {
         const std::size_t high = byteSwap == (std::endian::native == std::endian::little) ? 0 : 1;
@@ -22,8 +27,8 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
             words[index] = word.value_or(0);
         }
         const std::size_t low = 1 - high;
-        if (isRead && words[high] == 0 && words[high + 2] == 0 && words[low] > 0 &&
-            words[low + 2] > 0)
+        if (isRead && words[high] == 0 && words[high + 2] == 0 && isSize(words[low]) &&
+            isSize(words[low + 2]))
             return problemOf(
                 "The file seems to be written with integers of 8 bytes, which are not "
                 "read.",

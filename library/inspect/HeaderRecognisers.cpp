@@ -35,14 +35,24 @@ bool hasTwoKindsOfElements(const HeaderGuess_s& guess) {
     return false;
 }
 
+/// Of text the connectivity of the last grid must be integers.
+bool endsWithElements(const Evidence_s& evidence, const HeaderGuess_s& guess) {
+    if (!isText(guess))
+        return true;
+    const std::int64_t integers = 4 * (std::int64_t{guess.grids.back().j} + guess.grids.back().k);
+    return evidence.text->areIntegers(evidence.text->valueCount() - integers, integers);
+}
+
 FoundProblem recogniseTwoKindsOfElements(Evidence_s& evidence) {
+    if (evidence.expectedKind.value_or(plot3d::FileKind::Grid) != plot3d::FileKind::Grid)
+        return std::nullopt;
     for (const HeaderGuess_s& guess : guessHeaders(evidence)) {
         if (!hasTwoKindsOfElements(guess))
             continue;
         const bool fits = isText(guess) ? guess.dataSize == sizeOfElementsAndNodes(guess, 1)
                                         : guess.dataSize == sizeOfElementsAndNodes(guess, 4) ||
                                               guess.dataSize == sizeOfElementsAndNodes(guess, 8);
-        if (fits)
+        if (fits && endsWithElements(evidence, guess))
             return problemOf("An unstructured grid has triangles and tetrahedra together, which is "
                              "not read: they belong in two files.",
                              "triangles or tetrahedra",
