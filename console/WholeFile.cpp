@@ -4,8 +4,10 @@
 #include <cstdio>
 #include <cstring>
 #include <mutex>
+#include <new>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -100,20 +102,29 @@ bool WholeFile::beginBeside(const fs::path& folder) {
     constexpr int mostTries = 100; // leftovers of programs that were killed
     constexpr mode_t asTheUserHasIt = 0666;
     for (int attempt = 0; attempt < mostTries; ++attempt) {
-        const fs::path path = growingName(folder, attempt);
+        fs::path path = growingName(folder, attempt);
         const int file =
             open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, asTheUserHasIt);
         if (file >= 0) {
             close(file);
-            growing_ = path;
-            Growing::add(growing_);
-            stream_.open(path, std::ios::binary | std::ios::trunc);
+            growing_ = std::move(path);
+            addToGrowing();
+            stream_.open(growing_, std::ios::binary | std::ios::trunc);
             return stream_.is_open();
         }
         if (errno != EEXIST)
             return false;
     }
     return false;
+}
+
+void WholeFile::addToGrowing() {
+    try {
+        Growing::add(growing_);
+    } catch (const std::bad_alloc&) { // nobody would take the file away
+        unlink(growing_.c_str());
+        throw;
+    }
 }
 
 fs::path growingName(const fs::path& folder, int attempt) {

@@ -37,6 +37,7 @@ public:
 
 private:
     bool beginBeside(const std::filesystem::path& folder);
+    void addToGrowing();
     bool moveToTarget();
 
     std::filesystem::path target_;

@@ -1,7 +1,8 @@
 #include "app/HostSession.h"
 
 namespace quorvia::host {
-HostSession::HostSession(const Console_s& console, ProgressLine& progress,
+
+HostSession::HostSession(const Console_s& console, console::ProgressLine& progress,
                          std::int64_t memoryLimitBytes) {
     host().reset();
     auto& settings = host().settings();

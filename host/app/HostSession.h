@@ -16,7 +16,8 @@ class HostSession {
 public:
     /// Resets the host, sets its budget for field values, shows its progress on `progress` and its
     /// messages on the console. Both are borrowed.
-    HostSession(const Console_s& console, ProgressLine& progress, std::int64_t memoryLimitBytes);
+    HostSession(const Console_s& console, console::ProgressLine& progress,
+                std::int64_t memoryLimitBytes);
     ~HostSession();
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;

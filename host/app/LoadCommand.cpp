@@ -12,10 +12,10 @@
 #include "app/InterruptOnSignal.h"
 #include "app/LeftOut.h"
 #include "app/Output.h"
+#include "console/Text.h"
 #include "describe/GatherOutcome.h"
 #include "describe/Json.h"
 #include "describe/Table.h"
-#include "describe/TextGrid.h"
 #include "describe/ValueFetch.h"
 #include "session/AddOnLibrary.h"
 #include "session/AddOnPath.h"
@@ -38,7 +38,7 @@ bool wantsValues(const LoadArguments_s& arguments) {
 }
 
 /// False if the user ended the fetching.
-bool fetchAllValues(ReferenceHost& host, Outcome_s& outcome, ProgressLine& progress,
+bool fetchAllValues(ReferenceHost& host, Outcome_s& outcome, console::ProgressLine& progress,
                     const InterruptOnSignal& interrupt) {
     const bool complete = fetchValues(
         host, *outcome.dataSet, [&progress, &interrupt](std::int64_t done, std::int64_t total) {
@@ -69,7 +69,8 @@ void noteLeftOut(const ReferenceHost& host, const LoadArguments_s& arguments, Ru
     run.leftSomethingOut = !run.notNamed.empty() || toldAnError(run.outcome);
 }
 
-Run_s carryOut(ReferenceHost& host, const LoadArguments_s& arguments, ProgressLine& progress) {
+Run_s carryOut(ReferenceHost& host, const LoadArguments_s& arguments,
+               console::ProgressLine& progress) {
     const InterruptOnSignal interrupt;
     LoadResult_s result;
     const std::unique_ptr<AddOnLibrary> library =
@@ -114,7 +115,7 @@ void tellLeftOut(const Run_s& run, std::ostream& err) {
         err << fmt::format(
             "quorhost: the kind of {} can't be told by its name: give every file with --grid, "
             "--solution, --function or --name\n",
-            onOneLine(someOf(run.ofNoKind)));
+            console::onOneLine(someOf(run.ofNoKind)));
 }
 
 void tellUnread(std::int64_t count, std::ostream& err) {
@@ -160,7 +161,7 @@ bool printResults(const LoadArguments_s& arguments, const Outcome_s& outcome,
 } // namespace
 
 ExitCode_e runLoad(const LoadArguments_s& arguments, const Console_s& console) {
-    ProgressLine progress(console);
+    console::ProgressLine progress(console.err, console.progressColumns);
     const HostSession session(console, progress, arguments.memoryLimitBytes);
     session.host().setAnswers({}, arguments.answerYes);
     const Run_s run = carryOut(session.host(), arguments, progress);

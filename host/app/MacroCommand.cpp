@@ -14,10 +14,10 @@
 #include "app/Output.h"
 #include "app/macro/MacroParser.h"
 #include "app/macro/MacroPlayer.h"
+#include "console/TextGrid.h"
 #include "describe/GatherOutcome.h"
 #include "describe/Json.h"
 #include "describe/Table.h"
-#include "describe/TextGrid.h"
 #include "session/AddOnPath.h"
 
 namespace quorvia::host {
@@ -45,7 +45,7 @@ struct Played_s {
 };
 
 Played_s play(const Macro_s& macro, const MacroArguments_s& arguments, const Console_s& console) {
-    ProgressLine progress(console);
+    console::ProgressLine progress(console.err, console.progressColumns);
     const HostSession session(console, progress, defaultMemoryLimitBytes);
     const InterruptOnSignal interrupt;
     PlaySettings_s settings{addOnPath(arguments.addOnPath), arguments.answerYes};
@@ -76,6 +76,7 @@ void tellProblems(const Played_s& played, const std::string& file, std::ostream&
 }
 
 void printAccount(const PlayedMacro_s& played, std::ostream& out) {
+    using console::TextGrid;
     TextGrid commands({{"#", TextGrid::Align_e::Right}, {"command"}, {"outcome"}});
     std::size_t number = 0;
     for (const CommandAccount_s& account : played.account)

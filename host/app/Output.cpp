@@ -4,7 +4,7 @@
 
 #include <fmt/core.h>
 
-#include "app/WholeFile.h"
+#include "console/WholeFile.h"
 
 namespace quorvia::host {
 
@@ -14,7 +14,7 @@ bool writeJsonTo(const std::string& file, const Console_s& console,
         write(console.out);
         return true;
     }
-    WholeFile whole(file);
+    console::WholeFile whole(file);
     write(whole.stream());
     std::string reason;
     if (whole.replace(reason))

@@ -8,7 +8,7 @@
 #include <fmt/core.h>
 #include <strings.h>
 
-#include "app/macro/NearestName.h"
+#include "console/NearestName.h"
 
 namespace quorvia::host {
 namespace {
@@ -75,14 +75,14 @@ bool isAmong(std::string_view word, Names words) {
 
 std::string unknownKey(std::string_view key) {
     return fmt::format("there is no key \"{}\" with a value; the nearest known one is \"{}\"", key,
-                       nearestName(key, settingKeys()));
+                       console::nearestName(key, settingKeys()));
 }
 
 std::string wordProblem(std::string_view key, std::string_view value, Names words) {
     if (isAmong(value, words))
         return {};
     return fmt::format("{} can't be \"{}\"; the nearest known word is \"{}\"", key, value,
-                       nearestName(value, words));
+                       console::nearestName(value, words));
 }
 
 /// The loader takes every word that it does not know for No, also a Yes with a slip in it.

@@ -6,12 +6,14 @@
 
 #include <fmt/core.h>
 
-#include "describe/JsonStream.h"
+#include "console/JsonStream.h"
 #include "describe/Words.h"
 #include "toolkit/Toolkit.h"
 
 namespace quorvia::host {
 namespace {
+
+using console::JsonStream;
 
 /// Every tell() writes one value.
 void tell(JsonStream& json, const Message_s& told);

@@ -9,13 +9,18 @@
 #include <fmt/core.h>
 #include <fmt/ranges.h>
 
-#include "describe/TextGrid.h"
+#include "console/Text.h"
+#include "console/TextGrid.h"
+#include "console/Words.h"
 #include "describe/VariableSummary.h"
 #include "describe/Words.h"
 
 namespace quorvia::host {
 namespace {
 
+using console::counted;
+using console::onOneLine;
+using console::TextGrid;
 using Align_e = TextGrid::Align_e;
 
 void printLeftOut(std::ostream& out, std::size_t total, std::size_t shown, std::string_view what) {

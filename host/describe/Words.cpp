@@ -2,6 +2,8 @@
 
 #include <fmt/core.h>
 
+#include "console/Words.h"
+
 namespace quorvia::host {
 
 const char* wordOf(MessageKind_e kind) {
@@ -76,13 +78,9 @@ const char* stateWordOf(const FieldOutcome_s& field) {
     return field.sharedWith != 0 ? sharedWord : wordOf(field.state);
 }
 
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    return fmt::format("{} {}", count, count == 1 ? one : many);
-}
-
 std::string sizeText(const DataSetOutcome_s& dataSet) {
-    return counted(dataSet.zones.size(), "zone", "zones") + ", " +
-           counted(dataSet.variables.size(), "variable", "variables");
+    return console::counted(dataSet.zones.size(), "zone", "zones") + ", " +
+           console::counted(dataSet.variables.size(), "variable", "variables");
 }
 
 std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet) {

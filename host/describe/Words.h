@@ -23,9 +23,6 @@ inline constexpr const char* sharedWord = "shared";
 /// `sharedWord`, or the word of its state.
 const char* stateWordOf(const FieldOutcome_s& field);
 
-/// "1 zone", "3 zones".
-std::string counted(std::size_t count, std::string_view one, std::string_view many);
-
 /// "3 zones, 6 variables"; "no data set" if there is none.
 std::string sizeText(const DataSetOutcome_s& dataSet);
 std::string sizeText(const std::optional<DataSetOutcome_s>& dataSet);

@@ -1,6 +1,6 @@
 #include "desktop/Texts.h"
 
-#include "describe/Words.h"
+#include "console/Words.h"
 
 namespace quorvia::host {
 
@@ -14,7 +14,7 @@ QString shownNumber(double value) {
 }
 
 QString shownCount(std::size_t count, const char* one, const char* many) {
-    return shown(counted(count, one, many));
+    return shown(console::counted(count, one, many));
 }
 
 } // namespace quorvia::host

@@ -43,7 +43,7 @@ const char* InfoCommand::failureMeans() const {
 void InfoCommand::declare(CLI::App& app) {
     addFiles(app, files_,
              "Files of any kind: grid, solution, function, boundary or name file; - reads their "
-             "names from standard input, one to a line. They are told in the order of their "
+             "names from standard input, one to a line. They come in the order of their "
              "names, 2 before 10")
         ->required();
     app.add_flag("--why", why_,

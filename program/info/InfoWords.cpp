@@ -90,7 +90,7 @@ const char* captionOf(Layout layout) {
 std::string sizeText(const GridSize& size, Layout layout) {
     switch (layout) {
     case Layout::OneD:
-        return fmt::format("{}", size.i);
+        return grouped(size.i);
     case Layout::TwoD:
         return fmt::format("{} x {}", size.i, size.j);
     case Layout::Unstructured:
@@ -109,14 +109,17 @@ std::int64_t pointCount(const GridSize& size, Layout layout) {
 }
 
 std::string accountText(const ByteAccount& bytes) {
+    const std::string size = counted(bytes.size, "byte", "bytes");
+    if (bytes.size == 0)
+        return "none in the file";
+    if (bytes.used == 0)
+        return fmt::format("none of {} used", size);
     if (bytes.missing > 0)
-        return fmt::format("{} missing behind the file's {}",
-                           counted(bytes.missing, "byte is", "bytes are"),
-                           counted(bytes.size, "byte", "bytes"));
+        return fmt::format("{} missing, {} in the file", grouped(bytes.missing), size);
     if (bytes.surplus > 0)
-        return fmt::format("{} of {} left over, {} used", grouped(bytes.surplus),
-                           counted(bytes.size, "byte", "bytes"), grouped(bytes.used));
-    return fmt::format("all {} used", counted(bytes.size, "byte", "bytes"));
+        return fmt::format("{} of {} left over, {} used", grouped(bytes.surplus), size,
+                           grouped(bytes.used));
+    return fmt::format("all {} used", size);
 }
 
 std::string scalarsText(const Scalars& scalars) {

@@ -62,6 +62,9 @@ std::string kindText(const FileInfo& info) {
     if (!info.kind)
         return "no PLOT3D file that can be read";
     std::string text = fmt::format("{} file", wordOf(*info.kind));
+    const bool isData = info.kind != FileKind::Name && info.kind != FileKind::Boundary;
+    if (isData && !info.layout)
+        return fmt::format("no {} that can be read", text);
     if (info.style && *info.kind == FileKind::Solution)
         text += fmt::format(", style {}", wordOf(*info.style));
     if (info.layout)
@@ -157,9 +160,8 @@ void printGrids(Sheet& sheet, const FileInfo& info, Lists_e lists) {
     const std::vector<Run_s> runs = runsOf(
         info.grids.size(), [&](std::size_t index) { return sizeText(info.grids[index], layout); });
     const std::string alike = runs.size() == 1 ? " of " + runs.front().text : "";
-    sheet.line("grids", fmt::format("{}{}, {} in all",
-                                    console::grouped(static_cast<std::int64_t>(info.grids.size())),
-                                    alike, counted(points, "point", many)));
+    sheet.line("grids", fmt::format("{}{}, {} in all", console::grouped(info.grids.size()), alike,
+                                    counted(points, "point", many)));
     if (runs.size() > 1)
         printRuns(sheet, "", runs, lists);
 }
@@ -180,7 +182,7 @@ void printNames(Sheet& sheet, const FileInfo& info, Lists_e lists) {
     if (info.names.empty())
         return;
     const bool isCut = lists == Lists_e::Shortened && info.names.size() > mostShown;
-    std::string text = console::grouped(static_cast<std::int64_t>(info.names.size())) + ":";
+    std::string text = console::grouped(info.names.size()) + ":";
     for (std::size_t number = 0; number < (isCut ? mostShown : info.names.size()); ++number)
         text += (number == 0 ? " " : ", ") + info.names[number];
     sheet.line(info.kind == FileKind::Boundary ? "boundaries" : "names",
@@ -209,7 +211,7 @@ void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& sur
         sheet.line("variables", console::grouped(info.variables));
     printScalars(sheet, info, lists);
     printNames(sheet, info, lists);
-    if (info.kind)
+    if (info.encoding)
         sheet.line("bytes", accountText(info.bytes));
     printOtherKinds(sheet, info);
     for (const FileProblem& warning : info.warnings) {

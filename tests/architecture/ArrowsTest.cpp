@@ -60,9 +60,10 @@ const Arrows hostArrows = {
     {"state", {"sdk", "model", "toolkit", "checks"}},
     {"services", {"sdk", "model", "toolkit", "checks", "state"}},
     {"session", {"sdk", "model", "toolkit", "checks", "state"}},
-    {"describe", {"sdk", "model", "toolkit", "state", "session"}},
-    {"app", {"sdk", "model", "toolkit", "state", "session", "describe"}},
-    {"desktop", {"sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"console", {}}, // at the top, used by what people see
+    {"describe", {"console", "sdk", "model", "toolkit", "state", "session"}},
+    {"app", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"desktop", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
 };
 
 /// The rooms of the library, and all that stand below it.

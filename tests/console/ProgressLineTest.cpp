@@ -41,6 +41,13 @@ TEST_F(ProgressLineTest, EndsWithItsOwner) {
     EXPECT_EQ("\r\x1b[K[........................]   0% x\r\x1b[K", err.str());
 }
 
+TEST_F(ProgressLineTest, ManyStepsAreDrawnFewTimes) {
+    ProgressLine progress(err, columns);
+    for (int step = 0; step < 1000; ++step)
+        progress.show(step / 1000.0, "x");
+    EXPECT_LT(err.str().size(), 40U * 50U);
+}
+
 TEST(PaceTest, TellsBytesRateAndTimeLeft) {
     Pace pace;
     pace.note(duration<double>(10), 0, 0);

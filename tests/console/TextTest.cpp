@@ -41,10 +41,15 @@ TEST(Paint, LeavesTextsAloneUnlessItIsOn) {
     EXPECT_EQ(Paint_s{true}(Colour_e::Red, "error"), "\x1b[31merror\x1b[0m");
 }
 
-TEST(NearestName, TakesTheFewestChanges) {
-    const std::vector<std::string_view> known = {"info", "stats", "index"};
-    EXPECT_EQ(nearestName("inof", known), "info");
-    EXPECT_EQ(nearestName("STAT", known), "stats");
+TEST(NearestName, TakesTheFewestChangesCaseApart) {
+    const std::vector<std::string_view> known = {"select", "replay", "describe"};
+    EXPECT_EQ("replay", nearestName("RELAY", known));
+    EXPECT_EQ("describe", nearestName("descibe", known));
+    EXPECT_EQ("select", nearestName("slect", known));
+}
+
+TEST(NearestName, IsQuickWithTextsOfAnyLength) {
+    EXPECT_EQ("b", nearestName(std::string(10'000'000, 'b'), std::vector<std::string_view>{"b"}));
 }
 
 } // namespace

@@ -1,6 +1,9 @@
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 #include "program/ProgramRun.h"
+#include "support/TemporaryDirectory.h"
 
 namespace plot3d::program {
 namespace {
@@ -70,6 +73,42 @@ TEST(CommandLine, ASlipInAWordIsTold) {
 
 TEST(CommandLine, AMissingFileIsTold) {
     expectUsageError({"info"}, "FILE is required; plot3d info --help tells more");
+}
+
+TEST(CommandLine, AStopEndsWithItsCode) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    std::stop_source source;
+    source.request_stop();
+    const int code = run({"info", "a.x"}, {in, out, err, 0, 0, false, ProgressWish_e::Auto, false,
+                                           source.get_token()});
+    EXPECT_EQ(code, 130);
+    EXPECT_EQ(err.str(), "plot3d: stopped\n");
+}
+
+TEST(CommandLine, OutputThatIsNotTakenIsAFailure) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    out.setstate(std::ios::badbit);
+    EXPECT_EQ(run({"--version"}, in, out, err), 1);
+    EXPECT_EQ(err.str(), "plot3d: error: standard output did not take everything\n");
+}
+
+TEST(CommandLine, FilesWithoutACommandAreLookedAt) {
+    const Ended_s run = ended({"none.x"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, ended({"info", "none.x"}).out);
+    EXPECT_EQ(run.out.rfind("none.x\n  kind ", 0), 0U);
+}
+
+TEST(CommandLine, AFileMayHaveTheNameOfNoCommand) {
+    const quorvia::testsupport::TemporaryDirectory folder;
+    folder.write("grid", "");
+    std::filesystem::current_path(folder.path());
+    EXPECT_EQ(ended({"grid"}).out.rfind("grid\n  kind ", 0), 0U);
+    std::filesystem::current_path("/");
 }
 
 TEST(CommandLine, ManPageHasAllCommands) {

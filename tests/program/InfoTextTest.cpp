@@ -1,3 +1,4 @@
+#include "info/InfoWords.h"
 #include "program/InfoFixture.h"
 
 namespace plot3d::program {
@@ -38,6 +39,7 @@ TEST_F(InfoText, OfARefusedFileTellsWhatToTry) {
     EXPECT_EQ(told({"my blunt.q"}), "my blunt.q\n"
                                     "  kind       no PLOT3D file that can be read\n"
                                     "  encoding   plain binary, big-endian\n"
+                                    "  bytes      none of 819,712 bytes used\n"
                                     "  problem    484 bytes too many (at byte 819,228, expected "
                                     "the file's end, found 484 bytes)\n"
                                     "  try        plot3d info --why 'my blunt.q'\n");
@@ -86,11 +88,17 @@ TEST_F(InfoText, WarningsStandBesideAGoodFile) {
     EXPECT_EQ(code, 0);
 }
 
-TEST_F(InfoText, MissingBytesAreTold) {
-    files["comb.q"].bytes = {1000, 1484, 484, 0};
-    EXPECT_NE(told({"comb.q"})
-                  .find("  bytes      484 bytes are missing behind the file's 1,000 "
-                        "bytes\n"),
+TEST_F(InfoText, BytesAreAccountedFor) {
+    EXPECT_EQ(accountText({1000, 1000, 0, 0}), "all 1,000 bytes used");
+    EXPECT_EQ(accountText({1000, 1484, 484, 0}), "484 missing, 1,000 bytes in the file");
+    EXPECT_EQ(accountText({1000, 900, 0, 100}), "100 of 1,000 bytes left over, 900 used");
+    EXPECT_EQ(accountText({1000, 0, 0, 1000}), "none of 1,000 bytes used");
+    EXPECT_EQ(accountText({0, 0, 0, 0}), "none in the file");
+}
+
+TEST_F(InfoText, OfASolutionThatNoReadingFits) {
+    files["my blunt.q"].kind = FileKind::Solution;
+    EXPECT_NE(told({"my blunt.q"}).find("  kind       no solution file that can be read\n"),
               std::string::npos);
 }
 

@@ -17,6 +17,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "support/TemporaryDirectory.h"
+
 namespace {
 
 /// Runs the program in the place of this process, which a fork has made.
@@ -45,7 +47,6 @@ std::string shownAtTerminal(const std::vector<const char*>& arguments, unsigned 
     const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
     if (child == 0) {
         setenv("TERM", "xterm", 1);
-        unsetenv("NO_COLOR");
         become(arguments);
     }
     std::string shown;
@@ -75,6 +76,16 @@ TEST(Process, EndsByCtrlCWhereverItHangs) {
     close(input[1]);
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 130);
+}
+
+TEST(Process, ColoursAreForTerminalsThatWantThem) {
+    const quorvia::testsupport::TemporaryDirectory folder;
+    const std::string file = folder.write("a.nam", "density\n");
+    EXPECT_EQ(
+        shownAtTerminal({"info", file.c_str()}, 80).rfind("\x1b[1m" + file + "\x1b[0m\r\n", 0), 0U);
+    setenv("NO_COLOR", "1", 1);
+    EXPECT_EQ(shownAtTerminal({"info", file.c_str()}, 80).rfind(file + "\r\n", 0), 0U);
+    unsetenv("NO_COLOR");
 }
 
 TEST(Process, HelpFitsItsTerminal) {

@@ -5,7 +5,7 @@
 #include <fmt/core.h>
 #include <fmt/ranges.h>
 
-#include "describe/Words.h"
+#include "console/Words.h"
 
 namespace quorvia::host {
 namespace {
@@ -23,7 +23,8 @@ struct Tell_s {
                            command.append ? ", append" : "", command.advanced ? ", advanced" : "");
     }
     std::string operator()(const InstructionsCommand_s& command) const {
-        return "instructions, " + counted(command.instructions.size(), "string", "strings");
+        return "instructions, " +
+               console::counted(command.instructions.size(), "string", "strings");
     }
     std::string operator()(const ReplayCommand_s&) const { return "replay"; }
     std::string operator()(const AnswersCommand_s& command) const {
@@ -33,7 +34,7 @@ struct Tell_s {
         return fmt::format("answers {}", fmt::join(words, ", "));
     }
     std::string operator()(const DialogCommand_s& command) const {
-        return "dialog, " + counted(command.actions.size(), "action", "actions");
+        return "dialog, " + console::counted(command.actions.size(), "action", "actions");
     }
     std::string operator()(const HostCommand_s&) const { return "host"; }
     std::string operator()(const DataSetCommand_s& command) const {

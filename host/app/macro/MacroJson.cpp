@@ -4,7 +4,7 @@
 
 #include <fmt/core.h>
 
-#include "app/macro/NearestName.h"
+#include "console/NearestName.h"
 
 namespace quorvia::host {
 
@@ -52,7 +52,7 @@ std::int32_t toWord(const MacroJson& value, const std::string& what,
         known.push_back(word);
     }
     throw MacroError(fmt::format("{} can't be \"{}\"; the nearest known word is \"{}\"", what, text,
-                                 nearestName(text, known)));
+                                 console::nearestName(text, known)));
 }
 
 std::string inQuotes(std::string_view name) {
@@ -62,7 +62,7 @@ std::string inQuotes(std::string_view name) {
 std::string unknownName(const std::string& kind, std::string_view name,
                         const std::vector<std::string_view>& known) {
     return fmt::format("there is no {} \"{}\"; the nearest known name is \"{}\"", kind, name,
-                       nearestName(name, known));
+                       console::nearestName(name, known));
 }
 
 ObjectReader::ObjectReader(const MacroJson& value, const std::string& what,

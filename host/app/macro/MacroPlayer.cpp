@@ -10,6 +10,7 @@
 #include "app/macro/CommandText.h"
 #include "app/macro/DialogSteps.h"
 #include "app/macro/OutcomeSlices.h"
+#include "console/Words.h"
 #include "describe/GatherOutcome.h"
 #include "describe/ValueFetch.h"
 #include "describe/Words.h"
@@ -202,8 +203,9 @@ private:
         if (script.cancelledDialogs() > 0)
             account += ", the dialog was still open and was cancelled";
         if (script.entriesLeft() > 0)
-            account += fmt::format(
-                ", {} left", counted(script.entriesLeft(), "dialog action", "dialog actions"));
+            account +=
+                fmt::format(", {} left", console::counted(script.entriesLeft(), "dialog action",
+                                                          "dialog actions"));
         script.clearScript();
         if (!problem.empty())
             throw CommandProblem(problem);

@@ -9,43 +9,8 @@ namespace {
 
 class Console : public testing::Test {
 protected:
-    std::ostringstream out;
     std::ostringstream err;
-    Console_s terminal{out, err, 50};
-    Console_s file{out, err, 0};
 };
-
-TEST_F(Console, ProgressIsDrawnInPlaceAndCleared) {
-    ProgressLine progress(terminal);
-    progress.show(0.25, "Examining");
-    progress.clear();
-    EXPECT_EQ("\r\x1b[K[######..................]  25% Examining\r\x1b[K", err.str());
-}
-
-TEST_F(Console, ProgressIsNotDrawnWithoutATerminal) {
-    ProgressLine progress(file);
-    progress.show(0.5, "Examining");
-    progress.clear();
-    EXPECT_EQ("", err.str());
-}
-
-TEST_F(Console, ProgressIsCutToTheWidthOfTheTerminal) {
-    ProgressLine progress(terminal);
-    progress.show(1, "a text of more columns than there are left here");
-    EXPECT_EQ("\r\x1b[K[########################] 100% a text of more co", err.str());
-}
-
-TEST_F(Console, ProgressLineEndsWithItsOwner) {
-    { ProgressLine(terminal).show(0, "x"); }
-    EXPECT_EQ("\r\x1b[K[........................]   0% x\r\x1b[K", err.str());
-}
-
-TEST_F(Console, ManyStepsAreDrawnFewTimes) {
-    ProgressLine progress(terminal);
-    for (int step = 0; step < 1000; ++step)
-        progress.show(step / 1000.0, "x");
-    EXPECT_LT(err.str().size(), 40U * 50U);
-}
 
 TEST_F(Console, ErrorOfSeveralLinesIsIndented) {
     tellError(err, "Not readable.\nFile: a.q");

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/macro/NearestName.h"
-
 namespace quorvia::host {
 namespace {
 
@@ -191,17 +189,6 @@ TEST(MacroParser, ZonesOfADataSetHaveDefaults) {
     EXPECT_EQ(1, zones.at(0).k);
     EXPECT_EQ(3, zones.at(1).k);
     EXPECT_EQ(4, zones.at(2).k);
-}
-
-TEST(NearestName, TakesTheFewestChangesCaseApart) {
-    const std::vector<std::string_view> known = {"select", "replay", "describe"};
-    EXPECT_EQ("replay", nearestName("RELAY", known));
-    EXPECT_EQ("describe", nearestName("descibe", known));
-    EXPECT_EQ("select", nearestName("slect", known));
-}
-
-TEST(NearestName, IsQuickWithTextsOfAnyLength) {
-    EXPECT_EQ("b", nearestName(std::string(10'000'000, 'b'), std::vector<std::string_view>{"b"}));
 }
 
 TEST(MacroParser, TakesEveryDialogAction) {
