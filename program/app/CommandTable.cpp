@@ -1,5 +1,6 @@
 #include "app/CommandTable.h"
 
+#include "diff/DiffCommand.h"
 #include "info/InfoCommand.h"
 #include "stats/StatsCommand.h"
 
@@ -9,6 +10,7 @@ Commands allCommands() {
     Commands commands;
     commands.push_back(std::make_unique<InfoCommand>());
     commands.push_back(std::make_unique<StatsCommand>());
+    commands.push_back(std::make_unique<DiffCommand>());
     return commands;
 }
 
