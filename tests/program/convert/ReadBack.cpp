@@ -65,52 +65,58 @@ plot3d::DataSet open(const OpenedCase_s& opened) {
     return plot3d::DataSet::open(opened.files, options);
 }
 
-/// One data set as expected.json and expected.bin tell it.
+ExpectedZone_s expectedZone(const OpenedCase_s& opened, std::int32_t grid) {
+    const WrittenFile_s& file = opened.readings.front().file();
+    const GridDims_s& dims = file.contents.grids[static_cast<std::size_t>(grid)];
+    ExpectedZone_s zone;
+    zone.size = {dims.i, dims.j, dims.k};
+    for (const FileReading& reading : opened.readings) {
+        const std::int32_t count = reading.variableCount() + (reading.hasIBlank() ? 1 : 0);
+        for (std::int32_t variable = 0; variable < count; ++variable)
+            zone.fields.push_back(reading.field(grid, variable));
+    }
+    if (file.layout.layout != Layout_e::Unstructured)
+        return zone;
+    zone.size = {dims.i, 1, 1};
+    for (std::int64_t element = 0; element < dims.j + dims.k; ++element) {
+        zone.elements.emplace_back();
+        for (std::int32_t corner = 0; corner < (dims.j > 0 ? 3 : 4); ++corner)
+            zone.elements.back().push_back(cornerAt(grid, element, corner) - 1);
+    }
+    return zone;
+}
+
+/// One data set as expected.json and expected.bin tell it. Names and times are taken from the data
+/// set, of which other tests know that they are right.
 class Expectation {
 public:
-    Expectation(const std::string& folder, const OpenedCase_s& opened)
-        : opened_(opened), data_(open(opened)), values_(folder + "/expected.bin", std::ios::binary),
+    Expectation(const std::string& folder, const plot3d::DataSet& data)
+        : data_(data), values_(folder + "/expected.bin", std::ios::binary),
           text_(folder + "/expected.json") {}
 
-    void write() {
-        const WrittenFile_s& grid = opened_.readings.front().file();
-        json zones = json::array();
-        for (std::size_t index = 0; index < grid.contents.grids.size(); ++index)
-            zones.push_back(zone(grid, static_cast<std::int32_t>(index)));
-        text_ << json({{"coordinates", opened_.readings.front().variableCount()},
-                       {"times", times()},
-                       {"zones", zones}});
+    void write(int coordinateCount, const std::vector<ExpectedZone_s>& zones) {
+        json all = json::array();
+        for (std::size_t index = 0; index < zones.size(); ++index)
+            all.push_back(zone(zones[index], data_.zones()[index]));
+        json times = json::array();
+        for (const plot3d::TimeStep& step : data_.timeSteps())
+            times.push_back(step.time);
+        text_ << json({{"coordinates", coordinateCount}, {"times", times}, {"zones", all}});
     }
 
 private:
-    json zone(const WrittenFile_s& grid, std::int32_t index) {
-        const GridDims_s dims = grid.contents.grids[static_cast<std::size_t>(index)];
-        const bool isUnstructured = grid.layout.layout == Layout_e::Unstructured;
-        const std::array<std::int64_t, 3> size = {dims.i, isUnstructured ? 1 : dims.j,
-                                                  isUnstructured ? 1 : dims.k};
+    json zone(const ExpectedZone_s& expected, const plot3d::Zone& facts) {
         json fields = json::array();
-        std::size_t variable = 0;
-        for (const FileReading& reading : opened_.readings) {
-            const std::int32_t count = reading.variableCount() + (reading.hasIBlank() ? 1 : 0);
-            for (std::int32_t place = 0; place < count; ++place)
-                fields.push_back(field(reading.field(index, place), size, variable++));
-        }
-        const auto zoneIndex = static_cast<std::size_t>(index);
-        json facts = {{"name", data_.zones()[zoneIndex].name},
-                      {"time", data_.zones()[zoneIndex].time},
-                      {"strand", data_.zones()[zoneIndex].strand},
-                      {"size", size},
-                      {"fields", fields}};
-        if (isUnstructured)
-            facts["elements"] = elements(dims, index);
-        return facts;
-    }
-
-    json times() const {
-        json all = json::array();
-        for (const plot3d::TimeStep& step : data_.timeSteps())
-            all.push_back(step.time);
-        return all;
+        for (std::size_t variable = 0; variable < expected.fields.size(); ++variable)
+            fields.push_back(field(expected.fields[variable], expected.size, variable));
+        json zone = {{"name", facts.name},
+                     {"time", facts.time},
+                     {"strand", facts.strand},
+                     {"size", expected.size},
+                     {"fields", fields}};
+        if (!expected.elements.empty())
+            zone["elements"] = expected.elements;
+        return zone;
     }
 
     json field(const FieldExpectation_s& expected, const std::array<std::int64_t, 3>& size,
@@ -142,20 +148,7 @@ private:
         values_.write(bytes.data(), bytes.size());
     }
 
-    static json elements(const GridDims_s& dims, std::int32_t grid) {
-        const std::int32_t corners = dims.j > 0 ? 3 : 4;
-        json all = json::array();
-        for (std::int64_t element = 0; element < dims.j + dims.k; ++element) {
-            json nodes = json::array();
-            for (std::int32_t corner = 0; corner < corners; ++corner)
-                nodes.push_back(cornerAt(grid, element, corner) - 1);
-            all.push_back(nodes);
-        }
-        return all;
-    }
-
-    const OpenedCase_s& opened_;
-    plot3d::DataSet data_; // for names, and times of which other tests know that they are right
+    const plot3d::DataSet& data_;
     std::ofstream values_;
     std::ofstream text_;
 };
@@ -217,7 +210,16 @@ void ReadBackTest::convert(const std::string& folder, std::vector<std::string> a
 }
 
 void ReadBackTest::writeExpected(const std::string& folder, const OpenedCase_s& opened) {
-    Expectation(folder, opened).write();
+    const auto count = opened.readings.front().file().contents.grids.size();
+    std::vector<ExpectedZone_s> zones;
+    for (std::size_t grid = 0; grid < count; ++grid)
+        zones.push_back(expectedZone(opened, static_cast<std::int32_t>(grid)));
+    writeExpected(folder, open(opened), opened.readings.front().variableCount(), zones);
+}
+
+void ReadBackTest::writeExpected(const std::string& folder, const plot3d::DataSet& data,
+                                 int coordinateCount, const std::vector<ExpectedZone_s>& zones) {
+    Expectation(folder, data).write(coordinateCount, zones);
 }
 
 void ReadBackTest::expectReadBack(int fileCount) const {

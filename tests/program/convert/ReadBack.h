@@ -2,6 +2,7 @@
 // them, converted, and then all read by one process.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,6 +23,13 @@ struct OpenedCase_s {
     std::vector<FileReading> readings; // of the files
 };
 
+/// What a zone must hold: its fields in the order of the variables, coordinates first.
+struct ExpectedZone_s {
+    std::array<std::int64_t, 3> size = {1, 1, 1};
+    std::vector<FieldExpectation_s> fields;
+    std::vector<std::vector<std::int32_t>> elements; // node indices from 0; none if ordered
+};
+
 /// Runs the program; gives its exit code.
 int runProgram(const std::vector<std::string>& arguments, std::string* err = nullptr);
 
@@ -38,6 +46,8 @@ protected:
                         const std::vector<std::string>& endings);
     /// Writes what must be read.
     static void writeExpected(const std::string& folder, const OpenedCase_s& opened);
+    static void writeExpected(const std::string& folder, const plot3d::DataSet& data,
+                              int coordinateCount, const std::vector<ExpectedZone_s>& zones);
     /// Reads all folders. Skips the test where the readers are not there.
     void expectReadBack(int fileCount) const;
 

@@ -1,0 +1,133 @@
+// Three times of two grids that move, with I-blank, in every format.
+#include <fstream>
+#include <iterator>
+
+#include "plot3dwriter/Plot3DWriter.h"
+#include "program/convert/ReadBack.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using plot3dwriter::FileDescription_s;
+using plot3dwriter::FileForm_s;
+using plot3dwriter::FileKind_e;
+using plot3dwriter::Layout_e;
+
+constexpr int stepCount = 3;
+
+/// The file of a step: each value is moved by it.
+FileDescription_s fileOf(FileKind_e kind, int step) {
+    FileDescription_s file =
+        contentsOf({kind, Layout_e::ThreeDWhole, true, kind == FileKind_e::Grid});
+    file.grids = {{2, 3, 5}, {5, 2, 3}};
+    file.scalars.resize(kind == FileKind_e::Grid ? 0 : 2, {0.5, 2.25, 1500000.0, 0.25 * step});
+    for (std::vector<double>& scalars : file.scalars)
+        scalars[3] = 0.25 * step;
+    file.value = [kind, step](std::int32_t grid, std::int32_t variable, std::int32_t i,
+                              std::int32_t j, std::int32_t k) {
+        return valueAt(kind, grid, variable, i, j, k) + 7.0 * step;
+    };
+    return file;
+}
+
+class ConvertedSeries : public ReadBackTest {
+protected:
+    /// m_1.x, m_1.q, ... in the form; gives their names.
+    std::vector<std::string> writeSeries(const std::string& where, const FileForm_s& form) const {
+        std::vector<std::string> files;
+        for (int step = 0; step < stepCount; ++step)
+            for (const auto& [kind, ending] : {std::pair(FileKind_e::Grid, ".x"),
+                                               std::pair(FileKind_e::ClassicSolution, ".q")}) {
+                files.push_back(where + "/m_" + std::to_string(step + 1) + ending);
+                EXPECT_EQ(
+                    plot3dwriter::writePlot3DFile(files.back(), fileOf(kind, step), form).problem,
+                    "");
+            }
+        return files;
+    }
+
+    static std::vector<ExpectedZone_s> expectedZones() {
+        std::vector<ExpectedZone_s> zones;
+        for (int step = 0; step < stepCount; ++step)
+            for (std::int32_t grid = 0; grid < 2; ++grid)
+                zones.push_back(expectedZone(step, grid));
+        return zones;
+    }
+
+    static std::string bytesOf(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+private:
+    static ExpectedZone_s expectedZone(int step, std::int32_t grid) {
+        const auto& dims = fileOf(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
+        ExpectedZone_s zone;
+        zone.size = {dims.i, dims.j, dims.k};
+        addFields(zone, FileKind_e::Grid, 3, step, grid);
+        zone.fields.push_back({QuorFieldDataType_Int32, host::FieldState_e::Deferred,
+                               [grid](std::int64_t i, std::int64_t j, std::int64_t k) {
+                                   return static_cast<double>(iblankAt(grid, i, j, k));
+                               }});
+        addFields(zone, FileKind_e::ClassicSolution, 5, step, grid);
+        return zone;
+    }
+
+    static void addFields(ExpectedZone_s& zone, FileKind_e kind, std::int32_t count, int step,
+                          std::int32_t grid) {
+        for (std::int32_t variable = 0; variable < count; ++variable)
+            zone.fields.push_back({QuorFieldDataType_Float, host::FieldState_e::Deferred,
+                                   [=](std::int64_t i, std::int64_t j, std::int64_t k) {
+                                       return valueAt(kind, grid, variable, i, j, k) + 7.0 * step;
+                                   }});
+    }
+};
+
+TEST_F(ConvertedSeries, IsReadBackInEachFormat) {
+    const std::string where = folder("series");
+    const std::vector<std::string> files = writeSeries(where, {});
+    const auto data = plot3d::DataSet::open(files);
+    ASSERT_EQ(data.timeSteps().size(), 3U);
+    const std::vector<std::string> endings = {"cgns", "npz", "csv", "pvd"};
+    convert(where, files, endings);
+    writeExpected(where, data, 3, expectedZones());
+    expectReadBack(static_cast<int>(endings.size()));
+}
+
+TEST_F(ConvertedSeries, BecomesTheFilesOfEachTime) {
+    const std::string where = folder("series");
+    std::vector<std::string> words = writeSeries(where, {});
+    words.insert(words.begin(), "convert");
+    words.insert(words.end(),
+                 {"--encoding", "fortran4", "--byte-order", "big", "-o", where + "/out.x"});
+    ASSERT_EQ(runProgram(words), 0);
+    FileForm_s form;
+    form.encoding = plot3dwriter::Encoding_e::Fortran;
+    form.byteOrder = plot3dwriter::ByteOrder_e::Big;
+    writeSeries(where, form);
+    for (const char* const name : {"_1.x", "_1.q", "_2.x", "_2.q", "_3.x", "_3.q"})
+        EXPECT_TRUE(bytesOf(where + "/out" + name) == bytesOf(where + "/m" + name)) << name;
+}
+
+TEST_F(ConvertedSeries, KeepsOneGridFileForGridsThatStandStill) {
+    const std::string where = folder("series");
+    std::vector<std::string> words = writeSeries(where, {});
+    words = {"convert", words[0], words[1], words[3], words[5], "-o", where + "/out.x"};
+    ASSERT_EQ(runProgram(words), 0);
+    EXPECT_TRUE(bytesOf(where + "/out.x") == bytesOf(where + "/m_1.x"));
+    EXPECT_TRUE(bytesOf(where + "/out_3.q") == bytesOf(where + "/m_3.q"));
+    EXPECT_FALSE(std::filesystem::exists(where + "/out_1.x"));
+}
+
+TEST_F(ConvertedSeries, GivesOneTimeOfItAlone) {
+    const std::string where = folder("series");
+    std::vector<std::string> words = writeSeries(where, {});
+    words.insert(words.begin(), "convert");
+    words.insert(words.end(), {"--time", "0.25", "-o", where + "/out.x"});
+    ASSERT_EQ(runProgram(words), 0);
+    EXPECT_TRUE(bytesOf(where + "/out.x") == bytesOf(where + "/m_2.x"));
+    EXPECT_TRUE(bytesOf(where + "/out.q") == bytesOf(where + "/m_2.q"));
+}
+
+} // namespace
+} // namespace quorvia::testsupport
