@@ -1,6 +1,5 @@
 #include <plot3d/FileInfo.h>
 
-#include <bit>
 #include <new>
 
 #include <plot3d/Error.h>
@@ -19,8 +18,6 @@ namespace plot3dlib {
 namespace {
 
 void tellForm(const io::Plot3DFileStructure_s& structure, plot3d::FileInfo& info) {
-    const bool isBig = structure.byteSwap == (std::endian::native == std::endian::little);
-    const auto order = isBig ? plot3d::ByteOrder::Big : plot3d::ByteOrder::Little;
     switch (structure.encoding) {
     case io::Plot3DEncoding_Ascii:
         info.encoding = plot3d::Encoding::Text;
@@ -35,7 +32,7 @@ void tellForm(const io::Plot3DFileStructure_s& structure, plot3d::FileInfo& info
     case io::Plot3DEncoding_Unknown:
         return;
     }
-    info.byteOrder = order;
+    info.byteOrder = byteOrderOf(structure);
 }
 
 void tellReading(Evidence_s& evidence, plot3d::FileInfo& info) {

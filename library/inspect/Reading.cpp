@@ -1,6 +1,7 @@
 #include "inspect/Reading.h"
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 
 #include "plot3dfile/bytes/CheckedSize.h"
@@ -104,6 +105,14 @@ plot3d::FileKind kindOf(const io::Plot3DFileStructure_s& structure) {
                                                        : plot3d::FileKind::Solution;
 }
 
+std::optional<plot3d::ByteOrder> byteOrderOf(const io::Plot3DRecordForm_s& form) {
+    if (form.encoding != io::Plot3DEncoding_Binary &&
+        form.encoding != io::Plot3DEncoding_FortranUnformatted)
+        return std::nullopt;
+    const bool isBig = form.byteSwap == (std::endian::native == std::endian::little);
+    return isBig ? plot3d::ByteOrder::Big : plot3d::ByteOrder::Little;
+}
+
 plot3d::Candidate candidateOf(const io::Plot3DFileStructure_s& structure) {
     plot3d::Candidate candidate;
     candidate.kind = kindOf(structure);
@@ -113,6 +122,8 @@ plot3d::Candidate candidateOf(const io::Plot3DFileStructure_s& structure) {
     candidate.multiGrid = structure.isMultiGrid;
     candidate.iBlank = structure.hasIBlank;
     candidate.precision = structure.isDoublePrecision ? 64 : 32;
+    candidate.byteOrder = byteOrderOf(structure);
+    candidate.relaxed = structure.relaxedChecks;
     return candidate;
 }
 

@@ -42,7 +42,9 @@ struct Candidate {
     std::optional<Style> style; // of solution and function files
     bool multiGrid = false;
     bool iBlank = false;
-    int precision = 32; // bits of a real
+    int precision = 32;                 // bits of a real
+    std::optional<ByteOrder> byteOrder; // of binary and Fortran files; of plain binary it is tried
+    bool relaxed = false;               // of Fortran: records may be longer than the header says
 };
 
 /// The first thing that does not fit a reading, or is wrong with a file. What is not known is
@@ -66,8 +68,8 @@ struct Trial {
 struct ByteAccount {
     std::int64_t size = 0;
     std::int64_t used = 0;    // taken by the reading, markers included
-    std::int64_t missing = 0; // the reading goes on behind the file's end by so many; of text two for
-                              // each missing number, the least that it takes
+    std::int64_t missing = 0; // the reading goes on behind the file's end by so many; of text two
+                              // for each missing number, the least that it takes
     std::int64_t surplus = 0; // in the file, and not taken
 };
 
@@ -96,7 +98,8 @@ struct FileInfo {
     ByteAccount bytes;
     std::optional<FileProblem> problem; // why it is not ok
     std::vector<FileProblem> warnings;  // it is, but holds more than is taken from it, or the like
-    std::vector<Trial> trials;          // in their order, up to the one that fits and behind it
+    std::vector<Trial> trials;          // in their order, up to the one that fits and behind it;
+                                        // what a layout does not have is not tried
 };
 
 struct InspectOptions {
