@@ -213,7 +213,7 @@ TEST_F(ExistingZones, BeyondTheFilesAreDeletedAndTheOthersRenamed) {
 TEST_F(ExistingZones, ThatAreDeletedAreAnnounced) {
     const Plot3DFileHandler handler = step(nullptr, &solution("q", two));
     currentTask = createTaskProgressBar(1);
-    adjustExistingZones(2, handler, options, existingZoneCount);
+    EXPECT_TRUE(adjustExistingZones(2, handler, options, existingZoneCount));
     EXPECT_EQ(host().log().progress.texts(), Texts{"Adjusting existing zones"});
 }
 
