@@ -18,9 +18,6 @@ protected:
     static constexpr std::int64_t mostBytesOfBinary = 64 * 1024;
     static constexpr std::int64_t giga = std::int64_t{1} << 30;
 
-    CountedReads() { quorvia::quorutildataio::setFileSystem(&disk); }
-    ~CountedReads() override { quorvia::quorutildataio::setFileSystem(nullptr); }
-
     static std::string integers(std::initializer_list<std::int32_t> values) {
         std::string bytes;
         for (const std::int32_t value : values)
