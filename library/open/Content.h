@@ -24,6 +24,8 @@ struct FieldRecord_s {
     std::int64_t offset = 0;  // of a field in a file: bytes from the file's start
 };
 
+static_assert(sizeof(FieldRecord_s) == 24, "a series of many zones has millions of them");
+
 struct Content_s {
     std::string title;
     plot3d::AuxiliaryData auxiliaryData;

@@ -58,7 +58,7 @@ ErrorKind kindOf(const std::string& text) {
         return ErrorKind::NotFound;
     if (contains(text, "could not be read"))
         return ErrorKind::Unreadable;
-    if (contains(text, "Out of memory") || contains(text, "Out of Memory") ||
+    if (contains(text, "ut of memory") || contains(text, "Out of Memory") ||
         contains(text, "memory allocation error"))
         return ErrorKind::NoMemory;
     if (text.starts_with("Auto Detect cannot determine"))
@@ -75,13 +75,45 @@ std::string wordsWithoutDialog(const std::string& text) {
                : "No structure of a grid file fits the file.";
 }
 
-Error errorOf(const Message_s& message) {
-    const Said_s said = split(message.text);
-    ErrorFacts facts = ofFile(said.file);
-    const ErrorKind kind = kindOf(said.text);
-    if (!said.file.empty() && kind != ErrorKind::NotFound)
-        facts.next = commandOf({"plot3d", "info", said.file});
-    return Error(kind, wordsWithoutDialog(said.text), std::move(facts));
+/// What the errors say, each once: the add-on may tell a file twice, and first what failed and then
+/// in which file.
+std::vector<Said_s> errorsOf(const std::vector<Message_s>& messages) {
+    std::vector<Said_s> all;
+    for (const Message_s& message : messages) {
+        if (message.kind != MessageKind_e::Error)
+            continue;
+        Said_s said = split(message.text);
+        const auto isSame = [&said](const Said_s& other) { return other.text == said.text; };
+        if (std::none_of(all.begin(), all.end(), isSame))
+            all.push_back(std::move(said));
+    }
+    return all;
+}
+
+Error errorOf(const std::vector<Said_s>& errors) {
+    ErrorKind kind = ErrorKind::Refused;
+    std::string text;
+    std::string file;
+    for (const Said_s& said : errors) {
+        if (kind == ErrorKind::Refused)
+            kind = kindOf(said.text);
+        if (file.empty())
+            file = said.file;
+        text += (text.empty() ? "" : " ") + wordsWithoutDialog(said.text);
+    }
+    ErrorFacts facts = ofFile(file);
+    if (!file.empty() && kind != ErrorKind::NotFound)
+        facts.next = commandOf({"plot3d", "info", file});
+    return Error(kind, std::move(text), std::move(facts));
+}
+
+/// A look at all files of the load, unless these are too many for a line.
+std::string lookAtAll(const plot3d::FileLists& files) {
+    constexpr std::size_t mostNames = 10;
+    std::vector<std::string> words = {"plot3d", "info"};
+    for (const auto* list : {&files.grid, &files.solution, &files.function})
+        words.insert(words.end(), list->begin(), list->end());
+    return words.size() <= mostNames + 2 ? commandOf(words) : "";
 }
 
 bool contains(const std::vector<std::string>& files, const std::string& file) {
@@ -102,21 +134,24 @@ Error failureOf(const quorvia::host::LoadResult_s& result, const std::vector<Mes
         return Error(ErrorKind::Interrupted, "The load was stopped.");
     if (!result.hostError.empty())
         return Error(kindOf(result.hostError), onOneLine(result.hostError));
-    const auto first = std::find_if(messages.begin(), messages.end(), [](const Message_s& message) {
-        return message.kind == MessageKind_e::Error;
-    });
-    if (first != messages.end())
-        return errorOf(*first);
+    const std::vector<Said_s> errors = errorsOf(messages);
+    if (!errors.empty())
+        return errorOf(errors);
     return Error(ErrorKind::Refused, "The load was refused without a reason; its instructions have "
                                      "a word or a value that no load takes.");
 }
 
 Error explained(const Error& error, const plot3d::FileLists& files, const plot3d::Watch& watch) {
-    if (error.kind() != ErrorKind::NotPlot3D || error.facts().file.empty())
+    if (error.kind() != ErrorKind::NotPlot3D && error.kind() != ErrorKind::Refused)
         return error;
+    ErrorFacts facts = error.facts();
+    if (facts.file.empty()) {
+        facts.next = lookAtAll(files);
+        return Error(error.kind(), error.message(), std::move(facts));
+    }
     plot3d::InspectOptions options;
-    options.as = kindIn(files, error.facts().file);
-    const plot3d::FileInfo info = plot3d::inspect(error.facts().file, options, watch);
+    options.as = kindIn(files, facts.file);
+    const plot3d::FileInfo info = plot3d::inspect(facts.file, options, watch);
     return info.problem ? Error(error.kind(), info.problem->misfit.what, factsOf(info)) : error;
 }
 

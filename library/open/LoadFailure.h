@@ -15,7 +15,7 @@ namespace plot3dlib {
 plot3d::Error failureOf(const quorvia::host::LoadResult_s& result,
                         const std::vector<quorvia::host::Message_s>& messages);
 
-/// The same error with what a look into its file has found, where the file fits no structure.
+/// The same error with what a look into its file has found wrong there, or a command to type.
 plot3d::Error explained(const plot3d::Error& error, const plot3d::FileLists& files,
                         const plot3d::Watch& watch);
 
