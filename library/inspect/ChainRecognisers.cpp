@@ -16,7 +16,7 @@ FoundProblem recogniseChain(Evidence_s& evidence) {
         return std::nullopt;
     const bool isTaken = evidence.reading && !evidence.isGuessed;
     const std::int64_t size = evidence.file.size();
-    std::string what = counted(size - chain->secondAt, "byte") + " of " + grouped(size) +
+    std::string what = grouped(size - chain->secondAt) + " of " + counted(size, "byte") +
                        " stand behind the first grid: " + grouped(chain->grids) +
                        " grids without a count ahead of them";
     what += isTaken ? ", of which the first alone is taken." : ".";

@@ -52,7 +52,7 @@ Problem recogniseLongRealsWithRest(Evidence_s& evidence) {
         bytes.surplus > bytes.used / 2)
         return std::nullopt;
     Problem problem = problemOf(
-        counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
+        grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
             " stand behind 64-bit reals. Described by hand the file would be read as 32-bit reals.",
         counted(bytes.used, "byte"), counted(bytes.size, "byte"),
         copyBeginningCommand(evidence.file.name(), bytes.used));
@@ -66,13 +66,13 @@ Problem recogniseSurplus(Evidence_s& evidence) {
     if (bytes.surplus == 0)
         return std::nullopt;
     plot3d::Misfit misfit;
-    misfit.what = counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
+    misfit.what = grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
                   " stand behind the last grid.";
     misfit.byte = account.endOfTaken;
     misfit.expected = counted(bytes.used, "byte");
     misfit.found = counted(bytes.size, "byte");
     if (account.longRecord) {
-        misfit.what = counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
+        misfit.what = grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
                       " are not taken: record " + grouped(account.longRecord->record) +
                       " is longer than the header says.";
         misfit.byte = account.longRecord->position;

@@ -1,7 +1,6 @@
 // Fortran files of a form that is not read.
 #include <algorithm>
 #include <array>
-#include <bit>
 
 #include "inspect/Problems.h"
 #include "inspect/Recognisers.h"
@@ -52,8 +51,7 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
                   "integers of 4 bytes", found + " in 8 bytes each",
                   {"od", "-A", "d", "-t", "d8", "--endian=little", "-j", std::to_string(start),
                    "-N", std::to_string(record.recordLength), evidence.file.name()});
-    const bool isBig = evidence.form.byteSwap == (std::endian::native == std::endian::little);
-    if (isBig)
+    if (byteOrderOf(evidence.form) == plot3d::ByteOrder::Big)
         problem->next[5] = "--endian=big";
     problem->misfit.byte = start;
     return problem;

@@ -32,7 +32,7 @@ void tellForm(const io::Plot3DFileStructure_s& structure, plot3d::FileInfo& info
     case io::Plot3DEncoding_Unknown:
         return;
     }
-    info.byteOrder = orderOf(structure);
+    info.byteOrder = byteOrderOf(structure);
 }
 
 void tellReading(Evidence_s& evidence, plot3d::FileInfo& info) {

@@ -46,14 +46,6 @@ Words_s recordWords(const std::string& record, const io::Plot3DMisfit_s& misfit)
             bytes(misfit.found)};
 }
 
-Words_s layoutWords(const TrialNote_s& note) {
-    if (note.structure.hasIBlank)
-        return {"there is no I-blank in such a file", "", ""};
-    if (note.structure.isMultiGrid && note.structure.dataStructure == io::Plot3DDataStructure_1D)
-        return {"a 1-D file has no count of grids", "", ""};
-    return {"this layout does not have this style", "", ""};
-}
-
 Words_s headerWords(const TrialNote_s& note) {
     const io::Plot3DMisfit_s& misfit = note.misfit;
     switch (misfit.what) {
@@ -130,8 +122,6 @@ Words_s dataWords(const TrialNote_s& note) {
         return {"there is no record of variables", bytes(misfit.expected), "nothing"};
     case io::Plot3DMisfit_e::DataRecord:
         return recordWords("the variables of grid 1", misfit);
-    case io::Plot3DMisfit_e::NotInLayout:
-        return layoutWords(note);
     default:
         return headerWords(note);
     }
@@ -160,11 +150,9 @@ plot3d::Trial trialOf(const TrialNote_s& note, ExaminedFile& file) {
     misfit.what = std::move(words.what);
     misfit.expected = std::move(words.expected);
     misfit.found = std::move(words.found);
-    if (note.misfit.what != io::Plot3DMisfit_e::NotInLayout) {
-        misfit.byte = note.misfit.position;
-        if (note.structure.encoding == io::Plot3DEncoding_Ascii)
-            addLine(misfit, file, note.misfit.position);
-    }
+    misfit.byte = note.misfit.position;
+    if (note.structure.encoding == io::Plot3DEncoding_Ascii)
+        addLine(misfit, file, note.misfit.position);
     trial.misfit = std::move(misfit);
     return trial;
 }

@@ -105,7 +105,10 @@ plot3d::FileKind kindOf(const io::Plot3DFileStructure_s& structure) {
                                                        : plot3d::FileKind::Solution;
 }
 
-plot3d::ByteOrder orderOf(const io::Plot3DRecordForm_s& form) {
+std::optional<plot3d::ByteOrder> byteOrderOf(const io::Plot3DRecordForm_s& form) {
+    if (form.encoding != io::Plot3DEncoding_Binary &&
+        form.encoding != io::Plot3DEncoding_FortranUnformatted)
+        return std::nullopt;
     const bool isBig = form.byteSwap == (std::endian::native == std::endian::little);
     return isBig ? plot3d::ByteOrder::Big : plot3d::ByteOrder::Little;
 }
@@ -119,8 +122,8 @@ plot3d::Candidate candidateOf(const io::Plot3DFileStructure_s& structure) {
     candidate.multiGrid = structure.isMultiGrid;
     candidate.iBlank = structure.hasIBlank;
     candidate.precision = structure.isDoublePrecision ? 64 : 32;
-    if (structure.encoding != io::Plot3DEncoding_Ascii)
-        candidate.byteOrder = orderOf(structure);
+    candidate.byteOrder = byteOrderOf(structure);
+    candidate.relaxed = structure.relaxedChecks;
     return candidate;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,7 @@ struct Reading_s : io::Plot3DFileStructure_s {
 /// The reading that stands in a record whose header was accepted.
 Reading_s readingOf(const io::Plot3DFile_s& file);
 plot3d::FileKind kindOf(const io::Plot3DFileStructure_s& structure);
-/// Of binary and Fortran files.
-plot3d::ByteOrder orderOf(const io::Plot3DRecordForm_s& form);
+std::optional<plot3d::ByteOrder> byteOrderOf(const io::Plot3DRecordForm_s& form);
 plot3d::Candidate candidateOf(const io::Plot3DFileStructure_s& structure);
 
 enum class Part_e : std::uint8_t { Scalars, Variable, IBlank, Connectivity };

@@ -9,6 +9,7 @@ namespace plot3dlib {
 
 namespace {
 
+constexpr std::size_t fewGrids = 8;
 constexpr std::int64_t anySize = std::int64_t{1} << 62;
 
 /// A record without a name, which nothing needs that is not told at the host.
@@ -17,6 +18,7 @@ std::unique_ptr<io::Plot3DFile_s> recordOf(ExaminedFile& file, io::DetectionObse
     record->stream = file.stream();
     record->fileSize = file.size();
     record->observer = &observer;
+    record->gridDims.resize(fewGrids); // most files have no more, and need no long array
     return record;
 }
 
@@ -56,7 +58,8 @@ public:
         : Stopper(file), goesOnBehindFit_(goesOnBehindFit) {}
 
     bool takesTrial(const io::Plot3DFile_s& record, bool fits) override {
-        search_.trials.push_back({structureAlone(record), record.misfit, fits});
+        if (record.misfit.what != io::Plot3DMisfit_e::NotInLayout)
+            search_.trials.push_back({structureAlone(record), record.misfit, fits});
         if (fits)
             search_.readings.push_back(readingOf(record));
         return fits && !goesOnBehindFit_;

@@ -35,8 +35,7 @@ struct Scalars {
     std::optional<double> time;
 };
 
-/// One reading of a file that was tried. The encoding is sniffed ahead of all trials, with it the
-/// byte order of Fortran records.
+/// One reading of a file that was tried. `encoding` is sniffed ahead of all trials.
 struct Candidate {
     FileKind kind = FileKind::Grid;
     Layout layout = Layout::ThreeDWhole;
@@ -44,7 +43,8 @@ struct Candidate {
     bool multiGrid = false;
     bool iBlank = false;
     int precision = 32;                 // bits of a real
-    std::optional<ByteOrder> byteOrder; // of binary and Fortran files
+    std::optional<ByteOrder> byteOrder; // of binary and Fortran files; of plain binary it is tried
+    bool relaxed = false;               // of Fortran: records may be longer than the header says
 };
 
 /// The first thing that does not fit a reading, or is wrong with a file. What is not known is
@@ -98,7 +98,8 @@ struct FileInfo {
     ByteAccount bytes;
     std::optional<FileProblem> problem; // why it is not ok
     std::vector<FileProblem> warnings;  // it is, but holds more than is taken from it, or the like
-    std::vector<Trial> trials;          // in their order, up to the one that fits and behind it
+    std::vector<Trial> trials;          // in their order, up to the one that fits and behind it;
+                                        // what a layout does not have is not tried
 };
 
 struct InspectOptions {

@@ -52,7 +52,7 @@ TEST_F(RealFiles, TellsWhatStandsBehindARefusedSolution) {
     EXPECT_EQ(info.kind, FileKind::Solution);
     EXPECT_EQ(firstGrid(info), (GridSize{40, 32, 32}));
     EXPECT_EQ(info.bytes.surplus, 484);
-    EXPECT_EQ(problemOf(info), "484 bytes of 819,712 stand behind the last grid.");
+    EXPECT_EQ(problemOf(info), "484 of 819,712 bytes stand behind the last grid.");
     EXPECT_EQ(nextOf(*info.problem, info),
               "plot3d stats --solution FILE --set AUTODETECT=No --set DATASTRUCTURE=3DW --set "
               "STYLE=PLOT3DCLASSIC --set ISMULTIGRID=No");

@@ -68,7 +68,7 @@ TEST_F(SpoiltBinary, WithBytesBehindItIsRefusedAndDescribedByHand) {
     const FileInfo info = inspectSpoilt(good + std::string(10, '\x01'), "wing.q");
     EXPECT_FALSE(info.ok);
     EXPECT_EQ(info.bytes.surplus, 10);
-    EXPECT_EQ(problemOf(info), "10 bytes of 638 stand behind the last grid.");
+    EXPECT_EQ(problemOf(info), "10 of 638 bytes stand behind the last grid.");
     EXPECT_EQ(info.problem->misfit.byte, std::ssize(good));
     EXPECT_EQ(nextOf(*info.problem, info),
               "plot3d stats --solution FILE --set AUTODETECT=No --set DATASTRUCTURE=3DW --set "
@@ -93,7 +93,7 @@ TEST_F(SpoiltBinary, WithRecordsBehindTheLastGridIsWarnedOf) {
     const FileInfo info = inspectSpoilt(good + record("12345678") + record("1234"));
     EXPECT_TRUE(info.ok);
     EXPECT_EQ(info.bytes.surplus, 16 + 12);
-    EXPECT_EQ(warningOf(info), "28 bytes of 416 stand behind the last grid, in 2 records.");
+    EXPECT_EQ(warningOf(info), "28 of 416 bytes stand behind the last grid, in 2 records.");
 }
 
 TEST_F(SpoiltBinary, WithALongerRecordOfALaterGridIsWarnedOf) {
@@ -103,7 +103,7 @@ TEST_F(SpoiltBinary, WithALongerRecordOfALaterGridIsWarnedOf) {
     EXPECT_TRUE(info.ok);
     EXPECT_EQ(info.bytes.surplus, 8);
     EXPECT_EQ(warningOf(info),
-              "8 bytes of 500 are not taken: record 4 is longer than the header says.");
+              "8 of 500 bytes are not taken: record 4 is longer than the header says.");
 }
 
 TEST_F(SpoiltBinary, WithAShorterRecordOfALaterGridIsRefused) {

@@ -99,7 +99,7 @@ TEST_F(SpoiltText, OfGridsWithoutACountIsTakenAndWarnedOf) {
     EXPECT_EQ(info.bytes.surplus, std::ssize(rest));
     ASSERT_EQ(info.warnings.size(), 1U);
     EXPECT_EQ(warningOf(info),
-              "1,878 bytes of 2,678 stand behind the first grid: 3 grids without a "
+              "1,878 of 2,678 bytes stand behind the first grid: 3 grids without a "
               "count ahead of them, of which the first alone is taken.");
     EXPECT_EQ(info.warnings[0].next.back(), "skip=" + std::to_string(first.size()));
 }
