@@ -60,6 +60,20 @@ Problem recogniseLongRealsWithRest(Evidence_s& evidence) {
     return problem;
 }
 
+/// Bytes that are no record make a Fortran file pass for plain binary.
+Problem recogniseRestOfRecords(Evidence_s& evidence) {
+    const plot3d::ByteAccount& bytes = evidence.account->bytes;
+    if (!evidence.isGuessed || bytes.surplus == 0 ||
+        evidence.form.encoding != io::Plot3DEncoding_FortranUnformatted)
+        return std::nullopt;
+    Problem problem = problemOf(grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
+                                    " stand behind the last record, and are none.",
+                                counted(bytes.used, "byte"), counted(bytes.size, "byte"),
+                                copyBeginningCommand(evidence.file.name(), bytes.used));
+    problem->misfit.byte = bytes.used;
+    return problem;
+}
+
 Problem recogniseSurplus(Evidence_s& evidence) {
     const Account_s& account = *evidence.account;
     const plot3d::ByteAccount& bytes = account.bytes;
@@ -89,8 +103,9 @@ Problem recogniseSurplus(Evidence_s& evidence) {
                                                           : whyCommand(evidence)};
 }
 
-constexpr std::array<Recogniser, 4> table = {recogniseShortRecord, recogniseTruncated,
-                                             recogniseLongRealsWithRest, recogniseSurplus};
+constexpr std::array<Recogniser, 5> table = {recogniseShortRecord, recogniseTruncated,
+                                             recogniseLongRealsWithRest, recogniseRestOfRecords,
+                                             recogniseSurplus};
 
 } // namespace
 

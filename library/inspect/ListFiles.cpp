@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "inspect/Words.h"
+#include "inspect/Problems.h"
 
 namespace plot3dlib {
 
@@ -100,9 +100,8 @@ private:
         return refuse(isBoundaryFile ? "This version of boundary files is not read."
                                      : "The file does not begin as a boundary file does.",
                       "FVBND 1 4", found,
-                      isBoundaryFile
-                          ? std::vector<std::string>{"sed", "-i", "1s/.*/FVBND 1 4/", file_.name()}
-                          : std::vector<std::string>{"head", "-n", "3", file_.name()});
+                      isBoundaryFile ? editCommand("1s/.*/FVBND 1 4/", file_.name())
+                                     : std::vector<std::string>{"head", "-n", "3", file_.name()});
     }
 
     bool takeNames() {

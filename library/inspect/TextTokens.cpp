@@ -23,47 +23,51 @@ bool passes32Bits(std::string_view integer) {
 
 } // namespace
 
-TextTokens::State_e TextTokens::next(State_e state, char character) {
-    const bool isDigit = io::isDigit(character);
-    const bool isLetter = io::isExponentLetter(character);
-    const bool isSign = character == '+' || character == '-';
-    switch (state) {
-    case State_e::Between:
-        return isDigit            ? State_e::Digits
-               : isSign           ? State_e::Sign
-               : character == '.' ? State_e::Point
-                                  : State_e::Broken;
-    case State_e::Sign:
-        return isDigit ? State_e::Digits : character == '.' ? State_e::Point : State_e::Broken;
-    case State_e::Digits:
-        return isDigit            ? State_e::Digits
-               : character == '.' ? State_e::Fraction
-               : isLetter         ? State_e::Letter
-                                  : State_e::Broken;
-    case State_e::Point:
-        return isDigit ? State_e::Fraction : State_e::Broken;
-    case State_e::Fraction:
-        return isDigit ? State_e::Fraction : isLetter ? State_e::Letter : State_e::Broken;
-    case State_e::Letter:
-        return isDigit ? State_e::Exponent : isSign ? State_e::ExponentSign : State_e::Broken;
-    case State_e::ExponentSign:
-    case State_e::Exponent:
-        return isDigit ? State_e::Exponent : State_e::Broken;
-    case State_e::Broken:
-        break;
+constexpr TextTokens::Tables_s TextTokens::makeTables() {
+    Tables_s made;
+    for (std::size_t index = 0; index < made.classes.size(); ++index) {
+        const int character = static_cast<int>(index);
+        made.classes[index] = io::isSeparator(character)             ? Class_e::Separator
+                              : io::isDigit(character)               ? Class_e::Digit
+                              : io::isExponentLetter(character)      ? Class_e::Letter
+                              : character == '+' || character == '-' ? Class_e::Sign
+                              : character == '.'                     ? Class_e::Point
+                              : character == '*'                     ? Class_e::Star
+                                                                     : Class_e::Other;
     }
-    return State_e::Broken;
+    for (auto& row : made.next)
+        row.fill(State_e::Broken);
+    const auto lead = [&](State_e from, Class_e character, State_e to) {
+        made.next[static_cast<std::size_t>(from)][static_cast<std::size_t>(character)] = to;
+    };
+    lead(State_e::Between, Class_e::Digit, State_e::Digits);
+    lead(State_e::Between, Class_e::Sign, State_e::Sign);
+    lead(State_e::Between, Class_e::Point, State_e::Point);
+    lead(State_e::Sign, Class_e::Digit, State_e::Digits);
+    lead(State_e::Sign, Class_e::Point, State_e::Point);
+    lead(State_e::Digits, Class_e::Digit, State_e::Digits);
+    lead(State_e::Digits, Class_e::Point, State_e::Fraction);
+    lead(State_e::Digits, Class_e::Letter, State_e::Letter);
+    lead(State_e::Point, Class_e::Digit, State_e::Fraction);
+    lead(State_e::Fraction, Class_e::Digit, State_e::Fraction);
+    lead(State_e::Fraction, Class_e::Letter, State_e::Letter);
+    lead(State_e::Letter, Class_e::Digit, State_e::Exponent);
+    lead(State_e::Letter, Class_e::Sign, State_e::ExponentSign);
+    lead(State_e::ExponentSign, Class_e::Digit, State_e::Exponent);
+    lead(State_e::Exponent, Class_e::Digit, State_e::Exponent);
+    return made;
 }
+
+constinit const TextTokens::Tables_s TextTokens::tables = TextTokens::makeTables();
 
 bool TextTokens::isRepeatable(State_e state) {
     return state == State_e::Digits || state == State_e::Fraction || state == State_e::Exponent;
 }
 
-TokenKind_e TextTokens::kindOfText() const {
-    const std::string_view text(text_.data(), length_);
-    if (!isRepeatable(state_) || text.size() == longestText)
+TokenKind_e TextTokens::kindOf(State_e state, std::string_view text) {
+    if (!isRepeatable(state) || text.size() == longestText)
         return TokenKind_e::Broken;
-    if (state_ != State_e::Digits)
+    if (state != State_e::Digits)
         return TokenKind_e::Real;
     return passes32Bits(text) ? TokenKind_e::TooBig : TokenKind_e::Integer;
 }

@@ -30,9 +30,15 @@ public:
     /// `taker(const Token_s&)`.
     template <typename Taker>
     void take(std::string_view piece, std::int64_t position, Taker taker) {
-        for (const char character : piece) {
-            step(character, position, taker);
-            ++position;
+        const char* const begin = piece.data();
+        const char* const end = begin + piece.size();
+        for (const char* next = begin; next < end;) {
+            if (isBetweenTokens())
+                next = takeWholeTokens(next, end, position + (next - begin), taker);
+            if (next < end) {
+                step(*next, position + (next - begin), taker);
+                ++next;
+            }
         }
     }
     /// The end of the file, at this position.
@@ -56,36 +62,77 @@ private:
         Exponent,
         Broken
     };
+    enum class Class_e : std::uint8_t { Separator, Digit, Sign, Point, Letter, Star, Other };
     static constexpr std::size_t longestText = 41; // one more than a token may have
 
-    static State_e next(State_e state, char character);
+    struct Tables_s {
+        std::array<Class_e, 256> classes{};
+        std::array<std::array<State_e, 7>, 9> next{};
+    };
+    static constexpr Tables_s makeTables();
+    static const Tables_s tables;
+
+    static Class_e classOf(char character) {
+        return tables.classes[static_cast<unsigned char>(character)];
+    }
+    static State_e next(State_e state, Class_e character) {
+        return tables.next[static_cast<std::size_t>(state)][static_cast<std::size_t>(character)];
+    }
     static bool isRepeatable(State_e state);
-    TokenKind_e kindOfText() const;
+    static TokenKind_e kindOf(State_e state, std::string_view text);
     void beginRepeat();
+
+    bool isBetweenTokens() const { return state_ == State_e::Between && !isRepeating_; }
+
+    /// Gives where a token begins that has a repeat count or goes on behind the end.
+    template <typename Taker>
+    const char* takeWholeTokens(const char* begin, const char* end, std::int64_t position,
+                                Taker taker) {
+        const char* token = begin;
+        while (true) {
+            while (token < end && classOf(*token) == Class_e::Separator)
+                ++token;
+            State_e state = State_e::Between;
+            const char* behind = token;
+            Class_e character = Class_e::Other;
+            for (; behind < end; ++behind) {
+                character = classOf(*behind);
+                if (character == Class_e::Separator || character == Class_e::Star)
+                    break;
+                state = next(state, character);
+            }
+            if (behind == end || character == Class_e::Star)
+                return token;
+            const auto length = static_cast<std::size_t>(behind - token);
+            const std::string_view text(token, length < longestText ? length : longestText);
+            taker(Token_s{kindOf(state, text), position + (token - begin),
+                          position + (behind - begin), 1, text});
+            token = behind;
+        }
+    }
 
     template <typename Taker>
     void step(char character, std::int64_t position, Taker taker) {
-        const bool separates = character == ' ' || character == '\n' || character == '\r' ||
-                               character == '\t' || character == ',';
-        if (separates) {
+        const Class_e kind = classOf(character);
+        if (kind == Class_e::Separator) {
             if (state_ != State_e::Between)
                 endToken(position, taker);
             return;
         }
         if (state_ == State_e::Between && !isRepeating_)
             start_ = position;
-        if (character == '*' && isRepeatable(state_)) {
+        if (kind == Class_e::Star && isRepeatable(state_)) {
             beginRepeat();
             return;
         }
-        state_ = next(state_, character);
+        state_ = next(state_, kind);
         if (length_ < longestText)
             text_[length_++] = character;
     }
 
     template <typename Taker>
     void endToken(std::int64_t position, Taker taker) {
-        giveToken(kindOfText(), position, taker);
+        giveToken(kindOf(state_, std::string_view(text_.data(), length_)), position, taker);
     }
 
     template <typename Taker>

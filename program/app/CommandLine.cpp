@@ -124,6 +124,8 @@ CommandPage_s DeclaredCommand::page() const {
 
 void DeclaredCommand::refuseUnknown() const {
     for (const std::string& word : app_->remaining()) {
+        if (word == "--") // what follows are files, whatever they begin with
+            continue;
         if (word.size() < 2 || word.front() != '-')
             throw UsageError(fmt::format("plot3d {} takes no argument \"{}\"; plot3d {} --help "
                                          "tells what it takes",

@@ -33,10 +33,18 @@ std::vector<std::string> namesOf(const CLI::Option& option) {
     return names;
 }
 
+/// Without what validators add to it behind a colon, which is for programmers.
+std::string valueNameOf(const CLI::Option& option) {
+    if (option.get_type_size() == 0)
+        return {};
+    const std::string name = option.get_type_name();
+    return name.substr(0, name.find(':'));
+}
+
 OptionRow_s rowOf(const CLI::Option& option) {
     OptionRow_s row;
     row.names = namesOf(option);
-    row.value = option.get_type_size() == 0 ? "" : option.get_type_name();
+    row.value = valueNameOf(option);
     row.text = option.get_description();
     std::replace(row.text.begin(), row.text.end(), '\n', ' ');
     row.group = option.get_group();

@@ -109,6 +109,7 @@ void writeCandidate(JsonStream& json, const Candidate& candidate, bool isText) {
     member(json, "iBlank", candidate.iBlank);
     member(json, "precision", onlyIf(!isText, candidate.precision));
     word(json, "byteOrder", candidate.byteOrder);
+    member(json, "relaxed", candidate.relaxed);
     json.endObject();
 }
 

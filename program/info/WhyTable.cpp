@@ -1,6 +1,5 @@
 #include "info/WhyTable.h"
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -8,7 +7,6 @@
 #include <fmt/core.h>
 
 #include "console/TextGrid.h"
-#include "console/Words.h"
 #include "info/InfoWords.h"
 
 namespace plot3d::program {
@@ -34,13 +32,7 @@ bool failAlike(const Trial& one, const Trial& other) {
     const Candidate& b = other.candidate;
     return one.misfit && other.misfit && a.kind == b.kind && a.layout == b.layout &&
            a.style == b.style && a.multiGrid == b.multiGrid && a.byteOrder == b.byteOrder &&
-           isSame(*one.misfit, *other.misfit);
-}
-
-/// Nothing of the file was looked at: a combination that there is not.
-bool isImpossible(const Trial& trial) {
-    return trial.misfit && !trial.misfit->byte && !trial.misfit->line &&
-           trial.misfit->expected.empty() && trial.misfit->found.empty();
+           a.relaxed == b.relaxed && isSame(*one.misfit, *other.misfit);
 }
 
 void join(Row_s& row, const std::vector<Trial>& trials, std::size_t index) {
@@ -54,8 +46,6 @@ void join(Row_s& row, const std::vector<Trial>& trials, std::size_t index) {
 std::vector<Row_s> shortRowsOf(const std::vector<Trial>& trials) {
     std::vector<Row_s> rows;
     for (std::size_t index = 0; index < trials.size(); ++index) {
-        if (isImpossible(trials[index]))
-            continue;
         if (!rows.empty() && failAlike(trials[rows.back().first], trials[index]))
             join(rows.back(), trials, index);
         else
@@ -92,6 +82,8 @@ std::string readingText(const Row_s& row, const Candidate& candidate, const File
             row.hasBothPrecisions ? ", any reals" : fmt::format(", {}-bit", candidate.precision);
     if (candidate.byteOrder && info.encoding == Encoding::Binary) // of records it is known ahead
         text += fmt::format(", {}-endian", wordOf(*candidate.byteOrder));
+    if (candidate.relaxed)
+        text += ", longer records allowed";
     return text;
 }
 
@@ -115,11 +107,6 @@ void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroun
     }
     surroundings.out << '\n';
     table.print(surroundings.out, surroundings.outColumns, {surroundings.colour});
-    const auto leftOut = std::count_if(info.trials.begin(), info.trials.end(), isImpossible);
-    if (lists == Lists_e::Shortened && leftOut > 0)
-        surroundings.out << fmt::format("  left out: {} that no file can have; --all shows each "
-                                        "reading by itself\n",
-                                        console::counted(leftOut, "reading", "readings"));
 }
 
 } // namespace plot3d::program

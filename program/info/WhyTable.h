@@ -8,8 +8,7 @@
 
 namespace plot3d::program {
 
-/// Shortened: readings that follow one another and fail alike stand in one row, and those that no
-/// file can have are counted only.
+/// Shortened: readings that follow one another and fail alike stand in one row.
 void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
 
 } // namespace plot3d::program

@@ -35,8 +35,7 @@ struct Scalars {
     std::optional<double> time;
 };
 
-/// One reading of a file that was tried. The encoding is sniffed ahead of all trials, with it the
-/// byte order of Fortran records.
+/// One reading of a file that was tried. `encoding` is sniffed ahead of all trials.
 struct Candidate {
     FileKind kind = FileKind::Grid;
     Layout layout = Layout::ThreeDWhole;

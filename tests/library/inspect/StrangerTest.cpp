@@ -91,7 +91,7 @@ TEST_F(Stranger, BoundaryFileIsToldWithItsNames) {
 
 TEST_F(Stranger, BoundaryFileOfAnotherVersionIsRefused) {
     EXPECT_EQ(told("FVBND 1 3\nwall\nBOUNDARIES\n1 1 1 $ 1 1 1 $ F 0\n", "wing.x.fvbnd"),
-              "This version of boundary files is not read. | sed -i 1s/.*/FVBND 1 4/ FILE");
+              "This version of boundary files is not read. | sed -E -i.bak 1s/.*/FVBND 1 4/ FILE");
     EXPECT_EQ(told("FVBND 1 4\nwall\nBOUNDARIES\n1 1 1 $ 1 1 1\n", "wing.x.fvbnd"),
               "A boundary has too few words. | sed -n 4p FILE");
     EXPECT_EQ(told("FVBND 1 4\nwall\nBOUNDARIES\n2 1 1 $ 1 1 1 $ F 0\n", "wing.x.fvbnd"),
