@@ -43,4 +43,14 @@ void FaultPlan::clear() {
     endInterruption();
 }
 
+void FaultPlan::swap(FaultPlan& other) noexcept {
+    calls_.swap(other.calls_);
+    failures_.swap(other.failures_);
+    std::swap(steps_, other.steps_);
+    std::swap(interruptAt_, other.interruptAt_);
+    std::swap(wasInterrupted_, other.wasInterrupted_);
+    const bool isInterrupted = interrupted_.exchange(other.interrupted_, std::memory_order_relaxed);
+    other.interrupted_.store(isInterrupted, std::memory_order_relaxed);
+}
+
 } // namespace quorvia::host

@@ -13,14 +13,16 @@
 
 namespace quorvia::host {
 
-/// Gives out identities, from 1; none comes twice.
+/// Gives out identities; none comes twice.
 class IdSource {
 public:
+    /// The first one follows on `last`.
+    explicit IdSource(std::int64_t last = 0) : last_(last) {}
     std::int64_t next() { return ++last_; }
     std::int64_t last() const { return last_; }
 
 private:
-    std::int64_t last_ = 0;
+    std::int64_t last_;
 };
 
 struct Variable_s {

@@ -7,7 +7,7 @@ namespace {
 
 // The auxiliary data of a zone or data set; null if its owner is gone.
 AuxData* auxDataOf(const HostState_s& host, std::int64_t ownerId) {
-    DataSet* data = host.frame.dataSet();
+    DataSet* data = host.frame().dataSet();
     if (data == nullptr)
         return nullptr;
     if (data->uniqueId() == ownerId)
@@ -40,7 +40,7 @@ extern "C" {
 QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone) {
     Call call("QuorUtilAuxDataZoneGetRef", zone);
     return call.serve(QuorAuxDataHandle{}, [&] {
-        const DataSet* data = call.host().frame.dataSet();
+        const DataSet* data = call.host().frame().dataSet();
         const Zone_s* found = data != nullptr ? data->zone(zone) : nullptr;
         return found != nullptr ? referTo(call, found->uniqueId) : nullptr;
     });
@@ -49,7 +49,7 @@ QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone) {
 QuorAuxDataHandle QuorUtilAuxDataDataSetGetRef() {
     Call call("QuorUtilAuxDataDataSetGetRef");
     return call.serve(QuorAuxDataHandle{}, [&] {
-        const DataSet* data = call.host().frame.dataSet();
+        const DataSet* data = call.host().frame().dataSet();
         return data != nullptr ? referTo(call, data->uniqueId()) : nullptr;
     });
 }

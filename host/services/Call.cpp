@@ -15,7 +15,7 @@ bool Call::fails() noexcept {
 }
 
 DataSet* Call::dataSet() noexcept {
-    DataSet* found = host_.frame.dataSet();
+    DataSet* found = host_.frame().dataSet();
     if (found == nullptr)
         violate("there is no data set");
     return found;

@@ -18,7 +18,7 @@ bool createDataSet(Call& call, QuorArgListHandle arguments) {
     std::vector<std::string> variableNames;
     for (const std::optional<std::string>& name : list->strings)
         variableNames.push_back(name.value_or(""));
-    call.host().frame.createDataSet(std::move(loaderName), std::move(title), variableNames);
+    call.host().frame().createDataSet(std::move(loaderName), std::move(title), variableNames);
     return true;
 }
 
@@ -61,7 +61,7 @@ bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*cou
     if (numbers == nullptr)
         return call.result(call.violate("reference is null"));
     *numbers = call.withinMemory(QuorSetHandle{}, [&]() -> QuorSetHandle {
-        const DataSet* data = call.host().frame.dataSet();
+        const DataSet* data = call.host().frame().dataSet();
         if (data == nullptr) {
             call.refuse("there is no data set");
             return nullptr;
@@ -78,7 +78,7 @@ bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*cou
 }
 
 bool giveInfo(Call& call, char** title, std::int32_t* zoneCount, std::int32_t* varCount) {
-    const DataSet* data = call.host().frame.dataSet();
+    const DataSet* data = call.host().frame().dataSet();
     if (data == nullptr)
         return call.refuse("there is no data set");
     if (title != nullptr)
@@ -98,7 +98,7 @@ extern "C" {
 
 bool QuorUtilDataSetIsAvailable() {
     Call call("QuorUtilDataSetIsAvailable");
-    return call.result(call.host().frame.dataSet() != nullptr);
+    return call.result(call.host().frame().dataSet() != nullptr);
 }
 
 bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t* varCount) {
@@ -107,8 +107,8 @@ bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t*
         *title = nullptr;
     const bool isGiven = call.serve([&] { return giveInfo(call, title, zoneCount, varCount); });
     if (isGiven) {
-        call.out(call.host().frame.dataSet()->zoneCount());
-        call.out(call.host().frame.dataSet()->variableCount());
+        call.out(call.host().frame().dataSet()->zoneCount());
+        call.out(call.host().frame().dataSet()->variableCount());
     }
     return isGiven;
 }
@@ -135,7 +135,7 @@ bool QuorUtilDataSetDeleteVar(QuorSetHandle vars) {
 
 std::int32_t QuorUtilDataSetGetMaxStrandID() {
     Call call("QuorUtilDataSetGetMaxStrandID");
-    const DataSet* data = call.host().frame.dataSet();
+    const DataSet* data = call.host().frame().dataSet();
     return call.result(data != nullptr ? data->maxStrandId() : 0);
 }
 

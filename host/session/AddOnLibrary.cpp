@@ -9,6 +9,7 @@
 #include <dlfcn.h>
 
 #include "model/Room.h"
+#include "session/GuestEntry.h"
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
 
@@ -17,7 +18,6 @@ namespace quorvia::host {
 namespace {
 
 constexpr const char* entryName = "InitQuorAddOn113";
-using Entry = void (*)();
 
 std::string lastLinkError() {
     const char* text = dlerror();
@@ -100,18 +100,8 @@ std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::s
         error = "The library " + path + " is no add-on: it does not export " + entryName + ".";
         return nullptr;
     }
-    GuestWatch watch(host);
-    try {
-        reinterpret_cast<Entry>(entry)();
-        watch.checkBalances();
-    } catch (const std::bad_alloc&) {
-        watch.checkBalances();
-        error = "Out of memory.";
+    if (!enterGuest(reinterpret_cast<GuestEntry>(entry), "add-on " + path, error))
         return nullptr;
-    } catch (...) {
-        error = "The entry of the add-on " + path + " has thrown an exception.";
-        return nullptr;
-    }
     return library;
 }
 
@@ -127,7 +117,8 @@ void AddOnLibrary::unload() {
     const void* library = entry != nullptr ? libraryOf(entry) : nullptr;
     if (library != nullptr) {
         forgetCallbacksOf(host, library);
-        emptyFieldsOf(host.frame.dataSet(), library);
+        for (const std::unique_ptr<Frame>& frame : host.frames.all())
+            emptyFieldsOf(frame->dataSet(), library);
     }
     dlclose(handle_);
     handle_ = nullptr;

@@ -123,7 +123,12 @@ LoadResult_s runSelection(HostState_s& host, const std::vector<std::string>& fil
 LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions) {
     if (host.loaders.empty())
         return notRun("No data loader is registered.");
-    const QuorLoaderCallback load = host.loaders.back().load;
+    return runInstructions(host, instructions, host.loaders.back());
+}
+
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions,
+                             const Loader_s& loader) {
+    const QuorLoaderCallback load = loader.load; // the guest may register another
     return runLoader(host, instructions, load);
 }
 

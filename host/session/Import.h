@@ -12,5 +12,7 @@ namespace quorvia::host {
 LoadResult_s runSelection(HostState_s& host, const std::vector<std::string>& files, bool advanced,
                           bool append);
 LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions);
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions,
+                             const Loader_s& loader);
 
 } // namespace quorvia::host

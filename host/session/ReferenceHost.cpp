@@ -81,7 +81,7 @@ ReferenceHost& ReferenceHost::instance() {
 
 void ReferenceHost::reset() {
     HostState_s& host = state_;
-    host.frame.startAnew();
+    host.frames.startAnew();
     host.cache.dropAll();
     host.settings = {};
     host.log = HostLog_s();
@@ -112,7 +112,23 @@ const HostLog_s& ReferenceHost::log() const {
 }
 
 Frame& ReferenceHost::frame() {
-    return state_.frame;
+    return state_.frame();
+}
+
+const std::vector<std::unique_ptr<Frame>>& ReferenceHost::frames() const {
+    return state_.frames.all();
+}
+
+Frame& ReferenceHost::addFrame() {
+    return state_.frames.add();
+}
+
+void ReferenceHost::makeCurrent(Frame& frame) {
+    state_.frames.makeCurrent(frame);
+}
+
+void ReferenceHost::closeFrame(Frame& frame) {
+    state_.frames.close(frame);
 }
 
 std::int64_t ReferenceHost::lockDepth() const {
@@ -141,6 +157,11 @@ LoadResult_s ReferenceHost::importSelection(const std::vector<std::string>& file
 
 LoadResult_s ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
     return import([&] { return runInstructions(state_, instructions); });
+}
+
+LoadResult_s ReferenceHost::importInstructions(const std::vector<std::string>& instructions,
+                                               const Loader_s& loader) {
+    return import([&] { return runInstructions(state_, instructions, loader); });
 }
 
 void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
@@ -173,7 +194,7 @@ bool ReferenceHost::interruptRequested() const noexcept {
 
 FetchResult_s ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
     FetchResult_s result;
-    const DataSet* data = state_.frame.dataSet();
+    const DataSet* data = state_.frame().dataSet();
     const Field_s* field = data != nullptr ? data->field(zone, variable) : nullptr;
     if (field == nullptr || field->storage == nullptr) {
         result.error = field == nullptr ? "There is no such field." : "The field is empty.";
@@ -193,7 +214,7 @@ FetchResult_s ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
 }
 
 bool ReferenceHost::unload(std::int32_t zone, std::int32_t variable) {
-    const DataSet* data = state_.frame.dataSet();
+    const DataSet* data = state_.frame().dataSet();
     const Field_s* field = data != nullptr ? data->field(zone, variable) : nullptr;
     return field != nullptr && field->storage != nullptr && state_.cache.drop(*field->storage);
 }

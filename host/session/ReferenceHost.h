@@ -1,5 +1,5 @@
-// The reference host as its programs and tests see it: one frame, the services that a guest calls,
-// and what a user does at the host: import files, answer questions, look at values, interrupt.
+// The reference host as its programs and tests see it: frames, the services that a guest calls, and
+// what a user does at the host: import files, answer questions, look at values, interrupt.
 // Everything runs on the thread of the caller; requestInterrupt and interruptRequested alone may
 // come from elsewhere.
 #pragma once
@@ -44,7 +44,8 @@ public:
     ReferenceHost(const ReferenceHost&) = delete;
     ReferenceHost& operator=(const ReferenceHost&) = delete;
 
-    /// Everything as at the start: the data set is discarded (with its clean-up callbacks),
+    /// Everything as at the start: the data sets are discarded (with their clean-up callbacks), and
+    /// all frames but the first,
     /// settings, log, script, faults and counts are new, unique ids begin again, the lock is free,
     /// and the user is the scripted one. Loaders, state-change callbacks, dialogs (closed, with
     /// their values) and the handles of guests stay; what is held from before is no concern of
@@ -55,7 +56,16 @@ public:
 
     HostSettings_s& settings();
     const HostLog_s& log() const;
+    /// The current one: imports go there, and fetches go by its numbers.
     Frame& frame();
+    /// All of them; the first one is there always.
+    const std::vector<std::unique_ptr<Frame>>& frames() const;
+    /// An empty frame; the current one stays. Throws std::bad_alloc.
+    Frame& addFrame();
+    void makeCurrent(Frame& frame);
+    /// Ends the frame and its data set, with the clean-up callbacks. If it was current, the first
+    /// one is from now on; of the first frame the data set alone ends.
+    void closeFrame(Frame& frame);
     /// How deep the guest holds the host's lock, by all its means together.
     std::int64_t lockDepth() const;
     /// Bytes of values fetched on demand that are in memory now.
@@ -70,6 +80,9 @@ public:
     LoadResult_s importSelection(const std::vector<std::string>& files, bool advanced, bool append);
     /// Hands the loader instructions, as a macro or a layout does.
     LoadResult_s importInstructions(const std::vector<std::string>& instructions);
+    /// The same for a loader that need not be the last one: one of loaders(), or a copy.
+    LoadResult_s importInstructions(const std::vector<std::string>& instructions,
+                                    const Loader_s& loader);
 
     /// Who answers the host and works with its dialogs: `user`, which must live on; null for the
     /// scripted user, who does at first.

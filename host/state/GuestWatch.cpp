@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
@@ -90,15 +91,18 @@ void GuestWatch::reportBlocks() {
 }
 
 bool GuestWatch::isAnyBlockClientData() const {
-    const DataSet* data = host_.frame.dataSet();
-    if (data == nullptr)
-        return false;
     const auto holdsBlock = [this](const Field_s& field) {
         const Deferral* deferral = field.storage != nullptr ? field.storage->deferral() : nullptr;
         return deferral != nullptr && host_.memory.contains(deferral->clientData());
     };
-    return std::any_of(data->zones().begin(), data->zones().end(), [&](const auto& zone) {
+    const auto hasSuchAField = [&](const std::unique_ptr<Zone_s>& zone) {
         return std::any_of(zone->fields.begin(), zone->fields.end(), holdsBlock);
+    };
+    const auto& frames = host_.frames.all();
+    return std::any_of(frames.begin(), frames.end(), [&](const std::unique_ptr<Frame>& frame) {
+        const DataSet* const data = frame->dataSet();
+        return data != nullptr &&
+               std::any_of(data->zones().begin(), data->zones().end(), hasSuchAField);
     });
 }
 

@@ -14,7 +14,7 @@
 #include "checks/TextParts.h"
 #include "checks/Transcript.h"
 #include "model/FieldCache.h"
-#include "model/Frame.h"
+#include "model/FrameList.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
 #include "state/Loader.h"
@@ -48,8 +48,11 @@ struct HostState_s {
     ScriptedUser script;
     User* user = &script; // never null
 
-    FieldCache cache; // outlives the frame, whose fields it counts
-    Frame frame;
+    FieldCache cache; // outlives the frames, whose fields it counts
+    FrameList frames;
+
+    /// The current one.
+    Frame& frame() const { return frames.current(); }
 
     std::int64_t lockDepth() const { return entryLockDepth + guestLockDepth; }
     /// A breach of the contract by the guest, put together from parts (checks/TextParts). Needs no

@@ -68,7 +68,7 @@ void inspectData(Evidence_s& evidence, const plot3d::InspectOptions& options,
     if (evidence.form.encoding == io::Plot3DEncoding_Unknown)
         return; // a read has failed, which is told at the end
     Choice_s choice = chooseReading(evidence, options.allReadings);
-    if (!evidence.reading)
+    if (!guessCutRecords(evidence) && !evidence.reading)
         guessReading(evidence);
     if (evidence.reading)
         tellReading(evidence, info);
@@ -98,7 +98,7 @@ void inspectOpened(ExaminedFile& file, const plot3d::InspectOptions& options,
     info.bytes = {file.size(), 0, 0, file.size()};
     Evidence_s evidence(file);
     evidence.expectedKind = options.as ? options.as : kindOfName(file.name());
-    if (tellStranger(evidence, info) || isListFile(file, evidence.expectedKind, info))
+    if (isListFile(file, evidence.expectedKind, info) || tellStranger(evidence, info))
         return;
     inspectData(evidence, options, info);
 }

@@ -19,9 +19,18 @@ std::span<const Recogniser> strangerRecognisers();
 std::span<const Recogniser> textRecognisers();
 std::span<const Recogniser> binaryRecognisers();
 std::span<const Recogniser> fortranRecognisers();
+/// Of any encoding: given as another kind than it is; with a header that lacks something; with a
+/// header ahead of each grid; a 1-D grid that is hardly one.
+std::span<const Recogniser> kindRecognisers();
+std::span<const Recogniser> headerRecognisers();
+std::span<const Recogniser> chainRecognisers();
+std::span<const Recogniser> lineRecognisers();
 /// Of what is missing at a file's end by its reading, and of what stands there beside it. These
 /// come last, and take whatever file is so.
 std::span<const Recogniser> endRecognisers();
+
+/// A token that is no number, or not the one that it looks like; reads up to it once more.
+plot3d::FileProblem faultyTokenProblem(Evidence_s& evidence, const FaultyToken_s& fault);
 
 /// The first that knows the file.
 std::optional<plot3d::FileProblem> recognise(std::span<const Recogniser> recognisers,

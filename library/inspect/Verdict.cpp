@@ -11,7 +11,7 @@ namespace {
 
 using Problem = plot3d::FileProblem;
 
-std::span<const Recogniser> recognisersOf(const io::Plot3DRecordForm_s& form) {
+std::span<const Recogniser> recognisersOfForm(const io::Plot3DRecordForm_s& form) {
     switch (form.encoding) {
     case io::Plot3DEncoding_Ascii:
         return textRecognisers();
@@ -22,6 +22,19 @@ std::span<const Recogniser> recognisersOf(const io::Plot3DRecordForm_s& form) {
         break;
     }
     return binaryRecognisers();
+}
+
+/// What knows a file that no reading takes, or of which one does not take all.
+std::optional<Problem> recogniseOdd(Evidence_s& evidence) {
+    const bool isCutRecord =
+        evidence.isGuessed && evidence.form.encoding == io::Plot3DEncoding_FortranUnformatted;
+    if (isCutRecord)
+        return recognise(endRecognisers(), evidence);
+    for (const auto table : {recognisersOfForm(evidence.form), kindRecognisers(),
+                             chainRecognisers(), headerRecognisers(), lineRecognisers()})
+        if (auto problem = recognise(table, evidence))
+            return problem;
+    return evidence.reading ? recognise(endRecognisers(), evidence) : std::nullopt;
 }
 
 Problem fitsNothing(const Evidence_s& evidence) {
@@ -39,18 +52,7 @@ std::optional<Problem> findFaultyToken(Evidence_s& evidence) {
     for (const FaultyToken_s& fault : evidence.text->faults()) {
         if (fault.position >= evidence.account->endOfTaken)
             continue;
-        const LineAndColumn_s place = evidence.text->lineOf(fault.position);
-        plot3d::Misfit misfit;
-        misfit.what = fault.kind == TokenKind_e::TooBig
-                          ? "An integer of more than 32 bits comes in as another number."
-                          : "What stands where a number should is none.";
-        misfit.byte = fault.position;
-        misfit.line = place.line;
-        misfit.column = place.column;
-        misfit.expected = "a number";
-        misfit.found = fault.text;
-        return Problem{misfit,
-                       {"sed", "-n", std::to_string(place.line) + "p", evidence.file.name()}};
+        return faultyTokenProblem(evidence, fault);
     }
     return std::nullopt;
 }
@@ -86,9 +88,7 @@ void judgeReading(Evidence_s& evidence, plot3d::FileInfo& info) {
         info.ok = !info.problem;
         return;
     }
-    std::optional<Problem> odd = recognise(recognisersOf(evidence.form), evidence);
-    if (!odd)
-        odd = recognise(endRecognisers(), evidence);
+    std::optional<Problem> odd = recogniseOdd(evidence);
     info.ok = bytes.missing == 0;
     if (!odd)
         return;
@@ -113,9 +113,7 @@ void judge(Evidence_s& evidence, plot3d::FileInfo& info) {
         return;
     }
     info.ok = false;
-    info.problem = recognise(recognisersOf(evidence.form), evidence);
-    if (!info.problem && evidence.reading)
-        info.problem = recognise(endRecognisers(), evidence);
+    info.problem = recogniseOdd(evidence);
     if (!info.problem)
         info.problem = fitsNothing(evidence);
 }

@@ -5,8 +5,10 @@
 #include <stop_token>
 
 #include "open/ContentOfFrame.h"
+#include "open/LinkedAddOn.h"
 #include "open/LoadFailure.h"
 #include "session/ReferenceHost.h"
+#include "session/SeparateFrame.h"
 
 namespace plot3dlib {
 
@@ -45,24 +47,12 @@ private:
     std::exception_ptr thrown_;
 };
 
-/// The host as a load finds it, and as it is left behind.
-class CleanHost {
-public:
-    explicit CleanHost(ReferenceHost& host) : host_(host) { host_.reset(); }
-    ~CleanHost() { host_.reset(); }
-    CleanHost(const CleanHost&) = delete;
-    CleanHost& operator=(const CleanHost&) = delete;
-
-private:
-    ReferenceHost& host_;
-};
-
 LoadResult_s importWatched(ReferenceHost& host, const std::vector<std::string>& instructions,
                            const plot3d::Watch& watch) {
     ProgressTeller teller(host, watch);
     host.settings().progressObserver = [&teller](const auto& state) { teller.tell(state); };
     const std::stop_callback stopLoad(watch.stop, [&host] { host.requestInterrupt(); });
-    const LoadResult_s result = host.importInstructions(instructions);
+    const LoadResult_s result = host.importInstructions(instructions, linkedLoader());
     host.settings().progressObserver = nullptr;
     teller.rethrow();
     return result;
@@ -72,13 +62,14 @@ LoadResult_s importWatched(ReferenceHost& host, const std::vector<std::string>& 
 
 Content_s loadAtHost(const std::vector<std::string>& instructions, const plot3d::Watch& watch) {
     ReferenceHost& host = ReferenceHost::instance();
-    const CleanHost clean(host);
-    host.setAnswers({}, /*afterwards=*/true);
+    quorvia::host::SeparateFrame separate;
+    separate.user().setAnswers({}, /*afterwards=*/true);
     const LoadResult_s result = importWatched(host, instructions, watch);
-    if (!result.ok || result.interrupted || host.frame().dataSet() == nullptr)
+    if (!result.ok || result.interrupted || separate.frame().dataSet() == nullptr)
         throw failureOf(result, host.log().messages);
-    Content_s content = contentOf(host.frame(), HostFields_e::Fetched);
-    content.notes = notesOf(host.log().messages);
+    Content_s content = contentOf(separate.frame(), HostFields_e::Fetched);
+    const std::vector<std::string> said = notesOf(host.log().messages);
+    content.notes.insert(content.notes.begin(), said.begin(), said.end());
     return content;
 }
 

@@ -1,11 +1,13 @@
 #include "open/LinkedAddOn.h"
 
-#include <cstddef>
+#include <optional>
+#include <string>
 
 #include <plot3d/Error.h>
 
 #include "addon/AddOnEntry.h"
-#include "session/ReferenceHost.h"
+#include "session/GuestEntry.h"
+#include "session/SeparateFrame.h"
 
 namespace plot3dlib {
 
@@ -25,16 +27,16 @@ const Record* recordOf(const FieldStorage& field, bool (*loadCallback)(QuorField
 
 } // namespace
 
-void registerLinkedAddOn() {
-    static bool isRegistered = false;
-    if (isRegistered)
-        return;
-    const auto& loaders = quorvia::host::ReferenceHost::instance().loaders();
-    const std::size_t before = loaders.size();
-    InitQuorAddOn113();
-    isRegistered = loaders.size() > before;
-    if (!isRegistered)
-        throw plot3d::Error(plot3d::ErrorKind::NoMemory, "The loader could not be set up.");
+const quorvia::host::Loader_s& linkedLoader() {
+    static std::optional<quorvia::host::Loader_s> loader;
+    if (loader)
+        return *loader;
+    const quorvia::host::SeparateFrame unseen;
+    std::string error;
+    loader = quorvia::host::enterLinkedGuest(InitQuorAddOn113, error);
+    if (!loader)
+        throw plot3d::Error(plot3d::ErrorKind::NoMemory, error);
+    return *loader;
 }
 
 const quorvia::quorutildataio::Plot3DLodRecord_s* fileRecordOf(const FieldStorage& field) {

@@ -4,12 +4,13 @@
 #include "boundary/BoundaryFields.h"
 #include "dataset/ondemand/LoadOnDemand.h"
 #include "model/FieldStorage.h"
+#include "state/Loader.h"
 
 namespace plot3dlib {
 
-/// Makes the add-on known to the host, the first time. Throws plot3d::Error if it does not register
-/// a loader there. The host lock must be held.
-void registerLinkedAddOn();
+/// The add-on's loader. Makes the add-on known to the host, the first time; throws plot3d::Error if
+/// that fails. The host lock must be held.
+const quorvia::host::Loader_s& linkedLoader();
 
 /// What the add-on keeps of a field that lies in a file; null for any other field, those of another
 /// copy of the add-on among them.
