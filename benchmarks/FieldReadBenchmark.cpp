@@ -147,7 +147,7 @@ void printPlaneCounts() {
 } // namespace
 
 int main(int argc, char** argv) {
-    using benchmarks::Ratio;
+    using benchmarks::Ratio_e;
     const auto add = [](const char* name, auto work, auto... arguments) {
         benchmark::RegisterBenchmark(name, work, arguments...)
             ->Unit(benchmark::kMillisecond)
@@ -161,11 +161,11 @@ int main(int argc, char** argv) {
     const int code = benchmarks::runAndCompare(
         argc, argv,
         {{"Library: a field of 126 MB, native byte order, to one plain read", "FieldNative",
-          "PlainRead", Ratio::SpeedAtLeast, 0.9},
+          "PlainRead", Ratio_e::SpeedAtLeast, 0.9},
          {"Library: the same in the other byte order, to one plain read", "FieldSwapped",
-          "PlainRead", Ratio::SpeedAtLeast, 0.7},
+          "PlainRead", Ratio_e::SpeedAtLeast, 0.7},
          {"Library: two fields in two threads, to one thread", "TwoFieldsTwoThreads",
-          "TwoFieldsOneThread", Ratio::SpeedAtLeast, 1.5}});
+          "TwoFieldsOneThread", Ratio_e::SpeedAtLeast, 1.5}});
     if (code == 0)
         printPlaneCounts();
     return code;

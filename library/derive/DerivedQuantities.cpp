@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
+#include <utility>
 
 #include <plot3d/Error.h>
 
+#include "derive/FlowRegion.h"
 #include "derive/FlowVariables.h"
 #include "derive/ZoneFlow.h"
 #include "flow/FlowQuantities.h"
@@ -19,8 +22,8 @@ bool areAlike(std::string_view a, std::string_view b) {
                       [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-const plot3dlib::FlowQuantity& formulaOf(const DerivedQuantity& quantity) {
-    for (const plot3dlib::FlowQuantity& formula : plot3dlib::flowQuantities())
+const plot3dlib::FlowQuantity_s& formulaOf(const DerivedQuantity& quantity) {
+    for (const plot3dlib::FlowQuantity_s& formula : plot3dlib::flowQuantities())
         if (formula.number == quantity.number)
             return formula;
     throw Error(ErrorKind::Usage, "there is no quantity of this number",
@@ -34,12 +37,20 @@ void requireZone(const DataSet& data, std::size_t zone) {
             {{}, {}, "less than " + std::to_string(data.zones().size()), std::to_string(zone), {}});
 }
 
+/// Where the values that the formula needs are; empty if points beside the zone's are not known.
+std::optional<plot3dlib::FlowRegion_s> regionFor(const DataSet& data, std::size_t zone,
+                                                 const plot3dlib::FlowQuantity_s& formula) {
+    if (!formula.needs.coordinates)
+        return plot3dlib::wholeRegion(data, zone);
+    return regionWithNeighbours(data, zone, plot3dlib::flowVariablesOf(data));
+}
+
 } // namespace
 
 const std::vector<DerivedQuantity>& derivedQuantities() {
     static const std::vector<DerivedQuantity> quantities = [] {
         std::vector<DerivedQuantity> all;
-        for (const plot3dlib::FlowQuantity& formula : plot3dlib::flowQuantities())
+        for (const plot3dlib::FlowQuantity_s& formula : plot3dlib::flowQuantities())
             all.push_back({formula.number, formula.word, formula.components});
         return all;
     }();
@@ -57,7 +68,11 @@ const DerivedQuantity* findDerivedQuantity(std::string_view wordOrNumber) {
 bool canDerive(const DataSet& data, std::size_t zone, const DerivedQuantity& quantity,
                std::string& reason) {
     requireZone(data, zone);
-    reason = plot3dlib::whatIsMissing(data, zone, formulaOf(quantity).needs);
+    const plot3dlib::FlowQuantity_s& formula = formulaOf(quantity);
+    const auto region = regionFor(data, zone, formula);
+    reason = plot3dlib::whatIsMissing(data, region ? region->zone : zone, formula.needs);
+    if (reason.empty() && !region)
+        reason = "the points beside this boundary, which derivatives need, are not known";
     return reason.empty();
 }
 
@@ -67,9 +82,13 @@ std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
     std::string reason;
     if (!canDerive(data, zone, quantity, reason))
         throw Error(ErrorKind::Unsupported, quantity.name + " can't be computed: " + reason);
-    const plot3dlib::FlowQuantity& formula = formulaOf(quantity);
-    const plot3dlib::ZoneFlow values(data, zone, formula.needs, gas, stop);
-    return formula.compute(values.flow(), values.constants(), stop);
+    const plot3dlib::FlowQuantity_s& formula = formulaOf(quantity);
+    const plot3dlib::FlowRegion_s region = *regionFor(data, zone, formula);
+    const plot3dlib::ZoneFlow values(data, region.zone, region.box, formula.needs, gas, stop);
+    plot3dlib::Components components = formula.compute(values.flow(), values.constants(), stop);
+    for (std::vector<double>& component : components)
+        component = wantedOf(region, std::move(component));
+    return components;
 }
 
 } // namespace plot3d

@@ -8,7 +8,7 @@ namespace {
 
 using plot3d::AuxiliaryData;
 using plot3d::DataSet;
-using Variable = FlowVariables::Variable;
+using Variable = FlowVariables_s::Variable;
 
 template <typename Number>
 std::optional<Number> numberIn(const AuxiliaryData& items, const char* name) {
@@ -21,6 +21,15 @@ std::optional<Number> numberIn(const AuxiliaryData& items, const char* name) {
     if (failure != std::errc() || end != text.data() + text.size())
         return std::nullopt;
     return number;
+}
+
+/// Of the zone, or else of its parent.
+std::optional<double> numberOfZone(const DataSet& data, std::size_t zone, const char* name) {
+    const plot3d::Zone& itself = data.zones()[zone];
+    const auto ofZone = numberIn<double>(itself.auxiliaryData, name);
+    if (ofZone || !itself.parent)
+        return ofZone;
+    return numberIn<double>(data.zones()[*itself.parent].auxiliaryData, name);
 }
 
 Variable variableIn(const DataSet& data, const char* item) {
@@ -68,8 +77,8 @@ private:
 
 } // namespace
 
-FlowVariables flowVariablesOf(const DataSet& data) {
-    FlowVariables variables;
+FlowVariables_s flowVariablesOf(const DataSet& data) {
+    FlowVariables_s variables;
     variables.coordinates = {data.findVariable("X"), data.findVariable("Y"),
                              data.findVariable("Z")};
     variables.density = variableIn(data, "Common.DensityVar");
@@ -83,16 +92,16 @@ FlowVariables flowVariablesOf(const DataSet& data) {
 
 std::optional<double> freeStreamMach(const DataSet& data, std::size_t zone) {
     constexpr const char* name = "Common.ReferenceMachNumber";
-    const auto ofZone = numberIn<double>(data.zones()[zone].auxiliaryData, name);
+    const auto ofZone = numberOfZone(data, zone, name);
     return ofZone ? ofZone : numberIn<double>(data.auxiliaryData(), name);
 }
 
 std::optional<double> freeStreamGamma(const DataSet& data, std::size_t zone) {
-    return numberIn<double>(data.zones()[zone].auxiliaryData, "G");
+    return numberOfZone(data, zone, "G");
 }
 
-std::string whatIsMissing(const DataSet& data, std::size_t zone, const FlowNeeds& needs) {
-    const FlowVariables variables = flowVariablesOf(data);
+std::string whatIsMissing(const DataSet& data, std::size_t zone, const FlowNeeds_s& needs) {
+    const FlowVariables_s variables = flowVariablesOf(data);
     ZoneCheck check(data, zone);
     if (needs.density)
         check.require(variables.density, "density");

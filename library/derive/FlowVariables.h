@@ -14,7 +14,7 @@
 namespace plot3dlib {
 
 /// Indices from 0 of variables. Empty: the data set has none that is known to be this.
-struct FlowVariables {
+struct FlowVariables_s {
     using Variable = std::optional<std::size_t>;
     std::array<Variable, 3> coordinates;
     Variable density;
@@ -24,14 +24,14 @@ struct FlowVariables {
     bool isPlane = false; // 2-D: there is no third coordinate, and no momentum along it
 };
 
-FlowVariables flowVariablesOf(const plot3d::DataSet& data);
+FlowVariables_s flowVariablesOf(const plot3d::DataSet& data);
 
-/// Those of auxiliary data of the zone, and of the data set where the zone has none.
+/// By the auxiliary data of the zone; of its parent, where a boundary has none; of the data set.
 std::optional<double> freeStreamMach(const plot3d::DataSet& data, std::size_t zone);
-/// Overflow's GAMINF; the zone's alone.
+/// Overflow's GAMINF: that of the zone or its parent.
 std::optional<double> freeStreamGamma(const plot3d::DataSet& data, std::size_t zone);
 
 /// What the zone lacks, one sentence; empty if it has all.
-std::string whatIsMissing(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds& needs);
+std::string whatIsMissing(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds_s& needs);
 
 } // namespace plot3dlib

@@ -4,16 +4,16 @@
 
 namespace plot3dlib {
 
-ZoneFlow::ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds& needs,
-                   const plot3d::Gas& gas, const std::stop_token& stop) {
-    const FlowVariables variables = flowVariablesOf(data);
-    flow_.size = data.zones()[zone].size;
-    const auto valuesOf = [&](const FlowVariables::Variable& variable) -> std::span<const double> {
+ZoneFlow::ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const plot3d::Box& box,
+                   const FlowNeeds_s& needs, const plot3d::Gas& gas, const std::stop_token& stop) {
+    const FlowVariables_s variables = flowVariablesOf(data);
+    flow_.size = box.extent();
+    const auto valuesOf =
+        [&](const FlowVariables_s::Variable& variable) -> std::span<const double> {
         if (!variable || data.kind(zone, *variable) == plot3d::FieldKind::Empty)
             return {};
         auto& values = values_.emplace_back(static_cast<std::size_t>(flow_.size.count()));
-        data.reader(zone, *variable)
-            .readAsDouble(plot3d::Box::whole(flow_.size), values.data(), stop);
+        data.reader(zone, *variable).readAsDouble(box, values.data(), stop);
         return values;
     };
     if (needs.density)

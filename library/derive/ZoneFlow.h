@@ -1,4 +1,4 @@
-// The values of one zone that a formula needs, read from the data set.
+// The values that a formula needs, read from the data set.
 #pragma once
 
 #include <cstddef>
@@ -14,20 +14,20 @@
 
 namespace plot3dlib {
 
-/// Owns the values. The zone has what is needed (whatIsMissing).
+/// Owns the values of a box of a zone, which has what is needed (whatIsMissing).
 class ZoneFlow {
 public:
     /// Throws Error.
-    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const FlowNeeds& needs,
-             const plot3d::Gas& gas, const std::stop_token& stop);
+    ZoneFlow(const plot3d::DataSet& data, std::size_t zone, const plot3d::Box& box,
+             const FlowNeeds_s& needs, const plot3d::Gas& gas, const std::stop_token& stop);
 
-    const Flow& flow() const { return flow_; }
-    const FlowConstants& constants() const { return constants_; }
+    const Flow_s& flow() const { return flow_; }
+    const FlowConstants_s& constants() const { return constants_; }
 
 private:
     std::list<std::vector<double>> values_; // the flow borrows them
-    Flow flow_;
-    FlowConstants constants_;
+    Flow_s flow_;
+    FlowConstants_s constants_;
 };
 
 } // namespace plot3dlib

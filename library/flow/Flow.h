@@ -13,7 +13,7 @@ namespace plot3dlib {
 
 /// Borrowed; one value for each point, I fastest, as PLOT3D has them: nondimensional, with the
 /// density and the speed of sound of the free stream. What a formula does not need may be empty.
-struct Flow {
+struct Flow_s {
     plot3d::Extent size;
     std::array<std::span<const double>, 3> coordinates; // z is empty in 2-D
     std::span<const double> density;
@@ -24,7 +24,7 @@ struct Flow {
                                                      // the same everywhere
 };
 
-struct FlowConstants {
+struct FlowConstants_s {
     double gamma = 1.4;           // where Flow::gamma has none
     double freeStreamGamma = 1.4; // for the pressure of the free stream, which is 1 / gamma
     double gasConstant = 1.0;
@@ -32,14 +32,15 @@ struct FlowConstants {
 };
 
 /// One point of it. 0 where the flow has no value.
-struct FlowPoint {
+struct FlowPoint_s {
     double density = 0.0;
     Vector momentum = {};
     double energy = 0.0;
     double gamma = 0.0;
 };
 
-inline FlowPoint pointOf(const Flow& flow, std::size_t index, const FlowConstants& constants) {
+inline FlowPoint_s pointOf(const Flow_s& flow, std::size_t index,
+                           const FlowConstants_s& constants) {
     const auto valueOf = [&](std::span<const double> values) {
         return values.empty() ? 0.0 : values[index];
     };

@@ -12,11 +12,11 @@ namespace plot3dlib {
 
 namespace {
 
-std::size_t pointCount(const Flow& flow) {
+std::size_t pointCount(const Flow_s& flow) {
     return static_cast<std::size_t>(flow.size.count());
 }
 
-Components roomFor(const Flow& flow, std::size_t componentCount) {
+Components roomFor(const Flow_s& flow, std::size_t componentCount) {
     return Components(componentCount, std::vector<double>(pointCount(flow)));
 }
 
@@ -26,7 +26,7 @@ double finite(double value) {
 
 /// Calls `use(index, i, j, k)` for each point, I fastest.
 template <typename Use>
-void forEachPoint(const Flow& flow, const std::stop_token& stop, Use use) {
+void forEachPoint(const Flow_s& flow, const std::stop_token& stop, Use use) {
     std::size_t index = 0;
     for (std::int64_t k = 0; k < flow.size.k; ++k)
         for (std::int64_t j = 0; j < flow.size.j; ++j) {
@@ -36,8 +36,9 @@ void forEachPoint(const Flow& flow, const std::stop_token& stop, Use use) {
         }
 }
 
-template <double (*formula)(const FlowPoint&, const FlowConstants&)>
-Components scalar(const Flow& flow, const FlowConstants& constants, const std::stop_token& stop) {
+template <double (*formula)(const FlowPoint_s&, const FlowConstants_s&)>
+Components scalar(const Flow_s& flow, const FlowConstants_s& constants,
+                  const std::stop_token& stop) {
     Components values = roomFor(flow, 1);
     forEachPoint(flow, stop, [&](std::size_t index, auto...) {
         values[0][index] = finite(formula(pointOf(flow, index, constants), constants));
@@ -50,8 +51,9 @@ void put(Components& components, std::size_t index, const Vector& value) {
         components[axis][index] = finite(value[axis]);
 }
 
-template <Vector (*formula)(const FlowPoint&)>
-Components vectorOf(const Flow& flow, const FlowConstants& constants, const std::stop_token& stop) {
+template <Vector (*formula)(const FlowPoint_s&)>
+Components vectorOf(const Flow_s& flow, const FlowConstants_s& constants,
+                    const std::stop_token& stop) {
     Components values = roomFor(flow, 3);
     forEachPoint(flow, stop, [&](std::size_t index, auto...) {
         put(values, index, formula(pointOf(flow, index, constants)));
@@ -59,11 +61,11 @@ Components vectorOf(const Flow& flow, const FlowConstants& constants, const std:
     return values;
 }
 
-Vector momentumAt(const FlowPoint& point) {
+Vector momentumAt(const FlowPoint_s& point) {
     return point.momentum;
 }
 
-Components pressureGradient(const Flow& flow, const FlowConstants& constants,
+Components pressureGradient(const Flow_s& flow, const FlowConstants_s& constants,
                             const std::stop_token& stop) {
     const Components pressure = scalar<pressureAt>(flow, constants, stop);
     const NodeGradients gradients(flow.size, flow.coordinates);
@@ -76,7 +78,7 @@ Components pressureGradient(const Flow& flow, const FlowConstants& constants,
 
 /// Calls `use(index, u, v, w)` with the gradients of the velocity's components.
 template <typename Use>
-void forEachVelocityGradient(const Flow& flow, const FlowConstants& constants,
+void forEachVelocityGradient(const Flow_s& flow, const FlowConstants_s& constants,
                              const std::stop_token& stop, Use use) {
     const Components velocity = vectorOf<velocityAt>(flow, constants, stop);
     const NodeGradients gradients(flow.size, flow.coordinates);
@@ -90,7 +92,7 @@ Vector curl(const Vector& u, const Vector& v, const Vector& w) {
     return {w[1] - v[2], u[2] - w[0], v[0] - u[1]};
 }
 
-Components vorticity(const Flow& flow, const FlowConstants& constants,
+Components vorticity(const Flow_s& flow, const FlowConstants_s& constants,
                      const std::stop_token& stop) {
     Components values = roomFor(flow, 3);
     forEachVelocityGradient(flow, constants, stop,
@@ -99,7 +101,7 @@ Components vorticity(const Flow& flow, const FlowConstants& constants,
     return values;
 }
 
-Components vorticityMagnitude(const Flow& flow, const FlowConstants& constants,
+Components vorticityMagnitude(const Flow_s& flow, const FlowConstants_s& constants,
                               const std::stop_token& stop) {
     Components values = roomFor(flow, 1);
     forEachVelocityGradient(
@@ -111,19 +113,20 @@ Components vorticityMagnitude(const Flow& flow, const FlowConstants& constants,
     return values;
 }
 
-Components swirl(const Flow& flow, const FlowConstants& constants, const std::stop_token& stop) {
+Components swirl(const Flow_s& flow, const FlowConstants_s& constants,
+                 const std::stop_token& stop) {
     Components values = roomFor(flow, 1);
     forEachVelocityGradient(
         flow, constants, stop,
         [&](std::size_t index, const Vector& u, const Vector& v, const Vector& w) {
-            const FlowPoint point = pointOf(flow, index, constants);
+            const FlowPoint_s point = pointOf(flow, index, constants);
             const Vector velocity = velocityAt(point);
             values[0][index] = finite(dot(curl(u, v, w), point.momentum) / dot(velocity, velocity));
         });
     return values;
 }
 
-Components strainRate(const Flow& flow, const FlowConstants& constants,
+Components strainRate(const Flow_s& flow, const FlowConstants_s& constants,
                       const std::stop_token& stop) {
     Components values = roomFor(flow, 3);
     forEachVelocityGradient(
@@ -134,13 +137,13 @@ Components strainRate(const Flow& flow, const FlowConstants& constants,
     return values;
 }
 
-std::vector<FlowQuantity> makeQuantities() {
-    constexpr FlowNeeds speed{.density = true, .momentum = true};
-    constexpr FlowNeeds state{.density = true, .momentum = true, .energy = true};
-    constexpr FlowNeeds speedInSpace{.density = true, .momentum = true, .coordinates = true};
-    constexpr FlowNeeds stateInSpace{
+std::vector<FlowQuantity_s> makeQuantities() {
+    constexpr FlowNeeds_s speed{.density = true, .momentum = true};
+    constexpr FlowNeeds_s state{.density = true, .momentum = true, .energy = true};
+    constexpr FlowNeeds_s speedInSpace{.density = true, .momentum = true, .coordinates = true};
+    constexpr FlowNeeds_s stateInSpace{
         .density = true, .momentum = true, .energy = true, .coordinates = true};
-    constexpr FlowNeeds stateAndMach{
+    constexpr FlowNeeds_s stateAndMach{
         .density = true, .momentum = true, .energy = true, .freeStreamMach = true};
     const auto xyz = [](const std::string& name) {
         return std::vector<std::string>{name + "X", name + "Y", name + "Z"};
@@ -178,8 +181,8 @@ std::vector<FlowQuantity> makeQuantities() {
 
 } // namespace
 
-const std::vector<FlowQuantity>& flowQuantities() {
-    static const std::vector<FlowQuantity> quantities = makeQuantities();
+const std::vector<FlowQuantity_s>& flowQuantities() {
+    static const std::vector<FlowQuantity_s> quantities = makeQuantities();
     return quantities;
 }
 

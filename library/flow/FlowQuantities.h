@@ -11,7 +11,7 @@
 namespace plot3dlib {
 
 /// What a formula reads of the flow. The ratio of specific heats goes with the energy.
-struct FlowNeeds {
+struct FlowNeeds_s {
     bool density = false;
     bool momentum = false;
     bool energy = false;
@@ -22,17 +22,17 @@ struct FlowNeeds {
 /// One list of values for each component, one value for each point, I fastest.
 using Components = std::vector<std::vector<double>>;
 
-struct FlowQuantity {
+struct FlowQuantity_s {
     int number;       // as PLOT3D's users know it
     std::string word; // for command lines
     std::vector<std::string> components;
-    FlowNeeds needs;
+    FlowNeeds_s needs;
     /// Not a number where the formula has no value. Throws Error (Interrupted).
-    Components (*compute)(const Flow& flow, const FlowConstants& constants,
+    Components (*compute)(const Flow_s& flow, const FlowConstants_s& constants,
                           const std::stop_token& stop);
 };
 
 /// All of them, by number.
-const std::vector<FlowQuantity>& flowQuantities();
+const std::vector<FlowQuantity_s>& flowQuantities();
 
 } // namespace plot3dlib

@@ -27,12 +27,12 @@ private:
     friend class NodeGradients;
     /// Of the values at two nodes beside this one. Whether they are one index apart or two cancels
     /// out: values and coordinates are differenced alike.
-    struct Difference {
+    struct Difference_s {
         std::size_t plus;
         std::size_t minus; // the same as plus along a direction with one point
         double of(std::span<const double> values) const { return values[plus] - values[minus]; }
     };
-    std::array<Difference, 3> differences_;
+    std::array<Difference_s, 3> differences_;
     std::array<Vector, 3> metrics_; // differences along I, J, K for a step along x, y, z
 };
 

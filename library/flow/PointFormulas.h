@@ -7,20 +7,20 @@
 
 namespace plot3dlib {
 
-Vector velocityAt(const FlowPoint& point);
-double pressureAt(const FlowPoint& point);
+Vector velocityAt(const FlowPoint_s& point);
+double pressureAt(const FlowPoint_s& point);
 
-double densityAt(const FlowPoint& point, const FlowConstants& constants);
-double pressureAt(const FlowPoint& point, const FlowConstants& constants);
-double pressureCoefficientAt(const FlowPoint& point, const FlowConstants& constants);
-double machNumberAt(const FlowPoint& point, const FlowConstants& constants);
-double soundSpeedAt(const FlowPoint& point, const FlowConstants& constants);
-double temperatureAt(const FlowPoint& point, const FlowConstants& constants);
-double enthalpyAt(const FlowPoint& point, const FlowConstants& constants);
-double internalEnergyAt(const FlowPoint& point, const FlowConstants& constants);
-double kineticEnergyAt(const FlowPoint& point, const FlowConstants& constants);
-double velocityMagnitudeAt(const FlowPoint& point, const FlowConstants& constants);
-double stagnationEnergyAt(const FlowPoint& point, const FlowConstants& constants);
-double entropyAt(const FlowPoint& point, const FlowConstants& constants);
+double densityAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double pressureAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double pressureCoefficientAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double machNumberAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double soundSpeedAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double temperatureAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double enthalpyAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double internalEnergyAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double kineticEnergyAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double velocityMagnitudeAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double stagnationEnergyAt(const FlowPoint_s& point, const FlowConstants_s& constants);
+double entropyAt(const FlowPoint_s& point, const FlowConstants_s& constants);
 
 } // namespace plot3dlib

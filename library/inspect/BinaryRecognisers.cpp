@@ -10,6 +10,11 @@ namespace plot3dlib {
 
 namespace {
 
+/// No real, which is a greater integer unless it is tiny.
+bool isSize(std::int32_t word) {
+    return word > 0 && word < 100'000'000;
+}
+
 FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     for (const bool byteSwap : {false, true}) {
         const std::size_t high = byteSwap == (std::endian::native == std::endian::little) ? 0 : 1;
@@ -22,8 +27,8 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
             words[index] = word.value_or(0);
         }
         const std::size_t low = 1 - high;
-        if (isRead && words[high] == 0 && words[high + 2] == 0 && words[low] > 0 &&
-            words[low + 2] > 0)
+        if (isRead && words[high] == 0 && words[high + 2] == 0 && isSize(words[low]) &&
+            isSize(words[low + 2]))
             return problemOf(
                 "The file seems to be written with integers of 8 bytes, which are not "
                 "read.",
@@ -35,24 +40,7 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     return std::nullopt;
 }
 
-/// A description by hand is no cure: it takes 32-bit reals first, for which the file is long
-/// enough.
-FoundProblem recogniseLongRealsWithRest(Evidence_s& evidence) {
-    if (!evidence.isGuessed || evidence.form.encoding != io::Plot3DEncoding_Binary)
-        return std::nullopt;
-    const plot3d::ByteAccount& bytes = evidence.account->bytes;
-    if (!evidence.reading->isDoublePrecision || bytes.surplus == 0)
-        return std::nullopt;
-    FoundProblem problem = problemOf(
-        counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
-            " stand behind 64-bit reals. Described by hand the file would be read as 32-bit reals.",
-        counted(bytes.used, "byte"), counted(bytes.size, "byte"),
-        copyBeginningCommand(evidence.file.name(), bytes.used));
-    problem->misfit.byte = bytes.used;
-    return problem;
-}
-
-constexpr std::array<Recogniser, 2> table = {recogniseLongIntegers, recogniseLongRealsWithRest};
+constexpr std::array<Recogniser, 1> table = {recogniseLongIntegers};
 
 } // namespace
 

@@ -86,8 +86,26 @@ private:
                 noteFurtherKinds();
                 return;
             }
-        if (!firstOfKinds_.empty())
-            take(firstOfKinds_.front(), firstOfKinds_.front());
+        if (firstOfKinds_.empty())
+            return;
+        take(firstOfKinds_.front(), firstOfKinds_.front());
+        if (isShortLineOfText())
+            takeUnstructured();
+    }
+
+    /// The count of several unstructured grids passes for the size of a 1-D grid.
+    bool isShortLineOfText() const {
+        const plot3d::ByteAccount& bytes = evidence_.account->bytes;
+        return evidence_.text && evidence_.reading->dataStructure == io::Plot3DDataStructure_1D &&
+               bytes.surplus > bytes.used;
+    }
+
+    void takeUnstructured() {
+        const Search_s search = searchFile(evidence_.file, evidence_.form,
+                                           {.kinds = triedKinds_.front(), .goesOn = true});
+        for (const Reading_s& reading : search.readings)
+            if (reading.dataStructure == io::Plot3DDataStructure_Unstructured)
+                return take(firstOfKinds_.front(), reading);
     }
 
     /// Goes on behind the reading that a load takes, which does not account for every byte.

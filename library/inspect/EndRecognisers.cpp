@@ -1,6 +1,7 @@
 // What is missing at the end of a file, or stands there beside what is taken.
 #include <array>
 
+#include "inspect/Problems.h"
 #include "inspect/Recognisers.h"
 #include "inspect/Words.h"
 
@@ -8,7 +9,7 @@ namespace plot3dlib {
 
 namespace {
 
-using Problem = std::optional<plot3d::FileProblem>;
+using Problem = FoundProblem;
 
 /// A record whose length is not what the header says.
 Problem recogniseShortRecord(Evidence_s& evidence) {
@@ -41,6 +42,24 @@ Problem recogniseTruncated(Evidence_s& evidence) {
     return plot3d::FileProblem{misfit, {"ls", "-l", evidence.file.name()}};
 }
 
+/// A description by hand is no cure: it takes 32-bit reals first, for which the file is long
+/// enough.
+Problem recogniseLongRealsWithRest(Evidence_s& evidence) {
+    if (!evidence.isGuessed || evidence.form.encoding != io::Plot3DEncoding_Binary)
+        return std::nullopt;
+    const plot3d::ByteAccount& bytes = evidence.account->bytes;
+    if (!evidence.reading->isDoublePrecision || bytes.surplus == 0 ||
+        bytes.surplus > bytes.used / 2)
+        return std::nullopt;
+    Problem problem = problemOf(
+        counted(bytes.surplus, "byte") + " of " + grouped(bytes.size) +
+            " stand behind 64-bit reals. Described by hand the file would be read as 32-bit reals.",
+        counted(bytes.used, "byte"), counted(bytes.size, "byte"),
+        copyBeginningCommand(evidence.file.name(), bytes.used));
+    problem->misfit.byte = bytes.used;
+    return problem;
+}
+
 Problem recogniseSurplus(Evidence_s& evidence) {
     const Account_s& account = *evidence.account;
     const plot3d::ByteAccount& bytes = account.bytes;
@@ -70,8 +89,8 @@ Problem recogniseSurplus(Evidence_s& evidence) {
                                                           : whyCommand(evidence)};
 }
 
-constexpr std::array<Recogniser, 3> table = {recogniseShortRecord, recogniseTruncated,
-                                             recogniseSurplus};
+constexpr std::array<Recogniser, 4> table = {recogniseShortRecord, recogniseTruncated,
+                                             recogniseLongRealsWithRest, recogniseSurplus};
 
 } // namespace
 

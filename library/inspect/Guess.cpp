@@ -1,54 +1,112 @@
 #include "inspect/Guess.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
 #include <cmath>
+#include <cstring>
 
+#include "inspect/HeaderGuess.h"
 #include "inspect/TextAccount.h"
 #include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 
 namespace plot3dlib {
 
 namespace {
 
 constexpr std::int64_t sampleBytes = 512;
+constexpr std::int64_t realsAheadOfInteger = 7; // among the scalars of Overflow
+constexpr std::int64_t largestScalar = 8;       // bytes
+constexpr std::int64_t fewIntegers = 8;
+constexpr std::int32_t largestIBlank = 10'000;
+constexpr std::int64_t longestHeader = 1024 * 1024;
 
 struct Guess_s {
     Reading_s reading;
     Account_s account;
-    bool looksReal = false;
+    int evidence = 0;            // what its bytes look like: the more, the likelier
     std::int64_t difference = 0; // bytes
 };
 
-/// Magnitudes that no solver writes, but that integers and halves of reals have.
+/// Of magnitudes that solvers write; integers and halves of reals have others.
 template <typename Real>
 bool isLikely(Real value) {
     const double magnitude = std::fabs(static_cast<double>(value));
     return magnitude == 0.0 || (magnitude > 1e-20 && magnitude < 1e20);
 }
 
-template <typename Real>
-bool areLikely(const std::vector<char>& bytes, bool byteSwap) {
-    std::vector<Real> values(bytes.size() / sizeof(Real));
-    std::copy_n(bytes.begin(), values.size() * sizeof(Real),
-                reinterpret_cast<char*>(values.data()));
-    if (byteSwap)
-        io::reverseEach(values.data(), sizeof(Real), std::ssize(values));
-    return std::all_of(values.begin(), values.end(), isLikely<Real>);
+/// The first numbers of the data, in both widths.
+struct Sample_s {
+    std::vector<float> narrow;
+    std::vector<double> wide;
+};
+
+Sample_s sampleOf(const std::vector<char>& bytes, bool byteSwap) {
+    Sample_s sample;
+    sample.narrow.resize(bytes.size() / sizeof(float));
+    sample.wide.resize(bytes.size() / sizeof(double));
+    std::memcpy(sample.narrow.data(), bytes.data(), sample.narrow.size() * sizeof(float));
+    std::memcpy(sample.wide.data(), bytes.data(), sample.wide.size() * sizeof(double));
+    if (byteSwap) {
+        io::reverseEach(sample.narrow.data(), sizeof(float), std::ssize(sample.narrow));
+        io::reverseEach(sample.wide.data(), sizeof(double), std::ssize(sample.wide));
+    }
+    return sample;
+}
+
+/// Whether the lower halves of 64-bit reals would all be 0, as of few digits.
+bool haveEmptyLowerHalves(const Sample_s& sample) {
+    return std::all_of(sample.wide.begin(), sample.wide.end(), [](double value) {
+        return (std::bit_cast<std::uint64_t>(value) & 0xffffffffU) == 0;
+    });
+}
+
+/// Two 32-bit reals are a likely 64-bit one, but the lower half of a 64-bit real is no likely
+/// number.
+bool areReals(const Sample_s& sample, bool isDouble) {
+    const bool areNarrow = std::all_of(sample.narrow.begin(), sample.narrow.end(), isLikely<float>);
+    if (!isDouble)
+        return areNarrow && !(sample.wide.size() > 1 && haveEmptyLowerHalves(sample));
+    return std::all_of(sample.wide.begin(), sample.wide.end(), isLikely<double>) &&
+           (!areNarrow || haveEmptyLowerHalves(sample));
+}
+
+/// Reals at the beginning of the data.
+std::int64_t firstReals(const Reading_s& reading) {
+    const GridBlocks_s blocks = blocksOf(reading, 0);
+    if (byteWidths(reading).overflowSaving > 0 || blocks.scalars > realsAheadOfInteger)
+        return realsAheadOfInteger;
+    const std::int64_t values = std::max<std::int64_t>(blocks.planePoints, 1);
+    return blocks.scalars +
+           std::max<std::int64_t>(blocks.variables, 1) * std::min(values, sampleBytes);
 }
 
 /// Whether what stands at the beginning of the data can be reals of this width.
 bool beginsWithReals(ExaminedFile& file, const Reading_s& reading) {
     const std::int64_t start = io::integerWidth * headerValues(reading);
     const std::int64_t present = std::clamp<std::int64_t>(file.size() - start, 0, sampleBytes);
-    const GridBlocks_s blocks = blocksOf(reading, 0);
-    const std::int64_t reals =
-        scalarSize(blocks, byteWidths(reading)) + planeSize(blocks, byteWidths(reading));
-    std::vector<char> bytes(static_cast<std::size_t>(std::min(present, reals)));
+    const std::int64_t reals = std::min(firstReals(reading), sampleBytes);
+    std::vector<char> bytes(
+        static_cast<std::size_t>(std::min(present, reals * io::realWidth(reading))));
     if (file.readAt(start, bytes.data(), std::ssize(bytes)) != std::ssize(bytes))
         return false;
-    return reading.isDoublePrecision ? areLikely<double>(bytes, reading.byteSwap)
-                                     : areLikely<float>(bytes, reading.byteSwap);
+    return areReals(sampleOf(bytes, reading.byteSwap), reading.isDoublePrecision);
+}
+
+/// Whether small integers stand where the first grid's I-blank begins.
+bool holdsIBlank(ExaminedFile& file, const Reading_s& reading) {
+    if (!reading.hasIBlank)
+        return false;
+    const GridBlocks_s blocks = blocksOf(reading, 0);
+    const std::int64_t start = io::integerWidth * headerValues(reading) +
+                               blocks.variables * io::realWidth(reading) * blocks.planePoints;
+    const std::int64_t count = std::min(blocks.planePoints, fewIntegers);
+    for (std::int64_t index = 0; index < count; ++index) {
+        const auto value = integerAt(file, start + index * io::integerWidth, reading.byteSwap);
+        if (!value || *value < -largestIBlank || *value > largestIBlank)
+            return false;
+    }
+    return true;
 }
 
 std::vector<Kinds_e> kindsOf(const Evidence_s& evidence) {
@@ -77,13 +135,16 @@ void take(Evidence_s& evidence, Guess_s guess) {
 std::optional<Guess_s> best(std::vector<Guess_s> guesses) {
     if (guesses.empty())
         return std::nullopt;
-    const bool anyLooksReal =
-        std::any_of(guesses.begin(), guesses.end(), [](const auto& g) { return g.looksReal; });
-    std::erase_if(guesses, [&](const auto& g) { return anyLooksReal && !g.looksReal; });
+    const auto strongest = std::max_element(
+        guesses.begin(), guesses.end(), [](auto& a, auto& b) { return a.evidence < b.evidence; });
+    std::erase_if(guesses,
+                  [most = strongest->evidence](const auto& g) { return g.evidence < most; });
     const auto nearest = std::min_element(guesses.begin(), guesses.end(), [](auto& a, auto& b) {
         return a.difference < b.difference;
     });
-    const std::int64_t tolerance = nearest->difference + nearest->difference / 4 + 64;
+    // Styles differ by a scalar for each grid.
+    const std::int64_t tolerance =
+        nearest->difference + largestScalar * std::ssize(nearest->reading.grids);
     return *std::find_if(guesses.begin(), guesses.end(),
                          [&](const auto& g) { return g.difference <= tolerance; });
 }
@@ -91,33 +152,28 @@ std::optional<Guess_s> best(std::vector<Guess_s> guesses) {
 void guessBinary(Evidence_s& evidence) {
     std::vector<Guess_s> guesses;
     for (Reading_s& reading : readingsAtAnySize(evidence, evidence.form)) {
-        Guess_s guess{std::move(reading), {}, false, 0};
+        Guess_s guess{std::move(reading), {}, 0, 0};
         guess.account = accountOf(evidence.file, guess.reading);
         guess.difference = guess.account.bytes.missing + guess.account.bytes.surplus;
-        guess.looksReal = beginsWithReals(evidence.file, guess.reading);
+        guess.evidence = (beginsWithReals(evidence.file, guess.reading) ? 2 : 0) +
+                         (holdsIBlank(evidence.file, guess.reading) ? 1 : 0);
         guesses.push_back(std::move(guess));
     }
     if (auto guess = best(std::move(guesses)))
         take(evidence, std::move(*guess));
 }
 
-/// A Fortran file that was cut short does not look like one: its records do not end with it.
-bool guessFortran(Evidence_s& evidence) {
-    for (const std::uint32_t markerSize : {4U, 8U})
-        for (const bool byteSwap : {false, true}) {
-            io::Plot3DRecordForm_s form;
-            form.encoding = io::Plot3DEncoding_FortranUnformatted;
-            form.markerSize = markerSize;
-            form.byteSwap = byteSwap;
-            std::vector<Reading_s> readings = readingsAtAnySize(evidence, form);
-            if (readings.empty())
-                continue;
-            evidence.form = form;
-            Account_s account = accountOf(evidence.file, readings.front());
-            take(evidence, {std::move(readings.front()), std::move(account), true, 0});
-            return true;
-        }
-    return false;
+/// Whether the file's first record, of a header that is not too long, ends as it begins.
+bool beginsWithRecord(ExaminedFile& file, const io::Plot3DRecordForm_s& form) {
+    io::Plot3DFile_s record;
+    static_cast<io::Plot3DRecordForm_s&>(record) = form;
+    record.stream = file.stream();
+    io::rewindPlot3DFile(record);
+    std::int64_t length = 0;
+    std::int64_t trailing = -1;
+    return io::readRecordMarker(record, length) && length >= io::integerWidth &&
+           length <= longestHeader && record.stream->skip(length) &&
+           io::readRecordMarker(record, trailing) && trailing == length;
 }
 
 void guessText(Evidence_s& evidence) {
@@ -125,10 +181,32 @@ void guessText(Evidence_s& evidence) {
     if (readings.empty())
         return;
     Account_s account = accountOfText(evidence.file, *evidence.text, readings.front());
-    take(evidence, {std::move(readings.front()), std::move(account), true, 0});
+    take(evidence, {std::move(readings.front()), std::move(account), 0, 0});
 }
 
 } // namespace
+
+bool guessCutRecords(Evidence_s& evidence) {
+    if (evidence.form.encoding != io::Plot3DEncoding_Binary)
+        return false;
+    for (const std::uint32_t markerSize : {4U, 8U})
+        for (const bool byteSwap : {false, true}) {
+            io::Plot3DRecordForm_s form;
+            form.encoding = io::Plot3DEncoding_FortranUnformatted;
+            form.markerSize = markerSize;
+            form.byteSwap = byteSwap;
+            if (!beginsWithRecord(evidence.file, form))
+                continue;
+            std::vector<Reading_s> readings = readingsAtAnySize(evidence, form);
+            if (readings.empty())
+                continue;
+            evidence.form = form;
+            Account_s account = accountOf(evidence.file, readings.front());
+            take(evidence, {std::move(readings.front()), std::move(account), 0, 0});
+            return true;
+        }
+    return false;
+}
 
 void guessReading(Evidence_s& evidence) {
     switch (evidence.form.encoding) {
@@ -136,8 +214,7 @@ void guessReading(Evidence_s& evidence) {
         guessText(evidence);
         return;
     case io::Plot3DEncoding_Binary:
-        if (!guessFortran(evidence))
-            guessBinary(evidence);
+        guessBinary(evidence);
         return;
     case io::Plot3DEncoding_FortranUnformatted:
     case io::Plot3DEncoding_Unknown:

@@ -1,5 +1,7 @@
 // Files whose header lacks something, or says something that is not read.
 #include <array>
+#include <bit>
+#include <cmath>
 
 #include "inspect/HeaderGuess.h"
 #include "inspect/Problems.h"
@@ -33,14 +35,24 @@ bool hasTwoKindsOfElements(const HeaderGuess_s& guess) {
     return false;
 }
 
+/// Of text the connectivity of the last grid must be integers.
+bool endsWithElements(const Evidence_s& evidence, const HeaderGuess_s& guess) {
+    if (!isText(guess))
+        return true;
+    const std::int64_t integers = 4 * (std::int64_t{guess.grids.back().j} + guess.grids.back().k);
+    return evidence.text->areIntegers(evidence.text->valueCount() - integers, integers);
+}
+
 FoundProblem recogniseTwoKindsOfElements(Evidence_s& evidence) {
+    if (evidence.expectedKind.value_or(plot3d::FileKind::Grid) != plot3d::FileKind::Grid)
+        return std::nullopt;
     for (const HeaderGuess_s& guess : guessHeaders(evidence)) {
         if (!hasTwoKindsOfElements(guess))
             continue;
         const bool fits = isText(guess) ? guess.dataSize == sizeOfElementsAndNodes(guess, 1)
                                         : guess.dataSize == sizeOfElementsAndNodes(guess, 4) ||
                                               guess.dataSize == sizeOfElementsAndNodes(guess, 8);
-        if (fits)
+        if (fits && endsWithElements(evidence, guess))
             return problemOf("An unstructured grid has triangles and tetrahedra together, which is "
                              "not read: they belong in two files.",
                              "triangles or tetrahedra",
@@ -52,6 +64,19 @@ FoundProblem recogniseTwoKindsOfElements(Evidence_s& evidence) {
 }
 
 // ---- A function file without its count of variables
+
+/// Further integers of a header would be tiny as reals.
+bool beginsWithReals(Evidence_s& evidence, const HeaderGuess_s& guess) {
+    if (isText(guess))
+        return !evidence.text->areIntegers(guess.headerEnd, 1);
+    const bool isFortran = guess.form.encoding == io::Plot3DEncoding_FortranUnformatted;
+    const std::int64_t position = guess.headerEnd + (isFortran ? guess.form.markerSize : 0);
+    const auto bits = integerAt(evidence.file, position, guess.form.byteSwap);
+    if (!bits)
+        return false;
+    const float real = std::bit_cast<float>(*bits);
+    return real == 0.0F || std::fabs(real) > 1e-20F;
+}
 
 /// 0: the data are no whole number of variables.
 std::int64_t variablesOf(const HeaderGuess_s& guess, std::int64_t realWidth) {
@@ -85,7 +110,7 @@ FoundProblem recogniseMissingCountOfVariables(Evidence_s& evidence) {
         return std::nullopt;
     for (const HeaderGuess_s& guess : guessHeaders(evidence)) {
         const std::int64_t variables = variablesOf(guess);
-        if (variables < 1)
+        if (variables < 1 || !beginsWithReals(evidence, guess))
             continue;
         return problemOf("A function file without its count of variables behind the dimensions: " +
                              grouped(variables) + " would fit.",

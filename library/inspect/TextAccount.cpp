@@ -8,6 +8,7 @@ namespace plot3dlib {
 namespace {
 
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t mostPlanes = 1'000'000; // a repeat count can promise billions
 constexpr std::int64_t leastBytesOfNumber = 2;
 
 bool holdsIntegers(const TextScan& scan, const Reading_s& reading) {
@@ -15,6 +16,8 @@ bool holdsIntegers(const TextScan& scan, const Reading_s& reading) {
     for (std::size_t grid = 0; grid < reading.grids.size(); ++grid) {
         const GridBlocks_s blocks = blocksOf(reading, grid);
         index += blocks.scalars;
+        if (blocks.planes > mostPlanes)
+            return false;
         for (std::int64_t plane = 0; plane < blocks.planes; ++plane) {
             index += blocks.variables * blocks.planePoints;
             const std::int64_t integers = blocks.iBlanks * blocks.planePoints + blocks.connectivity;

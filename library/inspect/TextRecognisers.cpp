@@ -79,7 +79,7 @@ bool hasDataOfGrids(const HeaderGuess_s& guess) {
 
 FoundProblem recogniseCountOnLineOfSizes(Evidence_s& evidence) {
     const std::vector<std::int64_t> integers = integersOf(firstLine(evidence));
-    if (integers.size() < 3)
+    if (integers.size() < 3 || evidence.reading)
         return std::nullopt;
     const std::vector<HeaderGuess_s> guesses = guessHeaders(evidence);
     if (std::none_of(guesses.begin(), guesses.end(), hasDataOfGrids))

@@ -26,6 +26,10 @@ std::span<const Recogniser> recognisersOfForm(const io::Plot3DRecordForm_s& form
 
 /// What knows a file that no reading takes, or of which one does not take all.
 std::optional<Problem> recogniseOdd(Evidence_s& evidence) {
+    const bool isCutRecord =
+        evidence.isGuessed && evidence.form.encoding == io::Plot3DEncoding_FortranUnformatted;
+    if (isCutRecord)
+        return recognise(endRecognisers(), evidence);
     for (const auto table : {recognisersOfForm(evidence.form), kindRecognisers(),
                              chainRecognisers(), headerRecognisers(), lineRecognisers()})
         if (auto problem = recognise(table, evidence))

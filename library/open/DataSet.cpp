@@ -12,7 +12,9 @@
 #include "open/FileSorting.h"
 #include "open/HostLoad.h"
 #include "open/HostLock.h"
+#include "open/LoadFailure.h"
 #include "open/LoadInstructions.h"
+#include "open/LoadLimits.h"
 
 namespace plot3d {
 
@@ -25,12 +27,37 @@ void demandToGoOn(const Watch& watch) {
         throw Error(ErrorKind::Interrupted, "The load was stopped.");
 }
 
+Content_s loadExplained(const FileLists& files, const OpenOptions& options, bool withBoundary,
+                        const Watch& watch) {
+    try {
+        return loadAtHost(composeInstructions(files, options, withBoundary), watch);
+    } catch (const Error& error) {
+        throw explained(error, files, watch);
+    }
+}
+
+/// Where the files were taken to be alike and can't have been read so, they are loaded once more,
+/// each looked at by itself.
+Content_s loadAsToldOrSafely(const FileLists& files, const OpenOptions& options, bool withBoundary,
+                             const Watch& watch) {
+    Content_s content = loadExplained(files, options, withBoundary, watch);
+    if (!options.shareStructure || isComplete(content))
+        return content;
+    OpenOptions safe = options;
+    safe.shareStructure = false;
+    content = loadExplained(files, safe, withBoundary, watch);
+    content.notes.push_back("Each file was looked at by itself: files of planes, and of "
+                            "unstructured grids, can't be read by the structure of the first.");
+    return content;
+}
+
 /// The host lock is held.
 Content_s load(const FileLists& files, const std::vector<std::string>& boundaryFiles,
                const OpenOptions& options, const Watch& watch) {
+    demandReadable(options);
     const BoundaryUse_s boundary = boundaryUse(files, boundaryFiles, options.boundaries);
     demandToGoOn(watch);
-    Content_s content = loadAtHost(composeInstructions(files, options, boundary.isLoaded), watch);
+    Content_s content = loadAsToldOrSafely(files, options, boundary.isLoaded, watch);
     demandToGoOn(watch);
     content.files = files;
     content.notes.insert(content.notes.end(), boundary.notes.begin(), boundary.notes.end());
@@ -63,11 +90,11 @@ DataSet::~DataSet() = default;
 
 DataSet DataSet::open(const std::vector<std::string>& files, const OpenOptions& options,
                       const Watch& watch) {
-    const HostLock lock;
     SortedFiles_s sorted = sortByKind(files, watch);
     if (!options.nameFile.empty())
         sorted.lists.name = options.nameFile;
     demandFiles(sorted.lists);
+    const HostLock lock;
     return DataSet(std::make_shared<const Content>(
         Content{load(sorted.lists, sorted.boundaryFiles, options, watch)}));
 }

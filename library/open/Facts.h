@@ -3,8 +3,10 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <plot3d/Error.h>
+#include <plot3d/FileInfo.h>
 
 namespace plot3dlib {
 
@@ -21,5 +23,11 @@ inline plot3d::ErrorFacts expecting(std::string expected, std::string found = ""
     facts.found = std::move(found);
     return facts;
 }
+
+/// A command to type: its words, quoted for a shell where they must be.
+std::string commandOf(const std::vector<std::string>& words);
+
+/// Of what a look into the file has found wrong.
+plot3d::ErrorFacts factsOf(const plot3d::FileInfo& info);
 
 } // namespace plot3dlib

@@ -1,11 +1,15 @@
 #include "open/FieldTaker.h"
 
 #include <bit>
+#include <cstdlib>
 #include <cstring>
+#include <iterator>
+#include <optional>
 #include <utility>
 
 #include <plot3d/Error.h>
 
+#include "open/BoundaryRecords.h"
 #include "session/ReferenceHost.h"
 #include "state/HostState.h"
 
@@ -51,39 +55,16 @@ FileForm_s formOf(const Plot3DVariable_s& file) {
     return form;
 }
 
-/// In the parent zone, indices from 0; nothing where the zone leaves points of it out.
-std::optional<plot3d::Box> boxOf(const Plot3DBoundaryClientData_s& record) {
-    if (record.skipI != 1 || record.skipJ != 1 || record.skipK != 1)
-        return std::nullopt;
-    const Plot3DBoundary_s& boundary = *record.boundary;
-    return plot3d::Box{{boundary.iStart - 1, boundary.iEnd - 1, 1},
-                       {boundary.jStart - 1, boundary.jEnd - 1, 1},
-                       {boundary.kStart - 1, boundary.kEnd - 1, 1}};
-}
-
-/// Of the boundary's grid, as its file tells it.
-std::optional<plot3d::Extent> gridSizeOf(const Plot3DBoundaryClientData_s& record) {
-    const auto grid = static_cast<std::size_t>(record.boundary->gridNumber - 1);
-    if (grid >= record.file->gridDims.size())
-        return std::nullopt;
-    const Plot3DGridDims_s& dims = record.file->gridDims[grid];
-    return plot3d::Extent{dims.i, dims.j, dims.k};
-}
-
-/// Whether only this file can have given the grid's zone the variables that it begins with. Of
-/// several function files a boundary shows the last one in the place of the first.
-bool isOnlyFileOfItsVariables(const Plot3DFile_s& file, std::size_t firstVariable,
-                              std::size_t variableCount) {
-    return file.style != Plot3DStyle_Function ||
-           firstVariable + static_cast<std::size_t>(file.numVars) == variableCount;
-}
-
 } // namespace
 
 void FieldTaker::takeAll() {
     content_.fields.resize(content_.zones.size() * content_.variables.size());
     for (std::size_t variable = 0; variable < content_.variables.size(); ++variable)
         takeVariable(variable);
+    for (std::size_t zone = 0; zone < content_.zones.size(); ++zone)
+        straightenOffsets(zone);
+    for (const auto& [zone, boundary] : boundaries_)
+        takeBoundary(zone, *boundary);
 }
 
 void FieldTaker::takeVariable(std::size_t variable) {
@@ -91,41 +72,39 @@ void FieldTaker::takeVariable(std::size_t variable) {
         data_.fieldHolders(static_cast<std::int64_t>(variable) + 1);
     for (std::size_t zone = 0; zone < holders.size(); ++zone) {
         FieldRecord_s& record = content_.field(zone, variable);
-        const host::Field_s& field = data_.zones()[zone]->fields[variable];
-        record.type = valueTypeOf(field.type);
+        record.type = valueTypeOf(data_.zones()[zone]->fields[variable].type);
         record.holder = static_cast<std::uint32_t>(zone);
-        if (field.storage == nullptr)
+        const StoragePtr& storage = storageOf(zone, variable);
+        if (storage == nullptr)
             continue;
         const auto holder = static_cast<std::size_t>(holders[zone] - 1);
-        if (holder != zone)
+        if (const BoundaryRecord* const boundary = boundaryRecordOf(*storage)) {
+            boundaries_.try_emplace(zone, boundary);
+            record.holder = static_cast<std::uint32_t>(holder);
+        } else if (holder != zone) {
             record = content_.field(holder, variable);
-        else
-            takeField(zone, variable, field.storage);
+        } else {
+            takeField(zone, variable, storage);
+        }
     }
 }
 
-void FieldTaker::takeField(std::size_t zone, std::size_t variable,
-                           const std::shared_ptr<Storage>& storage) {
+void FieldTaker::takeField(std::size_t zone, std::size_t variable, const StoragePtr& storage) {
     FieldRecord_s& record = content_.field(zone, variable);
     record.type = valueTypeOf(storage->type());
     if (storage->valueCount() != content_.zones[zone].size.count()) {
-        content_.notes.push_back("Zone \"" + content_.zones[zone].name + "\", variable \"" +
-                                 content_.variables[variable].name +
-                                 "\": left out, since its values do not stand at the points.");
-        return;
-    }
-    if (!storage->isDeferred()) {
+        note(zone, variable, "left out, since its values do not stand at the points");
+    } else if (!storage->isDeferred()) {
         record.kind = FieldKind::InMemory;
         record.place = static_cast<std::uint32_t>(content_.storedFields.size());
         content_.storedFields.push_back(storage);
-    } else if (!takeFromFile(*storage, record) &&
-               !takeFromParent(zone, variable, *storage, record)) {
+    } else if (!takeFromFile(*storage, record)) {
         takeFromHost(zone, storage, record);
     }
 }
 
 bool FieldTaker::takeFromFile(const Storage& storage, FieldRecord_s& record) {
-    const LodRecord* const kept = fileRecordOf(storage);
+    const Plot3DLodRecord_s* const kept = fileRecordOf(storage);
     if (kept == nullptr || kept->numValues != storage.valueCount() ||
         kept->variable->encoding == Plot3DEncoding_Ascii ||
         !isStoredAs(storage.type(), *kept->variable))
@@ -136,47 +115,7 @@ bool FieldTaker::takeFromFile(const Storage& storage, FieldRecord_s& record) {
     return true;
 }
 
-bool FieldTaker::takeFromParent(std::size_t zone, std::size_t variable, const Storage& storage,
-                                FieldRecord_s& record) {
-    const BoundaryRecord* const kept = boundaryRecordOf(storage);
-    const std::optional<std::size_t> parent = content_.zones[zone].parent;
-    if (kept == nullptr || !parent || !isFieldOfParent(*kept, *parent, variable))
-        return false;
-    const std::optional<plot3d::Box> box = boxOf(*kept);
-    if (!box || box->extent() != content_.zones[zone].size)
-        return false;
-    record.kind = FieldKind::PartOf;
-    record.place = static_cast<std::uint32_t>(content_.parts.size());
-    content_.parts.push_back({*parent, variable, *box});
-    return true;
-}
-
-/// Whether the boundary's values are points of the field that the parent zone has.
-bool FieldTaker::isFieldOfParent(const BoundaryRecord& boundary, std::size_t parent,
-                                 std::size_t variable) const {
-    if (gridSizeOf(boundary) != content_.zones[parent].size ||
-        boundary.varOrdinal > static_cast<std::int64_t>(variable) + 1)
-        return false;
-    const std::size_t first = variable - static_cast<std::size_t>(boundary.varOrdinal - 1);
-    const FieldRecord_s& ofParent = content_.field(parent, variable);
-    const FieldRecord_s& firstOfParent = content_.field(parent, first);
-    if (ofParent.kind != firstOfParent.kind)
-        return false;
-    switch (ofParent.kind) {
-    case FieldKind::InFile:
-        return ofParent.place == firstOfParent.place &&
-               firstOfParent.offset == boundary.gridOffset &&
-               content_.forms[ofParent.place].file == boundary.file->fileName.view();
-    case FieldKind::InMemory:
-        return hostFields_ == HostFields_e::Fetched &&
-               isOnlyFileOfItsVariables(*boundary.file, first, content_.variables.size());
-    default:
-        return false;
-    }
-}
-
-void FieldTaker::takeFromHost(std::size_t zone, const std::shared_ptr<Storage>& storage,
-                              FieldRecord_s& record) {
+void FieldTaker::takeFromHost(std::size_t zone, const StoragePtr& storage, FieldRecord_s& record) {
     if (hostFields_ == HostFields_e::LeftAtHost) {
         record.kind = FieldKind::AtHost;
         record.place = static_cast<std::uint32_t>(content_.fieldsAtHost.size());
@@ -195,6 +134,110 @@ void FieldTaker::takeFromHost(std::size_t zone, const std::shared_ptr<Storage>& 
     content_.storedFields.push_back(copy);
 }
 
+/// The add-on, on its way past a field, misses the end of a segment that it would pass only by the
+/// markers of others. So the field behind one with several ends in it is put where it must be.
+void FieldTaker::straightenOffsets(std::size_t zone) {
+    const std::int64_t count = content_.zones[zone].size.count();
+    for (std::size_t variable = 1; variable < content_.variables.size(); ++variable) {
+        const FieldRecord_s& ahead = content_.field(zone, variable - 1);
+        FieldRecord_s& field = content_.field(zone, variable);
+        if (ahead.kind != FieldKind::InFile || field.kind != FieldKind::InFile ||
+            ahead.place != field.place)
+            continue;
+        const FileForm_s& form = content_.forms[field.place];
+        const std::int64_t byteCount = count * plot3d::width(ahead.type);
+        if (form.segmentEnds.size() < 2 || piecesOf(form, ahead.offset, byteCount).size() < 3)
+            continue;
+        const std::int64_t behind = positionBehind(form, ahead.offset, byteCount);
+        const std::int64_t markers = 2 * form.markerBytes * std::ssize(form.segmentEnds);
+        if (std::abs(field.offset - behind) <= markers) // else it is not the next one in the file
+            field.offset = behind;
+    }
+}
+
+void FieldTaker::takeBoundary(std::size_t zone, const BoundaryRecord& boundary) {
+    const plot3d::Zone& shape = content_.zones[zone];
+    const std::optional<plot3d::Box> box = boxOf(boundary);
+    const bool isInParent = shape.parent && box && box->extent() == shape.size &&
+                            gridSizeOf(boundary) == content_.zones[*shape.parent].size;
+    for (std::size_t variable = 0; variable < content_.variables.size(); ++variable) {
+        if (isInParent && mayTakePart(zone, variable))
+            takePart(zone, variable, *box);
+        else if (storageOf(zone, variable) != nullptr)
+            takeFetched(zone, variable);
+    }
+}
+
+bool FieldTaker::mayTakePart(std::size_t zone, std::size_t variable) const {
+    const std::size_t parent = *content_.zones[zone].parent;
+    const FieldKind kind = content_.field(parent, variable).kind;
+    if (hostFields_ == HostFields_e::Fetched) // what was loaded just now belongs together
+        return kind == FieldKind::InFile || kind == FieldKind::InMemory;
+    const StoragePtr& storage = storageOf(zone, variable);
+    const BoundaryRecord* const boundary = storage ? boundaryRecordOf(*storage) : nullptr;
+    return boundary != nullptr && isFieldOfParent(*boundary, parent, variable);
+}
+
+/// Whether the field that the boundary was set up for is the one that the parent zone has.
+bool FieldTaker::isFieldOfParent(const BoundaryRecord& boundary, std::size_t parent,
+                                 std::size_t variable) const {
+    if (boundary.varOrdinal > static_cast<std::int64_t>(variable) + 1)
+        return false;
+    const std::size_t first = variable - static_cast<std::size_t>(boundary.varOrdinal - 1);
+    const FieldRecord_s& ofParent = content_.field(parent, variable);
+    const FieldRecord_s& firstOfParent = content_.field(parent, first);
+    return ofParent.kind == FieldKind::InFile && firstOfParent.kind == FieldKind::InFile &&
+           ofParent.place == firstOfParent.place && firstOfParent.offset == boundary.gridOffset &&
+           content_.forms[ofParent.place].file == boundary.file->fileName.view();
+}
+
+void FieldTaker::takePart(std::size_t zone, std::size_t variable, const plot3d::Box& box) {
+    FieldRecord_s& record = content_.field(zone, variable);
+    const std::size_t holder = record.holder;
+    if (holder != zone && content_.field(holder, variable).kind == FieldKind::PartOf &&
+        isSameInParents(zone, holder, variable)) {
+        record = content_.field(holder, variable);
+        return;
+    }
+    const std::size_t parent = *content_.zones[zone].parent;
+    record.type = content_.field(parent, variable).type;
+    record.kind = FieldKind::PartOf;
+    record.holder = static_cast<std::uint32_t>(zone);
+    record.place = static_cast<std::uint32_t>(content_.parts.size());
+    content_.parts.push_back({parent, variable, box});
+}
+
+/// Whether the zones' grids have the same field.
+bool FieldTaker::isSameInParents(std::size_t zone, std::size_t other, std::size_t variable) const {
+    const std::optional<std::size_t> parent = content_.zones[zone].parent;
+    const std::optional<std::size_t> parentOfOther = content_.zones[other].parent;
+    return parent && parentOfOther &&
+           content_.field(*parent, variable).holder ==
+               content_.field(*parentOfOther, variable).holder;
+}
+
+/// The way of the add-on, where it leads to the right values.
+void FieldTaker::takeFetched(std::size_t zone, std::size_t variable) {
+    FieldRecord_s& record = content_.field(zone, variable);
+    const std::size_t holder = std::exchange(record.holder, static_cast<std::uint32_t>(zone));
+    const StoragePtr& storage = storageOf(zone, variable);
+    const BoundaryRecord* const boundary = boundaryRecordOf(*storage);
+    const bool isWanted = hostFields_ == HostFields_e::Fetched;
+    const bool isRight = boundary != nullptr &&
+                         isFetchedRight(*boundary, variable, content_.variables.size()) &&
+                         (holder == zone || isSameInParents(zone, holder, variable));
+    if (isWanted && !isRight)
+        note(zone, variable, "left out, since the values at the boundary can't be told");
+    else if (holder != zone && content_.field(holder, variable).kind != FieldKind::Empty)
+        record = content_.field(holder, variable);
+    else
+        takeFromHost(zone, storage, record);
+}
+
+const FieldTaker::StoragePtr& FieldTaker::storageOf(std::size_t zone, std::size_t variable) const {
+    return data_.zones()[zone]->fields[variable].storage;
+}
+
 /// Of the file's form among all; files that several time steps name stand there once.
 std::uint32_t FieldTaker::placeOf(const Plot3DVariable_s& file) {
     const auto known = placesByRecord_.find(&file);
@@ -206,6 +249,11 @@ std::uint32_t FieldTaker::placeOf(const Plot3DVariable_s& file) {
     if (isNew)
         content_.forms.push_back(std::move(form));
     return placesByRecord_[&file] = place->second;
+}
+
+void FieldTaker::note(std::size_t zone, std::size_t variable, const char* what) {
+    content_.notes.push_back("Zone \"" + content_.zones[zone].name + "\", variable \"" +
+                             content_.variables[variable].name + "\": " + what + ".");
 }
 
 } // namespace plot3dlib

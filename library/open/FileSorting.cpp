@@ -3,19 +3,18 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
 #include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <plot3d/Error.h>
+#include <plot3d/FileInfo.h>
 
-#include "filenames/FilePatternTables.h"
-#include "filenames/SimplePatternMatcher.h"
+#include "inspect/KindOfName.h"
 #include "open/Facts.h"
-#include "open/KindTrial.h"
 #include "open/NaturalOrder.h"
 
 namespace plot3dlib {
@@ -23,6 +22,7 @@ namespace plot3dlib {
 namespace {
 
 using plot3d::Error;
+using plot3d::ErrorFacts;
 using plot3d::ErrorKind;
 using plot3d::FileKind;
 
@@ -39,41 +39,20 @@ void demandFile(const std::string& file) {
         throw Error(ErrorKind::NotFound, "This is no regular file.", ofFile(file));
 }
 
-/// The kinds that names tell, in the order in which the add-on asks.
-class NameRules {
-public:
-    std::optional<FileKind> kindOf(const std::string& file) const {
-        const std::string name = std::filesystem::path(file).filename().string();
-        if (boundary_.matches(name))
-            return FileKind::Boundary;
-        if (grid_.matches(name))
-            return FileKind::Grid;
-        if (solution_.matches(name))
-            return FileKind::Solution;
-        if (function_.matches(name))
-            return FileKind::Function;
-        if (name_.matches(name))
-            return FileKind::Name;
-        return std::nullopt;
-    }
+Error noKind(const plot3d::FileInfo& info) {
+    ErrorFacts facts = factsOf(info);
+    return Error(ErrorKind::NotPlot3D,
+                 "The name does not say what the file is, and it reads neither as a grid, nor as a "
+                 "solution, nor as a function file" +
+                     (info.problem ? ": " + info.problem->misfit.what : "."),
+                 std::move(facts));
+}
 
-private:
-    using Matcher = quorvia::quorutildataio::SimplePatternMatcher;
-    Matcher boundary_{{"*.fvbnd"}};
-    Matcher grid_{quorvia::quorutildataio::gGridPatterns};
-    Matcher solution_{quorvia::quorutildataio::gSolutionPatterns};
-    Matcher function_{quorvia::quorutildataio::gFunctionPatterns};
-    Matcher name_{quorvia::quorutildataio::gNamePatterns};
-};
-
-FileKind kindByTrial(const std::string& file, const plot3d::Watch& watch) {
-    const std::vector<FileKind> kinds = kindsThatFit(file, watch);
-    if (kinds.empty())
-        throw Error(ErrorKind::NotPlot3D,
-                    "The name does not tell what the file is, and it reads neither as a grid, nor "
-                    "as a solution, nor as a function file.",
-                    ofFile(file, "plot3d info --why " + file));
-    return kinds.front();
+FileKind kindByLooking(const std::string& file, const plot3d::Watch& watch) {
+    const plot3d::FileInfo info = plot3d::inspect(file, {}, watch);
+    if (!info.ok || !info.kind)
+        throw noKind(info);
+    return *info.kind;
 }
 
 void addTo(SortedFiles_s& sorted, FileKind kind, const std::string& file) {
@@ -103,12 +82,11 @@ void addTo(SortedFiles_s& sorted, FileKind kind, const std::string& file) {
 
 SortedFiles_s sortByKind(std::vector<std::string> files, const plot3d::Watch& watch) {
     std::sort(files.begin(), files.end(), isNaturallyBefore);
-    const NameRules names;
     SortedFiles_s sorted;
     for (const std::string& file : files) {
         demandFile(file);
-        const std::optional<FileKind> kind = names.kindOf(file);
-        addTo(sorted, kind ? *kind : kindByTrial(file, watch), file);
+        const std::optional<FileKind> kind = kindOfName(file);
+        addTo(sorted, kind ? *kind : kindByLooking(file, watch), file);
     }
     return sorted;
 }

@@ -15,7 +15,7 @@ struct SortedFiles_s {
 };
 
 /// Throws plot3d::Error for a file that is not there, or of which no kind can be told, and for a
-/// second name file. Files are looked into where names don't tell; that needs the host.
+/// second name file. Files are looked into where names don't tell.
 SortedFiles_s sortByKind(std::vector<std::string> files, const plot3d::Watch& watch);
 
 /// Throws plot3d::Error (NotFound) if one of the files can't be opened for reading.

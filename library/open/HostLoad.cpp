@@ -68,7 +68,8 @@ Content_s loadAtHost(const std::vector<std::string>& instructions, const plot3d:
     if (!result.ok || result.interrupted || separate.frame().dataSet() == nullptr)
         throw failureOf(result, host.log().messages);
     Content_s content = contentOf(separate.frame(), HostFields_e::Fetched);
-    content.notes = notesOf(host.log().messages);
+    const std::vector<std::string> said = notesOf(host.log().messages);
+    content.notes.insert(content.notes.begin(), said.begin(), said.end());
     return content;
 }
 

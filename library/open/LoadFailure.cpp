@@ -80,9 +80,19 @@ Error errorOf(const Message_s& message) {
     ErrorFacts facts = ofFile(said.file);
     const ErrorKind kind = kindOf(said.text);
     if (!said.file.empty() && kind != ErrorKind::NotFound)
-        facts.next =
-            (kind == ErrorKind::NotPlot3D ? "plot3d info --why " : "plot3d info ") + said.file;
+        facts.next = commandOf({"plot3d", "info", said.file});
     return Error(kind, wordsWithoutDialog(said.text), std::move(facts));
+}
+
+bool contains(const std::vector<std::string>& files, const std::string& file) {
+    return std::find(files.begin(), files.end(), file) != files.end();
+}
+
+/// What the load has taken the file for.
+plot3d::FileKind kindIn(const plot3d::FileLists& files, const std::string& file) {
+    if (contains(files.grid, file))
+        return plot3d::FileKind::Grid;
+    return contains(files.solution, file) ? plot3d::FileKind::Solution : plot3d::FileKind::Function;
 }
 
 } // namespace
@@ -99,6 +109,15 @@ Error failureOf(const quorvia::host::LoadResult_s& result, const std::vector<Mes
         return errorOf(*first);
     return Error(ErrorKind::Refused, "The load was refused without a reason; its instructions have "
                                      "a word or a value that no load takes.");
+}
+
+Error explained(const Error& error, const plot3d::FileLists& files, const plot3d::Watch& watch) {
+    if (error.kind() != ErrorKind::NotPlot3D || error.facts().file.empty())
+        return error;
+    plot3d::InspectOptions options;
+    options.as = kindIn(files, error.facts().file);
+    const plot3d::FileInfo info = plot3d::inspect(error.facts().file, options, watch);
+    return info.problem ? Error(error.kind(), info.problem->misfit.what, factsOf(info)) : error;
 }
 
 std::vector<std::string> notesOf(const std::vector<Message_s>& messages) {

@@ -2,8 +2,8 @@
 
 namespace plot3dlib {
 
-BatchPlan planBatches(const BoxStrides& strides, const BatchLimits& limits) {
-    BatchPlan plan;
+BatchPlan_s planBatches(const BoxStrides_s& strides, const BatchLimits_s& limits) {
+    BatchPlan_s plan;
     std::int64_t span = strides.run;
     for (std::size_t n = 0; n < strides.directionCount; ++n) {
         const auto& [count, stride] = strides.directions[n];

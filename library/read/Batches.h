@@ -9,33 +9,33 @@
 
 namespace plot3dlib {
 
-/// In values, as BoxStrides counts them.
-struct BatchLimits {
+/// In values, as BoxStrides_s counts them.
+struct BatchLimits_s {
     std::int64_t span; // places that a batch may go over, at least 1
     std::int64_t gap;  // places between two runs of one batch; below 0: each run for itself
 };
 
 /// A batch holds the innermost directions whole, and a group of the next one.
-struct BatchPlan {
+struct BatchPlan_s {
     std::size_t wholeDirections = 0;
     std::int64_t group = 1;
 };
 
-BatchPlan planBatches(const BoxStrides& strides, const BatchLimits& limits);
+BatchPlan_s planBatches(const BoxStrides_s& strides, const BatchLimits_s& limits);
 
-/// Calls `use(batch)` for one BoxStrides after the other: together they are the values of
+/// Calls `use(batch)` for one BoxStrides_s after the other: together they are the values of
 /// `strides`, in their order.
 template <typename Use>
-void forEachBatch(const BoxStrides& strides, const BatchLimits& limits, Use use) {
-    const BatchPlan plan = planBatches(strides, limits);
+void forEachBatch(const BoxStrides_s& strides, const BatchLimits_s& limits, Use use) {
+    const BatchPlan_s plan = planBatches(strides, limits);
     const auto direction = [&](std::size_t n) {
-        return n < strides.directionCount ? strides.directions[n] : BoxStrides::Direction{};
+        return n < strides.directionCount ? strides.directions[n] : BoxStrides_s::Direction_s{};
     };
-    const BoxStrides::Direction grouped = direction(plan.wholeDirections);
-    const BoxStrides::Direction middle = direction(plan.wholeDirections + 1);
-    const BoxStrides::Direction outer = direction(plan.wholeDirections + 2);
+    const BoxStrides_s::Direction_s grouped = direction(plan.wholeDirections);
+    const BoxStrides_s::Direction_s middle = direction(plan.wholeDirections + 1);
+    const BoxStrides_s::Direction_s outer = direction(plan.wholeDirections + 2);
 
-    BoxStrides batch;
+    BoxStrides_s batch;
     std::copy_n(strides.directions.begin(), plan.wholeDirections, batch.directions.begin());
     const auto useGroup = [&](std::int64_t first, std::int64_t count) {
         batch.directionCount = plan.wholeDirections;

@@ -28,7 +28,7 @@ void requireInside(const Range& range, std::int64_t size, char direction) {
                std::to_string(range.first) + " to " + std::to_string(range.last));
 }
 
-void append(BoxStrides& strides, std::int64_t count, std::int64_t stride) {
+void append(BoxStrides_s& strides, std::int64_t count, std::int64_t stride) {
     if (count == 1)
         return;
     if (strides.directionCount == 0 && stride == strides.run) {
@@ -36,7 +36,7 @@ void append(BoxStrides& strides, std::int64_t count, std::int64_t stride) {
         return;
     }
     if (strides.directionCount > 0) {
-        BoxStrides::Direction& last = strides.directions[strides.directionCount - 1];
+        BoxStrides_s::Direction_s& last = strides.directions[strides.directionCount - 1];
         if (last.count * last.stride == stride) {
             last.count *= count;
             return;
@@ -47,7 +47,7 @@ void append(BoxStrides& strides, std::int64_t count, std::int64_t stride) {
 
 /// Gives where the next values go.
 template <typename Word>
-std::byte* gatherWords(const std::byte* from, const BoxStrides::Direction& direction,
+std::byte* gatherWords(const std::byte* from, const BoxStrides_s::Direction_s& direction,
                        std::byte* to) {
     const std::int64_t step = direction.stride * static_cast<std::int64_t>(sizeof(Word));
     for (std::int64_t n = 0; n < direction.count; ++n) {
@@ -57,8 +57,9 @@ std::byte* gatherWords(const std::byte* from, const BoxStrides::Direction& direc
     return to;
 }
 
-std::byte* gatherRuns(const std::byte* from, const BoxStrides& strides,
-                      const BoxStrides::Direction& direction, std::int64_t width, std::byte* to) {
+std::byte* gatherRuns(const std::byte* from, const BoxStrides_s& strides,
+                      const BoxStrides_s::Direction_s& direction, std::int64_t width,
+                      std::byte* to) {
     if (strides.run == 1)
         return width == 8 ? gatherWords<std::uint64_t>(from, direction, to)
                           : gatherWords<std::uint32_t>(from, direction, to);
@@ -80,22 +81,22 @@ void requireInside(const Box& box, const Extent& size) {
     requireInside(empty ? Range{0, 0, box.k.step} : box.k, size.k, 'K');
 }
 
-std::int64_t BoxStrides::count() const {
+std::int64_t BoxStrides_s::count() const {
     std::int64_t values = run;
     for (std::size_t n = 0; n < directionCount; ++n)
         values *= directions[n].count;
     return values;
 }
 
-std::int64_t BoxStrides::span() const {
+std::int64_t BoxStrides_s::span() const {
     std::int64_t places = run;
     for (std::size_t n = 0; n < directionCount; ++n)
         places += (directions[n].count - 1) * directions[n].stride;
     return places;
 }
 
-BoxStrides stridesOf(const Box& box, const Extent& size) {
-    BoxStrides strides;
+BoxStrides_s stridesOf(const Box& box, const Extent& size) {
+    BoxStrides_s strides;
     strides.first = (box.k.first * size.j + box.j.first) * size.i + box.i.first;
     const Extent points = box.extent();
     // The step of a direction with one point means nothing, and may be any number.
@@ -105,7 +106,7 @@ BoxStrides stridesOf(const Box& box, const Extent& size) {
     return strides;
 }
 
-void gather(const std::byte* from, const BoxStrides& strides, std::int64_t width, std::byte* to) {
+void gather(const std::byte* from, const BoxStrides_s& strides, std::int64_t width, std::byte* to) {
     const auto& [inner, middle, outer] = strides.directions;
     for (std::int64_t k = 0; k < outer.count; ++k)
         for (std::int64_t j = 0; j < middle.count; ++j)

@@ -33,7 +33,7 @@ void copyBox(const void* whole, const Values& field, const Box& box, void* desti
     const auto* from = static_cast<const std::byte*>(whole);
     auto* to = static_cast<std::byte*>(destination);
     forEachBatch(stridesOf(box, field.size()), {valuesBetweenQuestions, valuesBetweenQuestions},
-                 [&](const BoxStrides& batch) {
+                 [&](const BoxStrides_s& batch) {
                      endIfStopped(stop);
                      gather(from + batch.first * width, batch, width, to);
                      to += batch.count() * width;

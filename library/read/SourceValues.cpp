@@ -57,7 +57,7 @@ std::int64_t byteCountOf(ValueType type, const Extent& size) {
     return *bytes.value();
 }
 
-BatchLimits limitsFor(std::int64_t runBytes, std::int64_t width, bool needsSecondPass) {
+BatchLimits_s limitsFor(std::int64_t runBytes, std::int64_t width, bool needsSecondPass) {
     if (runBytes < longRunBytes)
         return {joinedBytes / width, gapBytes / width};
     return {(needsSecondPass ? cachedBytes : straightBytes) / width, -1};
@@ -70,24 +70,24 @@ SourceValues::SourceValues(const plot3d::Source& source, const Extent& size)
       isSwapped_(source.order != machineOrder) {}
 
 void SourceValues::read(const Box& box, void* destination, const std::stop_token& stop) const {
-    readAs(Form::AsItIs, box, destination, stop);
+    readAs(Form_e::AsItIs, box, destination, stop);
 }
 
 void SourceValues::readAsDouble(const Box& box, double* destination,
                                 const std::stop_token& stop) const {
-    readAs(Form::Reals64, box, destination, stop);
+    readAs(Form_e::Reals64, box, destination, stop);
 }
 
-void SourceValues::readAs(Form form, const Box& box, void* destination,
+void SourceValues::readAs(Form_e form, const Box& box, void* destination,
                           const std::stop_token& stop) const {
     const std::int64_t width = plot3d::width(type());
-    const bool widens = form == Form::Reals64 && type() != ValueType::Float64;
-    const BoxStrides strides = stridesOf(box, size());
-    const BatchLimits limits = limitsFor(strides.run * width, width, isSwapped_ || widens);
+    const bool widens = form == Form_e::Reals64 && type() != ValueType::Float64;
+    const BoxStrides_s strides = stridesOf(box, size());
+    const BatchLimits_s limits = limitsFor(strides.run * width, width, isSwapped_ || widens);
     std::unique_ptr<std::byte[]> joined; // made by the first joined read, which is no smaller
     char* target = static_cast<char*>(destination);
 
-    const auto fetch = [&](const BoxStrides& batch, void* values) {
+    const auto fetch = [&](const BoxStrides_s& batch, void* values) {
         if (batch.directionCount == 0)
             return bytes_.read(batch.first * width, values, batch.run * width);
         if (!joined)
@@ -96,7 +96,7 @@ void SourceValues::readAs(Form form, const Box& box, void* destination,
         bytes_.read(batch.first * width, joined.get(), batch.span() * width);
         gather(joined.get(), batch, width, static_cast<std::byte*>(values));
     };
-    forEachBatch(strides, limits, [&](const BoxStrides& batch) {
+    forEachBatch(strides, limits, [&](const BoxStrides_s& batch) {
         endIfStopped(stop);
         const std::int64_t count = batch.count();
         auto* reals = reinterpret_cast<double*>(target);

@@ -19,8 +19,8 @@ public:
     std::int64_t readCount() const override { return bytes_.readCount(); }
 
 private:
-    enum class Form : std::uint8_t { AsItIs, Reals64 };
-    void readAs(Form form, const plot3d::Box& box, void* destination,
+    enum class Form_e : std::uint8_t { AsItIs, Reals64 };
+    void readAs(Form_e form, const plot3d::Box& box, void* destination,
                 const std::stop_token& stop) const;
 
     PieceBytes bytes_;

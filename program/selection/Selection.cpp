@@ -60,15 +60,11 @@ std::optional<Box> boxOf(const Extent& size, const IndexRange_s& i, const IndexR
 
 } // namespace
 
-void SelectionArguments::declareVariable(CLI::App& app) {
+void SelectionArguments::declareWithoutBlank(CLI::App& app) {
     app.add_option("--variable", variables_,
                    "Variables by name, separated by commas; * and ? stand for any characters and "
                    "for one")
         ->type_name("NAMES");
-}
-
-void SelectionArguments::declare(CLI::App& app) {
-    declareVariable(app);
     app.add_option("--zone", zones_, "Zones by number from 1, such as 1,3-5")->type_name("LIST");
     app.add_option("--time", times_, "Solution times: one, a range such as 0.5:2, or first or last")
         ->type_name("TIME");
@@ -81,8 +77,18 @@ void SelectionArguments::declare(CLI::App& app) {
         ->type_name("I,J,K")
         ->check(parsedBy(parsePoint))
         ->excludes("--i", "--j", "--k");
+}
+
+void SelectionArguments::declare(CLI::App& app) {
+    declareWithoutBlank(app);
     app.add_option("--blank", blank_, "What becomes of points whose I-blank is 0 (default: skip)")
         ->type_name("skip|keep");
+}
+
+bool SelectionArguments::isEverything() const {
+    const std::string* const all[] = {&variables_, &zones_, &times_, &i_, &j_, &k_, &point_};
+    return std::all_of(std::begin(all), std::end(all),
+                       [](const std::string* text) { return text->empty(); });
 }
 
 std::vector<std::size_t> SelectionArguments::variables(const DataSet& data) const {

@@ -20,8 +20,8 @@ class SelectionArguments {
 public:
     /// --variable, --zone, --time, --i, --j, --k, --point, --blank.
     void declare(CLI::App& app);
-    /// The first of these alone.
-    void declareVariable(CLI::App& app);
+    /// The same without --blank, for commands to which all points are alike.
+    void declareWithoutBlank(CLI::App& app);
 
     /// Indices from 0, ascending. Throws plot3d::Error (Usage) for a pattern or number that meets
     /// nothing, with the names that are there.
@@ -34,6 +34,8 @@ public:
     /// The boxes of zones(), without zones that hold no selected point. Throws plot3d::Error
     /// (Usage) if none does.
     std::vector<SelectedZone_s> selectedZones(const DataSet& data) const;
+    /// Whether nothing is left out, points with I-blank 0 apart.
+    bool isEverything() const;
     /// Whether points whose I-blank is 0 are left out.
     bool skipsBlanked() const { return blank_ == "skip"; }
 

@@ -9,6 +9,7 @@
 #include "blocks/DataSetFields.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
+#include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "stats/StatsReport.h"
 
@@ -19,6 +20,10 @@ bool isCount(const std::string& word) {
     return !word.empty() && std::all_of(word.begin(), word.end(), [](unsigned char letter) {
         return std::isdigit(letter) != 0;
     });
+}
+
+std::string binCount(const std::string& text) {
+    return wholeNumberBetween(text, 1, 100000);
 }
 
 std::vector<double> percentilesIn(const std::string& text) {
@@ -33,6 +38,15 @@ std::vector<double> percentilesIn(const std::string& text) {
         percentiles.push_back(*percentile);
     }
     return percentiles;
+}
+
+std::string percentilesProblem(const std::string& text) {
+    try {
+        percentilesIn(text);
+        return {};
+    } catch (const Error& error) {
+        return error.message();
+    }
 }
 
 /// Tells what could not be read, each field once. Gives the exit code.
@@ -73,17 +87,18 @@ void StatsCommand::declare(CLI::App& app) {
     files_.declare(app);
     selection_.declare(app);
     app.add_option("--percentiles", percentiles_, "Percentiles, such as 5,50,95")
-        ->type_name("LIST");
+        ->type_name("LIST")
+        ->check(percentilesProblem);
     app.add_option("--histogram", bins_, "Counts in bins of equal width, 20 unless you say")
         ->type_name("[BINS]")
-        ->check(CLI::Range(1, 100000));
+        ->check(binCount);
     app.add_flag("--hash", hash_,
                  "CRC-32 of the values of each field, as little-endian bytes, I fastest");
     app.add_flag("--per-zone", perZone_, "Tell each zone in the tables, too");
     app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.stats/1");
     app.add_option("--threads", threads_, "Cores to work on; all of them unless you say")
         ->type_name("COUNT")
-        ->check(CLI::Range(1, 1024));
+        ->check(threadCount);
 }
 
 void StatsCommand::takeApart(std::vector<std::string>& arguments) {

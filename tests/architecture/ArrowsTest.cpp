@@ -76,9 +76,8 @@ Arrows libraryArrows() {
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
           "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection"}},
         {"open",
-         {"facts", "read", "inspect", "sdk", "filenames", "instructions", "plot3dfile/file",
-          "plot3dfile/detection", "dataset/ondemand", "boundary", "addon", "model", "state",
-          "session"}},
+         {"facts", "read", "inspect", "sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file",
+          "dataset/ondemand", "boundary", "addon", "model", "state", "session"}},
     };
     for (const Arrows* below : {&sourceArrows, &hostArrows})
         arrows.insert(below->begin(), below->end());

@@ -168,8 +168,8 @@ GivenOut_s GivenOut_s::now() {
 std::string hostPicture(const Guest_s& guest, const GivenOut_s& before) {
     const HostState_s& host = hostState();
     std::ostringstream out;
-    out << "plot type " << host.frame.plotType() << '\n';
-    if (const DataSet* data = host.frame.dataSet())
+    out << "plot type " << host.frame().plotType() << '\n';
+    if (const DataSet* data = host.frame().dataSet())
         addDataSet(out, *data);
     for (const QuorStringListHandle list :
          {guest.list.get(), guest.otherList.get(),

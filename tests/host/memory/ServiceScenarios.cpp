@@ -6,7 +6,7 @@
 namespace quorvia::host {
 
 Guest_s::~Guest_s() {
-    hostState().frame.reset();
+    hostState().frame().reset();
     task.reset(); // a task ends before its parent
     QuorUtilArrayDealloc(&array);
 }

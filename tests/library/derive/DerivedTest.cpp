@@ -20,9 +20,9 @@ const plot3d::DerivedQuantity& named(std::string_view wordOrNumber) {
     return *plot3d::findDerivedQuantity(wordOrNumber);
 }
 
-std::string missingFor(const DataSet& data, std::string_view wordOrNumber) {
+std::string missingFor(const DataSet& data, std::string_view wordOrNumber, std::size_t zone = 0) {
     std::string reason;
-    const bool can = plot3d::canDerive(data, 0, named(wordOrNumber), reason);
+    const bool can = plot3d::canDerive(data, zone, named(wordOrNumber), reason);
     EXPECT_EQ(can, reason.empty());
     return reason;
 }
@@ -49,15 +49,15 @@ class DerivedTest : public ::testing::Test {
 protected:
     DerivedTest() {
         flow_.state = [](const Vector& at) {
-            return State{1.0 + 0.01 * at[0],
-                         {0.5 - 0.7 * at[1], 0.7 * at[0], 0},
-                         2.0 + 0.1 * at[0] + 0.2 * at[1]};
+            return State_s{1.0 + 0.01 * at[0],
+                           {0.5 - 0.7 * at[1], 0.7 * at[0], 0},
+                           2.0 + 0.1 * at[0] + 0.2 * at[1]};
         };
     }
     DataSet open() const { return flow_.open(directory_); }
     std::string file(const char* name) const { return directory_.file(name); }
 
-    TestFlow flow_;
+    TestFlow_s flow_;
     quorvia::testsupport::TemporaryDirectory directory_;
 };
 
@@ -66,7 +66,7 @@ TEST_F(DerivedTest, HaveTheValuesOfTheFlow) {
     const Components pressure = derive(data, 0, named("pressure"));
     const Components temperature = derive(data, 0, named("temperature"));
     for (std::size_t n = 0; n < pressure[0].size(); ++n) {
-        const State state = flow_.stateAt(n);
+        const State_s state = flow_.stateAt(n);
         EXPECT_NEAR(pressure[0][n], state.pressure, 1e-13);
         EXPECT_NEAR(temperature[0][n], state.pressure / state.density, 1e-13);
     }
@@ -167,6 +167,57 @@ TEST_F(DerivedTest, EndWhenTheyAreStopped) {
     std::stop_source stop;
     stop.request_stop();
     EXPECT_THROW(derive(open(), 0, named("velocity"), {}, stop.get_token()), plot3d::Error);
+}
+
+/// A flow whose gradient differs from node to node, with a wall of J 0, I 1 to 3, K 0 to 1.
+class DerivedAtBoundary : public DerivedTest {
+protected:
+    DerivedAtBoundary() {
+        flow_.state = [](const Vector& at) {
+            return State_s{2.0, {at[1] * at[2], at[0] * at[0], at[0] * at[1]}, 2.0 + at[1] * at[1]};
+        };
+        directory_.write("flow.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n1 1 2 4 1 1 1 2 F 0\n");
+    }
+    static constexpr plot3d::Box wall{{1, 3, 1}, {0, 0, 1}, {0, 1, 1}};
+    /// Of the grid's values, those at the wall.
+    Components atWall(const Components& whole) const {
+        Components some(whole.size());
+        for (std::size_t n = 0; n < whole.size(); ++n)
+            for (std::int64_t k = wall.k.first; k <= wall.k.last; ++k)
+                for (std::int64_t i = wall.i.first; i <= wall.i.last; ++i)
+                    some[n].push_back(
+                        whole[n][static_cast<std::size_t>(k * flow_.size.j * flow_.size.i + i)]);
+        return some;
+    }
+};
+
+TEST_F(DerivedAtBoundary, AreThoseOfTheGridAtItsPoints) {
+    const DataSet data = open();
+    ASSERT_EQ(data.zones().size(), 2U);
+    for (const plot3d::DerivedQuantity& quantity : plot3d::derivedQuantities())
+        EXPECT_EQ(derive(data, 1, quantity), atWall(derive(data, 0, quantity))) << quantity.name;
+}
+
+TEST_F(DerivedAtBoundary, NeedTheGridAroundItForDerivatives) {
+    flow_.write(directory_);
+    plot3d::OpenOptions options;
+    options.instructions = {{"IINDEXRANGE", "1,,2"}}; // read by themselves
+    const DataSet data =
+        DataSet::open(std::vector<std::string>{file("flow.x"), file("flow.q")}, options);
+    ASSERT_EQ(data.zones().size(), 2U);
+    EXPECT_EQ(missingFor(data, "vorticity", 1),
+              "the points beside this boundary, which derivatives need, are not known");
+    EXPECT_EQ(missingFor(data, "pressure", 1), "");
+}
+
+TEST_F(DerivedTest, NeedTheNamesThatTellWhatVariablesAre) {
+    flow_.write(directory_);
+    plot3d::OpenOptions options;
+    options.nameFile = directory_.write("flow.nam", "density\n");
+    const DataSet data =
+        DataSet::open(std::vector<std::string>{file("flow.x"), file("flow.q")}, options);
+    EXPECT_EQ(missingFor(data, "velocity"), "no variable is known to be the density");
+    EXPECT_EQ(missingFor(data, "momentum"), "");
 }
 
 TEST_F(DerivedTest, OfAnOverflowFileTakeItsOwnGammas) {

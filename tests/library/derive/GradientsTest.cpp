@@ -14,10 +14,10 @@ namespace {
 constexpr double near = 1e-11;
 
 /// Velocity = rate x place + drift, row by row; pressure falls along (0.1, 0.2, 0.3).
-TestFlow linearFlow(const std::array<Vector, 3>& rate, const Vector& drift = {}) {
-    TestFlow flow;
+TestFlow_s linearFlow(const std::array<Vector, 3>& rate, const Vector& drift = {}) {
+    TestFlow_s flow;
     flow.state = [=](const Vector& place) {
-        State state;
+        State_s state;
         state.density = 2.0;
         for (std::size_t row = 0; row < 3; ++row)
             state.velocity[row] = plot3dlib::dot(rate[row], place) + drift[row];
@@ -50,8 +50,8 @@ TEST(Vorticity, OfAnyLinearFlowIsTheSameAtAllNodes) {
 }
 
 TEST(Vorticity, IsTheSameOnALeftHandedGrid) {
-    TestFlow flow = linearFlow(anyRate);
-    flow.place = [](double i, double j, double k) { return TestFlow::bentPlace(j, i, k); };
+    TestFlow_s flow = linearFlow(anyRate);
+    flow.place = [](double i, double j, double k) { return TestFlow_s::bentPlace(j, i, k); };
     expectEverywhere(flow.compute(201), {-14, -4, -6});
 }
 
@@ -64,7 +64,7 @@ TEST(PressureGradient, OfALinearPressureIsTheSameAtAllNodes) {
 }
 
 TEST(Swirl, IsVorticityTimesMomentumByTheSquareOfTheSpeed) {
-    const TestFlow flow = linearFlow(turning, {1, 1, 1});
+    const TestFlow_s flow = linearFlow(turning, {1, 1, 1});
     const Components swirl = flow.compute(184);
     for (std::size_t n = 0; n < swirl[0].size(); ++n) {
         const Vector velocity = flow.stateAt(n).velocity;
@@ -81,10 +81,10 @@ TEST(Swirl, IsNotANumberAtRest) {
 }
 
 TEST(Gradients, AreExactInsideForSquaresOnAnEvenGrid) {
-    TestFlow flow;
+    TestFlow_s flow;
     flow.size = {7, 5, 3};
     flow.place = [](double i, double j, double k) { return Vector{0.5 * i, 0.25 * j, 2 * k}; };
-    flow.state = [](const Vector& at) { return State{1.0, {0, at[0] * at[0], 0}, 1.0}; };
+    flow.state = [](const Vector& at) { return State_s{1.0, {0, at[0] * at[0], 0}, 1.0}; };
     const Components vorticity = flow.compute(201);
     for (std::size_t n = 0; n < vorticity[2].size(); ++n) {
         const std::size_t i = n % 7;
@@ -94,7 +94,7 @@ TEST(Gradients, AreExactInsideForSquaresOnAnEvenGrid) {
 }
 
 TEST(Gradients, OfAPlaneFlowLieInItsPlane) {
-    TestFlow flow = linearFlow({{{1, 2, 0}, {-4, 5, 0}, {0, 0, 0}}});
+    TestFlow_s flow = linearFlow({{{1, 2, 0}, {-4, 5, 0}, {0, 0, 0}}});
     flow.size = {5, 4, 1};
     flow.place = [](double i, double j, double) { return Vector{i + 0.1 * j * j, j - 0.2 * i, 0}; };
     expectEverywhere(flow.compute(201), {0, 0, -6});
@@ -103,7 +103,7 @@ TEST(Gradients, OfAPlaneFlowLieInItsPlane) {
 }
 
 TEST(Gradients, OfAPlaneGridStandUprightJustAsWell) {
-    TestFlow flow = linearFlow({{{1, 0, 3}, {0, 0, 0}, {7, 0, 9}}});
+    TestFlow_s flow = linearFlow({{{1, 0, 3}, {0, 0, 0}, {7, 0, 9}}});
     flow.size = {1, 4, 5}; // in the plane of x and z
     flow.place = [](double, double j, double k) { return Vector{j + 0.1 * k * k, 2.0, k}; };
     expectEverywhere(flow.compute(201), {0, 3 - 7, 0});
@@ -111,7 +111,7 @@ TEST(Gradients, OfAPlaneGridStandUprightJustAsWell) {
 }
 
 TEST(Gradients, AreNotANumberWhereCellsHaveNoVolume) {
-    TestFlow flow = linearFlow(anyRate);
+    TestFlow_s flow = linearFlow(anyRate);
     flow.place = [](double i, double j, double k) {
         return i == 0.0 ? Vector{0, 0, k} : Vector{i, i * j, k}; // an edge that is one line
     };
@@ -121,7 +121,7 @@ TEST(Gradients, AreNotANumberWhereCellsHaveNoVolume) {
 }
 
 TEST(Gradients, OfALineOfPointsAreNotANumber) {
-    TestFlow flow = linearFlow(anyRate);
+    TestFlow_s flow = linearFlow(anyRate);
     flow.size = {5, 1, 1};
     EXPECT_TRUE(std::isnan(flow.compute(201)[0][2]));
 }
@@ -130,7 +130,7 @@ TEST(Gradients, EndWhenTheyAreStopped) {
     std::stop_source stop;
     stop.request_stop();
     const std::vector<double> ones(8, 1.0);
-    const plot3dlib::Flow flow{{2, 2, 2}, {ones, ones, ones}, ones, {ones, ones, ones}, ones, {}};
+    const plot3dlib::Flow_s flow{{2, 2, 2}, {ones, ones, ones}, ones, {ones, ones, ones}, ones, {}};
     EXPECT_THROW(quantityOf(201).compute(flow, {}, stop.get_token()), plot3d::Error);
 }
 

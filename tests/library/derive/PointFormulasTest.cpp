@@ -13,7 +13,7 @@ namespace {
 using namespace plot3dlib;
 
 /// The point of a gas of gamma 1.4 with these.
-FlowPoint pointWith(double density, const Vector& velocity, double pressure, double gamma = 1.4) {
+FlowPoint_s pointWith(double density, const Vector& velocity, double pressure, double gamma = 1.4) {
     return {density, scaled(velocity, density),
             pressure / (gamma - 1.0) + 0.5 * density * dot(velocity, velocity), gamma};
 }
@@ -21,8 +21,8 @@ FlowPoint pointWith(double density, const Vector& velocity, double pressure, dou
 /// The free stream at Mach 2: density and speed of sound are 1.
 class FreeStream : public ::testing::Test {
 protected:
-    FlowConstants constants{.freeStreamMach = 2.0};
-    FlowPoint point = pointWith(1.0, {1.2, 0.0, -1.6}, 1.0 / 1.4);
+    FlowConstants_s constants{.freeStreamMach = 2.0};
+    FlowPoint_s point = pointWith(1.0, {1.2, 0.0, -1.6}, 1.0 / 1.4);
 };
 
 TEST_F(FreeStream, HasPressureOneByGammaAndNoPressureCoefficient) {
@@ -51,18 +51,18 @@ TEST_F(FreeStream, HasTheTemperatureThatTheGasConstantGives) {
 
 TEST_F(FreeStream, HasNoEntropyAndGainsNoneByCompression) {
     EXPECT_NEAR(entropyAt(point, constants), 0.0, 1e-15);
-    const FlowPoint compressed = pointWith(3.0, {0.5, 0, 0}, std::pow(3.0, 1.4) / 1.4);
+    const FlowPoint_s compressed = pointWith(3.0, {0.5, 0, 0}, std::pow(3.0, 1.4) / 1.4);
     EXPECT_NEAR(entropyAt(compressed, constants), 0.0, 1e-14);
 }
 
 TEST(Entropy, GrowsByTheHeatCapacityWithHeatAtOneDensity) {
-    const FlowConstants constants{.gasConstant = 2.0};
-    const FlowPoint heated = pointWith(1.0, {}, std::exp(1.0) / 1.4);
+    const FlowConstants_s constants{.gasConstant = 2.0};
+    const FlowPoint_s heated = pointWith(1.0, {}, std::exp(1.0) / 1.4);
     EXPECT_NEAR(entropyAt(heated, constants), 2.0 / 0.4, 1e-14);
 }
 
 TEST(PressureCoefficient, IsThatOfAStagnationPoint) {
-    const FlowConstants constants{.freeStreamMach = 0.5};
+    const FlowConstants_s constants{.freeStreamMach = 0.5};
     const double stagnation = std::pow(1.0 + 0.2 * 0.25, 3.5) / 1.4;
     // Known in powers of the Mach number.
     const double expected = 1.0 + 0.25 / 4 + 0.6 / 24 / 16 + 0.12 / 192 / 64;
@@ -70,8 +70,8 @@ TEST(PressureCoefficient, IsThatOfAStagnationPoint) {
 }
 
 TEST(PointFormulas, TakeTheRatioOfSpecificHeatsOfThePoint) {
-    const FlowPoint point = pointWith(2.0, {1, 2, 2}, 0.75, 1.2);
-    const FlowConstants constants{.freeStreamGamma = 1.3};
+    const FlowPoint_s point = pointWith(2.0, {1, 2, 2}, 0.75, 1.2);
+    const FlowConstants_s constants{.freeStreamGamma = 1.3};
     EXPECT_DOUBLE_EQ(pressureAt(point), 0.75);
     EXPECT_DOUBLE_EQ(soundSpeedAt(point, constants), std::sqrt(1.2 * 0.75 / 2.0));
     EXPECT_DOUBLE_EQ(enthalpyAt(point, constants), 1.2 * 0.75 / 0.2 / 2.0);
@@ -79,15 +79,15 @@ TEST(PointFormulas, TakeTheRatioOfSpecificHeatsOfThePoint) {
 }
 
 TEST(PointFormulas, OfArraysFollowThePoints) {
-    TestFlow flow;
+    TestFlow_s flow;
     flow.state = [](const Vector& place) {
-        return State{1.0 + 0.1 * place[0], {place[1], -place[2], 0.5}, 2.0 + 0.1 * place[2]};
+        return State_s{1.0 + 0.1 * place[0], {place[1], -place[2], 0.5}, 2.0 + 0.1 * place[2]};
     };
     const Components pressure = flow.compute(110);
     const Components velocity = flow.compute(200);
     const Components momentum = flow.compute(202);
     for (std::size_t n = 0; n < pressure[0].size(); ++n) {
-        const State state = flow.stateAt(n);
+        const State_s state = flow.stateAt(n);
         EXPECT_NEAR(pressure[0][n], state.pressure, 1e-13);
         for (std::size_t axis = 0; axis < 3; ++axis) {
             EXPECT_NEAR(velocity[axis][n], state.velocity[axis], 1e-13);
@@ -97,11 +97,11 @@ TEST(PointFormulas, OfArraysFollowThePoints) {
 }
 
 TEST(PointFormulas, AreNotANumberWhereTheyHaveNoValue) {
-    TestFlow flow;
+    TestFlow_s flow;
     flow.size = {2, 1, 1};
     flow.place = [](double i, double, double) { return Vector{i, 0, 0}; };
     flow.state = [](const Vector& place) {
-        return place[0] == 0.0 ? State{0.0, {}, 1.0} : State{1.0, {1, 0, 0}, -1.0};
+        return place[0] == 0.0 ? State_s{0.0, {}, 1.0} : State_s{1.0, {1, 0, 0}, -1.0};
     };
     for (const int number : {112, 113, 120, 140, 153, 200})
         EXPECT_TRUE(std::isnan(flow.compute(number)[0][0])) << number << " without density";

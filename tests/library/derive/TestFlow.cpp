@@ -12,7 +12,7 @@ namespace {
 namespace writer = quorvia::plot3dwriter;
 
 /// The five variables of a solution.
-std::array<double, 5> solutionOf(const State& state, double gamma) {
+std::array<double, 5> solutionOf(const State_s& state, double gamma) {
     const Vector momentum = plot3dlib::scaled(state.velocity, state.density);
     const double energy = state.pressure / (gamma - 1.0) +
                           0.5 * state.density * plot3dlib::dot(state.velocity, state.velocity);
@@ -29,21 +29,21 @@ void writeFile(const std::string& name, const writer::FileDescription_s& content
 
 } // namespace
 
-Vector TestFlow::bentPlace(double i, double j, double k) {
+Vector TestFlow_s::bentPlace(double i, double j, double k) {
     return {i + 0.1 * j * j - 0.2 * k, 1.5 * j + 0.05 * i * k, 0.7 * k + 0.03 * i * i + 0.1 * j};
 }
 
-Vector TestFlow::placeAt(std::size_t index) const {
+Vector TestFlow_s::placeAt(std::size_t index) const {
     const auto n = static_cast<std::int64_t>(index);
     return place(static_cast<double>(n % size.i), static_cast<double>(n / size.i % size.j),
                  static_cast<double>(n / size.i / size.j));
 }
 
-State TestFlow::stateAt(std::size_t index) const {
+State_s TestFlow_s::stateAt(std::size_t index) const {
     return state(placeAt(index));
 }
 
-Components TestFlow::compute(int number, const plot3dlib::FlowConstants& constants) const {
+Components TestFlow_s::compute(int number, const plot3dlib::FlowConstants_s& constants) const {
     const auto count = static_cast<std::size_t>(size.count());
     std::array<std::vector<double>, 8> arrays;
     for (std::size_t n = 0; n < count; ++n) {
@@ -53,11 +53,11 @@ Components TestFlow::compute(int number, const plot3dlib::FlowConstants& constan
             arrays[3 + variable].push_back(solutionOf(stateAt(n), gamma)[variable]);
     }
     const auto& [x, y, z, density, mx, my, mz, energy] = arrays;
-    const plot3dlib::Flow flow{size, {x, y, z}, density, {mx, my, mz}, energy, {}};
+    const plot3dlib::Flow_s flow{size, {x, y, z}, density, {mx, my, mz}, energy, {}};
     return quantityOf(number).compute(flow, constants, {});
 }
 
-plot3d::DataSet TestFlow::open(const quorvia::testsupport::TemporaryDirectory& directory) const {
+void TestFlow_s::write(const quorvia::testsupport::TemporaryDirectory& directory) const {
     writer::FileDescription_s grid;
     grid.layout = size.k == 1 ? writer::Layout_e::TwoD : writer::Layout_e::ThreeDWhole;
     grid.grids = {{static_cast<std::int32_t>(size.i), static_cast<std::int32_t>(size.j),
@@ -75,12 +75,16 @@ plot3d::DataSet TestFlow::open(const quorvia::testsupport::TemporaryDirectory& d
     };
     writeFile(directory.file("flow.x"), grid);
     writeFile(directory.file("flow.q"), solution);
+}
+
+plot3d::DataSet TestFlow_s::open(const quorvia::testsupport::TemporaryDirectory& directory) const {
+    write(directory);
     return plot3d::DataSet::open(
         std::vector<std::string>{directory.file("flow.x"), directory.file("flow.q")});
 }
 
-const plot3dlib::FlowQuantity& quantityOf(int number) {
-    for (const plot3dlib::FlowQuantity& quantity : plot3dlib::flowQuantities())
+const plot3dlib::FlowQuantity_s& quantityOf(int number) {
+    for (const plot3dlib::FlowQuantity_s& quantity : plot3dlib::flowQuantities())
         if (quantity.number == number)
             return quantity;
     throw std::runtime_error("no such quantity");

@@ -18,30 +18,32 @@ namespace plot3dtest {
 using plot3dlib::Components;
 using plot3dlib::Vector;
 
-struct State {
+struct State_s {
     double density = 1.0;
     Vector velocity = {};
     double pressure = 1.0;
 };
 
-struct TestFlow {
+struct TestFlow_s {
     plot3d::Extent size{5, 4, 3};
     std::function<Vector(double i, double j, double k)> place = bentPlace;
-    std::function<State(const Vector& place)> state;
+    std::function<State_s(const Vector& place)> state;
     double gamma = 1.4;
     double mach = 2.0;
 
     /// Neither straight nor square, and of no cell volume twice.
     static Vector bentPlace(double i, double j, double k);
 
-    State stateAt(std::size_t index) const;
+    State_s stateAt(std::size_t index) const;
     Vector placeAt(std::size_t index) const;
     /// By number, from arrays alone.
-    Components compute(int number, const plot3dlib::FlowConstants& constants = {}) const;
-    /// Writes a grid and a Classic solution of 64-bit reals, and opens them.
+    Components compute(int number, const plot3dlib::FlowConstants_s& constants = {}) const;
+    /// Writes flow.x, a grid, and flow.q, a Classic solution, of 64-bit reals.
+    void write(const quorvia::testsupport::TemporaryDirectory& directory) const;
+    /// The same, and opens them.
     plot3d::DataSet open(const quorvia::testsupport::TemporaryDirectory& directory) const;
 };
 
-const plot3dlib::FlowQuantity& quantityOf(int number);
+const plot3dlib::FlowQuantity_s& quantityOf(int number);
 
 } // namespace plot3dtest

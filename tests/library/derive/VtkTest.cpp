@@ -19,22 +19,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Name {
+struct Name_s {
     int number;
     const char* nameInVtk;
 };
 
-constexpr Name pointwise[] = {
+constexpr Name_s pointwise[] = {
     {100, "Density"},          {110, "Pressure"},      {111, "PressureCoefficient"},
     {112, "MachNumber"},       {113, "SoundSpeed"},    {120, "Temperature"},
     {130, "Enthalpy"},         {144, "KineticEnergy"}, {153, "VelocityMagnitude"},
     {163, "StagnationEnergy"}, {170, "Entropy"},       {200, "Velocity"},
     {202, "Momentum"}};
-constexpr Name withDerivatives[] = {{184, "Swirl"},
-                                    {201, "Vorticity"},
-                                    {210, "PressureGradient"},
-                                    {211, "VorticityMagnitude"},
-                                    {212, "StrainRate"}};
+constexpr Name_s withDerivatives[] = {{184, "Swirl"},
+                                      {201, "Vorticity"},
+                                      {210, "PressureGradient"},
+                                      {211, "VorticityMagnitude"},
+                                      {212, "StrainRate"}};
 
 fs::path realData() {
     const char* const told = std::getenv("PLOT3D_REAL_DATA");
@@ -77,7 +77,7 @@ protected:
 
     /// Differs by no more than the rounding of 32-bit reals on VTK's way; gives how many of our
     /// values are none, where VTK has 0 or none.
-    std::int64_t compare(const plot3d::DataSet& data, const Name& name) {
+    std::int64_t compare(const plot3d::DataSet& data, const Name_s& name) {
         const auto ours =
             plot3d::derive(data, 0, *plot3d::findDerivedQuantity(std::to_string(name.number)));
         const std::vector<float> theirs =
@@ -112,9 +112,9 @@ TEST_F(VtkTest, AgreesOnTheBluntFin) {
     if (IsSkipped())
         return;
     const plot3d::DataSet fin = data();
-    for (const Name& name : pointwise)
+    for (const Name_s& name : pointwise)
         EXPECT_EQ(compare(fin, name), 0) << name.nameInVtk;
-    for (const Name& name : withDerivatives)
+    for (const Name_s& name : withDerivatives)
         compare(fin, name);
     EXPECT_EQ(compare(fin, {211, "VorticityMagnitude"}), 39); // nodes where cells have no volume
 }
@@ -125,10 +125,10 @@ TEST_F(VtkTest, AgreesOnTheCombustor) {
     if (IsSkipped())
         return;
     const plot3d::DataSet combustor = data();
-    for (const Name& name : pointwise)
+    for (const Name_s& name : pointwise)
         if (name.number != 111) // no free stream
             compare(combustor, name);
-    for (const Name& name : withDerivatives)
+    for (const Name_s& name : withDerivatives)
         compare(combustor, name);
     EXPECT_EQ(compare(combustor, {201, "Vorticity"}), 0);
 }

@@ -118,14 +118,62 @@ TEST_F(BoundariesOfFiles, ThatAreWrongAreNotLoadedAndThatIsSaid) {
     EXPECT_EQ(data.notes().size(), 1u);
 }
 
-TEST_F(BoundariesOfFiles, BesideSeveralFunctionFilesShowTheLastOneAsTheLoaderDoes) {
+TEST_F(BoundariesOfFiles, ShowEachOfSeveralFunctionFiles) {
     writeBoundaries("wing.x.fvbnd");
     const auto data = DataSet::open({writeGrid(), writeStep("pressure.f", FileKind_e::Function, 1),
                                      writeStep("temperature.f", FileKind_e::Function, 2)});
-    ASSERT_EQ(data.zones().size(), 4u);
-    EXPECT_EQ(data.kind(2, 3), FieldKind::InMemory);
-    EXPECT_EQ(data.values(2, 3), data.values(1, 5, wallBox()));
-    EXPECT_EQ(data.kind(2, 5), FieldKind::Empty);
+    ASSERT_EQ(data.variables().size(), 7u);
+    expectPart(data, 2, 1);
+}
+
+TEST_F(BoundariesOfFiles, ShowFunctionsBesideASolution) {
+    writeBoundaries("wing.x.fvbnd");
+    const auto data =
+        DataSet::open({writeGrid(), writeSolution(1), writeStep("p.f", FileKind_e::Function, 2)});
+    ASSERT_EQ(data.variables().size(), 10u);
+    expectPart(data, 2, 1);
+}
+
+TEST_F(BoundariesOfFiles, MoveWithTheirGrids) {
+    std::vector<std::string> files;
+    for (int step = 1; step <= 2; ++step) {
+        files.push_back(
+            writeStep("wing_" + std::to_string(step) + ".x", FileKind_e::Grid, 10 * step));
+        files.push_back(writeSolution(step));
+    }
+    writeBoundaries("wing_1.x.fvbnd");
+    const auto data = DataSet::open(files);
+    ASSERT_EQ(data.zones().size(), 8u);
+    expectPart(data, 4, 1);
+    expectPart(data, 6, 3);
+    EXPECT_EQ(data.holder(6, 0), 6u);
+}
+
+TEST_F(BoundariesOfFiles, OfPlanesAreParts) {
+    auto layout = wholeLayout(FileKind_e::Grid);
+    layout.layout = writer::Layout_e::ThreeDPlanes;
+    writer::FileForm_s form = doubleForm();
+    form.encoding = writer::Encoding_e::Fortran;
+    const auto grid = OpenTest::write("wing.x", layout, form);
+    writeBoundaries("wing.x.fvbnd");
+    expectPart(DataSet::open({grid.path}), 3, 1);
+}
+
+TEST_F(BoundariesOfFiles, ThatCantBeToldAreLeftOutAndThatIsSaid) {
+    auto layout = wholeLayout(FileKind_e::Grid);
+    layout.layout = writer::Layout_e::ThreeDPlanes;
+    writer::FileForm_s form = doubleForm();
+    form.encoding = writer::Encoding_e::Fortran;
+    const auto grid = OpenTest::write("wing.x", layout, form);
+    writeBoundaries("wing.x.fvbnd");
+    plot3d::OpenOptions options;
+    options.instructions = {{"IINDEXRANGE", "1,,2"}};
+    const auto data = DataSet::open({grid.path}, options);
+    EXPECT_EQ(data.kind(3, 0), FieldKind::Empty);
+    EXPECT_THROW(data.values(3, 0), plot3d::Error);
+    ASSERT_FALSE(data.notes().empty());
+    EXPECT_EQ(data.notes()[0], "Zone \"wall: I[1-5],J[1-1],K[2-3]\", variable \"X\": left out, "
+                               "since the values at the boundary can't be told.");
 }
 
 } // namespace

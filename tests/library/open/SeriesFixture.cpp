@@ -9,9 +9,11 @@ writer::FileForm_s SeriesTest::doubleForm() {
 }
 
 std::string SeriesTest::writeStep(const std::string& name, writer::FileKind_e kind, int step,
-                                  double time, writer::FileForm_s form) const {
+                                  double time, writer::FileForm_s form,
+                                  writer::Layout_e layout) const {
     writer::FileDescription_s contents;
     contents.kind = kind;
+    contents.layout = layout;
     contents.isMultiGrid = true;
     contents.grids = {{2, 3, 5}, {5, 2, 3}};
     if (kind == writer::FileKind_e::Function)

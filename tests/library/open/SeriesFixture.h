@@ -17,7 +17,8 @@ protected:
         return 1e6 * step + 1e5 * grid + 1e4 * variable + static_cast<double>(i + 10 * j + 100 * k);
     }
     std::string writeStep(const std::string& name, writer::FileKind_e kind, int step,
-                          double time = 0.0, writer::FileForm_s form = doubleForm()) const;
+                          double time = 0.0, writer::FileForm_s form = doubleForm(),
+                          writer::Layout_e layout = writer::Layout_e::ThreeDWhole) const;
     static writer::FileForm_s doubleForm();
 
     /// Whether all variables from `first` to `last` of the zone have the values of that step.

@@ -112,5 +112,73 @@ TEST_F(SeriesTest, WithEqualTimesSaysWhatItWasAsked) {
     EXPECT_NE(data.notes()[0].find("(answered: yes)"), std::string::npos) << data.notes()[0];
 }
 
+/// Files of planes in Fortran records, which alone tell them.
+class Planes : public SeriesTest {
+protected:
+    std::string writePlanes(const std::string& name, FileKind_e kind, int step,
+                            double time = 0.0) const {
+        writer::FileForm_s form = doubleForm();
+        form.encoding = writer::Encoding_e::Fortran;
+        return writeStep(name, kind, step, time, form, writer::Layout_e::ThreeDPlanes);
+    }
+    std::vector<std::string> files() const {
+        return {writePlanes("wing.x", FileKind_e::Grid, 0),
+                writePlanes("wing_1.q", FileKind_e::ClassicSolution, 1, 0.25),
+                writePlanes("wing_2.q", FileKind_e::ClassicSolution, 2, 0.5)};
+    }
+    static void expectSteps(const DataSet& data) {
+        ASSERT_EQ(data.zones().size(), 4u);
+        for (std::size_t zone = 0; zone < 4; ++zone)
+            EXPECT_TRUE(isOfStep(data, zone, 3, 7, static_cast<int>(zone / 2) + 1,
+                                 static_cast<std::int32_t>(zone % 2)));
+    }
+};
+
+TEST_F(Planes, HaveTheirValuesAtEachStep) {
+    expectSteps(DataSet::open(files()));
+}
+
+TEST_F(Planes, AreReadByThemselvesAlsoIfTheyAreSaidToBeAlike) {
+    plot3d::OpenOptions options;
+    options.shareStructure = true;
+    const auto data = DataSet::open(files(), options);
+    expectSteps(data);
+    ASSERT_EQ(data.notes().size(), 1u);
+    EXPECT_TRUE(data.notes()[0].starts_with("Each file was looked at by itself"));
+}
+
+/// Grid files of triangles and of tetrahedra, one for each step.
+class MovingElements : public OpenTest {
+protected:
+    std::vector<std::string> files() const {
+        const LayoutCase_s layout = {FileKind_e::Grid, writer::Layout_e::Unstructured, true, false};
+        return {write("ball_1.x", layout).path, write("ball_2.x", layout).path};
+    }
+    static void expectElements(const DataSet& data) {
+        ASSERT_EQ(data.zones().size(), 6u);
+        for (std::size_t zone = 0; zone < 6; ++zone) {
+            const auto corners = static_cast<std::size_t>(cornerCount(data.zones()[zone].kind));
+            const auto nodes = data.nodeMap(zone);
+            ASSERT_EQ(nodes.size(),
+                      corners * static_cast<std::size_t>(data.zones()[zone].elementCount));
+            for (std::size_t place = 0; place < nodes.size(); ++place)
+                EXPECT_EQ(nodes[place] + 1, quorvia::testsupport::cornerAt(
+                                                static_cast<std::int32_t>(zone % 3),
+                                                static_cast<std::int64_t>(place / corners),
+                                                static_cast<std::int32_t>(place % corners)));
+        }
+    }
+};
+
+TEST_F(MovingElements, AreThereAtEachStep) {
+    expectElements(DataSet::open(files()));
+}
+
+TEST_F(MovingElements, AreThereAlsoIfTheFilesAreSaidToBeAlike) {
+    plot3d::OpenOptions options;
+    options.shareStructure = true;
+    expectElements(DataSet::open(files(), options));
+}
+
 } // namespace
 } // namespace plot3dtest

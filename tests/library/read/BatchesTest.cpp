@@ -12,7 +12,7 @@ namespace {
 using quorvia::sessions::Dice;
 
 /// The places of the values, in their order.
-std::vector<std::int64_t> placesOf(const BoxStrides& strides) {
+std::vector<std::int64_t> placesOf(const BoxStrides_s& strides) {
     std::vector<std::int64_t> places;
     const auto& [inner, middle, outer] = strides.directions;
     for (std::int64_t k = 0; k < outer.count; ++k)
@@ -46,9 +46,9 @@ void cutRandomBox(std::uint64_t seed) {
     Dice dice(seed);
     const plot3d::Extent size{dice.between(1, 9), dice.between(1, 9), dice.between(1, 9)};
     const plot3d::Box box = quorvia::testsupport::randomBox(dice, size);
-    const BatchLimits limits{dice.between(1, 200), dice.between(-1, 90)};
+    const BatchLimits_s limits{dice.between(1, 200), dice.between(-1, 90)};
     std::vector<std::int64_t> places;
-    forEachBatch(stridesOf(box, size), limits, [&](const BoxStrides& batch) {
+    forEachBatch(stridesOf(box, size), limits, [&](const BoxStrides_s& batch) {
         const std::vector<std::int64_t> part = placesOf(batch);
         EXPECT_EQ(batch.count(), std::ssize(part));
         EXPECT_EQ(batch.span(), part.back() - part.front() + 1);
@@ -66,14 +66,14 @@ TEST(Batches, OfAnyBoxAreTheBox) {
 
 TEST(BoxStrides, OfAWholeFieldAreOneRun) {
     const plot3d::Extent size{7, 5, 3};
-    const BoxStrides strides = stridesOf(plot3d::Box::whole(size), size);
+    const BoxStrides_s strides = stridesOf(plot3d::Box::whole(size), size);
     EXPECT_EQ(strides.run, 105);
     EXPECT_EQ(strides.directionCount, 0U);
 }
 
 TEST(BoxStrides, OfAPlaneOfConstantIGoOneWay) {
     const plot3d::Extent size{7, 5, 3};
-    const BoxStrides strides = stridesOf({{2, 2, 1}, {0, 4, 1}, {0, 2, 1}}, size);
+    const BoxStrides_s strides = stridesOf({{2, 2, 1}, {0, 4, 1}, {0, 2, 1}}, size);
     EXPECT_EQ(strides.run, 1);
     EXPECT_EQ(strides.directionCount, 1U);
     EXPECT_EQ(strides.directions[0].count, 15);
@@ -81,7 +81,7 @@ TEST(BoxStrides, OfAPlaneOfConstantIGoOneWay) {
 
 TEST(BoxStrides, OfOnePointIgnoreAnAbsurdStep) {
     constexpr std::int64_t absurd = std::int64_t{1} << 62;
-    const BoxStrides strides =
+    const BoxStrides_s strides =
         stridesOf({{2, 2, absurd}, {1, 4, absurd}, {2, 2, absurd}}, {7, 5, 3});
     EXPECT_EQ(strides.first, 2 * 35 + 7 + 2);
     EXPECT_EQ(strides.count(), 1);

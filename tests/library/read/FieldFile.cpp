@@ -82,7 +82,7 @@ ByteOrder otherOrder() {
     return machineOrder() == ByteOrder::Little ? ByteOrder::Big : ByteOrder::Little;
 }
 
-plot3d::Source FieldFile::write(const TemporaryDirectory& directory) const {
+plot3d::Source FieldFile_s::write(const TemporaryDirectory& directory) const {
     const std::string values = bytesOfValues(type, order, size.count());
     std::vector<std::string> parts;
     std::size_t begin = 0;

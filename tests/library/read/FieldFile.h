@@ -32,7 +32,7 @@ std::vector<double> expectedReals(const plot3d::Extent& size, const plot3d::Box&
 plot3d::ByteOrder machineOrder();
 plot3d::ByteOrder otherOrder();
 
-struct FieldFile {
+struct FieldFile_s {
     plot3d::Extent size;
     plot3d::ValueType type = plot3d::ValueType::Float32;
     plot3d::ByteOrder order = plot3d::ByteOrder::Little;

@@ -40,7 +40,7 @@ std::optional<ErrorKind> kindOf(const std::function<void()>& work) {
 class FieldReaderTest : public ::testing::Test {
 protected:
     FieldReader readerOf(ValueType type) {
-        return {FieldFile{size, type, otherOrder(), {}, false}.write(directory_), size};
+        return {FieldFile_s{size, type, otherOrder(), {}, false}.write(directory_), size};
     }
     std::optional<ErrorKind> kindOfRead(const Box& box) {
         const FieldReader reader = readerOf(ValueType::Float32);

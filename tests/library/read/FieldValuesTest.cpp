@@ -61,7 +61,7 @@ TEST(ValuesInMemory, HoldTheirOwnerAsLongAsTheReaderLives) {
 class ValuesOfPart : public ::testing::Test {
 protected:
     FieldReader partOfField(const Box& part) {
-        const FieldFile file{size, ValueType::Float32, otherOrder(), {}, false};
+        const FieldFile_s file{size, ValueType::Float32, otherOrder(), {}, false};
         whole_ = std::make_shared<const FieldReader>(file.write(directory_), size);
         return FieldReader(plot3dlib::valuesOfPart(whole_, part));
     }

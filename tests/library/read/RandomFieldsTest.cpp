@@ -17,8 +17,8 @@ namespace {
 using plot3d::ByteOrder;
 using plot3d::ValueType;
 
-FieldFile randomField(sessions::Dice& dice) {
-    FieldFile field;
+FieldFile_s randomField(sessions::Dice& dice) {
+    FieldFile_s field;
     field.size = randomSize(dice);
     field.type = dice.oneOf<ValueType>({ValueType::Float32, ValueType::Float64, ValueType::Int32});
     field.order = dice.oneOf<ByteOrder>({ByteOrder::Little, ByteOrder::Big});
@@ -45,7 +45,7 @@ std::string described(std::uint64_t seed, const plot3d::Box& box) {
 
 void readBoxesOfField(std::uint64_t seed) {
     sessions::Dice dice(seed);
-    const FieldFile field = randomField(dice);
+    const FieldFile_s field = randomField(dice);
     const TemporaryDirectory directory;
     const plot3d::FieldReader reader(field.write(directory), field.size);
     for (int n = 0; n < 6; ++n) {

@@ -32,7 +32,7 @@ std::optional<Error> errorOfRead(const FieldReader& reader, const Box& box) {
 TEST(TruncatedFile, IsToldWithTheByteThatIsMissing) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
+        FieldFile_s{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
     std::filesystem::resize_file(source.file, 300);
     const auto error = errorOfRead(FieldReader(source, size), Box::whole(size));
     ASSERT_TRUE(error);
@@ -46,7 +46,7 @@ TEST(TruncatedFile, IsToldWithTheByteThatIsMissing) {
 TEST(TruncatedFile, StillGivesTheValuesThatItHas) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
+        FieldFile_s{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
     std::filesystem::resize_file(source.file, 300);
     const Box box{{0, 6, 1}, {0, 4, 1}, {0, 1, 1}};
     EXPECT_EQ(readReals(FieldReader(source, size), box), expectedReals(size, box));
@@ -55,7 +55,7 @@ TEST(TruncatedFile, StillGivesTheValuesThatItHas) {
 TEST(TruncatedFile, ThatEndsAtAPieceIsTold) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile{size, ValueType::Float64, machineOrder(), {400, 0, 37}, false}.write(directory);
+        FieldFile_s{size, ValueType::Float64, machineOrder(), {400, 0, 37}, false}.write(directory);
     std::filesystem::resize_file(source.file, 407); // all of the first piece
     const auto error = errorOfRead(FieldReader(source, size), Box::whole(size));
     ASSERT_TRUE(error);

@@ -1,0 +1,146 @@
+#include "diff/DiffCommand.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+
+#include "blocks/DataSetFields.h"
+#include "manners/FileList.h"
+#include "manners/Options.h"
+#include "manners/ProgressWatch.h"
+#include "manners/Talk.h"
+#include "selection/NumberChecks.h"
+
+namespace plot3d::program {
+namespace {
+
+// What a file behind `--` becomes for the parser; kept out of the help.
+constexpr const char* secondOption = "--second-file";
+
+constexpr std::array<std::string_view, 6> optionsWithoutValue = {
+    "--json", "--share-structure", "--no-boundaries", "--quiet", "--help", "-h"};
+
+bool isOption(const std::string& word) {
+    return word.size() > 1 && word.front() == '-';
+}
+
+bool takesNextWord(const std::string& option) {
+    return option.find('=') == std::string::npos &&
+           std::find(optionsWithoutValue.begin(), optionsWithoutValue.end(), option) ==
+               optionsWithoutValue.end();
+}
+
+/// Tells what could not be read, each field once.
+void tellUnread(const DiffReport_s& report, const Surroundings_s& surroundings) {
+    for (const VariableDifference_s& variable : byVariable(report)) {
+        for (const std::size_t pair : variable.pairs) {
+            const auto& error = report.found[pair].error;
+            if (!error)
+                continue;
+            const std::string what =
+                fmt::format("{} of zone {} can't be read: ", variable.variable.name,
+                            report.plan.pairs[pair].zone + 1);
+            tellError(surroundings.err,
+                      Error(error->kind(), what + error->message(), error->facts()));
+        }
+    }
+}
+
+} // namespace
+
+const char* DiffCommand::purpose() const {
+    return "Tell in what two data sets differ: zones, sizes, variables and values";
+}
+
+const char* DiffCommand::examples() const {
+    return "  plot3d diff wing.x wing.q -- wing_text.x wing_text.q\n"
+           "      whether the text files hold what the binary ones do\n"
+           "  plot3d diff wing.x old.q -- wing.x new.q --variable 'RHO*' --relative 1e-6\n"
+           "      whether density and momentum agree to six digits\n"
+           "  plot3d diff coarse.x fine.x --json\n"
+           "      two grid files, for a program\n";
+}
+
+const char* DiffCommand::failureMeans() const {
+    return "the data sets differ, or one of them was refused";
+}
+
+void DiffCommand::declare(CLI::App& app) {
+    addFiles(app, firstFiles_,
+             "Files of the first data set, then -- and those of the second; two files alone are "
+             "one of each");
+    addRepeatable(app, secondOption, secondFiles_, "FILE", "")->group("");
+    data_.declareOptions(app);
+    selection_.declareWithoutBlank(app);
+    app.add_option("--tolerance", tolerance_.absolute,
+                   "Values are the same up to this difference (default: 0)")
+        ->type_name("NUMBER")
+        ->check(notNegative);
+    app.add_option("--relative", tolerance_.relative,
+                   "Values are the same up to this difference, divided by the greater of both "
+                   "(default: 0)")
+        ->type_name("NUMBER")
+        ->check(notNegative);
+    app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.diff/1");
+    app.add_option("--threads", threads_, "Cores to work on; all of them unless you say")
+        ->type_name("COUNT")
+        ->check(threadCount);
+}
+
+void DiffCommand::takeApart(std::vector<std::string>& arguments) {
+    const auto found = std::find(arguments.begin(), arguments.end(), "--");
+    if (found == arguments.end())
+        return;
+    if (std::find(found + 1, arguments.end(), "--") != arguments.end())
+        throw Error(ErrorKind::Usage, "two data sets are compared, so that -- comes once");
+    auto word = arguments.erase(found);
+    for (; word != arguments.end(); ++word) {
+        if (!isOption(*word))
+            *word = std::string(secondOption) + "=" + *word;
+        else if (takesNextWord(*word) && word + 1 != arguments.end())
+            ++word;
+    }
+}
+
+void DiffCommand::splitTwoFiles() {
+    if (secondFiles_.empty() && firstFiles_.size() == 2) {
+        secondFiles_ = {firstFiles_.back()};
+        firstFiles_.pop_back();
+    }
+    if (firstFiles_.empty() || secondFiles_.empty())
+        throw Error(ErrorKind::Usage,
+                    "two data sets are needed, with -- between their files: plot3d diff FILE... "
+                    "-- FILE...");
+}
+
+DiffSelection_s DiffCommand::selectionIn(const DataSet& first) const {
+    return {selection_.variables(first), selection_.selectedZones(first),
+            selection_.isEverything()};
+}
+
+int DiffCommand::run(const Surroundings_s& surroundings) {
+    splitTwoFiles();
+    const DataSet first = data_.open(filesNamed(firstFiles_, surroundings.in), surroundings);
+    const DataSet second = data_.open(filesNamed(secondFiles_, surroundings.in), surroundings);
+    const DiffPlan_s plan = planOf(first, second, selectionIn(first), tolerance_);
+    ProgressWatch progress(surroundings);
+    const auto found = compare(
+        DataSetFields(first), DataSetFields(second), plan.pairs, tolerance_,
+        threads_ > 0 ? threads_ : coreCount(),
+        {[&](double fraction) { progress.show(fraction, "Comparing values"); }, surroundings.stop});
+    progress.clear();
+    const DiffReport_s report = {plan, found, tolerance_, first.zones().size() > 1};
+    if (json_)
+        writeJson(report, surroundings.out);
+    else
+        printTables(report, surroundings);
+    tellUnread(report, surroundings);
+    if (report.isUnreadable())
+        return ExitCode_Unreadable;
+    return report.isSame() ? ExitCode_Done : ExitCode_Failed;
+}
+
+} // namespace plot3d::program
