@@ -1,12 +1,13 @@
 #include "convert/ConvertCommand.h"
 
+#include <filesystem>
 #include <sstream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 #include <plot3d/Error.h>
 
-#include "convert/output/Format.h"
+#include "convert/Writers.h"
 #include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
@@ -129,7 +130,8 @@ int ConvertCommand::run(const Surroundings_s& surroundings) {
     for (const std::string& note : written.notes)
         tellNote(surroundings, note);
     for (const std::string& file : written.files)
-        surroundings.out << file << '\n';
+        if (std::filesystem::is_regular_file(file)) // on /dev/stdout it would stand in the result
+            surroundings.out << file << '\n';
     return ExitCode_Done;
 }
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "convert/FormArguments.h"
-#include "convert/Writer.h"
 #include "convert/contents/DataSetContents.h"
+#include "convert/output/Format.h"
 #include "manners/Command.h"
 #include "selection/DataArguments.h"
 #include "selection/Selection.h"

@@ -1,3 +1,5 @@
+#include "convert/Writers.h"
+
 #include "convert/cgns/CgnsWriter.h"
 #include "convert/csv/CsvWriter.h"
 #include "convert/npz/NpzWriter.h"

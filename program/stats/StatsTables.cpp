@@ -67,7 +67,8 @@ public:
 
 private:
     void addRows(const VariableStatistics_s& variable) {
-        rows_.push_back({variable, variable.whole, nullptr});
+        if (!report_.tellsZones || variable.zones.size() != 1) // else the zone tells all
+            rows_.push_back({variable, variable.whole, nullptr});
         for (const ZoneStatistics_s& zone : variable.zones)
             if (report_.tellsZones)
                 rows_.push_back({variable, zone.statistics, &zone});

@@ -98,7 +98,17 @@ const Arrows programArrows = {
     {"blocks", {}},
     {"stats", {"console", "manners", "selection", "blocks"}},
     {"diff", {"console", "manners", "selection", "blocks"}},
-    {"app", {"console", "manners", "info", "stats", "diff"}},
+    {"convert/contents", {"selection", "blocks"}},
+    {"convert/output", {"convert/contents"}},
+    {"convert/csv", {"manners", "convert/contents", "convert/output"}},
+    {"convert/npz", {"manners", "convert/contents", "convert/output"}},
+    {"convert/vtk", {"manners", "convert/contents", "convert/output"}},
+    {"convert/plot3d", {"manners", "convert/contents", "convert/output"}},
+    {"convert/cgns", {"manners", "convert/contents", "convert/output"}},
+    {"convert",
+     {"manners", "selection", "convert/contents", "convert/output", "convert/csv", "convert/npz",
+      "convert/vtk", "convert/plot3d", "convert/cgns"}},
+    {"app", {"console", "manners", "info", "stats", "diff", "convert"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.

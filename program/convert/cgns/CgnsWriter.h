@@ -2,7 +2,7 @@
 // cells, zones with coordinates and solutions at the vertices, times as iterative data.
 #pragma once
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 
 namespace plot3d::program {
 

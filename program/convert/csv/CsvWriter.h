@@ -3,7 +3,7 @@
 // lacks leaves its places empty. docs/convert.md tells it to users.
 #pragma once
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 
 namespace plot3d::program {
 

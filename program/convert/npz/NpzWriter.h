@@ -4,7 +4,7 @@
 // (numpy.lib.format) in a zip archive.
 #pragma once
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 
 namespace plot3d::program {
 

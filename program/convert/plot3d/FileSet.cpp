@@ -6,6 +6,7 @@
 
 #include <plot3d/Error.h>
 
+#include "convert/output/Format.h"
 #include "convert/plot3d/FileFit.h"
 
 namespace plot3d::program {

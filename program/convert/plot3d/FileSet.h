@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 #include "convert/plot3d/FileContents.h"
 
 namespace plot3d::program {

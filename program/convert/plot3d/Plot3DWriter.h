@@ -1,7 +1,7 @@
 // PLOT3D files, in any encoding, precision, byte order and layout that can hold the contents.
 #pragma once
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 
 namespace plot3d::program {
 

@@ -5,6 +5,7 @@
 #include <plot3d/Error.h>
 
 #include "convert/output/ByteOutput.h"
+#include "convert/output/Format.h"
 #include "convert/output/RealText.h"
 #include "convert/vtk/AppendedFile.h"
 #include "convert/vtk/ZonePiece.h"

@@ -2,7 +2,7 @@
 // zones stand in a folder beside it. A single zone also goes into a .vts or .vtu alone.
 #pragma once
 
-#include "convert/Writer.h"
+#include "convert/output/Writer.h"
 
 namespace plot3d::program {
 

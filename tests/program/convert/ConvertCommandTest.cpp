@@ -2,7 +2,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/Program.h"
+#include "program/app/Program.h" // the host has an app/Program.h, too
 
 #include "plot3dwriter/Plot3DWriter.h"
 #include "program/convert/ReadBack.h"

@@ -12,7 +12,7 @@
 #include <plot3d/Error.h>
 
 #include "acceptance/matrix/MatrixCase.h"
-#include "convert/Writer.h"
+#include "convert/Writers.h"
 #include "convert/contents/DataSetContents.h"
 #include "convert/output/Format.h"
 #include "plot3dwriter/Plot3DWriter.h"

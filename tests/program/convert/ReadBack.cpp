@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "app/Program.h"
+#include "program/app/Program.h" // the host has an app/Program.h, too
 
 namespace quorvia::testsupport {
 

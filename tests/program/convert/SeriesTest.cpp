@@ -61,7 +61,7 @@ protected:
 
 private:
     static ExpectedZone_s expectedZone(int step, std::int32_t grid) {
-        const auto& dims = fileOf(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
+        const auto dims = fileOf(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
         ExpectedZone_s zone;
         zone.size = {dims.i, dims.j, dims.k};
         addFields(zone, FileKind_e::Grid, 3, step, grid);

@@ -19,7 +19,7 @@ class DiffCase {
 public:
     explicit DiffCase(std::uint64_t seed) : seed_(seed), random_(seed) {
         for (int grid = upTo(3); grid > 0; --grid)
-            sizes.push_back({1 + upTo(9), 1 + upTo(7), 1 + upTo(5)});
+            sizes.push_back({1 + upTo(9), 1 + upTo(7), upTo(5)});
         firstForm = form();
         secondForm = form();
         secondForm.precision = firstForm.precision;
@@ -149,10 +149,14 @@ std::uint64_t seedOfRun() {
 TEST_F(DiffModelTest, AgreesOnRandomChanges) {
     const std::uint64_t seed = seedOfRun();
     std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
+    int compared = 0;
     for (std::uint64_t number = 0; number < 40; ++number) {
         SCOPED_TRACE(seed + number);
         const DiffCase made(seed + number);
         const Ended_s diff = diffOf(made);
+        if (isTakenForAnother(diff))
+            continue;
+        ++compared;
         const Json told = Json::parse(diff.out, nullptr, false);
         ASSERT_FALSE(told.is_discarded()) << diff.err;
         EXPECT_EQ(diff.code, told.at("same") == true ? 0 : 1);
@@ -167,6 +171,7 @@ TEST_F(DiffModelTest, AgreesOnRandomChanges) {
         }
         EXPECT_EQ(told.at("same"), different == 0);
     }
+    EXPECT_GT(compared, 30);
 }
 
 } // namespace

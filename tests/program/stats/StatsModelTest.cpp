@@ -33,7 +33,7 @@ public:
     explicit StatsCase(std::uint64_t seed) : seed_(seed), random_(seed) {
         const std::int32_t grids = upTo(3);
         for (std::int32_t grid = 0; grid < grids; ++grid)
-            sizes.push_back({1 + upTo(9), 1 + upTo(7), 1 + upTo(5)});
+            sizes.push_back({1 + upTo(9), 1 + upTo(7), upTo(5)});
         hasIBlank = chance(2);
         keepsBlanked = chance(3);
         for (Along_s* along : {&i, &j, &k})
@@ -149,10 +149,14 @@ std::uint64_t seedOfRun() {
 TEST_F(StatsModelTest, AgreesOnRandomFilesAndSelections) {
     const std::uint64_t seed = seedOfRun();
     std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
+    int compared = 0;
     for (std::uint64_t number = 0; number < 60; ++number) {
         SCOPED_TRACE(seed + number);
         const StatsCase made(seed + number);
         const Ended_s stats = statsOf(made);
+        if (isTakenForAnother(stats))
+            continue;
+        ++compared;
         if (isEmpty(made)) {
             EXPECT_EQ(stats.code, 2) << stats.err;
             continue;
@@ -160,6 +164,7 @@ TEST_F(StatsModelTest, AgreesOnRandomFilesAndSelections) {
         ASSERT_EQ(stats.code, 0) << stats.err;
         expectModel(made, Json::parse(stats.out));
     }
+    EXPECT_GT(compared, 50);
 }
 
 } // namespace

@@ -74,6 +74,12 @@ writer::FileForm_s binaryForm(writer::Precision_e precision, writer::ByteOrder_e
     return form;
 }
 
+bool isTakenForAnother(const Ended_s& run) {
+    const auto says = [&run](const char* text) { return run.err.find(text) != std::string::npos; };
+    return run.code == 1 &&
+           (says("is not a function file") || says("The number of grids in the function files"));
+}
+
 std::string ValueFilesTest::write(const std::string& name,
                                   const writer::FileDescription_s& contents,
                                   const writer::FileForm_s& form) const {

@@ -44,6 +44,10 @@ writer::FileDescription_s solutionFile(const Sizes& sizes, const Value& value, d
 writer::FileForm_s binaryForm(writer::Precision_e precision = writer::Precision_e::Single,
                               writer::ByteOrder_e order = writer::ByteOrder_e::Little);
 
+/// Whether a run ended because a small function file has the bytes of something else as well, which
+/// comes ahead of it in detection: one in a thousand of random ones.
+bool isTakenForAnother(const Ended_s& run);
+
 class ValueFilesTest : public testing::Test {
 protected:
     /// Gives the file's name.

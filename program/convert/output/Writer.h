@@ -1,13 +1,11 @@
 // What writes one format. Each format has a folder with a Writer of its own, all alike from here.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "convert/contents/Contents.h"
 #include "convert/contents/FileForm.h"
-#include "convert/output/Format.h"
 
 namespace plot3d::program {
 
@@ -29,7 +27,5 @@ public:
     /// result appears whole or not at all. Throws Error.
     virtual Written_s write(Contents& contents, const Target_s& target) = 0;
 };
-
-std::unique_ptr<Writer> makeWriter(Format_e format);
 
 } // namespace plot3d::program
