@@ -7,19 +7,27 @@ namespace {
 
 class MadeField : public OpenField {
 public:
-    MadeField(const Extent& size, std::function<double(std::int64_t)> value, bool isSpoilt)
-        : size_(size), value_(std::move(value)), isSpoilt_(isSpoilt) {}
+    MadeField(const Extent& size, ValueType type, std::function<double(std::int64_t)> value,
+              bool isSpoilt)
+        : size_(size), type_(type), value_(std::move(value)), isSpoilt_(isSpoilt) {}
 
     void read(const Box& box, void* destination, std::stop_token) const override {
         if (isSpoilt_)
             throw Error(ErrorKind::Unreadable, "the disk is broken",
                         {.file = "made", .byte = 8 * placeOf(box, 0)});
-        auto* values = static_cast<double*>(destination);
-        for (std::int64_t place = 0; place < box.count(); ++place)
-            values[place] = value_(placeOf(box, place));
+        if (type_ == ValueType::Int32)
+            fill(box, static_cast<std::int32_t*>(destination));
+        else
+            fill(box, static_cast<double*>(destination));
     }
 
 private:
+    template <typename Value>
+    void fill(const Box& box, Value* values) const {
+        for (std::int64_t place = 0; place < box.count(); ++place)
+            values[place] = static_cast<Value>(value_(placeOf(box, place)));
+    }
+
     std::int64_t placeOf(const Box& box, std::int64_t place) const {
         const std::int64_t row = place / box.i.count();
         const std::int64_t i = box.i.first + place % box.i.count() * box.i.step;
@@ -29,6 +37,7 @@ private:
     }
 
     Extent size_;
+    ValueType type_;
     std::function<double(std::int64_t)> value_;
     bool isSpoilt_;
 };
@@ -39,7 +48,8 @@ std::unique_ptr<OpenField> MadeFields::open(std::size_t zone, std::size_t variab
     ++opened_;
     const Value& value = variables_[variable];
     return std::make_unique<MadeField>(
-        size_, [value, zone](std::int64_t place) { return value(zone, place); },
+        size_, type(zone, variable),
+        [value, zone](std::int64_t place) { return value(zone, place); },
         spoilt_.count({zone, variable}) > 0);
 }
 

@@ -14,7 +14,7 @@
 
 namespace plot3d::program {
 
-/// One variable for each function, in zones of one size. Reals of 64 bits.
+/// One variable for each function, in zones of one size. Reals of 64 bits, but for makeIntegers().
 class MadeFields : public Fields {
 public:
     using Value = std::function<double(std::size_t zone, std::int64_t place)>;
@@ -27,7 +27,12 @@ public:
     /// All zones then have the variable of the first one.
     void share(std::size_t variable) { shared_.insert(variable); }
 
-    ValueType type(std::size_t, std::size_t) const override { return ValueType::Float64; }
+    /// The variable then has integers, as I-blank has.
+    void makeIntegers(std::size_t variable) { integers_.insert(variable); }
+
+    ValueType type(std::size_t, std::size_t variable) const override {
+        return integers_.count(variable) > 0 ? ValueType::Int32 : ValueType::Float64;
+    }
     bool isEmpty(std::size_t, std::size_t) const override { return false; }
     std::size_t holder(std::size_t zone, std::size_t variable) const override {
         return shared_.count(variable) > 0 ? 0 : zone;
@@ -44,6 +49,7 @@ private:
     std::vector<Value> variables_;
     std::set<std::pair<std::size_t, std::size_t>> spoilt_;
     std::set<std::size_t> shared_;
+    std::set<std::size_t> integers_;
     mutable std::atomic<int> opened_ = 0;
 };
 

@@ -9,7 +9,7 @@
 namespace plot3d::program {
 namespace {
 
-const Extent size = {101, 103, 211}; // three stretches, each of many blocks
+const Extent size = {101, 103, 109}; // two stretches, each of many blocks
 
 double wave(std::size_t zone, std::int64_t place) {
     return 1.0 / static_cast<double>(place % 997 + 1) + 1e6 + static_cast<double>(zone);
@@ -70,6 +70,46 @@ TEST(Statistics, ReadAFieldThatZonesShareOnceAndCountItForEach) {
     EXPECT_EQ(found[0].whole.summary.moments.count, 4 * 105);
     EXPECT_EQ(found[0].zones[2].statistics.summary.minAt.zone, 2U);
     EXPECT_EQ(found[0].whole.percentiles, found[0].zones[0].statistics.percentiles);
+}
+
+double places(std::size_t, std::int64_t place) {
+    return static_cast<double>(place);
+}
+
+double everyThird(std::size_t, std::int64_t place) {
+    return place % 3 == 0 ? 0 : 1;
+}
+
+TEST(Statistics, LeaveOutTheBlankedPointsOfEveryBlock) {
+    MadeFields fields(size, {places, everyThird});
+    fields.makeIntegers(1);
+    StatsSelection_s selection = fields.all(1);
+    selection.leavesOutBy = 1;
+    const auto found = statisticsOf(fields, selection, {{}, {100}, 0, 2});
+    const FieldSummary_s& summary = found[0].whole.summary;
+    const std::int64_t last = size.count() - 1; // not of every third
+    const std::int64_t thirds = last / 3;
+    EXPECT_EQ(summary.blanked, thirds + 1);
+    EXPECT_EQ(summary.moments.count, last - thirds);
+    EXPECT_EQ(summary.moments.sum, last * (last + 1) / 2 - 3 * thirds * (thirds + 1) / 2);
+    EXPECT_EQ(summary.min, 1);
+    EXPECT_EQ(summary.max, static_cast<double>(last));
+    EXPECT_EQ(summary.maxAt.point, (Point_s{size.i - 1, size.j - 1, size.k - 1}));
+    EXPECT_EQ(found[0].whole.percentiles, std::vector<double>{static_cast<double>(last)});
+    EXPECT_EQ(found[1].whole.summary.table.at(0), thirds + 1);
+}
+
+TEST(Statistics, HavePlacesInEveryBlockOfABoxWithStrides) {
+    const MadeFields fields(size, {[](std::size_t, std::int64_t place) {
+                                return place == 30 + 101 * (64 + 103 * 100)
+                                           ? -1.0
+                                           : static_cast<double>(place % 7);
+                            }});
+    StatsSelection_s selection = fields.all(1);
+    selection.zones[0].box = {{0, 100, 2}, {1, 102, 3}, {2, 108, 1}};
+    const auto found = statisticsOf(fields, selection, {{}, {}, 0, 2});
+    EXPECT_EQ(found[0].whole.summary.moments.count, 51 * 34 * 107);
+    EXPECT_EQ(found[0].whole.summary.minAt.point, (Point_s{30, 64, 100}));
 }
 
 TEST(Statistics, EndWithAStop) {
