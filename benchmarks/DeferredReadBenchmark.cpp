@@ -158,7 +158,7 @@ void readPlainly(benchmark::State& state, std::int64_t width, std::int64_t value
 } // namespace
 
 int main(int argc, char** argv) {
-    using quorvia::benchmarks::Ratio;
+    using quorvia::benchmarks::Ratio_e;
     for (const std::int64_t width : {4, 8}) {
         const std::string bits = std::to_string(8 * width);
         benchmark::RegisterBenchmark(("PlainRead" + bits).c_str(), readPlainly, width,
@@ -178,13 +178,13 @@ int main(int argc, char** argv) {
     return quorvia::benchmarks::runAndCompare(
         argc, argv,
         {{"Deferred read of 8 million 32-bit values, native byte order, to one plain read",
-          "DeferredNative32", "PlainRead32", Ratio::SpeedAtLeast, 0.9},
+          "DeferredNative32", "PlainRead32", Ratio_e::SpeedAtLeast, 0.9},
          {"Deferred read of 8 million 32-bit values, other byte order, to one plain read",
-          "DeferredSwapped32", "PlainRead32", Ratio::SpeedAtLeast, 0.6},
+          "DeferredSwapped32", "PlainRead32", Ratio_e::SpeedAtLeast, 0.6},
          {"Deferred read of 8 million 64-bit values, native byte order, to one plain read",
-          "DeferredNative64", "PlainRead64", Ratio::SpeedAtLeast, 0.9},
+          "DeferredNative64", "PlainRead64", Ratio_e::SpeedAtLeast, 0.9},
          {"Deferred read of 8 million 64-bit values, other byte order, to one plain read",
-          "DeferredSwapped64", "PlainRead64", Ratio::SpeedAtLeast, 0.6},
+          "DeferredSwapped64", "PlainRead64", Ratio_e::SpeedAtLeast, 0.6},
          {"Deferred read of 24 million 64-bit values, which asks between pieces, to one plain read",
-          "DeferredLong", "PlainReadLong", Ratio::SpeedAtLeast, 0.9}});
+          "DeferredLong", "PlainReadLong", Ratio_e::SpeedAtLeast, 0.9}});
 }

@@ -18,14 +18,14 @@ namespace {
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
 
-struct Counts {
+struct Counts_s {
     std::int64_t bytes = 0;
     std::int64_t systemCalls = 0;
 };
 
 class CountingFile : public RandomAccessFile {
 public:
-    CountingFile(std::unique_ptr<RandomAccessFile> file, Counts& counts)
+    CountingFile(std::unique_ptr<RandomAccessFile> file, Counts_s& counts)
         : file_(std::move(file)), counts_(counts) {}
     ~CountingFile() override { ++counts_.systemCalls; }
 
@@ -43,7 +43,7 @@ public:
 
 private:
     std::unique_ptr<RandomAccessFile> file_;
-    Counts& counts_;
+    Counts_s& counts_;
 };
 
 /// The platform's files, with what is asked of them counted. Opening takes two calls.
@@ -57,7 +57,7 @@ public:
         return std::make_unique<CountingFile>(std::move(file), counts);
     }
 
-    Counts counts;
+    Counts_s counts;
 
 private:
     FileSystem& platform_ = fileSystem();

@@ -152,7 +152,7 @@ void touchFiles(benchmark::State& state, std::int32_t steps) {
 } // namespace
 
 int main(int argc, char** argv) {
-    using quorvia::benchmarks::Ratio;
+    using quorvia::benchmarks::Ratio_e;
     // Many short repetitions, since the state of the caches drifts over seconds.
     const auto prepare = [](benchmark::internal::Benchmark* measurement) {
         constexpr int repetitions = 31;
@@ -170,7 +170,7 @@ int main(int argc, char** argv) {
     const int outcome = quorvia::benchmarks::runAndCompare(
         argc, argv,
         {{"One grid file with 1,000 solution files, to opening and reading 4 KiB of each",
-          "SetUp1000", "Touch1000", Ratio::CostAtMost, 8.0},
-         {"2,000 solution files, to 1,000", "SetUp2000", "SetUp1000", Ratio::CostAtMost, 2.2}});
+          "SetUp1000", "Touch1000", Ratio_e::CostAtMost, 8.0},
+         {"2,000 solution files, to 1,000", "SetUp2000", "SetUp1000", Ratio_e::CostAtMost, 2.2}});
     return outcome != 0 ? outcome : printBytesRead();
 }

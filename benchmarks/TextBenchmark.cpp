@@ -72,7 +72,7 @@ void loadThroughAddOn(benchmark::State& state) {
     for (auto _ : state)
         if (library == nullptr || !quorhost.importSelection({path}, false, false).ok)
             state.SkipWithError("the load failed");
-    const host::FetchResult z = quorhost.fetch(1, 3);
+    const host::FetchResult_s z = quorhost.fetch(1, 3);
     const std::int64_t last = z.count - 1;
     if (!z.ok || std::abs(static_cast<const float*>(z.values)[last] -
                           coordinate(2, points - 1, points - 1, points - 1)) > 1e-5)
@@ -122,7 +122,7 @@ void scanWithFromChars(benchmark::State& state) {
 } // namespace
 
 int main(int argc, char** argv) {
-    using quorvia::benchmarks::Ratio;
+    using quorvia::benchmarks::Ratio_e;
     benchmark::RegisterBenchmark("LoadText", loadThroughAddOn)
         ->Unit(benchmark::kMillisecond)
         ->Iterations(1);
@@ -135,7 +135,7 @@ int main(int argc, char** argv) {
     return quorvia::benchmarks::runAndCompare(
         argc, argv,
         {{"All fields of a 100 MB text file, to a loop of fscanf(\"%le\")", "LoadText", "Fscanf",
-          Ratio::SpeedAtLeast, 4.0},
+          Ratio_e::SpeedAtLeast, 4.0},
          {"All fields of a 100 MB text file, to std::from_chars over the text in memory",
-          "LoadText", "FromChars", Ratio::SpeedAtLeast, 0.5}});
+          "LoadText", "FromChars", Ratio_e::SpeedAtLeast, 0.5}});
 }

@@ -43,9 +43,9 @@ std::string spread(const std::vector<double>& sorted) {
                        1e3 * sorted.back());
 }
 
-void printClaim(const RatioClaim& claim, const std::vector<double>& ours,
+void printClaim(const RatioClaim_s& claim, const std::vector<double>& ours,
                 const std::vector<double>& reference) {
-    const bool isSpeed = claim.ratio == Ratio::SpeedAtLeast;
+    const bool isSpeed = claim.ratio == Ratio_e::SpeedAtLeast;
     const double measured =
         isSpeed ? median(reference) / median(ours) : median(ours) / median(reference);
     const bool met = isSpeed ? measured >= claim.target : measured <= claim.target;
@@ -58,7 +58,7 @@ void printClaim(const RatioClaim& claim, const std::vector<double>& ours,
 
 } // namespace
 
-int runAndCompare(int argc, char** argv, const std::vector<RatioClaim>& claims) {
+int runAndCompare(int argc, char** argv, const std::vector<RatioClaim_s>& claims) {
     std::vector<std::string> words(argv, argv + argc);
     words.insert(words.begin() + 1,
                  {"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
@@ -74,7 +74,7 @@ int runAndCompare(int argc, char** argv, const std::vector<RatioClaim>& claims) 
     CollectingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     fmt::print("\nCompiler: GCC {}; flags: {}\n", __VERSION__, PLOT3D_BENCHMARK_FLAGS);
-    for (const RatioClaim& claim : claims) {
+    for (const RatioClaim_s& claim : claims) {
         const std::vector<double> ours = reporter.seconds(claim.ours);
         const std::vector<double> reference = reporter.seconds(claim.reference);
         if (!ours.empty() && !reference.empty())

@@ -8,22 +8,22 @@
 namespace quorvia::benchmarks {
 
 /// How two times become the number that is claimed.
-enum class Ratio {
+enum class Ratio_e {
     SpeedAtLeast, // reference time / our time must reach the target
     CostAtMost    // our time / reference time must not pass the target
 };
 
-struct RatioClaim {
+struct RatioClaim_s {
     std::string claim; // what is claimed, in words
     std::string ours;  // name of a registered benchmark
     std::string reference;
-    Ratio ratio;
+    Ratio_e ratio;
     double target;
 };
 
 /// Runs all registered benchmarks and prints machine, compiler, spread and ratios. Gives the exit
 /// code of a program: 0 also when a target is missed, since these are measurements and no tests.
-int runAndCompare(int argc, char** argv, const std::vector<RatioClaim>& claims);
+int runAndCompare(int argc, char** argv, const std::vector<RatioClaim_s>& claims);
 
 /// Prints a measured count beside its target, for claims that are no times.
 void printCount(const std::string& claim, double measured, double target, const std::string& unit);

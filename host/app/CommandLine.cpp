@@ -11,11 +11,11 @@
 namespace quorvia::host {
 namespace {
 
-constexpr const char* kDescription =
+constexpr const char* programDescription =
     "Loads PLOT3D data sets through the data-loader add-on, outside the host that the\n"
-    "add-on was made for, and tells how each load came out.";
+    "add-on was made for, and reports how each load came out.";
 
-constexpr const char* kExamples =
+constexpr const char* examples =
     "Examples:\n"
     "  quorhost load wing.x wing.q\n"
     "      a wing's grid and its flow solution, with the ranges of all variables\n"
@@ -30,10 +30,10 @@ constexpr const char* kExamples =
     "  3    loaded, but the values of some fields can't be read\n"
     "  130  interrupted\n";
 
-constexpr const char* kMacroNotes =
+constexpr const char* macroNotes =
     "FILE holds {\"commands\": [...]} with one object for each command: select, instructions,\n"
     "replay, answers, dialog, host, dataSet, interruptAtStep, fail, stateChange, fetch,\n"
-    "unload, deleteZones, resetFrame, describe. docs/macros.md tells them all.\n"
+    "unload, deleteZones, resetFrame, describe. docs/macros.md describes them all.\n"
     "\n"
     "Examples:\n"
     "  quorhost macro session.json\n"
@@ -65,17 +65,17 @@ CLI::Option* addList(CLI::App& app, const std::string& name, std::vector<std::st
         list = texts;
         return true;
     };
-    constexpr int kNoLimit = -1;
-    return app.add_option(name, take, description)->type_size(1)->expected(1, kNoLimit);
+    constexpr int noLimit = -1;
+    return app.add_option(name, take, description)->type_size(1)->expected(1, noLimit);
 }
 
 void addRepeatable(CLI::App& app, const std::string& name, std::vector<std::string>& list,
                    const std::string& valueName, const std::string& description) {
-    constexpr bool kOneForEachMention = false;
+    constexpr bool oneForEachMention = false;
     addList(app, name, list, description)
         ->type_name(valueName)
         ->option_text(valueName)
-        ->allow_extra_args(kOneForEachMention);
+        ->allow_extra_args(oneForEachMention);
 }
 
 void describeInput(CLI::App& app, RawLoad_s& raw) {
@@ -129,7 +129,7 @@ void describeLoad(CLI::App& app, RawLoad_s& raw) {
     describeInput(app, raw);
     describeHost(app, raw);
     describeOutput(app, raw);
-    app.footer(kExamples);
+    app.footer(examples);
 }
 
 void describeMacro(CLI::App& app, MacroArguments_s& macro) {
@@ -141,7 +141,7 @@ void describeMacro(CLI::App& app, MacroArguments_s& macro) {
                  "Answer the questions behind the macro's own\nanswers with OK or Yes (default: "
                  "Cancel or No)");
     addAddOn(app, macro.addOnPath);
-    app.footer(kMacroNotes);
+    app.footer(macroNotes);
 }
 
 [[noreturn]] void refuse(const std::string& what) {
@@ -208,11 +208,11 @@ ExitCode_e tellParseEnd(const CLI::App& app, const CLI::ParseError& end, std::os
 
 Command parseCommandLine(const std::vector<std::string>& arguments, std::ostream& out,
                          std::ostream& err) {
-    CLI::App app(kDescription, "quorhost");
+    CLI::App app(programDescription, "quorhost");
     app.set_version_flag("--version", "quorhost " QUORHOST_VERSION);
     app.require_subcommand(0, 1); // a missing one gets a text of ours
     app.get_formatter()->column_width(26);
-    app.footer(kExamples);
+    app.footer(examples);
     RawLoad_s raw;
     MacroArguments_s macro;
     describeLoad(*app.add_subcommand("load", "Load one data set and tell how it came out"), raw);

@@ -12,14 +12,14 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kUsualColumns = 80;
+constexpr int usualColumns = 80;
 
 int columnsOfTerminal(int descriptor) {
     if (isatty(descriptor) == 0)
         return 0;
     winsize size = {};
     const bool known = ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return known ? size.ws_col : kUsualColumns;
+    return known ? size.ws_col : usualColumns;
 }
 
 /// The first lines of code points that fit.
@@ -34,11 +34,11 @@ std::string cutToColumns(const std::string& text, std::size_t columns) {
 }
 
 std::string bar(double fraction) {
-    constexpr std::size_t kWidth = 24;
+    constexpr std::size_t barWidth = 24;
     const double part = std::clamp(fraction, 0.0, 1.0);
-    const auto filled = static_cast<std::size_t>(part * static_cast<double>(kWidth));
+    const auto filled = static_cast<std::size_t>(part * static_cast<double>(barWidth));
     return fmt::format("[{}{}] {:3.0f}%", std::string(filled, '#'),
-                       std::string(kWidth - filled, '.'), part * 100);
+                       std::string(barWidth - filled, '.'), part * 100);
 }
 
 /// Lines behind the first are indented, so that they can't be taken for lines of their own; empty
@@ -71,11 +71,11 @@ ProgressLine::~ProgressLine() {
 }
 
 void ProgressLine::show(double fraction, const std::string& text) {
-    constexpr auto kBetweenDrawings = std::chrono::milliseconds(50);
+    constexpr auto betweenDrawings = std::chrono::milliseconds(50);
     if (columns_ == 0)
         return;
     const Clock::time_point now = Clock::now();
-    if (visible_ && now - lastDrawn_ < kBetweenDrawings)
+    if (visible_ && now - lastDrawn_ < betweenDrawings)
         return;
     lastDrawn_ = now;
     visible_ = true;
@@ -95,15 +95,15 @@ void tellError(std::ostream& err, std::string_view text) {
     err << fmt::format("quorhost: error: {}\n", withIndentedLines(text));
 }
 
-void tellMessage(std::ostream& err, const Message& message) {
+void tellMessage(std::ostream& err, const Message_s& message) {
     switch (message.kind) {
-    case MessageKind::Error:
+    case MessageKind_e::Error:
         tellError(err, message.text);
         return;
-    case MessageKind::Information:
+    case MessageKind_e::Information:
         err << fmt::format("quorhost: {}\n", withIndentedLines(message.text));
         return;
-    case MessageKind::Question:
+    case MessageKind_e::Question:
         err << fmt::format("quorhost: question: {}\n    {}\n", withIndentedLines(message.text),
                            message.answer.value_or(false)
                                ? "answered OK or Yes"

@@ -48,6 +48,6 @@ private:
 /// Errors as `quorhost: error: <text>`, further lines of a text indented below; each text ends its
 /// line. Information and questions likewise, with their answers.
 void tellError(std::ostream& err, std::string_view text);
-void tellMessage(std::ostream& err, const Message& message);
+void tellMessage(std::ostream& err, const Message_s& message);
 
 } // namespace quorvia::host

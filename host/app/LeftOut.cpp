@@ -25,7 +25,7 @@ bool fitsAny(const std::string& file, const std::vector<std::string>& patterns) 
     });
 }
 
-constexpr const char* kBoundaryFiles = "*.fvbnd";
+constexpr const char* boundaryFiles = "*.fvbnd";
 
 bool loadsBoundary(const std::vector<std::string>& instructions) {
     const auto key = std::find(instructions.begin(), instructions.end(), "LOADBOUNDARY");
@@ -43,7 +43,7 @@ std::string firstGridFile(const std::vector<std::string>& instructions) {
 std::vector<std::string> filesOfNoKind(const std::vector<std::string>& files,
                                        const std::string& extensions) {
     std::vector<std::string> patterns = wordsOf(extensions);
-    patterns.emplace_back(kBoundaryFiles);
+    patterns.emplace_back(boundaryFiles);
     std::vector<std::string> unfit;
     std::copy_if(files.begin(), files.end(), std::back_inserter(unfit),
                  [&patterns](const std::string& file) { return !fitsAny(file, patterns); });
@@ -64,7 +64,9 @@ std::vector<std::string> filesNotNamed(const std::vector<std::string>& files,
 }
 
 bool toldAnError(const Outcome_s& outcome) {
-    const auto isError = [](const Message& message) { return message.kind == MessageKind::Error; };
+    const auto isError = [](const Message_s& message) {
+        return message.kind == MessageKind_e::Error;
+    };
     return std::any_of(outcome.messages.begin(), outcome.messages.end(), isError);
 }
 

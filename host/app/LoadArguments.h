@@ -13,7 +13,7 @@ namespace quorvia::host {
 
 /// Budget for fetched values if the command line names none: enough for the largest usual field,
 /// and no reason for a small machine to swap.
-inline constexpr std::int64_t kDefaultMemoryLimitBytes = std::int64_t{1} << 30;
+inline constexpr std::int64_t defaultMemoryLimitBytes = std::int64_t{1} << 30;
 
 struct LoadArguments_s {
     // Either files as picked in the host's import menu, or lists for instructions; never both.
@@ -25,7 +25,7 @@ struct LoadArguments_s {
     std::vector<std::pair<std::string, std::string>> settings; // --set, in the order given
 
     bool answerYes = false;
-    std::int64_t memoryLimitBytes = kDefaultMemoryLimitBytes;
+    std::int64_t memoryLimitBytes = defaultMemoryLimitBytes;
     bool fetchValues = true;
     bool printInstructions = false;
     std::string jsonFile;  // "-" is standard output; empty: none

@@ -24,12 +24,12 @@
 namespace quorvia::host {
 namespace {
 
-LoadResult importData(ReferenceHost& host, const LoadArguments_s& arguments) {
+LoadResult_s importData(ReferenceHost& host, const LoadArguments_s& arguments) {
     if (arguments.usesInstructions())
         return host.importInstructions(composeInstructions(arguments));
-    constexpr bool kWithoutDialog = false;
-    constexpr bool kInPlaceOfTheDataSet = false;
-    return host.importSelection(arguments.files, kWithoutDialog, kInPlaceOfTheDataSet);
+    constexpr bool withoutDialog = false;
+    constexpr bool inPlaceOfTheDataSet = false;
+    return host.importSelection(arguments.files, withoutDialog, inPlaceOfTheDataSet);
 }
 
 bool wantsValues(const LoadArguments_s& arguments) {
@@ -71,7 +71,7 @@ void noteLeftOut(const ReferenceHost& host, const LoadArguments_s& arguments, Ru
 
 Run_s carryOut(ReferenceHost& host, const LoadArguments_s& arguments, ProgressLine& progress) {
     const InterruptOnSignal interrupt;
-    LoadResult result;
+    LoadResult_s result;
     const std::unique_ptr<AddOnLibrary> library =
         AddOnLibrary::open(addOnPath(arguments.addOnPath), result.hostError);
     if (library)
@@ -97,8 +97,8 @@ void tellWhyNot(const Outcome_s& outcome, bool interrupted, std::ostream& err) {
 
 /// "a.bin, b.bin and 3 more".
 std::string someOf(const std::vector<std::string>& files) {
-    constexpr std::size_t kMostShown = 3;
-    const std::span<const std::string> shown(files.data(), std::min(files.size(), kMostShown));
+    constexpr std::size_t mostShown = 3;
+    const std::span<const std::string> shown(files.data(), std::min(files.size(), mostShown));
     std::string text = fmt::format("{}", fmt::join(shown, ", "));
     if (shown.size() < files.size())
         text += fmt::format(" and {} more", files.size() - shown.size());

@@ -46,7 +46,7 @@ struct Played_s {
 
 Played_s play(const Macro_s& macro, const MacroArguments_s& arguments, const Console_s& console) {
     ProgressLine progress(console);
-    const HostSession session(console, progress, kDefaultMemoryLimitBytes);
+    const HostSession session(console, progress, defaultMemoryLimitBytes);
     const InterruptOnSignal interrupt;
     PlaySettings_s settings{addOnPath(arguments.addOnPath), arguments.answerYes};
     settings.mayGoOn = [&interrupt] { return !interrupt.happened(); };

@@ -15,11 +15,11 @@ namespace {
 
 using Names = std::span<const std::string_view>;
 
-constexpr std::array<std::string_view, 9> kTruths = {"Yes",   "No", "Y", "N",        "True",
-                                                     "False", "T",  "F", "YouBetcha"};
-constexpr std::array<std::string_view, 4> kStyles = {"PLOT3DCLASSIC", "PLOT3DFUNCTION", "OVERFLOW",
-                                                     "SWIFT"};
-constexpr std::array<std::string_view, 5> kStructures = {"3DW", "3DP", "2D", "1D", "UNSTRUCTURED"};
+constexpr std::array<std::string_view, 9> truths = {"Yes",   "No", "Y", "N",        "True",
+                                                    "False", "T",  "F", "YouBetcha"};
+constexpr std::array<std::string_view, 4> styles = {"PLOT3DCLASSIC", "PLOT3DFUNCTION", "OVERFLOW",
+                                                    "SWIFT"};
+constexpr std::array<std::string_view, 5> structures = {"3DW", "3DP", "2D", "1D", "UNSTRUCTURED"};
 
 enum class Value_e { Truth, Style, Structure, Free, FileList };
 
@@ -31,7 +31,7 @@ struct Key_s {
 
 /// Every key of docs/instructions.md that is followed by one value, and the lists of files, which
 /// are not. The switches of older layouts have no value and can't be given as KEY=VALUE.
-constexpr std::array kKeys = {
+constexpr std::array keys = {
     Key_s{"APPEND", Value_e::Truth},
     Key_s{"FILENAME_NAMEFILE", Value_e::Free},
     Key_s{"AUTODETECT", Value_e::Truth},
@@ -87,7 +87,7 @@ std::string wordProblem(std::string_view key, std::string_view value, Names word
 
 /// The loader takes every word that it does not know for No, also a Yes with a slip in it.
 std::string truthProblem(std::string_view key, std::string_view value) {
-    if (isAmong(value, kTruths))
+    if (isAmong(value, truths))
         return {};
     return fmt::format("{} can't be \"{}\"; the known words are \"Yes\" and \"No\"", key, value);
 }
@@ -96,23 +96,23 @@ std::string truthProblem(std::string_view key, std::string_view value) {
 
 std::vector<std::string_view> settingKeys() {
     std::vector<std::string_view> names;
-    for (const Key_s& key : kKeys)
+    for (const Key_s& key : keys)
         names.push_back(key.name);
     return names;
 }
 
 std::string settingProblem(std::string_view key, std::string_view value) {
-    const auto known = std::find_if(kKeys.begin(), kKeys.end(),
+    const auto known = std::find_if(keys.begin(), keys.end(),
                                     [key](const Key_s& each) { return isSame(key, each.name); });
-    if (known == kKeys.end())
+    if (known == keys.end())
         return unknownKey(key);
     switch (known->value) {
     case Value_e::Truth:
         return truthProblem(known->name, value);
     case Value_e::Style:
-        return wordProblem(known->name, value, kStyles);
+        return wordProblem(known->name, value, styles);
     case Value_e::Structure:
-        return wordProblem(known->name, value, kStructures);
+        return wordProblem(known->name, value, structures);
     case Value_e::FileList:
         return fmt::format("{} is followed by several values; give its files with {}", known->name,
                            known->option);

@@ -56,14 +56,14 @@ bool WholeFile::replace(std::string& reason) {
 
 /// A name that is nobody's, so that two programs may write to one target; the later one stays.
 bool WholeFile::beginBeside(const fs::path& folder) {
-    constexpr int kMostTries = 100; // leftovers of programs that were killed
-    constexpr mode_t kAsTheUserHasIt = 0666;
-    for (int attempt = 0; attempt < kMostTries; ++attempt) {
+    constexpr int mostTries = 100; // leftovers of programs that were killed
+    constexpr mode_t asTheUserHasIt = 0666;
+    for (int attempt = 0; attempt < mostTries; ++attempt) {
         const std::string name =
             ".quorhost-" + std::to_string(getpid()) + "-" + std::to_string(attempt);
         const fs::path path = folder / name;
         const int file =
-            open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kAsTheUserHasIt);
+            open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, asTheUserHasIt);
         if (file >= 0) {
             close(file);
             growing_ = path;

@@ -4,7 +4,7 @@ namespace quorvia::host {
 
 bool FaultPlan::isPlanned(OperationId operation, std::int64_t call) {
     return failures_.erase({operation.index(), call}) != 0 &&
-           operation.traits().failure == Failure::Possible;
+           operation.traits().failure == Failure_e::Possible;
 }
 
 void FaultPlan::failCall(OperationId operation, std::int64_t n) {
@@ -41,6 +41,16 @@ void FaultPlan::clear() {
     interruptAt_ = 0;
     steps_ = 0;
     endInterruption();
+}
+
+void FaultPlan::swap(FaultPlan& other) noexcept {
+    calls_.swap(other.calls_);
+    failures_.swap(other.failures_);
+    std::swap(steps_, other.steps_);
+    std::swap(interruptAt_, other.interruptAt_);
+    std::swap(wasInterrupted_, other.wasInterrupted_);
+    const bool isInterrupted = interrupted_.exchange(other.interrupted_, std::memory_order_relaxed);
+    other.interrupted_.store(isInterrupted, std::memory_order_relaxed);
 }
 
 } // namespace quorvia::host

@@ -42,6 +42,9 @@ public:
     bool wasInterrupted() const noexcept { return wasInterrupted_; }
 
     void clear();
+    /// Exchanges plans, counts and interruptions. Whoever interrupts from elsewhere meanwhile
+    /// interrupts one of the two.
+    void swap(FaultPlan& other) noexcept;
 
 private:
     /// Takes the failure of that call out of the plan.

@@ -11,7 +11,7 @@ constexpr std::array<const char*, 7> kindNames = {"string list", "argument list"
 
 } // namespace
 
-std::string HandleRegistry::whyInvalid(std::uintptr_t number, Kind expected) const {
+std::string HandleRegistry::whyInvalid(std::uintptr_t number, Kind_e expected) const {
     const std::string name = kindNames[expected];
     if (number == 0)
         return name + " is null";

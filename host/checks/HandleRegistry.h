@@ -20,39 +20,39 @@
 
 namespace quorvia::host {
 
-struct GuestStringList {
+struct GuestStringList_s {
     std::vector<std::optional<std::string>> strings; // empty for one that was never set
     bool isHostOwned = false;                        // borrowed by the guest for one callback
 };
 
-struct GuestArgument {
+struct GuestArgument_s {
     std::string key;
     std::variant<std::string, std::int64_t, double, QuorStringListHandle, const void*, QuorFunction>
         value;
 };
 
-struct GuestArgList {
-    std::vector<GuestArgument> arguments;
+struct GuestArgList_s {
+    std::vector<GuestArgument_s> arguments;
 };
 
-struct GuestSet {
+struct GuestSet_s {
     std::set<std::int64_t> members;
 };
 
-struct FieldReference {
+struct FieldReference_s {
     std::weak_ptr<FieldStorage> storage; // gone once the field has changed, and during clean-up
     void* clientData = nullptr;
 };
 
-struct NodeMapReference {
+struct NodeMapReference_s {
     std::weak_ptr<NodeMap> nodeMap;
 };
 
-struct AuxDataReference {
+struct AuxDataReference_s {
     std::int64_t ownerId = 0; // of a zone or a data set
 };
 
-struct AddOnIdentity {
+struct AddOnIdentity_s {
     std::string name;
 };
 
@@ -71,7 +71,7 @@ private:
 template <typename Handle, typename Object>
 class HandleTable {
 public:
-    struct Entry {
+    struct Entry_s {
         Object object;
         OperationId origin;
         std::int64_t serial;
@@ -104,7 +104,7 @@ public:
     Handle add(OperationId origin, Object object) {
         const std::int64_t serial = serials_.last() + 1;
         const std::uintptr_t number = numberOf(serial);
-        entries_.emplace(number, Entry{std::move(object), origin, serial});
+        entries_.emplace(number, Entry_s{std::move(object), origin, serial});
         serials_.next();
         return reinterpret_cast<Handle>(number);
     }
@@ -149,7 +149,7 @@ private:
 
     SerialSource& serials_;
     std::uintptr_t kind_;
-    std::unordered_map<std::uintptr_t, Entry> entries_;
+    std::unordered_map<std::uintptr_t, Entry_s> entries_;
     Lent* lent_ = nullptr; // the last one
     // A guest asks for the same handle many times in a row, once for each node of a zone.
     std::uintptr_t foundNumber_ = 0;
@@ -160,13 +160,15 @@ class HandleRegistry {
 public:
     explicit HandleRegistry(SerialSource& serials) : serials_(serials) {}
 
-    HandleTable<QuorStringListHandle, GuestStringList>& of(QuorStringListHandle) { return lists_; }
-    HandleTable<QuorArgListHandle, GuestArgList>& of(QuorArgListHandle) { return argLists_; }
-    HandleTable<QuorSetHandle, GuestSet>& of(QuorSetHandle) { return sets_; }
-    HandleTable<QuorFieldHandle, FieldReference>& of(QuorFieldHandle) { return fields_; }
-    HandleTable<QuorNodeMapHandle, NodeMapReference>& of(QuorNodeMapHandle) { return nodeMaps_; }
-    HandleTable<QuorAuxDataHandle, AuxDataReference>& of(QuorAuxDataHandle) { return auxData_; }
-    HandleTable<QuorAddOnHandle, AddOnIdentity>& of(QuorAddOnHandle) { return addOns_; }
+    HandleTable<QuorStringListHandle, GuestStringList_s>& of(QuorStringListHandle) {
+        return lists_;
+    }
+    HandleTable<QuorArgListHandle, GuestArgList_s>& of(QuorArgListHandle) { return argLists_; }
+    HandleTable<QuorSetHandle, GuestSet_s>& of(QuorSetHandle) { return sets_; }
+    HandleTable<QuorFieldHandle, FieldReference_s>& of(QuorFieldHandle) { return fields_; }
+    HandleTable<QuorNodeMapHandle, NodeMapReference_s>& of(QuorNodeMapHandle) { return nodeMaps_; }
+    HandleTable<QuorAuxDataHandle, AuxDataReference_s>& of(QuorAuxDataHandle) { return auxData_; }
+    HandleTable<QuorAddOnHandle, AddOnIdentity_s>& of(QuorAddOnHandle) { return addOns_; }
 
     /// Why a handle is not one of its kind, in words such as "set was given back already".
     template <typename Handle>
@@ -185,24 +187,32 @@ public:
     std::int64_t heldCount() const { return lists_.count() + argLists_.count() + sets_.count(); }
 
 private:
-    enum Kind : std::uintptr_t { StringList, ArgList, Set, Field, NodeMapKind, AuxDataKind, AddOn };
-    static Kind kindOf(QuorStringListHandle) { return StringList; }
-    static Kind kindOf(QuorArgListHandle) { return ArgList; }
-    static Kind kindOf(QuorSetHandle) { return Set; }
-    static Kind kindOf(QuorFieldHandle) { return Field; }
-    static Kind kindOf(QuorNodeMapHandle) { return NodeMapKind; }
-    static Kind kindOf(QuorAuxDataHandle) { return AuxDataKind; }
-    static Kind kindOf(QuorAddOnHandle) { return AddOn; }
-    std::string whyInvalid(std::uintptr_t number, Kind expected) const;
+    enum Kind_e : std::uintptr_t {
+        StringList,
+        ArgList,
+        Set,
+        Field,
+        NodeMapKind,
+        AuxDataKind,
+        AddOn
+    };
+    static Kind_e kindOf(QuorStringListHandle) { return StringList; }
+    static Kind_e kindOf(QuorArgListHandle) { return ArgList; }
+    static Kind_e kindOf(QuorSetHandle) { return Set; }
+    static Kind_e kindOf(QuorFieldHandle) { return Field; }
+    static Kind_e kindOf(QuorNodeMapHandle) { return NodeMapKind; }
+    static Kind_e kindOf(QuorAuxDataHandle) { return AuxDataKind; }
+    static Kind_e kindOf(QuorAddOnHandle) { return AddOn; }
+    std::string whyInvalid(std::uintptr_t number, Kind_e expected) const;
 
     SerialSource& serials_;
-    HandleTable<QuorStringListHandle, GuestStringList> lists_{serials_, StringList};
-    HandleTable<QuorArgListHandle, GuestArgList> argLists_{serials_, ArgList};
-    HandleTable<QuorSetHandle, GuestSet> sets_{serials_, Set};
-    HandleTable<QuorFieldHandle, FieldReference> fields_{serials_, Field};
-    HandleTable<QuorNodeMapHandle, NodeMapReference> nodeMaps_{serials_, NodeMapKind};
-    HandleTable<QuorAuxDataHandle, AuxDataReference> auxData_{serials_, AuxDataKind};
-    HandleTable<QuorAddOnHandle, AddOnIdentity> addOns_{serials_, AddOn};
+    HandleTable<QuorStringListHandle, GuestStringList_s> lists_{serials_, StringList};
+    HandleTable<QuorArgListHandle, GuestArgList_s> argLists_{serials_, ArgList};
+    HandleTable<QuorSetHandle, GuestSet_s> sets_{serials_, Set};
+    HandleTable<QuorFieldHandle, FieldReference_s> fields_{serials_, Field};
+    HandleTable<QuorNodeMapHandle, NodeMapReference_s> nodeMaps_{serials_, NodeMapKind};
+    HandleTable<QuorAuxDataHandle, AuxDataReference_s> auxData_{serials_, AuxDataKind};
+    HandleTable<QuorAddOnHandle, AddOnIdentity_s> addOns_{serials_, AddOn};
 };
 
 } // namespace quorvia::host

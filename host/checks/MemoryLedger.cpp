@@ -18,11 +18,11 @@ MemoryLedger::~MemoryLedger() {
 char* MemoryLedger::allocate(OperationId origin, std::int64_t byteCount, std::string_view label) {
     if (byteCount < 0 || byteCount > ValueBlock::largest)
         return nullptr;
-    std::unique_ptr<Head, Free> head(
-        static_cast<Head*>(std::malloc(sizeof(Head) + static_cast<std::size_t>(byteCount))));
+    std::unique_ptr<Head_s, Free> head(
+        static_cast<Head_s*>(std::malloc(sizeof(Head_s) + static_cast<std::size_t>(byteCount))));
     if (head == nullptr)
         return nullptr;
-    new (head.get()) Head{origin, keep(label), serials_.last() + 1, byteCount};
+    new (head.get()) Head_s{origin, keep(label), serials_.last() + 1, byteCount};
     void* const address = head.get() + 1;
     blocks_.insert(address);
     static_cast<void>(head.release()); // the table's from now on
@@ -54,17 +54,17 @@ bool MemoryLedger::giveBack(const void* address) {
     return true;
 }
 
-std::vector<HeldBlock> MemoryLedger::heldSince(std::int64_t serial) const {
-    std::vector<HeldBlock> held;
+std::vector<HeldBlock_s> MemoryLedger::heldSince(std::int64_t serial) const {
+    std::vector<HeldBlock_s> held;
     for (const void* address : blocks_) {
-        const Head& head = *headOf(address);
+        const Head_s& head = *headOf(address);
         if (head.serial > serial)
             held.push_back({head.origin, labels_[head.label], head.byteCount});
     }
     return held;
 }
 
-void MemoryLedger::Free::operator()(Head* head) const {
+void MemoryLedger::Free::operator()(Head_s* head) const {
     std::free(head);
 }
 

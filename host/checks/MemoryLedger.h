@@ -14,7 +14,7 @@
 
 namespace quorvia::host {
 
-struct HeldBlock {
+struct HeldBlock_s {
     OperationId origin;
     std::string label;
     std::int64_t byteCount;
@@ -38,27 +38,29 @@ public:
 
     bool contains(const void* address) const { return blocks_.count(address) != 0; }
     std::int64_t count() const { return static_cast<std::int64_t>(blocks_.size()); }
-    std::vector<HeldBlock> heldSince(std::int64_t serial) const;
+    std::vector<HeldBlock_s> heldSince(std::int64_t serial) const;
 
 private:
-    struct alignas(std::max_align_t) Head {
+    struct alignas(std::max_align_t) Head_s {
         OperationId origin;
         std::size_t label; // in labels_
         std::int64_t serial;
         std::int64_t byteCount;
     };
-    struct Free {
-        void operator()(Head* head) const;
+    class Free {
+    public:
+        void operator()(Head_s* head) const;
     };
     /// Blocks begin at multiples of 16.
-    struct AddressHash {
+    class AddressHash {
+    public:
         std::size_t operator()(const void* address) const {
             return reinterpret_cast<std::uintptr_t>(address) / 16;
         }
     };
     /// `address` is one in blocks_.
-    static Head* headOf(const void* address) {
-        return static_cast<Head*>(const_cast<void*>(address)) - 1;
+    static Head_s* headOf(const void* address) {
+        return static_cast<Head_s*>(const_cast<void*>(address)) - 1;
     }
     /// The place of the label in labels_.
     std::size_t keep(std::string_view label);

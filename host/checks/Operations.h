@@ -11,24 +11,24 @@
 
 namespace quorvia::host {
 
-enum class Failure : std::uint8_t { None, Possible };
-enum class LockNeed : std::uint8_t { None, Held };
+enum class Failure_e : std::uint8_t { None, Possible };
+enum class LockNeed_e : std::uint8_t { None, Held };
 
-struct OperationTraits {
+struct OperationTraits_s {
     std::string_view name;
-    Failure failure;
-    LockNeed lock;
+    Failure_e failure;
+    LockNeed_e lock;
 };
 
 namespace detail {
 
-inline constexpr Failure certain = Failure::None; // queries, and operations without a result
-inline constexpr Failure failing = Failure::Possible;
-inline constexpr LockNeed unlocked = LockNeed::None;
-inline constexpr LockNeed locked = LockNeed::Held;
+inline constexpr Failure_e certain = Failure_e::None; // queries, and operations without a result
+inline constexpr Failure_e failing = Failure_e::Possible;
+inline constexpr LockNeed_e unlocked = LockNeed_e::None;
+inline constexpr LockNeed_e locked = LockNeed_e::Held;
 
 // clang-format off
-inline constexpr OperationTraits operationTable[] = {
+inline constexpr OperationTraits_s operationTable[] = {
     {"QuorUtilGetQuorviaVersion", certain, unlocked},
     {"QuorUtilAddOnRegister", certain, locked},
     {"QuorUtilLockOn", certain, unlocked},
@@ -188,7 +188,7 @@ public:
     static constexpr OperationId at(std::size_t index) { return OperationId(index); }
 
     constexpr std::size_t index() const { return index_; }
-    constexpr const OperationTraits& traits() const { return detail::operationTable[index_]; }
+    constexpr const OperationTraits_s& traits() const { return detail::operationTable[index_]; }
     constexpr std::string_view name() const { return traits().name; }
 
 private:

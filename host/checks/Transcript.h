@@ -14,7 +14,7 @@
 namespace quorvia::host {
 
 /// A progress task by the guest's object.
-struct TaskName {
+struct TaskName_s {
     const void* task;
 };
 
@@ -46,7 +46,7 @@ public:
     requires std::is_void_v<Thing> || std::is_function_v<Thing> std::string describe(Thing* thing) {
         return thing != nullptr ? "given" : "null";
     }
-    std::string describe(TaskName task) { return nameOf(task.task, "task"); }
+    std::string describe(TaskName_s task) { return nameOf(task.task, "task"); }
 
     /// In double quotes, with line ends, quotes and backslashes escaped.
     static std::string quoted(std::string_view text);

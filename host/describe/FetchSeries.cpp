@@ -13,7 +13,7 @@ namespace {
 /// Has another observer watch the bars of the guest in a scope.
 class ObservedBars {
 public:
-    using Observer = std::function<void(const ProgressState&)>;
+    using Observer = std::function<void(const ProgressState_s&)>;
 
     ObservedBars(ReferenceHost& host, Observer observer)
         : host_(host),
@@ -30,18 +30,18 @@ private:
 } // namespace
 
 std::int64_t byteCountOf(const FieldOutcome_s& field) {
-    constexpr std::int64_t kMostValues = std::int64_t{1} << 40;
-    return std::clamp<std::int64_t>(field.count, 0, kMostValues) * valueWidth(field.type);
+    constexpr std::int64_t mostValues = std::int64_t{1} << 40;
+    return std::clamp<std::int64_t>(field.count, 0, mostValues) * valueWidth(field.type);
 }
 
 bool FetchSeries::fetch(std::int32_t zone, FieldOutcome_s& field) {
     const std::int64_t fieldBytes = byteCountOf(field);
-    const auto tellBytes = [this, fieldBytes](const ProgressState& bar) {
+    const auto tellBytes = [this, fieldBytes](const ProgressState_s& bar) {
         const auto part = static_cast<std::int64_t>(bar.fraction * static_cast<double>(fieldBytes));
         if (bar.open && observer_ && !observer_(bytesDone_ + part, byteCount_))
             host_.requestInterrupt();
     };
-    FetchResult fetched;
+    FetchResult_s fetched;
     {
         const ObservedBars bars(host_, tellBytes);
         fetched = host_.fetch(zone, field.variable);

@@ -12,7 +12,7 @@ namespace {
 
 // ---- The log ------------------------------------------------------------------------------------
 
-void describeEvents(const HostLog& log, Outcome_s& outcome) {
+void describeEvents(const HostLog_s& log, Outcome_s& outcome) {
     outcome.progress = log.progress;
     outcome.instructions = log.instructions;
     outcome.stateChanges = log.stateChanges;
@@ -37,8 +37,8 @@ AuxDataItems describeAuxData(const AuxData& auxData) {
     return AuxDataItems(auxData.begin(), auxData.end());
 }
 
-FieldOutcome_s describeField(const Zone& zone, std::size_t variable, std::int32_t holder) {
-    const Field& field = zone.fields[variable];
+FieldOutcome_s describeField(const Zone_s& zone, std::size_t variable, std::int32_t holder) {
+    const Field_s& field = zone.fields[variable];
     FieldOutcome_s result;
     result.variable = static_cast<std::int32_t>(variable) + 1;
     result.type = static_cast<QuorFieldDataType_e>(field.type);
@@ -62,7 +62,7 @@ Sparse<ConnectivityOutcome_s> describeConnectivity(const NodeMap& nodeMap) {
     return result;
 }
 
-ZoneOutcome_s describeZone(const DataSet& dataSet, const Zone& zone, const Holders& holders) {
+ZoneOutcome_s describeZone(const DataSet& dataSet, const Zone_s& zone, const Holders& holders) {
     ZoneOutcome_s result;
     result.number = zone.number;
     result.name = zone.name;
@@ -95,7 +95,7 @@ void describeZonesAuxData(const DataSet& dataSet, std::vector<ZoneOutcome_s>& zo
 void describeNodeMaps(const DataSet& dataSet, std::vector<ZoneOutcome_s>& zones) {
     const std::vector<std::int32_t> holders = dataSet.nodeMapHolders();
     for (std::size_t place = 0; place < zones.size(); ++place) {
-        const Zone& zone = *dataSet.zones()[place];
+        const Zone_s& zone = *dataSet.zones()[place];
         if (!zone.nodeMap)
             continue;
         const std::int32_t holder = holders[place];
@@ -112,7 +112,7 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
     DataSetOutcome_s result;
     result.title = dataSet.title;
     result.auxData = describeAuxData(dataSet.auxData);
-    for (const Variable& variable : dataSet.variables())
+    for (const Variable_s& variable : dataSet.variables())
         result.variables.push_back(variable.name);
     const Holders holders = fieldHoldersOf(dataSet);
     result.zones.reserve(dataSet.zones().size());
@@ -125,7 +125,7 @@ DataSetOutcome_s describeDataSet(const DataSet& dataSet) {
 
 } // namespace
 
-Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
+Outcome_s describeOutcome(ReferenceHost& host, const LoadResult_s& result) {
     Outcome_s outcome;
     outcome.ok = result.ok;
     if (!result.hostError.empty())
@@ -134,7 +134,7 @@ Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result) {
     describeEvents(host.log(), outcome);
     if (const DataSet* dataSet = host.frame().dataSet())
         outcome.dataSet = describeDataSet(*dataSet);
-    if (const Dialog* dialog = host.toolkit().latest())
+    if (const Dialog_s* dialog = host.toolkit().latest())
         outcome.dialog = *dialog;
     updateLog(host, outcome);
     return outcome;
@@ -151,7 +151,7 @@ std::int64_t unreadFieldCount(const Outcome_s& outcome) {
 }
 
 void updateLog(ReferenceHost& host, Outcome_s& outcome) {
-    const HostLog& log = host.log();
+    const HostLog_s& log = host.log();
     outcome.messages = log.messages;
     outcome.violations = log.violations;
     outcome.lockDepth = host.lockDepth();

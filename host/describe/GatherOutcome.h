@@ -10,7 +10,7 @@
 namespace quorvia::host {
 
 /// What the host shows now, without fetching a value. `result` is what the import gave.
-Outcome_s describeOutcome(ReferenceHost& host, const LoadResult& result);
+Outcome_s describeOutcome(ReferenceHost& host, const LoadResult_s& result);
 
 /// Fields whose values were asked for and could not be had.
 std::int64_t unreadFieldCount(const Outcome_s& outcome);

@@ -14,14 +14,14 @@ namespace quorvia::host {
 namespace {
 
 /// Every tell() writes one value.
-void tell(JsonStream& json, const Message& told);
-void tell(JsonStream& json, const StateChange& change);
-void tell(JsonStream& json, const UndoEvent& event);
+void tell(JsonStream& json, const Message_s& told);
+void tell(JsonStream& json, const StateChange_s& change);
+void tell(JsonStream& json, const UndoEvent_s& event);
 void tell(JsonStream& json, const FieldOutcome_s& told);
 void tell(JsonStream& json, const ConnectivityOutcome_s& told);
 void tell(JsonStream& json, const ZoneOutcome_s& told);
 void tell(JsonStream& json, const DataSetOutcome_s& told);
-void tell(JsonStream& json, const Dialog& told);
+void tell(JsonStream& json, const Dialog_s& told);
 void tell(JsonStream& json, const TextLog& texts);
 
 template <typename Value>
@@ -66,7 +66,7 @@ std::string checksum(std::uint32_t crc32) {
     return fmt::format("{:08x}", crc32);
 }
 
-void tell(JsonStream& json, const Message& told) {
+void tell(JsonStream& json, const Message_s& told) {
     json.beginObject();
     member(json, "kind", wordOf(told.kind));
     member(json, "text", told.text);
@@ -74,16 +74,16 @@ void tell(JsonStream& json, const Message& told) {
     json.endObject();
 }
 
-void tell(JsonStream& json, const StateChange& change) {
+void tell(JsonStream& json, const StateChange_s& change) {
     json.beginObject();
     member(json, "code", change.code);
     member(json, "members", change.members);
     json.endObject();
 }
 
-void tell(JsonStream& json, const UndoEvent& event) {
+void tell(JsonStream& json, const UndoEvent_s& event) {
     json.beginObject();
-    member(json, "event", event.kind == UndoKind::Begin ? "begin" : "end");
+    member(json, "event", event.kind == UndoKind_e::Begin ? "begin" : "end");
     member(json, "success", event.success);
     json.endObject();
 }
@@ -154,35 +154,35 @@ void tell(JsonStream& json, const DataSetOutcome_s& told) {
     json.endObject();
 }
 
-void tellValue(JsonStream& json, const Control& control) {
+void tellValue(JsonStream& json, const Control_s& control) {
     switch (control.kind) {
-    case ControlKind::Toggle:
+    case ControlKind_e::Toggle:
         json.value(control.value != 0);
         return;
-    case ControlKind::RadioBox:
-    case ControlKind::OptionMenu:
+    case ControlKind_e::RadioBox:
+    case ControlKind_e::OptionMenu:
         json.value(control.value);
         return;
-    case ControlKind::TextField:
+    case ControlKind_e::TextField:
         json.value(control.text);
         return;
-    case ControlKind::Frame:
-    case ControlKind::Label:
-    case ControlKind::Button:
-    case ControlKind::List:
+    case ControlKind_e::Frame:
+    case ControlKind_e::Label:
+    case ControlKind_e::Button:
+    case ControlKind_e::List:
         break;
     }
     json.null();
 }
 
-void tellCaption(JsonStream& json, const Page* page) {
+void tellCaption(JsonStream& json, const Page_s* page) {
     if (page != nullptr)
         json.value(page->caption);
     else
         json.null();
 }
 
-void tellControl(JsonStream& json, const Dialog& dialog, const Control& told) {
+void tellControl(JsonStream& json, const Dialog_s& dialog, const Control_s& told) {
     json.beginObject();
     json.key("page");
     tellCaption(json, findPage(dialog, told.parent));
@@ -201,14 +201,14 @@ void tellControl(JsonStream& json, const Dialog& dialog, const Control& told) {
     json.endObject();
 }
 
-void tell(JsonStream& json, const Dialog& told) {
+void tell(JsonStream& json, const Dialog_s& told) {
     json.beginObject();
     member(json, "open", told.open);
     json.key("page");
     tellCaption(json, told.tabs ? findPage(told, told.tabs->frontPage) : nullptr);
     json.key("controls");
     json.beginList();
-    for (const Control& control : told.controls)
+    for (const Control_s& control : told.controls)
         tellControl(json, told, control);
     json.endList();
     json.endObject();

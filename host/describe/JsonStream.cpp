@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::size_t kIndent = 2;
+constexpr std::size_t indent = 2;
 
 /// Whether every byte stands for itself between the quotes. Most texts do, so this is the inner
 /// loop.
@@ -25,8 +25,8 @@ bool isPlain(std::string_view text) {
 
 /// As the library writes a single value.
 std::string dumped(const Json& value) {
-    constexpr int kOnOneLine = -1;
-    return value.dump(kOnOneLine, ' ', false, Json::error_handler_t::replace);
+    constexpr int onOneLine = -1;
+    return value.dump(onOneLine, ' ', false, Json::error_handler_t::replace);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ void JsonStream::end(char bracket) {
     --depth_;
     if (!isFirst_) {
         text_ += '\n';
-        text_.append(depth_ * kIndent, ' ');
+        text_.append(depth_ * indent, ' ');
     }
     text_ += bracket;
     isFirst_ = false;
@@ -102,7 +102,7 @@ void JsonStream::startLine() {
         text_ += ',';
     isFirst_ = false;
     text_ += '\n';
-    text_.append(depth_ * kIndent, ' ');
+    text_.append(depth_ * indent, ' ');
 }
 
 void JsonStream::putText(std::string_view text) {
@@ -116,8 +116,8 @@ void JsonStream::putText(std::string_view text) {
 }
 
 void JsonStream::flushIfLarge() {
-    constexpr std::size_t kBlock = std::size_t{1} << 16;
-    if (text_.size() < kBlock)
+    constexpr std::size_t block = std::size_t{1} << 16;
+    if (text_.size() < block)
         return;
     out_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
     text_.clear();

@@ -32,11 +32,11 @@ struct FieldStatistics_s {
 struct FieldOutcome_s {
     std::int32_t variable = 0; // from 1
     QuorFieldDataType_e type = QuorFieldDataType_Invalid;
-    FieldState state = FieldState::Empty; // before any value was fetched
-    std::int32_t sharedWith = 0;          // the lowest zone with the same field; 0: this one
-    std::int64_t count = 0;               // values, not bytes
-    Sparse<FieldStatistics_s> statistics; // absent if the values were not fetched
-    Sparse<std::string> error;            // why a fetch failed
+    FieldState_e state = FieldState_e::Empty; // before any value was fetched
+    std::int32_t sharedWith = 0;              // the lowest zone with the same field; 0: this one
+    std::int64_t count = 0;                   // values, not bytes
+    Sparse<FieldStatistics_s> statistics;     // absent if the values were not fetched
+    Sparse<std::string> error;                // why a fetch failed
 
     friend bool operator==(const FieldOutcome_s&, const FieldOutcome_s&) = default;
 };
@@ -105,18 +105,18 @@ struct DataSetOutcome_s {
 struct Outcome_s {
     bool ok = false;
     std::optional<std::string> hostError; // what stopped the host itself
-    std::vector<Message> messages;
+    std::vector<Message_s> messages;
     TextLog progress; // the texts shown, in order
     QuorPlotType_e plotType = QuorPlotType_None;
     std::vector<std::string> instructions; // last handed over
-    std::vector<StateChange> stateChanges;
-    std::vector<UndoEvent> undo;
+    std::vector<StateChange_s> stateChanges;
+    std::vector<UndoEvent_s> undo;
     std::int64_t redraws = 0;
     std::int64_t lockDepth = 0;
     std::vector<std::string> violations; // of the contract, by the add-on
     std::optional<DataSetOutcome_s> dataSet;
     /// The add-on's dialog, open or as it was left; absent if none was ever launched.
-    std::optional<Dialog> dialog;
+    std::optional<Dialog_s> dialog;
     std::vector<std::string> helpShown; // targets
 };
 

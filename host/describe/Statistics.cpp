@@ -14,18 +14,18 @@ namespace {
 static_assert(std::endian::native == std::endian::little,
               "the checksums are taken over memory as it stands");
 
-constexpr std::size_t kValuesOfPiece = std::size_t{1} << 20; // between two questions
+constexpr std::size_t valuesOfPiece = std::size_t{1} << 20; // between two questions
 
 /// Thrown out of the work on a field, and caught where it began.
-struct Stopped {};
+struct Stopped_s {};
 
 class Questions {
 public:
     explicit Questions(const std::function<bool()>& mayGoOn) : mayGoOn_(mayGoOn) {}
-    /// Throws Stopped.
+    /// Throws Stopped_s.
     void ask() const {
         if (mayGoOn_ && !mayGoOn_())
-            throw Stopped();
+            throw Stopped_s();
     }
 
 private:
@@ -35,9 +35,9 @@ private:
 /// Calls `work` on one piece after the other.
 template <typename Value, typename Work>
 void forEachPiece(std::span<const Value> values, const Questions& questions, Work work) {
-    for (std::size_t done = 0; done < values.size(); done += kValuesOfPiece) {
+    for (std::size_t done = 0; done < values.size(); done += valuesOfPiece) {
         questions.ask();
-        work(values.subspan(done, std::min(kValuesOfPiece, values.size() - done)));
+        work(values.subspan(done, std::min(valuesOfPiece, values.size() - done)));
     }
 }
 
@@ -54,14 +54,14 @@ std::uint32_t crc32OfBytes(std::span<const Value> values, const Questions& quest
 /// Adds halves to halves, so that the rounding error grows with the logarithm of the count only.
 template <typename Value>
 double pairwiseSum(std::span<const Value> values, const Questions& questions) {
-    constexpr std::size_t kPlainlyAdded = 128;
-    if (values.size() <= kPlainlyAdded) {
+    constexpr std::size_t plainlyAdded = 128;
+    if (values.size() <= plainlyAdded) {
         double sum = 0;
         for (const Value value : values)
             sum += static_cast<double>(value);
         return sum;
     }
-    if (values.size() > kValuesOfPiece)
+    if (values.size() > valuesOfPiece)
         questions.ask();
     const std::size_t half = values.size() / 2;
     return pairwiseSum(values.first(half), questions) +
@@ -70,10 +70,10 @@ double pairwiseSum(std::span<const Value> values, const Questions& questions) {
 
 template <typename Value>
 FieldStatistics_s describeTyped(std::span<const Value> values, const Questions& questions) {
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double infinity = std::numeric_limits<double>::infinity();
     FieldStatistics_s result;
-    result.min = kInfinity;
-    result.max = -kInfinity;
+    result.min = infinity;
+    result.max = -infinity;
     forEachPiece(values, questions, [&result](std::span<const Value> piece) {
         for (const Value value : piece) { // no comparison with a NaN is true: they are passed over
             const auto number = static_cast<double>(value);
@@ -104,12 +104,12 @@ FieldStatistics_s describeOfType(QuorFieldDataType_e type, const void* values, s
     return describeTyped(std::span<const double>(), questions);
 }
 
-const std::function<bool()> kNobody;
+const std::function<bool()> nobody;
 
 } // namespace
 
 FieldStatistics_s describeValues(QuorFieldDataType_e type, const void* values, std::int64_t count) {
-    return describeOfType(type, values, count, Questions(kNobody));
+    return describeOfType(type, values, count, Questions(nobody));
 }
 
 std::optional<FieldStatistics_s> describeValuesWhile(const std::function<bool()>& mayGoOn,
@@ -117,13 +117,13 @@ std::optional<FieldStatistics_s> describeValuesWhile(const std::function<bool()>
                                                      std::int64_t count) {
     try {
         return describeOfType(type, values, count, Questions(mayGoOn));
-    } catch (const Stopped&) {
+    } catch (const Stopped_s&) {
         return std::nullopt;
     }
 }
 
 std::uint32_t crc32OfIntegers(std::span<const std::int32_t> values) {
-    return crc32OfBytes(values, Questions(kNobody));
+    return crc32OfBytes(values, Questions(nobody));
 }
 
 } // namespace quorvia::host

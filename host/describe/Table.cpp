@@ -65,9 +65,9 @@ void printVariables(std::ostream& out, const DataSetOutcome_s& dataSet) {
 // ---- Zones --------------------------------------------------------------------------------------
 
 std::string fieldStates(const ZoneOutcome_s& zone) {
-    const std::array<std::string_view, 4> words = {wordOf(FieldState::Deferred),
-                                                   wordOf(FieldState::Stored), sharedWord,
-                                                   wordOf(FieldState::Empty)};
+    const std::array<std::string_view, 4> words = {wordOf(FieldState_e::Deferred),
+                                                   wordOf(FieldState_e::Stored), sharedWord,
+                                                   wordOf(FieldState_e::Empty)};
     std::vector<std::string> parts;
     for (const std::string_view word : words) {
         const auto isSo = [word](const FieldOutcome_s& field) {
@@ -202,11 +202,11 @@ std::string indented(std::string_view text) {
     return result;
 }
 
-void printMessages(std::ostream& out, const std::vector<Message>& messages) {
+void printMessages(std::ostream& out, const std::vector<Message_s>& messages) {
     if (messages.empty())
         return;
     out << "\nMessages\n";
-    for (const Message& message : messages) {
+    for (const Message_s& message : messages) {
         out << fmt::format("  {}:\n{}", wordOf(message.kind), indented(message.text));
         if (message.answer)
             out << fmt::format("    answered: {}\n",

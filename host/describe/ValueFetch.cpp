@@ -16,7 +16,7 @@ FieldAddress_s holderOf(const DataSetOutcome_s& dataSet, FieldAddress_s address)
 }
 
 bool isWanted(const FieldOutcome_s* field) {
-    return field != nullptr && field->state != FieldState::Empty && !field->statistics;
+    return field != nullptr && field->state != FieldState_e::Empty && !field->statistics;
 }
 
 void copyFromHolder(const DataSetOutcome_s& dataSet, FieldOutcome_s& field) {

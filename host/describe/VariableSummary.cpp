@@ -11,7 +11,7 @@ void add(VariableSummary_s& summary, const FieldOutcome_s& field) {
     auto& types = summary.types;
     if (std::find(types.begin(), types.end(), field.type) == types.end())
         types.push_back(field.type);
-    if (field.state == FieldState::Empty)
+    if (field.state == FieldState_e::Empty)
         return;
     summary.lastType = field.type;
     ++summary.fieldCount;

@@ -4,25 +4,25 @@
 
 namespace quorvia::host {
 
-const char* wordOf(MessageKind kind) {
+const char* wordOf(MessageKind_e kind) {
     switch (kind) {
-    case MessageKind::Error:
+    case MessageKind_e::Error:
         return "error";
-    case MessageKind::Information:
+    case MessageKind_e::Information:
         return "information";
-    case MessageKind::Question:
+    case MessageKind_e::Question:
         return "question";
     }
     return "unknown";
 }
 
-const char* wordOf(FieldState state) {
+const char* wordOf(FieldState_e state) {
     switch (state) {
-    case FieldState::Empty:
+    case FieldState_e::Empty:
         return "empty";
-    case FieldState::Deferred:
+    case FieldState_e::Deferred:
         return "deferred";
-    case FieldState::Stored:
+    case FieldState_e::Stored:
         return "stored";
     }
     return "unknown";

@@ -12,8 +12,8 @@
 namespace quorvia::host {
 
 /// Static texts, valid for ever; "unknown" for a number that is none of the enumeration's.
-const char* wordOf(MessageKind kind);
-const char* wordOf(FieldState state);
+const char* wordOf(MessageKind_e kind);
+const char* wordOf(FieldState_e state);
 const char* wordOf(QuorFieldDataType_e type);
 const char* wordOf(QuorZoneType_e type);
 const char* wordOf(QuorPlotType_e type);

@@ -21,18 +21,18 @@ namespace {
 
 class FrameView : public ControlView {
 public:
-    FrameView(const Control& control, QWidget* parent)
+    FrameView(const Control_s& control, QWidget* parent)
         : ControlView(new FrameWidget(shown(control.caption).trimmed(), parent)) {
         widget()->lower(); // controls stand over it, also those that were made before
     }
 
 protected:
-    void showValue(const Control&) override {}
+    void showValue(const Control_s&) override {}
 };
 
 class LabelView : public ControlView {
 public:
-    LabelView(const Control& control, QWidget* parent) : ControlView(new QLabel(parent)) {
+    LabelView(const Control_s& control, QWidget* parent) : ControlView(new QLabel(parent)) {
         auto* label = static_cast<QLabel*>(widget());
         label->setTextFormat(Qt::PlainText);
         label->setText(shown(control.caption));
@@ -40,22 +40,22 @@ public:
     }
 
 protected:
-    void showValue(const Control&) override {}
+    void showValue(const Control_s&) override {}
 };
 
 class ToggleView : public ControlView {
 public:
-    ToggleView(const Control& control, ActionSink act, QWidget* parent)
+    ToggleView(const Control_s& control, ActionSink act, QWidget* parent)
         : ControlView(new QCheckBox(shownCaption(control.caption), parent)),
           box_(*static_cast<QCheckBox*>(widget())) {
         QObject::connect(&box_, &QCheckBox::clicked, &box_,
                          [id = control.id, act = std::move(act)](bool on) {
-                             act(SetToggle{id, on});
+                             act(SetToggle_s{id, on});
                          });
     }
 
 protected:
-    void showValue(const Control& control) override { box_.setChecked(control.value != 0); }
+    void showValue(const Control_s& control) override { box_.setChecked(control.value != 0); }
 
 private:
     QCheckBox& box_;
@@ -63,21 +63,21 @@ private:
 
 class ButtonView : public ControlView {
 public:
-    ButtonView(const Control& control, ActionSink act, QWidget* parent)
+    ButtonView(const Control_s& control, ActionSink act, QWidget* parent)
         : ControlView(new QPushButton(shownCaption(control.caption), parent)) {
         auto* button = static_cast<QPushButton*>(widget());
         button->setAutoDefault(false); // Return in a field means OK, whatever had the focus before
         QObject::connect(button, &QPushButton::clicked, button,
-                         [id = control.id, act = std::move(act)] { act(PressButton{id}); });
+                         [id = control.id, act = std::move(act)] { act(PressButton_s{id}); });
     }
 
 protected:
-    void showValue(const Control&) override {}
+    void showValue(const Control_s&) override {}
 };
 
 class ListView : public ControlView {
 public:
-    ListView(const Control& control, ActionSink act, QWidget* parent)
+    ListView(const Control_s& control, ActionSink act, QWidget* parent)
         : ControlView(new QListWidget(parent)), list_(*static_cast<QListWidget*>(widget())) {
         list_.setSelectionMode(control.allowsSeveral ? QAbstractItemView::ExtendedSelection
                                                      : QAbstractItemView::SingleSelection);
@@ -86,12 +86,12 @@ public:
         list_.setUniformItemSizes(true);
         QObject::connect(&list_, &QListWidget::itemSelectionChanged, &list_,
                          [this, id = control.id, act = std::move(act)] {
-                             act(SelectItems{id, selected()});
+                             act(SelectItems_s{id, selected()});
                          });
     }
 
 protected:
-    void showValue(const Control& control) override {
+    void showValue(const Control_s& control) override {
         const QSignalBlocker silence(&list_);
         if (items_ != control.items)
             showItems(control.items);
@@ -143,19 +143,19 @@ protected:
 
 class RadioBoxView : public ControlView {
 public:
-    RadioBoxView(const Control& control, ActionSink act, QWidget* parent)
+    RadioBoxView(const Control_s& control, ActionSink act, QWidget* parent)
         : ControlView(new RadioBoxWidget(parent)), box_(*static_cast<RadioBoxWidget*>(widget())) {
         std::int32_t item = 0;
         for (const std::string& caption : control.items)
             box_.group.addButton(new QRadioButton(shownCaption(caption), &box_), ++item);
         QObject::connect(&box_.group, &QButtonGroup::idClicked, &box_,
                          [id = control.id, act = std::move(act)](int clicked) {
-                             act(ChooseItem{id, clicked});
+                             act(ChooseItem_s{id, clicked});
                          });
     }
 
 protected:
-    void showValue(const Control& control) override {
+    void showValue(const Control_s& control) override {
         if (QAbstractButton* button = box_.group.button(control.value))
             button->setChecked(true);
     }
@@ -166,64 +166,64 @@ private:
 
 class OptionMenuView : public ControlView {
 public:
-    OptionMenuView(const Control& control, ActionSink act, QWidget* parent)
+    OptionMenuView(const Control_s& control, ActionSink act, QWidget* parent)
         : ControlView(new QComboBox(parent)), menu_(*static_cast<QComboBox*>(widget())) {
         for (const std::string& caption : control.items)
             menu_.addItem(shown(caption));
         QObject::connect(&menu_, &QComboBox::activated, &menu_,
                          [id = control.id, act = std::move(act)](int index) {
-                             act(ChooseItem{id, index + 1});
+                             act(ChooseItem_s{id, index + 1});
                          });
     }
 
 protected:
-    void showValue(const Control& control) override { menu_.setCurrentIndex(control.value - 1); }
+    void showValue(const Control_s& control) override { menu_.setCurrentIndex(control.value - 1); }
 
 private:
     QComboBox& menu_;
 };
 
-std::unique_ptr<ControlView> viewOfKind(const Control& control, ActionSink act, QWidget* parent) {
+std::unique_ptr<ControlView> viewOfKind(const Control_s& control, ActionSink act, QWidget* parent) {
     switch (control.kind) {
-    case ControlKind::Frame:
+    case ControlKind_e::Frame:
         return std::make_unique<FrameView>(control, parent);
-    case ControlKind::Label:
+    case ControlKind_e::Label:
         return std::make_unique<LabelView>(control, parent);
-    case ControlKind::Toggle:
+    case ControlKind_e::Toggle:
         return std::make_unique<ToggleView>(control, std::move(act), parent);
-    case ControlKind::Button:
+    case ControlKind_e::Button:
         return std::make_unique<ButtonView>(control, std::move(act), parent);
-    case ControlKind::List:
+    case ControlKind_e::List:
         return std::make_unique<ListView>(control, std::move(act), parent);
-    case ControlKind::TextField:
+    case ControlKind_e::TextField:
         return std::make_unique<TextFieldView>(control, std::move(act), parent);
-    case ControlKind::RadioBox:
+    case ControlKind_e::RadioBox:
         return std::make_unique<RadioBoxView>(control, std::move(act), parent);
-    case ControlKind::OptionMenu:
+    case ControlKind_e::OptionMenu:
         return std::make_unique<OptionMenuView>(control, std::move(act), parent);
     }
     return nullptr;
 }
 
 /// A label has a position only; on the line of a toggle or field its text stands level with theirs.
-QRect placeOf(const Control& control, const DialogScale& scale, const QWidget& widget) {
+QRect placeOf(const Control_s& control, const DialogScale& scale, const QWidget& widget) {
     QRect place = scale.rect(control.geometry);
-    if (control.kind == ControlKind::Label) {
-        constexpr std::int32_t kHeightOfALabel = 121;
-        place.setSize({widget.sizeHint().width(), scale.height(kHeightOfALabel)});
+    if (control.kind == ControlKind_e::Label) {
+        constexpr std::int32_t heightOfALabel = 121;
+        place.setSize({widget.sizeHint().width(), scale.height(heightOfALabel)});
     }
     return place;
 }
 
 } // namespace
 
-void ControlView::refresh(const Control& control) {
+void ControlView::refresh(const Control_s& control) {
     showValue(control);
     widget_->setEnabled(control.sensitive);
     widget_->setToolTip(control.sensitive ? QString() : hint_);
 }
 
-std::unique_ptr<ControlView> makeControlView(const Dialog& dialog, const Control& control,
+std::unique_ptr<ControlView> makeControlView(const Dialog_s& dialog, const Control_s& control,
                                              ActionSink act, const DialogScale& scale,
                                              QWidget* parent) {
     std::unique_ptr<ControlView> view = viewOfKind(control, std::move(act), parent);

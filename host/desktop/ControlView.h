@@ -24,7 +24,7 @@ public:
 
     /// Shows caption, items, value and sensitivity as the control has them now. What the user does
     /// is not told by it.
-    void refresh(const Control& control);
+    void refresh(const Control_s& control);
     /// Tells what the user has typed and not left yet.
     virtual void commit() {}
 
@@ -33,18 +33,18 @@ public:
 
 protected:
     explicit ControlView(QWidget* widget) : widget_(widget) {}
-    virtual void showValue(const Control& control) = 0;
+    virtual void showValue(const Control_s& control) = 0;
 
 private:
-    friend std::unique_ptr<ControlView> makeControlView(const Dialog& dialog,
-                                                        const Control& control, ActionSink act,
+    friend std::unique_ptr<ControlView> makeControlView(const Dialog_s& dialog,
+                                                        const Control_s& control, ActionSink act,
                                                         const DialogScale& scale, QWidget* parent);
     QWidget* widget_;
     QString hint_; // shown while it is not sensitive
 };
 
 /// A view of the dialog's control at its place within `parent`.
-std::unique_ptr<ControlView> makeControlView(const Dialog& dialog, const Control& control,
+std::unique_ptr<ControlView> makeControlView(const Dialog_s& dialog, const Control_s& control,
                                              ActionSink act, const DialogScale& scale,
                                              QWidget* parent);
 

@@ -15,19 +15,26 @@
 namespace quorvia::host {
 namespace {
 
-enum Column_e { kName, kDetails, kType, kMinimum, kMaximum, kColumnCount };
+enum Column_e {
+    nameColumn,
+    detailsColumn,
+    typeColumn,
+    minimumColumn,
+    maximumColumn,
+    treeColumnCount
+};
 
 /// What an item stands for, from 1; 0 or nothing for neither. An item with a zone and a variable is
 /// a field.
-constexpr int kZoneRole = Qt::UserRole;
-constexpr int kVariableRole = Qt::UserRole + 1;
+constexpr int zoneRole = Qt::UserRole;
+constexpr int variableRole = Qt::UserRole + 1;
 
 std::int32_t zoneOf(const QTreeWidgetItem* item) {
-    return item->data(kName, kZoneRole).toInt();
+    return item->data(nameColumn, zoneRole).toInt();
 }
 
 std::int32_t variableOf(const QTreeWidgetItem* item) {
-    return item->data(kName, kVariableRole).toInt();
+    return item->data(nameColumn, variableRole).toInt();
 }
 
 QString stateOf(const FieldOutcome_s& field) {
@@ -57,21 +64,21 @@ QString spanOf(const StrandGroup_s& group) {
 
 DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
     : QTreeWidget(parent), fetchWanted_(std::move(fetchWanted)) {
-    setColumnCount(kColumnCount);
+    setColumnCount(treeColumnCount);
     setHeaderLabels({QStringLiteral("Name"), QStringLiteral("Details"), QStringLiteral("Type"),
                      QStringLiteral("Minimum"), QStringLiteral("Maximum")});
     setSelectionMode(ExtendedSelection);
     setAlternatingRowColors(true);
     setUniformRowHeights(true); // quick with thousands of zones
     header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(kDetails, QHeaderView::Stretch);
-    constexpr int kNameLetters = 50;
-    constexpr int kNumberLetters = 14;
+    header()->setSectionResizeMode(detailsColumn, QHeaderView::Stretch);
+    constexpr int nameLetters = 50;
+    constexpr int numberLetters = 14;
     const int letter = fontMetrics().averageCharWidth();
-    setColumnWidth(kName, kNameLetters * letter);
-    for (const int column : {kType, kMinimum, kMaximum})
-        setColumnWidth(column, kNumberLetters * letter);
-    for (const int column : {kMinimum, kMaximum})
+    setColumnWidth(nameColumn, nameLetters * letter);
+    for (const int column : {typeColumn, minimumColumn, maximumColumn})
+        setColumnWidth(column, numberLetters * letter);
+    for (const int column : {minimumColumn, maximumColumn})
         headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::itemExpanded, this,
             [this](QTreeWidgetItem* item) { fillZone(item); });
@@ -87,9 +94,10 @@ void DataSetTree::showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType)
     clear();
     dataSet_ = std::move(dataSet);
     auto* root = new QTreeWidgetItem(this);
-    root->setText(kName, shown(dataSet_->title));
-    root->setText(kDetails, QStringLiteral("%1, plot type %2")
-                                .arg(shown(sizeText(*dataSet_)), QLatin1String(wordOf(plotType))));
+    root->setText(nameColumn, shown(dataSet_->title));
+    root->setText(detailsColumn,
+                  QStringLiteral("%1, plot type %2")
+                      .arg(shown(sizeText(*dataSet_)), QLatin1String(wordOf(plotType))));
     addVariables(root);
     addZones(root);
     addAuxData(root, dataSet_->auxData);
@@ -99,10 +107,10 @@ void DataSetTree::showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType)
 QTreeWidgetItem* DataSetTree::addItem(QTreeWidgetItem* parent, const QString& name,
                                       const QString& details) {
     auto* item = new QTreeWidgetItem(parent);
-    item->setText(kName, name);
-    item->setToolTip(kName, name); // names of boundary zones are longer than any column
-    item->setText(kDetails, details);
-    for (const int column : {kMinimum, kMaximum})
+    item->setText(nameColumn, name);
+    item->setToolTip(nameColumn, name); // names of boundary zones are longer than any column
+    item->setText(detailsColumn, details);
+    for (const int column : {minimumColumn, maximumColumn})
         item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     return item;
 }
@@ -114,7 +122,7 @@ void DataSetTree::addVariables(QTreeWidgetItem* root) {
     std::int32_t number = 0;
     for (const std::string& name : dataSet_->variables) {
         QTreeWidgetItem* item = addItem(group, shown(name), QString());
-        item->setData(kName, kVariableRole, ++number);
+        item->setData(nameColumn, variableRole, ++number);
         showVariableValues(item);
     }
     group->setExpanded(true);
@@ -146,8 +154,8 @@ void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
     QTreeWidgetItem* item =
         addItem(parent, QStringLiteral("%1  %2").arg(zone.number).arg(shown(zone.name)),
                 shown(sizeText(zone)) + of);
-    item->setText(kType, QString::fromLatin1(wordOf(zone.type)));
-    item->setData(kName, kZoneRole, zone.number);
+    item->setText(typeColumn, QString::fromLatin1(wordOf(zone.type)));
+    item->setData(nameColumn, zoneRole, zone.number);
     item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator); // filled once it is opened
 }
 
@@ -168,8 +176,8 @@ void DataSetTree::fillZone(QTreeWidgetItem* item) {
     for (const FieldOutcome_s& field : zone.fields) {
         const auto place = static_cast<std::size_t>(field.variable) - 1;
         QTreeWidgetItem* child = addItem(item, shown(dataSet_->variables[place]), QString());
-        child->setData(kName, kZoneRole, number);
-        child->setData(kName, kVariableRole, field.variable);
+        child->setData(nameColumn, zoneRole, number);
+        child->setData(nameColumn, variableRole, field.variable);
         showFieldValues(child);
     }
     if (zone.connectivity)
@@ -184,25 +192,27 @@ void DataSetTree::fillZone(QTreeWidgetItem* item) {
 
 void DataSetTree::showFieldValues(QTreeWidgetItem* item) const {
     const FieldOutcome_s* field = findField(*dataSet_, {zoneOf(item), variableOf(item)});
-    item->setText(kDetails, stateOf(*field));
-    item->setText(kType, QString::fromLatin1(wordOf(field->type)));
-    item->setToolTip(kDetails, field->error ? shown(*field->error) : QString());
-    item->setText(kMinimum, field->statistics ? shownNumber(field->statistics->min) : QString());
-    item->setText(kMaximum, field->statistics ? shownNumber(field->statistics->max) : QString());
+    item->setText(detailsColumn, stateOf(*field));
+    item->setText(typeColumn, QString::fromLatin1(wordOf(field->type)));
+    item->setToolTip(detailsColumn, field->error ? shown(*field->error) : QString());
+    item->setText(minimumColumn,
+                  field->statistics ? shownNumber(field->statistics->min) : QString());
+    item->setText(maximumColumn,
+                  field->statistics ? shownNumber(field->statistics->max) : QString());
 }
 
 /// The range over the zones whose values were fetched.
 void DataSetTree::showVariableValues(QTreeWidgetItem* item) const {
     const VariableSummary_s all = summariseVariable(*dataSet_, variableOf(item));
     if (all.fieldCount > 0)
-        item->setText(kType, QString::fromLatin1(wordOf(all.lastType)));
+        item->setText(typeColumn, QString::fromLatin1(wordOf(all.lastType)));
     const bool isPart = all.fetchedCount > 0 && all.fetchedCount < all.fieldCount;
     item->setText(
-        kDetails,
+        detailsColumn,
         isPart ? QStringLiteral("range of %1 of %2 zones").arg(all.fetchedCount).arg(all.fieldCount)
                : QString());
-    item->setText(kMinimum, all.hasRange() ? shownNumber(all.min) : QString());
-    item->setText(kMaximum, all.hasRange() ? shownNumber(all.max) : QString());
+    item->setText(minimumColumn, all.hasRange() ? shownNumber(all.min) : QString());
+    item->setText(maximumColumn, all.hasRange() ? shownNumber(all.max) : QString());
 }
 
 void DataSetTree::showValuesBelow(QTreeWidgetItem* item) const {

@@ -9,7 +9,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr std::int64_t kMemoryForValues = std::int64_t{1} << 30; // bytes
+constexpr std::int64_t memoryForValues = std::int64_t{1} << 30; // bytes
 
 /// With one decimal.
 std::string megabytes(std::int64_t byteCount) {
@@ -17,7 +17,7 @@ std::string megabytes(std::int64_t byteCount) {
     return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
 }
 
-ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult& result) {
+ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult_s& result) {
     Outcome_s outcome = describeOutcome(host, result);
     return {result, outcome.plotType, std::move(outcome.dataSet)};
 }
@@ -45,8 +45,8 @@ DesktopSession::~DesktopSession() {
 void DesktopSession::setUpHost() {
     host().reset();
     host().setUser(&user_);
-    host().settings().memoryLimitBytes = kMemoryForValues;
-    host().settings().progressObserver = [this](const ProgressState& state) { feed_.put(state); };
+    host().settings().memoryLimitBytes = memoryForValues;
+    host().settings().progressObserver = [this](const ProgressState_s& state) { feed_.put(state); };
 }
 
 void DesktopSession::start(const QString& title, GuestWork::Work work, std::function<void()> done) {
@@ -96,7 +96,7 @@ void DesktopSession::import(const FileSelection_s& selection,
     start(
         QStringLiteral("Importing"),
         [selection, outcome] {
-            const LoadResult result =
+            const LoadResult_s result =
                 host().importSelection(selection.files, selection.advanced, selection.append);
             *outcome = describeImport(host(), result);
         },

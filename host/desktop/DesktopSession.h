@@ -25,7 +25,7 @@ namespace quorvia::host {
 
 /// How an import came out.
 struct ImportOutcome_s {
-    LoadResult result;
+    LoadResult_s result;
     QuorPlotType_e plotType = QuorPlotType_None;
     std::optional<DataSetOutcome_s> dataSet; // as it is now, whether the import succeeded or not
 };
@@ -47,7 +47,7 @@ public:
     /// Gets why the library could not be opened; empty if it could.
     void openAddOn(const std::string& path, std::function<void(std::string error)> done);
     /// The loader that was registered last; nothing if there is none.
-    const std::optional<Loader>& loader() const { return loader_; }
+    const std::optional<Loader_s>& loader() const { return loader_; }
 
     void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
     /// Adds the statistics of `fields` to `dataSet`, which is the one that is there.
@@ -77,7 +77,7 @@ private:
     DesktopUser user_;
     ProgressWindow progress_;
     std::unique_ptr<AddOnLibrary> library_;
-    std::optional<Loader> loader_;
+    std::optional<Loader_s> loader_;
     std::vector<std::string> violations_;
     GuestWork work_; // goes first: its thread uses all the others
 };

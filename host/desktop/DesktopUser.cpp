@@ -37,7 +37,7 @@ void DesktopUser::leave() {
 // The dialog is shown as it is whenever the guest has done what it was told: that also takes back
 // what the user tried and could not do. Counted before the look into the queue: of what is done
 // between the two this picture knows nothing.
-DialogAction DesktopUser::nextAction(const Dialog& dialog) {
+DialogAction DesktopUser::nextAction(const Dialog_s& dialog) {
     const std::int64_t pushedCount = actions_.pushedCount();
     if (std::optional<DialogAction> action = actions_.take(dialog.lastLaunch))
         return *action;
@@ -53,18 +53,18 @@ bool DesktopUser::answer(const std::string& question) {
     return yes;
 }
 
-std::vector<std::string> DesktopUser::chooseFiles(const FileRequest& request) {
+std::vector<std::string> DesktopUser::chooseFiles(const FileRequest_s& request) {
     std::vector<std::string> files;
     askThere([this, &files, &request] { files = windows_.chooseFiles(request); });
     return files;
 }
 
-void DesktopUser::dialogShown(const Dialog& dialog) {
+void DesktopUser::dialogShown(const Dialog_s& dialog) {
     actions_.clear();
     post(windows_, [&windows = windows_, copy = dialog] { windows.showDialog(copy); });
 }
 
-void DesktopUser::dialogDropped(const Dialog& dialog) {
+void DesktopUser::dialogDropped(const Dialog_s& dialog) {
     post(windows_, [&windows = windows_, id = dialog.id] { windows.dropDialog(id); });
 }
 

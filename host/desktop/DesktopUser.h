@@ -22,11 +22,11 @@ public:
     void leave();
     bool isLeaving() const { return leaving_; }
 
-    DialogAction nextAction(const Dialog& dialog) override;
+    DialogAction nextAction(const Dialog_s& dialog) override;
     bool answer(const std::string& question) override;
-    std::vector<std::string> chooseFiles(const FileRequest& request) override;
-    void dialogShown(const Dialog& dialog) override;
-    void dialogDropped(const Dialog& dialog) override;
+    std::vector<std::string> chooseFiles(const FileRequest_s& request) override;
+    void dialogShown(const Dialog_s& dialog) override;
+    void dialogDropped(const Dialog_s& dialog) override;
     void read(const std::string& text, bool isError) override;
     void showHelp(const std::string& target) override;
 

@@ -16,11 +16,11 @@ class DialogScale {
 public:
     /// The smallest scale at which fields hold a line of text and every caption of the dialog fits
     /// its control, in the font and style of `widget`.
-    static DialogScale fitting(const Dialog& dialog, const QWidget& widget);
+    static DialogScale fitting(const Dialog_s& dialog, const QWidget& widget);
 
     int width(std::int32_t units) const { return qRound(x_ * units); }
     int height(std::int32_t units) const { return qRound(y_ * units); }
-    QRect rect(const Geometry& geometry) const;
+    QRect rect(const Geometry_s& geometry) const;
 
 private:
     DialogScale(double x, double y) : x_(x), y_(y) {}

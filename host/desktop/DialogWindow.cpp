@@ -13,20 +13,20 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kMargin = 9;
+constexpr int margin = 9;
 
-bool leavesFieldsAlone(DialogButton button) {
-    return button == DialogButton::Cancel || button == DialogButton::Help;
+bool leavesFieldsAlone(DialogButton_e button) {
+    return button == DialogButton_e::Cancel || button == DialogButton_e::Help;
 }
 
 bool leavesFieldsAlone(const DialogAction& action) {
-    const auto* press = std::get_if<PressDialogButton>(&action);
+    const auto* press = std::get_if<PressDialogButton_s>(&action);
     return press != nullptr && leavesFieldsAlone(press->button);
 }
 
 } // namespace
 
-DialogWindow::DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent)
+DialogWindow::DialogWindow(const Dialog_s& dialog, ActionSink act, QWidget* parent)
     : QDialog(parent), sink_(std::move(act)), scale_(DialogScale::fitting(dialog, *this)) {
     setWindowTitle(shown(dialog.title));
     setObjectName(QStringLiteral("dialog%1").arg(dialog.id));
@@ -42,20 +42,20 @@ DialogWindow::DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent
 
 DialogWindow::~DialogWindow() = default;
 
-void DialogWindow::addTabs(const Dialog& dialog) {
+void DialogWindow::addTabs(const Dialog_s& dialog) {
     tabs_ = new QTabWidget(this);
     tabs_->setObjectName(QStringLiteral("tabs"));
     addPages(dialog);
     connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
         for (const auto& [id, page] : pages_)
             if (page == tabs_->widget(index))
-                act(ShowPage{id});
+                act(ShowPage_s{id});
     });
 }
 
-void DialogWindow::addPages(const Dialog& dialog) {
+void DialogWindow::addPages(const Dialog_s& dialog) {
     const QSignalBlocker silence(tabs_);
-    for (const Page& page : dialog.tabs->pages) {
+    for (const Page_s& page : dialog.tabs->pages) {
         if (pages_.count(page.id) != 0)
             continue;
         auto* widget = new QWidget;
@@ -64,37 +64,37 @@ void DialogWindow::addPages(const Dialog& dialog) {
     }
 }
 
-void DialogWindow::addButtons(const Dialog& dialog) {
+void DialogWindow::addButtons(const Dialog_s& dialog) {
     buttons_ = new QDialogButtonBox(this);
     const auto add = [this](QuorGUICallback callback, QDialogButtonBox::StandardButton standard,
-                            DialogButton button) {
+                            DialogButton_e button) {
         if (callback == nullptr)
             return;
         QPushButton* widget = buttons_->addButton(standard);
         if (leavesFieldsAlone(button))
             widget->setFocusPolicy(Qt::TabFocus); // a click would take the focus from the field
         connect(widget, &QPushButton::clicked, this,
-                [this, button] { act(PressDialogButton{button}); });
+                [this, button] { act(PressDialogButton_s{button}); });
     };
-    add(dialog.ok, QDialogButtonBox::Ok, DialogButton::Ok);
-    add(dialog.apply, QDialogButtonBox::Apply, DialogButton::Apply);
-    add(dialog.cancel, QDialogButtonBox::Cancel, DialogButton::Cancel);
-    add(dialog.help, QDialogButtonBox::Help, DialogButton::Help);
+    add(dialog.ok, QDialogButtonBox::Ok, DialogButton_e::Ok);
+    add(dialog.apply, QDialogButtonBox::Apply, DialogButton_e::Apply);
+    add(dialog.cancel, QDialogButtonBox::Cancel, DialogButton_e::Cancel);
+    add(dialog.help, QDialogButtonBox::Help, DialogButton_e::Help);
     if (QPushButton* ok = buttons_->button(QDialogButtonBox::Ok))
         ok->setDefault(true);
 }
 
-QWidget* DialogWindow::parentOf(const Control& control) {
+QWidget* DialogWindow::parentOf(const Control_s& control) {
     const auto page = pages_.find(control.parent);
     return page != pages_.end() ? page->second : this;
 }
 
-void DialogWindow::addControls(const Dialog& dialog) {
-    for (const Control& control : dialog.controls) {
+void DialogWindow::addControls(const Dialog_s& dialog) {
+    for (const Control_s& control : dialog.controls) {
         if (views_.count(control.id) != 0)
             continue;
         const auto use = [this](const DialogAction& action) {
-            if (std::holds_alternative<TypeText>(action))
+            if (std::holds_alternative<TypeText_s>(action))
                 tell(action);
             else
                 act(action);
@@ -105,7 +105,7 @@ void DialogWindow::addControls(const Dialog& dialog) {
 }
 
 // The tab control's place is that of its pages: the tabs stand above it.
-void DialogWindow::placeParts(const Dialog& dialog) {
+void DialogWindow::placeParts(const Dialog_s& dialog) {
     const int buttonHeight = buttons_->sizeHint().height();
     const QSize size(scale_.width(dialog.width), scale_.height(dialog.height));
     int top = 0;
@@ -115,23 +115,23 @@ void DialogWindow::placeParts(const Dialog& dialog) {
         top = place.top() < 0 ? -place.top() : 0;
         tabs_->setGeometry(place.translated(0, top));
     }
-    buttons_->setGeometry(kMargin, size.height() + top + kMargin, size.width() - 2 * kMargin,
+    buttons_->setGeometry(margin, size.height() + top + margin, size.width() - 2 * margin,
                           buttonHeight);
-    setFixedSize(size.width(), size.height() + top + buttonHeight + 2 * kMargin);
+    setFixedSize(size.width(), size.height() + top + buttonHeight + 2 * margin);
 }
 
-void DialogWindow::refresh(const Dialog& dialog) {
+void DialogWindow::refresh(const Dialog_s& dialog) {
     if (tabs_ != nullptr)
         addPages(dialog);
     addControls(dialog);
-    for (const Control& control : dialog.controls)
+    for (const Control_s& control : dialog.controls)
         views_.at(control.id)->refresh(control);
     showFrontPage(dialog);
     moveFocus(dialog);
     isAnswered_ = true;
 }
 
-void DialogWindow::showFrontPage(const Dialog& dialog) {
+void DialogWindow::showFrontPage(const Dialog_s& dialog) {
     if (tabs_ == nullptr)
         return;
     const QSignalBlocker silence(tabs_);
@@ -141,7 +141,7 @@ void DialogWindow::showFrontPage(const Dialog& dialog) {
 }
 
 // The guest's focus is taken once: afterwards the user goes where he likes.
-void DialogWindow::moveFocus(const Dialog& dialog) {
+void DialogWindow::moveFocus(const Dialog_s& dialog) {
     if (dialog.focus == focus_)
         return;
     focus_ = dialog.focus;
@@ -163,7 +163,7 @@ void DialogWindow::tell(const DialogAction& action) {
 }
 
 void DialogWindow::reject() {
-    act(PressDialogButton{DialogButton::Cancel});
+    act(PressDialogButton_s{DialogButton_e::Cancel});
 }
 
 void DialogWindow::keyPressEvent(QKeyEvent* event) {

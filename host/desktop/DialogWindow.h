@@ -18,11 +18,11 @@ namespace quorvia::host {
 class DialogWindow : public QDialog {
 public:
     /// Modal for the whole program.
-    DialogWindow(const Dialog& dialog, ActionSink act, QWidget* parent);
+    DialogWindow(const Dialog_s& dialog, ActionSink act, QWidget* parent);
     ~DialogWindow() override;
 
     /// `dialog` is a later state of the same dialog; controls may have come to it.
-    void refresh(const Dialog& dialog);
+    void refresh(const Dialog_s& dialog);
     /// Whether it shows what came of all that was told.
     bool isAnswered() const { return isAnswered_; }
 
@@ -35,17 +35,17 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void addTabs(const Dialog& dialog);
-    void addPages(const Dialog& dialog);
-    void addButtons(const Dialog& dialog);
-    void addControls(const Dialog& dialog);
-    void showFrontPage(const Dialog& dialog);
-    void moveFocus(const Dialog& dialog);
-    void placeParts(const Dialog& dialog);
+    void addTabs(const Dialog_s& dialog);
+    void addPages(const Dialog_s& dialog);
+    void addButtons(const Dialog_s& dialog);
+    void addControls(const Dialog_s& dialog);
+    void showFrontPage(const Dialog_s& dialog);
+    void moveFocus(const Dialog_s& dialog);
+    void placeParts(const Dialog_s& dialog);
     /// What was typed comes before what the user does next, unless that needs none of it.
     void act(const DialogAction& action);
     void tell(const DialogAction& action);
-    QWidget* parentOf(const Control& control);
+    QWidget* parentOf(const Control_s& control);
 
     ActionSink sink_;
     DialogScale scale_;

@@ -22,7 +22,7 @@ QWidget* GuestWindows::front() const {
     return modal != nullptr ? modal : &mainWindow_;
 }
 
-void GuestWindows::showDialog(const Dialog& dialog) {
+void GuestWindows::showDialog(const Dialog_s& dialog) {
     const auto act = [this, launch = dialog.lastLaunch](DialogAction action) {
         actions_.push(std::move(action), launch);
     };
@@ -35,7 +35,7 @@ void GuestWindows::showDialog(const Dialog& dialog) {
     dialogs_[dialog.id] = std::move(window);
 }
 
-void GuestWindows::refreshDialog(const Dialog& dialog, std::int64_t pushedCount) {
+void GuestWindows::refreshDialog(const Dialog_s& dialog, std::int64_t pushedCount) {
     const auto found = dialogs_.find(dialog.id);
     if (found != dialogs_.end() && actions_.pushedCount() == pushedCount)
         found->second->refresh(dialog);
@@ -59,7 +59,7 @@ bool GuestWindows::ask(const std::string& question) {
     return askQuestion(front(), question);
 }
 
-std::vector<std::string> GuestWindows::chooseFiles(const FileRequest& request) {
+std::vector<std::string> GuestWindows::chooseFiles(const FileRequest_s& request) {
     return chooseExistingFiles(front(), request);
 }
 

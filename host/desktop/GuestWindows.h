@@ -25,14 +25,14 @@ public:
     GuestWindows(QWidget& mainWindow, ActionQueue& actions);
     ~GuestWindows() override;
 
-    void showDialog(const Dialog& dialog);
+    void showDialog(const Dialog_s& dialog);
     /// Brings the window up to date, unless the user has done something since `pushedCount`.
-    void refreshDialog(const Dialog& dialog, std::int64_t pushedCount);
+    void refreshDialog(const Dialog_s& dialog, std::int64_t pushedCount);
     void dropDialog(std::int32_t dialog);
     /// Each returns when the user has answered.
     void tell(const std::string& text, bool isError);
     bool ask(const std::string& question);
-    std::vector<std::string> chooseFiles(const FileRequest& request);
+    std::vector<std::string> chooseFiles(const FileRequest_s& request);
     /// Beside whatever is open, which can still be used.
     void showHelp(const std::string& target);
 

@@ -45,8 +45,8 @@ void HelpWindow::show(QWidget* parent, const std::string& target) {
     window->setModal(false);
     window->setObjectName(QStringLiteral("help"));
     window->setWindowTitle(QStringLiteral("Help"));
-    constexpr QSize kPage(680, 560);
-    window->resize(kPage);
+    constexpr QSize pageSize(680, 560);
+    window->resize(pageSize);
     auto* browser = new QTextBrowser(window);
     browser->setOpenExternalLinks(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);

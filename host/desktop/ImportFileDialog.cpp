@@ -21,8 +21,8 @@ void widenNames(QFileDialog& dialog) {
         return;
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    constexpr int kTypeColumn = 2; // no desktop knows these files
-    list->header()->hideSection(kTypeColumn);
+    constexpr int typeColumn = 2; // no desktop knows these files
+    list->header()->hideSection(typeColumn);
 }
 
 /// The host's own dialog everywhere, since options are added to it.
@@ -32,8 +32,8 @@ void prepare(QFileDialog& dialog, const QString& title, bool severalFiles) {
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setDirectory(Preferences().folder());
-    constexpr QSize kRoomForLongNames(760, 480);
-    dialog.resize(kRoomForLongNames);
+    constexpr QSize roomForLongNames(760, 480);
+    dialog.resize(roomForLongNames);
     widenNames(dialog);
 }
 
@@ -43,7 +43,7 @@ QString filterText(const QString& kind, const std::string& patterns) {
     return QStringLiteral("%1 (%2)").arg(kind, list.join(QLatin1Char(' ')));
 }
 
-const QString kAllFiles = QStringLiteral("All files (*)");
+const QString allFiles = QStringLiteral("All files (*)");
 
 /// Empty if the user cancels.
 std::vector<std::string> runDialog(QFileDialog& dialog) {
@@ -64,7 +64,7 @@ struct Options_s {
 };
 
 /// Empty if appending can be chosen.
-QString whyNoAppend(const Loader& loader, bool hasDataSet, bool advanced) {
+QString whyNoAppend(const Loader_s& loader, bool hasDataSet, bool advanced) {
     if (!loader.allowsAppending)
         return QStringLiteral("This loader can't append.");
     if (!hasDataSet)
@@ -74,7 +74,7 @@ QString whyNoAppend(const Loader& loader, bool hasDataSet, bool advanced) {
     return {};
 }
 
-Options_s addOptions(QFileDialog& dialog, const Loader& loader, bool hasDataSet) {
+Options_s addOptions(QFileDialog& dialog, const Loader_s& loader, bool hasDataSet) {
     const Options_s options{new QCheckBox(QStringLiteral("A&dvanced options"), &dialog),
                             new QCheckBox(QStringLiteral("&Append to the data set"), &dialog)};
     options.advanced->setObjectName(QStringLiteral("advanced"));
@@ -99,21 +99,21 @@ Options_s addOptions(QFileDialog& dialog, const Loader& loader, bool hasDataSet)
     row->addWidget(options.append);
     row->addStretch();
     if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
-        constexpr int kColumnOfFields = 1;
-        grid->addLayout(row, grid->rowCount(), kColumnOfFields);
+        constexpr int columnOfFields = 1;
+        grid->addLayout(row, grid->rowCount(), columnOfFields);
     }
     return options;
 }
 
 } // namespace
 
-FileSelection_s selectFilesToImport(QWidget* parent, const Loader& loader, bool hasDataSet) {
+FileSelection_s selectFilesToImport(QWidget* parent, const Loader_s& loader, bool hasDataSet) {
     QFileDialog dialog(parent);
     prepare(dialog, QStringLiteral("Import: %1").arg(shown(loader.name)),
             loader.allowsSeveralFiles);
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("&Import"));
     dialog.setOption(QFileDialog::HideNameFilterDetails); // there are many patterns
-    dialog.setNameFilters({filterText(shown(loader.name), loader.fileNameExtensions), kAllFiles});
+    dialog.setNameFilters({filterText(shown(loader.name), loader.fileNameExtensions), allFiles});
     const Options_s options = addOptions(dialog, loader, hasDataSet);
     FileSelection_s selection;
     selection.files = runDialog(dialog);
@@ -122,18 +122,18 @@ FileSelection_s selectFilesToImport(QWidget* parent, const Loader& loader, bool 
     return selection;
 }
 
-std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest& request) {
+std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request) {
     QFileDialog dialog(parent);
     const QString files = request.severalFiles ? QStringLiteral("Files") : QStringLiteral("File");
     prepare(dialog, QStringLiteral("Choose %1 %2").arg(shown(request.kind), files),
             request.severalFiles);
     // "*.*" would hide the files without an extension.
     if (request.filter.empty() || request.filter == "*.*")
-        dialog.setNameFilter(kAllFiles);
+        dialog.setNameFilter(allFiles);
     else
         dialog.setNameFilters(
             {filterText(QStringLiteral("%1 files").arg(shown(request.kind)), request.filter),
-             kAllFiles});
+             allFiles});
     if (!request.defaultName.empty())
         dialog.setDirectory(QFileInfo(shown(request.defaultName)).absolutePath());
     return runDialog(dialog);

@@ -19,9 +19,9 @@ struct FileSelection_s {
 
 /// The selection of the import menu. The loader's extensions are patterns with blanks, commas or
 /// semicolons between them. `hasDataSet`: there is something to append to. Remembers the folder.
-FileSelection_s selectFilesToImport(QWidget* parent, const Loader& loader, bool hasDataSet);
+FileSelection_s selectFilesToImport(QWidget* parent, const Loader_s& loader, bool hasDataSet);
 
 /// What a guest asks for; none for Cancel. Remembers the folder.
-std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest& request);
+std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request);
 
 } // namespace quorvia::host

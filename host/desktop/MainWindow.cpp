@@ -19,7 +19,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr const char* kImportPage = "data-loading.html#data-loading/plot3d";
+constexpr const char* importPage = "data-loading.html#data-loading/plot3d";
 
 std::vector<std::string> localFiles(const QMimeData& data) {
     std::vector<std::string> files;
@@ -41,8 +41,8 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
     setCentralWidget(tree_);
     addMenus();
     addTools();
-    constexpr QSize kAtFirst(860, 600);
-    resize(kAtFirst);
+    constexpr QSize sizeAtFirst(860, 600);
+    resize(sizeAtFirst);
     restoreGeometry(preferences_.windowGeometry());
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] { showWhatIsPossible(); });
     showWhatIsPossible();
@@ -233,7 +233,7 @@ void MainWindow::showFetched(DataSetOutcome_s dataSet, FetchEnd_e end) {
 // ---- Help, and the rest of a window's life ------------------------------------------------------
 
 void MainWindow::showHelp() {
-    session_.guestWindows().showHelp(kImportPage);
+    session_.guestWindows().showHelp(importPage);
 }
 
 void MainWindow::showAbout() {

@@ -10,13 +10,13 @@ namespace {
 
 /// Some texts list every file of a long series: the box must stay on the screen.
 void setTextOf(QMessageBox& box, const QString& text) {
-    constexpr int kMostLines = 20;
+    constexpr int mostLines = 20;
     const QStringList lines = text.split(QLatin1Char('\n'));
-    if (lines.size() <= kMostLines) {
+    if (lines.size() <= mostLines) {
         box.setText(text);
         return;
     }
-    box.setText(lines.mid(0, kMostLines).join(QLatin1Char('\n')) + QStringLiteral("\n..."));
+    box.setText(lines.mid(0, mostLines).join(QLatin1Char('\n')) + QStringLiteral("\n..."));
     box.setDetailedText(text);
 }
 

@@ -6,26 +6,26 @@
 namespace quorvia::host {
 namespace {
 
-const QString kFolder = QStringLiteral("import/folder");
-const QString kGeometry = QStringLiteral("window/geometry");
+const QString folderKey = QStringLiteral("import/folder");
+const QString geometryKey = QStringLiteral("window/geometry");
 
 } // namespace
 
 QString Preferences::folder() const {
-    const QString folder = settings_.value(kFolder).toString();
+    const QString folder = settings_.value(folderKey).toString();
     return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath();
 }
 
 void Preferences::setFolderOf(const QString& file) {
-    settings_.setValue(kFolder, QFileInfo(file).absolutePath());
+    settings_.setValue(folderKey, QFileInfo(file).absolutePath());
 }
 
 QByteArray Preferences::windowGeometry() const {
-    return settings_.value(kGeometry).toByteArray();
+    return settings_.value(geometryKey).toByteArray();
 }
 
 void Preferences::setWindowGeometry(const QByteArray& geometry) {
-    settings_.setValue(kGeometry, geometry);
+    settings_.setValue(geometryKey, geometry);
 }
 
 } // namespace quorvia::host

@@ -15,7 +15,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kFailed = 1;
+constexpr int failed = 1;
 
 /// The window system would end the program without a word of ours.
 bool hasDisplay() {
@@ -54,7 +54,7 @@ int runCommandLine(int argc, char** argv) {
     if (!hasDisplay()) {
         std::cerr << "quorhost-desktop: error: there is no display; log in to a desktop, or set "
                      "DISPLAY. quorhost loads files without one.\n";
-        return kFailed;
+        return failed;
     }
     return runWindow(argc, argv, std::get<DesktopArguments_s>(command));
 }
@@ -66,7 +66,7 @@ int runDesktop(int argc, char** argv) noexcept {
         return runCommandLine(argc, argv);
     } catch (const std::exception& failure) {
         std::cerr << "quorhost-desktop: error: " << failure.what() << '\n';
-        return kFailed;
+        return failed;
     }
 }
 

@@ -11,10 +11,10 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kMillisecondsBetweenLooks = 33;
-constexpr qint64 kMillisecondsBeforeShown = 300;
-constexpr int kBarLength = 1000; // steps of the bar from 0 to 1
-constexpr int kWidth = 480;
+constexpr int millisecondsBetweenLooks = 33;
+constexpr qint64 millisecondsBeforeShown = 300;
+constexpr int barLength = 1000; // steps of the bar from 0 to 1
+constexpr int windowWidth = 480;
 
 } // namespace
 
@@ -36,7 +36,7 @@ ProgressWindow::ProgressWindow(ProgressFeed& feed, Cancellation_s cancellation, 
     buttons->addStretch();
     buttons->addWidget(&cancelButton_);
     layout->addLayout(buttons);
-    setFixedWidth(kWidth);
+    setFixedWidth(windowWidth);
     connect(&cancelButton_, &QPushButton::clicked, this, [this] { reject(); });
     connect(&lookTimer_, &QTimer::timeout, this, [this] { look(); });
 }
@@ -48,7 +48,7 @@ void ProgressWindow::begin(const QString& title) {
     fullText_.clear();
     feed_.take(); // what is left of earlier work
     sinceBegin_.start();
-    lookTimer_.start(kMillisecondsBetweenLooks);
+    lookTimer_.start(millisecondsBetweenLooks);
 }
 
 void ProgressWindow::end() {
@@ -57,13 +57,13 @@ void ProgressWindow::end() {
 }
 
 void ProgressWindow::look() {
-    if (const std::optional<ProgressState> state = feed_.take())
+    if (const std::optional<ProgressState_s> state = feed_.take())
         showState(*state);
-    if (barIsOpen_ && !isVisible() && sinceBegin_.elapsed() >= kMillisecondsBeforeShown)
+    if (barIsOpen_ && !isVisible() && sinceBegin_.elapsed() >= millisecondsBeforeShown)
         comeUp();
 }
 
-void ProgressWindow::showState(const ProgressState& state) {
+void ProgressWindow::showState(const ProgressState_s& state) {
     barIsOpen_ = state.open;
     if (!state.open) {
         hide();
@@ -77,8 +77,8 @@ void ProgressWindow::showState(const ProgressState& state) {
 // A guest that has not counted a step yet, or never does, is at work all the same: the bar moves
 // without an end.
 void ProgressWindow::showFraction(double fraction) {
-    bar_.setRange(0, fraction > 0.0 ? kBarLength : 0);
-    bar_.setValue(static_cast<int>(fraction * kBarLength));
+    bar_.setRange(0, fraction > 0.0 ? barLength : 0);
+    bar_.setValue(static_cast<int>(fraction * barLength));
 }
 
 void ProgressWindow::comeUp() {

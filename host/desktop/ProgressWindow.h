@@ -39,7 +39,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void showState(const ProgressState& state);
+    void showState(const ProgressState_s& state);
     void showText();
     void showCancellation();
     void showFraction(double fraction);

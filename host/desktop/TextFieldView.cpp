@@ -6,7 +6,7 @@
 
 namespace quorvia::host {
 
-TextFieldView::TextFieldView(const Control& control, ActionSink act, QWidget* parent)
+TextFieldView::TextFieldView(const Control_s& control, ActionSink act, QWidget* parent)
     : ControlView(new QLineEdit(parent)), field_(*static_cast<QLineEdit*>(widget())),
       id_(control.id), act_(std::move(act)) {
     // A field is not left when another window comes to the front: a box, or another program.
@@ -20,11 +20,11 @@ void TextFieldView::commit() {
     if (!field_.isModified())
         return;
     field_.setModified(false);
-    act_(TypeText{id_, field_.text().toStdString()});
+    act_(TypeText_s{id_, field_.text().toStdString()});
 }
 
 // What is being typed is the user's until he leaves the field.
-void TextFieldView::showValue(const Control& control) {
+void TextFieldView::showValue(const Control_s& control) {
     const QString text = shown(control.text);
     if (field_.isModified() || field_.text() == text)
         return;

@@ -9,11 +9,11 @@ namespace quorvia::host {
 
 class TextFieldView : public ControlView {
 public:
-    TextFieldView(const Control& control, ActionSink act, QWidget* parent);
+    TextFieldView(const Control_s& control, ActionSink act, QWidget* parent);
     void commit() override;
 
 protected:
-    void showValue(const Control& control) override;
+    void showValue(const Control_s& control) override;
 
 private:
     QLineEdit& field_;

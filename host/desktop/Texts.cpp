@@ -9,8 +9,8 @@ QString shownCaption(const std::string& caption) {
 }
 
 QString shownNumber(double value) {
-    constexpr int kDigits = 7;
-    return QString::number(value, 'g', kDigits);
+    constexpr int digits = 7;
+    return QString::number(value, 'g', digits);
 }
 
 QString shownCount(std::size_t count, const char* one, const char* many) {

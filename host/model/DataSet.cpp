@@ -29,12 +29,12 @@ void takeNumbered(std::vector<Item>& items, const std::set<std::int64_t>& number
 // For each zone the lowest number of a zone for which `sharedThing` gives the same pointer. Most
 // things of a large data set have one holder, and need not be looked up.
 template <typename SharedThing>
-std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone>>& zones,
+std::vector<std::int32_t> lowestHolders(const std::vector<std::unique_ptr<Zone_s>>& zones,
                                         SharedThing sharedThing) {
     std::vector<std::int32_t> holders;
     holders.reserve(zones.size());
     std::unordered_map<const void*, std::int32_t> firstOf;
-    for (const std::unique_ptr<Zone>& zone : zones) {
+    for (const std::unique_ptr<Zone_s>& zone : zones) {
         const auto& thing = sharedThing(*zone);
         if (thing.use_count() <= 1)
             holders.push_back(thing == nullptr ? 0 : zone->number);
@@ -54,14 +54,14 @@ DataSet::DataSet(IdSource& ids, std::string loader, std::string dataSetTitle,
         addVariable(name, {});
 }
 
-Field* DataSet::field(std::int64_t zoneNumber, std::int64_t variableNumber) const {
-    Zone* holder = zone(zoneNumber);
+Field_s* DataSet::field(std::int64_t zoneNumber, std::int64_t variableNumber) const {
+    Zone_s* holder = zone(zoneNumber);
     if (holder == nullptr || !isNumberOf(variables_, variableNumber))
         return nullptr;
     return &holder->fields[static_cast<std::size_t>(variableNumber - 1)];
 }
 
-Zone& DataSet::addZone(std::unique_ptr<Zone> zone) {
+Zone_s& DataSet::addZone(std::unique_ptr<Zone_s> zone) {
     makeRoom(zones_);
     zonesById_.emplace(ids_.last() + 1, zone.get());
     zone->uniqueId = ids_.next();
@@ -70,9 +70,9 @@ Zone& DataSet::addZone(std::unique_ptr<Zone> zone) {
     return *zones_.back();
 }
 
-void DataSet::addVariable(std::string name, std::vector<Field> fields) {
+void DataSet::addVariable(std::string name, std::vector<Field_s> fields) {
     makeRoom(variables_);
-    for (const std::unique_ptr<Zone>& zone : zones_)
+    for (const std::unique_ptr<Zone_s>& zone : zones_)
         makeRoom(zone->fields);
     variableNumbersById_.emplace(ids_.last() + 1, variableCount() + 1);
     variables_.push_back({std::move(name), ids_.next()});
@@ -81,28 +81,28 @@ void DataSet::addVariable(std::string name, std::vector<Field> fields) {
 }
 
 void DataSet::deleteZones(const std::set<std::int64_t>& numbers) {
-    std::vector<std::unique_ptr<Zone>> deleted;
+    std::vector<std::unique_ptr<Zone_s>> deleted;
     makeRoom(deleted, numbers.size());
     takeNumbered(zones_, numbers, deleted);
-    for (const std::unique_ptr<Zone>& zone : deleted)
+    for (const std::unique_ptr<Zone_s>& zone : deleted)
         zonesById_.erase(zone->uniqueId);
     std::int32_t number = 0;
-    for (const std::unique_ptr<Zone>& zone : zones_)
+    for (const std::unique_ptr<Zone_s>& zone : zones_)
         zone->number = ++number;
 }
 
 void DataSet::deleteVariables(const std::set<std::int64_t>& numbers) {
-    std::vector<Variable> deleted;
-    std::vector<Field> deletedFields;
+    std::vector<Variable_s> deleted;
+    std::vector<Field_s> deletedFields;
     makeRoom(deleted, numbers.size());
     makeRoom(deletedFields, numbers.size() * zones_.size());
     takeNumbered(variables_, numbers, deleted);
-    for (const Variable& variable : deleted)
+    for (const Variable_s& variable : deleted)
         variableNumbersById_.erase(variable.uniqueId);
     std::int32_t number = 0;
-    for (const Variable& variable : variables_)
+    for (const Variable_s& variable : variables_)
         variableNumbersById_.at(variable.uniqueId) = ++number;
-    for (const std::unique_ptr<Zone>& zone : zones_)
+    for (const std::unique_ptr<Zone_s>& zone : zones_)
         takeNumbered(zone->fields, numbers, deletedFields);
 }
 
@@ -118,7 +118,7 @@ std::int32_t DataSet::variableNumber(std::int64_t uniqueId) const {
 
 std::int32_t DataSet::maxStrandId() const {
     std::int32_t highest = 0;
-    for (const std::unique_ptr<Zone>& zone : zones_)
+    for (const std::unique_ptr<Zone_s>& zone : zones_)
         highest = std::max(highest, zone->strandId);
     return highest;
 }
@@ -126,12 +126,12 @@ std::int32_t DataSet::maxStrandId() const {
 std::vector<std::int32_t> DataSet::fieldHolders(std::int64_t variableNumber) const {
     const auto index = static_cast<std::size_t>(variableNumber - 1);
     return lowestHolders(
-        zones_, [index](const Zone& zone) -> const auto& { return zone.fields[index].storage; });
+        zones_, [index](const Zone_s& zone) -> const auto& { return zone.fields[index].storage; });
 }
 
 std::vector<std::int32_t> DataSet::nodeMapHolders() const {
     return lowestHolders(
-        zones_, [](const Zone& zone) -> const auto& { return zone.nodeMap; });
+        zones_, [](const Zone_s& zone) -> const auto& { return zone.nodeMap; });
 }
 
 } // namespace quorvia::host

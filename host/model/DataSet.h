@@ -13,17 +13,19 @@
 
 namespace quorvia::host {
 
-/// Gives out identities, from 1; none comes twice.
+/// Gives out identities; none comes twice.
 class IdSource {
 public:
+    /// The first one follows on `last`.
+    explicit IdSource(std::int64_t last = 0) : last_(last) {}
     std::int64_t next() { return ++last_; }
     std::int64_t last() const { return last_; }
 
 private:
-    std::int64_t last_ = 0;
+    std::int64_t last_;
 };
 
-struct Variable {
+struct Variable_s {
     std::string name; // trailing blanks belong to it
     std::int64_t uniqueId = 0;
 };
@@ -41,28 +43,28 @@ public:
     /// An identity like those of zones and variables.
     std::int64_t uniqueId() const { return uniqueId_; }
 
-    const std::vector<Variable>& variables() const { return variables_; }
-    const std::vector<std::unique_ptr<Zone>>& zones() const { return zones_; }
+    const std::vector<Variable_s>& variables() const { return variables_; }
+    const std::vector<std::unique_ptr<Zone_s>>& zones() const { return zones_; }
     std::int32_t zoneCount() const { return static_cast<std::int32_t>(zones_.size()); }
     std::int32_t variableCount() const { return static_cast<std::int32_t>(variables_.size()); }
 
     /// Numbers from 1; null if there is no such zone or variable.
-    Zone* zone(std::int64_t number) const {
+    Zone_s* zone(std::int64_t number) const {
         return isNumberOf(zones_, number) ? zones_[static_cast<std::size_t>(number - 1)].get()
                                           : nullptr;
     }
-    const Variable* variable(std::int64_t number) const {
+    const Variable_s* variable(std::int64_t number) const {
         return isNumberOf(variables_, number) ? &variables_[static_cast<std::size_t>(number - 1)]
                                               : nullptr;
     }
-    Field* field(std::int64_t zoneNumber, std::int64_t variableNumber) const;
+    Field_s* field(std::int64_t zoneNumber, std::int64_t variableNumber) const;
 
     // The next four throw std::bad_alloc; nothing has changed then.
 
     /// Appends the zone; its fields must be one for each variable. Gives it number and unique id.
-    Zone& addZone(std::unique_ptr<Zone> zone);
+    Zone_s& addZone(std::unique_ptr<Zone_s> zone);
     /// Appends a variable with one field for each zone, in their order.
-    void addVariable(std::string name, std::vector<Field> fields);
+    void addVariable(std::string name, std::vector<Field_s> fields);
     /// The numbers must exist. What stands behind the deleted is renumbered before any field ends,
     /// and `numbers` may end with the fields.
     void deleteZones(const std::set<std::int64_t>& numbers);
@@ -90,9 +92,9 @@ private:
 
     IdSource& ids_;
     std::int64_t uniqueId_;
-    std::vector<Variable> variables_;
-    std::vector<std::unique_ptr<Zone>> zones_;
-    std::unordered_map<std::int64_t, Zone*> zonesById_;
+    std::vector<Variable_s> variables_;
+    std::vector<std::unique_ptr<Zone_s>> zones_;
+    std::unordered_map<std::int64_t, Zone_s*> zonesById_;
     std::unordered_map<std::int64_t, std::int32_t> variableNumbersById_;
 };
 

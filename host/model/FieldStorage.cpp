@@ -17,7 +17,7 @@ std::int64_t valueWidth(std::int32_t type) {
 }
 
 std::shared_ptr<FieldStorage> FieldStorage::stored(std::int32_t type, std::int64_t valueCount) {
-    auto storage = std::make_shared<FieldStorage>(Key(), type, valueCount);
+    auto storage = std::make_shared<FieldStorage>(Key_s(), type, valueCount);
     storage->block_ = ValueBlock::zeroed(storage->byteCount());
     return storage->block_ ? storage : nullptr;
 }

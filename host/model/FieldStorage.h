@@ -37,12 +37,12 @@ public:
 
 class FieldStorage : public std::enable_shared_from_this<FieldStorage> {
     /// Storage is always shared, so that only `stored` and `deferred` make it.
-    struct Key {
-        explicit Key() = default;
+    struct Key_s {
+        explicit Key_s() = default;
     };
 
 public:
-    FieldStorage(Key, std::int32_t type, std::int64_t valueCount)
+    FieldStorage(Key_s, std::int32_t type, std::int64_t valueCount)
         : type_(type), valueCount_(valueCount) {}
     /// `valueCount` zeros of `type`; null, or std::bad_alloc, if there is no memory.
     static std::shared_ptr<FieldStorage> stored(std::int32_t type, std::int64_t valueCount);
@@ -87,7 +87,7 @@ class FieldStorage::Promised final : public FieldStorage {
 public:
     template <typename... Arguments>
     Promised(std::int32_t type, std::int64_t valueCount, Arguments&&... arguments)
-        : FieldStorage(Key(), type, valueCount), promise_(std::forward<Arguments>(arguments)...) {
+        : FieldStorage(Key_s(), type, valueCount), promise_(std::forward<Arguments>(arguments)...) {
         deferral_ = &promise_;
     }
     ~Promised() { leaveCache(); } // before the promise ends, which calls the guest

@@ -19,8 +19,7 @@ void Frame::reset() {
 
 void Frame::startAnew() {
     reset();
-    ids_ = {};
-    uniqueId_ = ids_.next();
+    ids_ = IdSource(uniqueId_);
 }
 
 } // namespace quorvia::host

@@ -12,7 +12,8 @@ namespace quorvia::host {
 
 class Frame {
 public:
-    Frame() : uniqueId_(ids_.next()) {}
+    /// `uniqueId` is the frame's; what is in it has greater ones.
+    explicit Frame(std::int64_t uniqueId = 1) : uniqueId_(uniqueId), ids_(uniqueId) {}
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
     ~Frame() { reset(); }
@@ -29,12 +30,12 @@ public:
                            const std::vector<std::string>& variableNames);
     /// No data set, and the plot type of a frame that never had one.
     void reset();
-    /// The same, and unique ids begin again.
+    /// The same, and unique ids begin again behind that of the frame.
     void startAnew();
 
 private:
-    IdSource ids_;
     std::int64_t uniqueId_;
+    IdSource ids_;
     std::int32_t plotType_ = QuorPlotType_None;
     std::unique_ptr<DataSet> dataSet_;
 };

@@ -29,7 +29,8 @@ public:
     void reset() { bytes_.reset(); }
 
 private:
-    struct Free {
+    class Free {
+    public:
         void operator()(void* bytes) const;
     };
     ValueBlock(void* bytes, std::int64_t byteCount) : bytes_(bytes), byteCount_(byteCount) {}

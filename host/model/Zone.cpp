@@ -4,13 +4,13 @@
 
 namespace quorvia::host {
 
-FieldState Field::state() const {
+FieldState_e Field_s::state() const {
     if (storage == nullptr)
-        return FieldState::Empty;
-    return storage->isDeferred() ? FieldState::Deferred : FieldState::Stored;
+        return FieldState_e::Empty;
+    return storage->isDeferred() ? FieldState_e::Deferred : FieldState_e::Stored;
 }
 
-std::int64_t Zone::valueCount(std::int32_t location) const {
+std::int64_t Zone_s::valueCount(std::int32_t location) const {
     const bool isNodal = location == QuorValueLocation_Nodal;
     if (!isOrdered())
         return isNodal ? i : j;

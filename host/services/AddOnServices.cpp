@@ -68,7 +68,7 @@ void QuorUtilStateChangeAddCallback(QuorStateChangeCallback callback) {
 
 void QuorUtilStateChanged(std::int32_t stateChangeCode, QuorSetHandle members) {
     Call call("QuorUtilStateChanged", stateChangeCode, members);
-    const GuestSet* set = call.object(members);
+    const GuestSet_s* set = call.object(members);
     if (set == nullptr)
         return;
     if (stateChangeCode != QuorStateChange_VarsAltered &&
@@ -82,7 +82,7 @@ void QuorUtilStateChanged(std::int32_t stateChangeCode, QuorSetHandle members) {
 void QuorUtilUndoStateBegin(std::int32_t category) {
     Call call("QuorUtilUndoStateBegin", category);
     ++call.host().openUndoStates;
-    call.host().log.addUndo({UndoKind::Begin, category, std::nullopt});
+    call.host().log.addUndo({UndoKind_e::Begin, category, std::nullopt});
 }
 
 void QuorUtilUndoStateEnd(bool doInvalidate, bool success) {
@@ -94,7 +94,7 @@ void QuorUtilUndoStateEnd(bool doInvalidate, bool success) {
         return;
     }
     --call.host().openUndoStates;
-    call.host().log.addUndo({UndoKind::End, 0, success});
+    call.host().log.addUndo({UndoKind_e::End, 0, success});
 }
 
 bool QuorUtilInterruptIsSet() {

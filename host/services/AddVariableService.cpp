@@ -20,10 +20,10 @@ bool addVariable(Call& call, QuorArgListHandle arguments) {
                                   : std::vector<std::int32_t>(zoneCount, QuorFieldDataType_Float);
     if (!reader.ok() || types.size() != zoneCount)
         return false;
-    std::vector<Field> fields(zoneCount);
+    std::vector<Field_s> fields(zoneCount);
     for (std::size_t index = 0; index < zoneCount; ++index) {
         fields[index].type = types[index];
-        const Zone& zone = *data->zones()[index];
+        const Zone_s& zone = *data->zones()[index];
         if (!createField(call, fields[index], zone.valueCount(QuorValueLocation_Nodal), isDeferred))
             return false;
     }

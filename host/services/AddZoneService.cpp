@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::int32_t highestZone = 2147483646;
 
-struct NewZone {
-    std::unique_ptr<Zone> zone = std::make_unique<Zone>();
+struct NewZone_s {
+    std::unique_ptr<Zone_s> zone = std::make_unique<Zone_s>();
     std::int64_t zoneType = 0, strand = 0, parent = 0, connectShare = 0;
     bool defersFields = false;
     std::vector<std::int32_t> types;
@@ -23,7 +23,7 @@ bool productFits(std::int64_t a, std::int64_t b, std::int64_t& product) {
 }
 
 /// Whether the bytes of a field, and of the node map, can be counted.
-bool fitsMemory(const Zone& zone) {
+bool fitsMemory(const Zone_s& zone) {
     constexpr std::int64_t widestValue = 8;
     constexpr std::int64_t nodeNumber = 4;
     std::int64_t count = 0;
@@ -36,7 +36,7 @@ bool fitsMemory(const Zone& zone) {
 }
 
 // The sizes may come from a file or from a user, so that a bad one is no breach of the contract.
-bool sizesAreSound(Call& call, const Zone& zone) {
+bool sizesAreSound(Call& call, const Zone_s& zone) {
     for (const auto& [key, size] :
          {std::pair("IMax", zone.i), {"JMax", zone.j}, {"KMax", zone.k}}) {
         if (size < 1)
@@ -46,7 +46,7 @@ bool sizesAreSound(Call& call, const Zone& zone) {
            call.refuse("the zone has more points or elements than memory has addresses");
 }
 
-bool cornersFitType(Call& call, const Zone& zone) {
+bool cornersFitType(Call& call, const Zone_s& zone) {
     switch (zone.type) {
     case QuorZoneType_Ordered:
         return true;
@@ -61,18 +61,18 @@ bool cornersFitType(Call& call, const Zone& zone) {
 
 // The types of a zone that does not name them are those of its parent, or of the zone before it.
 std::vector<std::int32_t> inheritedTypes(const DataSet& data, std::int64_t parent) {
-    const Zone* model = data.zone(parent != 0 ? parent : data.zoneCount());
+    const Zone_s* model = data.zone(parent != 0 ? parent : data.zoneCount());
     std::vector<std::int32_t> types(data.variables().size(), QuorFieldDataType_Float);
     for (std::size_t index = 0; model != nullptr && index < types.size(); ++index)
         types[index] = model->fields[index].type;
     return types;
 }
 
-bool readZone(Call& call, const DataSet& data, QuorArgListHandle arguments, NewZone& zoneToAdd) {
+bool readZone(Call& call, const DataSet& data, QuorArgListHandle arguments, NewZone_s& zoneToAdd) {
     ArgumentReader reader(call, arguments,
                           {"Name", "ZoneType", "IMax", "JMax", "KMax", "StrandID", "SolutionTime",
                            "ParentZone", "ConnectShareZone", "VarDataType", "DeferVarCreation"});
-    Zone& zone = *zoneToAdd.zone;
+    Zone_s& zone = *zoneToAdd.zone;
     zone.name = reader.text("Name");
     zoneToAdd.zoneType = reader.integer("ZoneType");
     zone.i = reader.integer("IMax");
@@ -89,8 +89,8 @@ bool readZone(Call& call, const DataSet& data, QuorArgListHandle arguments, NewZ
     return reader.ok() && zoneToAdd.types.size() == varCount;
 }
 
-bool checkNumbers(Call& call, const DataSet& data, NewZone& zoneToAdd) {
-    Zone& zone = *zoneToAdd.zone;
+bool checkNumbers(Call& call, const DataSet& data, NewZone_s& zoneToAdd) {
+    Zone_s& zone = *zoneToAdd.zone;
     if (zoneToAdd.zoneType < 0 || zoneToAdd.zoneType > QuorZoneType_Tetrahedra)
         return call.violate("there is no zone type ", zoneToAdd.zoneType);
     zone.type = static_cast<std::int32_t>(zoneToAdd.zoneType);
@@ -98,7 +98,7 @@ bool checkNumbers(Call& call, const DataSet& data, NewZone& zoneToAdd) {
         return call.violate("\"StrandID\" is ", zoneToAdd.strand);
     zone.strandId = static_cast<std::int32_t>(zoneToAdd.strand);
     if (zoneToAdd.parent != 0) {
-        const Zone* parent = data.zone(zoneToAdd.parent);
+        const Zone_s* parent = data.zone(zoneToAdd.parent);
         if (parent == nullptr)
             return call.violate("\"ParentZone\" ", zoneToAdd.parent, " does not exist");
         zone.parentZoneId = parent->uniqueId;
@@ -106,15 +106,15 @@ bool checkNumbers(Call& call, const DataSet& data, NewZone& zoneToAdd) {
     return sizesAreSound(call, zone) && cornersFitType(call, zone);
 }
 
-bool connectZone(Call& call, const DataSet& data, NewZone& zoneToAdd) {
-    Zone& zone = *zoneToAdd.zone;
+bool connectZone(Call& call, const DataSet& data, NewZone_s& zoneToAdd) {
+    Zone_s& zone = *zoneToAdd.zone;
     if (zoneToAdd.connectShare == 0) {
         if (!zone.isOrdered())
             zone.nodeMap =
                 std::make_shared<NodeMap>(zone.i, zone.j, static_cast<std::int32_t>(zone.k));
         return true;
     }
-    const Zone* source = data.zone(zoneToAdd.connectShare);
+    const Zone_s* source = data.zone(zoneToAdd.connectShare);
     if (source == nullptr)
         return call.violate("\"ConnectShareZone\" ", zoneToAdd.connectShare, " does not exist");
     if (!call.host().settings.sharingAllowed)
@@ -129,13 +129,13 @@ bool addZone(Call& call, QuorArgListHandle arguments) {
     DataSet* data = call.dataSet();
     if (data == nullptr)
         return false;
-    NewZone zoneToAdd;
+    NewZone_s zoneToAdd;
     if (!readZone(call, *data, arguments, zoneToAdd) || !checkNumbers(call, *data, zoneToAdd) ||
         !connectZone(call, *data, zoneToAdd))
         return false;
     if (data->zoneCount() >= highestZone)
         return call.refuse("the data set holds all the zones that it can");
-    Zone& zone = *zoneToAdd.zone;
+    Zone_s& zone = *zoneToAdd.zone;
     zone.fields.resize(zoneToAdd.types.size());
     for (std::size_t index = 0; index < zone.fields.size(); ++index) {
         zone.fields[index].type = zoneToAdd.types[index];

@@ -10,13 +10,13 @@ namespace {
 
 template <typename Value>
 bool append(Call& call, QuorArgListHandle arguments, const char* key, Value value) {
-    GuestArgList* list = call.object(arguments);
+    GuestArgList_s* list = call.object(arguments);
     if (list == nullptr)
         return false;
     if (key == nullptr)
         return call.violate("key is null");
     const std::string_view name = key;
-    const auto isSameKey = [name](const GuestArgument& argument) { return argument.key == name; };
+    const auto isSameKey = [name](const GuestArgument_s& argument) { return argument.key == name; };
     if (std::any_of(list->arguments.begin(), list->arguments.end(), isSameKey))
         return call.violate(
             "the key ", [name] { return Transcript::quoted(name); }, " stands in the list already");
@@ -37,7 +37,7 @@ QuorArgListHandle QuorUtilArgListAlloc() {
 
 void QuorUtilArgListClear(QuorArgListHandle arguments) {
     Call call("QuorUtilArgListClear", arguments);
-    if (GuestArgList* list = call.object(arguments))
+    if (GuestArgList_s* list = call.object(arguments))
         list->arguments.clear();
 }
 

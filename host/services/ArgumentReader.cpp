@@ -10,16 +10,16 @@ ArgumentReader::ArgumentReader(Call& call, QuorArgListHandle arguments,
     ok_ = list_ != nullptr;
     if (!ok_)
         return;
-    for (const GuestArgument& argument : list_->arguments) {
+    for (const GuestArgument_s& argument : list_->arguments) {
         if (std::find(known.begin(), known.end(), argument.key) == known.end())
             complain(argument.key, "is unknown");
     }
 }
 
-const GuestArgument* ArgumentReader::find(std::string_view key) const {
+const GuestArgument_s* ArgumentReader::find(std::string_view key) const {
     if (list_ == nullptr)
         return nullptr;
-    for (const GuestArgument& argument : list_->arguments) {
+    for (const GuestArgument_s& argument : list_->arguments) {
         if (argument.key == key)
             return &argument;
     }
@@ -34,8 +34,8 @@ void ArgumentReader::complain(std::string_view key, std::string_view what, std::
 }
 
 template <typename Value>
-Value ArgumentReader::valueOf(std::string_view key, const GuestArgument& argument, Value otherwise,
-                              const char* kind) {
+Value ArgumentReader::valueOf(std::string_view key, const GuestArgument_s& argument,
+                              Value otherwise, const char* kind) {
     if (const Value* value = std::get_if<Value>(&argument.value))
         return *value;
     complain(key, "is not ", kind);
@@ -44,13 +44,13 @@ Value ArgumentReader::valueOf(std::string_view key, const GuestArgument& argumen
 
 template <typename Value>
 Value ArgumentReader::optional(std::string_view key, Value otherwise, const char* kind) {
-    const GuestArgument* argument = find(key);
+    const GuestArgument_s* argument = find(key);
     return argument != nullptr ? valueOf(key, *argument, otherwise, kind) : otherwise;
 }
 
 template <typename Value>
 Value ArgumentReader::required(std::string_view key, const char* kind) {
-    const GuestArgument* argument = find(key);
+    const GuestArgument_s* argument = find(key);
     if (argument != nullptr)
         return valueOf(key, *argument, Value{}, kind);
     complain(key, "is missing");

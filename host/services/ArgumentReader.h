@@ -33,10 +33,10 @@ public:
     const void* arrayOrNull(std::string_view key);
 
 private:
-    const GuestArgument* find(std::string_view key) const;
+    const GuestArgument_s* find(std::string_view key) const;
     void complain(std::string_view key, std::string_view what, std::string_view kind = {});
     template <typename Value>
-    Value valueOf(std::string_view key, const GuestArgument& argument, Value otherwise,
+    Value valueOf(std::string_view key, const GuestArgument_s& argument, Value otherwise,
                   const char* kind);
     template <typename Value>
     Value required(std::string_view key, const char* kind);
@@ -44,7 +44,7 @@ private:
     Value optional(std::string_view key, Value otherwise, const char* kind);
 
     Call& call_;
-    const GuestArgList* list_;
+    const GuestArgList_s* list_;
     bool ok_ = true;
 };
 

@@ -6,13 +6,13 @@ using namespace quorvia::host;
 namespace {
 
 // The auxiliary data of a zone or data set; null if its owner is gone.
-AuxData* auxDataOf(const HostState& host, std::int64_t ownerId) {
-    DataSet* data = host.frame.dataSet();
+AuxData* auxDataOf(const HostState_s& host, std::int64_t ownerId) {
+    DataSet* data = host.frame().dataSet();
     if (data == nullptr)
         return nullptr;
     if (data->uniqueId() == ownerId)
         return &data->auxData;
-    Zone* zone = data->zone(data->zoneNumber(ownerId));
+    Zone_s* zone = data->zone(data->zoneNumber(ownerId));
     return zone != nullptr ? &zone->auxData : nullptr;
 }
 
@@ -21,7 +21,7 @@ QuorAuxDataHandle referTo(Call& call, std::int64_t ownerId) {
 }
 
 bool setItem(Call& call, QuorAuxDataHandle auxData, const char* name, const char* text) {
-    const AuxDataReference* reference = call.object(auxData);
+    const AuxDataReference_s* reference = call.object(auxData);
     if (reference == nullptr)
         return false;
     AuxData* items = auxDataOf(call.host(), reference->ownerId);
@@ -40,8 +40,8 @@ extern "C" {
 QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone) {
     Call call("QuorUtilAuxDataZoneGetRef", zone);
     return call.serve(QuorAuxDataHandle{}, [&] {
-        const DataSet* data = call.host().frame.dataSet();
-        const Zone* found = data != nullptr ? data->zone(zone) : nullptr;
+        const DataSet* data = call.host().frame().dataSet();
+        const Zone_s* found = data != nullptr ? data->zone(zone) : nullptr;
         return found != nullptr ? referTo(call, found->uniqueId) : nullptr;
     });
 }
@@ -49,7 +49,7 @@ QuorAuxDataHandle QuorUtilAuxDataZoneGetRef(std::int32_t zone) {
 QuorAuxDataHandle QuorUtilAuxDataDataSetGetRef() {
     Call call("QuorUtilAuxDataDataSetGetRef");
     return call.serve(QuorAuxDataHandle{}, [&] {
-        const DataSet* data = call.host().frame.dataSet();
+        const DataSet* data = call.host().frame().dataSet();
         return data != nullptr ? referTo(call, data->uniqueId()) : nullptr;
     });
 }

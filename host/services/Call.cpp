@@ -4,7 +4,7 @@ namespace quorvia::host {
 
 void Call::begin() noexcept {
     fails_ = host_.faults.countCall(operation_);
-    if (operation_.traits().lock == LockNeed::Held && host_.lockDepth() == 0)
+    if (operation_.traits().lock == LockNeed_e::Held && host_.lockDepth() == 0)
         violation("called without the host's lock");
 }
 
@@ -15,34 +15,34 @@ bool Call::fails() noexcept {
 }
 
 DataSet* Call::dataSet() noexcept {
-    DataSet* found = host_.frame.dataSet();
+    DataSet* found = host_.frame().dataSet();
     if (found == nullptr)
         violate("there is no data set");
     return found;
 }
 
-Zone* Call::zone(std::int32_t number) noexcept {
+Zone_s* Call::zone(std::int32_t number) noexcept {
     DataSet* data = dataSet();
     if (data == nullptr)
         return nullptr;
-    Zone* found = data->zone(number);
+    Zone_s* found = data->zone(number);
     if (found == nullptr)
         violate("there is no zone ", number);
     return found;
 }
 
-const Variable* Call::variable(std::int32_t number) noexcept {
+const Variable_s* Call::variable(std::int32_t number) noexcept {
     DataSet* data = dataSet();
     if (data == nullptr)
         return nullptr;
-    const Variable* found = data->variable(number);
+    const Variable_s* found = data->variable(number);
     if (found == nullptr)
         violate("there is no variable ", number);
     return found;
 }
 
-Field* Call::field(std::int32_t zoneNumber, std::int32_t variableNumber) noexcept {
-    Zone* holder = zone(zoneNumber);
+Field_s* Call::field(std::int32_t zoneNumber, std::int32_t variableNumber) noexcept {
+    Zone_s* holder = zone(zoneNumber);
     if (holder == nullptr || variable(variableNumber) == nullptr)
         return nullptr;
     return &holder->fields[static_cast<std::size_t>(variableNumber - 1)];

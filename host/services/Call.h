@@ -5,7 +5,7 @@
 // A service happens whole or not at all. What needs memory is done by `serve` (or `withinMemory`),
 // all of it before the first change; without memory the service fails, and that is never the
 // guest's doing. Everything else here needs no memory and never throws: a transcript and a blame
-// for which there is none are counted and told later (HostState::tellLosses).
+// for which there is none are counted and told later (HostState_s::tellLosses).
 #pragma once
 
 #include <cstddef>
@@ -30,7 +30,7 @@ public:
     /// Whether the call is to fail on purpose; the text of the host's last error is set then.
     bool fails() noexcept;
     OperationId operation() const { return operation_; }
-    HostState& host() const { return host_; }
+    HostState_s& host() const { return host_; }
 
     /// What `work` gives. If it runs out of memory, or the call is to fail on purpose, `failure`.
     template <typename Result, typename Work>
@@ -105,9 +105,9 @@ public:
 
     /// The data set; null, and a violation, if there is none.
     DataSet* dataSet() noexcept;
-    Zone* zone(std::int32_t number) noexcept;
-    const Variable* variable(std::int32_t number) noexcept;
-    Field* field(std::int32_t zoneNumber, std::int32_t variableNumber) noexcept;
+    Zone_s* zone(std::int32_t number) noexcept;
+    const Variable_s* variable(std::int32_t number) noexcept;
+    Field_s* field(std::int32_t zoneNumber, std::int32_t variableNumber) noexcept;
 
     /// Writes the result into the transcript and passes it on.
     template <typename Result>
@@ -142,7 +142,7 @@ private:
     void endLine(const std::string& resultText);
 
     OperationId operation_;
-    HostState& host_ = hostState();
+    HostState_s& host_ = hostState();
     bool fails_ = false;
     std::size_t line_ = 0; // number of the line in the transcript, from 1; 0 for none
     bool hasResult_ = false;

@@ -12,7 +12,7 @@ bool isInRange(std::int64_t number, std::int64_t highest) {
 }
 
 /// Null for an ordered zone, and if there is no memory for the map.
-QuorNodeMapHandle referTo(Call& call, const Zone* zone) {
+QuorNodeMapHandle referTo(Call& call, const Zone_s* zone) {
     if (zone == nullptr || zone->nodeMap == nullptr)
         return nullptr;
     auto& handles = call.host().handles.of(QuorNodeMapHandle{});
@@ -30,14 +30,14 @@ extern "C" {
 
 QuorNodeMapHandle QuorUtilDataNodeGetRef(std::int32_t zone) {
     Call call("QuorUtilDataNodeGetRef", zone);
-    const Zone* found = call.zone(zone);
+    const Zone_s* found = call.zone(zone);
     return call.serve(QuorNodeMapHandle{}, [&] { return referTo(call, found); });
 }
 
 void QuorUtilDataNodeSetByRef(QuorNodeMapHandle nodeMap, std::int64_t element, std::int32_t corner,
                               std::int64_t node) {
     Call call("QuorUtilDataNodeSetByRef", nodeMap, element, corner, node);
-    const NodeMapReference* reference = call.object(nodeMap);
+    const NodeMapReference_s* reference = call.object(nodeMap);
     if (reference == nullptr)
         return;
     const std::shared_ptr<NodeMap> map = reference->nodeMap.lock();

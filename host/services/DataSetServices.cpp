@@ -12,20 +12,20 @@ bool createDataSet(Call& call, QuorArgListHandle arguments) {
     const QuorStringListHandle names = reader.stringList("VarNames");
     if (!reader.ok())
         return false;
-    const GuestStringList* list = call.object(names);
+    const GuestStringList_s* list = call.object(names);
     if (list == nullptr)
         return false;
     std::vector<std::string> variableNames;
     for (const std::optional<std::string>& name : list->strings)
         variableNames.push_back(name.value_or(""));
-    call.host().frame.createDataSet(std::move(loaderName), std::move(title), variableNames);
+    call.host().frame().createDataSet(std::move(loaderName), std::move(title), variableNames);
     return true;
 }
 
 /// The numbers to delete; null, and a violation, if one of them does not exist.
 const std::set<std::int64_t>* numbersUpTo(Call& call, QuorSetHandle set, std::int32_t count,
                                           const char* what) {
-    const GuestSet* found = call.object(set);
+    const GuestSet_s* found = call.object(set);
     if (found == nullptr)
         return nullptr;
     if (!found->members.empty() && *found->members.rbegin() > count) {
@@ -61,12 +61,12 @@ bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*cou
     if (numbers == nullptr)
         return call.result(call.violate("reference is null"));
     *numbers = call.withinMemory(QuorSetHandle{}, [&]() -> QuorSetHandle {
-        const DataSet* data = call.host().frame.dataSet();
+        const DataSet* data = call.host().frame().dataSet();
         if (data == nullptr) {
             call.refuse("there is no data set");
             return nullptr;
         }
-        GuestSet set;
+        GuestSet_s set;
         for (std::int64_t number = 1; number <= (data->*count)(); ++number)
             set.members.insert(set.members.end(), number);
         return call.host().handles.of(QuorSetHandle{}).add(call.operation(), std::move(set));
@@ -78,7 +78,7 @@ bool giveNumbers(Call& call, QuorSetHandle* numbers, std::int32_t (DataSet::*cou
 }
 
 bool giveInfo(Call& call, char** title, std::int32_t* zoneCount, std::int32_t* varCount) {
-    const DataSet* data = call.host().frame.dataSet();
+    const DataSet* data = call.host().frame().dataSet();
     if (data == nullptr)
         return call.refuse("there is no data set");
     if (title != nullptr)
@@ -98,7 +98,7 @@ extern "C" {
 
 bool QuorUtilDataSetIsAvailable() {
     Call call("QuorUtilDataSetIsAvailable");
-    return call.result(call.host().frame.dataSet() != nullptr);
+    return call.result(call.host().frame().dataSet() != nullptr);
 }
 
 bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t* varCount) {
@@ -107,8 +107,8 @@ bool QuorUtilDataSetGetInfo(char** title, std::int32_t* zoneCount, std::int32_t*
         *title = nullptr;
     const bool isGiven = call.serve([&] { return giveInfo(call, title, zoneCount, varCount); });
     if (isGiven) {
-        call.out(call.host().frame.dataSet()->zoneCount());
-        call.out(call.host().frame.dataSet()->variableCount());
+        call.out(call.host().frame().dataSet()->zoneCount());
+        call.out(call.host().frame().dataSet()->variableCount());
     }
     return isGiven;
 }
@@ -135,7 +135,7 @@ bool QuorUtilDataSetDeleteVar(QuorSetHandle vars) {
 
 std::int32_t QuorUtilDataSetGetMaxStrandID() {
     Call call("QuorUtilDataSetGetMaxStrandID");
-    const DataSet* data = call.host().frame.dataSet();
+    const DataSet* data = call.host().frame().dataSet();
     return call.result(data != nullptr ? data->maxStrandId() : 0);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 // The storage behind the handle; null, and a violation, if the field has changed since.
 std::shared_ptr<FieldStorage> storageOf(Call& call, QuorFieldHandle field) {
-    const FieldReference* reference = call.object(field);
+    const FieldReference_s* reference = call.object(field);
     if (reference == nullptr)
         return nullptr;
     std::shared_ptr<FieldStorage> storage = reference->storage.lock();
@@ -46,8 +46,8 @@ void store(void* array, std::int64_t index, Number number) {
 
 // QuorFieldSetFunction. No operation of its own: it is called for each value of a large field.
 void storeValue(QuorFieldHandle field, std::int64_t index, double value) {
-    HostState& host = hostState();
-    const FieldReference* reference = host.handles.of(field).find(field);
+    HostState_s& host = hostState();
+    const FieldReference_s* reference = host.handles.of(field).find(field);
     const std::shared_ptr<FieldStorage> storage =
         reference != nullptr ? reference->storage.lock() : nullptr;
     if (storage == nullptr || storage->values() == nullptr || index < 0 ||
@@ -111,7 +111,7 @@ void QuorUtilDataValueArraySetByRef(QuorFieldHandle field, std::int64_t firstInd
 
 void* QuorUtilDataValueGetClientData(QuorFieldHandle field) {
     Call call("QuorUtilDataValueGetClientData", field);
-    const FieldReference* reference = call.object(field);
+    const FieldReference_s* reference = call.object(field);
     return call.result(reference != nullptr ? reference->clientData : nullptr);
 }
 

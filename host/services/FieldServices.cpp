@@ -10,12 +10,12 @@ using namespace quorvia::host;
 namespace {
 
 // The old storage ends last: its clean-up calls the guest, who must find the field as it is now.
-void replaceStorage(Field& field, std::shared_ptr<FieldStorage> storage) {
+void replaceStorage(Field_s& field, std::shared_ptr<FieldStorage> storage) {
     std::swap(field.storage, storage);
 }
 
 // Values of the field, if so many can be stored at all; otherwise nothing.
-std::optional<std::int64_t> storableCount(Call& call, const Zone& zone, const Field& field) {
+std::optional<std::int64_t> storableCount(Call& call, const Zone_s& zone, const Field_s& field) {
     const std::int64_t count = zone.valueCount(field.location);
     if (count <= std::numeric_limits<std::int64_t>::max() / valueWidth(field.type))
         return count;
@@ -24,7 +24,7 @@ std::optional<std::int64_t> storableCount(Call& call, const Zone& zone, const Fi
 }
 
 bool allocateField(Call& call, std::int32_t zone, std::int32_t var) {
-    Field* field = call.field(zone, var);
+    Field_s* field = call.field(zone, var);
     if (field == nullptr)
         return false;
     const std::optional<std::int64_t> count = storableCount(call, *call.zone(zone), *field);
@@ -37,8 +37,9 @@ bool allocateField(Call& call, std::int32_t zone, std::int32_t var) {
     return true;
 }
 
-bool deferField(Call& call, std::int32_t zone, std::int32_t var, const FieldCallbacks& callbacks) {
-    Field* field = call.field(zone, var);
+bool deferField(Call& call, std::int32_t zone, std::int32_t var,
+                const FieldCallbacks_s& callbacks) {
+    Field_s* field = call.field(zone, var);
     if (field == nullptr)
         return false;
     if (callbacks.load == nullptr || callbacks.cleanUp == nullptr)
@@ -51,8 +52,8 @@ bool deferField(Call& call, std::int32_t zone, std::int32_t var, const FieldCall
 }
 
 // The array of a stored field. That of a deferred field comes and goes, so that it is not lent.
-void* plainArray(Call& call, const Field& field) {
-    if (call.fails() || !call.host().settings.plainArrays || field.state() != FieldState::Stored)
+void* plainArray(Call& call, const Field_s& field) {
+    if (call.fails() || !call.host().settings.plainArrays || field.state() != FieldState_e::Stored)
         return nullptr;
     return field.storage->values();
 }
@@ -63,19 +64,19 @@ extern "C" {
 
 std::int32_t QuorUtilDataValueGetLocation(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueGetLocation", zone, var);
-    const Field* field = call.field(zone, var);
+    const Field_s* field = call.field(zone, var);
     return call.result(field != nullptr ? field->location : QuorValueLocation_Nodal);
 }
 
 std::int32_t QuorUtilDataValueGetType(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueGetType", zone, var);
-    const Field* field = call.field(zone, var);
+    const Field_s* field = call.field(zone, var);
     return call.result(field != nullptr ? field->type : QuorFieldDataType_Invalid);
 }
 
 bool QuorUtilDataValueIsPassive(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueIsPassive", zone, var);
-    const Field* field = call.field(zone, var);
+    const Field_s* field = call.field(zone, var);
     return call.result(field != nullptr && field->passive);
 }
 
@@ -87,7 +88,7 @@ bool QuorUtilDataValueAlloc(std::int32_t zone, std::int32_t var) {
 void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** values,
                                 std::int32_t* dataType) {
     Call call("QuorUtilDataValueGetRawPtr", zone, var);
-    const Field* field = call.field(zone, var);
+    const Field_s* field = call.field(zone, var);
     void* array = field != nullptr ? plainArray(call, *field) : nullptr;
     const std::int32_t type = field != nullptr ? field->type : QuorFieldDataType_Invalid;
     if (values != nullptr)
@@ -101,8 +102,8 @@ void QuorUtilDataValueGetRawPtr(std::int32_t zone, std::int32_t var, void** valu
 QuorFieldHandle QuorUtilDataValueGetWritableRef(std::int32_t zone, std::int32_t var) {
     Call call("QuorUtilDataValueGetWritableRef", zone, var);
     return call.serve(QuorFieldHandle{}, [&]() -> QuorFieldHandle {
-        const Field* field = call.field(zone, var);
-        if (field == nullptr || field->state() != FieldState::Stored)
+        const Field_s* field = call.field(zone, var);
+        if (field == nullptr || field->state() != FieldState_e::Stored)
             return nullptr;
         return call.host()
             .handles.of(QuorFieldHandle{})

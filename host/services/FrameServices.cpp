@@ -15,26 +15,26 @@ extern "C" {
 
 std::int32_t QuorUtilFrameGetPlotType() {
     Call call("QuorUtilFrameGetPlotType");
-    return call.result(call.host().frame.plotType());
+    return call.result(call.host().frame().plotType());
 }
 
 void QuorUtilFrameSetPlotType(std::int32_t plotType) {
     Call call("QuorUtilFrameSetPlotType", plotType);
     if (isPlotType(plotType))
-        call.host().frame.setPlotType(plotType);
+        call.host().frame().setPlotType(plotType);
     else
         call.violation("there is no plot type ", plotType);
 }
 
 std::int64_t QuorUtilFrameGetUniqueID() {
     Call call("QuorUtilFrameGetUniqueID");
-    return call.result(call.host().frame.uniqueId());
+    return call.result(call.host().frame().uniqueId());
 }
 
 void QuorUtilFrameReset(std::int64_t frameId) {
     Call call("QuorUtilFrameReset", frameId);
-    if (frameId == call.host().frame.uniqueId())
-        call.host().frame.reset();
+    if (Frame* const frame = call.host().frames.find(frameId))
+        frame->reset();
     else
         call.violation("there is no frame ", frameId);
 }

@@ -15,7 +15,7 @@ constexpr OperationId operation = "QuorUtilDataValueCustomLOD";
 // of memory may be the host's own, and is not blamed on the guest.
 template <typename Callback>
 bool callGuest(const char* which, Callback callback) noexcept {
-    HostState& host = hostState();
+    HostState_s& host = hostState();
     GuestWatch watch(host);
     bool result = false;
     try {
@@ -32,7 +32,7 @@ bool callGuest(const char* which, Callback callback) noexcept {
 
 } // namespace
 
-GuestDeferral::GuestDeferral(const FieldCallbacks& callbacks) : callbacks_(callbacks) {}
+GuestDeferral::GuestDeferral(const FieldCallbacks_s& callbacks) : callbacks_(callbacks) {}
 
 GuestDeferral::~GuestDeferral() {
     auto& handles = hostState().handles.of(handle_);
@@ -41,8 +41,8 @@ GuestDeferral::~GuestDeferral() {
         handles.remove(handle_);
         return;
     }
-    const HandleTable<QuorFieldHandle, FieldReference>::Lent lent(handles,
-                                                                  {{}, callbacks_.clientData});
+    const HandleTable<QuorFieldHandle, FieldReference_s>::Lent lent(handles,
+                                                                    {{}, callbacks_.clientData});
     cleanUp(lent.handle());
 }
 

@@ -7,7 +7,7 @@
 
 namespace quorvia::host {
 
-struct FieldCallbacks {
+struct FieldCallbacks_s {
     QuorFieldLoadCallback load = nullptr;
     QuorFieldUnloadCallback unload = nullptr; // may be null: the array may always be dropped
     QuorFieldCleanupCallback cleanUp = nullptr;
@@ -16,7 +16,7 @@ struct FieldCallbacks {
 
 class GuestDeferral : public Deferral {
 public:
-    explicit GuestDeferral(const FieldCallbacks& callbacks);
+    explicit GuestDeferral(const FieldCallbacks_s& callbacks);
     /// Calls the clean-up callback.
     ~GuestDeferral() override;
     GuestDeferral(const GuestDeferral&) = delete;
@@ -33,7 +33,7 @@ private:
     /// Throws std::bad_alloc.
     QuorFieldHandle handleFor(FieldStorage& storage);
 
-    FieldCallbacks callbacks_;
+    FieldCallbacks_s callbacks_;
     QuorFieldHandle handle_ = nullptr; // made when it is first needed, save for the clean-up
 };
 

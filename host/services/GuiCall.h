@@ -9,9 +9,9 @@
 namespace quorvia::host {
 
 /// A control with its dialog; both null if it was not found.
-struct FoundControl {
-    Dialog* dialog = nullptr;
-    Control* control = nullptr;
+struct FoundControl_s {
+    Dialog_s* dialog = nullptr;
+    Control_s* control = nullptr;
 
     explicit operator bool() const { return control != nullptr; }
 };
@@ -21,14 +21,14 @@ public:
     using Call::Call;
 
     /// Each is null, and a violation, if there is none.
-    Dialog* dialog(std::int32_t id);
-    Dialog* dialogWithTabs(std::int32_t tabs);
-    Dialog* dialogOfParent(std::int32_t parent);
-    FoundControl control(std::int32_t id);
-    FoundControl control(std::int32_t id, ControlKind kind);
+    Dialog_s* dialog(std::int32_t id);
+    Dialog_s* dialogWithTabs(std::int32_t tabs);
+    Dialog_s* dialogOfParent(std::int32_t parent);
+    FoundControl_s control(std::int32_t id);
+    FoundControl_s control(std::int32_t id, ControlKind_e kind);
 
     /// Lets the user see what has changed.
-    void changed(const FoundControl& found) {
+    void changed(const FoundControl_s& found) {
         if (found.dialog->open)
             host().user->controlChanged(*found.dialog, *found.control);
     }

@@ -15,11 +15,11 @@ constexpr std::int32_t noControl = QuorGUIId_None;
 /// `describe` readies the control; false, and a violation, if the guest asks for none that there
 /// could be.
 template <typename Describe>
-std::int32_t addControl(GuiCall& call, std::int32_t parent, Control control, Describe describe) {
+std::int32_t addControl(GuiCall& call, std::int32_t parent, Control_s control, Describe describe) {
     return call.serve(noControl, [&] {
         if (!describe(control))
             return noControl;
-        Dialog* dialog = call.dialogOfParent(parent);
+        Dialog_s* dialog = call.dialogOfParent(parent);
         if (dialog == nullptr)
             return noControl;
         control.parent = parent;
@@ -27,13 +27,13 @@ std::int32_t addControl(GuiCall& call, std::int32_t parent, Control control, Des
     });
 }
 
-std::int32_t addPlain(GuiCall& call, std::int32_t parent, Control control) {
-    return addControl(call, parent, std::move(control), [](Control&) { return true; });
+std::int32_t addPlain(GuiCall& call, std::int32_t parent, Control_s control) {
+    return addControl(call, parent, std::move(control), [](Control_s&) { return true; });
 }
 
 std::int32_t addCaptioned(GuiCall& call, std::int32_t parent, const char* caption,
-                          Control control) {
-    return addControl(call, parent, std::move(control), [&](Control& captioned) {
+                          Control_s control) {
+    return addControl(call, parent, std::move(control), [&](Control_s& captioned) {
         if (caption == nullptr)
             return call.violate("caption is null");
         captioned.caption = caption;
@@ -43,17 +43,17 @@ std::int32_t addCaptioned(GuiCall& call, std::int32_t parent, const char* captio
 
 /// `giveItems` gives the items, of which there must be one at least.
 template <typename GiveItems>
-std::int32_t addWithItems(GuiCall& call, std::int32_t parent, Control control,
+std::int32_t addWithItems(GuiCall& call, std::int32_t parent, Control_s control,
                           GiveItems giveItems) {
-    return addControl(call, parent, std::move(control), [&](Control& chooser) {
+    return addControl(call, parent, std::move(control), [&](Control_s& chooser) {
         chooser.items = giveItems();
         chooser.value = 1;
         return !chooser.items.empty() || call.violate("there are no items");
     });
 }
 
-Control controlOf(ControlKind kind, Geometry geometry, ControlCallback callback = {}) {
-    Control control;
+Control_s controlOf(ControlKind_e kind, Geometry_s geometry, ControlCallback callback = {}) {
+    Control_s control;
     control.kind = kind;
     control.geometry = geometry;
     control.callback = callback;
@@ -90,13 +90,13 @@ std::int32_t QuorGUIFrameAdd(std::int32_t parent, std::int32_t x, std::int32_t y
                              std::int32_t width, std::int32_t height, const char* caption) {
     GuiCall call("QuorGUIFrameAdd", parent, x, y, width, height, caption);
     return addCaptioned(call, parent, caption,
-                        controlOf(ControlKind::Frame, {x, y, width, height}));
+                        controlOf(ControlKind_e::Frame, {x, y, width, height}));
 }
 
 std::int32_t QuorGUILabelAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
                              const char* caption) {
     GuiCall call("QuorGUILabelAdd", parent, x, y, caption);
-    return addCaptioned(call, parent, caption, controlOf(ControlKind::Label, {x, y, 0, 0}));
+    return addCaptioned(call, parent, caption, controlOf(ControlKind_e::Label, {x, y, 0, 0}));
 }
 
 std::int32_t QuorGUIToggleAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
@@ -104,7 +104,7 @@ std::int32_t QuorGUIToggleAdd(std::int32_t parent, std::int32_t x, std::int32_t 
                               QuorGUIValueCallback callback) {
     GuiCall call("QuorGUIToggleAdd", parent, x, y, width, height, caption, callback);
     return addCaptioned(call, parent, caption,
-                        controlOf(ControlKind::Toggle, {x, y, width, height}, callback));
+                        controlOf(ControlKind_e::Toggle, {x, y, width, height}, callback));
 }
 
 std::int32_t QuorGUIButtonAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
@@ -112,14 +112,14 @@ std::int32_t QuorGUIButtonAdd(std::int32_t parent, std::int32_t x, std::int32_t 
                               QuorGUICallback callback) {
     GuiCall call("QuorGUIButtonAdd", parent, x, y, width, height, caption, callback);
     return addCaptioned(call, parent, caption,
-                        controlOf(ControlKind::Button, {x, y, width, height}, callback));
+                        controlOf(ControlKind_e::Button, {x, y, width, height}, callback));
 }
 
 std::int32_t QuorGUIListAdd(std::int32_t parent, std::int32_t x, std::int32_t y, std::int32_t width,
                             std::int32_t height, bool multipleSelection,
                             QuorGUIValueCallback callback) {
     GuiCall call("QuorGUIListAdd", parent, x, y, width, height, multipleSelection, callback);
-    Control list = controlOf(ControlKind::List, {x, y, width, height}, callback);
+    Control_s list = controlOf(ControlKind_e::List, {x, y, width, height}, callback);
     list.allowsSeveral = multipleSelection;
     return addPlain(call, parent, std::move(list));
 }
@@ -129,7 +129,7 @@ std::int32_t QuorGUITextFieldAdd(std::int32_t parent, std::int32_t x, std::int32
                                  QuorGUITextCallback callback) {
     GuiCall call("QuorGUITextFieldAdd", parent, x, y, width, height, callback);
     return addPlain(call, parent,
-                    controlOf(ControlKind::TextField, {x, y, width, height}, callback));
+                    controlOf(ControlKind_e::TextField, {x, y, width, height}, callback));
 }
 
 std::int32_t QuorGUIRadioBoxAdd(std::int32_t parent, std::int32_t x, std::int32_t y,
@@ -139,7 +139,7 @@ std::int32_t QuorGUIRadioBoxAdd(std::int32_t parent, std::int32_t x, std::int32_
     GuiCall call("QuorGUIRadioBoxAdd", parent, x, y, width, height, caption1, caption2, caption3,
                  caption4, caption5, callback);
     return addWithItems(call, parent,
-                        controlOf(ControlKind::RadioBox, {x, y, width, height}, callback), [&] {
+                        controlOf(ControlKind_e::RadioBox, {x, y, width, height}, callback), [&] {
                             return upToNull({caption1, caption2, caption3, caption4, caption5});
                         });
 }
@@ -149,7 +149,7 @@ std::int32_t QuorGUIOptionMenuAdd(std::int32_t parent, std::int32_t x, std::int3
                                   QuorGUIValueCallback callback) {
     GuiCall call("QuorGUIOptionMenuAdd", parent, x, y, width, height, captions, callback);
     return addWithItems(
-        call, parent, controlOf(ControlKind::OptionMenu, {x, y, width, height}, callback),
+        call, parent, controlOf(ControlKind_e::OptionMenu, {x, y, width, height}, callback),
         [&] { return captions != nullptr ? splitAtCommas(captions) : std::vector<std::string>(); });
 }
 

@@ -13,7 +13,7 @@ bool isParentOfDialog(GuiCall& call, std::int32_t parent) {
 }
 
 /// Where the code of the guest that makes a dialog lies.
-QuorGUICallback anyCallback(const Dialog& dialog) {
+QuorGUICallback anyCallback(const Dialog_s& dialog) {
     for (const QuorGUICallback callback :
          {dialog.init, dialog.ok, dialog.apply, dialog.cancel, dialog.help})
         if (callback != nullptr)
@@ -38,7 +38,7 @@ std::int32_t QuorGUIDialogCreateModal(std::int32_t parent, std::int32_t width, s
             call.violate("title is null, or the size is not positive");
             return QuorGUIId_None;
         }
-        Dialog dialog;
+        Dialog_s dialog;
         dialog.parent = parent;
         dialog.width = width;
         dialog.height = height;
@@ -55,7 +55,7 @@ std::int32_t QuorGUIDialogCreateModal(std::int32_t parent, std::int32_t width, s
 
 void QuorGUIDialogLaunch(std::int32_t dialog) {
     GuiCall call("QuorGUIDialogLaunch", dialog);
-    Dialog* found = call.dialog(dialog);
+    Dialog_s* found = call.dialog(dialog);
     if (found == nullptr)
         return;
     if (found->open) {
@@ -64,12 +64,12 @@ void QuorGUIDialogLaunch(std::int32_t dialog) {
     }
     call.host().faults.endLoadOfDialog();
     if (!launch(call.host().toolkit, *found, *call.host().user))
-        call.host().showMessage(MessageKind::Error, "Out of memory.");
+        call.host().showMessage(MessageKind_e::Error, "Out of memory.");
 }
 
 void QuorGUIDialogDrop(std::int32_t dialog) {
     GuiCall call("QuorGUIDialogDrop", dialog);
-    Dialog* found = call.dialog(dialog);
+    Dialog_s* found = call.dialog(dialog);
     if (found == nullptr)
         return;
     if (!found->open)
@@ -82,14 +82,14 @@ std::int32_t QuorGUITabAdd(std::int32_t dialog, std::int32_t x, std::int32_t y, 
                            std::int32_t height, QuorGUIValueCallback activate,
                            QuorGUIValueCallback deactivate) {
     GuiCall call("QuorGUITabAdd", dialog, x, y, width, height, activate, deactivate);
-    Dialog* found = call.fails() ? nullptr : call.dialog(dialog);
+    Dialog_s* found = call.fails() ? nullptr : call.dialog(dialog);
     if (found != nullptr && found->tabs.has_value()) {
         call.violate("the dialog has a tab control already");
         found = nullptr;
     }
     if (found == nullptr)
         return call.result(std::int32_t{QuorGUIId_None});
-    TabControl tabs;
+    TabControl_s tabs;
     tabs.geometry = {x, y, width, height};
     tabs.activate = activate;
     tabs.deactivate = deactivate;
@@ -99,7 +99,7 @@ std::int32_t QuorGUITabAdd(std::int32_t dialog, std::int32_t x, std::int32_t y, 
 std::int32_t QuorGUITabAddPage(std::int32_t tab, const char* caption) {
     GuiCall call("QuorGUITabAddPage", tab, caption);
     return call.serve(std::int32_t{QuorGUIId_None}, [&]() -> std::int32_t {
-        Dialog* found = call.dialogWithTabs(tab);
+        Dialog_s* found = call.dialogWithTabs(tab);
         if (found != nullptr && caption == nullptr)
             call.violate("caption is null");
         if (found == nullptr || caption == nullptr)

@@ -10,7 +10,7 @@ using namespace quorvia::host;
 
 namespace {
 
-void show(GuiCall& call, const FoundControl& field, std::string text) {
+void show(GuiCall& call, const FoundControl_s& field, std::string text) {
     field.control->text = std::move(text);
     call.changed(field);
 }
@@ -22,13 +22,13 @@ bool serveOrTell(GuiCall& call, Work work) {
         try {
             return work();
         } catch (const std::bad_alloc&) {
-            call.host().showMessage(MessageKind::Error, "Out of memory.");
+            call.host().showMessage(MessageKind_e::Error, "Out of memory.");
             throw;
         }
     });
 }
 
-bool isIndexWithin(const Control& field, std::int64_t minimum, std::int64_t maximum,
+bool isIndexWithin(const Control_s& field, std::int64_t minimum, std::int64_t maximum,
                    bool zeroIsLast) {
     const bool takesLast = zeroIsLast || field.zeroIsLast;
     const std::optional<std::int64_t> index = readIndex(field.text, takesLast);
@@ -37,30 +37,30 @@ bool isIndexWithin(const Control& field, std::int64_t minimum, std::int64_t maxi
     return (takesLast && *index == 0) || (*index >= minimum && *index <= maximum);
 }
 
-void tellBounds(GuiCall& call, const Control& field, const char* name, std::int64_t minimum,
+void tellBounds(GuiCall& call, const Control_s& field, const char* name, std::int64_t minimum,
                 std::int64_t maximum) {
     const std::string text = joined(name, ": \"", field.text, "\" is not a whole number from ",
                                     minimum, " to ", maximum, ".");
-    call.host().showMessage(MessageKind::Error, text);
+    call.host().showMessage(MessageKind_e::Error, text);
 }
 
 /// A null handle becomes a new set; false if the handle is not valid.
 bool putIntoSet(GuiCall& call, QuorSetHandle* set, std::set<std::int64_t> members) {
     if (*set == nullptr) {
-        *set = call.host().handles.of(*set).add(call.operation(), GuestSet{std::move(members)});
+        *set = call.host().handles.of(*set).add(call.operation(), GuestSet_s{std::move(members)});
         return true;
     }
-    GuestSet* found = call.object(*set);
+    GuestSet_s* found = call.object(*set);
     if (found != nullptr)
         found->members = std::move(members);
     return found != nullptr;
 }
 
-bool readFieldIntoSet(GuiCall& call, const Control& field, QuorSetHandle* set) {
+bool readFieldIntoSet(GuiCall& call, const Control_s& field, QuorSetHandle* set) {
     std::string why;
     std::optional<std::set<std::int64_t>> members = readSet(field.text, why);
     if (!members) {
-        call.host().showMessage(MessageKind::Error, joined("\"", field.text, "\" ", why, "."));
+        call.host().showMessage(MessageKind_e::Error, joined("\"", field.text, "\" ", why, "."));
         return call.refuse(why);
     }
     return putIntoSet(call, set, *std::move(members));
@@ -72,7 +72,7 @@ extern "C" {
 
 void QuorGUITextFieldSetString(std::int32_t textField, const char* text) {
     GuiCall call("QuorGUITextFieldSetString", textField, text);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     if (text == nullptr)
         call.violation("text is null");
     else if (field)
@@ -81,7 +81,7 @@ void QuorGUITextFieldSetString(std::int32_t textField, const char* text) {
 
 char* QuorGUITextFieldGetString(std::int32_t textField) {
     GuiCall call("QuorGUITextFieldGetString", textField);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     return call.serve<char*>(nullptr, [&] {
         return field ? call.host().memory.copyText(call.operation(), field.control->text) : nullptr;
     });
@@ -89,7 +89,7 @@ char* QuorGUITextFieldGetString(std::int32_t textField) {
 
 void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool zeroIsLast) {
     GuiCall call("QuorGUITextFieldSetLgIndex", textField, value, zeroIsLast);
-    if (const FoundControl field = call.control(textField, ControlKind::TextField)) {
+    if (const FoundControl_s field = call.control(textField, ControlKind_e::TextField)) {
         call.tryTo([&] {
             // A guest may write back what a refused input replaced without saying again what 0
             // means.
@@ -102,7 +102,7 @@ void QuorGUITextFieldSetLgIndex(std::int32_t textField, std::int64_t value, bool
 
 bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value) {
     GuiCall call("QuorGUITextFieldGetLgIndex", textField);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     if (value == nullptr)
         return call.result(call.violate("value is null"));
     if (call.fails() || !field)
@@ -120,7 +120,7 @@ bool QuorGUITextFieldGetLgIndex(std::int32_t textField, std::int64_t* value) {
 bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, std::int64_t minimum,
                                      std::int64_t maximum, bool zeroIsLast) {
     GuiCall call("QuorGUITextFieldValidateLgIndex", textField, name, minimum, maximum, zeroIsLast);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     if (name == nullptr)
         return call.result(call.violate("name is null"));
     return serveOrTell(call, [&] {
@@ -135,18 +135,18 @@ bool QuorGUITextFieldValidateLgIndex(std::int32_t textField, const char* name, s
 
 void QuorGUITextFieldSetSet(std::int32_t textField, QuorSetHandle set, bool reserved) {
     GuiCall call("QuorGUITextFieldSetSet", textField, set, reserved);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     if (reserved)
         call.violation("the reserved argument is not false");
     if (!field)
         return;
-    const GuestSet* shown = set != nullptr ? call.object(set) : nullptr;
+    const GuestSet_s* shown = set != nullptr ? call.object(set) : nullptr;
     call.tryTo([&] { show(call, field, shown != nullptr ? setText(shown->members) : ""); });
 }
 
 bool QuorGUITextFieldGetSet(std::int32_t textField, QuorSetHandle* set) {
     GuiCall call("QuorGUITextFieldGetSet", textField, set != nullptr ? *set : nullptr);
-    const FoundControl field = call.control(textField, ControlKind::TextField);
+    const FoundControl_s field = call.control(textField, ControlKind_e::TextField);
     if (set == nullptr)
         return call.result(call.violate("set is null"));
     return serveOrTell(call, [&] { return field && readFieldIntoSet(call, *field.control, set); });

@@ -8,8 +8,8 @@ using namespace quorvia::host;
 
 namespace {
 
-void chooseItem(GuiCall& call, std::int32_t id, ControlKind kind, std::int32_t item) {
-    const FoundControl found = call.control(id, kind);
+void chooseItem(GuiCall& call, std::int32_t id, ControlKind_e kind, std::int32_t item) {
+    const FoundControl_s found = call.control(id, kind);
     if (!found)
         return;
     if (item < 1 || static_cast<std::size_t>(item) > found.control->items.size()) {
@@ -36,7 +36,7 @@ extern "C" {
 
 void QuorGUIToggleSet(std::int32_t toggle, std::int32_t value) {
     GuiCall call("QuorGUIToggleSet", toggle, value);
-    if (const FoundControl found = call.control(toggle, ControlKind::Toggle)) {
+    if (const FoundControl_s found = call.control(toggle, ControlKind_e::Toggle)) {
         found.control->value = value != 0 ? 1 : 0;
         call.changed(found);
     }
@@ -44,17 +44,17 @@ void QuorGUIToggleSet(std::int32_t toggle, std::int32_t value) {
 
 void QuorGUIRadioBoxSetToggle(std::int32_t radioBox, std::int32_t item) {
     GuiCall call("QuorGUIRadioBoxSetToggle", radioBox, item);
-    chooseItem(call, radioBox, ControlKind::RadioBox, item);
+    chooseItem(call, radioBox, ControlKind_e::RadioBox, item);
 }
 
 void QuorGUIOptionMenuSet(std::int32_t optionMenu, std::int32_t item) {
     GuiCall call("QuorGUIOptionMenuSet", optionMenu, item);
-    chooseItem(call, optionMenu, ControlKind::OptionMenu, item);
+    chooseItem(call, optionMenu, ControlKind_e::OptionMenu, item);
 }
 
 void QuorGUIListDeleteAllItems(std::int32_t list) {
     GuiCall call("QuorGUIListDeleteAllItems", list);
-    if (const FoundControl found = call.control(list, ControlKind::List)) {
+    if (const FoundControl_s found = call.control(list, ControlKind_e::List)) {
         found.control->items.clear();
         found.control->selected.clear();
         call.changed(found);
@@ -63,7 +63,7 @@ void QuorGUIListDeleteAllItems(std::int32_t list) {
 
 void QuorGUIListAppendItem(std::int32_t list, const char* text) {
     GuiCall call("QuorGUIListAppendItem", list, text);
-    const FoundControl found = call.control(list, ControlKind::List);
+    const FoundControl_s found = call.control(list, ControlKind_e::List);
     if (text == nullptr)
         call.violation("text is null");
     if (!found || text == nullptr)
@@ -82,7 +82,7 @@ void QuorGUIListGetSelectedItems(std::int32_t list, std::int32_t** positions, st
     }
     *positions = nullptr;
     *count = 0;
-    const FoundControl found = call.control(list, ControlKind::List);
+    const FoundControl_s found = call.control(list, ControlKind_e::List);
     if (found && !found.control->selected.empty())
         call.tryTo([&] { *positions = newPositions(call, found.control->selected); });
     if (*positions != nullptr)
@@ -92,7 +92,7 @@ void QuorGUIListGetSelectedItems(std::int32_t list, std::int32_t** positions, st
 
 void QuorGUISetSensitivity(std::int32_t control, bool sensitive) {
     GuiCall call("QuorGUISetSensitivity", control, sensitive);
-    if (const FoundControl found = call.control(control)) {
+    if (const FoundControl_s found = call.control(control)) {
         found.control->sensitive = sensitive;
         call.changed(found);
     }
@@ -100,7 +100,7 @@ void QuorGUISetSensitivity(std::int32_t control, bool sensitive) {
 
 void QuorGUISetInputFocus(std::int32_t control) {
     GuiCall call("QuorGUISetInputFocus", control);
-    if (const FoundControl found = call.control(control)) {
+    if (const FoundControl_s found = call.control(control)) {
         found.dialog->focus = control;
         if (found.dialog->open)
             call.host().user->focusMoved(*found.dialog);

@@ -16,7 +16,7 @@ bool registerLoader(Call& call, QuorArgListHandle arguments) {
                           {"LoaderName", "FileNameExtensions", "LoaderCallbackVersion",
                            "LoaderCallback", "LoaderSelectedCallback", "AllowMultiFileSelection",
                            "AllowAdvancedOptions", "AllowAppending"});
-    Loader loader;
+    Loader_s loader;
     loader.name = reader.text("LoaderName");
     loader.fileNameExtensions = reader.text("FileNameExtensions");
     const std::int64_t version = reader.integer("LoaderCallbackVersion");
@@ -35,11 +35,11 @@ bool registerLoader(Call& call, QuorArgListHandle arguments) {
 }
 
 bool takeInstructions(Call& call, const char* loaderName, QuorStringListHandle instructions) {
-    HostState& host = call.host();
-    const auto isNamed = [loaderName](const Loader& loader) { return loader.name == loaderName; };
+    HostState_s& host = call.host();
+    const auto isNamed = [loaderName](const Loader_s& loader) { return loader.name == loaderName; };
     if (loaderName == nullptr || std::none_of(host.loaders.begin(), host.loaders.end(), isNamed))
         return call.violate("there is no such loader");
-    const GuestStringList* list = instructions != nullptr ? call.object(instructions) : nullptr;
+    const GuestStringList_s* list = instructions != nullptr ? call.object(instructions) : nullptr;
     if (instructions != nullptr && list == nullptr)
         return false;
     std::vector<std::string> texts;

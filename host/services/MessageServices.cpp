@@ -13,10 +13,10 @@ namespace {
 
 // Made ready before the user is asked: an answer must not get lost.
 bool askUser(Call& call, const char* text) {
-    HostState& host = call.host();
+    HostState_s& host = call.host();
     const std::string question = text;
     const bool answer = host.user->answer(question);
-    host.showMessage(MessageKind::Question, question, answer);
+    host.showMessage(MessageKind_e::Question, question, answer);
     return answer;
 }
 
@@ -26,14 +26,14 @@ bool showBox(Call& call, const char* text, std::int32_t kind) {
     if (text == nullptr || (!isInformation && !isQuestion))
         return call.violate("text is null, or there is no box of kind ", kind);
     if (isInformation)
-        call.host().showMessage(MessageKind::Information, text);
+        call.host().showMessage(MessageKind_e::Information, text);
     if (call.fails() && isQuestion)
-        call.host().showMessage(MessageKind::Question, text, false);
+        call.host().showMessage(MessageKind_e::Question, text, false);
     return call.withinMemory(false, [&] { return isInformation || askUser(call, text); });
 }
 
 /// The user's one file; null for Cancel.
-char* chooseFile(Call& call, const FileRequest& request, std::string& chosen) {
+char* chooseFile(Call& call, const FileRequest_s& request, std::string& chosen) {
     std::vector<std::string> choice = call.host().user->chooseFiles(request);
     if (choice.empty())
         return nullptr;
@@ -41,11 +41,11 @@ char* chooseFile(Call& call, const FileRequest& request, std::string& chosen) {
     return call.host().memory.copyText(call.operation(), chosen);
 }
 
-QuorStringListHandle chooseFiles(Call& call, const FileRequest& request) {
+QuorStringListHandle chooseFiles(Call& call, const FileRequest_s& request) {
     std::vector<std::string> choice = call.host().user->chooseFiles(request);
     if (choice.empty())
         return nullptr;
-    GuestStringList list;
+    GuestStringList_s list;
     list.strings.assign(std::make_move_iterator(choice.begin()),
                         std::make_move_iterator(choice.end()));
     return call.host().handles.of(QuorStringListHandle{}).add(call.operation(), std::move(list));
@@ -60,7 +60,7 @@ void QuorUtilDialogErrMsg(const char* text) {
     if (text == nullptr)
         call.violation("text is null");
     else
-        call.host().showMessage(MessageKind::Error, text);
+        call.host().showMessage(MessageKind_e::Error, text);
 }
 
 bool QuorUtilDialogMessageBox(const char* text, std::int32_t kind) {
@@ -71,8 +71,9 @@ bool QuorUtilDialogMessageBox(const char* text, std::int32_t kind) {
 void QuorUtilPostLastErrorMessage() {
     Call call("QuorUtilPostLastErrorMessage");
     const std::string& lastError = call.host().lastError;
-    call.host().showMessage(MessageKind::Error, lastError.empty() ? "The host has no error to show."
-                                                                  : std::string_view(lastError));
+    call.host().showMessage(MessageKind_e::Error, lastError.empty()
+                                                      ? "The host has no error to show."
+                                                      : std::string_view(lastError));
 }
 
 bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char* typeWord,

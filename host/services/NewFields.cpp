@@ -18,7 +18,7 @@ std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::siz
     return {};
 }
 
-bool createField(Call& call, Field& field, std::int64_t valueCount, bool isDeferred) {
+bool createField(Call& call, Field_s& field, std::int64_t valueCount, bool isDeferred) {
     if (isDeferred)
         return true;
     field.storage = FieldStorage::stored(field.type, valueCount);

@@ -15,7 +15,7 @@ std::vector<std::int32_t> readTypes(Call& call, ArgumentReader& reader, std::siz
 
 /// Gives the field the storage that "DeferVarCreation" asks for: none (1), or zeros. False: no
 /// memory.
-bool createField(Call& call, Field& field, std::int64_t valueCount, bool isDeferred);
+bool createField(Call& call, Field_s& field, std::int64_t valueCount, bool isDeferred);
 
 /// "VarDataType [1, 1, 2]" for the transcript.
 std::string describeTypes(const std::vector<std::int32_t>& types);

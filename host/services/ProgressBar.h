@@ -72,7 +72,7 @@ private:
     bool isInner_ = false;
     std::shared_ptr<TaskNode> top_ = std::make_shared<TaskNode>(nullptr, 0);
     // What the observer sees. The fraction never goes back, even when a task gets more to do.
-    ProgressState shown_;
+    ProgressState_s shown_;
 };
 
 } // namespace quorvia::host

@@ -10,7 +10,7 @@ constexpr std::int64_t largestMember = 2147483647;
 constexpr std::size_t mostMembers = 10'000'000;
 
 bool addMember(Call& call, QuorSetHandle set, std::int64_t member) {
-    GuestSet* found = call.object(set);
+    GuestSet_s* found = call.object(set);
     if (found == nullptr)
         return false;
     // No breach of the contract: numbers out of a file or from a user may come here.
@@ -45,31 +45,31 @@ bool QuorUtilSetAddMember(QuorSetHandle set, std::int64_t member, bool showError
 
 void QuorUtilSetRemoveMember(QuorSetHandle set, std::int64_t member) {
     Call call("QuorUtilSetRemoveMember", set, member);
-    if (GuestSet* found = call.object(set))
+    if (GuestSet_s* found = call.object(set))
         found->members.erase(member);
 }
 
 bool QuorUtilSetIsMember(QuorSetHandle set, std::int64_t member) {
     Call call("QuorUtilSetIsMember", set, member);
-    const GuestSet* found = set != nullptr ? call.object(set) : nullptr;
+    const GuestSet_s* found = set != nullptr ? call.object(set) : nullptr;
     return call.result(found != nullptr && found->members.count(member) != 0);
 }
 
 bool QuorUtilSetIsEmpty(QuorSetHandle set) {
     Call call("QuorUtilSetIsEmpty", set);
-    const GuestSet* found = set != nullptr ? call.object(set) : nullptr;
+    const GuestSet_s* found = set != nullptr ? call.object(set) : nullptr;
     return call.result(found == nullptr || found->members.empty());
 }
 
 std::int64_t QuorUtilSetGetMemberCount(QuorSetHandle set) {
     Call call("QuorUtilSetGetMemberCount", set);
-    const GuestSet* found = call.object(set);
+    const GuestSet_s* found = call.object(set);
     return call.result(found != nullptr ? static_cast<std::int64_t>(found->members.size()) : 0);
 }
 
 std::int64_t QuorUtilSetGetNextMember(QuorSetHandle set, std::int64_t previous) {
     Call call("QuorUtilSetGetNextMember", set, previous);
-    const GuestSet* found = call.object(set);
+    const GuestSet_s* found = call.object(set);
     if (found == nullptr)
         return call.result(std::int64_t{0});
     const auto next = found->members.upper_bound(previous);

@@ -8,15 +8,15 @@ using namespace quorvia::host;
 
 namespace {
 
-struct FieldPair {
-    Field* source = nullptr;
-    Field* destination = nullptr;
+struct FieldPair_s {
+    Field_s* source = nullptr;
+    Field_s* destination = nullptr;
     bool matches = false; // same type, same number of values
 };
 
-FieldPair fieldPair(Call& call, std::int32_t sourceZone, std::int32_t destinationZone,
-                    std::int32_t var) {
-    FieldPair pair{call.field(sourceZone, var), call.field(destinationZone, var)};
+FieldPair_s fieldPair(Call& call, std::int32_t sourceZone, std::int32_t destinationZone,
+                      std::int32_t var) {
+    FieldPair_s pair{call.field(sourceZone, var), call.field(destinationZone, var)};
     if (pair.source == nullptr || pair.destination == nullptr)
         return {};
     pair.matches = pair.source->type == pair.destination->type &&
@@ -25,7 +25,7 @@ FieldPair fieldPair(Call& call, std::int32_t sourceZone, std::int32_t destinatio
     return pair;
 }
 
-bool share(Call& call, const FieldPair& pair) {
+bool share(Call& call, const FieldPair_s& pair) {
     if (!call.host().settings.sharingAllowed)
         return call.refuse("sharing is not allowed");
     if (!pair.matches)
@@ -38,12 +38,12 @@ bool share(Call& call, const FieldPair& pair) {
     return true;
 }
 
-bool copy(Call& call, const FieldPair& pair) {
+bool copy(Call& call, const FieldPair_s& pair) {
     if (!pair.matches)
         return call.refuse("the fields differ in type or in number of values");
     if (pair.source->storage == nullptr)
         return call.refuse("the source field is empty");
-    if (pair.destination->state() != FieldState::Stored)
+    if (pair.destination->state() != FieldState_e::Stored)
         return call.violate("the destination has no storage of its own");
     const std::shared_ptr<FieldStorage> source = pair.source->storage;
     const std::shared_ptr<FieldStorage> destination = pair.destination->storage;
@@ -71,7 +71,7 @@ bool QuorUtilDataValueShare(std::int32_t sourceZone, std::int32_t destinationZon
                             std::int32_t var) {
     Call call("QuorUtilDataValueShare", sourceZone, destinationZone, var);
     return call.serve([&] {
-        const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
+        const FieldPair_s pair = fieldPair(call, sourceZone, destinationZone, var);
         return pair.source != nullptr && share(call, pair);
     });
 }
@@ -80,7 +80,7 @@ bool QuorUtilDataValueCopy(std::int32_t sourceZone, std::int32_t destinationZone
                            std::int32_t var) {
     Call call("QuorUtilDataValueCopy", sourceZone, destinationZone, var);
     return call.serve([&] {
-        const FieldPair pair = fieldPair(call, sourceZone, destinationZone, var);
+        const FieldPair_s pair = fieldPair(call, sourceZone, destinationZone, var);
         return pair.source != nullptr && copy(call, pair);
     });
 }

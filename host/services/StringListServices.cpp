@@ -11,7 +11,7 @@ constexpr std::int64_t longestList = 2147483647;
 
 /// Null for one that was never set, and, with a violation, for one that is not in the list.
 const std::string* textAt(Call& call, QuorStringListHandle list, std::int64_t index) {
-    const GuestStringList* found = call.object(list);
+    const GuestStringList_s* found = call.object(list);
     if (found == nullptr)
         return nullptr;
     const std::size_t count = found->strings.size();
@@ -24,7 +24,7 @@ const std::string* textAt(Call& call, QuorStringListHandle list, std::int64_t in
 }
 
 bool appendText(Call& call, QuorStringListHandle list, const char* text) {
-    GuestStringList* target = call.object(list);
+    GuestStringList_s* target = call.object(list);
     if (target == nullptr)
         return false;
     if (text == nullptr)
@@ -34,7 +34,7 @@ bool appendText(Call& call, QuorStringListHandle list, const char* text) {
 }
 
 bool setText(Call& call, QuorStringListHandle list, std::int64_t index, const char* text) {
-    GuestStringList* target = call.object(list);
+    GuestStringList_s* target = call.object(list);
     if (target == nullptr)
         return false;
     if (text == nullptr)
@@ -50,8 +50,8 @@ bool setText(Call& call, QuorStringListHandle list, std::int64_t index, const ch
 }
 
 bool appendList(Call& call, QuorStringListHandle list, QuorStringListHandle other) {
-    GuestStringList* target = call.object(list);
-    const GuestStringList* source = call.object(other);
+    GuestStringList_s* target = call.object(list);
+    const GuestStringList_s* source = call.object(other);
     if (target == nullptr || source == nullptr)
         return false;
     std::vector<std::optional<std::string>> copies = source->strings; // may be the same list
@@ -75,7 +75,7 @@ QuorStringListHandle QuorUtilStringListAlloc() {
 void QuorUtilStringListDealloc(QuorStringListHandle* list) {
     Call call("QuorUtilStringListDealloc", list != nullptr ? *list : nullptr);
     if (list != nullptr && *list != nullptr) {
-        const GuestStringList* found = call.object(*list);
+        const GuestStringList_s* found = call.object(*list);
         if (found != nullptr && found->isHostOwned) {
             call.violation("the list is borrowed and stays the host's");
             *list = nullptr;
@@ -88,7 +88,7 @@ void QuorUtilStringListDealloc(QuorStringListHandle* list) {
 
 std::int64_t QuorUtilStringListGetCount(QuorStringListHandle list) {
     Call call("QuorUtilStringListGetCount", list);
-    const GuestStringList* found = call.object(list);
+    const GuestStringList_s* found = call.object(list);
     return call.result(found != nullptr ? static_cast<std::int64_t>(found->strings.size()) : 0);
 }
 

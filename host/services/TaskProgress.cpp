@@ -72,7 +72,7 @@ public:
         return call.result(mayGoOn(call));
     }
 
-    host::TaskName self() const { return {this}; }
+    host::TaskName_s self() const { return {this}; }
 
 private:
     static bool mayGoOn(Call& call) {

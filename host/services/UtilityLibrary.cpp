@@ -13,7 +13,7 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
-struct Decoded {
+struct Decoded_s {
     char32_t character = replacement;
     std::size_t length = 1; // bytes used up
 };
@@ -42,7 +42,7 @@ bool isCharacter(char32_t code, std::size_t length) {
 }
 
 // One character; a byte that belongs to none is replaced alone, so that the rest is still read.
-Decoded decode(const std::string& text, std::size_t position) {
+Decoded_s decode(const std::string& text, std::size_t position) {
     const unsigned lead = byteAt(text, position);
     const std::size_t length = sequenceLength(lead);
     if (length == 0 || length > text.size() - position)
@@ -56,7 +56,7 @@ Decoded decode(const std::string& text, std::size_t position) {
             return {};
         code = (code << 6) | (next & 0x3FU);
     }
-    return isCharacter(code, length) ? Decoded{code, length} : Decoded{};
+    return isCharacter(code, length) ? Decoded_s{code, length} : Decoded_s{};
 }
 
 } // namespace
@@ -90,7 +90,7 @@ std::wstring utf8ToWideString(const std::string& utf8) {
     const host::Call call("utf8ToWideString", utf8);
     std::wstring wide;
     for (std::size_t position = 0; position < utf8.size();) {
-        const Decoded decoded = decode(utf8, position);
+        const Decoded_s decoded = decode(utf8, position);
         wide += static_cast<wchar_t>(decoded.character);
         position += decoded.length;
     }

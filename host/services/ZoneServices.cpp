@@ -11,7 +11,7 @@ using namespace quorvia::host;
 namespace {
 
 bool extractTimes(Call& call, QuorStringListHandle names, double* times) {
-    const GuestStringList* list = call.object(names);
+    const GuestStringList_s* list = call.object(names);
     if (list == nullptr)
         return false;
     if (times == nullptr && !list->strings.empty())
@@ -41,7 +41,7 @@ void QuorUtilZoneGetInfo(std::int32_t zone, std::int64_t* iMax, std::int64_t* jM
     Call call("QuorUtilZoneGetInfo", zone);
     if (further != nullptr)
         call.violation("the last argument is reserved");
-    const Zone* found = call.zone(zone);
+    const Zone_s* found = call.zone(zone);
     using Sizes = std::array<std::int64_t, 3>;
     const Sizes sizes = found != nullptr ? Sizes{found->i, found->j, found->k} : Sizes{0, 0, 0};
     std::int64_t* const targets[] = {iMax, jMax, kMax};
@@ -54,14 +54,14 @@ void QuorUtilZoneGetInfo(std::int32_t zone, std::int64_t* iMax, std::int64_t* jM
 
 std::int32_t QuorUtilZoneGetType(std::int32_t zone) {
     Call call("QuorUtilZoneGetType", zone);
-    const Zone* found = call.zone(zone);
+    const Zone_s* found = call.zone(zone);
     return call.result(found != nullptr ? found->type : QuorZoneType_Ordered);
 }
 
 bool QuorUtilZoneRename(std::int32_t zone, const char* name) {
     Call call("QuorUtilZoneRename", zone, name);
     return call.serve([&] {
-        Zone* found = call.zone(zone);
+        Zone_s* found = call.zone(zone);
         if (found == nullptr)
             return false;
         if (name == nullptr)
@@ -73,13 +73,13 @@ bool QuorUtilZoneRename(std::int32_t zone, const char* name) {
 
 std::int32_t QuorUtilZoneGetStrandID(std::int32_t zone) {
     Call call("QuorUtilZoneGetStrandID", zone);
-    const Zone* found = call.zone(zone);
+    const Zone_s* found = call.zone(zone);
     return call.result(found != nullptr ? found->strandId : 0);
 }
 
 void QuorUtilZoneSetStrandID(std::int32_t zone, std::int32_t strand) {
     Call call("QuorUtilZoneSetStrandID", zone, strand);
-    Zone* found = call.zone(zone);
+    Zone_s* found = call.zone(zone);
     if (found == nullptr)
         return;
     if (strand < 0)
@@ -93,7 +93,7 @@ bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime) {
     DataSet* data = call.fails() ? nullptr : call.dataSet();
     if (data == nullptr)
         return call.result(false);
-    Zone* found = data->zone(zone);
+    Zone_s* found = data->zone(zone);
     if (found == nullptr) // not blamed: a loader may number on over grids that have no zone
         return call.result(call.refuse("there is no zone ", zone));
     found->solutionTime = solutionTime;
@@ -104,7 +104,7 @@ bool QuorUtilZoneSetSolutionTime(std::int32_t zone, double solutionTime) {
 
 std::int64_t QuorUtilZoneGetUniqueID(std::int32_t zone) {
     Call call("QuorUtilZoneGetUniqueID", zone);
-    const Zone* found = call.zone(zone);
+    const Zone_s* found = call.zone(zone);
     return call.result(found != nullptr ? found->uniqueId : 0);
 }
 
@@ -116,7 +116,7 @@ std::int32_t QuorUtilZoneGetNumByUniqueID(std::int64_t zoneId) {
 
 std::int64_t QuorUtilVarGetUniqueID(std::int32_t var) {
     Call call("QuorUtilVarGetUniqueID", var);
-    const Variable* found = call.variable(var);
+    const Variable_s* found = call.variable(var);
     return call.result(found != nullptr ? found->uniqueId : 0);
 }
 
@@ -131,7 +131,7 @@ bool QuorUtilVarGetName(std::int32_t var, char** name) {
     if (name == nullptr)
         return call.result(call.violate("reference is null"));
     *name = nullptr;
-    const Variable* found = nullptr;
+    const Variable_s* found = nullptr;
     *name = call.withinMemory<char*>(nullptr, [&]() -> char* {
         found = call.variable(var);
         return found != nullptr ? call.host().memory.copyText(call.operation(), found->name)
@@ -145,7 +145,7 @@ bool QuorUtilVarGetName(std::int32_t var, char** name) {
 
 void QuorUtilZoneStyleApplyAuto(QuorSetHandle zones) {
     Call call("QuorUtilZoneStyleApplyAuto", zones);
-    if (const GuestSet* set = call.object(zones))
+    if (const GuestSet_s* set = call.object(zones))
         call.host().log.addAutoStyled(set->members);
 }
 

@@ -36,7 +36,7 @@ DialogAction ActionQueue::wait(std::int64_t launch) {
     std::unique_lock lock(mutex_);
     std::optional<DialogAction> action;
     changed_.wait(lock, [&] { return ended_ || (action = takeLocked(launch)).has_value(); });
-    return ended_ ? PressDialogButton{DialogButton::Cancel} : *std::move(action);
+    return ended_ ? PressDialogButton_s{DialogButton_e::Cancel} : *std::move(action);
 }
 
 std::int64_t ActionQueue::pushedCount() const {

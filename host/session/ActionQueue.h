@@ -14,7 +14,7 @@ namespace quorvia::host {
 /// All operations may be called from either thread.
 class ActionQueue {
 public:
-    /// `launch` is the one whose window the user saw: Dialog::lastLaunch.
+    /// `launch` is the one whose window the user saw: Dialog_s::lastLaunch.
     void push(DialogAction action, std::int64_t launch);
     /// Forgets what was not taken yet.
     void clear();

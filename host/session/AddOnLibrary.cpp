@@ -9,6 +9,7 @@
 #include <dlfcn.h>
 
 #include "model/Room.h"
+#include "session/GuestEntry.h"
 #include "state/GuestWatch.h"
 #include "state/HostState.h"
 
@@ -17,7 +18,6 @@ namespace quorvia::host {
 namespace {
 
 constexpr const char* entryName = "InitQuorAddOn113";
-using Entry = void (*)();
 
 std::string lastLinkError() {
     const char* text = dlerror();
@@ -42,8 +42,8 @@ bool comesFrom(const FieldStorage* storage, const void* library) {
 
 std::size_t countFieldsOf(const DataSet& data, const void* library) {
     std::ptrdiff_t count = 0;
-    for (const std::unique_ptr<Zone>& zone : data.zones())
-        count += std::count_if(zone->fields.begin(), zone->fields.end(), [&](const Field& field) {
+    for (const std::unique_ptr<Zone_s>& zone : data.zones())
+        count += std::count_if(zone->fields.begin(), zone->fields.end(), [&](const Field_s& field) {
             return comesFrom(field.storage.get(), library);
         });
     return static_cast<std::size_t>(count);
@@ -56,8 +56,8 @@ void emptyFieldsOf(const DataSet* data, const void* library) noexcept {
         return;
     std::vector<std::shared_ptr<FieldStorage>> ended;
     makeRoomIfPossible(ended, countFieldsOf(*data, library));
-    for (const std::unique_ptr<Zone>& zone : data->zones()) {
-        for (Field& field : zone->fields) {
+    for (const std::unique_ptr<Zone_s>& zone : data->zones()) {
+        for (Field_s& field : zone->fields) {
             if (!comesFrom(field.storage.get(), library))
                 continue;
             std::shared_ptr<FieldStorage> last = std::move(field.storage);
@@ -67,8 +67,8 @@ void emptyFieldsOf(const DataSet* data, const void* library) noexcept {
     }
 }
 
-void forgetCallbacksOf(HostState& host, const void* library) {
-    const auto isLoader = [library](const Loader& loader) {
+void forgetCallbacksOf(HostState_s& host, const void* library) {
+    const auto isLoader = [library](const Loader_s& loader) {
         return libraryOf(loader.load) == library;
     };
     const auto isCallback = [library](QuorStateChangeCallback callback) {
@@ -79,7 +79,7 @@ void forgetCallbacksOf(HostState& host, const void* library) {
     host.stateChangeCallbacks.erase(std::remove_if(host.stateChangeCallbacks.begin(),
                                                    host.stateChangeCallbacks.end(), isCallback),
                                     host.stateChangeCallbacks.end());
-    host.toolkit.removeWhere([library](const Dialog& dialog) {
+    host.toolkit.removeWhere([library](const Dialog_s& dialog) {
         return dialog.maker != nullptr && libraryOf(dialog.maker) == library;
     });
 }
@@ -87,7 +87,7 @@ void forgetCallbacksOf(HostState& host, const void* library) {
 } // namespace
 
 std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::string& error) {
-    HostState& host = hostState();
+    HostState_s& host = hostState();
     std::unique_ptr<AddOnLibrary> library(new AddOnLibrary(nullptr, host.serials.last()));
     dlerror();
     library->handle_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -100,18 +100,8 @@ std::unique_ptr<AddOnLibrary> AddOnLibrary::open(const std::string& path, std::s
         error = "The library " + path + " is no add-on: it does not export " + entryName + ".";
         return nullptr;
     }
-    GuestWatch watch(host);
-    try {
-        reinterpret_cast<Entry>(entry)();
-        watch.checkBalances();
-    } catch (const std::bad_alloc&) {
-        watch.checkBalances();
-        error = "Out of memory.";
+    if (!enterGuest(reinterpret_cast<GuestEntry>(entry), "add-on " + path, error))
         return nullptr;
-    } catch (...) {
-        error = "The entry of the add-on " + path + " has thrown an exception.";
-        return nullptr;
-    }
     return library;
 }
 
@@ -122,12 +112,13 @@ AddOnLibrary::~AddOnLibrary() {
 void AddOnLibrary::unload() {
     if (handle_ == nullptr)
         return;
-    HostState& host = hostState();
+    HostState_s& host = hostState();
     const void* entry = dlsym(handle_, entryName);
     const void* library = entry != nullptr ? libraryOf(entry) : nullptr;
     if (library != nullptr) {
         forgetCallbacksOf(host, library);
-        emptyFieldsOf(host.frame.dataSet(), library);
+        for (const std::unique_ptr<Frame>& frame : host.frames.all())
+            emptyFieldsOf(frame->dataSet(), library);
     }
     dlclose(handle_);
     handle_ = nullptr;

@@ -15,8 +15,8 @@ namespace {
 // A string list that a loader borrows for its run.
 class BorrowedList {
 public:
-    BorrowedList(HostState& host, const std::vector<std::string>& texts) : host_(host) {
-        GuestStringList list;
+    BorrowedList(HostState_s& host, const std::vector<std::string>& texts) : host_(host) {
+        GuestStringList_s list;
         list.isHostOwned = true;
         list.strings.assign(texts.begin(), texts.end());
         handle_ = host_.handles.of(handle_).add("QuorUtilStringListAlloc", std::move(list));
@@ -28,7 +28,7 @@ public:
     QuorStringListHandle get() const { return handle_; }
 
 private:
-    HostState& host_;
+    HostState_s& host_;
     QuorStringListHandle handle_ = nullptr;
 };
 
@@ -42,7 +42,7 @@ void tellWhat(std::string& error, const std::exception& exception) {
 
 // Running out of memory is the one exception that a loader may let through.
 template <typename Callback>
-bool callLoader(HostState& host, Callback callback, std::string& error) {
+bool callLoader(HostState_s& host, Callback callback, std::string& error) {
     // In words before it happens: afterwards there may be no memory for them.
     std::string memoryRanOut = "The add-on ran out of memory.";
     std::string somethingWasThrown = "The add-on has thrown an exception.";
@@ -64,21 +64,22 @@ bool callLoader(HostState& host, Callback callback, std::string& error) {
 /// Whether instructions were handed over is asked of one import; then of all again.
 class HandOverWatch {
 public:
-    explicit HandOverWatch(HostLog& log)
+    explicit HandOverWatch(HostLog_s& log)
         : log_(log), before_(std::exchange(log.instructionsHandedOver, false)) {}
     ~HandOverWatch() { log_.instructionsHandedOver |= before_; }
     HandOverWatch(const HandOverWatch&) = delete;
     HandOverWatch& operator=(const HandOverWatch&) = delete;
 
 private:
-    HostLog& log_;
+    HostLog_s& log_;
     bool before_;
 };
 
 // Runs a loader's callback on a borrowed list and watches it.
 template <typename Callback>
-LoadResult runLoader(HostState& host, const std::vector<std::string>& texts, Callback callback) {
-    LoadResult result;
+LoadResult_s runLoader(HostState_s& host, const std::vector<std::string>& texts,
+                       Callback callback) {
+    LoadResult_s result;
     const BorrowedList list(host, texts);
     host.faults.restartSteps();
     GuestWatch watch(host);
@@ -91,19 +92,19 @@ LoadResult runLoader(HostState& host, const std::vector<std::string>& texts, Cal
     return result;
 }
 
-LoadResult notRun(std::string why) {
-    LoadResult result;
+LoadResult_s notRun(std::string why) {
+    LoadResult_s result;
     result.hostError = std::move(why);
     return result;
 }
 
 } // namespace
 
-LoadResult runSelection(HostState& host, const std::vector<std::string>& files, bool advanced,
-                        bool append) {
+LoadResult_s runSelection(HostState_s& host, const std::vector<std::string>& files, bool advanced,
+                          bool append) {
     if (host.loaders.empty())
         return notRun("No data loader is registered.");
-    const Loader& loader = host.loaders.back();
+    const Loader_s& loader = host.loaders.back();
     if (files.size() > 1 && !loader.allowsSeveralFiles)
         return notRun("The loader \"" + loader.name + "\" takes one file at a time.");
     if (advanced && !loader.allowsAdvancedOptions)
@@ -119,10 +120,15 @@ LoadResult runSelection(HostState& host, const std::vector<std::string>& files, 
     });
 }
 
-LoadResult runInstructions(HostState& host, const std::vector<std::string>& instructions) {
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions) {
     if (host.loaders.empty())
         return notRun("No data loader is registered.");
-    const QuorLoaderCallback load = host.loaders.back().load;
+    return runInstructions(host, instructions, host.loaders.back());
+}
+
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions,
+                             const Loader_s& loader) {
+    const QuorLoaderCallback load = loader.load; // the guest may register another
     return runLoader(host, instructions, load);
 }
 

@@ -9,8 +9,10 @@
 namespace quorvia::host {
 
 /// See ReferenceHost::importSelection and importInstructions.
-LoadResult runSelection(HostState& host, const std::vector<std::string>& files, bool advanced,
-                        bool append);
-LoadResult runInstructions(HostState& host, const std::vector<std::string>& instructions);
+LoadResult_s runSelection(HostState_s& host, const std::vector<std::string>& files, bool advanced,
+                          bool append);
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions);
+LoadResult_s runInstructions(HostState_s& host, const std::vector<std::string>& instructions,
+                             const Loader_s& loader);
 
 } // namespace quorvia::host

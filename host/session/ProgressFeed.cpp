@@ -4,12 +4,12 @@
 
 namespace quorvia::host {
 
-void ProgressFeed::put(const ProgressState& state) {
+void ProgressFeed::put(const ProgressState_s& state) {
     const std::lock_guard lock(mutex_);
     last_ = state;
 }
 
-std::optional<ProgressState> ProgressFeed::take() {
+std::optional<ProgressState_s> ProgressFeed::take() {
     const std::lock_guard lock(mutex_);
     return std::exchange(last_, std::nullopt);
 }

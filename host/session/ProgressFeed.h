@@ -11,13 +11,13 @@ namespace quorvia::host {
 
 class ProgressFeed {
 public:
-    void put(const ProgressState& state);
+    void put(const ProgressState_s& state);
     /// The last state, if one was put since the last time.
-    std::optional<ProgressState> take();
+    std::optional<ProgressState_s> take();
 
 private:
     std::mutex mutex_;
-    std::optional<ProgressState> last_;
+    std::optional<ProgressState_s> last_;
 };
 
 } // namespace quorvia::host

@@ -21,25 +21,25 @@ OperationId operationNamed(std::string_view name) {
     return OperationId::at(*index);
 }
 
-std::vector<std::string> namesWhere(bool (*isWanted)(const OperationTraits&)) {
+std::vector<std::string> namesWhere(bool (*isWanted)(const OperationTraits_s&)) {
     std::vector<std::string> names;
-    for (const OperationTraits& traits : detail::operationTable) {
+    for (const OperationTraits_s& traits : detail::operationTable) {
         if (isWanted(traits))
             names.emplace_back(traits.name);
     }
     return names;
 }
 
-std::string joinedErrors(const std::vector<Message>& messages, std::size_t first) {
+std::string joinedErrors(const std::vector<Message_s>& messages, std::size_t first) {
     std::string joined;
     for (std::size_t index = first; index < messages.size(); ++index) {
-        if (messages[index].kind == MessageKind::Error)
+        if (messages[index].kind == MessageKind_e::Error)
             joined += (joined.empty() ? "" : "\n") + messages[index].text;
     }
     return joined;
 }
 
-std::string whyNotFetched(const std::vector<Message>& messages, std::size_t first,
+std::string whyNotFetched(const std::vector<Message_s>& messages, std::size_t first,
                           bool isInterrupted) {
     try {
         std::string errors = joinedErrors(messages, first);
@@ -53,11 +53,11 @@ std::string whyNotFetched(const std::vector<Message>& messages, std::size_t firs
 
 /// What the import gives; a loader's want of memory is told by the import itself.
 template <typename Run>
-LoadResult import(Run run) {
+LoadResult_s import(Run run) {
     try {
         return run();
     } catch (const std::bad_alloc&) {
-        LoadResult result;
+        LoadResult_s result;
         result.hostError = outOfMemory;
         return result;
     }
@@ -67,8 +67,8 @@ LoadResult import(Run run) {
 
 // Never destroyed, like the host itself: guests that are linked in may still give things back after
 // main has ended.
-HostState& hostState() {
-    static HostState* const state = new HostState;
+HostState_s& hostState() {
+    static HostState_s* const state = new HostState_s;
     return *state;
 }
 
@@ -80,11 +80,11 @@ ReferenceHost& ReferenceHost::instance() {
 }
 
 void ReferenceHost::reset() {
-    HostState& host = state_;
-    host.frame.startAnew();
+    HostState_s& host = state_;
+    host.frames.startAnew();
     host.cache.dropAll();
     host.settings = {};
-    host.log = HostLog();
+    host.log = HostLog_s();
     host.faults.clear();
     host.transcript.turnOn(false);
     host.entryLockDepth = 0;
@@ -99,20 +99,36 @@ void ReferenceHost::reset() {
 }
 
 void ReferenceHost::clearLog() {
-    state_.log = HostLog();
+    state_.log = HostLog_s();
 }
 
-HostSettings& ReferenceHost::settings() {
+HostSettings_s& ReferenceHost::settings() {
     return state_.settings;
 }
 
-const HostLog& ReferenceHost::log() const {
+const HostLog_s& ReferenceHost::log() const {
     state_.tellLosses();
     return state_.log;
 }
 
 Frame& ReferenceHost::frame() {
-    return state_.frame;
+    return state_.frame();
+}
+
+const std::vector<std::unique_ptr<Frame>>& ReferenceHost::frames() const {
+    return state_.frames.all();
+}
+
+Frame& ReferenceHost::addFrame() {
+    return state_.frames.add();
+}
+
+void ReferenceHost::makeCurrent(Frame& frame) {
+    state_.frames.makeCurrent(frame);
+}
+
+void ReferenceHost::closeFrame(Frame& frame) {
+    state_.frames.close(frame);
 }
 
 std::int64_t ReferenceHost::lockDepth() const {
@@ -123,24 +139,29 @@ std::int64_t ReferenceHost::fetchedBytes() const {
     return state_.cache.bytesInMemory();
 }
 
-const std::vector<Loader>& ReferenceHost::loaders() const {
+const std::vector<Loader_s>& ReferenceHost::loaders() const {
     return state_.loaders;
 }
 
 std::vector<std::string> ReferenceHost::loaderNames() const {
     std::vector<std::string> names;
-    for (const Loader& loader : state_.loaders)
+    for (const Loader_s& loader : state_.loaders)
         names.push_back(loader.name);
     return names;
 }
 
-LoadResult ReferenceHost::importSelection(const std::vector<std::string>& files, bool advanced,
-                                          bool append) {
+LoadResult_s ReferenceHost::importSelection(const std::vector<std::string>& files, bool advanced,
+                                            bool append) {
     return import([&] { return runSelection(state_, files, advanced, append); });
 }
 
-LoadResult ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
+LoadResult_s ReferenceHost::importInstructions(const std::vector<std::string>& instructions) {
     return import([&] { return runInstructions(state_, instructions); });
+}
+
+LoadResult_s ReferenceHost::importInstructions(const std::vector<std::string>& instructions,
+                                               const Loader_s& loader) {
+    return import([&] { return runInstructions(state_, instructions, loader); });
 }
 
 void ReferenceHost::setAnswers(std::deque<bool> answers, bool afterwards) {
@@ -171,10 +192,10 @@ bool ReferenceHost::interruptRequested() const noexcept {
     return state_.faults.isInterrupted();
 }
 
-FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
-    FetchResult result;
-    const DataSet* data = state_.frame.dataSet();
-    const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
+FetchResult_s ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
+    FetchResult_s result;
+    const DataSet* data = state_.frame().dataSet();
+    const Field_s* field = data != nullptr ? data->field(zone, variable) : nullptr;
     if (field == nullptr || field->storage == nullptr) {
         result.error = field == nullptr ? "There is no such field." : "The field is empty.";
         return result;
@@ -193,8 +214,8 @@ FetchResult ReferenceHost::fetch(std::int32_t zone, std::int32_t variable) {
 }
 
 bool ReferenceHost::unload(std::int32_t zone, std::int32_t variable) {
-    const DataSet* data = state_.frame.dataSet();
-    const Field* field = data != nullptr ? data->field(zone, variable) : nullptr;
+    const DataSet* data = state_.frame().dataSet();
+    const Field_s* field = data != nullptr ? data->field(zone, variable) : nullptr;
     return field != nullptr && field->storage != nullptr && state_.cache.drop(*field->storage);
 }
 
@@ -227,12 +248,12 @@ void ReferenceHost::clearFaults() {
 }
 
 std::vector<std::string> ReferenceHost::operationNames() {
-    return namesWhere([](const OperationTraits&) { return true; });
+    return namesWhere([](const OperationTraits_s&) { return true; });
 }
 
 std::vector<std::string> ReferenceHost::operationsThatCanFail() {
     return namesWhere(
-        [](const OperationTraits& traits) { return traits.failure == Failure::Possible; });
+        [](const OperationTraits_s& traits) { return traits.failure == Failure_e::Possible; });
 }
 
 void ReferenceHost::recordTranscript(bool on) {

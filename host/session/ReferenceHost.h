@@ -1,5 +1,5 @@
-// The reference host as its programs and tests see it: one frame, the services that a guest calls,
-// and what a user does at the host: import files, answer questions, look at values, interrupt.
+// The reference host as its programs and tests see it: frames, the services that a guest calls, and
+// what a user does at the host: import files, answer questions, look at values, interrupt.
 // Everything runs on the thread of the caller; requestInterrupt and interruptRequested alone may
 // come from elsewhere.
 #pragma once
@@ -20,17 +20,17 @@
 
 namespace quorvia::host {
 
-struct HostState;
+struct HostState_s;
 
 /// How an import ended.
-struct LoadResult {
+struct LoadResult_s {
     bool ok = false; // of a selection: instructions were handed over and taken in this import
     bool interrupted = false; // by the user, or by interruptAtStep
     std::string hostError;    // what stopped the host itself, want of memory too; empty for nothing
 };
 
 /// The values of one field.
-struct FetchResult {
+struct FetchResult_s {
     bool ok = false;
     std::string error;            // why not; several messages are joined by line ends
     const void* values = nullptr; // I fastest, then J, then K; valid until the next fetch or unload
@@ -44,7 +44,8 @@ public:
     ReferenceHost(const ReferenceHost&) = delete;
     ReferenceHost& operator=(const ReferenceHost&) = delete;
 
-    /// Everything as at the start: the data set is discarded (with its clean-up callbacks),
+    /// Everything as at the start: the data sets are discarded (with their clean-up callbacks), and
+    /// all frames but the first,
     /// settings, log, script, faults and counts are new, unique ids begin again, the lock is free,
     /// and the user is the scripted one. Loaders, state-change callbacks, dialogs (closed, with
     /// their values) and the handles of guests stay; what is held from before is no concern of
@@ -53,9 +54,18 @@ public:
     /// Empties the log alone.
     void clearLog();
 
-    HostSettings& settings();
-    const HostLog& log() const;
+    HostSettings_s& settings();
+    const HostLog_s& log() const;
+    /// The current one: imports go there, and fetches go by its numbers.
     Frame& frame();
+    /// All of them; the first one is there always.
+    const std::vector<std::unique_ptr<Frame>>& frames() const;
+    /// An empty frame; the current one stays. Throws std::bad_alloc.
+    Frame& addFrame();
+    void makeCurrent(Frame& frame);
+    /// Ends the frame and its data set, with the clean-up callbacks. If it was current, the first
+    /// one is from now on; of the first frame the data set alone ends.
+    void closeFrame(Frame& frame);
     /// How deep the guest holds the host's lock, by all its means together.
     std::int64_t lockDepth() const;
     /// Bytes of values fetched on demand that are in memory now.
@@ -64,12 +74,15 @@ public:
     // ---- What the user does ---------------------------------------------------------------------
 
     /// The registered loaders, in order; an import goes to the last one.
-    const std::vector<Loader>& loaders() const;
+    const std::vector<Loader_s>& loaders() const;
     std::vector<std::string> loaderNames() const;
     /// Hands `files` to the loader registered last, as the import menu does.
-    LoadResult importSelection(const std::vector<std::string>& files, bool advanced, bool append);
+    LoadResult_s importSelection(const std::vector<std::string>& files, bool advanced, bool append);
     /// Hands the loader instructions, as a macro or a layout does.
-    LoadResult importInstructions(const std::vector<std::string>& instructions);
+    LoadResult_s importInstructions(const std::vector<std::string>& instructions);
+    /// The same for a loader that need not be the last one: one of loaders(), or a copy.
+    LoadResult_s importInstructions(const std::vector<std::string>& instructions,
+                                    const Loader_s& loader);
 
     /// Who answers the host and works with its dialogs: `user`, which must live on; null for the
     /// scripted user, who does at first.
@@ -88,7 +101,7 @@ public:
     bool interruptRequested() const noexcept;
 
     /// The values of a field, numbers from 1; a deferred field is fetched if it is not in memory.
-    FetchResult fetch(std::int32_t zone, std::int32_t variable);
+    FetchResult_s fetch(std::int32_t zone, std::int32_t variable);
     /// Drops fetched values. False: nothing was in memory, or the guest does not allow it.
     bool unload(std::int32_t zone, std::int32_t variable);
     void unloadAll();
@@ -128,11 +141,11 @@ public:
     void checkForLeaks();
 
     /// For the services and the session; not for programs.
-    HostState& state() { return state_; }
+    HostState_s& state() { return state_; }
 
 private:
     ReferenceHost();
-    HostState& state_;
+    HostState_s& state_;
 };
 
 } // namespace quorvia::host

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
@@ -19,17 +20,17 @@ bool isReadFromField(OperationId origin) {
 
 } // namespace
 
-GuestWatch::GuestWatch(HostState& host)
+GuestWatch::GuestWatch(HostState_s& host)
     : GuestWatch(host, {host.serials.last(), host.handles.heldCount(), host.memory.count(),
                         host.entryLockDepth, host.guestLockDepth, host.openUndoStates,
                         host.openProgressBars, host.timeDeferrers}) {}
 
-GuestWatch GuestWatch::since(HostState& host, std::int64_t serial) {
+GuestWatch GuestWatch::since(HostState_s& host, std::int64_t serial) {
     return GuestWatch(host, {serial, 0, 0, host.entryLockDepth, host.guestLockDepth,
                              host.openUndoStates, host.openProgressBars, host.timeDeferrers});
 }
 
-GuestWatch GuestWatch::sinceRest(HostState& host, std::int64_t serial) {
+GuestWatch GuestWatch::sinceRest(HostState_s& host, std::int64_t serial) {
     return GuestWatch(host, {serial, 0, 0, 0, 0, 0, 0, 0});
 }
 
@@ -74,13 +75,13 @@ void GuestWatch::reportBlocks() {
     // that reaches.
     if (isAnyBlockClientData())
         return;
-    struct Sum {
+    struct Sum_s {
         int count = 0;
         std::int64_t bytes = 0;
     };
-    std::map<std::pair<std::string, std::string>, Sum> sums;
-    for (const HeldBlock& held : host_.memory.heldSince(before_.serial)) {
-        Sum& sum = sums[{std::string(held.origin.name()), held.label}];
+    std::map<std::pair<std::string, std::string>, Sum_s> sums;
+    for (const HeldBlock_s& held : host_.memory.heldSince(before_.serial)) {
+        Sum_s& sum = sums[{std::string(held.origin.name()), held.label}];
         ++sum.count;
         sum.bytes += held.byteCount;
     }
@@ -90,15 +91,18 @@ void GuestWatch::reportBlocks() {
 }
 
 bool GuestWatch::isAnyBlockClientData() const {
-    const DataSet* data = host_.frame.dataSet();
-    if (data == nullptr)
-        return false;
-    const auto holdsBlock = [this](const Field& field) {
+    const auto holdsBlock = [this](const Field_s& field) {
         const Deferral* deferral = field.storage != nullptr ? field.storage->deferral() : nullptr;
         return deferral != nullptr && host_.memory.contains(deferral->clientData());
     };
-    return std::any_of(data->zones().begin(), data->zones().end(), [&](const auto& zone) {
+    const auto hasSuchAField = [&](const std::unique_ptr<Zone_s>& zone) {
         return std::any_of(zone->fields.begin(), zone->fields.end(), holdsBlock);
+    };
+    const auto& frames = host_.frames.all();
+    return std::any_of(frames.begin(), frames.end(), [&](const std::unique_ptr<Frame>& frame) {
+        const DataSet* const data = frame->dataSet();
+        return data != nullptr &&
+               std::any_of(data->zones().begin(), data->zones().end(), hasSuchAField);
     });
 }
 

@@ -6,17 +6,17 @@
 
 namespace quorvia::host {
 
-struct HostState;
+struct HostState_s;
 
 class GuestWatch {
 public:
     /// Begins now.
-    explicit GuestWatch(HostState& host);
+    explicit GuestWatch(HostState_s& host);
     /// As if begun when handles with greater serial numbers were given out, with the lock and the
     /// rest as they are now.
-    static GuestWatch since(HostState& host, std::int64_t serial);
+    static GuestWatch since(HostState_s& host, std::int64_t serial);
     /// The same, with the lock free and everything else at rest.
-    static GuestWatch sinceRest(HostState& host, std::int64_t serial);
+    static GuestWatch sinceRest(HostState_s& host, std::int64_t serial);
 
     /// Adds a violation for each fault found, and puts the lock right, so that one
     /// guest's fault is not blamed on the next. Quick if nothing is held that was not held before.
@@ -25,11 +25,11 @@ public:
     void checkBalances() noexcept;
 
 private:
-    struct Counts {
+    struct Counts_s {
         std::int64_t serial, handles, blocks, entryLocks, guestLocks, undoStates, progressBars,
             timeDeferrers;
     };
-    GuestWatch(HostState& host, const Counts& before) : host_(host), before_(before) {}
+    GuestWatch(HostState_s& host, const Counts_s& before) : host_(host), before_(before) {}
 
     void report(void (GuestWatch::*reportThem)()) noexcept;
     void reportHandles();
@@ -39,8 +39,8 @@ private:
     void checkBalance(std::int64_t& now, std::int64_t before, const char* what);
     void checkEnded(std::int64_t now, std::int64_t before, const char* what);
 
-    HostState& host_;
-    Counts before_;
+    HostState_s& host_;
+    Counts_s before_;
 };
 
 } // namespace quorvia::host

@@ -15,7 +15,7 @@ constexpr std::size_t usualNumbers = 1024; // zones or variables told of at a ti
 
 } // namespace
 
-HostLog::HostLog() : spareText_(usualLength), spareNumbers_(usualNumbers) {
+HostLog_s::HostLog_s() : spareText_(usualLength), spareNumbers_(usualNumbers) {
     makeRoomIfPossible(messages, firstRoom);
     makeRoomIfPossible(stateChanges, firstRoom);
     makeRoomIfPossible(undo, firstRoom);
@@ -23,29 +23,29 @@ HostLog::HostLog() : spareText_(usualLength), spareNumbers_(usualNumbers) {
     makeRoomIfPossible(helpTargets, firstRoom);
 }
 
-bool HostLog::addMessage(MessageKind kind, std::string_view text,
-                         std::optional<bool> answer) noexcept {
+bool HostLog_s::addMessage(MessageKind_e kind, std::string_view text,
+                           std::optional<bool> answer) noexcept {
     return add(messages, {kind, copyOf(text), answer});
 }
 
-void HostLog::addStateChange(std::int32_t code, const std::set<std::int64_t>& members) noexcept {
+void HostLog_s::addStateChange(std::int32_t code, const std::set<std::int64_t>& members) noexcept {
     add(stateChanges, {code, copyOf(members)});
 }
 
-void HostLog::addUndo(const UndoEvent& event) noexcept {
+void HostLog_s::addUndo(const UndoEvent_s& event) noexcept {
     add(undo, event);
 }
 
-void HostLog::addAutoStyled(const std::set<std::int64_t>& zones) noexcept {
+void HostLog_s::addAutoStyled(const std::set<std::int64_t>& zones) noexcept {
     add(autoStyledZones, copyOf(zones));
 }
 
-void HostLog::addHelpTarget(std::string_view target) noexcept {
+void HostLog_s::addHelpTarget(std::string_view target) noexcept {
     add(helpTargets, copyOf(target));
 }
 
 template <typename Entry>
-bool HostLog::add(std::vector<Entry>& entries, Entry entry) noexcept {
+bool HostLog_s::add(std::vector<Entry>& entries, Entry entry) noexcept {
     makeRoomIfPossible(entries);
     if (!hasRoom(entries)) {
         ++lostEntries;
@@ -58,14 +58,14 @@ bool HostLog::add(std::vector<Entry>& entries, Entry entry) noexcept {
     return true;
 }
 
-std::string HostLog::copyOf(std::string_view text) noexcept {
+std::string HostLog_s::copyOf(std::string_view text) noexcept {
     std::string copy = spareText_.copyOf(text);
     if (copy.size() < text.size())
         ++lostEntries;
     return copy;
 }
 
-std::vector<std::int64_t> HostLog::copyOf(const std::set<std::int64_t>& numbers) noexcept {
+std::vector<std::int64_t> HostLog_s::copyOf(const std::set<std::int64_t>& numbers) noexcept {
     std::vector<std::int64_t> copy = spareNumbers_.copyOf(numbers);
     if (copy.size() < numbers.size())
         ++lostEntries;

@@ -15,36 +15,36 @@
 
 namespace quorvia::host {
 
-enum class MessageKind { Error, Information, Question };
+enum class MessageKind_e { Error, Information, Question };
 
-struct Message {
-    MessageKind kind = MessageKind::Error;
+struct Message_s {
+    MessageKind_e kind = MessageKind_e::Error;
     std::string text;
     std::optional<bool> answer; // of a question: true for OK or Yes
 };
 
-struct StateChange {
+struct StateChange_s {
     std::int32_t code = 0; // QuorStateChange_e
     std::vector<std::int64_t> members;
 };
 
-enum class UndoKind { Begin, End };
+enum class UndoKind_e { Begin, End };
 
-struct UndoEvent {
-    UndoKind kind = UndoKind::Begin;
+struct UndoEvent_s {
+    UndoKind_e kind = UndoKind_e::Begin;
     std::int32_t category = 0;   // of a begin
     std::optional<bool> success; // of an end
 };
 
-struct HostLog {
-    HostLog();
+struct HostLog_s {
+    HostLog_s();
 
-    std::vector<Message> messages;
-    TextLog progress;                      // every text that a progress bar showed
-    std::vector<std::string> instructions; // the list handed over last, also when it was refused
-    bool instructionsHandedOver = false;   // some list was handed over and the host took it
-    std::vector<StateChange> stateChanges; // told by the guest
-    std::vector<UndoEvent> undo;
+    std::vector<Message_s> messages;
+    TextLog progress;                        // every text that a progress bar showed
+    std::vector<std::string> instructions;   // the list handed over last, also when it was refused
+    bool instructionsHandedOver = false;     // some list was handed over and the host took it
+    std::vector<StateChange_s> stateChanges; // told by the guest
+    std::vector<UndoEvent_s> undo;
     std::int64_t redraws = 0;
     std::vector<std::vector<std::int64_t>> autoStyledZones; // one entry for each call
     std::vector<std::string> helpTargets;
@@ -52,7 +52,7 @@ struct HostLog {
     std::vector<std::string> violations;        // each begins with the operation's name
     std::vector<std::string> transcript; // one line for each call, while recording is switched on
 
-    // What there was no memory for, and nobody was told of yet (HostState::tellLosses).
+    // What there was no memory for, and nobody was told of yet (HostState_s::tellLosses).
     std::int64_t lostEntries = 0; // of the log, or parts of them
     std::int64_t lostViolations = 0;
     std::int64_t lostLines = 0; // of the transcript, or parts of them
@@ -60,9 +60,9 @@ struct HostLog {
     // None of these fails. Texts are copied.
 
     /// False: it could not be kept.
-    bool addMessage(MessageKind kind, std::string_view text, std::optional<bool> answer) noexcept;
+    bool addMessage(MessageKind_e kind, std::string_view text, std::optional<bool> answer) noexcept;
     void addStateChange(std::int32_t code, const std::set<std::int64_t>& members) noexcept;
-    void addUndo(const UndoEvent& event) noexcept;
+    void addUndo(const UndoEvent_s& event) noexcept;
     void addAutoStyled(const std::set<std::int64_t>& zones) noexcept;
     void addHelpTarget(std::string_view target) noexcept;
 

@@ -12,13 +12,13 @@
 namespace quorvia::host {
 
 /// What a progress bar shows at one moment.
-struct ProgressState {
+struct ProgressState_s {
     double fraction = 0.0; // of the whole bar, from 0 to 1; never goes back
     std::string text;      // the text shown last
     bool open = true;      // false once, when the bar closes
 };
 
-struct HostSettings {
+struct HostSettings_s {
     std::int32_t version = 1000377;  // what the host claims to be
     bool sharingAllowed = true;      // fields and node maps may be shared between zones
     bool refuseInstructions = false; // do not take the instructions that repeat a load
@@ -29,8 +29,8 @@ struct HostSettings {
     std::optional<std::vector<double>> timesFromFileNames;
     std::int64_t memoryLimitBytes = 0; // budget for values fetched on demand; 0 for none
     /// Called at each change of a progress bar, and for each message once it is answered.
-    std::function<void(const ProgressState&)> progressObserver;
-    std::function<void(const Message&)> messageObserver;
+    std::function<void(const ProgressState_s&)> progressObserver;
+    std::function<void(const Message_s&)> messageObserver;
 };
 
 } // namespace quorvia::host

@@ -4,32 +4,33 @@
 
 namespace quorvia::host {
 
-bool HostState::fetch(FieldStorage& storage) {
+bool HostState_s::fetch(FieldStorage& storage) {
     cache.setLimit(settings.memoryLimitBytes);
     return cache.fetch(storage);
 }
 
-void HostState::showMessage(MessageKind kind, std::string_view text, std::optional<bool> answer) {
-    const Message lost{kind, "Out of memory.", answer}; // so short a text needs none
+void HostState_s::showMessage(MessageKind_e kind, std::string_view text,
+                              std::optional<bool> answer) {
+    const Message_s lost{kind, "Out of memory.", answer}; // so short a text needs none
     const bool isKept = log.addMessage(kind, text, answer);
-    const auto shown = [&]() -> const Message& { return isKept ? log.messages.back() : lost; };
+    const auto shown = [&]() -> const Message_s& { return isKept ? log.messages.back() : lost; };
     show([&] {
         if (settings.messageObserver)
             settings.messageObserver(shown());
     });
     show([&] {
-        if (kind != MessageKind::Question)
-            user->read(shown().text, kind == MessageKind::Error);
+        if (kind != MessageKind_e::Question)
+            user->read(shown().text, kind == MessageKind_e::Error);
     });
 }
 
-void HostState::tellLosses() {
+void HostState_s::tellLosses() {
     if (log.lostViolations > 0)
         log.violations.push_back(
             joined("violations that could not be kept for want of memory: ", log.lostViolations));
     log.lostViolations = 0;
     if (log.lostEntries > 0)
-        log.messages.push_back({MessageKind::Error,
+        log.messages.push_back({MessageKind_e::Error,
                                 joined("The host had no memory to keep or to show all that "
                                        "happened (",
                                        log.lostEntries, " times)."),
@@ -41,7 +42,7 @@ void HostState::tellLosses() {
 }
 
 template <typename Show>
-void HostState::show(Show showIt) {
+void HostState_s::show(Show showIt) {
     try {
         showIt();
     } catch (const std::bad_alloc&) {
@@ -49,14 +50,14 @@ void HostState::show(Show showIt) {
     }
 }
 
-void HostState::tellSolutionTimes() {
+void HostState_s::tellSolutionTimes() {
     if (!solutionTimesChanged || timeDeferrers > 0)
         return;
     solutionTimesChanged = false;
     ++log.solutionTimeNotifications;
 }
 
-void HostState::callStateChangeCallbacks(std::int32_t code) {
+void HostState_s::callStateChangeCallbacks(std::int32_t code) {
     const std::size_t count = stateChangeCallbacks.size();
     for (std::size_t index = 0; index < count && index < stateChangeCallbacks.size(); ++index)
         stateChangeCallbacks[index](code);

@@ -14,7 +14,7 @@
 #include "checks/TextParts.h"
 #include "checks/Transcript.h"
 #include "model/FieldCache.h"
-#include "model/Frame.h"
+#include "model/FrameList.h"
 #include "state/HostLog.h"
 #include "state/HostSettings.h"
 #include "state/Loader.h"
@@ -23,9 +23,9 @@
 
 namespace quorvia::host {
 
-struct HostState {
-    HostSettings settings;
-    HostLog log;
+struct HostState_s {
+    HostSettings_s settings;
+    HostLog_s log;
     FaultPlan faults;
     Transcript transcript;
 
@@ -42,14 +42,17 @@ struct HostState {
     bool solutionTimesChanged = false; // and nobody was told yet
     std::string lastError;
 
-    std::vector<Loader> loaders;
+    std::vector<Loader_s> loaders;
     std::vector<QuorStateChangeCallback> stateChangeCallbacks;
     Toolkit toolkit;
     ScriptedUser script;
     User* user = &script; // never null
 
-    FieldCache cache; // outlives the frame, whose fields it counts
-    Frame frame;
+    FieldCache cache; // outlives the frames, whose fields it counts
+    FrameList frames;
+
+    /// The current one.
+    Frame& frame() const { return frames.current(); }
 
     std::int64_t lockDepth() const { return entryLockDepth + guestLockDepth; }
     /// A breach of the contract by the guest, put together from parts (checks/TextParts). Needs no
@@ -78,7 +81,7 @@ struct HostState {
     bool fetch(FieldStorage& storage);
     /// Logs the message; a text that only tells is shown to the user, a question was. Needs no
     /// memory of the host's.
-    void showMessage(MessageKind kind, std::string_view text,
+    void showMessage(MessageKind_e kind, std::string_view text,
                      std::optional<bool> answer = std::nullopt);
     void tellSolutionTimes();
     /// Those that are there now; one that a callback adds is not called.
@@ -90,6 +93,6 @@ private:
 };
 
 /// The state of the one host.
-HostState& hostState();
+HostState_s& hostState();
 
 } // namespace quorvia::host

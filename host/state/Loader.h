@@ -7,7 +7,7 @@
 
 namespace quorvia::host {
 
-struct Loader {
+struct Loader_s {
     std::string name;
     std::string fileNameExtensions;
     bool allowsSeveralFiles = false;

@@ -5,22 +5,22 @@
 namespace quorvia::host {
 namespace {
 
-constexpr unsigned kBits = 7; // of a number in each byte; the eighth says that more follow
+constexpr unsigned bits = 7; // of a number in each byte; the eighth says that more follow
 
 void putNumber(std::string& packed, std::size_t number) {
-    constexpr std::size_t kMore = std::size_t{1} << kBits;
-    for (; number >= kMore; number >>= kBits)
-        packed += static_cast<char>(number % kMore + kMore);
+    constexpr std::size_t more = std::size_t{1} << bits;
+    for (; number >= more; number >>= bits)
+        packed += static_cast<char>(number % more + more);
     packed += static_cast<char>(number);
 }
 
 std::size_t takeNumber(const std::string& packed, std::size_t& place) {
-    constexpr unsigned kMore = 1U << kBits;
+    constexpr unsigned more = 1U << bits;
     std::size_t number = 0;
-    for (unsigned shift = 0;; shift += kBits) {
+    for (unsigned shift = 0;; shift += bits) {
         const auto byte = static_cast<unsigned char>(packed[place++]);
-        number += static_cast<std::size_t>(byte % kMore) << shift;
-        if (byte < kMore)
+        number += static_cast<std::size_t>(byte % more) << shift;
+        if (byte < more)
             return number;
     }
 }
@@ -47,7 +47,7 @@ void TextLog::add(std::string_view text) {
 
 void TextLog::makeRoomFor(std::string_view text) {
     constexpr std::size_t leastCapacity = 32 * 1024;
-    constexpr std::size_t mostBytesOfNumbers = 3 * (64 / kBits + 1);
+    constexpr std::size_t mostBytesOfNumbers = 3 * (64 / bits + 1);
     const std::size_t needed = packed_.size() + mostBytesOfNumbers + text.size();
     if (packed_.capacity() < needed)
         packed_.reserve(std::max({needed, 2 * packed_.capacity(), leastCapacity}));

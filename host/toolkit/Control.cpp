@@ -2,23 +2,23 @@
 
 namespace quorvia::host {
 
-std::string_view wordFor(ControlKind kind) {
+std::string_view wordFor(ControlKind_e kind) {
     switch (kind) {
-    case ControlKind::Frame:
+    case ControlKind_e::Frame:
         return "frame";
-    case ControlKind::Label:
+    case ControlKind_e::Label:
         return "label";
-    case ControlKind::Toggle:
+    case ControlKind_e::Toggle:
         return "toggle";
-    case ControlKind::Button:
+    case ControlKind_e::Button:
         return "button";
-    case ControlKind::List:
+    case ControlKind_e::List:
         return "list";
-    case ControlKind::TextField:
+    case ControlKind_e::TextField:
         return "textField";
-    case ControlKind::RadioBox:
+    case ControlKind_e::RadioBox:
         return "radioBox";
-    case ControlKind::OptionMenu:
+    case ControlKind_e::OptionMenu:
         return "optionMenu";
     }
     return "";

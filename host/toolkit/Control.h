@@ -12,14 +12,14 @@
 
 namespace quorvia::host {
 
-enum class ControlKind { Frame, Label, Toggle, Button, List, TextField, RadioBox, OptionMenu };
+enum class ControlKind_e { Frame, Label, Toggle, Button, List, TextField, RadioBox, OptionMenu };
 
 /// "frame", "label" and so on, "textField" for two words.
-std::string_view wordFor(ControlKind kind);
+std::string_view wordFor(ControlKind_e kind);
 
 /// In layout units, from the upper left corner of the dialog or page: x to the right, y down.
 /// Labels have no width and height (0).
-struct Geometry {
+struct Geometry_s {
     std::int32_t x = 0;
     std::int32_t y = 0;
     std::int32_t width = 0;
@@ -30,12 +30,12 @@ struct Geometry {
 using ControlCallback =
     std::variant<std::monostate, QuorGUICallback, QuorGUIValueCallback, QuorGUITextCallback>;
 
-struct Control {
+struct Control_s {
     std::int32_t id = QuorGUIId_None;
     std::int32_t parent = QuorGUIId_None; ///< a dialog or a page
-    ControlKind kind = ControlKind::Label;
+    ControlKind_e kind = ControlKind_e::Label;
     std::string caption; ///< with its blanks; empty for lists, fields, radio boxes and menus
-    Geometry geometry;
+    Geometry_s geometry;
     std::vector<std::string> items; ///< of a list, radio box or option menu
     std::int32_t value = 0;         ///< of a toggle 0 or 1; of a radio box or menu the item, from 1
     std::string text;               ///< of a text field

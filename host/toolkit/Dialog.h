@@ -11,24 +11,24 @@
 
 namespace quorvia::host {
 
-struct Page {
+struct Page_s {
     std::int32_t id = QuorGUIId_None;
     std::string caption;
 };
 
-struct TabControl {
+struct TabControl_s {
     std::int32_t id = QuorGUIId_None;
-    Geometry geometry;
-    std::vector<Page> pages;                 ///< in their order
+    Geometry_s geometry;
+    std::vector<Page_s> pages;               ///< in their order
     std::int32_t frontPage = QuorGUIId_None; ///< the one that is seen; the first once there is one
     QuorGUIValueCallback activate = nullptr;
     QuorGUIValueCallback deactivate = nullptr;
 };
 
 /// The buttons at the foot of a dialog. Those without a callback are not there.
-enum class DialogButton { Ok, Apply, Cancel, Help };
+enum class DialogButton_e { Ok, Apply, Cancel, Help };
 
-struct Dialog {
+struct Dialog_s {
     std::int32_t id = QuorGUIId_None;
     std::int32_t parent = QuorGUIId_MainWindow;
     std::int32_t width = 0; ///< layout units, without the row of buttons
@@ -41,8 +41,8 @@ struct Dialog {
     QuorGUICallback help = nullptr;
     QuorGUICallback maker =
         nullptr; ///< any callback of the guest that made it; null if it has none
-    std::optional<TabControl> tabs;
-    std::vector<Control> controls;       ///< in the order in which they were made
+    std::optional<TabControl_s> tabs;
+    std::vector<Control_s> controls;     ///< in the order in which they were made
     std::int32_t focus = QuorGUIId_None; ///< the control that gets the next key
     bool open = false;                   ///< from a launch until it is dropped
     std::int64_t lastLaunch = 0; ///< which launch of any dialog was its last, from 1; 0 for none

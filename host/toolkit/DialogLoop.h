@@ -14,12 +14,12 @@ namespace quorvia::host {
 /// cancel callback is dropped by Cancel. What a callback throws passes through, and leaves the
 /// dialog closed. False: the host had no memory for what the user did, and Cancel was pressed
 /// instead.
-bool launch(Toolkit& toolkit, Dialog& dialog, User& user);
+bool launch(Toolkit& toolkit, Dialog_s& dialog, User& user);
 
 /// Hides an open dialog.
-void drop(Dialog& dialog, User& user);
+void drop(Dialog_s& dialog, User& user);
 
 /// Why the user can't do this at the dialog now, in words; empty if nothing is against it.
-std::string whyImpossible(const Dialog& dialog, const DialogAction& action);
+std::string whyImpossible(const Dialog_s& dialog, const DialogAction& action);
 
 } // namespace quorvia::host

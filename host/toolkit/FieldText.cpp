@@ -60,17 +60,17 @@ private:
     std::string_view rest_;
 };
 
-struct Range {
+struct Range_s {
     std::int64_t first = 1;
     std::int64_t last = 1;
     std::int64_t step = 1;
 };
 
-std::optional<Range> readRange(SetReader& reader) {
+std::optional<Range_s> readRange(SetReader& reader) {
     const std::optional<std::int64_t> first = reader.number();
     if (!first)
         return std::nullopt;
-    Range range{*first, *first, 1};
+    Range_s range{*first, *first, 1};
     if (!reader.consume('-'))
         return range;
     const std::optional<std::int64_t> last = reader.number();
@@ -122,7 +122,7 @@ std::optional<std::set<std::int64_t>> readSet(std::string_view text, std::string
     SetReader reader(text);
     std::int64_t count = 0;
     while (!reader.atEnd()) {
-        const std::optional<Range> range = readRange(reader);
+        const std::optional<Range_s> range = readRange(reader);
         if (!range) {
             why = "is not a set of whole numbers from 1, such as 1-5,7,12";
             return std::nullopt;

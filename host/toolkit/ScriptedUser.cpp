@@ -9,7 +9,7 @@ namespace quorvia::host {
 
 namespace {
 
-constexpr PressDialogButton cancel{DialogButton::Cancel};
+constexpr PressDialogButton_s cancel{DialogButton_e::Cancel};
 
 } // namespace
 
@@ -65,12 +65,12 @@ bool ScriptedUser::isDoneWithoutDialog(ScriptEntry& entry) {
     return !std::holds_alternative<DialogStep>(entry);
 }
 
-DialogAction ScriptedUser::playOn(const Dialog& dialog) {
+DialogAction ScriptedUser::playOn(const Dialog_s& dialog) {
     while (!script_.empty()) {
         ScriptEntry entry = takeEntry();
         if (isDoneWithoutDialog(entry))
             continue;
-        DialogMove move = std::get<DialogStep>(entry)(dialog);
+        DialogMove_s move = std::get<DialogStep>(entry)(dialog);
         if (move.action.has_value() && move.problem.empty())
             move.problem = whyImpossible(dialog, *move.action);
         if (!move.problem.empty()) {
@@ -88,7 +88,7 @@ DialogAction ScriptedUser::playOn(const Dialog& dialog) {
     return cancel;
 }
 
-DialogAction ScriptedUser::nextAction(const Dialog& dialog) {
+DialogAction ScriptedUser::nextAction(const Dialog_s& dialog) {
     try {
         return playOn(dialog);
     } catch (const std::bad_alloc&) { // the rest would be played at another place than was meant
@@ -107,7 +107,7 @@ bool ScriptedUser::answer(const std::string& question) {
     return answer;
 }
 
-FileChoice ScriptedUser::chooseFiles(const FileRequest& request) {
+FileChoice ScriptedUser::chooseFiles(const FileRequest_s& request) {
     (void)request; // likewise
     if (fileChoices_.empty() && !script_.empty() &&
         std::holds_alternative<FileChoice>(script_.front()))

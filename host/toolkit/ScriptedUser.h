@@ -15,14 +15,14 @@
 namespace quorvia::host {
 
 /// What a step makes of the dialog that it finds: an action, or why it can't be done.
-struct DialogMove {
+struct DialogMove_s {
     std::optional<DialogAction> action;
     std::string problem;
     bool isOnlyTheWay = false; // behind this action the step is called again
 };
 
 /// Called once the dialog waits for the user.
-using DialogStep = std::function<DialogMove(const Dialog&)>;
+using DialogStep = std::function<DialogMove_s(const Dialog_s&)>;
 
 /// Whole paths for the next file chooser; none for Cancel.
 using FileChoice = std::vector<std::string>;
@@ -54,12 +54,12 @@ public:
     /// How many dialogs the script left open, so that they were cancelled.
     std::int64_t cancelledDialogs() const { return cancelledDialogs_; }
 
-    DialogAction nextAction(const Dialog& dialog) override;
+    DialogAction nextAction(const Dialog_s& dialog) override;
     bool answer(const std::string& question) override;
-    FileChoice chooseFiles(const FileRequest& request) override;
+    FileChoice chooseFiles(const FileRequest_s& request) override;
 
 private:
-    DialogAction playOn(const Dialog& dialog);
+    DialogAction playOn(const Dialog_s& dialog);
     ScriptEntry takeEntry();
     /// Does what the entry says if it is no step of a dialog.
     bool isDoneWithoutDialog(ScriptEntry& entry);

@@ -12,7 +12,7 @@
 namespace quorvia::host {
 
 /// What a guest asks files for.
-struct FileRequest {
+struct FileRequest_s {
     bool severalFiles = false;
     std::string kind;        ///< a word for the files, such as "Grid"
     std::string defaultName; ///< empty for none
@@ -25,21 +25,21 @@ public:
 
     /// The next thing that the user does at the open dialog; waits until there is one. What can't
     /// be done (a control that is not sensitive, or not on the front page) is passed over.
-    virtual DialogAction nextAction(const Dialog& dialog) = 0;
+    virtual DialogAction nextAction(const Dialog_s& dialog) = 0;
     /// True for OK or Yes.
     virtual bool answer(const std::string& question) = 0;
     /// Whole paths; none for Cancel.
-    virtual std::vector<std::string> chooseFiles(const FileRequest& request) = 0;
+    virtual std::vector<std::string> chooseFiles(const FileRequest_s& request) = 0;
 
     // What a window needs to draw. The dialog and its controls are borrowed for the call.
 
-    virtual void dialogShown(const Dialog& dialog) { (void)dialog; }
-    virtual void dialogDropped(const Dialog& dialog) { (void)dialog; }
-    virtual void pageShown(const Dialog& dialog) { (void)dialog; }
-    virtual void controlChanged(const Dialog& dialog, const Control& control) {
+    virtual void dialogShown(const Dialog_s& dialog) { (void)dialog; }
+    virtual void dialogDropped(const Dialog_s& dialog) { (void)dialog; }
+    virtual void pageShown(const Dialog_s& dialog) { (void)dialog; }
+    virtual void controlChanged(const Dialog_s& dialog, const Control_s& control) {
         (void)dialog, (void)control;
     }
-    virtual void focusMoved(const Dialog& dialog) { (void)dialog; }
+    virtual void focusMoved(const Dialog_s& dialog) { (void)dialog; }
     /// A text that only tells: an error or information. Returns when the user has read it.
     virtual void read(const std::string& text, bool isError) { (void)text, (void)isError; }
     virtual void showHelp(const std::string& target) { (void)target; }

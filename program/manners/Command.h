@@ -5,6 +5,7 @@
 #include <memory>
 #include <stop_token>
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -45,8 +46,15 @@ public:
     virtual const char* purpose() const = 0;
     /// Two or more whole command lines with what they do, for the end of the help text.
     virtual const char* examples() const = 0;
+    /// What exit code 1 means, for the help text: "a file is refused".
+    virtual const char* failureMeans() const { return "refused or failed"; }
     /// Adds options and files to the command's own part of the command line; they are kept here.
+    /// Descriptions are plain sentences, broken into lines by whoever shows them. A type name such
+    /// as "always|never|auto" offers these words to the shell, FILE and FOLDER the names of files.
     virtual void declare(CLI::App& app) = 0;
+    /// Takes out of the arguments what the parser can't understand, before it sees them: the files
+    /// behind `--`, where a command has two lists of them.
+    virtual void takeApart(std::vector<std::string>& /*arguments*/) {}
     /// Runs with what was declared. Gives an ExitCode_e. What a plot3d::Error says is told by the
     /// caller of all commands, which knows the exit code of its kind.
     virtual int run(const Surroundings_s& surroundings) = 0;

@@ -14,21 +14,28 @@ namespace plot3d::program {
 
 class DataArguments {
 public:
-    /// Adds the options; they are kept here. `separate` names none of the files as positional
-    /// arguments, for commands with two data sets.
+    /// Adds files and options; they are kept here.
     void declare(CLI::App& app);
+    /// Without the files and their kinds: for commands with two data sets, which take the files
+    /// themselves.
+    void declareOptions(CLI::App& app);
+
     /// Opens what was named, with progress, and tells its notes as warnings. Throws plot3d::Error.
     DataSet open(const Surroundings_s& surroundings) const;
     /// The same for one list of files with the other options as they are.
     DataSet open(const std::vector<std::string>& files, const Surroundings_s& surroundings) const;
-    /// The files as named, with `-` replaced by what standard input lists.
+    /// The files as named, of all kinds, with `-` replaced by what standard input lists.
     std::vector<std::string> files(const Surroundings_s& surroundings) const;
 
 private:
-    std::vector<std::string> files_;
+    OpenOptions options() const;
+
+    std::vector<std::string> files_; // of kinds that their names or bytes tell
     FileLists lists_;
     std::vector<std::string> settings_; // KEY=VALUE
-    OpenOptions options_;
+    std::string nameFile_;
+    bool sharesStructure_ = false;
+    bool leavesOutBoundaries_ = false;
 };
 
 } // namespace plot3d::program

@@ -1,9 +1,8 @@
 // Which part of a data set a command works on: variables, zones, times, points, and what becomes of
-// blanked points.
+// blanked points. docs/selection.md tells it to users.
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,32 +10,42 @@
 #include <plot3d/DataSet.h>
 
 #include "manners/Command.h"
+#include "selection/SelectedZone.h"
 
 namespace plot3d::program {
 
-/// As the user writes it: indices from 1, ends included.
+/// As the user writes it: indices from 1 (or from the end: -1 is the last), ends included. What
+/// can't be understood is refused while the command line is read.
 class SelectionArguments {
 public:
     /// --variable, --zone, --time, --i, --j, --k, --point, --blank.
     void declare(CLI::App& app);
+    /// The first of these alone.
+    void declareVariable(CLI::App& app);
 
     /// Indices from 0, ascending. Throws plot3d::Error (Usage) for a pattern or number that meets
     /// nothing, with the names that are there.
     std::vector<std::size_t> variables(const DataSet& data) const;
+    /// Likewise: the zones of --zone that are seen at a time of --time.
     std::vector<std::size_t> zones(const DataSet& data) const;
     /// The box that --i, --j, --k or --point select in a zone; nothing if it holds no point of it.
     /// Of an unstructured zone its nodes along I.
     std::optional<Box> box(const Zone& zone) const;
+    /// The boxes of zones(), without zones that hold no selected point. Throws plot3d::Error
+    /// (Usage) if none does.
+    std::vector<SelectedZone_s> selectedZones(const DataSet& data) const;
     /// Whether points whose I-blank is 0 are left out.
-    bool skipsBlanked() const { return skipsBlanked_; }
+    bool skipsBlanked() const { return blank_ == "skip"; }
 
 private:
+    std::vector<std::size_t> zonesAtTimes(const DataSet& data) const;
+
     std::string variables_; // patterns with * and ?, separated by commas; empty: all
     std::string zones_;     // "1,3-5"; empty: all
     std::string times_;     // "0.5" or "0.5:2" or "last"; empty: all
-    std::string i_, j_, k_; // "FIRST,LAST,STEP"
-    std::string point_;     // "I,J,K"
-    bool skipsBlanked_ = true;
+    std::string i_, j_, k_; // "FIRST,LAST,STEP"; empty: all
+    std::string point_;     // "I,J,K"; empty: none
+    std::string blank_ = "skip";
 };
 
 /// The variable that holds I-blank; nothing if the data set has none.

@@ -17,7 +17,8 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-struct EndClientData {
+class EndClientData {
+public:
     void operator()(Plot3DBoundaryClientData_s* data) const {
         data->~Plot3DBoundaryClientData_s();
         char* block = static_cast<char*>(static_cast<void*>(data));
@@ -177,7 +178,7 @@ Plot3DBoundaryRanges_s boundaryRanges(const Plot3DBoundary_s& boundary, std::int
 
 Plot3DSharedFile copyForFields(const Plot3DFile_s& file) {
     Plot3DFilePtr copy;
-    copyPlot3DFile(file, copy, file.fileName.str()); // null if it fails
+    static_cast<void>(copyPlot3DFile(file, copy, file.fileName.str())); // null if it fails
     return copy;
 }
 

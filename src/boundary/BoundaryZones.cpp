@@ -41,13 +41,13 @@ bool labelZone(std::int32_t zone, const char* boundaryName) {
     const QuorAuxDataHandle auxData = QuorUtilAuxDataZoneGetRef(zone);
     if (auxData == nullptr)
         return true;
-    setAuxDataItem(auxData, "Common.IsBoundaryZone", "Y");
+    static_cast<void>(setAuxDataItem(auxData, "Common.IsBoundaryZone", "Y"));
     const HostString condition(
         QuorUtilStringAlloc(boundaryConditionSize, "Boundary Type Condition"));
     if (!condition)
         return false;
     classifyBoundary(boundaryName, condition.get());
-    setAuxDataItem(auxData, "Common.BoundaryCondition", condition.get());
+    static_cast<void>(setAuxDataItem(auxData, "Common.BoundaryCondition", condition.get()));
     return true;
 }
 

@@ -15,7 +15,7 @@ namespace {
 using Files = std::vector<std::string>;
 
 /// What tells one column from another.
-struct Column {
+struct Column_s {
     const char* fileTypeWord; // what the host's file chooser calls the files
     Files Plot3DLoadOptions_s::*files;
     std::int32_t& list;
@@ -25,12 +25,12 @@ struct Column {
     Files& chosen() const { return gLoadOptions.*files; }
 };
 
-constexpr Column gridColumn = {"Grid", &Plot3DLoadOptions_s::gridFiles, gridList,
-                               gridRemoveSelected, gridRemoveAll};
-constexpr Column solutionColumn = {"Solution", &Plot3DLoadOptions_s::solutionFiles, solutionList,
-                                   solutionRemoveSelected, solutionRemoveAll};
-constexpr Column functionColumn = {"Function", &Plot3DLoadOptions_s::functionFiles, functionList,
-                                   functionRemoveSelected, functionRemoveAll};
+constexpr Column_s gridColumn = {"Grid", &Plot3DLoadOptions_s::gridFiles, gridList,
+                                 gridRemoveSelected, gridRemoveAll};
+constexpr Column_s solutionColumn = {"Solution", &Plot3DLoadOptions_s::solutionFiles, solutionList,
+                                     solutionRemoveSelected, solutionRemoveAll};
+constexpr Column_s functionColumn = {"Function", &Plot3DLoadOptions_s::functionFiles, functionList,
+                                     functionRemoveSelected, functionRemoveAll};
 
 /// The selected positions of a list, from 1 and ascending.
 class SelectedItems {
@@ -95,21 +95,21 @@ bool addFilesToList(const char* fileTypeWord, Files& files) {
     return true;
 }
 
-template <const Column& column>
+template <const Column_s& column>
 void itemSelected(const std::int32_t*) {
     const HostLock lock(addOnID);
     const SelectedItems selected(column.list);
     QuorGUISetSensitivity(column.removeSelected, selected.count() > 0);
 }
 
-template <const Column& column>
+template <const Column_s& column>
 void removeSelectedPressed() {
     const HostLock lock(addOnID);
     removeSelectedFiles(column.list, column.chosen());
     refreshFileSelectionPage(gLoadOptions);
 }
 
-template <const Column& column>
+template <const Column_s& column>
 void removeAllPressed() {
     const HostLock lock(addOnID);
     column.chosen().clear();
@@ -117,7 +117,7 @@ void removeAllPressed() {
     refreshFileSelectionPage(gLoadOptions);
 }
 
-template <const Column& column>
+template <const Column_s& column>
 void addFilesPressed() {
     const HostLock lock(addOnID);
     if (runWithinMemory([] { return addFilesToList(column.fileTypeWord, column.chosen()); }))

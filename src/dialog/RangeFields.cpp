@@ -12,7 +12,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 /// What tells one field from another.
-struct RangeField {
+struct RangeField_s {
     std::int32_t& control;
     const char* name;      // as the toolkit's message calls the field
     const char* rangeName; // as our own calls the range; null for a skip, which no end can precede
@@ -28,20 +28,20 @@ constexpr auto start = &Plot3DIndexRange_s::start;
 constexpr auto end = &Plot3DIndexRange_s::end;
 constexpr auto skip = &Plot3DIndexRange_s::skip;
 
-constexpr RangeField iStart = {iStartField, "I-Start", "I-Range", iRange, start};
-constexpr RangeField iEnd = {iEndField, "I-End", "I-Range", iRange, end};
-constexpr RangeField iSkip = {iSkipField, "I-Skip", nullptr, iRange, skip};
-constexpr RangeField jStart = {jStartField, "J-Start", "J-Range", jRange, start};
-constexpr RangeField jEnd = {jEndField, "J-End", "J-Range", jRange, end};
-constexpr RangeField jSkip = {jSkipField, "J-Skip", nullptr, jRange, skip};
-constexpr RangeField kStart = {kStartField, "K-Start", "K-Range", kRange, start};
+constexpr RangeField_s iStart = {iStartField, "I-Start", "I-Range", iRange, start};
+constexpr RangeField_s iEnd = {iEndField, "I-End", "I-Range", iRange, end};
+constexpr RangeField_s iSkip = {iSkipField, "I-Skip", nullptr, iRange, skip};
+constexpr RangeField_s jStart = {jStartField, "J-Start", "J-Range", jRange, start};
+constexpr RangeField_s jEnd = {jEndField, "J-End", "J-Range", jRange, end};
+constexpr RangeField_s jSkip = {jSkipField, "J-Skip", nullptr, jRange, skip};
+constexpr RangeField_s kStart = {kStartField, "K-Start", "K-Range", kRange, start};
 // Alone among the fields this one finishes a lock that it did not start, and is to stay so.
-constexpr RangeField kEnd = {kEndField, "K-End", "K-Range", kRange, end, false};
-constexpr RangeField kSkip = {kSkipField, "K-Skip", nullptr, kRange, skip};
+constexpr RangeField_s kEnd = {kEndField, "K-End", "K-Range", kRange, end, false};
+constexpr RangeField_s kSkip = {kSkipField, "K-Skip", nullptr, kRange, skip};
 
 class LockOfField {
 public:
-    explicit LockOfField(const RangeField& field) {
+    explicit LockOfField(const RangeField_s& field) {
         if (field.startsLock)
             QuorUtilLockStart(addOnID);
     }
@@ -50,7 +50,7 @@ public:
     LockOfField& operator=(const LockOfField&) = delete;
 };
 
-bool readIndex(const RangeField& field, std::int64_t& value) {
+bool readIndex(const RangeField_s& field, std::int64_t& value) {
     constexpr std::int64_t largestIndex = std::numeric_limits<std::int32_t>::max();
     constexpr bool zeroIsLast = false;
     return QuorGUITextFieldValidateLgIndex(field.control, field.name, 1, largestIndex,
@@ -59,7 +59,7 @@ bool readIndex(const RangeField& field, std::int64_t& value) {
 }
 
 /// False: the value does not stand, and the user was told.
-bool storeIndex(const RangeField& field) {
+bool storeIndex(const RangeField_s& field) {
     std::int64_t value = 0;
     if (!readIndex(field, value))
         return false;
@@ -73,11 +73,11 @@ bool storeIndex(const RangeField& field) {
     return false;
 }
 
-void showIndex(const RangeField& field, bool zeroIsLast) {
+void showIndex(const RangeField_s& field, bool zeroIsLast) {
     QuorGUITextFieldSetLgIndex(field.control, gLoadOptions.*field.range.*field.member, zeroIsLast);
 }
 
-template <const RangeField& field>
+template <const RangeField_s& field>
 bool indexTyped(const char*) {
     constexpr bool zeroIsLast = false;
     const LockOfField lock(field);
@@ -102,7 +102,7 @@ void buildRangeFields(PageBuilder& page) {
 }
 
 void refreshRangeFields(const Plot3DLoadOptions_s& options) {
-    for (const RangeField* field :
+    for (const RangeField_s* field :
          {&iStart, &iEnd, &iSkip, &jStart, &jEnd, &jSkip, &kStart, &kEnd, &kSkip}) {
         const bool zeroIsLast = field->member == end;
         QuorGUITextFieldSetLgIndex(field->control, options.*field->range.*field->member,

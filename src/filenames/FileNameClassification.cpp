@@ -13,21 +13,21 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-enum class FileKind { Grid, Solution, Function, Name, Unrecognised };
+enum class FileKind_e { Grid, Solution, Function, Name, Unrecognised };
 
 /// One matcher for each kind. The order of the questions settles names that look like two kinds.
 class FileNameSorter {
 public:
-    FileKind kindOf(const std::string& fileName) const {
+    FileKind_e kindOf(const std::string& fileName) const {
         if (grid_.matches(fileName))
-            return FileKind::Grid;
+            return FileKind_e::Grid;
         if (solution_.matches(fileName))
-            return FileKind::Solution;
+            return FileKind_e::Solution;
         if (function_.matches(fileName))
-            return FileKind::Function;
+            return FileKind_e::Function;
         if (name_.matches(fileName))
-            return FileKind::Name;
-        return FileKind::Unrecognised;
+            return FileKind_e::Name;
+        return FileKind_e::Unrecognised;
     }
 
 private:
@@ -83,16 +83,16 @@ bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gri
             return false;
         }
         switch (sorter.kindOf(*fileName)) {
-        case FileKind::Grid:
+        case FileKind_e::Grid:
             gridFiles.push_back(path);
             break;
-        case FileKind::Solution:
+        case FileKind_e::Solution:
             solutionFiles.push_back(path);
             break;
-        case FileKind::Function:
+        case FileKind_e::Function:
             functionFiles.push_back(path);
             break;
-        case FileKind::Name:
+        case FileKind_e::Name:
             if (nameFile.empty()) {
                 nameFile = path;
             } else {
@@ -100,7 +100,7 @@ bool classifyFileNames(QuorStringListHandle names, std::vector<std::string>& gri
                 result = false;
             }
             break;
-        case FileKind::Unrecognised:
+        case FileKind_e::Unrecognised:
             unrecognisedExtensions.insert(extensionOf(*fileName));
             break;
         }

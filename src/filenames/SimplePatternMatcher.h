@@ -10,17 +10,20 @@
 namespace quorvia::quorutildataio {
 
 // The comparisons, byte by byte. Each takes the text and the pattern without its stars.
-struct StartsWith {
+class StartsWith {
+public:
     bool operator()(const std::string& text, const std::string& pattern) const {
         return text.starts_with(pattern);
     }
 };
-struct EndsWith {
+class EndsWith {
+public:
     bool operator()(const std::string& text, const std::string& pattern) const {
         return text.ends_with(pattern);
     }
 };
-struct Contains {
+class Contains {
+public:
     bool operator()(const std::string& text, const std::string& pattern) const {
         return text.find(pattern) != std::string::npos;
     }

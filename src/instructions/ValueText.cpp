@@ -46,13 +46,13 @@ bool consume(const char*& cursor, char wanted) {
     return true;
 }
 
-struct SetItem {
+struct SetItem_s {
     std::int64_t first = 0;
     std::int64_t last = 0;
     std::int64_t skip = 1;
 };
 
-bool readSetItem(const char*& cursor, SetItem& item) {
+bool readSetItem(const char*& cursor, SetItem_s& item) {
     if (!readPositiveInteger(cursor, item.first))
         return false;
     item.last = item.first;
@@ -63,8 +63,8 @@ bool readSetItem(const char*& cursor, SetItem& item) {
     return !consume(cursor, ':') || readPositiveInteger(cursor, item.skip);
 }
 
-bool addSetItem(QuorSetHandle set, const SetItem& item) {
-    // The host would refuse the last member, after milliards of others.
+bool addSetItem(QuorSetHandle set, const SetItem_s& item) {
+    // The host would refuse the last member, after billions of others.
     if (item.last - (item.last - item.first) % item.skip > largestMember)
         return false;
     for (std::int64_t member = item.first; member <= item.last; member += item.skip)
@@ -85,7 +85,7 @@ bool readSetItems(const char* cursor, QuorSetHandle set, bool withBrackets) {
     if (withBrackets && !consume(cursor, '['))
         return false;
     while (!isEndOfItems(cursor, withBrackets)) {
-        SetItem item;
+        SetItem_s item;
         if (!readSetItem(cursor, item) || !addSetItem(set, item))
             return false;
         consume(cursor, ',');

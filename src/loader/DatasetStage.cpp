@@ -212,7 +212,8 @@ bool DatasetStage::adjustZones() {
     if (!doesSolutionFit())
         return false;
     // A zone that keeps its old name is no reason to stop.
-    adjustExistingZones(context.zonesPerTimeStep, first, options, context.existingZoneCount);
+    static_cast<void>(
+        adjustExistingZones(context.zonesPerTimeStep, first, options, context.existingZoneCount));
     if (!confirmZones())
         return false;
     varsAltered = HostSet(QuorUtilSetAlloc(showErrors));

@@ -19,89 +19,92 @@ struct FileCounts_s {
 
 using Counts = const FileCounts_s&;
 
-enum class Steps { None, One, PerGrid, PerSolution, PerFunction };
+enum class Steps_e { None, One, PerGrid, PerSolution, PerFunction };
 
 /// What one time step takes of a list of files.
-enum class Take { Nothing, First, ItsOwn, All };
+enum class Take_e { Nothing, First, ItsOwn, All };
 
 struct PairingRule_s {
     bool (*fits)(Counts n);
-    Steps steps;
-    Take grid;
-    Take solution;
-    Take functions;
+    Steps_e steps;
+    Take_e grid;
+    Take_e solution;
+    Take_e functions;
 };
 
 // The first rule that fits decides. Those without time steps are for counts that were refused when
 // the names were counted.
 constexpr PairingRule_s pairingRules[] = {
     // no solution files
-    {[](Counts n) { return n.s == 0 && n.f == 0; }, Steps::PerGrid, Take::ItsOwn, Take::Nothing,
-     Take::Nothing},
-    {[](Counts n) { return n.g > 1 && n.s == 0 && n.f > n.g; }, Steps::None, Take::Nothing,
-     Take::Nothing, Take::Nothing},
-    {[](Counts n) { return n.g > 1 && n.s == 0; }, Steps::PerFunction, Take::ItsOwn, Take::Nothing,
-     Take::ItsOwn},
-    {[](Counts n) { return n.g == 1 && n.s == 0 && n.hasTimes; }, Steps::PerFunction, Take::First,
-     Take::Nothing, Take::ItsOwn},
-    {[](Counts n) { return n.g == 1 && n.s == 0; }, Steps::One, Take::First, Take::Nothing,
-     Take::All},
-    {[](Counts n) { return n.g == 0 && n.s == 0; }, Steps::PerFunction, Take::Nothing,
-     Take::Nothing, Take::ItsOwn},
+    {[](Counts n) { return n.s == 0 && n.f == 0; }, Steps_e::PerGrid, Take_e::ItsOwn,
+     Take_e::Nothing, Take_e::Nothing},
+    {[](Counts n) { return n.g > 1 && n.s == 0 && n.f > n.g; }, Steps_e::None, Take_e::Nothing,
+     Take_e::Nothing, Take_e::Nothing},
+    {[](Counts n) { return n.g > 1 && n.s == 0; }, Steps_e::PerFunction, Take_e::ItsOwn,
+     Take_e::Nothing, Take_e::ItsOwn},
+    {[](Counts n) { return n.g == 1 && n.s == 0 && n.hasTimes; }, Steps_e::PerFunction,
+     Take_e::First, Take_e::Nothing, Take_e::ItsOwn},
+    {[](Counts n) { return n.g == 1 && n.s == 0; }, Steps_e::One, Take_e::First, Take_e::Nothing,
+     Take_e::All},
+    {[](Counts n) { return n.g == 0 && n.s == 0; }, Steps_e::PerFunction, Take_e::Nothing,
+     Take_e::Nothing, Take_e::ItsOwn},
     // solution files without grid files
-    {[](Counts n) { return n.g == 0 && n.s == n.f; }, Steps::PerSolution, Take::Nothing,
-     Take::ItsOwn, Take::ItsOwn},
-    {[](Counts n) { return n.g == 0 && n.s == 1; }, Steps::One, Take::Nothing, Take::First,
-     Take::All},
-    {[](Counts n) { return n.g == 0 && n.f == 0; }, Steps::PerSolution, Take::Nothing, Take::ItsOwn,
-     Take::Nothing},
-    {[](Counts n) { return n.g == 0; }, Steps::None, Take::Nothing, Take::Nothing, Take::Nothing},
+    {[](Counts n) { return n.g == 0 && n.s == n.f; }, Steps_e::PerSolution, Take_e::Nothing,
+     Take_e::ItsOwn, Take_e::ItsOwn},
+    {[](Counts n) { return n.g == 0 && n.s == 1; }, Steps_e::One, Take_e::Nothing, Take_e::First,
+     Take_e::All},
+    {[](Counts n) { return n.g == 0 && n.f == 0; }, Steps_e::PerSolution, Take_e::Nothing,
+     Take_e::ItsOwn, Take_e::Nothing},
+    {[](Counts n) { return n.g == 0; }, Steps_e::None, Take_e::Nothing, Take_e::Nothing,
+     Take_e::Nothing},
     // several grid files
-    {[](Counts n) { return n.g > 1 && n.s == n.g && n.f == n.s; }, Steps::PerSolution, Take::ItsOwn,
-     Take::ItsOwn, Take::ItsOwn},
-    {[](Counts n) { return n.g > 1 && n.s == n.g; }, Steps::PerSolution, Take::ItsOwn, Take::ItsOwn,
-     Take::Nothing},
-    {[](Counts n) { return n.g > 1; }, Steps::None, Take::Nothing, Take::Nothing, Take::Nothing},
+    {[](Counts n) { return n.g > 1 && n.s == n.g && n.f == n.s; }, Steps_e::PerSolution,
+     Take_e::ItsOwn, Take_e::ItsOwn, Take_e::ItsOwn},
+    {[](Counts n) { return n.g > 1 && n.s == n.g; }, Steps_e::PerSolution, Take_e::ItsOwn,
+     Take_e::ItsOwn, Take_e::Nothing},
+    {[](Counts n) { return n.g > 1; }, Steps_e::None, Take_e::Nothing, Take_e::Nothing,
+     Take_e::Nothing},
     // one grid file for all
-    {[](Counts n) { return n.f == n.s; }, Steps::PerSolution, Take::First, Take::ItsOwn,
-     Take::ItsOwn},
-    {[](Counts n) { return n.s > 1; }, Steps::PerSolution, Take::First, Take::ItsOwn,
-     Take::Nothing},
-    {[](Counts) { return true; }, Steps::One, Take::First, Take::First, Take::All},
+    {[](Counts n) { return n.f == n.s; }, Steps_e::PerSolution, Take_e::First, Take_e::ItsOwn,
+     Take_e::ItsOwn},
+    {[](Counts n) { return n.s > 1; }, Steps_e::PerSolution, Take_e::First, Take_e::ItsOwn,
+     Take_e::Nothing},
+    {[](Counts) { return true; }, Steps_e::One, Take_e::First, Take_e::First, Take_e::All},
 };
 
-std::size_t stepCount(Steps steps, Counts counts) {
+std::size_t stepCount(Steps_e steps, Counts counts) {
     switch (steps) {
-    case Steps::One:
+    case Steps_e::One:
         return 1;
-    case Steps::PerGrid:
+    case Steps_e::PerGrid:
         return counts.g;
-    case Steps::PerSolution:
+    case Steps_e::PerSolution:
         return counts.s;
-    case Steps::PerFunction:
+    case Steps_e::PerFunction:
         return counts.f;
-    case Steps::None:
+    case Steps_e::None:
         break;
     }
     return 0;
 }
 
-Plot3DFile_s* takeFile(Take take, const Plot3DFileList& files, std::size_t step) {
+Plot3DFile_s* takeFile(Take_e take, const Plot3DFileList& files, std::size_t step) {
     switch (take) {
-    case Take::First:
+    case Take_e::First:
         return files.front().get();
-    case Take::ItsOwn:
+    case Take_e::ItsOwn:
         return files[step].get();
-    case Take::Nothing:
-    case Take::All:
+    case Take_e::Nothing:
+    case Take_e::All:
         break;
     }
     return nullptr;
 }
 
-std::vector<Plot3DFile_s*> takeFunctions(Take take, const Plot3DFileList& files, std::size_t step) {
+std::vector<Plot3DFile_s*> takeFunctions(Take_e take, const Plot3DFileList& files,
+                                         std::size_t step) {
     std::vector<Plot3DFile_s*> taken;
-    if (take == Take::All) {
+    if (take == Take_e::All) {
         for (const Plot3DFilePtr& file : files)
             taken.push_back(file.get());
     } else if (Plot3DFile_s* file = takeFile(take, files, step)) {

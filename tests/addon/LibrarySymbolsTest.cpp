@@ -14,13 +14,13 @@
 
 namespace {
 
-struct Symbol {
+struct Symbol_s {
     char type; // as nm gives it; U and w are undefined
     std::string name;
 };
 
 /// The dynamic symbols of the library, names of C++ spelled out, versions kept.
-std::vector<Symbol> dynamicSymbols() {
+std::vector<Symbol_s> dynamicSymbols() {
     const std::string command = "nm -DC --with-symbol-versions '" PLOT3DLOADER_FILE "'";
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
     std::string output;
@@ -28,7 +28,7 @@ std::vector<Symbol> dynamicSymbols() {
     while (pipe && fgets(chunk.data(), static_cast<int>(chunk.size()), pipe.get()) != nullptr)
         output += chunk.data();
 
-    std::vector<Symbol> symbols;
+    std::vector<Symbol_s> symbols;
     const std::regex lineForm("^[0-9a-f ]* ([A-Za-z]) (.*)$");
     std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);)
@@ -37,7 +37,7 @@ std::vector<Symbol> dynamicSymbols() {
     return symbols;
 }
 
-bool isUndefined(const Symbol& symbol) {
+bool isUndefined(const Symbol_s& symbol) {
     return symbol.type == 'U' || symbol.type == 'w' || symbol.type == 'v';
 }
 
@@ -76,7 +76,7 @@ bool isOfASanitizer(const std::string& name) {
 
 TEST(LibrarySymbols, ExportTheEntryAlone) {
     std::vector<std::string> exported;
-    for (const Symbol& symbol : dynamicSymbols())
+    for (const Symbol_s& symbol : dynamicSymbols())
         if (!isUndefined(symbol))
             exported.push_back(symbol.name);
     EXPECT_EQ(exported, std::vector<std::string>{"InitQuorAddOn113"});
@@ -89,7 +89,7 @@ TEST(LibrarySymbols, NeedTheHostAndTheRuntimeAlone) {
     const std::set<std::string> operations = hostOperations();
     ASSERT_GT(operations.size(), 50u);
     int needed = 0;
-    for (const Symbol& symbol : dynamicSymbols()) {
+    for (const Symbol_s& symbol : dynamicSymbols()) {
         if (!isUndefined(symbol))
             continue;
         ++needed;
@@ -101,7 +101,7 @@ TEST(LibrarySymbols, NeedTheHostAndTheRuntimeAlone) {
 }
 
 TEST(LibrarySymbols, HaveNoneThatWouldKeepTheLibraryFromUnloading) {
-    for (const Symbol& symbol : dynamicSymbols())
+    for (const Symbol_s& symbol : dynamicSymbols())
         EXPECT_NE(symbol.type, 'u') << symbol.name;
 }
 

@@ -39,7 +39,7 @@ TEST_P(BoundaryFieldForms, HaveTheValuesOfTheirParents) {
     loadWell();
     ASSERT_EQ(variableNames().size(), 9U);
     EXPECT_EQ(fieldType(3, 4), QuorFieldDataType_Int32);
-    EXPECT_EQ(state(3, 1), host::FieldState::Deferred);
+    EXPECT_EQ(state(3, 1), host::FieldState_e::Deferred);
     expectShows(3, 2, bottom);
     expectShows(4, 2, inner);
     expectShows(5, 1, {2, 2, 1, 3, 5, 5});
@@ -114,7 +114,7 @@ TEST_F(BoundaryFields, OfLaterTimeStepsHaveTheirOwnGridWhereSharingIsNotAllowed)
     useSeries();
     loadWell();
     EXPECT_EQ(holder(6, 1), 6);
-    EXPECT_EQ(state(6, 1), host::FieldState::Deferred);
+    EXPECT_EQ(state(6, 1), host::FieldState_e::Deferred);
     expectShows(6, 4, bottom);
 }
 
@@ -164,15 +164,15 @@ TEST_F(BoundaryFields, ShowTheLastOfSeveralFunctionFilesInTheFirstsPlace) {
     std::filesystem::remove(covered);
     EXPECT_EQ(values(3, 4), partOf(2, 6, bottom));
     EXPECT_EQ(values(3, 5), partOf(2, 7, bottom));
-    EXPECT_EQ(state(3, 6), host::FieldState::Empty);
+    EXPECT_EQ(state(3, 6), host::FieldState_e::Empty);
 }
 
 TEST_F(BoundaryFields, StayEmptyForFunctionsBesideASolution) {
     useFiles({grid}, {solutionFile("a.q", twoGrids, 0.25)}, {functionFile("a.fun", twoGrids, 2)});
     useOneFace();
     loadWell();
-    EXPECT_EQ(state(3, 8), host::FieldState::Deferred);
-    EXPECT_EQ(state(3, 9), host::FieldState::Empty);
+    EXPECT_EQ(state(3, 8), host::FieldState_e::Deferred);
+    EXPECT_EQ(state(3, 9), host::FieldState_e::Empty);
 }
 
 TEST_F(BoundaryFields, CostNoFileAccessUntilTheyAreWanted) {
@@ -180,7 +180,7 @@ TEST_F(BoundaryFields, CostNoFileAccessUntilTheyAreWanted) {
     useOneFace();
     loadWell();
     std::filesystem::remove(grid);
-    EXPECT_EQ(state(3, 1), host::FieldState::Deferred);
+    EXPECT_EQ(state(3, 1), host::FieldState_e::Deferred);
     EXPECT_EQ(host().fetch(3, 1).error, "The file " + grid + " could not be opened.");
     gridFile("a.x", twoGrids);
     expectShows(3, 2, bottom);

@@ -64,7 +64,7 @@ protected:
 
     static Texts messages() {
         Texts texts;
-        for (const host::Message& message : host().log().messages)
+        for (const host::Message_s& message : host().log().messages)
             texts.push_back(message.text);
         return texts;
     }

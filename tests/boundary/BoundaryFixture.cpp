@@ -38,15 +38,15 @@ void BoundaryTest::loadWell() {
     ASSERT_EQ(messages(), Texts());
 }
 
-const host::Zone& BoundaryTest::zone(std::int32_t number) {
-    const host::Zone* found = host().frame().dataSet()->zone(number);
+const host::Zone_s& BoundaryTest::zone(std::int32_t number) {
+    const host::Zone_s* found = host().frame().dataSet()->zone(number);
     if (found == nullptr)
         throw std::out_of_range("no zone " + std::to_string(number));
     return *found;
 }
 
 Numbers BoundaryTest::values(std::int32_t zoneNumber, std::int32_t var) {
-    const host::FetchResult field = host().fetch(zoneNumber, var);
+    const host::FetchResult_s field = host().fetch(zoneNumber, var);
     if (!field.ok)
         throw std::runtime_error("no values: " + field.error);
     switch (field.type) {
@@ -63,7 +63,7 @@ std::int32_t BoundaryTest::fieldType(std::int32_t zoneNumber, std::int32_t var) 
     return host().frame().dataSet()->field(zoneNumber, var)->type;
 }
 
-host::FieldState BoundaryTest::state(std::int32_t zoneNumber, std::int32_t var) {
+host::FieldState_e BoundaryTest::state(std::int32_t zoneNumber, std::int32_t var) {
     return host().frame().dataSet()->field(zoneNumber, var)->state();
 }
 
@@ -84,7 +84,7 @@ std::string BoundaryTest::auxData(std::int32_t zoneNumber, const std::string& it
 
 Numbers BoundaryTest::partOf(std::int32_t zoneNumber, std::int32_t var, const Part_s& part,
                              std::int32_t skipI, std::int32_t skipJ, std::int32_t skipK) {
-    const host::Zone& parent = zone(zoneNumber);
+    const host::Zone_s& parent = zone(zoneNumber);
     const Numbers whole = values(zoneNumber, var);
     Numbers some;
     for (const std::int64_t k : selected(part.kStart, part.kEnd, skipK))

@@ -28,10 +28,10 @@ protected:
     void loadWell();
 
     // What is in the frame; zones and variables from 1.
-    static const host::Zone& zone(std::int32_t number);
+    static const host::Zone_s& zone(std::int32_t number);
     static Numbers values(std::int32_t zone, std::int32_t var);
     static std::int32_t fieldType(std::int32_t zone, std::int32_t var);
-    static host::FieldState state(std::int32_t zone, std::int32_t var);
+    static host::FieldState_e state(std::int32_t zone, std::int32_t var);
     static std::int32_t holder(std::int32_t zone, std::int32_t var);
     /// 0 for none.
     static std::int32_t parentOf(std::int32_t zone);

@@ -46,7 +46,7 @@ TEST_F(AddedVariables, HaveTheirNamesAndThePrecisionOfTheSolution) {
     EXPECT_EQ(variableNames(), (Texts{"X", "Y", "Z", "V4", "V5"}));
     EXPECT_EQ(membersOf(varsAdded.get()), (std::vector<std::int64_t>{4, 5}));
     EXPECT_EQ(typeOf(2, 5), QuorFieldDataType_Double);
-    EXPECT_EQ(state(1, 4), host::FieldState::Empty);
+    EXPECT_EQ(state(1, 4), host::FieldState_e::Empty);
 }
 
 TEST_F(AddedVariables, HaveThePrecisionOfTheSolutionBehindIBlankToo) {

@@ -177,7 +177,7 @@ Plot3DFile_s& DatasetTest::write(const std::string& name, const FileDescription_
     if (form.encoding == Encoding_e::Binary)
         file.byteSwap = form.byteOrder == ByteOrder_e::Big;
     file.numGrids = 1;
-    openPlot3DFile(file);
+    EXPECT_TRUE(openPlot3DFile(file));
     const bool fits = parseLayout(file, false, nullptr, nullptr);
     closePlot3DFile(file);
     if (!fits)
@@ -312,8 +312,8 @@ void DatasetTest::makeElementZone(std::int32_t nodes, std::int32_t triangles,
     addHostZone(QuorZoneType_Triangles, nodes, triangles, 3, varCount, QuorFieldDataType_Float);
 }
 
-const host::Zone& DatasetTest::zone(std::int32_t number) {
-    const host::Zone* found = host().frame().dataSet()->zone(number);
+const host::Zone_s& DatasetTest::zone(std::int32_t number) {
+    const host::Zone_s* found = host().frame().dataSet()->zone(number);
     if (found == nullptr)
         throw std::out_of_range("no zone " + std::to_string(number));
     return *found;
@@ -332,7 +332,7 @@ Texts DatasetTest::zoneNames() {
 
 Texts DatasetTest::variableNames() {
     Texts names;
-    for (const host::Variable& variable : host().frame().dataSet()->variables())
+    for (const host::Variable_s& variable : host().frame().dataSet()->variables())
         names.push_back(variable.name);
     return names;
 }
@@ -345,7 +345,7 @@ std::vector<std::int32_t> DatasetTest::strands() {
 }
 
 Numbers DatasetTest::values(std::int32_t zoneNumber, std::int32_t var) {
-    const host::FetchResult field = host().fetch(zoneNumber, var);
+    const host::FetchResult_s field = host().fetch(zoneNumber, var);
     if (!field.ok)
         return {};
     switch (field.type) {
@@ -358,7 +358,7 @@ Numbers DatasetTest::values(std::int32_t zoneNumber, std::int32_t var) {
     }
 }
 
-host::FieldState DatasetTest::state(std::int32_t zoneNumber, std::int32_t var) {
+host::FieldState_e DatasetTest::state(std::int32_t zoneNumber, std::int32_t var) {
     return host().frame().dataSet()->field(zoneNumber, var)->state();
 }
 
@@ -368,7 +368,7 @@ std::int32_t DatasetTest::sharedWith(std::int32_t zoneNumber, std::int32_t var) 
 
 Texts DatasetTest::messages() {
     Texts texts;
-    for (const host::Message& message : host().log().messages)
+    for (const host::Message_s& message : host().log().messages)
         texts.push_back(message.text);
     return texts;
 }

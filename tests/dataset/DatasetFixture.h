@@ -95,13 +95,13 @@ protected:
     void makeElementZone(std::int32_t nodes, std::int32_t triangles, std::int32_t varCount);
 
     // What is in the frame; zones and variables from 1.
-    static const host::Zone& zone(std::int32_t number);
+    static const host::Zone_s& zone(std::int32_t number);
     static std::int32_t zoneCount();
     static Texts zoneNames();
     static Texts variableNames();
     static std::vector<std::int32_t> strands();
     static Numbers values(std::int32_t zone, std::int32_t var);
-    static host::FieldState state(std::int32_t zone, std::int32_t var);
+    static host::FieldState_e state(std::int32_t zone, std::int32_t var);
     static std::int32_t sharedWith(std::int32_t zone, std::int32_t var);
     static Texts messages();
     static std::vector<std::int64_t> membersOf(QuorSetHandle set);

@@ -31,7 +31,7 @@ TEST_F(FieldCount, OfEveryFunctionFileIsAsked) {
     EXPECT_FALSE(areCountsPlausible(step(&x, nullptr, {&f, &g})));
 }
 
-// Text of a few bytes that claims two milliard triangles.
+// Text of a few bytes that claims two billion triangles.
 TEST_F(FieldCount, OfElementsIsOneThatTheFileBearsOut) {
     const FileDescription_s surface = describeGrid({{11, 5, 0}}, Layout_e::Unstructured);
     for (const FileForm_s& form : {text(), fortran()}) {

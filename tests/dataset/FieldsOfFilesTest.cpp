@@ -2,16 +2,16 @@
 #include <filesystem>
 
 #include "DatasetFixture.h"
-#include "FakeFiles.h"
 #include "dataset/items/ItemDispatch.h"
 #include "dataset/items/VariableItem.h"
 #include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/layout/LayoutParsers.h"
+#include "support/FakeDisk.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
 using namespace quorvia::testsupport;
-using host::FieldState;
+using host::FieldState_e;
 
 namespace {
 
@@ -32,19 +32,20 @@ protected:
     static std::int64_t deferredCount() { return host().callCount("QuorUtilDataValueCustomLOD"); }
 };
 
-struct FormOfFile {
+struct FormOfFile_s {
     const char* name;
     FileForm_s form;
-    FieldState state;
+    FieldState_e state;
 };
 
-class FieldsInEveryForm : public FieldsOfFiles, public ::testing::WithParamInterface<FormOfFile> {};
+class FieldsInEveryForm : public FieldsOfFiles,
+                          public ::testing::WithParamInterface<FormOfFile_s> {};
 
 TEST_P(FieldsInEveryForm, HaveTheirValues) {
     FileDescription_s grid = describeGrid(twoGrids);
     grid.hasIBlank = true;
     const FileDescription_s solution = describeSolution(twoGrids, 0.5);
-    const FormOfFile& row = GetParam();
+    const FormOfFile_s& row = GetParam();
     ASSERT_TRUE(load({step(&write("x", grid, row.form), &write("q", solution, row.form))}));
     EXPECT_EQ(state(2, 4), row.state);
     for (std::int32_t g = 0; g < 2; ++g) {
@@ -56,13 +57,13 @@ TEST_P(FieldsInEveryForm, HaveTheirValues) {
     }
 }
 
-const FormOfFile everyForm[] = {
-    {"Text", text(), FieldState::Stored},
-    {"Binary", binary(), FieldState::Deferred},
-    {"BinaryBigDouble", binary(ByteOrder_e::Big, Precision_e::Double), FieldState::Deferred},
-    {"Fortran", fortran(), FieldState::Deferred},
-    {"FortranBig", fortran(ByteOrder_e::Big), FieldState::Deferred},
-    {"FortranDouble", fortran(ByteOrder_e::Little, Precision_e::Double), FieldState::Deferred},
+const FormOfFile_s everyForm[] = {
+    {"Text", text(), FieldState_e::Stored},
+    {"Binary", binary(), FieldState_e::Deferred},
+    {"BinaryBigDouble", binary(ByteOrder_e::Big, Precision_e::Double), FieldState_e::Deferred},
+    {"Fortran", fortran(), FieldState_e::Deferred},
+    {"FortranBig", fortran(ByteOrder_e::Big), FieldState_e::Deferred},
+    {"FortranDouble", fortran(ByteOrder_e::Little, Precision_e::Double), FieldState_e::Deferred},
 };
 
 INSTANTIATE_TEST_SUITE_P(All, FieldsInEveryForm, ::testing::ValuesIn(everyForm),
@@ -71,12 +72,12 @@ INSTANTIATE_TEST_SUITE_P(All, FieldsInEveryForm, ::testing::ValuesIn(everyForm),
 TEST_F(FieldsOfFiles, OfTextAreReadInFullWithoutARecord) {
     ASSERT_TRUE(load({step(&write("x", describeGrid(oneGrid), text()))}));
     EXPECT_EQ(deferredCount(), 0);
-    EXPECT_EQ(state(1, 3), FieldState::Stored);
+    EXPECT_EQ(state(1, 3), FieldState_e::Stored);
 }
 
 TEST_F(FieldsOfFiles, OfBinaryFilesAreNotReadByTheLoad) {
     Plot3DFile_s& grid = write("x", describeGrid({{41, 43, 47}}));
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&grid)}));
     EXPECT_LT(files.bytesRead, 8192);
     EXPECT_EQ(deferredCount(), 3);
@@ -96,7 +97,7 @@ TEST_F(FieldsOfFiles, WithARangeThatLeavesNothingOutStayInTheFile) {
     options.jRange = {1, 3, 1};
     options.kRange = {1, 99, 1};
     ASSERT_TRUE(load({step(&write("x", describeGrid(oneGrid)))}));
-    EXPECT_EQ(state(1, 1), FieldState::Deferred);
+    EXPECT_EQ(state(1, 1), FieldState_e::Deferred);
 }
 
 TEST_F(FieldsOfFiles, OfPlanesAreReadAtOnce) {
@@ -152,7 +153,7 @@ TEST_F(FieldsOfFiles, OfUnstructuredGridsTakeNoRange) {
     const FileDescription_s grid = describeGrid({{11, 5, 0}}, Layout_e::Unstructured);
     options.iRange = {2, 3, 1};
     ASSERT_TRUE(load({step(&write("x", grid))}));
-    EXPECT_EQ(state(1, 1), FieldState::Deferred);
+    EXPECT_EQ(state(1, 1), FieldState_e::Deferred);
     EXPECT_EQ(values(1, 3), fieldOf(grid, 0, 2));
 }
 

@@ -5,12 +5,12 @@
 #include <filesystem>
 
 #include "DatasetFixture.h"
-#include "FakeFiles.h"
+#include "support/FakeDisk.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
 using namespace quorvia::testsupport;
-using host::FieldState;
+using host::FieldState_e;
 
 namespace {
 
@@ -30,7 +30,7 @@ protected:
     static FileDescription_s solutionAt(const GridList& grids, double time) {
         return shifted(describeSolution(grids, time), 100000.0 * time);
     }
-    static bool wasOpened(const WatchedFiles& files, const Plot3DFile_s& file) {
+    static bool wasOpened(const FakeDisk& files, const Plot3DFile_s& file) {
         return std::count(files.opened.begin(), files.opened.end(), file.fileName.str()) > 0;
     }
     /// The labels of the arrays that setting up asked the host for.
@@ -52,7 +52,7 @@ TEST_F(FileSetSetup, SharesTheOneGridWithAllTimeSteps) {
     TimeSteps steps;
     for (const int time : {1, 2, 3})
         steps.push_back(step(&x, &write("q" + std::to_string(time), solutionAt(threeGrids, time))));
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load(steps));
     EXPECT_EQ(std::count(files.opened.begin(), files.opened.end(), x.fileName.str()), 1);
     EXPECT_EQ(zoneCount(), 9);
@@ -101,10 +101,10 @@ TEST_F(FileSetSetup, ReadsNothingOfLaterSolutionsButTheirScalars) {
     Plot3DFile_s& x = write("x", describeGrid(big));
     Plot3DFile_s& q1 = write("q1", describeSolution(big, 1));
     Plot3DFile_s& q2 = write("q2", describeSolution(big, 2));
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&x, &q1), step(&x, &q2)}));
     EXPECT_LT(files.bytesRead, 3 * 4096 + 1);
-    EXPECT_EQ(state(2, 4), FieldState::Deferred);
+    EXPECT_EQ(state(2, 4), FieldState_e::Deferred);
 }
 
 TEST_F(FileSetSetup, ScansLaterSolutionsThatDoNotShareTheirStructure) {
@@ -142,7 +142,7 @@ TEST_F(FileSetSetup, DoesNotOpenLaterGridsOfOneStructure) {
     FileDescription_s moved = shifted(describeGrid(threeGrids), 0.5);
     moved.hasIBlank = false;
     Plot3DFile_s& x2 = write("x2", moved);
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&x1), step(&x2)}));
     EXPECT_FALSE(wasOpened(files, x2));
     EXPECT_EQ(sharedWith(5, 2), 5);
@@ -166,7 +166,7 @@ TEST_F(FileSetSetup, ScansLaterGridsIfSolutionsDoNotShareStructure) {
     options.solutionsShareStructure = false;
     Plot3DFile_s& x1 = write("x1", describeGrid(oneGrid));
     Plot3DFile_s& x2 = write("x2", shifted(describeGrid(oneGrid), 0.5), fortran());
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&x1), step(&x2)}));
     EXPECT_TRUE(wasOpened(files, x2));
     EXPECT_EQ(values(2, 3), fieldOf(shifted(describeGrid(oneGrid), 0.5), 0, 2));
@@ -256,7 +256,7 @@ TEST_F(FileSetSetup, StopsAtAFunctionFileWhoseNameHasNoTime) {
     Plot3DFile_s& f = write("f", describeFunction(oneGrid, 2));
     options.solutionTimes = {{"another", 1.0}};
     EXPECT_FALSE(load({step(&write("x", describeGrid(oneGrid)), nullptr, {&f})}));
-    EXPECT_EQ(state(1, 4), FieldState::Empty);
+    EXPECT_EQ(state(1, 4), FieldState_e::Empty);
 }
 
 TEST_F(FileSetSetup, AsksForItsArraysUnderTheirLabels) {
@@ -354,8 +354,8 @@ TEST_F(FileSetSetup, StopsAtAnInterruptionOfTheReuse) {
     Plot3DFile_s& q2 = write("q2", solutionAt(oneGrid, 2));
     host().interruptAtStep(3 + 5 + 2);
     EXPECT_FALSE(load({step(&x, &q1), step(&x, &q2)}));
-    EXPECT_EQ(state(2, 4), FieldState::Deferred);
-    EXPECT_EQ(state(2, 5), FieldState::Empty);
+    EXPECT_EQ(state(2, 4), FieldState_e::Deferred);
+    EXPECT_EQ(state(2, 5), FieldState_e::Empty);
     EXPECT_EQ(q2.stream, nullptr);
 }
 

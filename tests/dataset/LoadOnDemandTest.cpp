@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "DatasetFixture.h"
-#include "FakeFiles.h"
 #include "quorvia/QuorUtilityLibrary.h"
+#include "support/FakeDisk.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
@@ -46,13 +46,13 @@ protected:
 
 TEST_F(LoadOnDemand, ReadsFromThePositionOfTheField) {
     ASSERT_TRUE(registerLodVariable(source("skip" + bytesOf(sevenNumbers) + "rest"), 1, 1, 4, 7));
-    EXPECT_EQ(state(1, 1), host::FieldState::Deferred);
+    EXPECT_EQ(state(1, 1), host::FieldState_e::Deferred);
     EXPECT_EQ(values(1, 1), sevenValues);
 }
 
 TEST_F(LoadOnDemand, TakesOneOpenAndOneRead) {
     ASSERT_TRUE(registerLodVariable(source(bytesOf(sevenNumbers)), 1, 1, 0, 7));
-    const WatchedFiles files;
+    const FakeDisk files(FakeDisk::Behind_e::Platform);
     host().fetch(1, 1);
     EXPECT_EQ(files.opened.size(), 1U);
     EXPECT_EQ(files.readCount, 1);
@@ -139,7 +139,7 @@ TEST_F(LoadOnDemand, RefusesAnArrayOfNarrowerValues) {
 
 TEST_F(LoadOnDemand, SaysNothingOfAnInterruption) {
     ASSERT_TRUE(registerLodVariable(source(bytesOf(sevenNumbers)), 1, 1, 0, 7));
-    WatchedFiles files;
+    FakeDisk files(FakeDisk::Behind_e::Platform);
     files.onRead = [] { throw InterruptedException(); };
     EXPECT_FALSE(host().fetch(1, 1).ok);
     EXPECT_EQ(messages(), Texts());
@@ -147,7 +147,7 @@ TEST_F(LoadOnDemand, SaysNothingOfAnInterruption) {
 
 TEST_F(LoadOnDemand, TellsOfAnyOtherException) {
     ASSERT_TRUE(registerLodVariable(source(bytesOf(sevenNumbers)), 1, 1, 0, 7));
-    WatchedFiles files;
+    FakeDisk files(FakeDisk::Behind_e::Platform);
     files.onRead = [] { throw std::runtime_error("the disk is on fire"); };
     EXPECT_FALSE(host().fetch(1, 1).ok);
     EXPECT_EQ(messages(),

@@ -4,8 +4,8 @@
 #include <filesystem>
 
 #include "DatasetFixture.h"
-#include "FakeFiles.h"
 #include "dataset/ondemand/LoadOnDemand.h"
+#include "support/FakeDisk.h"
 
 using namespace quorvia;
 using namespace quorvia::quorutildataio;
@@ -25,7 +25,7 @@ protected:
         return write("x", grid, encoding == Encoding_e::Binary ? binary() : fortran());
     }
     /// Has the user interrupt while bytes are read, rather than between two fields.
-    static void interruptAtByte(WatchedFiles& files, std::int64_t byte) {
+    static void interruptAtByte(FakeDisk& files, std::int64_t byte) {
         files.onRead = [&files, byte] {
             if (files.bytesRead >= byte)
                 host().requestInterrupt();
@@ -37,7 +37,7 @@ protected:
 TEST_F(LongReads, OfAnIndexRangeEndOnInterruptionWithoutAWord) {
     options.iRange = options.jRange = options.kRange = {1, 1, 1};
     Plot3DFile_s& grid = writeSparse({257, 257, 261});
-    WatchedFiles files;
+    FakeDisk files(FakeDisk::Behind_e::Platform);
     interruptAtByte(files, mebibyte);
     EXPECT_FALSE(load({step(&grid)}));
     EXPECT_EQ(messages(), Texts());
@@ -48,7 +48,7 @@ TEST_F(LongReads, OfFieldsForAHostWithoutArraysEndOnInterruptionWithoutAWord) {
     options.iRange = {2, 0, 1};
     host().settings().plainArrays = false;
     Plot3DFile_s& grid = writeSparse({257, 257, 261}, Encoding_e::Fortran);
-    WatchedFiles files;
+    FakeDisk files(FakeDisk::Behind_e::Platform);
     interruptAtByte(files, mebibyte);
     EXPECT_FALSE(load({step(&grid)}));
     EXPECT_EQ(messages(), Texts());
@@ -60,7 +60,7 @@ TEST_F(LongReads, OfConnectivityEndOnInterruptionWithoutAWord) {
     FileDescription_s description = describeGrid({{3, 4'400'000, 0}}, Layout_e::Unstructured);
     description.corner = [](std::int32_t, std::int64_t, std::int32_t) { return 1; };
     Plot3DFile_s& grid = write("x", description);
-    WatchedFiles files;
+    FakeDisk files(FakeDisk::Behind_e::Platform);
     interruptAtByte(files, mebibyte);
     EXPECT_FALSE(load({step(&grid)}));
     EXPECT_EQ(messages(), Texts());

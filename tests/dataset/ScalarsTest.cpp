@@ -165,7 +165,7 @@ protected:
         file.isSolutionOrFunction = true;
         file.style = style;
         file.numScalars = numScalars;
-        openPlot3DFile(file);
+        EXPECT_TRUE(openPlot3DFile(file));
         return file;
     }
     bool setUp(Plot3DFile_s& file, bool include = true) {
@@ -192,7 +192,7 @@ TEST_F(ScalarItem, OfOverflowPassesOverGammasThatFail) {
     EXPECT_EQ(messages(), Texts());
 }
 
-// A header that claims 2 milliard species must not make as many attempts.
+// A header that claims 2 billion species must not make as many attempts.
 TEST_F(ScalarItem, OfOverflowTriesNoMoreGammasThanTheFileBearsOut) {
     Plot3DFile_s& file = textOf("11*1 9999999*2", Plot3DStyle_Overflow, 2000000000);
     EXPECT_TRUE(setUp(file));
@@ -292,7 +292,7 @@ class ScalarToAuxData : public ScalarItem {
 protected:
     bool readItem(const std::string& bytes, bool isDouble, bool byteSwap, const char* name) {
         Plot3DFile_s& file = writeBytes("q.bin", bytes);
-        openPlot3DFile(file);
+        EXPECT_TRUE(openPlot3DFile(file));
         return readScalarToAuxData(*file.stream, isDouble, byteSwap, QuorUtilAuxDataZoneGetRef(1),
                                    name);
     }

@@ -81,7 +81,7 @@ TEST_F(VariableNames, OfOneDimensionArePaddedNumbersWhateverTheFileHolds) {
     EXPECT_EQ(solutionNames(Plot3DDataStructure_1D, Plot3DStyle_Classic, 1), expected);
 }
 
-struct NamesOfStyle {
+struct NamesOfStyle_s {
     Plot3DDataStructure_e structure;
     Plot3DStyle_e style;
     std::int32_t numVars;
@@ -90,10 +90,10 @@ struct NamesOfStyle {
 };
 
 class VariableNamesOfStyle : public VariableNames,
-                             public ::testing::WithParamInterface<NamesOfStyle> {};
+                             public ::testing::WithParamInterface<NamesOfStyle_s> {};
 
 TEST_P(VariableNamesOfStyle, Stand) {
-    const NamesOfStyle& row = GetParam();
+    const NamesOfStyle_s& row = GetParam();
     EXPECT_EQ(solutionNames(row.structure, row.style, row.numVars, row.numSpecies), row.names);
 }
 
@@ -105,7 +105,7 @@ constexpr auto classic = Plot3DStyle_Classic;
 constexpr auto swift = Plot3DStyle_Swift;
 constexpr auto overflow = Plot3DStyle_Overflow;
 
-const NamesOfStyle namesOfStyles[] = {
+const NamesOfStyle_s namesOfStyles[] = {
     {in2D, classic, 4, 0, {"RHO", "RHO-U", "RHO-V", "E"}},
     {in2D, swift, 4, 0, {"RHO", "RHO-U", "RHO-V", "E"}},
     {in3D, classic, 5, 0, {"RHO", "RHO-U", "RHO-V", "RHO-W", "E"}},

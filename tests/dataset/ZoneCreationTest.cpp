@@ -158,7 +158,7 @@ TEST_F(ZoneCreation, AsksTheHostForTypesOfTheFiles) {
         load({step(&write("x", x), &write("q", describeSolution(oneGrid, 0),
                                           binary(ByteOrder_e::Little, Precision_e::Double)))}));
     Numbers32 types;
-    for (const host::Field& field : zone(1).fields)
+    for (const host::Field_s& field : zone(1).fields)
         types.push_back(field.type);
     EXPECT_EQ(types, (Numbers32{1, 1, 1, 3, 2, 2, 2, 2, 2}));
 }
@@ -246,7 +246,7 @@ TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
     shape.numSolutionVars = 5;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zoneCount(), 3);
-    EXPECT_EQ(state(1, 3), host::FieldState::Stored);
+    EXPECT_EQ(state(1, 3), host::FieldState_e::Stored);
     EXPECT_EQ(sharedWith(3, 1), 3);
     EXPECT_EQ(values(1, 4), fieldOf(q, 0, 0));
     EXPECT_EQ(zone(1).solutionTime, 0.5);
@@ -322,7 +322,7 @@ TEST_F(ExistingZones, OfOtherSizesAreNotFilled) {
     shape.numSolutionVars = 5;
     existingZoneCount = 1;
     EXPECT_FALSE(addZones(steps));
-    EXPECT_EQ(state(1, 4), host::FieldState::Stored);
+    EXPECT_EQ(state(1, 4), host::FieldState_e::Stored);
     EXPECT_EQ(messages(), Texts());
 }
 

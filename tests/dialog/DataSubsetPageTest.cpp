@@ -130,7 +130,7 @@ constexpr auto start = &Plot3DIndexRange_s::start;
 constexpr auto end = &Plot3DIndexRange_s::end;
 constexpr auto skip = &Plot3DIndexRange_s::skip;
 
-struct FieldRow {
+struct FieldRow_s {
     const char* name;      // as the toolkit is told
     const char* rangeName; // as the user is told; null if no comparison is made
     const std::int32_t& field;
@@ -138,22 +138,22 @@ struct FieldRow {
     std::int32_t Plot3DIndexRange_s::*member;
 };
 
-const std::vector<FieldRow> fieldRows = {{"I-Start", "I-Range", iStartField, iRange, start},
-                                         {"I-End", "I-Range", iEndField, iRange, end},
-                                         {"I-Skip", nullptr, iSkipField, iRange, skip},
-                                         {"J-Start", "J-Range", jStartField, jRange, start},
-                                         {"J-End", "J-Range", jEndField, jRange, end},
-                                         {"J-Skip", nullptr, jSkipField, jRange, skip},
-                                         {"K-Start", "K-Range", kStartField, kRange, start},
-                                         {"K-End", "K-Range", kEndField, kRange, end},
-                                         {"K-Skip", nullptr, kSkipField, kRange, skip}};
+const std::vector<FieldRow_s> fieldRows = {{"I-Start", "I-Range", iStartField, iRange, start},
+                                           {"I-End", "I-Range", iEndField, iRange, end},
+                                           {"I-Skip", nullptr, iSkipField, iRange, skip},
+                                           {"J-Start", "J-Range", jStartField, jRange, start},
+                                           {"J-End", "J-Range", jEndField, jRange, end},
+                                           {"J-Skip", nullptr, jSkipField, jRange, skip},
+                                           {"K-Start", "K-Range", kStartField, kRange, start},
+                                           {"K-End", "K-Range", kEndField, kRange, end},
+                                           {"K-Skip", nullptr, kSkipField, kRange, skip}};
 
-std::string nameOfRow(const ::testing::TestParamInfo<FieldRow>& row) {
+std::string nameOfRow(const ::testing::TestParamInfo<FieldRow_s>& row) {
     return std::string(row.param.name, 1) + std::string(row.param.name).substr(2);
 }
 
 /// Calls the fields as the host does, with a lock to spare for the one that finishes one too many.
-class RangeField : public SubsetPage, public ::testing::WithParamInterface<FieldRow> {
+class RangeField : public SubsetPage, public ::testing::WithParamInterface<FieldRow_s> {
 protected:
     void SetUp() override {
         SubsetPage::SetUp();

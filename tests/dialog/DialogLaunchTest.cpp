@@ -223,7 +223,7 @@ protected:
 
 TEST_F(CallbackLock, OpensAndEndsEveryControlCallbackButOne) {
     int count = 0;
-    for (const Control& control : dialog().controls) {
+    for (const Control_s& control : dialog().controls) {
         if (std::holds_alternative<std::monostate>(control.callback) || control.id == kEndField)
             continue;
         const std::int64_t before = host().lockDepth();
@@ -244,7 +244,7 @@ TEST_F(CallbackLock, IsFinishedButNotStartedByTheLastEnd) {
 }
 
 TEST_F(CallbackLock, OpensAndEndsPagesAndHelp) {
-    const host::TabControl& tabs = *dialog().tabs;
+    const host::TabControl_s& tabs = *dialog().tabs;
     expectBracketed(callsOf(tabs.activate), "activated");
     expectBracketed(callsOf(dialog().help), "help");
     const Texts deactivated = callsOf(tabs.deactivate);

@@ -9,9 +9,9 @@ namespace {
 using DialogLayout = LoadDialogTest;
 
 /// The position of a control on its page, from 0; -1 if it is not there.
-int rowOf(const host::Dialog& dialog, std::int32_t page, std::int32_t id) {
+int rowOf(const host::Dialog_s& dialog, std::int32_t page, std::int32_t id) {
     int row = 0;
-    for (const Control& control : dialog.controls) {
+    for (const Control_s& control : dialog.controls) {
         if (control.id == id)
             return control.parent == page ? row : -1;
         row += control.parent == page ? 1 : 0;
@@ -19,15 +19,15 @@ int rowOf(const host::Dialog& dialog, std::int32_t page, std::int32_t id) {
     return -1;
 }
 
-struct KeptControl {
+struct KeptControl_s {
     const char* name;
     const std::int32_t& id;
     int row; // on its page, from 0
 };
 
-void expectRows(const host::Dialog& dialog, std::int32_t page,
-                const std::vector<KeptControl>& kept) {
-    for (const KeptControl& control : kept)
+void expectRows(const host::Dialog_s& dialog, std::int32_t page,
+                const std::vector<KeptControl_s>& kept) {
+    for (const KeptControl_s& control : kept)
         EXPECT_EQ(rowOf(dialog, page, control.id), control.row) << control.name;
 }
 
@@ -44,7 +44,7 @@ TEST_F(DialogLayout, DialogIsModalUnderTheMainWindowWithoutApply) {
 }
 
 TEST_F(DialogLayout, TabControlHoldsThreePagesInTheirOrder) {
-    const host::TabControl& tabs = *dialog().tabs;
+    const host::TabControl_s& tabs = *dialog().tabs;
     EXPECT_EQ(tabs.id, loadTabs);
     EXPECT_EQ(tabs.geometry.x, 219);
     EXPECT_EQ(tabs.geometry.y, 224);
@@ -109,7 +109,7 @@ TEST_F(DialogLayout, DataSubsetPageKeepsItsControls) {
 }
 
 TEST_F(DialogLayout, NothingStandsBesideThePages) {
-    for (const Control& control : dialog().controls)
+    for (const Control_s& control : dialog().controls)
         EXPECT_NE(control.parent, loadDialog) << control.caption;
 }
 

@@ -46,7 +46,7 @@ protected:
     static bool isAnythingLoaded() { return host().frame().dataSet() != nullptr; }
     static bool aLoadWasBegun() { return host().callCount("createTaskProgressBar") > 0; }
     static std::int32_t zoneCount() { return host().frame().dataSet()->zoneCount(); }
-    static const host::Zone& zone(std::int32_t number) {
+    static const host::Zone_s& zone(std::int32_t number) {
         return *host().frame().dataSet()->zone(number);
     }
     static std::int64_t launches() { return host().callCount("QuorGUIDialogLaunch"); }

@@ -208,7 +208,7 @@ TEST_F(DialogOk, AsksBeforeDataIsLostAndComesBackAtNo) {
     open({pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_}); })});
     ASSERT_EQ(host().log().messages.size(), 1u);
     EXPECT_EQ(host().log().messages[0].text, "Warning: All current data will be lost. Continue?");
-    EXPECT_EQ(host().log().messages[0].kind, host::MessageKind::Question);
+    EXPECT_EQ(host().log().messages[0].kind, host::MessageKind_e::Question);
     EXPECT_EQ(launches(), 2);
     EXPECT_FALSE(aLoadWasBegun());
 }

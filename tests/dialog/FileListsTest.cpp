@@ -4,7 +4,7 @@
 namespace quorvia::quorutildataio {
 namespace {
 
-struct ColumnRow {
+struct ColumnRow_s {
     const char* name;
     Texts Plot3DLoadOptions_s::*files;
     Texts& retained;
@@ -14,9 +14,9 @@ struct ColumnRow {
     std::int32_t addFilesY; // the place of the button
 };
 
-class FileColumn : public LoadDialogTest, public ::testing::WithParamInterface<ColumnRow> {
+class FileColumn : public LoadDialogTest, public ::testing::WithParamInterface<ColumnRow_s> {
 protected:
-    static const ColumnRow& column() { return GetParam(); }
+    static const ColumnRow_s& column() { return GetParam(); }
     static std::int32_t list() { return column().list; }
     static std::int32_t removeSelected() { return column().removeSelected; }
     static std::int32_t removeAll() { return column().removeAll; }
@@ -143,14 +143,14 @@ TEST_P(FileColumn, FilesThatAreGoneFromTheRecordAreNotRemovedTwice) {
 
 INSTANTIATE_TEST_SUITE_P(
     EachColumn, FileColumn,
-    ::testing::Values(ColumnRow{"Grid", &Plot3DLoadOptions_s::gridFiles, gRetainedGridFiles,
-                                gridList, gridRemoveSelected, gridRemoveAll, 1015},
-                      ColumnRow{"Solution", &Plot3DLoadOptions_s::solutionFiles,
-                                gRetainedSolutionFiles, solutionList, solutionRemoveSelected,
-                                solutionRemoveAll, 1776},
-                      ColumnRow{"Function", &Plot3DLoadOptions_s::functionFiles,
-                                gRetainedFunctionFiles, functionList, functionRemoveSelected,
-                                functionRemoveAll, 2531}),
+    ::testing::Values(ColumnRow_s{"Grid", &Plot3DLoadOptions_s::gridFiles, gRetainedGridFiles,
+                                  gridList, gridRemoveSelected, gridRemoveAll, 1015},
+                      ColumnRow_s{"Solution", &Plot3DLoadOptions_s::solutionFiles,
+                                  gRetainedSolutionFiles, solutionList, solutionRemoveSelected,
+                                  solutionRemoveAll, 1776},
+                      ColumnRow_s{"Function", &Plot3DLoadOptions_s::functionFiles,
+                                  gRetainedFunctionFiles, functionList, functionRemoveSelected,
+                                  functionRemoveAll, 2531}),
     [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace

@@ -7,13 +7,13 @@ namespace {
 
 using SelectionControls = LoadDialogTest;
 
-struct ToggleRow {
+struct ToggleRow_s {
     const char* name;
     const std::int32_t& toggle;
     bool Plot3DLoadOptions_s::*flag;
 };
 
-class SelectionToggle : public LoadDialogTest, public ::testing::WithParamInterface<ToggleRow> {
+class SelectionToggle : public LoadDialogTest, public ::testing::WithParamInterface<ToggleRow_s> {
 protected:
     void SetUp() override {
         LoadDialogTest::SetUp();
@@ -61,12 +61,12 @@ TEST_P(SelectionToggle, LeavesTheOtherFlagsAlone) {
 INSTANTIATE_TEST_SUITE_P(
     EachToggle, SelectionToggle,
     ::testing::Values(
-        ToggleRow{"Append", appendToggle, &Plot3DLoadOptions_s::append},
-        ToggleRow{"AssignStrand", assignStrandToggle, &Plot3DLoadOptions_s::assignStrandIds},
-        ToggleRow{"AddToStrands", addToStrandsToggle, &Plot3DLoadOptions_s::addToExistingStrands},
-        ToggleRow{"UniformGrid", uniformGridToggle, &Plot3DLoadOptions_s::uniformGridStructure},
-        ToggleRow{"NewStrandPerStep", newStrandPerStepToggle,
-                  &Plot3DLoadOptions_s::assignNewStrandIdForEachTimeStep}),
+        ToggleRow_s{"Append", appendToggle, &Plot3DLoadOptions_s::append},
+        ToggleRow_s{"AssignStrand", assignStrandToggle, &Plot3DLoadOptions_s::assignStrandIds},
+        ToggleRow_s{"AddToStrands", addToStrandsToggle, &Plot3DLoadOptions_s::addToExistingStrands},
+        ToggleRow_s{"UniformGrid", uniformGridToggle, &Plot3DLoadOptions_s::uniformGridStructure},
+        ToggleRow_s{"NewStrandPerStep", newStrandPerStepToggle,
+                    &Plot3DLoadOptions_s::assignNewStrandIdForEachTimeStep}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(SelectionControls, AppendSwitchedOffClearsAddingToStrandsEvenWhileThatIsGreyed) {
@@ -134,8 +134,8 @@ TEST_F(NameFileBrowse, ThatTheHostFailsLeavesTheName) {
 /// Notes what the add-on asks files for.
 class AskedUser : public host::ScriptedUser {
 public:
-    std::vector<host::FileRequest> requests;
-    host::FileChoice chooseFiles(const host::FileRequest& request) override {
+    std::vector<host::FileRequest_s> requests;
+    host::FileChoice chooseFiles(const host::FileRequest_s& request) override {
         requests.push_back(request);
         return ScriptedUser::chooseFiles(request);
     }
@@ -143,7 +143,7 @@ public:
 
 class FileRequests : public LoadDialogTest {
 protected:
-    host::FileRequest requestOf(std::int32_t button) {
+    host::FileRequest_s requestOf(std::int32_t button) {
         const HostLock lock(addOnID);
         host().setUser(&user_);
         std::get<QuorGUICallback>(control(button).callback)();
@@ -157,7 +157,7 @@ private:
 
 TEST_F(FileRequests, NameFileIsOneFileNextToTheFirstGridFile) {
     gLoadOptions.gridFiles = {"dir/a.x", "dir/b.x"};
-    const host::FileRequest request = requestOf(nameFileBrowse);
+    const host::FileRequest_s request = requestOf(nameFileBrowse);
     EXPECT_FALSE(request.severalFiles);
     EXPECT_EQ(request.kind, "Name");
     EXPECT_EQ(request.defaultName, "dir/a.x");
@@ -175,7 +175,7 @@ TEST_F(FileRequests, AddedFilesAreSeveralOfAnyName) {
     const std::vector<std::pair<std::int32_t, std::string>> buttons = {
         {gridAddFiles, "Grid"}, {buttonAt(1776), "Solution"}, {buttonAt(2531), "Function"}};
     for (const auto& [button, kind] : buttons) {
-        const host::FileRequest request = requestOf(button);
+        const host::FileRequest_s request = requestOf(button);
         EXPECT_TRUE(request.severalFiles);
         EXPECT_EQ(request.kind, kind);
         EXPECT_EQ(request.filter, "*.*");

@@ -126,13 +126,13 @@ TEST_F(StructurePage, ItemOfTheRadioBoxIsTheDataStructure) {
     EXPECT_EQ(refreshes(), 2) << "a choice refreshes nothing";
 }
 
-struct ToggleRow {
+struct ToggleRow_s {
     const char* name;
     const std::int32_t& toggle;
     bool Plot3DLoadOptions_s::*flag;
 };
 
-class StructureToggle : public StructurePage, public ::testing::WithParamInterface<ToggleRow> {};
+class StructureToggle : public StructurePage, public ::testing::WithParamInterface<ToggleRow_s> {};
 
 TEST_P(StructureToggle, StoresItsValueAndRefreshesNothing) {
     bool& flag = gLoadOptions.*GetParam().flag;
@@ -148,11 +148,11 @@ TEST_P(StructureToggle, StoresItsValueAndRefreshesNothing) {
 INSTANTIATE_TEST_SUITE_P(
     EachToggle, StructureToggle,
     ::testing::Values(
-        ToggleRow{"MultiGrid", multiGridToggle, &Plot3DLoadOptions_s::isMultiGrid},
-        ToggleRow{"AsciiDouble", asciiDoubleToggle, &Plot3DLoadOptions_s::asciiIsDouble},
-        ToggleRow{"AsciiIBlank", asciiIBlankToggle, &Plot3DLoadOptions_s::asciiHasIBlank},
-        ToggleRow{"SameStructure", sameStructureToggle,
-                  &Plot3DLoadOptions_s::solutionsShareStructure}),
+        ToggleRow_s{"MultiGrid", multiGridToggle, &Plot3DLoadOptions_s::isMultiGrid},
+        ToggleRow_s{"AsciiDouble", asciiDoubleToggle, &Plot3DLoadOptions_s::asciiIsDouble},
+        ToggleRow_s{"AsciiIBlank", asciiIBlankToggle, &Plot3DLoadOptions_s::asciiHasIBlank},
+        ToggleRow_s{"SameStructure", sameStructureToggle,
+                    &Plot3DLoadOptions_s::solutionsShareStructure}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(StructurePage, OtherPagesAreNotRefreshedWithIt) {

@@ -15,8 +15,8 @@
 
 namespace quorvia::quorutildataio {
 
-using host::Control;
-using host::ControlKind;
+using host::Control_s;
+using host::ControlKind_e;
 using testsupport::Texts;
 
 /// Each test has a dialog of its own, made and hidden.
@@ -33,25 +33,25 @@ protected:
 
     // ---- What the user does ---------------------------------------------------------------------
 
-    static host::ScriptEntry show(std::int32_t page) { return act(host::ShowPage{page}); }
+    static host::ScriptEntry show(std::int32_t page) { return act(host::ShowPage_s{page}); }
     static host::ScriptEntry set(std::int32_t toggle, bool on) {
-        return act(host::SetToggle{toggle, on});
+        return act(host::SetToggle_s{toggle, on});
     }
     static host::ScriptEntry choose(std::int32_t control, std::int32_t item) {
-        return act(host::ChooseItem{control, item});
+        return act(host::ChooseItem_s{control, item});
     }
-    static host::ScriptEntry press(std::int32_t button) { return act(host::PressButton{button}); }
+    static host::ScriptEntry press(std::int32_t button) { return act(host::PressButton_s{button}); }
     static host::ScriptEntry select(std::int32_t list, std::vector<std::int32_t> positions) {
-        return act(host::SelectItems{list, std::move(positions)});
+        return act(host::SelectItems_s{list, std::move(positions)});
     }
     static host::ScriptEntry type(std::int32_t field, const std::string& text) {
-        return act(host::TypeText{field, text});
+        return act(host::TypeText_s{field, text});
     }
     static host::ScriptEntry pick(Texts files) { return host::FileChoice(std::move(files)); }
     static host::ScriptEntry pickNothing() { return host::FileChoice(); }
-    static host::ScriptEntry pressOk() { return press(host::DialogButton::Ok); }
-    static host::ScriptEntry pressCancel() { return press(host::DialogButton::Cancel); }
-    static host::ScriptEntry pressHelp() { return press(host::DialogButton::Help); }
+    static host::ScriptEntry pressOk() { return press(host::DialogButton_e::Ok); }
+    static host::ScriptEntry pressCancel() { return press(host::DialogButton_e::Cancel); }
+    static host::ScriptEntry pressHelp() { return press(host::DialogButton_e::Help); }
     /// The test looks, or does something at the host, while the dialog waits for the user.
     static host::ScriptEntry meanwhile(std::function<void()> look) {
         return host::ScriptLook(std::move(look));
@@ -98,22 +98,22 @@ protected:
 
     // ---- What the user sees ---------------------------------------------------------------------
 
-    static const host::Dialog& dialog() {
-        for (const host::Dialog& dialog : host().toolkit().dialogs())
+    static const host::Dialog_s& dialog() {
+        for (const host::Dialog_s& dialog : host().toolkit().dialogs())
             if (dialog.id == loadDialog)
                 return dialog;
         throw std::logic_error("there is no dialog");
     }
-    static const Control& control(std::int32_t id) {
-        const Control* found = findControl(dialog(), id);
+    static const Control_s& control(std::int32_t id) {
+        const Control_s* found = findControl(dialog(), id);
         if (found == nullptr)
             throw std::logic_error("there is no control " + std::to_string(id));
         return *found;
     }
     /// A button that the add-on itself needs no more once it is made.
     static std::int32_t buttonAt(std::int32_t y) {
-        for (const Control& control : dialog().controls)
-            if (control.kind == ControlKind::Button && control.geometry.y == y)
+        for (const Control_s& control : dialog().controls)
+            if (control.kind == ControlKind_e::Button && control.geometry.y == y)
                 return control.id;
         throw std::logic_error("there is no button at " + std::to_string(y));
     }
@@ -125,12 +125,12 @@ protected:
 
 private:
     static host::ScriptEntry act(host::DialogAction action) {
-        return host::DialogStep([action = std::move(action)](const host::Dialog&) {
-            return host::DialogMove{action, ""};
+        return host::DialogStep([action = std::move(action)](const host::Dialog_s&) {
+            return host::DialogMove_s{action, ""};
         });
     }
-    static host::ScriptEntry press(host::DialogButton button) {
-        return act(host::PressDialogButton{button});
+    static host::ScriptEntry press(host::DialogButton_e button) {
+        return act(host::PressDialogButton_s{button});
     }
     static void expectPlayed() {
         EXPECT_EQ(host().script().problem(), "");

@@ -7,14 +7,14 @@ namespace {
 class RetainedFiles : public DialogOk {
 protected:
     /// What the dialog shows when it comes back after OK.
-    struct Shown {
+    struct Shown_s {
         Texts grids;
         Texts solutions;
         Texts functions;
         std::string nameFile;
     };
-    Shown afterRefusedOk() {
-        Shown shown;
+    Shown_s afterRefusedOk() {
+        Shown_s shown;
         makeDataSet();
         open({pressOk(), meanwhile([&shown] {
                   shown = {items(gridList), items(solutionList), items(functionList),
@@ -26,7 +26,7 @@ protected:
 
 TEST_F(RetainedFiles, ComeBackAfterARefusedOk) {
     retain({"a.x", "b.x"}, {"a.q"}, {}, "n.nam");
-    const Shown shown = afterRefusedOk();
+    const Shown_s shown = afterRefusedOk();
     EXPECT_EQ(shown.grids, (Texts{"a.x", "b.x"}));
     EXPECT_EQ(shown.solutions, Texts{"a.q"});
     EXPECT_EQ(shown.functions, Texts());
@@ -35,7 +35,7 @@ TEST_F(RetainedFiles, ComeBackAfterARefusedOk) {
 
 TEST_F(RetainedFiles, OfFunctionsComeBackInPlaceOfTheSolutions) {
     retain({"a.x"}, {"a.q"}, {"a.f", "b.f"});
-    const Shown shown = afterRefusedOk();
+    const Shown_s shown = afterRefusedOk();
     EXPECT_EQ(shown.grids, Texts{"a.x"});
     EXPECT_EQ(shown.solutions, (Texts{"a.f", "b.f"}));
     EXPECT_EQ(shown.functions, Texts());

@@ -50,11 +50,12 @@ host::ScriptEntry untilAMessage(host::ScriptEntry entry) {
     const auto* step = std::get_if<host::DialogStep>(&entry);
     if (step == nullptr)
         return entry;
-    return host::DialogStep([step = *step, before = messagesSent()](const host::Dialog& dialog) {
+    return host::DialogStep([step = *step, before = messagesSent()](const host::Dialog_s& dialog) {
         const FaultPause pause;
         if (messagesSent() == before)
             return step(dialog);
-        return host::DialogMove{host::PressDialogButton{host::DialogButton::Cancel}, "", false};
+        return host::DialogMove_s{host::PressDialogButton_s{host::DialogButton_e::Cancel}, "",
+                                  false};
     });
 }
 
@@ -82,7 +83,7 @@ Step_s deletesZones(const std::set<std::int64_t>& numbers) {
     return {"delete zones", Survival_e::BeforeOrNothing, [numbers] {
                 const FaultPause pause;
                 theHost().frame().dataSet()->deleteZones(numbers);
-                return host::LoadResult{.ok = true, .interrupted = false, .hostError = {}};
+                return host::LoadResult_s{.ok = true, .interrupted = false, .hostError = {}};
             }};
 }
 

@@ -28,7 +28,7 @@ enum class SideFile_e { None, Boundaries, Names };
 struct Step_s {
     std::string name;
     Survival_e survival = Survival_e::BeforeOrNothing;
-    std::function<host::LoadResult()> run;
+    std::function<host::LoadResult_s()> run;
 };
 
 struct Session_s {

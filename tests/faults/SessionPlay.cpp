@@ -53,7 +53,7 @@ std::string brokenContract() {
 
 std::string allMessages() {
     std::set<std::string> texts; // one that comes for each field is told once
-    for (const host::Message& message : theHost().log().messages)
+    for (const host::Message_s& message : theHost().log().messages)
         texts.insert(message.text);
     std::string all;
     for (const std::string& text : texts)
@@ -155,7 +155,7 @@ Ending_s FaultyPlay::run(const Step_s& step, const Standing_s& expected) {
     const std::size_t textsBefore = theHost().log().progress.count();
     Ending_s ending;
     try {
-        const host::LoadResult result = step.run();
+        const host::LoadResult_s result = step.run();
         const FaultPause pause;
         ending.ok = result.ok;
         ending.hostError = result.hostError;
@@ -208,7 +208,7 @@ void FaultyPlay::fetchAll(const Standing_s& expected) {
 }
 
 void FaultyPlay::fetchOne(const host::ZoneOutcome_s& zone, const host::FieldOutcome_s& field) {
-    host::FetchResult fetched;
+    host::FetchResult_s fetched;
     try {
         fetched = theHost().fetch(zone.number, field.variable);
     } catch (const std::bad_alloc&) {
@@ -250,7 +250,7 @@ Reference playWithoutFaults(const Session_s& session) {
         throw std::runtime_error(error);
     for (const Step_s& step : session.steps) {
         const std::int64_t messagesBefore = messagesSent();
-        const host::LoadResult result = step.run();
+        const host::LoadResult_s result = step.run();
         if (!result.ok)
             throw std::runtime_error(session.name + ", " + step.name + ": " + result.hostError +
                                      allMessages());

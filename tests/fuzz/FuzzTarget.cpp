@@ -4,8 +4,8 @@
 
 #include "FuzzInput.h"
 #include "addon/AddOnEntry.h"
-#include "plot3dfile/structure/MemoryFileSystem.h"
 #include "session/ReferenceHost.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -68,6 +68,17 @@ void fetchEverything(host::ReferenceHost& host) {
             host.fetch(zone, variable);
 }
 
+bool loadAndDiscard(host::ReferenceHost& host, const FuzzInput_s& input) {
+    FakeDisk disk;
+    disk.put("grid", input.grid);
+    disk.put("other1", input.other);
+    disk.put("other2", input.other);
+    const bool isLoaded = host.importInstructions(instructionsOf(input)).ok;
+    fetchEverything(host);
+    host.frame().reset();
+    return isLoaded;
+}
+
 void endOnViolation(host::ReferenceHost& host) {
     host.checkForLeaks();
     for (const std::string& violation : host.log().violations)
@@ -80,15 +91,7 @@ void endOnViolation(host::ReferenceHost& host) {
 
 bool loadInput(const FuzzInput_s& input) {
     host::ReferenceHost& host = enteredHost();
-    quorutildataio::MemoryFileSystem disk;
-    disk.put("grid", input.grid);
-    disk.put("other1", input.other);
-    disk.put("other2", input.other);
-    quorutildataio::setFileSystem(&disk);
-    const bool isLoaded = host.importInstructions(instructionsOf(input)).ok;
-    fetchEverything(host);
-    host.frame().reset();
-    quorutildataio::setFileSystem(nullptr);
+    const bool isLoaded = loadAndDiscard(host, input);
     endOnViolation(host);
     host.reset();
     return isLoaded;

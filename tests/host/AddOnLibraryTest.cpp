@@ -38,7 +38,7 @@ TEST_F(AddOnLibraryTest, LeavesNothingBehind) {
     host().importInstructions({"LOAD"});
     library->unload();
     EXPECT_EQ(loaderCount(), before);
-    EXPECT_EQ(field(1, 1).state(), FieldState::Empty);
+    EXPECT_EQ(field(1, 1).state(), FieldState_e::Empty);
     EXPECT_FALSE(isInMemory());
 }
 

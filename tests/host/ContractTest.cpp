@@ -62,7 +62,7 @@ TEST_F(ContractTest, WhatThisHostAsksOfMemoryListsAndSetsIsWhatTheSdkSays) {
     const std::vector<std::string> exempt = operationsOfSection("Memory, strings, lists, sets");
     EXPECT_EQ(exempt.size(), 27U);
     for (const std::string& name : exempt)
-        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed::None)
+        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed_e::None)
             << name;
 }
 
@@ -70,7 +70,7 @@ TEST_F(ContractTest, ZonesFieldsAndVariablesNeedTheLock) {
     const Texts names = operationsOfSection("Zones and variables");
     EXPECT_FALSE(names.empty());
     for (const std::string& name : names)
-        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed::Held)
+        EXPECT_EQ(OperationId::at(findOperation(name).value()).traits().lock, LockNeed_e::Held)
             << name;
 }
 

@@ -126,7 +126,7 @@ TEST_F(DataSetTest, NewVariableGetsAFieldInEveryZone) {
     ASSERT_TRUE(QuorUtilDataSetAddVarX(arguments.get()));
     EXPECT_EQ(QuorUtilDataValueGetType(1, 2), QuorFieldDataType_Double);
     EXPECT_EQ(QuorUtilDataValueGetType(2, 2), QuorFieldDataType_Int32);
-    EXPECT_EQ(field(2, 2).state(), FieldState::Empty);
+    EXPECT_EQ(field(2, 2).state(), FieldState_e::Empty);
 }
 
 TEST_F(DataSetTest, NewVariableIsZeroUnlessItIsLeftEmpty) {
@@ -135,7 +135,7 @@ TEST_F(DataSetTest, NewVariableIsZeroUnlessItIsLeftEmpty) {
     const HostArgList arguments(QuorUtilArgListAlloc());
     QuorUtilArgListAppendString(arguments.get(), "Name", "E");
     ASSERT_TRUE(QuorUtilDataSetAddVarX(arguments.get()));
-    const FetchResult fetched = host().fetch(1, 2);
+    const FetchResult_s fetched = host().fetch(1, 2);
     EXPECT_EQ(fetched.count, 30);
     EXPECT_EQ(firstFloat(fetched), 0.0F);
 }

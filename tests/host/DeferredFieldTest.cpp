@@ -12,12 +12,12 @@ protected:
             addZone(2, 3, 5);
     }
     static constexpr std::int64_t fieldBytes = 2 * 3 * 5 * 4;
-    FakeSource a_{.firstValue = 10.0F}, b_{.firstValue = 20.0F}, c_{.firstValue = 30.0F};
+    FakeSource_s a_{.firstValue = 10.0F}, b_{.firstValue = 20.0F}, c_{.firstValue = 30.0F};
 };
 
 TEST_F(DeferredFieldTest, IsFetchedWhenAskedForAndNotAgain) {
     ASSERT_TRUE(a_.registerAt(1, 1));
-    EXPECT_EQ(field(1, 1).state(), FieldState::Deferred);
+    EXPECT_EQ(field(1, 1).state(), FieldState_e::Deferred);
     EXPECT_EQ(a_.loadCount, 0);
     EXPECT_EQ(firstFloat(host().fetch(1, 1)), 10.0F);
     EXPECT_EQ(host().fetch(1, 1).count, 30);
@@ -85,7 +85,7 @@ bool loadWithMessages(QuorFieldHandle) {
 }
 
 TEST_F(DeferredFieldTest, FailedLoadTellsItsMessages) {
-    QuorUtilDataValueCustomLOD(1, 1, loadWithMessages, nullptr, FakeSource::cleanUp, nullptr,
+    QuorUtilDataValueCustomLOD(1, 1, loadWithMessages, nullptr, FakeSource_s::cleanUp, nullptr,
                                nullptr, &a_);
     EXPECT_EQ(host().fetch(1, 1).error, "first\nsecond");
     EXPECT_EQ(host().log().messages.size(), 2U);
@@ -96,7 +96,7 @@ bool loadThrowing(QuorFieldHandle) {
 }
 
 TEST_F(DeferredFieldTest, ExceptionOfALoadIsBlamed) {
-    QuorUtilDataValueCustomLOD(1, 1, loadThrowing, nullptr, FakeSource::cleanUp, nullptr, nullptr,
+    QuorUtilDataValueCustomLOD(1, 1, loadThrowing, nullptr, FakeSource_s::cleanUp, nullptr, nullptr,
                                &a_);
     EXPECT_FALSE(host().fetch(1, 1).ok);
     expectViolations({"QuorUtilDataValueCustomLOD: the load callback has thrown an exception"});
@@ -109,8 +109,8 @@ bool loadForgetting(QuorFieldHandle) {
 }
 
 TEST_F(DeferredFieldTest, WhatALoadForgetsIsToldAtOnce) {
-    QuorUtilDataValueCustomLOD(1, 1, loadForgetting, nullptr, FakeSource::cleanUp, nullptr, nullptr,
-                               &a_);
+    QuorUtilDataValueCustomLOD(1, 1, loadForgetting, nullptr, FakeSource_s::cleanUp, nullptr,
+                               nullptr, &a_);
     EXPECT_TRUE(host().fetch(1, 1).ok);
     QuorUtilSetDealloc(&gForgotten);
     expectViolations({"QuorUtilSetAlloc: 1 not given back"});
@@ -182,10 +182,10 @@ TEST_F(DeferredFieldTest, IsNotCleanedUpIfTheHostRefusesIt) {
 
 TEST_F(DeferredFieldTest, NeedsItsCallbacksAndNoOthers) {
     const auto single = [](QuorFieldHandle, std::int64_t) { return 0.0; };
-    EXPECT_FALSE(QuorUtilDataValueCustomLOD(1, 1, nullptr, nullptr, FakeSource::cleanUp, nullptr,
+    EXPECT_FALSE(QuorUtilDataValueCustomLOD(1, 1, nullptr, nullptr, FakeSource_s::cleanUp, nullptr,
                                             nullptr, &a_));
-    EXPECT_FALSE(QuorUtilDataValueCustomLOD(1, 1, FakeSource::load, nullptr, FakeSource::cleanUp,
-                                            single, nullptr, &a_));
+    EXPECT_FALSE(QuorUtilDataValueCustomLOD(1, 1, FakeSource_s::load, nullptr,
+                                            FakeSource_s::cleanUp, single, nullptr, &a_));
     expectViolations({"QuorUtilDataValueCustomLOD: the load or the clean-up callback is null",
                       "QuorUtilDataValueCustomLOD: the slots for single values stay empty"});
 }
@@ -197,7 +197,7 @@ bool loadKeeping(QuorFieldHandle field) {
 }
 
 TEST_F(DeferredFieldTest, HandleEndsWithTheRegistration) {
-    QuorUtilDataValueCustomLOD(1, 1, loadKeeping, nullptr, FakeSource::cleanUp, nullptr, nullptr,
+    QuorUtilDataValueCustomLOD(1, 1, loadKeeping, nullptr, FakeSource_s::cleanUp, nullptr, nullptr,
                                &a_);
     host().fetch(1, 1);
     QuorUtilDataValueAlloc(1, 1);
@@ -206,7 +206,7 @@ TEST_F(DeferredFieldTest, HandleEndsWithTheRegistration) {
 }
 
 TEST_F(DeferredFieldTest, ArrayIsOnlyThereForTheLoad) {
-    QuorUtilDataValueCustomLOD(1, 1, loadKeeping, nullptr, FakeSource::cleanUp, nullptr, nullptr,
+    QuorUtilDataValueCustomLOD(1, 1, loadKeeping, nullptr, FakeSource_s::cleanUp, nullptr, nullptr,
                                &a_);
     host().fetch(1, 1);
     host().unload(1, 1);

@@ -11,7 +11,8 @@
 namespace quorvia::host {
 
 /// What the guest was told, in order, such as "toggle 1"; and what it is to do when told so.
-struct GuestDialog {
+class GuestDialog {
+public:
     static inline Texts told;
     static inline std::function<void()> whenOk;
     static inline std::function<bool(const char*)> whenTyped;
@@ -54,20 +55,20 @@ protected:
     }
 
     std::int32_t dialog() const { return dialog_; }
-    const Dialog& model() const {
-        for (const Dialog& dialog : host().toolkit().dialogs())
+    const Dialog_s& model() const {
+        for (const Dialog_s& dialog : host().toolkit().dialogs())
             if (dialog.id == dialog_)
                 return dialog;
         throw std::logic_error("the dialog is gone");
     }
-    const Control& control(std::int32_t id) const { return *findControl(model(), id); }
+    const Control_s& control(std::int32_t id) const { return *findControl(model(), id); }
 
     /// What the user does at the next launch, until the first thing that can't be done.
     void play(std::vector<DialogAction> actions) {
         std::vector<ScriptEntry> entries;
         for (DialogAction& action : actions)
-            entries.emplace_back(DialogStep([action = std::move(action)](const Dialog&) {
-                return DialogMove{action, "", false};
+            entries.emplace_back(DialogStep([action = std::move(action)](const Dialog_s&) {
+                return DialogMove_s{action, "", false};
             }));
         host().script().addToScript(std::move(entries));
     }

@@ -21,8 +21,8 @@ protected:
     std::int32_t box_ = QuorGUIRadioBoxAdd(dialog(), 10, 1500, 300, 299, "One", "Two", nullptr,
                                            nullptr, nullptr, GuestDialog::chosen);
 
-    static constexpr PressDialogButton ok{DialogButton::Ok};
-    static constexpr PressDialogButton cancel{DialogButton::Cancel};
+    static constexpr PressDialogButton_s ok{DialogButton_e::Ok};
+    static constexpr PressDialogButton_s cancel{DialogButton_e::Cancel};
 };
 
 TEST_F(DialogLoopTest, InitComesFirstAndCancelOfADialogWithoutOneEndsIt) {
@@ -35,9 +35,9 @@ TEST_F(DialogLoopTest, EachActionSetsTheValueAndTellsTheGuest) {
     QuorGUIListAppendItem(list_, "a");
     QuorGUIListAppendItem(list_, "b");
     QuorGUIListAppendItem(list_, "c");
-    launchAndPlay({SetToggle{toggle_, true}, PressButton{button_}, TypeText{field_, "wing"},
-                   SelectItems{list_, {1, 3}}, SelectItems{list_, {}}, SelectItems{list_, {2}},
-                   ChooseItem{menu_, 3}, ChooseItem{box_, 2}});
+    launchAndPlay({SetToggle_s{toggle_, true}, PressButton_s{button_}, TypeText_s{field_, "wing"},
+                   SelectItems_s{list_, {1, 3}}, SelectItems_s{list_, {}},
+                   SelectItems_s{list_, {2}}, ChooseItem_s{menu_, 3}, ChooseItem_s{box_, 2}});
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "toggle 1", "pressed", "typed wing", "selected 3",
                                         "selected 0", "selected 2", "item 3", "item 2"}));
     EXPECT_EQ(control(toggle_).value, 1);
@@ -48,8 +48,8 @@ TEST_F(DialogLoopTest, EachActionSetsTheValueAndTellsTheGuest) {
 }
 
 TEST_F(DialogLoopTest, ButtonsOfTheDialogCallTheGuest) {
-    launchAndPlay({PressDialogButton{DialogButton::Help}, PressDialogButton{DialogButton::Apply},
-                   ok, cancel});
+    launchAndPlay({PressDialogButton_s{DialogButton_e::Help},
+                   PressDialogButton_s{DialogButton_e::Apply}, ok, cancel});
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "help", "apply", "ok"}));
 }
 
@@ -73,7 +73,7 @@ TEST_F(DialogLoopTest, PagesAreLeftThenEntered) {
     const std::int32_t first = QuorGUITabAddPage(tabs, "First");
     const std::int32_t second = QuorGUITabAddPage(tabs, "Second");
     EXPECT_EQ(model().tabs->frontPage, first);
-    launchAndPlay({ShowPage{second}, ShowPage{second}});
+    launchAndPlay({ShowPage_s{second}, ShowPage_s{second}});
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "deactivated " + std::to_string(first),
                                         "activated " + std::to_string(second)}));
     EXPECT_EQ(model().tabs->frontPage, second);
@@ -84,7 +84,7 @@ TEST_F(DialogLoopTest, PageLeftInFrontIsEnteredAtTheNextLaunch) {
         QuorGUITabAdd(dialog(), 0, 0, 4000, 1500, GuestDialog::activated, GuestDialog::deactivated);
     QuorGUITabAddPage(tabs, "First");
     const std::int32_t second = QuorGUITabAddPage(tabs, "Second");
-    launchAndPlay({ShowPage{second}});
+    launchAndPlay({ShowPage_s{second}});
     GuestDialog::told.clear();
     launchAndPlay({});
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "activated " + std::to_string(second)}));
@@ -96,9 +96,9 @@ TEST_F(DialogLoopTest, RefusedTextStaysUnlessTheGuestReplacesIt) {
             QuorGUITextFieldSetString(field_, "good");
         return false;
     };
-    launchAndPlay({TypeText{field_, "bad"}});
+    launchAndPlay({TypeText_s{field_, "bad"}});
     EXPECT_EQ(control(field_).text, "good");
-    launchAndPlay({TypeText{field_, "worse"}});
+    launchAndPlay({TypeText_s{field_, "worse"}});
     EXPECT_EQ(control(field_).text, "worse");
 }
 
@@ -110,7 +110,7 @@ TEST_F(DialogLoopTest, DialogIsLaunchedAgainFromItsOwnOk) {
         QuorGUIDialogLaunch(dialog());
         GuestDialog::told.emplace_back("inner launch ended");
     };
-    launchAndPlay({ok, SetToggle{toggle_, true}, ok});
+    launchAndPlay({ok, SetToggle_s{toggle_, true}, ok});
     EXPECT_EQ(GuestDialog::told,
               (Texts{"init", "ok", "init", "toggle 1", "ok", "inner launch ended"}));
     EXPECT_EQ(host().script().cancelledDialogs(), 0);
@@ -135,14 +135,14 @@ TEST_F(DialogLoopTest, ExceptionOfAGuestLeavesTheDialogClosed) {
 }
 
 TEST_F(DialogLoopTest, ScriptThatLeavesADialogOpenCancelsIt) {
-    launchAndPlay({SetToggle{toggle_, true}});
+    launchAndPlay({SetToggle_s{toggle_, true}});
     EXPECT_EQ(host().script().cancelledDialogs(), 1);
     EXPECT_EQ(host().script().problem(), "");
 }
 
 TEST_F(DialogLoopTest, ScriptThatWantsTheImpossibleIsGivenUp) {
     QuorGUISetSensitivity(button_, false);
-    launchAndPlay({PressButton{button_}, SetToggle{toggle_, true}});
+    launchAndPlay({PressButton_s{button_}, SetToggle_s{toggle_, true}});
     EXPECT_EQ(host().script().problem(), "the control is not sensitive");
     EXPECT_EQ(GuestDialog::told, Texts{"init"});
     EXPECT_FALSE(model().open);
@@ -150,9 +150,9 @@ TEST_F(DialogLoopTest, ScriptThatWantsTheImpossibleIsGivenUp) {
 
 TEST_F(DialogLoopTest, StepThatWasOnlyTheWayIsCalledAgain) {
     int calls = 0;
-    host().script().addToScript({DialogStep([&](const Dialog&) {
+    host().script().addToScript({DialogStep([&](const Dialog_s&) {
         ++calls;
-        return DialogMove{SetToggle{toggle_, calls == 2}, "", calls == 1};
+        return DialogMove_s{SetToggle_s{toggle_, calls == 2}, "", calls == 1};
     })});
     QuorGUIDialogLaunch(dialog());
     EXPECT_EQ(GuestDialog::told, (Texts{"init", "toggle 0", "toggle 1"}));
@@ -166,16 +166,16 @@ TEST_F(DialogLoopTest, ImpossibleActionsSayWhy) {
     const std::int32_t page =
         QuorGUITabAddPage(QuorGUITabAdd(dialog(), 0, 0, 4000, 1500, nullptr, nullptr), "First");
     const auto why = [this](const DialogAction& action) { return whyImpossible(model(), action); };
-    EXPECT_EQ(why(ShowPage{page}), "");
-    EXPECT_EQ(why(ShowPage{dialog()}), "the dialog has no such page");
-    EXPECT_EQ(why(PressButton{page}), "the dialog has no such control");
-    EXPECT_EQ(why(PressButton{toggle_}), "the control is of another kind");
-    EXPECT_EQ(why(ChooseItem{menu_, 4}), "there is no item 4");
-    EXPECT_EQ(why(ChooseItem{box_, 0}), "there is no item 0");
-    EXPECT_EQ(why(SelectItems{list_, {2}}), "there is no item 2");
-    EXPECT_EQ(why(SelectItems{single, {1, 2}}), "the list allows one item at a time");
-    EXPECT_EQ(why(SelectItems{single, {2}}), "");
-    EXPECT_EQ(why(SelectItems{list_, {1, 1}}), "the positions are not in ascending order");
+    EXPECT_EQ(why(ShowPage_s{page}), "");
+    EXPECT_EQ(why(ShowPage_s{dialog()}), "the dialog has no such page");
+    EXPECT_EQ(why(PressButton_s{page}), "the dialog has no such control");
+    EXPECT_EQ(why(PressButton_s{toggle_}), "the control is of another kind");
+    EXPECT_EQ(why(ChooseItem_s{menu_, 4}), "there is no item 4");
+    EXPECT_EQ(why(ChooseItem_s{box_, 0}), "there is no item 0");
+    EXPECT_EQ(why(SelectItems_s{list_, {2}}), "there is no item 2");
+    EXPECT_EQ(why(SelectItems_s{single, {1, 2}}), "the list allows one item at a time");
+    EXPECT_EQ(why(SelectItems_s{single, {2}}), "");
+    EXPECT_EQ(why(SelectItems_s{list_, {1, 1}}), "the positions are not in ascending order");
 }
 
 TEST_F(DialogLoopTest, ControlBehindTheFrontPageIsOutOfReach) {
@@ -183,7 +183,7 @@ TEST_F(DialogLoopTest, ControlBehindTheFrontPageIsOutOfReach) {
     QuorGUITabAddPage(tabs, "First");
     const std::int32_t second = QuorGUITabAddPage(tabs, "Second");
     const std::int32_t hidden = QuorGUIButtonAdd(second, 0, 0, 9, 9, "Hidden", nullptr);
-    EXPECT_EQ(whyImpossible(model(), PressButton{hidden}),
+    EXPECT_EQ(whyImpossible(model(), PressButton_s{hidden}),
               "the control is on a page that is not in front");
 }
 
@@ -209,13 +209,13 @@ TEST_F(DialogLoopTest, FileChoiceMayStandBeforeOrBehindWhatOpensTheChooser) {
 class WatchingUser : public ScriptedUser {
 public:
     Texts seen;
-    void dialogShown(const Dialog& dialog) override { seen.push_back("shown " + dialog.title); }
-    void dialogDropped(const Dialog&) override { seen.emplace_back("dropped"); }
-    void pageShown(const Dialog&) override { seen.emplace_back("page"); }
-    void controlChanged(const Dialog&, const Control& control) override {
+    void dialogShown(const Dialog_s& dialog) override { seen.push_back("shown " + dialog.title); }
+    void dialogDropped(const Dialog_s&) override { seen.emplace_back("dropped"); }
+    void pageShown(const Dialog_s&) override { seen.emplace_back("page"); }
+    void controlChanged(const Dialog_s&, const Control_s& control) override {
         seen.push_back("changed " + control.caption);
     }
-    void focusMoved(const Dialog&) override { seen.emplace_back("focus"); }
+    void focusMoved(const Dialog_s&) override { seen.emplace_back("focus"); }
     void read(const std::string& text, bool isError) override {
         seen.push_back((isError ? "error " : "information ") + text);
     }
@@ -234,7 +234,7 @@ TEST_F(DialogLoopTest, UserSeesWhatChangesWhileTheDialogIsOpen) {
         QuorUtilDialogMessageBox("fine", QuorMessageBox_Information);
         QuorUtilHelp("page.html", false, 0);
     };
-    user.addToScript({DialogStep([](const Dialog&) { return DialogMove{ok, "", false}; })});
+    user.addToScript({DialogStep([](const Dialog_s&) { return DialogMove_s{ok, "", false}; })});
     QuorGUIDialogLaunch(dialog());
     EXPECT_EQ(user.seen, (Texts{"shown Guest", "changed Swirl ", "changed Swirl ", "focus",
                                 "error broken", "information fine", "help page.html", "dropped"}));

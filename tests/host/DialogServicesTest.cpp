@@ -10,8 +10,8 @@ using DialogServicesTest = DialogTest;
 TEST_F(DialogServicesTest, ControlsKeepWhatTheyWereMadeWith) {
     const std::int32_t button =
         QuorGUIButtonAdd(dialog(), 7387, 824, 2018, 144, "Remove All   ", GuestDialog::pressed);
-    const Control& made = control(button);
-    EXPECT_EQ(made.kind, ControlKind::Button);
+    const Control_s& made = control(button);
+    EXPECT_EQ(made.kind, ControlKind_e::Button);
     EXPECT_EQ(made.caption, "Remove All   ");
     EXPECT_EQ(made.parent, dialog());
     EXPECT_EQ(made.geometry.x, 7387);
@@ -57,7 +57,7 @@ TEST_F(DialogServicesTest, SelectedItemsComeAsAnArrayThatIsGivenBack) {
     const std::int32_t list = QuorGUIListAdd(dialog(), 0, 0, 9, 9, true, nullptr);
     for (const char* item : {"a", "b", "c"})
         QuorGUIListAppendItem(list, item);
-    launchAndPlay({SelectItems{list, {1, 3}}});
+    launchAndPlay({SelectItems_s{list, {1, 3}}});
     std::int32_t* positions = nullptr;
     std::int32_t count = 0;
     QuorGUIListGetSelectedItems(list, &positions, &count);
@@ -73,7 +73,7 @@ TEST_F(DialogServicesTest, SelectedItemsComeAsAnArrayThatIsGivenBack) {
 TEST_F(DialogServicesTest, EmptiedListHasNoSelection) {
     const std::int32_t list = QuorGUIListAdd(dialog(), 0, 0, 9, 9, true, nullptr);
     QuorGUIListAppendItem(list, "a");
-    launchAndPlay({SelectItems{list, {1}}});
+    launchAndPlay({SelectItems_s{list, {1}}});
     QuorGUIListDeleteAllItems(list);
     std::int32_t* positions = nullptr;
     std::int32_t count = 7;

@@ -77,7 +77,7 @@ TEST_F(FaultTest, QueriesAndOperationsWithoutResultCantFail) {
 }
 
 // One call of each operation that can fail and gives a bool.
-struct FailingCall {
+struct FailingCall_s {
     const char* operation;
     bool (*call)();
 };
@@ -94,7 +94,7 @@ protected:
 };
 
 TEST_F(EveryFault, IsAFalseResultAndChangesNothing) {
-    const FailingCall calls[] = {
+    const FailingCall_s calls[] = {
         {"QuorUtilDataSetGetInfo",
          [] { return QuorUtilDataSetGetInfo(nullptr, nullptr, nullptr); }},
         {"QuorUtilDataSetAddZoneX",

@@ -41,7 +41,7 @@ TEST_F(FieldTest, ArrayIsTheFieldItself) {
     void* array = nullptr;
     QuorUtilDataValueGetRawPtr(1, 2, &array, nullptr);
     static_cast<double*>(array)[29] = 10423.0;
-    const FetchResult fetched = host().fetch(1, 2);
+    const FetchResult_s fetched = host().fetch(1, 2);
     EXPECT_EQ(fetched.count, 30);
     EXPECT_EQ(fetched.type, QuorFieldDataType_Double);
     EXPECT_EQ(static_cast<const double*>(fetched.values)[29], 10423.0);

@@ -77,10 +77,10 @@ protected:
             QuorUtilSetAddMember(set.get(), member, true);
         return set;
     }
-    static Field& field(std::int32_t zone, std::int32_t var) {
+    static Field_s& field(std::int32_t zone, std::int32_t var) {
         return *host().frame().dataSet()->field(zone, var);
     }
-    static float firstFloat(const FetchResult& fetched) {
+    static float firstFloat(const FetchResult_s& fetched) {
         return fetched.ok ? *static_cast<const float*>(fetched.values) : -1.0F;
     }
 
@@ -91,7 +91,7 @@ private:
 };
 
 /// A field that its source keeps: counts what the host asks of it. Must outlive the registration.
-struct FakeSource {
+struct FakeSource_s {
     float firstValue = 0.0F;
     bool loads = true;
     bool allowsUnload = true;
@@ -103,11 +103,11 @@ struct FakeSource {
         return QuorUtilDataValueCustomLOD(zone, var, load, unload, cleanUp, nullptr, nullptr, this);
     }
 
-    static FakeSource& of(QuorFieldHandle field) {
-        return *static_cast<FakeSource*>(QuorUtilDataValueGetClientData(field));
+    static FakeSource_s& of(QuorFieldHandle field) {
+        return *static_cast<FakeSource_s*>(QuorUtilDataValueGetClientData(field));
     }
     static bool load(QuorFieldHandle field) {
-        FakeSource& source = of(field);
+        FakeSource_s& source = of(field);
         ++source.loadCount;
         if (source.loads)
             *static_cast<float*>(QuorUtilDataValueGetRawPtrByRef(field)) = source.firstValue;

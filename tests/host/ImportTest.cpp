@@ -20,7 +20,7 @@ TEST_F(ImportTest, LoaderStaysRegisteredOverAReset) {
 }
 
 TEST_F(ImportTest, InstructionsComeBackFromASelection) {
-    const LoadResult result = host().importSelection({"a.guest", "b.guest"}, false, false);
+    const LoadResult_s result = host().importSelection({"a.guest", "b.guest"}, false, false);
     EXPECT_TRUE(result.ok);
     EXPECT_EQ(host().log().instructions, (Texts{"a.guest", "b.guest"}));
     EXPECT_TRUE(host().log().instructionsHandedOver);
@@ -63,7 +63,7 @@ TEST_F(ImportTest, InterruptionEndsWithTheLoad) {
     EXPECT_TRUE(host().importInstructions({"STEP"}).interrupted);
     EXPECT_FALSE(host().interruptRequested());
     host().clearFaults();
-    const LoadResult result = host().importInstructions({"STEP"});
+    const LoadResult_s result = host().importInstructions({"STEP"});
     EXPECT_TRUE(result.ok);
     EXPECT_FALSE(result.interrupted);
 }
@@ -85,7 +85,7 @@ TEST_F(ImportTest, BorrowedListStaysTheHosts) {
 }
 
 TEST_F(ImportTest, LoaderMayRunOutOfMemory) {
-    const LoadResult result = host().importInstructions({"RUN OUT OF MEMORY"});
+    const LoadResult_s result = host().importInstructions({"RUN OUT OF MEMORY"});
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.hostError, "The add-on ran out of memory.");
 }

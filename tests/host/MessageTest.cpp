@@ -9,14 +9,14 @@ using MessageTest = HostTest;
 TEST_F(MessageTest, ErrorsAreShown) {
     QuorUtilDialogErrMsg("broken");
     ASSERT_EQ(host().log().messages.size(), 1U);
-    EXPECT_EQ(host().log().messages[0].kind, MessageKind::Error);
+    EXPECT_EQ(host().log().messages[0].kind, MessageKind_e::Error);
     EXPECT_EQ(host().log().messages[0].text, "broken");
     EXPECT_EQ(host().log().messages[0].answer, std::nullopt);
 }
 
 TEST_F(MessageTest, InformationIsAlwaysAcknowledged) {
     EXPECT_TRUE(QuorUtilDialogMessageBox("for you", QuorMessageBox_Information));
-    EXPECT_EQ(host().log().messages[0].kind, MessageKind::Information);
+    EXPECT_EQ(host().log().messages[0].kind, MessageKind_e::Information);
     EXPECT_EQ(host().log().messages[0].answer, std::nullopt);
 }
 
@@ -25,7 +25,7 @@ TEST_F(MessageTest, QuestionsTakeTheAnswersInOrderThenTheLater) {
     EXPECT_TRUE(QuorUtilDialogMessageBox("first", QuorMessageBox_OkCancel));
     EXPECT_FALSE(QuorUtilDialogMessageBox("second", QuorMessageBox_YesNo));
     EXPECT_TRUE(QuorUtilDialogMessageBox("third", QuorMessageBox_YesNo));
-    EXPECT_EQ(host().log().messages[1].kind, MessageKind::Question);
+    EXPECT_EQ(host().log().messages[1].kind, MessageKind_e::Question);
     EXPECT_EQ(host().log().messages[1].answer, std::optional(false));
 }
 
@@ -48,7 +48,7 @@ TEST_F(MessageTest, LastErrorTellsWhatFailed) {
 
 TEST_F(MessageTest, ObserverSeesEachMessageAnswered) {
     Texts seen;
-    host().settings().messageObserver = [&](const Message& message) {
+    host().settings().messageObserver = [&](const Message_s& message) {
         seen.push_back(message.text + (message.answer.value_or(false) ? " yes" : " no"));
     };
     host().setAnswers({true}, false);

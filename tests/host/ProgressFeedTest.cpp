@@ -31,7 +31,7 @@ TEST(ProgressFeed, TakesStatesFromAnotherThread) {
     });
     double shown = 0;
     while (shown < stateCount) {
-        const std::optional<ProgressState> state = feed.take();
+        const std::optional<ProgressState_s> state = feed.take();
         if (!state) {
             std::this_thread::yield();
             continue;

@@ -68,10 +68,12 @@ TEST_F(ProgressTest, ReplacedSubTaskEnds) {
 class ProgressFractionTest : public ProgressTest {
 protected:
     ProgressFractionTest() {
-        host().settings().progressObserver = [this](const ProgressState& state) { seen_ = state; };
+        host().settings().progressObserver = [this](const ProgressState_s& state) {
+            seen_ = state;
+        };
     }
     ~ProgressFractionTest() override { host().settings().progressObserver = nullptr; }
-    ProgressState seen_;
+    ProgressState_s seen_;
 };
 
 TEST_F(ProgressFractionTest, GrowsWithTheSteps) {

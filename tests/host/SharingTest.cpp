@@ -13,13 +13,13 @@ protected:
         addZone(2, 3, 7);
     }
     static DataSet& data() { return *host().frame().dataSet(); }
-    FakeSource source_{.firstValue = 10.0F};
+    FakeSource_s source_{.firstValue = 10.0F};
 };
 
 TEST_F(SharingTest, DeferredFieldIsFetchedOnceForAll) {
     source_.registerAt(1, 1);
     ASSERT_TRUE(QuorUtilDataValueShare(1, 2, 1));
-    EXPECT_EQ(field(2, 1).state(), FieldState::Deferred);
+    EXPECT_EQ(field(2, 1).state(), FieldState_e::Deferred);
     EXPECT_EQ(firstFloat(host().fetch(2, 1)), 10.0F);
     EXPECT_EQ(host().fetch(1, 1).values, host().fetch(2, 1).values);
     EXPECT_EQ(source_.loadCount, 1);
@@ -65,7 +65,7 @@ TEST_F(SharingTest, NeedsTheSameType) {
 
 TEST_F(SharingTest, NeedsASourceWithValues) {
     EXPECT_FALSE(QuorUtilDataValueShare(1, 2, 1));
-    EXPECT_EQ(field(2, 1).state(), FieldState::Empty);
+    EXPECT_EQ(field(2, 1).state(), FieldState_e::Empty);
 }
 
 TEST_F(SharingTest, CanBeForbidden) {
@@ -109,7 +109,7 @@ protected:
         QuorUtilArgListAppendInt(arguments.get(), "ConnectShareZone", 1);
         return QuorUtilDataSetAddZoneX(arguments.get());
     }
-    static Zone& zone(std::int32_t number) { return *host().frame().dataSet()->zone(number); }
+    static Zone_s& zone(std::int32_t number) { return *host().frame().dataSet()->zone(number); }
 };
 
 TEST_F(NodeMapSharingTest, NodesOutliveTheZoneTheyCameWith) {

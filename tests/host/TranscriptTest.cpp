@@ -58,8 +58,8 @@ TEST_F(TranscriptTest, TellsTheTypesOfANewZone) {
 TEST_F(TranscriptTest, PutsCallbacksBelowTheCallThatCausedThem) {
     createDataSet({"X"});
     addZone(2, 3, 5);
-    FakeSource first;
-    FakeSource second;
+    FakeSource_s first;
+    FakeSource_s second;
     first.registerAt(1, 1);
     host().recordTranscript(true);
     second.registerAt(1, 1);

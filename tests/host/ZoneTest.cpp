@@ -12,7 +12,9 @@ protected:
     static bool add(const HostArgList& arguments) {
         return QuorUtilDataSetAddZoneX(arguments.get());
     }
-    static const Zone& zone(std::int32_t number) { return *host().frame().dataSet()->zone(number); }
+    static const Zone_s& zone(std::int32_t number) {
+        return *host().frame().dataSet()->zone(number);
+    }
 };
 
 TEST_F(ZoneTest, KeepsItsSizes) {
@@ -115,7 +117,7 @@ TEST_F(ZoneTest, TakesTheTypesOfItsParentUnlessItNamesThem) {
 
 TEST_F(ZoneTest, FieldsAreZeroUnlessTheyAreDeferred) {
     addZone(2, 3, 5);
-    EXPECT_EQ(field(1, 1).state(), FieldState::Empty);
+    EXPECT_EQ(field(1, 1).state(), FieldState_e::Empty);
     const HostArgList arguments(QuorUtilArgListAlloc());
     QuorUtilArgListAppendString(arguments.get(), "Name", "zone");
     for (const char* key : {"ZoneType", "DeferVarCreation"})
@@ -123,7 +125,7 @@ TEST_F(ZoneTest, FieldsAreZeroUnlessTheyAreDeferred) {
     for (const char* key : {"IMax", "JMax", "KMax"})
         QuorUtilArgListAppendInt(arguments.get(), key, 3);
     ASSERT_TRUE(add(arguments));
-    EXPECT_EQ(field(2, 3).state(), FieldState::Stored);
+    EXPECT_EQ(field(2, 3).state(), FieldState_e::Stored);
     EXPECT_EQ(host().fetch(2, 3).count, 27);
 }
 

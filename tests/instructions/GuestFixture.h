@@ -30,7 +30,7 @@ protected:
 
     static std::vector<std::string> messages() {
         std::vector<std::string> texts;
-        for (const host::Message& message : host().log().messages)
+        for (const host::Message_s& message : host().log().messages)
             texts.push_back(message.text);
         return texts;
     }

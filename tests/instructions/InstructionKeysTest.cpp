@@ -16,13 +16,13 @@ std::string missingOption(const std::string& word) {
 
 class InstructionKeys : public testsupport::ParserTest {};
 
-struct FlagKey {
+struct FlagKey_s {
     const char* word;
     bool Options::*flag;
 };
 
 class FlagInstruction : public testsupport::ParserTest,
-                        public ::testing::WithParamInterface<FlagKey> {
+                        public ::testing::WithParamInterface<FlagKey_s> {
 protected:
     bool flagAfter(const char* value) {
         createDataSet(); // so that APPEND is allowed
@@ -48,17 +48,18 @@ TEST_P(FlagInstruction, WantsAValue) {
 INSTANTIATE_TEST_SUITE_P(
     Keys, FlagInstruction,
     ::testing::Values(
-        FlagKey{"APPEND", &Options::append}, FlagKey{"ASCIIISDOUBLE", &Options::asciiIsDouble},
-        FlagKey{"ASCIIHASIBLANK", &Options::asciiHasIBlank},
-        FlagKey{"SOLUTIONSSHARESTRUCTURE", &Options::solutionsShareStructure},
-        FlagKey{"AUTODETECT", &Options::autoDetect}, FlagKey{"ISMULTIGRID", &Options::isMultiGrid},
-        FlagKey{"ADDTOEXISTINGSTRANDS", &Options::addToExistingStrands},
-        FlagKey{"LOADBOUNDARY", &Options::loadBoundary},
-        FlagKey{"UNIFORMGRIDSTRUCTURE", &Options::uniformGridStructure},
-        FlagKey{"ASSIGNNEWSTRANDIDFOREACHTIMESTEP", &Options::assignNewStrandIdForEachTimeStep},
-        FlagKey{"EXTRACTTIMEFROMSOLFILENAMES", &Options::extractTimeFromSolFileNames},
-        FlagKey{"ASSIGNSTRANDIDS", &Options::assignStrandIds},
-        FlagKey{"ASSIGNSTRANDIDS", &Options::assignStrandIdsRequested}));
+        FlagKey_s{"APPEND", &Options::append}, FlagKey_s{"ASCIIISDOUBLE", &Options::asciiIsDouble},
+        FlagKey_s{"ASCIIHASIBLANK", &Options::asciiHasIBlank},
+        FlagKey_s{"SOLUTIONSSHARESTRUCTURE", &Options::solutionsShareStructure},
+        FlagKey_s{"AUTODETECT", &Options::autoDetect},
+        FlagKey_s{"ISMULTIGRID", &Options::isMultiGrid},
+        FlagKey_s{"ADDTOEXISTINGSTRANDS", &Options::addToExistingStrands},
+        FlagKey_s{"LOADBOUNDARY", &Options::loadBoundary},
+        FlagKey_s{"UNIFORMGRIDSTRUCTURE", &Options::uniformGridStructure},
+        FlagKey_s{"ASSIGNNEWSTRANDIDFOREACHTIMESTEP", &Options::assignNewStrandIdForEachTimeStep},
+        FlagKey_s{"EXTRACTTIMEFROMSOLFILENAMES", &Options::extractTimeFromSolFileNames},
+        FlagKey_s{"ASSIGNSTRANDIDS", &Options::assignStrandIds},
+        FlagKey_s{"ASSIGNSTRANDIDS", &Options::assignStrandIdsRequested}));
 
 TEST_F(InstructionKeys, KnowTheWordsOfStyles) {
     const Plot3DStyle_e styles[] = {Plot3DStyle_Classic, Plot3DStyle_Function, Plot3DStyle_Overflow,

@@ -66,13 +66,13 @@ TEST(TrueString, IsOneOfFiveWordsInAnyCase) {
     EXPECT_FALSE(isTrueString(nullptr));
 }
 
-struct CountSpelling {
+struct CountSpelling_s {
     const char* text;
     bool isRead;
     std::int32_t count; // if it is read
 };
 
-class Count : public ::testing::TestWithParam<CountSpelling> {};
+class Count : public ::testing::TestWithParam<CountSpelling_s> {};
 
 TEST_P(Count, ReadsOrRefuses) {
     std::int32_t count = 0;
@@ -84,12 +84,13 @@ TEST_P(Count, ReadsOrRefuses) {
 
 INSTANTIATE_TEST_SUITE_P(
     Spellings, Count,
-    ::testing::Values(CountSpelling{"17", true, 17}, CountSpelling{" \t\n 17", true, 17},
-                      CountSpelling{"17 files", true, 17}, CountSpelling{"17.9", true, 17},
-                      CountSpelling{"+5", true, 5}, CountSpelling{"-5", true, -5},
-                      CountSpelling{"007", true, 7}, CountSpelling{"2147483647", true, 2147483647},
-                      CountSpelling{"2147483648", false, 0}, CountSpelling{"", false, 0},
-                      CountSpelling{"many", false, 0}, CountSpelling{"+-5", false, 0}));
+    ::testing::Values(CountSpelling_s{"17", true, 17}, CountSpelling_s{" \t\n 17", true, 17},
+                      CountSpelling_s{"17 files", true, 17}, CountSpelling_s{"17.9", true, 17},
+                      CountSpelling_s{"+5", true, 5}, CountSpelling_s{"-5", true, -5},
+                      CountSpelling_s{"007", true, 7},
+                      CountSpelling_s{"2147483647", true, 2147483647},
+                      CountSpelling_s{"2147483648", false, 0}, CountSpelling_s{"", false, 0},
+                      CountSpelling_s{"many", false, 0}, CountSpelling_s{"+-5", false, 0}));
 
 TEST(FileName, IsTrimmedAtItsEndsOnly) {
     EXPECT_EQ(trimFileName(" \t\r\na b.x\n\r\t "), "a b.x");

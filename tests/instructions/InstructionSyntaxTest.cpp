@@ -7,7 +7,7 @@ namespace {
 using testsupport::Texts;
 
 const std::string noFiles = "Must have at least one grid, solution or function file.";
-const std::string kRangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
+const std::string rangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
 
 std::string missingOption(const std::string& word) {
     return "Error in PLOT3D loader instructions.\nExpecting option for: " + word;
@@ -100,10 +100,10 @@ TEST_F(InstructionSyntax, OfOldMayAskForDetection) {
 }
 
 TEST_F(InstructionSyntax, RefusesAKRangeOfOtherThan3DWhole) {
-    EXPECT_EQ(faultOf({"KINDEXRANGE", "1,,1", "DATASTRUCTURE", "2D"}), kRangeNotAllowed);
-    EXPECT_EQ(faultOf({"DATASTRUCTURE", "2D", "KINDEXRANGE", "1,,1"}), kRangeNotAllowed);
+    EXPECT_EQ(faultOf({"KINDEXRANGE", "1,,1", "DATASTRUCTURE", "2D"}), rangeNotAllowed);
+    EXPECT_EQ(faultOf({"DATASTRUCTURE", "2D", "KINDEXRANGE", "1,,1"}), rangeNotAllowed);
     EXPECT_EQ(faultOf({"AUTODETECT", "No", "DATASTRUCTURE", "3DP", "KINDEXRANGE", "1,,1"}),
-              kRangeNotAllowed);
+              rangeNotAllowed);
     EXPECT_TRUE(parseStandard({"KINDEXRANGE", "1,,1"}));
 }
 
@@ -117,7 +117,7 @@ TEST_F(InstructionSyntax, TellsTheFirstFaultOfTheOptionsAlone) {
     EXPECT_FALSE(parse({"STANDARDSYNTAX", "1.0", "AUTODETECT", "No", "APPEND", "Yes"}));
     EXPECT_EQ(messages(), Texts{"STYLE tag is required if AUTODETECT is FALSE."});
     EXPECT_EQ(faultOf({"DATASTRUCTURE", "2D", "KINDEXRANGE", "1,,1", "APPEND", "Yes"}),
-              kRangeNotAllowed);
+              rangeNotAllowed);
 }
 
 TEST_F(InstructionSyntax, AppendsToTheDataSetThatIsThere) {

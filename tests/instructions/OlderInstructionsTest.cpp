@@ -10,8 +10,7 @@ namespace {
 
 using testsupport::Texts;
 
-constexpr const char* kRangeNotAllowed =
-    "Error: Not allowed to use -KSet when data is not 3d whole";
+constexpr const char* rangeNotAllowed = "Error: Not allowed to use -KSet when data is not 3d whole";
 constexpr const char* noFiles = "Must have at least one grid, solution or function file.";
 
 std::string missingOption(const std::string& word) {
@@ -94,9 +93,9 @@ TEST_F(OlderInstructions, ReadRangesLikeTheirKeys) {
 
 TEST_F(OlderInstructions, RefuseAKRangeOfOtherThan3DWholeInEitherOrder) {
     EXPECT_FALSE(parse({"-2D", "-KSET", "1,,1", "-GF", "a.x"}));
-    EXPECT_EQ(messages(), Texts{kRangeNotAllowed});
+    EXPECT_EQ(messages(), Texts{rangeNotAllowed});
     EXPECT_FALSE(parse({"-KSET", "1,,1", "-2D", "-GF", "a.x"}));
-    EXPECT_EQ(messages(), Texts{kRangeNotAllowed});
+    EXPECT_EQ(messages(), Texts{rangeNotAllowed});
 }
 
 TEST_F(OlderInstructions, GatherSolutionFilesInTheirOrder) {

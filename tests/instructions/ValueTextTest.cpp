@@ -35,14 +35,14 @@ TEST(CompareNoCase, LooksAtNoMoreThanTheLimit) {
     EXPECT_EQ(compareNoCase("a", "b", 0), 0);
 }
 
-struct IntegerSpelling {
+struct IntegerSpelling_s {
     const char* text;
     bool isRead;
     std::int64_t value;
     const char* rest;
 };
 
-class ReadSignedInteger : public ::testing::TestWithParam<IntegerSpelling> {};
+class ReadSignedInteger : public ::testing::TestWithParam<IntegerSpelling_s> {};
 
 TEST_P(ReadSignedInteger, ReadsOrRefuses) {
     const char* cursor = GetParam().text;
@@ -55,14 +55,14 @@ TEST_P(ReadSignedInteger, ReadsOrRefuses) {
 INSTANTIATE_TEST_SUITE_P(
     Spellings, ReadSignedInteger,
     ::testing::Values(
-        IntegerSpelling{"1234567890", true, 1234567890, ""},
-        IntegerSpelling{"9999999999,", true, 9999999999, ","},
-        IntegerSpelling{"12345678901", false, 17, "1"}, IntegerSpelling{"007", true, 7, ""},
-        IntegerSpelling{" \t42 x", true, 42, " x"}, IntegerSpelling{"-5", true, -5, ""},
-        IntegerSpelling{"+5", false, 17, "+5"}, IntegerSpelling{"", false, 17, ""},
-        IntegerSpelling{"a", false, 17, "a"}, IntegerSpelling{"\n1", false, 17, "\n1"},
+        IntegerSpelling_s{"1234567890", true, 1234567890, ""},
+        IntegerSpelling_s{"9999999999,", true, 9999999999, ","},
+        IntegerSpelling_s{"12345678901", false, 17, "1"}, IntegerSpelling_s{"007", true, 7, ""},
+        IntegerSpelling_s{" \t42 x", true, 42, " x"}, IntegerSpelling_s{"-5", true, -5, ""},
+        IntegerSpelling_s{"+5", false, 17, "+5"}, IntegerSpelling_s{"", false, 17, ""},
+        IntegerSpelling_s{"a", false, 17, "a"}, IntegerSpelling_s{"\n1", false, 17, "\n1"},
         // The sign is applied to what stood there before, also on failure.
-        IntegerSpelling{"-x", false, -17, "x"}, IntegerSpelling{"- 3", false, -17, " 3"}));
+        IntegerSpelling_s{"-x", false, -17, "x"}, IntegerSpelling_s{"- 3", false, -17, " 3"}));
 
 class SetText : public testsupport::GuestTest {
 protected:

@@ -21,7 +21,7 @@ protected:
         makeOldDataSet(variables, zones);
         host().frame().setPlotType(plotType);
     }
-    static host::Field& field(std::int32_t zone, std::int32_t var) {
+    static host::Field_s& field(std::int32_t zone, std::int32_t var) {
         return *host().frame().dataSet()->field(zone, var);
     }
     void makeIntegers(std::int32_t zone, std::int32_t var) {
@@ -287,7 +287,7 @@ protected:
     void makeZoneOfType(std::int32_t type, std::int64_t nodes = 7) {
         host().clearLog();
         makeDataSet(gridAndSolution, 1);
-        host::Zone& zone = *host().frame().dataSet()->zone(1);
+        host::Zone_s& zone = *host().frame().dataSet()->zone(1);
         zone.type = type;
         zone.i = nodes;
         zone.j = 5;

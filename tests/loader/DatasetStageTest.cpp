@@ -60,7 +60,7 @@ protected:
         return names;
     }
     static std::vector<std::int64_t> toldMembers(std::int32_t code) {
-        for (const host::StateChange& change : host().log().stateChanges)
+        for (const host::StateChange_s& change : host().log().stateChanges)
             if (change.code == code)
                 return change.members;
         return {};

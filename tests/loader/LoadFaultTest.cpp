@@ -167,7 +167,7 @@ TEST_P(LoadFaults, OfTheUserInTheThirdOfFiveStepsLeaveAnEmptyFrame) {
     for (const char* name : {"1.q", "2.q", "3.q", "4.q", "5.q"})
         solutions.push_back(solutionFile(name, twoGrids, std::stod(name)));
     useFiles({files[0]}, solutions);
-    host().settings().progressObserver = [&](const host::ProgressState&) {
+    host().settings().progressObserver = [&](const host::ProgressState_s&) {
         if (zoneCount() == 6)
             host().requestInterrupt();
     };

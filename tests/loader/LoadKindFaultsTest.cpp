@@ -95,7 +95,7 @@ protected:
     }
     /// Ends as the load did; a load onto zones that stay has one.
     static void expectUndo(bool loaded, const std::string& story) {
-        const std::vector<host::UndoEvent>& undo = host().log().undo;
+        const std::vector<host::UndoEvent_s>& undo = host().log().undo;
         const bool mayHaveOne = kind() != Kind_e::Replace && kind() != Kind_e::AppendFunctions;
         if (undo.empty()) {
             EXPECT_FALSE(mayHaveOne && loaded) << story;

@@ -69,10 +69,10 @@ protected:
     }
     static Told_s told() {
         Told_s all{{}, {}, host().log().redraws};
-        for (const host::StateChange& change : host().log().stateChanges)
+        for (const host::StateChange_s& change : host().log().stateChanges)
             all.changes.emplace_back(change.code, change.members);
-        for (const host::UndoEvent& event : host().log().undo)
-            if (event.kind == host::UndoKind::End)
+        for (const host::UndoEvent_s& event : host().log().undo)
+            if (event.kind == host::UndoKind_e::End)
                 all.undo.push_back(event.success.value());
         return all;
     }
@@ -85,7 +85,7 @@ protected:
     static std::int32_t plotType() { return host().frame().plotType(); }
     static void checkField(std::int32_t zone, std::int32_t var, std::int32_t grid,
                            std::int32_t fileVar, double shift) {
-        const host::FetchResult field = host().fetch(zone, var);
+        const host::FetchResult_s field = host().fetch(zone, var);
         ASSERT_TRUE(field.ok) << zone << " " << var << " " << field.error;
         const auto* values = static_cast<const float*>(field.values);
         const plot3dwriter::GridDims_s& dims = twoGrids[static_cast<std::size_t>(grid)];
@@ -165,7 +165,7 @@ TEST_F(LoadKinds, ReplacingTakesTheSolutionOfASubset) {
     selectGrids({1});
     options.kRange = {2, 0, 2};
     ASSERT_TRUE(load()) << ::testing::PrintToString(messages());
-    const host::FetchResult field = host().fetch(1, 4);
+    const host::FetchResult_s field = host().fetch(1, 4);
     ASSERT_TRUE(field.ok);
     ASSERT_EQ(field.count, 2 * 3 * 3);
     EXPECT_EQ(static_cast<const float*>(field.values)[0], placeValue(0, 0, 0, 0, 1) + 50);
@@ -323,7 +323,7 @@ TEST_F(LoadKinds, AppendingFunctionsInTextReadsThemAtOnce) {
     loadFirst();
     form.encoding = plot3dwriter::Encoding_e::Text;
     appendFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
-    EXPECT_EQ(host().frame().dataSet()->field(2, 10)->state(), host::FieldState::Stored);
+    EXPECT_EQ(host().frame().dataSet()->field(2, 10)->state(), host::FieldState_e::Stored);
     checkFunctions(1, 9, 2);
 }
 
@@ -332,7 +332,7 @@ TEST_F(LoadKinds, AppendingFunctionsInDoublePrecisionMakesVariablesOfIt) {
     form.precision = plot3dwriter::Precision_e::Double;
     appendFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
     EXPECT_EQ(host().frame().dataSet()->field(1, 9)->type, QuorFieldDataType_Double);
-    const host::FetchResult field = host().fetch(2, 10);
+    const host::FetchResult_s field = host().fetch(2, 10);
     ASSERT_TRUE(field.ok);
     EXPECT_EQ(static_cast<const double*>(field.values)[1], placeValue(1, 1, 1, 0, 0));
 }
@@ -391,7 +391,7 @@ TEST_F(AppendedFunctions, DoNotGoOntoZonesOfOtherSizes) {
     EXPECT_EQ(refusal({file}),
               "The function file does not fit the zones that are there.\nFile: " + file);
     EXPECT_EQ(variableNames().size(), 10U); // with nothing behind the new ones
-    EXPECT_EQ(host().frame().dataSet()->field(1, 9)->state(), host::FieldState::Empty);
+    EXPECT_EQ(host().frame().dataSet()->field(1, 9)->state(), host::FieldState_e::Empty);
 }
 
 TEST_F(AppendedFunctions, OfALaterStepHaveNoMoreVariablesThanTheFirst) {
@@ -416,7 +416,7 @@ TEST_F(AppendedFunctions, EndQuietlyOnInterruptionAndKeepTheVariables) {
     loadFirst();
     useFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
     options.append = true;
-    host().settings().progressObserver = [](const host::ProgressState&) {
+    host().settings().progressObserver = [](const host::ProgressState_s&) {
         if (variableNames().size() == 10)
             host().requestInterrupt();
     };

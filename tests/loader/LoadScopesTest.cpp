@@ -21,7 +21,7 @@ protected:
     /// How the undo states ended, in order.
     static std::vector<bool> undoEnds() {
         std::vector<bool> ends;
-        for (const host::UndoEvent& event : host().log().undo)
+        for (const host::UndoEvent_s& event : host().log().undo)
             if (event.success)
                 ends.push_back(*event.success);
         return ends;

@@ -139,7 +139,7 @@ void LoaderTest::selectGrids(const std::vector<std::int64_t>& numbers) {
 
 Texts LoaderTest::messages() {
     Texts texts;
-    for (const host::Message& message : host().log().messages)
+    for (const host::Message_s& message : host().log().messages)
         texts.push_back(message.text);
     return texts;
 }
@@ -157,7 +157,7 @@ std::int32_t LoaderTest::zoneCount() {
 Texts LoaderTest::variableNames() {
     Texts names;
     if (const host::DataSet* data = host().frame().dataSet())
-        for (const host::Variable& variable : data->variables())
+        for (const host::Variable_s& variable : data->variables())
             names.push_back(variable.name);
     return names;
 }

@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "LoaderFixture.h"
-#include "dataset/FakeFiles.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -27,7 +27,7 @@ TEST_F(LongLoad, ComesInWhileNobodyInterrupts) {
 
 TEST_F(LongLoad, ThatIsStoppedInsideAFieldTellsOfTheInterruptionAlone) {
     useBigGrid();
-    WatchedFiles watched;
+    FakeDisk watched(FakeDisk::Behind_e::Platform);
     watched.onRead = [&] {
         if (watched.bytesRead > 1'000'000)
             host().requestInterrupt();

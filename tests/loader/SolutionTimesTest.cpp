@@ -199,7 +199,7 @@ TEST_F(SolutionTimes, CannotBeToldApartWithoutMemoryToCompareThem) {
     addStep("q_5.q", 2.5);
     host().failCall("QuorUtilStringListAlloc", 1);
     // The first message stands right before the comparison.
-    host().settings().messageObserver = [first = true](const host::Message&) mutable {
+    host().settings().messageObserver = [first = true](const host::Message_s&) mutable {
         if (std::exchange(first, false))
             failNextAllocation();
     };

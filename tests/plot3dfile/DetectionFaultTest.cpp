@@ -15,14 +15,14 @@ namespace {
 using testsupport::cancelAllocationFault;
 using testsupport::failNextAllocation;
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 using testsupport::Texts;
 
 constexpr bool solution = true;
 constexpr std::int64_t enough = 1000000;
 const std::vector<float> field(30, 0.5F); // of 2 x 3 x 5 points
 
-std::string binaryGrid(Order order = Order::Native) {
+std::string binaryGrid(Order_e order = Order_e::Native) {
     return FileBytes(order).integers({2, 3, 5}).reals(field).reals(field).reals(field).str();
 }
 std::string binarySolution() {
@@ -32,8 +32,8 @@ std::string binarySolution() {
     return bytes.str();
 }
 std::string fortranGrid(int markerWidth) {
-    return FileBytes(Order::Swapped, markerWidth)
-        .record(FileBytes(Order::Swapped).integers({2, 3, 5}).str())
+    return FileBytes(Order_e::Swapped, markerWidth)
+        .record(FileBytes(Order_e::Swapped).integers({2, 3, 5}).str())
         .record(std::string(360, '\1'))
         .str();
 }
@@ -143,7 +143,7 @@ TEST_P(EachDetection, IsRefusedWithoutMemoryForTheDimensions) {
 INSTANTIATE_TEST_SUITE_P(
     OfAFile, EachDetection,
     ::testing::Values(Sample_s{"Binary", binaryGrid(), false},
-                      Sample_s{"BinaryInTheOtherOrder", binaryGrid(Order::Swapped), false},
+                      Sample_s{"BinaryInTheOtherOrder", binaryGrid(Order_e::Swapped), false},
                       Sample_s{"BinarySolution", binarySolution(), solution},
                       Sample_s{"Fortran4", fortranGrid(4), false},
                       Sample_s{"Fortran8", fortranGrid(8), false},

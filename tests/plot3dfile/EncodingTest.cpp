@@ -4,7 +4,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 class Encoding : public testsupport::RecordFixture {
 protected:
@@ -39,11 +39,11 @@ TEST_F(Encoding, BinaryFileWithAPrintableBeginningIsText) {
 }
 
 TEST_F(Encoding, EveryFormOfRecordIsFound) {
-    for (const Order order : {Order::Native, Order::Swapped}) {
+    for (const Order_e order : {Order_e::Native, Order_e::Swapped}) {
         for (const int width : {4, 8}) {
             sniff(FileBytes(order, width).record(threeNumbers).record("7").str());
             EXPECT_EQ(file->encoding, Plot3DEncoding_FortranUnformatted);
-            EXPECT_EQ(file->byteSwap, order == Order::Swapped);
+            EXPECT_EQ(file->byteSwap, order == Order_e::Swapped);
             EXPECT_EQ(file->markerSize, static_cast<std::uint32_t>(width));
         }
     }
@@ -62,7 +62,7 @@ TEST_F(Encoding, FirstFormWinsOverOthersThatTileToo) {
 }
 
 TEST_F(Encoding, WhatIsNeitherTextNorRecordsIsPlainBinary) {
-    sniff(FileBytes(Order::Swapped).integers({2, 3, 5}).str());
+    sniff(FileBytes(Order_e::Swapped).integers({2, 3, 5}).str());
     EXPECT_EQ(file->encoding, Plot3DEncoding_Binary);
     EXPECT_FALSE(file->byteSwap);
     EXPECT_EQ(file->markerSize, 4U);

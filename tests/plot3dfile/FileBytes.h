@@ -10,11 +10,11 @@
 
 namespace quorvia::testsupport {
 
-enum class Order { Native, Swapped };
+enum class Order_e { Native, Swapped };
 
 class FileBytes {
 public:
-    explicit FileBytes(Order order = Order::Native, int markerWidth = 4)
+    explicit FileBytes(Order_e order = Order_e::Native, int markerWidth = 4)
         : order_(order), markerWidth_(markerWidth) {}
 
     FileBytes& integers(const std::vector<std::int32_t>& values) { return appendAll(values); }
@@ -53,12 +53,12 @@ private:
     void append(Number value) {
         std::string bytes(sizeof(value), '\0');
         std::memcpy(bytes.data(), &value, sizeof(value));
-        if (order_ == Order::Swapped)
+        if (order_ == Order_e::Swapped)
             std::reverse(bytes.begin(), bytes.end());
         bytes_ += bytes;
     }
 
-    Order order_;
+    Order_e order_;
     int markerWidth_;
     std::string bytes_;
 };

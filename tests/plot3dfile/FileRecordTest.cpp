@@ -7,7 +7,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 using testsupport::Texts;
 
 class FileRecord : public testsupport::RecordFixture {};
@@ -87,7 +87,7 @@ TEST_F(FileRecord, ClosingAClosedRecordIsHarmless) {
 }
 
 TEST_F(FileRecord, RewindingGoesToTheStart) {
-    openText("3*7 9").stream->seek(4);
+    ASSERT_TRUE(openText("3*7 9").stream->seek(4));
     file->repeatCount = 2;
     rewindPlot3DFile(*file);
     EXPECT_EQ(file->stream->tell(), 0);
@@ -100,7 +100,7 @@ TEST_F(FileRecord, ReportNamesTheFileOnALineOfItsOwn) {
 }
 
 TEST_F(FileRecord, CopyHasTheStructureAndItsOwnName) {
-    sniff(FileBytes(Order::Swapped, 8).record("2357").str());
+    sniff(FileBytes(Order_e::Swapped, 8).record("2357").str());
     file->numVars = 5;
     file->relaxedChecks = true;
     file->segmentBoundaries = {17, 19};

@@ -8,7 +8,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 using testsupport::Texts;
 
 constexpr bool withReport = true;
@@ -37,9 +37,9 @@ TEST_F(RecordMarker, IsALengthInBytes) {
 }
 
 TEST_F(RecordMarker, IsReadInEveryForm) {
-    EXPECT_EQ(read(FileBytes(Order::Swapped).marker(12), 4, true), 12);
-    EXPECT_EQ(read(FileBytes(Order::Native, 8).marker(1LL << 40), 8), 1LL << 40);
-    EXPECT_EQ(read(FileBytes(Order::Swapped, 8).marker(1LL << 40), 8, true), 1LL << 40);
+    EXPECT_EQ(read(FileBytes(Order_e::Swapped).marker(12), 4, true), 12);
+    EXPECT_EQ(read(FileBytes(Order_e::Native, 8).marker(1LL << 40), 8), 1LL << 40);
+    EXPECT_EQ(read(FileBytes(Order_e::Swapped, 8).marker(1LL << 40), 8, true), 1LL << 40);
 }
 
 TEST_F(RecordMarker, ZeroIsALegalLength) {
@@ -79,16 +79,16 @@ TEST_F(RecordMarker, PositiveLeavesAChainAsItIs) {
 TEST_F(RecordMarker, RefusesNegativeOf8BytesInEveryCase) {
     constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
     for (const std::int64_t marker : {-1LL, -12LL, static_cast<long long>(fullSegmentMarker)}) {
-        EXPECT_EQ(read(FileBytes(Order::Native, 8).marker(marker), 8), -1) << marker;
+        EXPECT_EQ(read(FileBytes(Order_e::Native, 8).marker(marker), 8), -1) << marker;
         EXPECT_EQ(length, -marker);
     }
-    EXPECT_EQ(read(FileBytes(Order::Native, 8).marker(least), 8), -1);
+    EXPECT_EQ(read(FileBytes(Order_e::Native, 8).marker(least), 8), -1);
     EXPECT_EQ(length, std::numeric_limits<std::int64_t>::max());
 }
 
 TEST_F(RecordMarker, RefusesNegativeOf8BytesAlsoInsideAChain) {
     for (const std::int64_t marker : {-12LL, static_cast<long long>(fullSegmentMarker)}) {
-        openFortran(FileBytes(Order::Native, 8).marker(marker).str());
+        openFortran(FileBytes(Order_e::Native, 8).marker(marker).str());
         file->markerSize = 8;
         file->inSegmentedRecord = true;
         EXPECT_EQ(readAgain(), -1) << marker;
@@ -111,7 +111,7 @@ TEST_F(RecordWalk, AcceptsRecordsThatTileTheFile) {
 
 TEST_F(RecordWalk, AcceptsEmptyRecordsBetweenOthers) {
     EXPECT_TRUE(tiles(FileBytes().record("").record("ab").record("").record("").record("cde")));
-    EXPECT_TRUE(tiles(FileBytes(Order::Native, 8).record("").record("ab").record(""), 8));
+    EXPECT_TRUE(tiles(FileBytes(Order_e::Native, 8).record("").record("ab").record(""), 8));
 }
 
 TEST_F(RecordWalk, AcceptsAnEmptyFile) {
@@ -134,7 +134,7 @@ TEST_F(RecordWalk, RefusesBytesBehindTheLastRecord) {
 }
 
 TEST_F(RecordWalk, RefusesLengthThatPoints64BitsAway) {
-    EXPECT_FALSE(tiles(FileBytes(Order::Native, 8).marker(0x7fffffffffffffff).zeros(40), 8));
+    EXPECT_FALSE(tiles(FileBytes(Order_e::Native, 8).marker(0x7fffffffffffffff).zeros(40), 8));
 }
 
 TEST_F(RecordWalk, RefusesNegativeLengthOutsideAChain) {
@@ -171,7 +171,7 @@ TEST_F(NextRecord, StandsAtThePayloadAndKnowsItsLength) {
 TEST_F(NextRecord, PassesOverWhatWasNotRead) {
     openFortran(FileBytes().record("ab").record("cdefg").str());
     next();
-    file->stream->seek(17);
+    EXPECT_TRUE(file->stream->seek(17));
     EXPECT_TRUE(next());
     EXPECT_EQ(file->stream->tell(), 14);
 }
@@ -216,7 +216,7 @@ TEST_F(NextRecord, TellsAStartThatCannotBeReached) {
 
 // The first record's length leaves no 64-bit position for the second.
 TEST_F(NextRecord, TellsAStartPast64Bits) {
-    openFortran(FileBytes(Order::Native, 8).marker(0x7fffffffffffffff).zeros(40).str());
+    openFortran(FileBytes(Order_e::Native, 8).marker(0x7fffffffffffffff).zeros(40).str());
     file->markerSize = 8;
     EXPECT_TRUE(next());
     EXPECT_EQ(file->recordLength, 0x7fffffffffffffff);
@@ -225,7 +225,7 @@ TEST_F(NextRecord, TellsAStartPast64Bits) {
 }
 
 TEST_F(NextRecord, TellsASegmentWhoseEndIsPast64Bits) {
-    openFortran(FileBytes(Order::Native, 8).marker(0x7fffffffffffffff).zeros(40).str());
+    openFortran(FileBytes(Order_e::Native, 8).marker(0x7fffffffffffffff).zeros(40).str());
     file->markerSize = 8;
     file->inSegmentedRecord = true;
     EXPECT_FALSE(next());
@@ -249,11 +249,11 @@ TEST_F(RecordEnd, OfPlainBinaryIsEverywhere) {
 
 TEST_F(RecordEnd, OfFortranIsBeforeTheTrailingMarker) {
     openFortran(FileBytes().record("abcd").str());
-    nextRecord(*file, quietly, nullptr);
+    ASSERT_TRUE(nextRecord(*file, quietly, nullptr));
     EXPECT_FALSE(atRecordEnd(*file));
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     EXPECT_TRUE(atRecordEnd(*file));
-    file->stream->seek(9);
+    EXPECT_TRUE(file->stream->seek(9));
     EXPECT_FALSE(atRecordEnd(*file));
 }
 
@@ -273,7 +273,7 @@ TEST_F(RecordEnd, OfTextIsTheLineEnd) {
 
 TEST_F(RecordEnd, OfTextConsumesBlanksAndNoLineEnd) {
     openText(" , \n2");
-    atRecordEnd(*file);
+    EXPECT_TRUE(atRecordEnd(*file));
     EXPECT_EQ(file->lookahead, '\n');
     EXPECT_TRUE(atRecordEnd(*file));
     EXPECT_EQ(file->stream->tell(), 4);
@@ -282,7 +282,7 @@ TEST_F(RecordEnd, OfTextConsumesBlanksAndNoLineEnd) {
 class FileEnd : public testsupport::RecordFixture {};
 
 TEST_F(FileEnd, OfFortranIsTheLastMarker) {
-    openFortran(FileBytes().record("abcd").str()).stream->seek(8);
+    ASSERT_TRUE(openFortran(FileBytes().record("abcd").str()).stream->seek(8));
     EXPECT_TRUE(atFileEnd(*file, withReport));
     EXPECT_EQ(file->stream->tell(), 8);
 }

@@ -6,7 +6,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 constexpr bool iBlank = true;
 constexpr bool reals = false;
@@ -94,7 +94,7 @@ TEST_F(SubRange, KeepsTheSelectedPointsOfABinaryFile) {
 }
 
 TEST_F(SubRange, KeepsTheSelectedPointsInTheOtherByteOrder) {
-    openBinary(FileBytes(Order::Swapped).doubles(planes<double>(1, 7)).str()).byteSwap = true;
+    openBinary(FileBytes(Order_e::Swapped).doubles(planes<double>(1, 7)).str()).byteSwap = true;
     file->isDoublePrecision = true;
     EXPECT_EQ(values<double>(), selected<double>());
 }

@@ -12,7 +12,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 using testsupport::Texts;
 
 constexpr std::int64_t valueCount = 10007;

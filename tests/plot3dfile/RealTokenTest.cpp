@@ -76,8 +76,8 @@ TEST(RealToken, DoesNotFollowTheProcesssLocale) {
     for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8", "fr_FR.utf8"})
         comma = comma != nullptr ? comma : std::setlocale(LC_NUMERIC, name);
     double inRange = 0.0, outOfRange = 0.0;
-    convertRealToken("1.5E2", inRange);
-    convertRealToken("12345.5E-330", outOfRange);
+    EXPECT_TRUE(convertRealToken("1.5E2", inRange));
+    EXPECT_TRUE(convertRealToken("12345.5E-330", outOfRange));
     std::setlocale(LC_NUMERIC, "C");
     if (comma == nullptr)
         GTEST_SKIP() << "no locale with a decimal comma here";

@@ -8,12 +8,12 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeDisk.h"
 #include "FileBytes.h"
 #include "plot3dfile/detection/EncodingSniffer.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/file/Plot3DFile.h"
 #include "session/ReferenceHost.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::testsupport {
 
@@ -36,7 +36,7 @@ protected:
 
     static std::vector<std::string> messages() {
         std::vector<std::string> texts;
-        for (const host::Message& message : host().log().messages)
+        for (const host::Message_s& message : host().log().messages)
             texts.push_back(message.text);
         return texts;
     }

@@ -14,14 +14,14 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 constexpr bool quietly = false;
 constexpr std::int64_t full = 2147483639;
 constexpr std::int64_t firstEnd = 4 + full;     // of the first segment's payload
 constexpr std::int64_t secondStart = 12 + full; // of the second segment's payload
 
-struct Mark {
+struct Mark_s {
     std::int64_t position;
     std::int64_t value;
 };
@@ -31,22 +31,22 @@ constexpr std::int64_t secondEnd = secondStart + full;
 constexpr std::int64_t thirdStart = secondEnd + 8;
 constexpr std::int64_t thirdEnd = thirdStart + 24;
 constexpr std::int64_t chainSize = thirdEnd + 4 + 12;
-const std::vector<Mark> chainMarks = {
+const std::vector<Mark_s> chainMarks = {
     {0, -full},          {firstEnd, full}, {firstEnd + 4, -full}, {secondEnd, -full},
     {secondEnd + 4, 24}, {thirdEnd, -24},  {thirdEnd + 4, 4},     {thirdEnd + 12, 4}};
 
 class SegmentedRecord : public testsupport::RecordFixture {
 protected:
-    void placeMarks(const std::vector<Mark>& marks, std::int64_t size, Order order) {
-        for (const Mark& mark : marks)
+    void placeMarks(const std::vector<Mark_s>& marks, std::int64_t size, Order_e order) {
+        for (const Mark_s& mark : marks)
             disk.place("wing.x", size, mark.position, FileBytes(order).marker(mark.value).str());
     }
-    void placeChain(Order order = Order::Native) { placeMarks(chainMarks, chainSize, order); }
+    void placeChain(Order_e order = Order_e::Native) { placeMarks(chainMarks, chainSize, order); }
 
     /// A chain of a full segment and one of 13 bytes.
     void placeShortChain() {
         placeMarks({{0, -full}, {firstEnd, full}, {firstEnd + 4, 13}, {firstEnd + 21, -13}},
-                   firstEnd + 25, Order::Native);
+                   firstEnd + 25, Order_e::Native);
     }
 };
 
@@ -59,7 +59,7 @@ TEST_F(SegmentedRecord, TilesTheFileAndNotesEveryPayloadEnd) {
 }
 
 TEST_F(SegmentedRecord, IsFoundInTheOtherByteOrder) {
-    placeChain(Order::Swapped);
+    placeChain(Order_e::Swapped);
     EXPECT_EQ(sniffStored().encoding, Plot3DEncoding_FortranUnformatted);
     EXPECT_TRUE(file->byteSwap);
     EXPECT_EQ(file->segmentBoundaries, std::vector<std::int64_t>({firstEnd, secondEnd, thirdEnd}));
@@ -85,7 +85,7 @@ TEST_F(SegmentedRecord, CountsItsPayloadOverAllSegments) {
 // The pair of the last segment is positive ahead, negative and of the full length behind.
 TEST_F(SegmentedRecord, LastSegmentOfFullLengthLeavesTheChainOpen) {
     placeMarks({{0, -full}, {firstEnd, full}, {firstEnd + 4, full}, {secondEnd, -full}},
-               secondEnd + 4, Order::Native);
+               secondEnd + 4, Order_e::Native);
     EXPECT_EQ(sniffStored().encoding, Plot3DEncoding_FortranUnformatted);
     EXPECT_TRUE(file->inSegmentedRecord);
 }
@@ -93,20 +93,20 @@ TEST_F(SegmentedRecord, LastSegmentOfFullLengthLeavesTheChainOpen) {
 TEST_F(SegmentedRecord, BoundaryIsSteppedOverOnlyWhereItStands) {
     placeChain();
     openStored(Plot3DEncoding_FortranUnformatted, chainSize);
-    checkFortranRecords(*file);
+    ASSERT_TRUE(checkFortranRecords(*file));
     for (const std::int64_t position : {firstEnd - 1, firstEnd + 1, std::int64_t{4}}) {
-        file->stream->seek(position);
+        EXPECT_TRUE(file->stream->seek(position));
         EXPECT_TRUE(skipSegmentBoundary(*file));
         EXPECT_EQ(file->stream->tell(), position);
     }
-    file->stream->seek(firstEnd);
+    EXPECT_TRUE(file->stream->seek(firstEnd));
     EXPECT_TRUE(skipSegmentBoundary(*file));
     EXPECT_EQ(file->stream->tell(), secondStart);
 }
 
 TEST_F(SegmentedRecord, BoundaryThatCannotBeSteppedOverFails) {
     openFortran("abcd").segmentBoundaries = {0x7ffffffffffffffd};
-    file->stream->seek(0x7ffffffffffffffd);
+    EXPECT_TRUE(file->stream->seek(0x7ffffffffffffffd));
     EXPECT_FALSE(skipSegmentBoundary(*file));
 }
 
@@ -136,8 +136,8 @@ TEST_F(SegmentedRecord, BlockReadsAcrossOneBoundary) {
     disk.place("wing.x", firstEnd + 25, firstEnd - 3, "abc");
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, "defgh");
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25);
-    checkFortranRecords(*file);
-    file->stream->seek(firstEnd - 3);
+    ASSERT_TRUE(checkFortranRecords(*file));
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     std::string bytes(8, '\0');
     EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, file->segmentBoundaries, file->encoding,
                                         bytes.data(), 8));
@@ -147,13 +147,13 @@ TEST_F(SegmentedRecord, BlockReadsAcrossOneBoundary) {
 
 // Full segments have an odd length, so that a boundary cuts a value in two.
 TEST_F(SegmentedRecord, ValueThatABoundaryCutsIsWholeInEitherByteOrder) {
-    const std::string value = FileBytes(Order::Swapped).integers({0x01020304}).str();
+    const std::string value = FileBytes(Order_e::Swapped).integers({0x01020304}).str();
     placeShortChain();
     disk.place("wing.x", firstEnd + 25, firstEnd - 3, value.substr(0, 3));
     disk.place("wing.x", firstEnd + 25, firstEnd + 8, value.substr(3));
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25).segmentBoundaries = {firstEnd};
     file->byteSwap = true;
-    file->stream->seek(firstEnd - 3);
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     std::int32_t read = 0;
     EXPECT_TRUE(readIntegers(*file, true, 0, 1, &read, nullptr));
     EXPECT_EQ(read, 0x01020304);
@@ -162,7 +162,7 @@ TEST_F(SegmentedRecord, ValueThatABoundaryCutsIsWholeInEitherByteOrder) {
 TEST_F(SegmentedRecord, PassingOverABlockTakesTheMarkersAlong) {
     placeShortChain();
     openStored(Plot3DEncoding_FortranUnformatted, firstEnd + 25).segmentBoundaries = {firstEnd};
-    file->stream->seek(firstEnd - 3);
+    EXPECT_TRUE(file->stream->seek(firstEnd - 3));
     disk.readCount = 0;
     EXPECT_TRUE(readIntegers(*file, false, 0, 2, nullptr, nullptr));
     EXPECT_EQ(file->stream->tell(), firstEnd + 13);
@@ -177,7 +177,7 @@ TEST_F(SegmentedRecord, BlockThatEndsAtABoundaryStopsAheadOfTheMarkers) {
 }
 
 TEST_F(SegmentedRecord, BlockThatStartsAtABoundaryBeginsWithTheMarkers) {
-    openFortran("abcdMARKmarkef").stream->seek(4);
+    ASSERT_TRUE(openFortran("abcdMARKmarkef").stream->seek(4));
     std::string bytes(6, '\0');
     EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, {4}, file->encoding, bytes.data(), 6));
     EXPECT_EQ(bytes, "MARKma");
@@ -226,7 +226,7 @@ TEST(SegmentedFile, IsReadBehind4GiB) {
     const std::string name = directory.write("big.x", "");
     std::filesystem::resize_file(name, static_cast<std::uintmax_t>(chainSize));
     std::fstream out(name, std::ios::in | std::ios::out | std::ios::binary);
-    for (const Mark& mark : chainMarks)
+    for (const Mark_s& mark : chainMarks)
         out.seekp(mark.position) << FileBytes().marker(mark.value).str();
     out.seekp(secondEnd - 2) << "ab";
     out.seekp(thirdStart) << "cdef";
@@ -236,7 +236,7 @@ TEST(SegmentedFile, IsReadBehind4GiB) {
         const Plot3DFilePtr file = createPlot3DFile(name, false);
         EXPECT_EQ(file->encoding, Plot3DEncoding_FortranUnformatted);
         ASSERT_TRUE(openPlot3DFile(*file));
-        file->stream->seek(secondEnd - 2);
+        EXPECT_TRUE(file->stream->seek(secondEnd - 2));
         std::string bytes(6, '\0');
         EXPECT_TRUE(readBytesAcrossSegments(*file->stream, 4, file->segmentBoundaries,
                                             file->encoding, bytes.data(), 6));

@@ -12,13 +12,13 @@ namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
-struct Spelling {
+struct Spelling_s {
     const char* text;
     double value;
     int next; // character that the reader stopped at
 };
 
-void PrintTo(const Spelling& spelling, std::ostream* out) {
+void PrintTo(const Spelling_s& spelling, std::ostream* out) {
     *out << '"' << spelling.text << '"';
 }
 
@@ -38,7 +38,7 @@ protected:
     bool isRead = false;
 };
 
-class AcceptedReal : public TextNumbers, public ::testing::WithParamInterface<Spelling> {};
+class AcceptedReal : public TextNumbers, public ::testing::WithParamInterface<Spelling_s> {};
 
 TEST_P(AcceptedReal, IsReadOneByOne) {
     openText(GetParam().text);
@@ -59,34 +59,35 @@ TEST_P(AcceptedReal, IsReadInBulk) {
 INSTANTIATE_TEST_SUITE_P(
     Spellings, AcceptedReal,
     ::testing::Values(
-        Spelling{"5", 5.0, -1}, Spelling{"+5", 5.0, -1}, Spelling{"-5", -5.0, -1},
-        Spelling{"007", 7.0, -1}, Spelling{".5", 0.5, -1}, Spelling{"5.", 5.0, -1},
-        Spelling{"-.5", -0.5, -1}, Spelling{"+.5", 0.5, -1}, Spelling{"1.5E+02", 150.0, -1},
-        Spelling{"1.5D+02", 150.0, -1}, Spelling{"1.5d-02", 0.015, -1},
-        Spelling{"1.5e+02", 150.0, -1}, Spelling{"1e3", 1000.0, -1}, Spelling{"1D3", 1000.0, -1},
-        Spelling{"-1.5D+02", -150.0, -1}, Spelling{"+1.5D+02", 150.0, -1},
-        Spelling{"  \t\r\n,,5", 5.0, -1},
+        Spelling_s{"5", 5.0, -1}, Spelling_s{"+5", 5.0, -1}, Spelling_s{"-5", -5.0, -1},
+        Spelling_s{"007", 7.0, -1}, Spelling_s{".5", 0.5, -1}, Spelling_s{"5.", 5.0, -1},
+        Spelling_s{"-.5", -0.5, -1}, Spelling_s{"+.5", 0.5, -1}, Spelling_s{"1.5E+02", 150.0, -1},
+        Spelling_s{"1.5D+02", 150.0, -1}, Spelling_s{"1.5d-02", 0.015, -1},
+        Spelling_s{"1.5e+02", 150.0, -1}, Spelling_s{"1e3", 1000.0, -1},
+        Spelling_s{"1D3", 1000.0, -1}, Spelling_s{"-1.5D+02", -150.0, -1},
+        Spelling_s{"+1.5D+02", 150.0, -1}, Spelling_s{"  \t\r\n,,5", 5.0, -1},
         // An integer has no -0; a real has.
-        Spelling{"-0", 0.0, -1}, Spelling{"-0.", -0.0, -1}, Spelling{"-0E5", -0.0, -1},
+        Spelling_s{"-0", 0.0, -1}, Spelling_s{"-0.", -0.0, -1}, Spelling_s{"-0E5", -0.0, -1},
         // Without point and exponent it is an integer of 32 bits, and wraps.
-        Spelling{"2147483647", 2147483647.0, -1}, Spelling{"2147483648", -2147483648.0, -1},
-        Spelling{"-2147483648", -2147483648.0, -1}, Spelling{"4294967301", 5.0, -1},
-        Spelling{"2147483648.", 2147483648.0, -1}, Spelling{"3000000000E0", 3e9, -1},
+        Spelling_s{"2147483647", 2147483647.0, -1}, Spelling_s{"2147483648", -2147483648.0, -1},
+        Spelling_s{"-2147483648", -2147483648.0, -1}, Spelling_s{"4294967301", 5.0, -1},
+        Spelling_s{"2147483648.", 2147483648.0, -1}, Spelling_s{"3000000000E0", 3e9, -1},
         // Out of range.
-        Spelling{"1E999", infinite, -1}, Spelling{"-1E999", -infinite, -1},
-        Spelling{"1E-999", 0.0, -1}, Spelling{"4.9E-324", 4.9e-324, -1},
-        Spelling{"1.7976931348623157E308", 1.7976931348623157e308, -1},
+        Spelling_s{"1E999", infinite, -1}, Spelling_s{"-1E999", -infinite, -1},
+        Spelling_s{"1E-999", 0.0, -1}, Spelling_s{"4.9E-324", 4.9e-324, -1},
+        Spelling_s{"1.7976931348623157E308", 1.7976931348623157e308, -1},
         // What follows a good beginning inside the token is dropped.
-        Spelling{"1.5-3", 1.5, -1}, Spelling{"1.5.7", 1.5, -1}, Spelling{"1E", 1.0, -1},
-        Spelling{"1E+", 1.0, -1}, Spelling{"1.5E2.5", 150.0, -1},
+        Spelling_s{"1.5-3", 1.5, -1}, Spelling_s{"1.5.7", 1.5, -1}, Spelling_s{"1E", 1.0, -1},
+        Spelling_s{"1E+", 1.0, -1}, Spelling_s{"1.5E2.5", 150.0, -1},
         // No number at all, but a point or an exponent letter: 0, and valid.
-        Spelling{".", 0.0, -1}, Spelling{"-.", 0.0, -1}, Spelling{"..5", 0.0, -1},
-        Spelling{"+-5.", 0.0, -1}, Spelling{"-E5", 0.0, -1}, Spelling{".D3", 0.0, -1}));
+        Spelling_s{".", 0.0, -1}, Spelling_s{"-.", 0.0, -1}, Spelling_s{"..5", 0.0, -1},
+        Spelling_s{"+-5.", 0.0, -1}, Spelling_s{"-E5", 0.0, -1}, Spelling_s{".D3", 0.0, -1}));
 
-INSTANTIATE_TEST_SUITE_P(
-    LongTokens, AcceptedReal,
-    ::testing::Values(Spelling{"0.12345678901234567890123456789012345678", 0.12345678901234568, -1},
-                      Spelling{"0000000000000000000000000000000000000007", 7.0, -1}));
+INSTANTIATE_TEST_SUITE_P(LongTokens, AcceptedReal,
+                         ::testing::Values(Spelling_s{"0.12345678901234567890123456789012345678",
+                                                      0.12345678901234568, -1},
+                                           Spelling_s{"0000000000000000000000000000000000000007",
+                                                      7.0, -1}));
 
 TEST_F(TextNumbers, StopCharacterOfARealIsKept) {
     openText("1.5x7");
@@ -104,7 +105,7 @@ TEST_F(TextNumbers, CommaSeparates) {
     EXPECT_EQ(real(), 3.0);
 }
 
-class RefusedReal : public TextNumbers, public ::testing::WithParamInterface<Spelling> {};
+class RefusedReal : public TextNumbers, public ::testing::WithParamInterface<Spelling_s> {};
 
 TEST_P(RefusedReal, LeavesZeroAndTheLookahead) {
     openText(GetParam().text);
@@ -122,17 +123,17 @@ TEST_P(RefusedReal, StopsTheBulkReaderWhereItStands) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Spellings, RefusedReal,
-                         ::testing::Values(Spelling{"*****", 0, ' '}, Spelling{"abc", 0, ' '},
-                                           Spelling{"E5", 0, ' '}, Spelling{"D5", 0, ' '},
-                                           Spelling{"nan", 0, ' '}, Spelling{"inf", 0, ' '},
-                                           Spelling{"\v5", 0, ' '}, Spelling{"/5", 0, ' '},
+                         ::testing::Values(Spelling_s{"*****", 0, ' '}, Spelling_s{"abc", 0, ' '},
+                                           Spelling_s{"E5", 0, ' '}, Spelling_s{"D5", 0, ' '},
+                                           Spelling_s{"nan", 0, ' '}, Spelling_s{"inf", 0, ' '},
+                                           Spelling_s{"\v5", 0, ' '}, Spelling_s{"/5", 0, ' '},
                                            // Integers with something left over.
-                                           Spelling{"1-2", 0, -1}, Spelling{"1+2", 0, -1},
-                                           Spelling{"--5", 0, -1}, Spelling{"+-5", 0, -1},
-                                           Spelling{"-", 0, -1}, Spelling{"+", 0, -1},
-                                           Spelling{"-inf", 0, 'i'}, Spelling{"-nan", 0, 'n'},
+                                           Spelling_s{"1-2", 0, -1}, Spelling_s{"1+2", 0, -1},
+                                           Spelling_s{"--5", 0, -1}, Spelling_s{"+-5", 0, -1},
+                                           Spelling_s{"-", 0, -1}, Spelling_s{"+", 0, -1},
+                                           Spelling_s{"-inf", 0, 'i'}, Spelling_s{"-nan", 0, 'n'},
                                            // Repeats whose value is missing.
-                                           Spelling{"3*x", 0, 'x'}, Spelling{"3**5", 0, '*'}));
+                                           Spelling_s{"3*x", 0, 'x'}, Spelling_s{"3**5", 0, '*'}));
 
 TEST_F(TextNumbers, EndOfFileIsNoReal) {
     openText(" \n ");

@@ -10,7 +10,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 constexpr bool store = true;
 constexpr bool passOver = false;
@@ -68,7 +68,7 @@ TEST_F(Block, OfIntegersHas4BytesEachEvenInDoublePrecision) {
 TEST_F(Block, IsReadByThePartsOfItsForm) {
     constexpr auto fortran = Plot3DEncoding_FortranUnformatted;
     constexpr bool byteSwap = true, isDoublePrecision = true;
-    FileBytes bytes(Order::Swapped);
+    FileBytes bytes(Order_e::Swapped);
     openFortran(bytes.integers({17}).raw("MARKERS-markers-").integers({-19}).doubles({1.5}).str());
     std::vector<std::int32_t> integers(2);
     double real = 0.0;
@@ -95,7 +95,7 @@ TEST_F(Block, IsTurnedIntoTheMachinesByteOrder) {
         reals[index] = static_cast<float>(index) + 0.5F;
     for (std::size_t index = 0; index < doubles.size(); ++index)
         doubles[index] = static_cast<double>(index) + 0.25;
-    openBinary(FileBytes(Order::Swapped).reals(reals).doubles(doubles).str()).byteSwap = true;
+    openBinary(FileBytes(Order_e::Swapped).reals(reals).doubles(doubles).str()).byteSwap = true;
     std::vector<float> readAsReals(reals.size());
     EXPECT_TRUE(readReals(*file, store, 0, std::ssize(reals), readAsReals.data(), nullptr));
     EXPECT_EQ(readAsReals, reals);
@@ -124,7 +124,7 @@ TEST_F(Block, OfNoValuesReadsNothing) {
 }
 
 TEST_F(Block, OfNegativeCountFails) {
-    openBinary(FileBytes().zeros(100).str()).stream->seek(50);
+    ASSERT_TRUE(openBinary(FileBytes().zeros(100).str()).stream->seek(50));
     std::int32_t value = 9;
     EXPECT_FALSE(readIntegers(*file, store, 0, -1, &value, nullptr));
     EXPECT_FALSE(readIntegers(*file, passOver, 0, -1, nullptr, nullptr));
@@ -137,7 +137,7 @@ TEST_F(Block, Past64BitsFails) {
     float value = 0.0F;
     EXPECT_FALSE(readReals(*file, store, 0, most / 2, &value, nullptr));
     EXPECT_FALSE(readReals(*file, passOver, 0, most / 2, nullptr, nullptr));
-    file->stream->seek(50);
+    EXPECT_TRUE(file->stream->seek(50));
     EXPECT_FALSE(readReals(*file, passOver, 0, most / 4, nullptr, nullptr));
 }
 
@@ -220,7 +220,7 @@ TEST_F(Block, GoesThroughTheSetFunctionWithItsIndices) {
 }
 
 TEST_F(Block, GoesThroughTheSetFunctionInTheOtherByteOrder) {
-    openBinary(FileBytes(Order::Swapped).doubles({1.5}).integers({17}).str()).byteSwap = true;
+    openBinary(FileBytes(Order_e::Swapped).doubles({1.5}).integers({17}).str()).byteSwap = true;
     file->isDoublePrecision = true;
     EXPECT_TRUE(takeReals(0, 1));
     EXPECT_TRUE(takeIntegers(1, 1));
@@ -266,7 +266,7 @@ TEST_F(BinaryNumber, ThatTheFilesEndCutsIsZero) {
     EXPECT_EQ(integer, 0);
     for (const bool isDoublePrecision : {false, true}) {
         file->isDoublePrecision = isDoublePrecision;
-        file->stream->seek(0);
+        EXPECT_TRUE(file->stream->seek(0));
         double real = 7.0;
         EXPECT_FALSE(readReal(*file, real));
         EXPECT_EQ(real, 0.0);

@@ -13,7 +13,7 @@ namespace quorvia::quorutildataio {
 namespace {
 
 using testsupport::FileBytes;
-using testsupport::Order;
+using testsupport::Order_e;
 
 constexpr std::int32_t allPlanes = -1;
 constexpr std::int64_t longestSegment = 23; // longer ones cut a value at no other place
@@ -32,19 +32,19 @@ std::vector<Number> countedFromOne(std::size_t count) {
     return numbers;
 }
 
-struct Form {
-    Order order;
+struct Form_s {
+    Order_e order;
     bool isDouble;
 };
 
 class ValuesAcrossSegments : public testsupport::RecordFixture {
 protected:
-    static constexpr Form everyForm[] = {{Order::Native, false},
-                                         {Order::Native, true},
-                                         {Order::Swapped, false},
-                                         {Order::Swapped, true}};
+    static constexpr Form_s everyForm[] = {{Order_e::Native, false},
+                                           {Order_e::Native, true},
+                                           {Order_e::Swapped, false},
+                                           {Order_e::Swapped, true}};
 
-    static std::string realsOf(Form form, std::size_t count) {
+    static std::string realsOf(Form_s form, std::size_t count) {
         FileBytes bytes(form.order);
         return form.isDouble ? bytes.doubles(countedFromOne<double>(count)).str()
                              : bytes.reals(countedFromOne<float>(count)).str();
@@ -52,7 +52,7 @@ protected:
 
     /// Opens a file of this one record, at its payload, in segments of so many bytes each. The
     /// markers between them hold what no value is.
-    void openSegments(const std::string& payload, std::int64_t segmentBytes, Form form = {}) {
+    void openSegments(const std::string& payload, std::int64_t segmentBytes, Form_s form = {}) {
         std::string bytes = "LEAD";
         std::vector<std::int64_t> boundaries;
         for (std::size_t at = 0; at < payload.size();
@@ -63,9 +63,9 @@ protected:
         }
         openFortran(bytes).segmentBoundaries = boundaries;
         file->nextRecordStart = boundaries.back() + 4;
-        file->byteSwap = form.order == Order::Swapped;
+        file->byteSwap = form.order == Order_e::Swapped;
         file->isDoublePrecision = form.isDouble;
-        file->stream->seek(4);
+        EXPECT_TRUE(file->stream->seek(4));
     }
 
     /// The values of a 3 x 2 x 2 block at I 1 and 3, from the open file.
@@ -79,7 +79,7 @@ protected:
 };
 
 TEST_F(ValuesAcrossSegments, OfIndexRangesAreWholeWhereverTheBoundaryStands) {
-    for (const Form form : everyForm)
+    for (const Form_s form : everyForm)
         for (std::int64_t segment = 1; segment <= longestSegment; ++segment) {
             openSegments(realsOf(form, 12), segment, form);
             if (form.isDouble)
@@ -94,7 +94,7 @@ TEST_F(ValuesAcrossSegments, OfIndexRangesAreWholeWhereverTheBoundaryStands) {
 }
 
 TEST_F(ValuesAcrossSegments, OfIBlankAreWholeWhereverTheBoundaryStands) {
-    for (const Order order : {Order::Native, Order::Swapped})
+    for (const Order_e order : {Order_e::Native, Order_e::Swapped})
         for (std::int64_t segment = 1; segment <= longestSegment; ++segment) {
             const auto numbers = countedFromOne<std::int32_t>(12);
             openSegments(FileBytes(order).integers(numbers).str(), segment, {order, true});
@@ -106,7 +106,7 @@ TEST_F(ValuesAcrossSegments, OfIBlankAreWholeWhereverTheBoundaryStands) {
 
 // As the host asks for them that has no plain array.
 TEST_F(ValuesAcrossSegments, ThroughTheSetFunctionAreWholeWhereverTheBoundaryStands) {
-    for (const Form form : everyForm)
+    for (const Form_s form : everyForm)
         for (std::int64_t segment = 1; segment <= longestSegment; ++segment) {
             openSegments(realsOf(form, 7), segment, form);
             gTaken.clear();
@@ -116,7 +116,7 @@ TEST_F(ValuesAcrossSegments, ThroughTheSetFunctionAreWholeWhereverTheBoundarySta
 }
 
 TEST_F(ValuesAcrossSegments, OfMixedKindsAreWholeWhereverTheBoundaryStands) {
-    for (const Order order : {Order::Native, Order::Swapped})
+    for (const Order_e order : {Order_e::Native, Order_e::Swapped})
         for (std::int64_t segment = 1; segment <= longestSegment; ++segment) {
             openSegments(FileBytes(order).integers({7, -11}).doubles({0.25}).integers({13}).str(),
                          segment, {order, true});
@@ -132,12 +132,12 @@ TEST_F(ValuesAcrossSegments, OfMixedKindsAreWholeWhereverTheBoundaryStands) {
 
 // As one block: the rule for one boundary, wherever it stands in a value.
 TEST_F(ValuesAcrossSegments, OfABlockAreWholeWhereverItsOneBoundaryStands) {
-    for (const Form form : everyForm)
+    for (const Form_s form : everyForm)
         for (std::int64_t boundary = 1; boundary < 24; ++boundary) {
             std::string bytes =
                 realsOf(form, 7).insert(static_cast<std::size_t>(boundary), "MARKmark");
             openFortran(bytes).segmentBoundaries = {boundary};
-            file->byteSwap = form.order == Order::Swapped;
+            file->byteSwap = form.order == Order_e::Swapped;
             std::vector<float> floats(7);
             std::vector<double> doubles(7);
             file->isDoublePrecision = form.isDouble;
@@ -183,7 +183,7 @@ TEST_F(ValuesAcrossSegments, AreNotTakenFromTheNextRecord) {
 TEST_F(ValuesAcrossSegments, ThatBreakOffAreNone) {
     openSegments(realsOf({}, 2), 6);
     openFortran("LEAD" + realsOf({}, 2).substr(0, 6) + "MARKmark?").segmentBoundaries = {10};
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     double value = 5.0;
     EXPECT_FALSE(readReal(*file, value));
     EXPECT_EQ(value, 0.0);
@@ -196,7 +196,7 @@ TEST_F(ValuesAcrossSegments, StepOverMarkersOfTheirWidth) {
     openFortran("LEADLEAD" + payload.substr(0, 3) + "MARKMARKmarkmark" + payload.substr(3))
         .segmentBoundaries = {11};
     file->markerSize = 8;
-    file->stream->seek(8);
+    EXPECT_TRUE(file->stream->seek(8));
     double first = 0.0, second = 0.0;
     EXPECT_TRUE(readReal(*file, first) && readReal(*file, second));
     EXPECT_EQ(first, 1.0);

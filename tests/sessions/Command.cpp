@@ -17,7 +17,8 @@ std::string listed(const char* kind, const std::vector<std::size_t>& chosen,
     return text;
 }
 
-struct Teller {
+class Teller {
+public:
     const std::vector<FileModel_s>& files;
 
     std::string operator()(const Load_s& load) const {

@@ -9,15 +9,15 @@ namespace quorvia::sessions {
 namespace {
 
 template <typename Value>
-double valueIn(const host::FetchResult& fetched, std::size_t index) {
+double valueIn(const host::FetchResult_s& fetched, std::size_t index) {
     return static_cast<double>(static_cast<const Value*>(fetched.values)[index]);
 }
 
-double valueAt(const host::FetchResult& fetched, std::size_t index) {
-    if (fetched.type == kSingle)
+double valueAt(const host::FetchResult_s& fetched, std::size_t index) {
+    if (fetched.type == singleType)
         return valueIn<float>(fetched, index);
-    return fetched.type == kDouble ? valueIn<double>(fetched, index)
-                                   : valueIn<std::int32_t>(fetched, index);
+    return fetched.type == doubleType ? valueIn<double>(fetched, index)
+                                      : valueIn<std::int32_t>(fetched, index);
 }
 
 /// As DataSet::fieldHolders: the lowest zone that has the same contents.
@@ -76,7 +76,7 @@ private:
     }
 
     void compareZone(std::int32_t number) {
-        const host::Zone& found = *found_.zone(number);
+        const host::Zone_s& found = *found_.zone(number);
         const Zone_s& expected = expected_.zones[static_cast<std::size_t>(number - 1)];
         const std::string zone = fmt::format("zone {}: ", number);
         same(zone + "name", found.name, expected.name);
@@ -93,7 +93,7 @@ private:
         compareNodes(zone, found, expected);
     }
 
-    void compareNodes(const std::string& zone, const host::Zone& found, const Zone_s& expected) {
+    void compareNodes(const std::string& zone, const host::Zone_s& found, const Zone_s& expected) {
         const std::int32_t* nodes = found.nodeMap != nullptr ? found.nodeMap->nodes() : nullptr;
         same(zone + "has nodes", nodes != nullptr, expected.nodes != nullptr);
         if (!text_.empty() || nodes == nullptr)
@@ -110,13 +110,13 @@ private:
             const std::string field = fmt::format("zone {}, variable {}: ", number, variable);
             const auto place = static_cast<std::size_t>(number - 1);
             same(field + "held by zone", holders[place], expectedOnes[place]);
-            const host::Field& found = *found_.field(number, variable);
+            const host::Field_s& found = *found_.field(number, variable);
             const Field_s& expected =
                 expected_.zones[place].fields[static_cast<std::size_t>(variable - 1)];
             same(field + "type", found.type, expected.type);
             if (expected.contents == nullptr || !text_.empty())
                 continue;
-            same(field + "deferred", found.state() == host::FieldState::Deferred,
+            same(field + "deferred", found.state() == host::FieldState_e::Deferred,
                  expected.contents->isDeferred);
             if (fetches)
                 compareValues(field, number, variable, expected.contents->values);
@@ -125,7 +125,7 @@ private:
 
     void compareValues(const std::string& field, std::int32_t number, std::int32_t variable,
                        const std::vector<double>& expected) {
-        const host::FetchResult fetched = host_.fetch(number, variable);
+        const host::FetchResult_s fetched = host_.fetch(number, variable);
         if (!fetched.ok && text_.empty())
             text_ = field + "can't be read: " + fetched.error;
         same(field + "values", fetched.count, static_cast<std::int64_t>(expected.size()));

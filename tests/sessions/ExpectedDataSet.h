@@ -11,8 +11,8 @@
 namespace quorvia::sessions {
 
 /// As the host numbers them.
-enum Type_e : std::int32_t { kSingle = 1, kDouble = 2, kInteger = 3 };
-enum PlotType_e : std::int32_t { kNoPlot = 0, kPlot3D = 1, kPlot2D = 2, kPlotXY = 3 };
+enum Type_e : std::int32_t { singleType = 1, doubleType = 2, integerType = 3 };
+enum PlotType_e : std::int32_t { noPlot = 0, plot3D = 1, plot2D = 2, plotXY = 3 };
 
 /// Fields that are shared hold the same contents.
 struct Contents_s {
@@ -21,7 +21,7 @@ struct Contents_s {
 };
 
 struct Field_s {
-    std::int32_t type = kSingle;
+    std::int32_t type = singleType;
     std::shared_ptr<const Contents_s> contents; ///< null: the field is empty
 };
 
@@ -57,7 +57,7 @@ struct DataSet_s {
 /// A copy shares the contents of fields, which never change.
 struct ExpectedHost_s {
     std::optional<DataSet_s> dataSet;
-    std::int32_t plotType = kNoPlot;
+    std::int32_t plotType = noPlot;
     bool isSharingAllowed = true;
     std::int32_t lastId = 0;
 };

@@ -20,7 +20,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 /// Ahead of what no user could do: a mistake of the session.
-const std::string kImpossible = "impossible: ";
+const std::string impossible = "impossible: ";
 
 class Performance {
 public:
@@ -61,7 +61,7 @@ private:
         const std::size_t messagesBefore = host_.log().messages.size();
         const bool isDone = std::visit([this](const auto& what) { return does(what); }, command);
         if (!host_.script().problem().empty())
-            return kImpossible + host_.script().problem();
+            return impossible + host_.script().problem();
         if (!host_.log().violations.empty())
             return "contract broken: " + host_.log().violations.front();
         if (host_.lockDepth() != 0)
@@ -262,7 +262,7 @@ Session_s minimised(const Session_s& session) {
         Session_s shorter = smallest;
         shorter.commands.erase(shorter.commands.begin() + static_cast<std::ptrdiff_t>(index));
         const Difference_s difference = play(shorter, ignored);
-        const bool isPossible = difference.text.compare(0, kImpossible.size(), kImpossible) != 0;
+        const bool isPossible = difference.text.compare(0, impossible.size(), impossible) != 0;
         if (difference.command != 0 && isPossible)
             smallest = shorter;
     }

@@ -21,7 +21,8 @@ public:
     void finish() override;
 
 private:
-    struct Closer {
+    class Closer {
+    public:
         void operator()(std::FILE* stream) const { std::fclose(stream); }
     };
 

@@ -38,11 +38,11 @@ void readSizes(const ObjectReader& reader, HandMadeZone_s& zone) {
         throw MacroError(
             fmt::format("\"k\" is the number of corners, which must be {} here, and is {}",
                         cornersOf(zone.type), zone.k));
-    constexpr std::int64_t kWidestValueBytes = 8;
+    constexpr std::int64_t widestValueBytes = 8;
     std::int64_t count = 0;
     if (__builtin_mul_overflow(zone.i, zone.j, &count) ||
         __builtin_mul_overflow(count, zone.k, &count) ||
-        __builtin_mul_overflow(count, kWidestValueBytes, &count))
+        __builtin_mul_overflow(count, widestValueBytes, &count))
         throw MacroError("the zone has more points than memory has addresses");
 }
 

@@ -65,7 +65,7 @@ struct ActionForm_s {
 };
 
 const std::map<std::string_view, ActionForm_s>& actionForms() {
-    static const std::map<std::string_view, ActionForm_s> kForms = {
+    static const std::map<std::string_view, ActionForm_s> forms = {
         {"page", {parsePage, {"page"}}},
         {"toggle", {parseToggle, {"toggle", "value"}}},
         {"radio", {parseRadio, {"radio"}}},
@@ -75,7 +75,7 @@ const std::map<std::string_view, ActionForm_s>& actionForms() {
         {"type", {parseType, {"type", "field"}}},
         {"choose", {parseChoose, {"choose"}}},
         {"describe", {parseDescribe, {"describe"}}}};
-    return kForms;
+    return forms;
 }
 
 MacroDialogAction parseAction(const MacroJson& value, const std::string& what) {

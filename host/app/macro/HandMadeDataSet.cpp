@@ -6,10 +6,11 @@
 namespace quorvia::host {
 namespace {
 
-constexpr const char* kLoaderName = "by hand";
+constexpr const char* loaderName = "by hand";
 
 /// False: there is no memory.
-bool makeField(const HandMadeZone_s& made, const Zone& zone, std::int32_t variable, Field& field) {
+bool makeField(const HandMadeZone_s& made, const Zone_s& zone, std::int32_t variable,
+               Field_s& field) {
     field.type = made.types[static_cast<std::size_t>(variable) - 1];
     field.location = made.cellCentred.count(variable) != 0 ? QuorValueLocation_CellCentred
                                                            : QuorValueLocation_Nodal;
@@ -21,8 +22,8 @@ bool makeField(const HandMadeZone_s& made, const Zone& zone, std::int32_t variab
 }
 
 /// Null: there is no memory.
-std::unique_ptr<Zone> makeZone(const HandMadeZone_s& made) {
-    auto zone = std::make_unique<Zone>();
+std::unique_ptr<Zone_s> makeZone(const HandMadeZone_s& made) {
+    auto zone = std::make_unique<Zone_s>();
     zone->name = made.name;
     zone->type = made.type;
     zone->i = made.i;
@@ -35,7 +36,7 @@ std::unique_ptr<Zone> makeZone(const HandMadeZone_s& made) {
             std::make_shared<NodeMap>(zone->i, zone->j, static_cast<std::int32_t>(zone->k));
     zone->fields.resize(made.types.size());
     std::int32_t variable = 0;
-    for (Field& field : zone->fields)
+    for (Field_s& field : zone->fields)
         if (!makeField(made, *zone, ++variable, field))
             return nullptr;
     return zone;
@@ -44,9 +45,9 @@ std::unique_ptr<Zone> makeZone(const HandMadeZone_s& made) {
 } // namespace
 
 bool putIntoFrame(const HandMadeDataSet_s& made, Frame& frame) {
-    DataSet& dataSet = frame.createDataSet(kLoaderName, made.title, made.variables);
+    DataSet& dataSet = frame.createDataSet(loaderName, made.title, made.variables);
     for (const HandMadeZone_s& zoneMade : made.zones) {
-        std::unique_ptr<Zone> zone = makeZone(zoneMade);
+        std::unique_ptr<Zone_s> zone = makeZone(zoneMade);
         if (zone == nullptr) {
             frame.reset();
             return false;

@@ -28,9 +28,9 @@ double toReal(const MacroJson& value, const std::string& what) {
 
 std::int64_t toInteger(const MacroJson& value, const std::string& what, std::int64_t least,
                        std::int64_t most) {
-    constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
+    constexpr auto highest = std::numeric_limits<std::int64_t>::max();
     const bool isTooLarge = value.is_number_unsigned() &&
-                            value.get<std::uint64_t>() > static_cast<std::uint64_t>(kHighest);
+                            value.get<std::uint64_t>() > static_cast<std::uint64_t>(highest);
     if (!value.is_number_integer() || isTooLarge || value.get<std::int64_t>() < least ||
         value.get<std::int64_t>() > most)
         throw MacroError(fmt::format("{} must be a whole number from {} to {}", what, least, most));

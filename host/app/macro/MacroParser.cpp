@@ -153,7 +153,7 @@ MacroCommand parseDescribe(const MacroJson& value, const std::string& what) {
 using Parse = MacroCommand (*)(const MacroJson&, const std::string&);
 
 Parse parserOf(const std::string& name) {
-    static const std::map<std::string_view, Parse> kParsers = {
+    static const std::map<std::string_view, Parse> parsers = {
         {"select", parseSelect},
         {"instructions", parseInstructions},
         {"replay", parseFlag<ReplayCommand_s>},
@@ -169,11 +169,11 @@ Parse parserOf(const std::string& name) {
         {"deleteZones", parseDeleteZones},
         {"resetFrame", parseFlag<ResetFrameCommand_s>},
         {"describe", parseDescribe}};
-    const auto found = kParsers.find(name);
-    if (found != kParsers.end())
+    const auto found = parsers.find(name);
+    if (found != parsers.end())
         return found->second;
     std::vector<std::string_view> known;
-    for (const auto& entry : kParsers)
+    for (const auto& entry : parsers)
         known.push_back(entry.first);
     throw MacroError(unknownName("command", name, known));
 }

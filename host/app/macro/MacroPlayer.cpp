@@ -39,12 +39,12 @@ public:
 
     /// Runs `load` under the faults and forgets them.
     template <typename Load>
-    LoadResult during(ReferenceHost& host, Load load) {
+    LoadResult_s during(ReferenceHost& host, Load load) {
         if (interruptAtStep_ != 0)
             host.interruptAtStep(interruptAtStep_);
         for (const FailCommand_s& failure : failures_)
             host.failCall(failure.operation, failure.call);
-        LoadResult result = load();
+        LoadResult_s result = load();
         host.clearFaults();
         *this = {};
         return result;
@@ -64,10 +64,10 @@ ScriptEntry whileItMayGoOn(const PlaySettings_s& settings, ScriptEntry entry) {
     const auto* step = std::get_if<DialogStep>(&entry);
     if (step == nullptr)
         return entry;
-    return DialogStep([&settings, step = *step](const Dialog& dialog) {
+    return DialogStep([&settings, step = *step](const Dialog_s& dialog) {
         if (mayGoOn(settings))
             return step(dialog);
-        return DialogMove{PressDialogButton{DialogButton::Cancel}, "", false};
+        return DialogMove_s{PressDialogButton_s{DialogButton_e::Cancel}, "", false};
     });
 }
 
@@ -145,7 +145,7 @@ public:
     void loadAddOn() {
         if (library_ != nullptr)
             return;
-        LoadResult result = lastLoad_;
+        LoadResult_s result = lastLoad_;
         library_ = AddOnLibrary::open(settings_.addOnPath, result.hostError);
         if (library_ != nullptr)
             return;
@@ -179,10 +179,10 @@ private:
     }
 
     bool toldAnErrorSince(std::size_t first) const {
-        const std::vector<Message>& messages = host_.log().messages;
+        const std::vector<Message_s>& messages = host_.log().messages;
         return std::any_of(
             messages.begin() + static_cast<std::ptrdiff_t>(first), messages.end(),
-            [](const Message& message) { return message.kind == MessageKind::Error; });
+            [](const Message_s& message) { return message.kind == MessageKind_e::Error; });
     }
 
     std::string endingOfLoad() const {
@@ -230,7 +230,7 @@ private:
     const PlaySettings_s& settings_;
     ReferenceHost& host_;
     std::unique_ptr<AddOnLibrary> library_;
-    LoadResult lastLoad_;
+    LoadResult_s lastLoad_;
     bool lastLoadLeftOut_ = false;
     PlannedFaults faults_;
     OutcomeSlices slices_;
@@ -238,7 +238,7 @@ private:
 };
 
 std::string Player::operator()(const HostCommand_s& command) {
-    HostSettings& settings = host_.settings();
+    HostSettings_s& settings = host_.settings();
     settings.sharingAllowed = command.sharingAllowed.value_or(settings.sharingAllowed);
     settings.version = command.version.value_or(settings.version);
     settings.refuseInstructions = command.refuseInstructions.value_or(settings.refuseInstructions);
@@ -255,7 +255,7 @@ std::string Player::fetchOne(const FetchCommand_s& command) {
     if (dataSet == nullptr || dataSet->field(command.zone, command.variable) == nullptr)
         throw CommandProblem(
             fmt::format("there is no variable {} of a zone {}", command.variable, command.zone));
-    const FetchResult result = host_.fetch(command.zone, command.variable);
+    const FetchResult_s result = host_.fetch(command.zone, command.variable);
     return result.ok ? fmt::format("{} values", result.count) : "failed: " + result.error;
 }
 

@@ -33,8 +33,8 @@ std::size_t distance(std::string_view from, std::string_view to) {
 
 std::string_view nearestName(std::string_view name, std::span<const std::string_view> known) {
     // Longer ones are nobody's slip, and the distance costs the product of both lengths.
-    constexpr std::size_t kLettersCompared = 100;
-    const std::string_view head = name.substr(0, kLettersCompared);
+    constexpr std::size_t lettersCompared = 100;
+    const std::string_view head = name.substr(0, lettersCompared);
     return *std::min_element(known.begin(), known.end(),
                              [head](std::string_view one, std::string_view other) {
                                  return distance(head, one) < distance(head, other);

@@ -22,11 +22,11 @@ enum class ErrorKind : std::uint8_t {
 /// Everything beside `message` may be empty. The message is one sentence for a person; it does not
 /// repeat the file's name.
 struct ErrorFacts {
-    std::string file;
-    std::optional<std::int64_t> byte; // position in the file, from 0
-    std::string expected;
-    std::string found;
-    std::string next; // what to try next
+    std::string file = {};
+    std::optional<std::int64_t> byte = {}; // position in the file, from 0
+    std::string expected = {};
+    std::string found = {};
+    std::string next = {}; // what to try next
 };
 
 /// Thrown by every operation of the library that says so; nothing else is, std::bad_alloc apart.

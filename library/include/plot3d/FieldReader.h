@@ -29,8 +29,8 @@ public:
     /// Fills `destination` with the values of the box, of the field's type, in the machine's byte
     /// order, I fastest. There must be room for box.count() values. Rows and runs that lie near to
     /// one another in the file come in one read of at least 64 KiB where that is cheaper than a
-    /// read for each. `stop` is asked every few MiB. Throws Error: Usage for a box that leaves the
-    /// field, Unreadable with file and byte, Interrupted.
+    /// read for each. A box without points reads nothing. `stop` is asked every few MiB. Throws
+    /// Error: Usage for a box that leaves the field, Unreadable with file and byte, Interrupted.
     void read(const Box& box, void* destination, std::stop_token stop = {}) const;
     void read(void* destination, std::stop_token stop = {}) const;
 

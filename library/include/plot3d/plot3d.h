@@ -8,6 +8,7 @@
 #include <plot3d/Field.h>
 #include <plot3d/FieldReader.h>
 #include <plot3d/FileInfo.h>
+#include <plot3d/FileNames.h>
 #include <plot3d/Version.h>
 #include <plot3d/Watch.h>
 #include <plot3d/Zone.h>

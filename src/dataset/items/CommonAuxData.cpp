@@ -11,24 +11,24 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-struct KnownVariable {
+struct KnownVariable_s {
     std::string_view name; // compared as it stands, case included
     const char* item;
 };
 
 constexpr std::array knownVariables = {
-    KnownVariable{"RHO", "Common.DensityVar"},
-    KnownVariable{"RHO-U", "Common.UVar"},
-    KnownVariable{"RHO-V", "Common.VVar"},
-    KnownVariable{"RHO-W", "Common.WVar"},
-    KnownVariable{"E", "Common.StagnationEnergyVar"},
-    KnownVariable{"GAMMA", "Common.GammaVar"},
-    KnownVariable{"K", "Common.TurbulentKineticEnergyVar"},
-    KnownVariable{"EPSILON", "Common.TurbulentDissipationRateVar"},
+    KnownVariable_s{"RHO", "Common.DensityVar"},
+    KnownVariable_s{"RHO-U", "Common.UVar"},
+    KnownVariable_s{"RHO-V", "Common.VVar"},
+    KnownVariable_s{"RHO-W", "Common.WVar"},
+    KnownVariable_s{"E", "Common.StagnationEnergyVar"},
+    KnownVariable_s{"GAMMA", "Common.GammaVar"},
+    KnownVariable_s{"K", "Common.TurbulentKineticEnergyVar"},
+    KnownVariable_s{"EPSILON", "Common.TurbulentDissipationRateVar"},
 };
 
 bool setItemOfVariable(QuorAuxDataHandle auxData, std::string_view name, std::int64_t var) {
-    for (const KnownVariable& known : knownVariables)
+    for (const KnownVariable_s& known : knownVariables)
         if (known.name == name)
             return setAuxDataItem(auxData, known.item, std::to_string(var).c_str());
     return true;

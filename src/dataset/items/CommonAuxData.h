@@ -6,7 +6,7 @@
 namespace quorvia::quorutildataio {
 
 /// Sets an item for each name in `variableNames` (borrowed) that has a meaning, and the two fixed
-/// items. False: a name is missing or the host refused an item.
-bool setCommonAuxData(QuorStringListHandle variableNames);
+/// items. False (not told): a name is missing or the host refused an item.
+[[nodiscard]] bool setCommonAuxData(QuorStringListHandle variableNames);
 
 } // namespace quorvia::quorutildataio

@@ -12,13 +12,14 @@ namespace quorvia::quorutildataio {
 
 using Plot3DOffsets = HostArray<std::int64_t>;
 
-/// New entries that no scan has come to. False: no memory.
-bool allocateOffsets(Plot3DOffsets& offsets, std::int64_t count, const char* label);
-/// The same, then the first `count` entries of `source`. False also if it has fewer.
-bool copyOffsets(const Plot3DOffsets& source, Plot3DOffsets& offsets, std::int64_t count,
-                 const char* label);
-/// Those of the fields of a function file, for `gridCount` grids.
-bool allocateFunctionOffsets(Plot3DFile_s& file, std::int32_t gridCount);
+/// New entries that no scan has come to. False (not told): no memory.
+[[nodiscard]] bool allocateOffsets(Plot3DOffsets& offsets, std::int64_t count, const char* label);
+/// The same, then the first `count` entries of `source`. False (not told): no memory, or it has
+/// fewer.
+[[nodiscard]] bool copyOffsets(const Plot3DOffsets& source, Plot3DOffsets& offsets,
+                               std::int64_t count, const char* label);
+/// Those of the fields of a function file, for `gridCount` grids. False (not told): no memory.
+[[nodiscard]] bool allocateFunctionOffsets(Plot3DFile_s& file, std::int32_t gridCount);
 
 /// Where the file's `varOffsets` hold a field; grid and variable from 0.
 inline std::int64_t fieldEntry(const Plot3DFile_s& file, std::int64_t grid, std::int32_t varIndex) {
@@ -27,7 +28,8 @@ inline std::int64_t fieldEntry(const Plot3DFile_s& file, std::int64_t grid, std:
 
 /// Nothing if there is no such entry.
 void noteOffset(const Plot3DOffsets& offsets, std::int64_t entry, std::int64_t position);
-/// Empty if there is no such entry or no scan has come to it.
-std::optional<std::int64_t> notedOffset(const Plot3DOffsets& offsets, std::int64_t entry);
+/// Empty (not told): there is no such entry, or no scan has come to it.
+[[nodiscard]] std::optional<std::int64_t> notedOffset(const Plot3DOffsets& offsets,
+                                                      std::int64_t entry);
 
 } // namespace quorvia::quorutildataio

@@ -68,7 +68,7 @@ bool readScalar(Plot3DFile_s& file, const char* itemName, bool wantsText, AuxDat
 }
 
 /// What the scalars of a selected grid are set on; null for what is to be left alone.
-struct ScalarTargets {
+struct ScalarTargets_s {
     QuorAuxDataHandle zone = nullptr;
     QuorAuxDataHandle dataSet = nullptr;
 };
@@ -106,7 +106,7 @@ bool readRawScalar(FileStream& stream, bool isDoublePrecision, bool byteSwap, bo
 bool setUpScalarsItem(Plot3DFile_s& file, std::int32_t zone, bool include, bool report,
                       const Plot3DItemContext_s& context) {
     const std::int32_t hostZone = context.firstZone + zone;
-    ScalarTargets targets;
+    ScalarTargets_s targets;
     if (include) {
         targets = {QuorUtilAuxDataZoneGetRef(hostZone), QuorUtilAuxDataDataSetGetRef()};
         noteOffset(file.auxDataOffsets, zone, file.stream->tell());

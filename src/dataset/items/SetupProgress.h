@@ -16,9 +16,9 @@ public:
     /// Zone and grid count from 1.
     FieldSteps(std::int32_t zone, std::int32_t gridNumber, const Plot3DFile_s& file);
 
-    /// The field of variable `var`, from 1, is about to be set up: one step on currentTask. False:
-    /// stop.
-    bool step(std::int32_t var);
+    /// The field of variable `var`, from 1, is about to be set up: one step on currentTask. False
+    /// (not told): the user wants the load to stop.
+    [[nodiscard]] bool step(std::int32_t var);
 
 private:
     std::string text_;           // of the latest step

@@ -16,7 +16,7 @@ namespace quorvia::quorutildataio {
 
 namespace {
 
-struct VariableItem {
+struct VariableItem_s {
     std::int32_t grid; // from 0
     std::int32_t hostZone;
     std::int32_t hostVar;
@@ -29,7 +29,7 @@ struct VariableItem {
 };
 
 /// Where an eager read delivers: an array, or a handle and the host's function for single values.
-struct Destination {
+struct Destination_s {
     void* dest = nullptr;
     QuorFieldSetFunction setValue = nullptr;
     std::int32_t type = QuorFieldDataType_Invalid;
@@ -46,12 +46,12 @@ bool failWith(bool report, const char* text) {
 }
 
 /// Nothing is told of a read that the user has stopped.
-bool failItem(const Plot3DFile_s& file, const VariableItem& item, bool report) {
+bool failItem(const Plot3DFile_s& file, const VariableItem_s& item, bool report) {
     return failWith(report && !file.stream->wasStopped(),
                     item.isIBlank ? "Error loading IBlank Variable." : "Error loading Variable.");
 }
 
-void notePosition(const Plot3DFile_s& file, const VariableItem& item, std::int32_t varIndex,
+void notePosition(const Plot3DFile_s& file, const VariableItem_s& item, std::int32_t varIndex,
                   std::int64_t position) {
     if (item.isIBlank)
         noteOffset(file.iBlankOffsets, item.grid, position);
@@ -74,7 +74,8 @@ void reportFunctionPrecision(const Plot3DFile_s& file, std::int32_t type) {
                               : "The function file has values of 32 bits, its variables of 64.");
 }
 
-bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t type, bool report) {
+bool checkType(const Plot3DFile_s& file, const VariableItem_s& item, std::int32_t type,
+               bool report) {
     if (item.isIBlank || hasFilePrecision(file, type))
         return true;
     if (report)
@@ -82,8 +83,8 @@ bool checkType(const Plot3DFile_s& file, const VariableItem& item, std::int32_t 
     return failWith(report, "Datatype mismatch while attempting to replace a solution var.");
 }
 
-bool readBlock(Plot3DFile_s& file, const VariableItem& item, bool store,
-               const Destination& target) {
+bool readBlock(Plot3DFile_s& file, const VariableItem_s& item, bool store,
+               const Destination_s& target) {
     const std::int64_t planesBefore = item.isWholeField ? 0 : item.plane;
     std::int64_t firstIndex = 0;
     if (__builtin_mul_overflow(planesBefore, item.valueCount, &firstIndex))
@@ -96,12 +97,12 @@ bool readBlock(Plot3DFile_s& file, const VariableItem& item, bool store,
 
 /// The block of a grid that is not loaded, or of a field that stays in the file. The length of the
 /// former goes by the ends of the index ranges, like that of a loaded one.
-bool readPast(Plot3DFile_s& file, const VariableItem& item, bool report) {
-    return readBlock(file, item, false, Destination()) || failItem(file, item, report);
+bool readPast(Plot3DFile_s& file, const VariableItem_s& item, bool report) {
+    return readBlock(file, item, false, Destination_s()) || failItem(file, item, report);
 }
 
 /// A deferred block is not read, but the walk goes on behind it.
-bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, bool report) {
+bool defer(Plot3DFile_s& file, const VariableItem_s& item, std::int64_t position, bool report) {
     const std::int32_t type = QuorUtilDataValueGetType(item.hostZone, item.hostVar);
     if (!checkType(file, item, type, report))
         return false;
@@ -116,28 +117,28 @@ bool defer(Plot3DFile_s& file, const VariableItem& item, std::int64_t position, 
     return readPast(file, item, report);
 }
 
-Destination findDestination(const VariableItem& item) {
-    Destination target;
+Destination_s findDestination(const VariableItem_s& item) {
+    Destination_s target;
     QuorUtilDataValueGetRawPtr(item.hostZone, item.hostVar, &target.dest, &target.type);
     if (target.dest != nullptr)
         return target;
     const QuorFieldHandle field = QuorUtilDataValueGetWritableRef(item.hostZone, item.hostVar);
     if (field == nullptr)
-        return Destination();
+        return Destination_s();
     return {field, QuorUtilDataValueRefGetSetFunc(field), QuorUtilDataValueGetRefType(field)};
 }
 
-bool readSubset(Plot3DFile_s& file, const VariableItem& item, const Destination& target) {
+bool readSubset(Plot3DFile_s& file, const VariableItem_s& item, const Destination_s& target) {
     return readIndexRange(file, item.plane, item.dims.i, item.dims.j, item.dims.k, item.ranges.i,
                           item.ranges.j, item.ranges.k, item.isIBlank, target.dest,
                           target.setValue);
 }
 
-bool readNow(Plot3DFile_s& file, const VariableItem& item, bool report) {
+bool readNow(Plot3DFile_s& file, const VariableItem_s& item, bool report) {
     const bool isFirstBlock = item.isWholeField || item.plane == 0;
     if (isFirstBlock && !QuorUtilDataValueAlloc(item.hostZone, item.hostVar))
         return failWith(report, "Unable to allocate memory for variable.");
-    const Destination target = findDestination(item);
+    const Destination_s target = findDestination(item);
     if (!checkType(file, item, target.type, report))
         return false;
     if (target.dest == nullptr)
@@ -153,7 +154,7 @@ bool setUpVariableItem(Plot3DFile_s& file, std::int32_t grid, std::int32_t zone,
                        std::int32_t varIndex, std::int32_t plane, bool isIBlank, bool report,
                        const Plot3DItemContext_s& context) {
     const bool isUnstructured = file.dataStructure == Plot3DDataStructure_Unstructured;
-    VariableItem item;
+    VariableItem_s item;
     item.grid = grid;
     item.hostZone = context.firstZone + zone;
     item.hostVar = context.firstVar + varIndex;

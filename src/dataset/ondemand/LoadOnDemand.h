@@ -19,18 +19,21 @@ struct Plot3DLodRecord_s {
     std::int64_t numValues;
 };
 
-/// Hands the field over to the host for load on demand. False: the host refused it, or no memory.
-bool registerLodVariable(const std::shared_ptr<Plot3DVariable_s>& variable, std::int32_t zone,
-                         std::int32_t var, std::int64_t fileOffset, std::int64_t numValues);
+/// Hands the field over to the host for load on demand. False (not told): the host refused
+/// it, or no memory.
+[[nodiscard]] bool registerLodVariable(const std::shared_ptr<Plot3DVariable_s>& variable,
+                                       std::int32_t zone, std::int32_t var, std::int64_t fileOffset,
+                                       std::int64_t numValues);
 
-// The host's callbacks. They take no lock and touch nothing of a load.
-bool lodLoadCallback(QuorFieldHandle field);
-bool lodUnloadCallback(QuorFieldHandle field);
+// The host's callbacks. They take no lock and touch nothing of a load. False (told),
+// False (not told): as readLodVariable.
+[[nodiscard]] bool lodLoadCallback(QuorFieldHandle field);
+[[nodiscard]] bool lodUnloadCallback(QuorFieldHandle field);
 void lodCleanupCallback(QuorFieldHandle field);
 
-/// Reads the field into the host's array. False: the file is gone (told to the user), too short,
-/// the host threw, or the user stopped the read, of which nothing is told; the array is partly
-/// written then, and the field can be read again.
-bool readLodVariable(const Plot3DLodRecord_s& record, QuorFieldHandle field);
+/// Reads the field into the host's array, which is partly written where it fails; the field can be
+/// read again. False (told): the file does not open, or the host threw. False (not told): the file
+/// is too short, the type is not that of its numbers, or the user stopped the read.
+[[nodiscard]] bool readLodVariable(const Plot3DLodRecord_s& record, QuorFieldHandle field);
 
 } // namespace quorvia::quorutildataio

@@ -13,7 +13,8 @@ namespace quorvia::quorutildataio {
 /// host's lock must be held.
 class LoadWatch : public ReadWatch {
 public:
-    bool goesOn(std::int64_t byteCount) override;
+    /// False (not told): stop.
+    [[nodiscard]] bool goesOn(std::int64_t byteCount) override;
 };
 
 /// For a fetch, which may come at any time and without the lock: opens a bar of its own, which
@@ -23,8 +24,8 @@ public:
     /// `byteCount`: of the whole fetch; an estimate will do.
     explicit FetchWatch(std::int64_t byteCount) : byteCount_(byteCount) {}
 
-    /// Throws std::bad_alloc if the host has no memory for a bar.
-    bool goesOn(std::int64_t byteCount) override;
+    /// False (not told): stop. Throws std::bad_alloc if the host has no memory for a bar.
+    [[nodiscard]] bool goesOn(std::int64_t byteCount) override;
 
 private:
     std::int64_t byteCount_;

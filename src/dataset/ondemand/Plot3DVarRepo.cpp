@@ -20,10 +20,10 @@ Plot3DVarRepo& Plot3DVarRepo::instance() {
 }
 
 std::shared_ptr<Plot3DVariable_s> Plot3DVarRepo::getVariable(const Plot3DFile_s& file) {
-    for (const Entry& entry : entries_)
+    for (const Entry_s& entry : entries_)
         if (entry.file == &file)
             return entry.variable;
-    return entries_.emplace_back(Entry{&file, describe(file)}).variable;
+    return entries_.emplace_back(Entry_s{&file, describe(file)}).variable;
 }
 
 void Plot3DVarRepo::clear() {

@@ -32,11 +32,11 @@ public:
     void clear();
 
 private:
-    struct Entry {
+    struct Entry_s {
         const Plot3DFile_s* file;
         std::shared_ptr<Plot3DVariable_s> variable;
     };
-    std::vector<Entry> entries_; // a file set has few files
+    std::vector<Entry_s> entries_; // a file set has few files
 };
 
 /// Empties the repository of the process when its scope ends.

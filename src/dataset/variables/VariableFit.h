@@ -9,12 +9,13 @@
 
 namespace quorvia::quorutildataio {
 
-/// Whether the data set has all variables from `firstVar`, from 1, on that the file fills. False:
-/// told, with the file.
-bool checkVariablesFor(const Plot3DFile_s& file, std::int64_t firstVar, std::int64_t varCount);
+/// Whether the data set has all variables from `firstVar`, from 1, on that the file fills. False
+/// (told): it has not, with the file.
+[[nodiscard]] bool checkVariablesFor(const Plot3DFile_s& file, std::int64_t firstVar,
+                                     std::int64_t varCount);
 
-/// The same for all files of a time step. The first file that goes too far is told.
-bool checkVariablesFor(const Plot3DFileHandler& handler, const Plot3DLoadShape_s& shape,
-                       std::int64_t varCount);
+/// The same for all files of a time step. False (told): of the first file that goes too far.
+[[nodiscard]] bool checkVariablesFor(const Plot3DFileHandler& handler,
+                                     const Plot3DLoadShape_s& shape, std::int64_t varCount);
 
 } // namespace quorvia::quorutildataio

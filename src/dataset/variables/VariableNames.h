@@ -40,8 +40,8 @@ std::int64_t countVariableNames(const Plot3DLoadShape_s& shape,
 std::string functionName(std::int64_t ordinal, std::int64_t k);
 
 /// Raises `ordinal` until no "F<ordinal>V<k>" is the name of a variable in the frame's data set.
-/// False: a host query failed or memory ran out.
-bool findFreeFunctionOrdinal(std::int32_t& ordinal);
+/// False (not told): a host query failed or memory ran out.
+[[nodiscard]] bool findFreeFunctionOrdinal(std::int32_t& ordinal);
 
 /// The host's type code of a variable of the load, `varIndex` from 0.
 std::int32_t fieldDataType(const Plot3DFileHandler& handler, std::int32_t varIndex,

@@ -19,9 +19,10 @@ struct Plot3DAppendedFunctions_s {
 };
 
 /// Sets up the first function file of each handler on the next zones, as many as it has grids.
-/// False: a file does not open, does not fit its zones, or can't be scanned, or memory ran out
-/// (told), it has I-blank, or the load is to stop (not told). What has been set up so far stays.
-bool setUpAppendedFunctions(const Plot3DAppendedFunctions_s& request,
-                            std::vector<Plot3DFileHandler>& handlers);
+/// What has been set up so far stays. False (told): a file does not open, does not fit its zones,
+/// or can't be scanned, or memory ran out. False (not told): it has I-blank, or the load is to
+/// stop.
+[[nodiscard]] bool setUpAppendedFunctions(const Plot3DAppendedFunctions_s& request,
+                                          std::vector<Plot3DFileHandler>& handlers);
 
 } // namespace quorvia::quorutildataio

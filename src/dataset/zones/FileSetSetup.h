@@ -22,8 +22,9 @@ struct Plot3DFileSetRequest_s {
     bool isFirstFileSet;
 };
 
-/// False: a file could not be opened or scanned, does not fit its zones, or the load is to stop.
-/// What has been set up so far stays at the host.
-bool setUpFileSet(const Plot3DFileSetRequest_s& request);
+/// What has been set up so far stays at the host. False (told): a file does not open, has more
+/// variables than the data set, can't be scanned or does not share its grid. False (not told): it
+/// does not fit its zones, memory ran out, or the load is to stop.
+[[nodiscard]] bool setUpFileSet(const Plot3DFileSetRequest_s& request);
 
 } // namespace quorvia::quorutildataio

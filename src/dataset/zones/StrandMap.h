@@ -25,7 +25,8 @@ struct Plot3DStrandSeries_s {
 };
 
 /// Orders dimensions by I, then J, then K.
-struct Plot3DGridDimsLess {
+class Plot3DGridDimsLess {
+public:
     bool operator()(const Plot3DGridDims_s& a, const Plot3DGridDims_s& b) const;
 };
 

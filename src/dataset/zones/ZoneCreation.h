@@ -34,14 +34,18 @@ struct Plot3DZoneStage_s {
 };
 
 /// Deletes the zones beyond `zonesPerTimeStep` and gives the others the names of the first
-/// handler's grids. Stores `zonesPerTimeStep` in `existingZoneCount`.
-bool adjustExistingZones(std::int32_t zonesPerTimeStep, const Plot3DFileHandler& firstHandler,
-                         const Plot3DLoadOptions_s& options, std::int32_t& existingZoneCount);
+/// handler's grids. Stores `zonesPerTimeStep` in `existingZoneCount`. False (not told): the
+/// host refused a deletion or a name.
+[[nodiscard]] bool adjustExistingZones(std::int32_t zonesPerTimeStep,
+                                       const Plot3DFileHandler& firstHandler,
+                                       const Plot3DLoadOptions_s& options,
+                                       std::int32_t& existingZoneCount);
 
-/// Adds the zones of one file set, counted from 0, and sets up their fields. False: a failure that
-/// is not told here, an interruption, or too many zones (told).
-bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
-                       std::int32_t fileSetIndex);
+/// Adds the zones of one file set, counted from 0, and sets up their fields. False (told): too
+/// many zones, no elements, or as setUpFileSet. False (not told): so, too, or the host refused a
+/// zone.
+[[nodiscard]] bool addZonesOfFileSet(Plot3DZoneStage_s& stage, Plot3DFileHandler& handler,
+                                     std::int32_t fileSetIndex);
 
 /// Whether a zone of this type (QuorZoneType_e) consists of elements that PLOT3D knows.
 constexpr bool hasElements(std::int32_t zoneType) {
@@ -49,8 +53,8 @@ constexpr bool hasElements(std::int32_t zoneType) {
 }
 
 /// Whether a new zone of an unstructured solution, which knows no elements, could have those of
-/// `zone`. False: told.
-bool checkElements(std::int32_t zone);
+/// `zone`. False (told): it could not.
+[[nodiscard]] bool checkElements(std::int32_t zone);
 
 /// What one zone is made of beyond its grid.
 struct Plot3DZoneRequest_s {
@@ -61,8 +65,9 @@ struct Plot3DZoneRequest_s {
 
 constexpr std::int32_t noStrand = -1;
 
-/// Adds a zone behind the last one for a grid, counted from 0. False: the host refused it.
-bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
-                    std::int32_t gridIndex, const Plot3DZoneRequest_s& request);
+/// Adds a zone behind the last one for a grid, counted from 0. False (told): there are
+/// no elements for it. False (not told): the host refused it.
+[[nodiscard]] bool addZoneForGrid(Plot3DZoneStage_s& stage, const Plot3DFileHandler& handler,
+                                  std::int32_t gridIndex, const Plot3DZoneRequest_s& request);
 
 } // namespace quorvia::quorutildataio

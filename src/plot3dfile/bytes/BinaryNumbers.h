@@ -31,9 +31,10 @@ inline std::int64_t readBinaryNumbers(FileStream& stream, bool byteSwap, std::in
     return readBinaryNumbers(readBytes, byteSwap, width, count, numbers);
 }
 
-/// One such number of the type's width. False: fewer bytes came; `number` is worthless then.
+/// One such number of the type's width. False (not told): fewer bytes came; `number` is worthless
+/// then.
 template <typename Number>
-bool readBinaryNumber(FileStream& stream, bool byteSwap, Number& number) {
+[[nodiscard]] bool readBinaryNumber(FileStream& stream, bool byteSwap, Number& number) {
     return readBinaryNumbers(stream, byteSwap, sizeof(Number), 1, &number) == 1;
 }
 

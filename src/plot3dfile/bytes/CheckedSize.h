@@ -22,8 +22,8 @@ public:
             fits_ = false;
     }
 
-    /// Empty if any step passed 64 bits.
-    std::optional<std::int64_t> value() const {
+    /// Empty (not told): a step passed 64 bits.
+    [[nodiscard]] std::optional<std::int64_t> value() const {
         return fits_ ? std::optional<std::int64_t>(sum_) : std::nullopt;
     }
 

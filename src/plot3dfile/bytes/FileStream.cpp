@@ -39,9 +39,9 @@ std::int64_t FileStream::read(void* destination, std::int64_t byteCount) {
     return done;
 }
 
-FileStream::Window FileStream::window() {
+FileStream::Window_s FileStream::window() {
     if (bufferPosition_ == bufferEnd_)
-        fillBuffer();
+        static_cast<void>(fillBuffer()); // an empty window says so
     return {buffer_.get() + bufferPosition_, buffer_.get() + bufferEnd_};
 }
 

@@ -19,8 +19,8 @@ public:
     static constexpr std::int64_t bytesAheadOfFirstQuestion = 64 * 1024 * 1024;
     static constexpr std::int64_t bytesBetweenQuestions = 8 * 1024 * 1024;
 
-    /// Opens the file; null if it can't be opened.
-    static std::unique_ptr<FileStream> open(const std::string& utf8Name);
+    /// Opens the file. Null (not told): it can't be opened.
+    [[nodiscard]] static std::unique_ptr<FileStream> open(const std::string& utf8Name);
 
     explicit FileStream(std::unique_ptr<RandomAccessFile> file);
 
@@ -28,8 +28,8 @@ public:
     /// of the file or a read error (hadReadError).
     std::int64_t read(void* destination, std::int64_t byteCount);
 
-    /// True if exactly `byteCount` bytes came.
-    bool readExactly(void* destination, std::int64_t byteCount) {
+    /// The same. False (not told): fewer than `byteCount` bytes came.
+    [[nodiscard]] bool readExactly(void* destination, std::int64_t byteCount) {
         return read(destination, byteCount) == byteCount;
     }
 
@@ -42,18 +42,19 @@ public:
 
     /// The bytes that the buffer holds at the position; fills it if it is empty. `begin` == `end`:
     /// the end of the file. consume() moves the position on inside them. For scanning text in bulk.
-    struct Window {
+    struct Window_s {
         const char* begin;
         const char* end;
     };
-    Window window();
+    Window_s window();
     void consume(std::int64_t byteCount) { bufferPosition_ += byteCount; }
 
-    /// Moves to a position in bytes from the file's start; it may lie behind the end. False: the
-    /// position is negative.
-    bool seek(std::int64_t position);
-    /// Moves on by `byteCount`. False: the position would be negative or pass 64 bits.
-    bool skip(std::int64_t byteCount);
+    /// Moves to a position in bytes from the file's start; it may lie behind the end. False
+    /// (not told): the position is negative.
+    [[nodiscard]] bool seek(std::int64_t position);
+    /// Moves on by `byteCount`. False (not told): the position would be negative or pass
+    /// 64 bits.
+    [[nodiscard]] bool skip(std::int64_t byteCount);
 
     /// Position in bytes from the file's start.
     std::int64_t tell() const { return bufferStart_ + bufferPosition_; }
@@ -75,7 +76,9 @@ public:
 private:
     int readCharacterFromFile();
     bool mayReadOn();
-    bool fillBuffer();
+    /// False (not told): nothing more comes.
+    [[nodiscard]] bool fillBuffer();
+
     std::int64_t takeFromBuffer(char* target, std::int64_t byteCount);
     std::int64_t readPastBuffer(char* target, std::int64_t byteCount);
     std::int64_t readFromFile(char* target, std::int64_t byteCount);

@@ -27,9 +27,9 @@ class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    /// Null if there is no such file, if it may not be read, or if it is no regular file (a
+    /// Null (not told): there is no such file, it may not be read, or it is no regular file (a
     /// directory, or a pipe that would never end).
-    virtual std::unique_ptr<RandomAccessFile> open(const std::string& utf8Name) = 0;
+    [[nodiscard]] virtual std::unique_ptr<RandomAccessFile> open(const std::string& utf8Name) = 0;
 
     /// Whether there is such a regular file, readable or not. Tells one that can't be opened from
     /// one that was never there.

@@ -9,8 +9,9 @@ class ReadWatch {
 public:
     virtual ~ReadWatch() = default;
 
-    /// `byteCount` bytes have come since the last question. False: the user wants the read to stop.
-    virtual bool goesOn(std::int64_t byteCount) = 0;
+    /// `byteCount` bytes have come since the last question. False (not told): the user wants
+    /// the read to stop.
+    [[nodiscard]] virtual bool goesOn(std::int64_t byteCount) = 0;
 };
 
 } // namespace quorvia::quorutildataio

@@ -5,8 +5,8 @@
 
 namespace quorvia::quorutildataio {
 
-/// Opens the file if it is closed; it is closed on every way out. False: it does not open, which
-/// has been told.
+/// Opens the file if it is closed; it is closed on every way out. Converts to false if it
+/// does not open, which has been told.
 class OpenedFile {
 public:
     explicit OpenedFile(Plot3DFile_s& file)

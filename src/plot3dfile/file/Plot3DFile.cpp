@@ -76,7 +76,7 @@ bool closePlot3DFile(Plot3DFile_s& file) {
 }
 
 void rewindPlot3DFile(Plot3DFile_s& file) {
-    file.stream->seek(0);
+    static_cast<void>(file.stream->seek(0)); // fails for a negative position alone
     resetReadingState(file);
 }
 

@@ -68,20 +68,21 @@ using Plot3DFilePtr = std::unique_ptr<Plot3DFile_s>;
 /// In the order of the load options' list of names. The load owns the records.
 using Plot3DFileList = std::vector<Plot3DFilePtr>;
 
-/// Makes the record of a file that nobody has looked at. Null: no memory for the name.
-Plot3DFilePtr makePlot3DFile(const std::string& fileName);
+/// Makes the record of a file that nobody has looked at. Null (not told): no memory for the name.
+[[nodiscard]] Plot3DFilePtr makePlot3DFile(const std::string& fileName);
 
 /// Frees the record and all that it owns, and clears the pointer.
 void destroyPlot3DFile(Plot3DFilePtr& file);
 
 /// Makes `copy` a record of the same structure for `fileName`, closed, without offset arrays,
-/// solution time and reading state. False: no memory; `copy` is null then.
-bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy, const std::string& fileName);
+/// solution time and reading state. False (not told): no memory; `copy` is null then.
+[[nodiscard]] bool copyPlot3DFile(const Plot3DFile_s& source, Plot3DFilePtr& copy,
+                                  const std::string& fileName);
 
-/// Opens the file for reading. False: it does not open, which has been told to the user.
-bool openPlot3DFile(Plot3DFile_s& file);
+/// Opens the file for reading. False (told): it does not open.
+[[nodiscard]] bool openPlot3DFile(Plot3DFile_s& file);
 
-/// Closes the stream, if it is open, and resets the reading state.
+/// Closes the stream, if it is open, and resets the reading state. Always true.
 bool closePlot3DFile(Plot3DFile_s& file);
 
 /// Moves the open stream to the file's start and resets the reading state.

@@ -44,7 +44,7 @@ std::int64_t negatedWithin64Bits(std::int64_t number) {
     return number == std::numeric_limits<std::int64_t>::min() ? largestPosition : -number;
 }
 
-bool isAllZeros(FileStream::Window window) {
+bool isAllZeros(FileStream::Window_s window) {
     const std::int64_t byteCount = window.end - window.begin;
     // Each byte is the one ahead of it: a library's comparison is far quicker than a loop of ours.
     return byteCount > 0 && *window.begin == 0 &&
@@ -53,7 +53,7 @@ bool isAllZeros(FileStream::Window window) {
 }
 
 // Bytes of the window that belong to empty records in a row, which are nothing but zeros.
-std::int64_t countEmptyRecordBytes(FileStream::Window window, std::int64_t recordBytes) {
+std::int64_t countEmptyRecordBytes(FileStream::Window_s window, std::int64_t recordBytes) {
     const char* end = window.end;
     if (!isAllZeros(window))
         end = std::find_if(window.begin, window.end, [](char byte) { return byte != 0; });

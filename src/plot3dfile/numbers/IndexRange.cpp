@@ -32,14 +32,14 @@ bool readRow(Plot3DFile_s& file, std::int64_t valueCount, const Plot3DIndexRange
     return true;
 }
 
-struct PlaneShape {
+struct PlaneShape_s {
     std::int64_t i;
     std::int64_t j;
     const Plot3DIndexRange_s& iRange;
     const Plot3DIndexRange_s& jRange;
 };
 
-bool readPlane(Plot3DFile_s& file, const PlaneShape& shape, bool isPlaneSelected,
+bool readPlane(Plot3DFile_s& file, const PlaneShape_s& shape, bool isPlaneSelected,
                std::int64_t planeBase, bool isIBlank, const ValueDestination& destination) {
     const auto readOneRow = isIBlank ? readRow<std::int32_t> : readRow<double>;
     const std::int64_t selectedColumns = countInRange(shape.iRange);
@@ -79,7 +79,7 @@ bool readIndexRange(Plot3DFile_s& file, std::int32_t plane, std::int32_t i, std:
                     bool isIBlank, void* dest, QuorFieldSetFunction setValue) {
     constexpr std::int32_t allPlanes = -1;
     const ValueDestination destination(file, dest, setValue);
-    const PlaneShape shape = {i, j, iRange, jRange};
+    const PlaneShape_s shape = {i, j, iRange, jRange};
     const std::int64_t selectedPoints = countInRange(iRange) * countInRange(jRange);
     std::int64_t planeBase = 0;
     for (std::int64_t planeNumber = 1; planeNumber <= k; ++planeNumber) {

@@ -185,7 +185,7 @@ bool skipReals(Plot3DFile_s& file, std::int32_t count) {
 std::int64_t readPlainReals(Plot3DFile_s& file, std::int64_t count, double* values) {
     if (file.repeatCount >= 1 || !isSeparator(file.lookahead))
         return 0;
-    const FileStream::Window window = file.stream->window();
+    const FileStream::Window_s window = file.stream->window();
     const char* next = window.begin;
     std::int64_t delivered = 0;
     for (const char* token = next; delivered < count; ++delivered) {

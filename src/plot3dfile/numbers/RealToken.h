@@ -52,8 +52,8 @@ private:
 };
 
 /// The value of such a token, which is not empty. Without point and exponent it is an integer,
-/// which wraps at 32 bits. False: it is none; `value` is 0 then.
-bool convertRealToken(std::string_view token, double& value);
+/// which wraps at 32 bits. False (not told): it is none; `value` is 0 then.
+[[nodiscard]] bool convertRealToken(std::string_view token, double& value);
 
 /// How many more times a value is delivered after the first, if `count` stood ahead of an asterisk:
 /// -1 for a count of 0. A real count past 32 bits counts as the largest number there is.

@@ -121,12 +121,12 @@ protected:
         EXPECT_EQ(host().lockDepth(), 0) << story;
     }
 
-    void expectCleanEnd(const host::LoadResult& result, const std::string& story) const {
+    void expectCleanEnd(const host::LoadResult_s& result, const std::string& story) const {
         expectContractKept(story);
         EXPECT_EQ(snapshotOfFrame(), result.ok ? whole_ : expectedSnapshot()) << story;
     }
 
-    void expectCleanEndOf(const std::string& operation, const host::LoadResult& result,
+    void expectCleanEndOf(const std::string& operation, const host::LoadResult_s& result,
                           const std::string& story) const {
         if (!result.ok || toleratedOperations.count(operation) == 0)
             return expectCleanEnd(result, story);
@@ -155,7 +155,7 @@ TEST_P(FaultyLoad, OfEveryHostCallEndsCleanly) {
             const std::string story = operation + " " + std::to_string(n);
             beginAnew();
             host().failCall(operation, n);
-            const host::LoadResult result = load(load_);
+            const host::LoadResult_s result = load(load_);
             const bool happened = host().callCount(operation) >= n;
             host().clearFaults();
             expectCleanEndOf(operation, result, story);
@@ -180,7 +180,7 @@ TEST_P(FaultyLoad, OfTheUserAtEveryStepEndsCleanly) {
         const std::string story = "step " + std::to_string(n);
         beginAnew();
         host().interruptAtStep(n);
-        const host::LoadResult result = load(load_);
+        const host::LoadResult_s result = load(load_);
         const bool inStage = showed("Cleaning up...");
         host().clearFaults();
         expectCleanEnd(result, story);

@@ -21,7 +21,7 @@ TEST_F(FaultySelection, OfEveryHostCallEndsCleanly) {
         for (std::int64_t n = 1; true; ++n) {
             host().reset();
             host().failCall(operation, n);
-            const host::LoadResult result = select(selected);
+            const host::LoadResult_s result = select(selected);
             const bool happened = host().callCount(operation) >= n;
             host().clearFaults();
             EXPECT_EQ(host().log().violations, Texts()) << operation << ' ' << n;
@@ -53,7 +53,7 @@ protected:
         const SmallFiles files(folder);
         selected_ = {files.grid("a.x"), files.solution("a.q", 0.25)};
     }
-    void expectNothing(const host::LoadResult& result) {
+    void expectNothing(const host::LoadResult_s& result) {
         EXPECT_FALSE(result.ok);
         EXPECT_EQ(messages(), Texts{"Out of Memory!!!"});
         EXPECT_EQ(host().frame().dataSet(), nullptr);

@@ -146,7 +146,7 @@ TEST_F(DialogScript, EndsWhenTheUserEndsTheSession) {
         command("commands", Json(atDialog({grid_}, {press("OK"), press("OK")}))).dump(), error);
     ASSERT_TRUE(macro.has_value()) << error;
     bool mayGoOn = true;
-    host.settings().progressObserver = [&host, &mayGoOn](const host::ProgressState&) {
+    host.settings().progressObserver = [&host, &mayGoOn](const host::ProgressState_s&) {
         if (std::exchange(mayGoOn, false))
             host.requestInterrupt();
     };

@@ -89,7 +89,7 @@ Fate_e BadInputTest::attempt(const Load_s& load) {
     host().clearLog();
     const std::int64_t justified = memoryOfAnyLoad + memoryPerByte * bytesOnDisk(load);
     restartMemoryCount();
-    const host::LoadResult result = LoadedAddOnTest::load(load);
+    const host::LoadResult_s result = LoadedAddOnTest::load(load);
     fetchEverything(host());
     EXPECT_LE(peakMemoryBytes(), justified);
     EXPECT_EQ(result.hostError, "");

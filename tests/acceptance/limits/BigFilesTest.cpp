@@ -205,10 +205,10 @@ class HugeFiles : public BigFiles {
 protected:
     /// Loads the file, and holds it to a time that no walk in small steps would keep, and to a
     /// memory that has nothing to do with the file's size.
-    host::LoadResult loadInTime(const std::string& file) {
+    host::LoadResult_s loadInTime(const std::string& file) {
         restartMemoryCount();
         const auto start = std::chrono::steady_clock::now();
-        const host::LoadResult result = load({.gridFiles = {file}});
+        const host::LoadResult_s result = load({.gridFiles = {file}});
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::minutes(2));
         EXPECT_LT(peakMemoryBytes(), 64'000'000);
         return result;
@@ -225,11 +225,11 @@ TEST_F(HugeFiles, FileOfZerosIsRefusedInTime) {
 // Eight times as long; nobody has to wait for the end of it.
 TEST_F(HugeFiles, WalkOverZerosIsInterrupted) {
     const std::string file = writeSparse("zeros.x", "", 8 * hugeFile);
-    host().settings().progressObserver = [](const host::ProgressState& state) {
+    host().settings().progressObserver = [](const host::ProgressState_s& state) {
         if (state.text.rfind("Examining file header ...", 0) == 0)
             host().requestInterrupt();
     };
-    const host::LoadResult result = load({.gridFiles = {file}});
+    const host::LoadResult_s result = load({.gridFiles = {file}});
     host().settings().progressObserver = nullptr;
     EXPECT_FALSE(result.ok);
     EXPECT_TRUE(result.interrupted);

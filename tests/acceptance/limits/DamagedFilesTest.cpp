@@ -20,7 +20,7 @@ protected:
             return whole.size();
         return whole.find_last_of(" \n", whole.find_last_not_of(" \n")) + 2;
     }
-    static bool isSmallGrid(const host::Zone& zone) {
+    static bool isSmallGrid(const host::Zone_s& zone) {
         return zone.i == 2 && zone.j == 3 && zone.k == 5;
     }
 };

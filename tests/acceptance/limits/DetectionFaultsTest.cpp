@@ -40,7 +40,7 @@ protected:
     static void armAt(const std::string& file, void (*arm)()) {
         const std::string tail = file.substr(file.size() > 40 ? file.size() - 40 : 0);
         bool isArmed = false;
-        host().settings().progressObserver = [=](const host::ProgressState& state) mutable {
+        host().settings().progressObserver = [=](const host::ProgressState_s& state) mutable {
             if (isArmed || state.text != "Examining file header ..." + tail)
                 return;
             isArmed = true;

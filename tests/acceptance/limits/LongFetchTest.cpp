@@ -56,7 +56,7 @@ protected:
         return {found.end() - 2, found.end()};
     }
     static host::DataSetOutcome_s described() {
-        host::LoadResult result;
+        host::LoadResult_s result;
         result.ok = true;
         return host::describeOutcome(host(), result).dataSet.value();
     }
@@ -80,7 +80,7 @@ class StoppedFetch : public LongFetch, public ::testing::WithParamInterface<Form
 TEST_P(StoppedFetch, LeavesTheFieldToBeFetchedAgain) {
     loadGrid(bigGrid, GetParam());
     host().interruptAtStep(9); // behind 72 MiB
-    const host::FetchResult stopped = host().fetch(1, 2);
+    const host::FetchResult_s stopped = host().fetch(1, 2);
     EXPECT_FALSE(stopped.ok);
     EXPECT_EQ(stopped.values, nullptr);
     EXPECT_EQ(stopped.error, "The fetch was interrupted.");
@@ -102,7 +102,7 @@ TEST_F(LongFetch, MovesABarOfItsOwnWithTheBytes) {
     loadGrid(bigGrid, plain);
     std::vector<double> fractions;
     int closings = 0;
-    host().settings().progressObserver = [&](const host::ProgressState& state) {
+    host().settings().progressObserver = [&](const host::ProgressState_s& state) {
         closings += state.open ? 0 : 1;
         if (state.open)
             fractions.push_back(state.fraction);

@@ -21,12 +21,12 @@ protected:
     }
     /// Removes the file when the load shows a text that begins so.
     static void removeWhenShown(const std::string& file, const std::string& text) {
-        host().settings().progressObserver = [=](const host::ProgressState& state) {
+        host().settings().progressObserver = [=](const host::ProgressState_s& state) {
             if (state.text.rfind(text, 0) == 0)
                 fs::remove(file);
         };
     }
-    static host::FetchResult fetchX() { return host().fetch(1, 1); }
+    static host::FetchResult_s fetchX() { return host().fetch(1, 1); }
 };
 
 // The name is wrong. Creating the record of the file tells so, and opening it for detection again.

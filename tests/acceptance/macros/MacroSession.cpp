@@ -52,8 +52,8 @@ void MacroSession::play(const Commands& commands, const Texts& options) {
     arguments.insert(arguments.end(), options.begin(), options.end());
     std::ostringstream out;
     std::ostringstream err;
-    constexpr int kNoTerminal = 0;
-    exitCode_ = host::run(arguments, {out, err, kNoTerminal});
+    constexpr int noTerminal = 0;
+    exitCode_ = host::run(arguments, {out, err, noTerminal});
     ASSERT_NE(exitCode_, 2) << err.str();
     outcomes_ = Json::parse(out.str());
     shown_ = err.str();

@@ -44,7 +44,7 @@ protected:
         return storages;
     }
     static float firstValue(std::int32_t variable) {
-        const host::FetchResult field = host().fetch(1, variable);
+        const host::FetchResult_s field = host().fetch(1, variable);
         EXPECT_TRUE(field.ok) << field.error;
         return field.ok ? static_cast<const float*>(field.values)[0] : -1;
     }

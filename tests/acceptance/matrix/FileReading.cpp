@@ -67,9 +67,9 @@ bool FileReading::readsPlanes() const {
     return file_->layout.layout == Layout_e::ThreeDPlanes && reading_ != Reading_e::PlanesAsWhole;
 }
 
-host::FieldState FileReading::state() const {
+host::FieldState_e FileReading::state() const {
     const bool isText = file_->form.encoding == Encoding_e::Text;
-    return isText || readsPlanes() ? host::FieldState::Stored : host::FieldState::Deferred;
+    return isText || readsPlanes() ? host::FieldState_e::Stored : host::FieldState_e::Deferred;
 }
 
 std::int64_t FileReading::pointCount(std::int32_t grid) const {

@@ -42,7 +42,7 @@ public:
     bool hasIBlank() const;
     bool isDouble() const;
     /// Fields stay in the file unless the file is text or its fields are spread over planes.
-    host::FieldState state() const;
+    host::FieldState_e state() const;
     std::int32_t variableCount() const { return numVars_; }
     /// As far as they can stand in the file: of single precision they are narrowed.
     std::vector<double> scalars(std::int32_t grid) const;

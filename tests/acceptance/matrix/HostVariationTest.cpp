@@ -22,7 +22,7 @@ protected:
     }
 
     /// X, Y, Z and I-blank of a zone of the second step, in `state`.
-    void expectGridOfLaterStep(host::FieldState state) const {
+    void expectGridOfLaterStep(host::FieldState_e state) const {
         const FileReading grid = FileReading::asMeant(files_.grid);
         for (std::int32_t variable = 0; variable < 4; ++variable) {
             FieldExpectation_s expected = grid.field(1, variable);
@@ -61,7 +61,7 @@ TEST_P(HostVariation, CopiesTheGridWhereSharingIsForbidden) {
     loadTwoSteps();
     EXPECT_EQ(holders(1), Holders({1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(holders(4), Holders({1, 2, 3, 4, 5, 6}));
-    expectGridOfLaterStep(host::FieldState::Stored);
+    expectGridOfLaterStep(host::FieldState_e::Stored);
     expectSolutionOfLaterStep();
 }
 
@@ -93,7 +93,7 @@ TEST_P(HostVariation, WritesSubsetsValueByValueWithoutPlainArrays) {
     const FileReading grid = FileReading::asMeant(files.grid);
     for (std::int32_t variable = 0; variable < 3; ++variable) {
         FieldExpectation_s expected = grid.field(0, variable);
-        expected.state = host::FieldState::Stored;
+        expected.state = host::FieldState_e::Stored;
         expected.value = [whole = expected.value](std::int64_t i, std::int64_t j, std::int64_t k) {
             return whole(i == 0 ? 0 : i + 2, j, k);
         };

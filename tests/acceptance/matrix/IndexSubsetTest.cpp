@@ -55,7 +55,7 @@ private:
     static FieldExpectation_s subset(const FileReading& reading, std::int32_t variable,
                                      const Points_s& points) {
         FieldExpectation_s expected = reading.field(0, variable);
-        expected.state = host::FieldState::Stored; // parts of fields are read during the load
+        expected.state = host::FieldState_e::Stored; // parts of fields are read during the load
         expected.value = [whole = expected.value, points](std::int64_t i, std::int64_t j,
                                                           std::int64_t k) {
             return whole(points.i[static_cast<std::size_t>(i)],

@@ -43,7 +43,7 @@ std::int32_t plotTypeOf(Layout_e layout) {
     return layout == Layout_e::TwoD ? QuorPlotType_2D : QuorPlotType_3D;
 }
 
-void expectZoneShape(const host::Zone& zone, const WrittenFile_s& gridFile, std::size_t grid) {
+void expectZoneShape(const host::Zone_s& zone, const WrittenFile_s& gridFile, std::size_t grid) {
     const GridDims_s& dims = gridFile.contents.grids[grid];
     if (gridFile.layout.layout != Layout_e::Unstructured) {
         EXPECT_EQ(zone.type, QuorZoneType_Ordered);
@@ -59,7 +59,7 @@ void expectZoneShape(const host::Zone& zone, const WrittenFile_s& gridFile, std:
     EXPECT_EQ(zone.k, isSurface ? 3 : 4);
 }
 
-void expectConnectivity(const host::Zone& zone, std::int32_t grid) {
+void expectConnectivity(const host::Zone_s& zone, std::int32_t grid) {
     if (zone.isOrdered()) {
         EXPECT_EQ(zone.nodeMap, nullptr);
         return;

@@ -30,7 +30,7 @@ TEST_F(Combustor, IsOneZoneWithAClassicSolution) {
 
 TEST_F(Combustor, LeavesItsFieldsInTheFiles) {
     for (std::int32_t variable = 1; variable <= 8; ++variable) {
-        EXPECT_EQ(field(1, variable).state(), host::FieldState::Deferred);
+        EXPECT_EQ(field(1, variable).state(), host::FieldState_e::Deferred);
         EXPECT_EQ(field(1, variable).type, QuorFieldDataType_Float);
     }
 }

@@ -14,14 +14,14 @@ struct Extent_s {
     std::int64_t i = 1, j = 1, k = 1;
 };
 
-Extent_s extentOf(const host::Zone& zone) {
+Extent_s extentOf(const host::Zone_s& zone) {
     if (!zone.isOrdered())
         return {zone.i, 1, 1};
     return {zone.i, zone.j, zone.k};
 }
 
 template <class Value>
-AssertionResult compareValues(const host::FetchResult& fetched, const Extent_s& extent,
+AssertionResult compareValues(const host::FetchResult_s& fetched, const Extent_s& extent,
                               const ValueAt& expected) {
     const auto* const values = static_cast<const Value*>(fetched.values);
     std::int64_t index = 0;
@@ -38,7 +38,7 @@ AssertionResult compareValues(const host::FetchResult& fetched, const Extent_s& 
     return AssertionSuccess();
 }
 
-AssertionResult compareFetched(const host::FetchResult& fetched, const Extent_s& extent,
+AssertionResult compareFetched(const host::FetchResult_s& fetched, const Extent_s& extent,
                                const ValueAt& expected) {
     switch (fetched.type) {
     case QuorFieldDataType_Float:
@@ -57,8 +57,8 @@ AssertionResult compareFetched(const host::FetchResult& fetched, const Extent_s&
 AssertionResult fieldIs(host::ReferenceHost& host, std::int32_t zoneNumber, std::int32_t variable,
                         const FieldExpectation_s& expected) {
     const host::DataSet* const dataSet = host.frame().dataSet();
-    const host::Zone* const zone = dataSet != nullptr ? dataSet->zone(zoneNumber) : nullptr;
-    const host::Field* const field =
+    const host::Zone_s* const zone = dataSet != nullptr ? dataSet->zone(zoneNumber) : nullptr;
+    const host::Field_s* const field =
         zone != nullptr ? dataSet->field(zoneNumber, variable) : nullptr;
     if (field == nullptr)
         return AssertionFailure() << "there is no field of zone " << zoneNumber << ", variable "
@@ -71,7 +71,7 @@ AssertionResult fieldIs(host::ReferenceHost& host, std::int32_t zoneNumber, std:
         return AssertionResult(where) << "state " << static_cast<int>(field->state())
                                       << ", expected " << static_cast<int>(expected.state);
 
-    const host::FetchResult fetched = host.fetch(zoneNumber, variable);
+    const host::FetchResult_s fetched = host.fetch(zoneNumber, variable);
     if (!fetched.ok)
         return AssertionResult(where) << "not fetched: " << fetched.error;
     const Extent_s extent = extentOf(*zone);

@@ -16,7 +16,7 @@ using ValueAt = std::function<double(std::int64_t i, std::int64_t j, std::int64_
 
 struct FieldExpectation_s {
     std::int32_t type = QuorFieldDataType_Float; // values are narrowed to it before comparing
-    host::FieldState state = host::FieldState::Deferred;
+    host::FieldState_e state = host::FieldState_e::Deferred;
     ValueAt value;
 };
 

@@ -40,13 +40,13 @@ void appendFiles(Texts& instructions, const std::string& key, const Texts& files
 }
 
 template <class Value>
-void appendValues(std::vector<double>& widened, const host::FetchResult& fetched) {
+void appendValues(std::vector<double>& widened, const host::FetchResult_s& fetched) {
     const auto* const values = static_cast<const Value*>(fetched.values);
     widened.assign(values, values + fetched.count);
 }
 
-host::FetchResult fetchOrThrow(std::int32_t zoneNumber, std::int32_t variable) {
-    const host::FetchResult fetched = host::ReferenceHost::instance().fetch(zoneNumber, variable);
+host::FetchResult_s fetchOrThrow(std::int32_t zoneNumber, std::int32_t variable) {
+    const host::FetchResult_s fetched = host::ReferenceHost::instance().fetch(zoneNumber, variable);
     if (!fetched.ok)
         throw std::runtime_error("zone " + std::to_string(zoneNumber) + ", variable " +
                                  std::to_string(variable) + ": " + fetched.error);
@@ -81,38 +81,38 @@ void LoadedAddOnTest::TearDown() {
     host().reset();
 }
 
-host::LoadResult LoadedAddOnTest::load(const Load_s& load) {
+host::LoadResult_s LoadedAddOnTest::load(const Load_s& load) {
     return host().importInstructions(instructionsOf(load));
 }
 
-host::LoadResult LoadedAddOnTest::select(const Texts& files) {
+host::LoadResult_s LoadedAddOnTest::select(const Texts& files) {
     constexpr bool advanced = false;
     constexpr bool append = false;
     return host().importSelection(files, advanced, append);
 }
 
 void LoadedAddOnTest::expectLoads(const Load_s& load) {
-    const host::LoadResult result = LoadedAddOnTest::load(load);
+    const host::LoadResult_s result = LoadedAddOnTest::load(load);
     EXPECT_TRUE(result.ok) << result.hostError;
     EXPECT_EQ(messages(), Texts());
 }
 
 void LoadedAddOnTest::expectSelectionLoads(const Texts& files) {
-    const host::LoadResult result = select(files);
+    const host::LoadResult_s result = select(files);
     EXPECT_TRUE(result.ok) << result.hostError;
     EXPECT_EQ(messages(), Texts());
 }
 
 Texts LoadedAddOnTest::messages() {
     Texts texts;
-    for (const host::Message& message : host().log().messages)
+    for (const host::Message_s& message : host().log().messages)
         texts.push_back(message.text);
     return texts;
 }
 
 Texts LoadedAddOnTest::variableNames() {
     Texts names;
-    for (const host::Variable& variable : dataSet().variables())
+    for (const host::Variable_s& variable : dataSet().variables())
         names.push_back(variable.name);
     return names;
 }
@@ -131,15 +131,15 @@ host::DataSet& LoadedAddOnTest::dataSet() {
     return *dataSet;
 }
 
-host::Zone& LoadedAddOnTest::zone(std::int32_t number) {
-    host::Zone* const zone = dataSet().zone(number);
+host::Zone_s& LoadedAddOnTest::zone(std::int32_t number) {
+    host::Zone_s* const zone = dataSet().zone(number);
     if (zone == nullptr)
         throw std::runtime_error("there is no zone " + std::to_string(number));
     return *zone;
 }
 
-const host::Field& LoadedAddOnTest::field(std::int32_t zoneNumber, std::int32_t variable) {
-    const host::Field* const field = dataSet().field(zoneNumber, variable);
+const host::Field_s& LoadedAddOnTest::field(std::int32_t zoneNumber, std::int32_t variable) {
+    const host::Field_s* const field = dataSet().field(zoneNumber, variable);
     if (field == nullptr)
         throw std::runtime_error("there is no zone " + std::to_string(zoneNumber) +
                                  " with a variable " + std::to_string(variable));
@@ -147,7 +147,7 @@ const host::Field& LoadedAddOnTest::field(std::int32_t zoneNumber, std::int32_t 
 }
 
 std::vector<double> LoadedAddOnTest::values(std::int32_t zoneNumber, std::int32_t variable) {
-    const host::FetchResult fetched = fetchOrThrow(zoneNumber, variable);
+    const host::FetchResult_s fetched = fetchOrThrow(zoneNumber, variable);
     std::vector<double> widened;
     if (fetched.type == QuorFieldDataType_Float)
         appendValues<float>(widened, fetched);
@@ -162,7 +162,7 @@ std::vector<double> LoadedAddOnTest::values(std::int32_t zoneNumber, std::int32_
 
 std::vector<std::int32_t> LoadedAddOnTest::integers(std::int32_t zoneNumber,
                                                     std::int32_t variable) {
-    const host::FetchResult fetched = fetchOrThrow(zoneNumber, variable);
+    const host::FetchResult_s fetched = fetchOrThrow(zoneNumber, variable);
     if (fetched.type != QuorFieldDataType_Int32)
         throw std::runtime_error("the field holds no integers");
     const auto* const values = static_cast<const std::int32_t*>(fetched.values);

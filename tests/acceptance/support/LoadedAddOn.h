@@ -38,9 +38,9 @@ protected:
     static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
 
     /// Runs the load as a macro does. The data set of an earlier load is replaced.
-    static host::LoadResult load(const Load_s& load);
+    static host::LoadResult_s load(const Load_s& load);
     /// Hands the files over as the import menu does.
-    static host::LoadResult select(const Texts& files);
+    static host::LoadResult_s select(const Texts& files);
 
     /// Runs the load, and fails the test with the add-on's messages unless it came in silently.
     static void expectLoads(const Load_s& load);
@@ -54,8 +54,8 @@ protected:
     /// The data set, zone and field of numbers from 1. Throw std::runtime_error if they aren't
     /// there, which ends the test.
     static host::DataSet& dataSet();
-    static host::Zone& zone(std::int32_t number);
-    static const host::Field& field(std::int32_t zoneNumber, std::int32_t variable);
+    static host::Zone_s& zone(std::int32_t number);
+    static const host::Field_s& field(std::int32_t zoneNumber, std::int32_t variable);
 
     /// Values of a field, I fastest, fetched if need be, whatever its type. Throw
     /// std::runtime_error if the host could not fetch them.

@@ -81,13 +81,13 @@ protected:
         EXPECT_EQ(zone(zoneNumber).k, k);
     }
 
-    static host::FieldState wholeFieldState() {
-        return GetParam().isText ? host::FieldState::Stored : host::FieldState::Deferred;
+    static host::FieldState_e wholeFieldState() {
+        return GetParam().isText ? host::FieldState_e::Stored : host::FieldState_e::Deferred;
     }
 
     /// All variables of a file in every zone, from the host's variable `firstVariable` on.
     static void expectFields(FileKind_e kind, std::int32_t firstVariable, std::int32_t count,
-                             host::FieldState state) {
+                             host::FieldState_e state) {
         for (std::int32_t grid = 1; grid <= dataSet().zoneCount(); ++grid)
             for (std::int32_t variable = 1; variable <= count; ++variable) {
                 const auto value = [=](std::int64_t i, std::int64_t j, std::int64_t k) {
@@ -161,7 +161,7 @@ TEST_P(FortranRecords, TellPlanesFromWholeFields) {
     expectLoadsFiles({{path("_planes.x")}, {}, {}, {}, {}}, hasIBlank);
     ASSERT_EQ(dataSet().zoneCount(), 3);
     expectSizes(3, 3, 7, 2);
-    expectFields(GridFile, 1, 3, host::FieldState::Stored);
+    expectFields(GridFile, 1, 3, host::FieldState_e::Stored);
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, FortranRecords, ::testing::ValuesIn(recordForms()),

@@ -58,15 +58,15 @@ TEST_F(Console, EmptyLinesAndTabsOfAnErrorAreLeftOut) {
 }
 
 TEST_F(Console, AnswersAreTold) {
-    tellMessage(err, {MessageKind::Question, "Replace?", true});
-    tellMessage(err, {MessageKind::Question, "Replace?", false});
+    tellMessage(err, {MessageKind_e::Question, "Replace?", true});
+    tellMessage(err, {MessageKind_e::Question, "Replace?", false});
     EXPECT_EQ("quorhost: question: Replace?\n    answered OK or Yes\n"
               "quorhost: question: Replace?\n    answered Cancel or No; --yes answers OK or Yes\n",
               err.str());
 }
 
 TEST_F(Console, InformationIsNoError) {
-    tellMessage(err, {MessageKind::Information, "By the way.", std::nullopt});
+    tellMessage(err, {MessageKind_e::Information, "By the way.", std::nullopt});
     EXPECT_EQ("quorhost: By the way.\n", err.str());
 }
 

@@ -1,5 +1,5 @@
 // A small add-on library for the tests of quorhost. The name of the first file, without directory
-// and extension, says how the load goes: see kScenes. Every load but "first-only" hands the host
+// and extension, says how the load goes: see scenes. Every load but "first-only" hands the host
 // the instructions that it was given, or for a selection the names of the files.
 //
 // The data set of a good load: variables "X" and "Density ", two zones of 2 x 3 x 5 points whose
@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr std::int64_t kI = 2;
-constexpr std::int64_t kJ = 3;
-constexpr std::int64_t kK = 5;
+constexpr std::int64_t pointsI = 2;
+constexpr std::int64_t pointsJ = 3;
+constexpr std::int64_t pointsK = 5;
 
 QuorAddOnHandle gAddOn = nullptr;
 
@@ -46,9 +46,9 @@ bool loadField(QuorFieldHandle field) {
         return false;
     }
     auto* values = static_cast<float*>(QuorUtilDataValueGetRawPtrByRef(field));
-    for (std::int64_t k = 1; k <= kK; ++k)
-        for (std::int64_t j = 1; j <= kJ; ++j)
-            for (std::int64_t i = 1; i <= kI; ++i)
+    for (std::int64_t k = 1; k <= pointsK; ++k)
+        for (std::int64_t j = 1; j <= pointsJ; ++j)
+            for (std::int64_t i = 1; i <= pointsI; ++i)
                 *values++ = static_cast<float>((i + 100 * j + 10000 * k) * (zone == 1 ? 1 : -1));
     return true;
 }
@@ -83,9 +83,9 @@ void addZone(const char* name) {
     QuorArgListHandle arguments = QuorUtilArgListAlloc();
     QuorUtilArgListAppendString(arguments, "Name", name);
     QuorUtilArgListAppendInt(arguments, "ZoneType", QuorZoneType_Ordered);
-    QuorUtilArgListAppendInt(arguments, "IMax", kI);
-    QuorUtilArgListAppendInt(arguments, "JMax", kJ);
-    QuorUtilArgListAppendInt(arguments, "KMax", kK);
+    QuorUtilArgListAppendInt(arguments, "IMax", pointsI);
+    QuorUtilArgListAppendInt(arguments, "JMax", pointsJ);
+    QuorUtilArgListAppendInt(arguments, "KMax", pointsK);
     QuorUtilArgListAppendArray(arguments, "VarDataType", types);
     QuorUtilArgListAppendInt(arguments, "DeferVarCreation", 1);
     QuorUtilDataSetAddZoneX(arguments);
@@ -173,8 +173,8 @@ bool tellTimes() {
     names.append("flow_3.q");
     names.append("flow_5.q");
     double times[] = {0, 0};
-    constexpr bool kLast = false;
-    const bool found = QuorUtilExtractTimesFromFileNames(names.getRef(), times, kLast);
+    constexpr bool last = false;
+    const bool found = QuorUtilExtractTimesFromFileNames(names.getRef(), times, last);
     QuorUtilDialogErrMsg(found ? (std::to_string(times[0]) + " " + std::to_string(times[1])).c_str()
                                : "none");
     return true;
@@ -201,16 +201,16 @@ bool leak() {
 
 /// All that a host notes of a load besides messages and progress.
 bool loadWithEvents() {
-    constexpr bool kInvalidate = false;
-    constexpr bool kFullDrawing = true;
+    constexpr bool invalidate = false;
+    constexpr bool fullDrawing = true;
     QuorUtilUndoStateBegin(9);
     const bool ok = loadWell();
     QuorSetHandle zones = nullptr;
     QuorUtilZoneGetEnabled(&zones);
     QuorUtilStateChanged(QuorStateChange_ZonesAdded, zones);
     QuorUtilSetDealloc(&zones);
-    QuorUtilRedraw(kFullDrawing);
-    QuorUtilUndoStateEnd(kInvalidate, ok);
+    QuorUtilRedraw(fullDrawing);
+    QuorUtilUndoStateEnd(invalidate, ok);
     return ok;
 }
 
@@ -235,7 +235,7 @@ bool pressTwice() {
     return loadUnderCtrlC(2);
 }
 
-const std::map<std::string, bool (*)()> kScenes = {
+const std::map<std::string, bool (*)()> scenes = {
     {"well", loadWell},        {"unreadable", loadUnreadable},
     {"ask", askFirst},         {"events", loadWithEvents},
     {"inform", inform},        {"steps", loadInSteps},
@@ -259,10 +259,10 @@ bool nameAlone(const std::string& file) {
 }
 
 bool play(const std::string& file, QuorStringListHandle instructions) {
-    const auto scene = kScenes.find(sceneOf(file));
+    const auto scene = scenes.find(sceneOf(file));
     if (sceneOf(file) == "first-only")
         return scene->second() && nameAlone(file);
-    return scene != kScenes.end() && scene->second() &&
+    return scene != scenes.end() && scene->second() &&
            QuorUtilImportSetLoaderInstr("Fake Loader", instructions);
 }
 

@@ -7,17 +7,17 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-const std::string kExtensions = "g.* *.g *.in.* *.nam";
+const std::string extensions = "g.* *.g *.in.* *.nam";
 
 TEST(LeftOut, KindGoesByTheFileNameInAnyCase) {
     EXPECT_EQ(
         (Strings{"a.bin", "x.g/mesh", "README"}),
         filesOfNoKind({"a.bin", "b.g", "G.DAT", "dir/c.in.old", "x.g/mesh", "README", "N.NAM"},
-                      kExtensions));
+                      extensions));
 }
 
 TEST(LeftOut, BoundaryFileNeedsNoKind) {
-    EXPECT_EQ(Strings(), filesOfNoKind({"a.g.fvbnd", "a.g.FVBND"}, kExtensions));
+    EXPECT_EQ(Strings(), filesOfNoKind({"a.g.fvbnd", "a.g.FVBND"}, extensions));
 }
 
 TEST(LeftOut, FilesAreNamedByTheInstructions) {

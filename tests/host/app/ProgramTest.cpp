@@ -33,7 +33,7 @@ Ended_s runProgram(const std::string& arguments) {
     return ended;
 }
 
-const std::string kWithFake = "load --addon '" FAKE_ADDON "' ";
+const std::string withFake = "load --addon '" FAKE_ADDON "' ";
 
 TEST(Program, VersionAndHelpEndWell) {
     EXPECT_EQ(0U, runProgram("--version").out.find("quorhost "));
@@ -49,13 +49,13 @@ TEST(Program, BadUsageEndsWith2AndWritesNothingOut) {
 }
 
 TEST(Program, JsonIsAllThatGoesToStandardOutput) {
-    const Ended_s ended = runProgram(kWithFake + "well.g --json -");
+    const Ended_s ended = runProgram(withFake + "well.g --json -");
     EXPECT_EQ(0, ended.exitCode());
     EXPECT_EQ("quorhost.outcome/1", nlohmann::json::parse(ended.out)["schema"]);
 }
 
 TEST(Program, ErrorsGoToStandardErrorWithoutColourOrProgress) {
-    const Ended_s ended = runProgram(kWithFake + "fail.g 2>&1 >/dev/null");
+    const Ended_s ended = runProgram(withFake + "fail.g 2>&1 >/dev/null");
     EXPECT_EQ(1, ended.exitCode());
     EXPECT_EQ("quorhost: error: It can't be read.\n    File: fail.g\n", ended.out);
 }
@@ -69,11 +69,11 @@ TEST(Program, MissingAddOnEndsWith1) {
 }
 
 TEST(Program, FirstCtrlCEndsTheLoadWith130) {
-    EXPECT_EQ(130, runProgram(kWithFake + "ctrl-c.g 2>/dev/null").exitCode());
+    EXPECT_EQ(130, runProgram(withFake + "ctrl-c.g 2>/dev/null").exitCode());
 }
 
 TEST(Program, SecondCtrlCEndsTheProgram) {
-    const Ended_s ended = runProgram(kWithFake + "ctrl-c-twice.g 2>/dev/null");
+    const Ended_s ended = runProgram(withFake + "ctrl-c-twice.g 2>/dev/null");
     ASSERT_TRUE(WIFSIGNALED(ended.status));
     EXPECT_EQ(SIGINT, WTERMSIG(ended.status));
 }

@@ -20,7 +20,7 @@ TEST_F(GatherOutcome, TellsTheDataSet) {
 
 TEST_F(GatherOutcome, TellsAZone) {
     addZone(nullptr, nullptr);
-    Zone& zone = addZone(nullptr, nullptr);
+    Zone_s& zone = addZone(nullptr, nullptr);
     zone.strandId = 7;
     zone.solutionTime = 0.25;
     zone.parentZoneId = dataSet->zone(1)->uniqueId;
@@ -38,10 +38,10 @@ TEST_F(GatherOutcome, TellsStatesBeforeAnyFetch) {
     addZone(deferred(), stored());
     addZone(dataSet->zone(1)->fields[0].storage, nullptr);
     const DataSetOutcome_s outcome = described();
-    EXPECT_EQ(FieldState::Deferred, outcome.zones[0].fields[0].state);
-    EXPECT_EQ(FieldState::Stored, outcome.zones[0].fields[1].state);
-    EXPECT_EQ(FieldState::Deferred, outcome.zones[1].fields[0].state);
-    EXPECT_EQ(FieldState::Empty, outcome.zones[1].fields[1].state);
+    EXPECT_EQ(FieldState_e::Deferred, outcome.zones[0].fields[0].state);
+    EXPECT_EQ(FieldState_e::Stored, outcome.zones[0].fields[1].state);
+    EXPECT_EQ(FieldState_e::Deferred, outcome.zones[1].fields[0].state);
+    EXPECT_EQ(FieldState_e::Empty, outcome.zones[1].fields[1].state);
     EXPECT_EQ(0, loads);
 }
 
@@ -93,7 +93,7 @@ TEST_F(GatherOutcome, OrderedZoneHasNoConnectivity) {
 
 TEST_F(GatherOutcome, FrameWithoutDataSetTellsNone) {
     host.frame().reset();
-    LoadResult result;
+    LoadResult_s result;
     result.hostError = "No library.";
     const Outcome_s outcome = describeOutcome(host, result);
     EXPECT_FALSE(outcome.ok);

@@ -41,8 +41,8 @@ protected:
     }
     ~HandMadeFrame() override { host.reset(); }
 
-    static Field fieldOf(std::shared_ptr<FieldStorage> storage) {
-        Field field;
+    static Field_s fieldOf(std::shared_ptr<FieldStorage> storage) {
+        Field_s field;
         field.storage = std::move(storage);
         return field;
     }
@@ -55,8 +55,8 @@ protected:
     }
 
     /// An ordered zone of 2 x 3 x 5 points; null storage is an empty field.
-    Zone& addZone(std::shared_ptr<FieldStorage> x, std::shared_ptr<FieldStorage> density) {
-        auto zone = std::make_unique<Zone>();
+    Zone_s& addZone(std::shared_ptr<FieldStorage> x, std::shared_ptr<FieldStorage> density) {
+        auto zone = std::make_unique<Zone_s>();
         zone->name = "Zone";
         zone->i = 2;
         zone->j = 3;
@@ -66,8 +66,8 @@ protected:
     }
 
     /// A zone of triangles over three nodes.
-    Zone& addTriangles(std::shared_ptr<NodeMap> nodeMap) {
-        Zone& zone = addZone(nullptr, nullptr);
+    Zone_s& addTriangles(std::shared_ptr<NodeMap> nodeMap) {
+        Zone_s& zone = addZone(nullptr, nullptr);
         zone.type = QuorZoneType_Triangles;
         zone.i = nodeMap->nodeCount();
         zone.j = nodeMap->elementCount();
@@ -77,7 +77,7 @@ protected:
     }
 
     DataSetOutcome_s described() {
-        LoadResult result;
+        LoadResult_s result;
         result.ok = true;
         return describeOutcome(host, result).dataSet.value();
     }

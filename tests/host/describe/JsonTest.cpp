@@ -111,9 +111,9 @@ TEST(Json, VariableNamesKeepTrailingBlanks) {
 
 TEST(Json, MessagesTellKindAndAnswer) {
     Outcome_s outcome;
-    outcome.messages = {{MessageKind::Error, "Bad.", std::nullopt},
-                        {MessageKind::Information, "Good.", std::nullopt},
-                        {MessageKind::Question, "Which?", false}};
+    outcome.messages = {{MessageKind_e::Error, "Bad.", std::nullopt},
+                        {MessageKind_e::Information, "Good.", std::nullopt},
+                        {MessageKind_e::Question, "Which?", false}};
     EXPECT_EQ(Json::parse(R"([{"kind":"error","text":"Bad.","answer":null},
                               {"kind":"information","text":"Good.","answer":null},
                               {"kind":"question","text":"Which?","answer":false}])"),
@@ -123,7 +123,7 @@ TEST(Json, MessagesTellKindAndAnswer) {
 TEST(Json, HostEventsAreTold) {
     Outcome_s outcome;
     outcome.stateChanges = {{3, {1, 2}}};
-    outcome.undo = {{UndoKind::Begin, 0, std::nullopt}, {UndoKind::End, 0, true}};
+    outcome.undo = {{UndoKind_e::Begin, 0, std::nullopt}, {UndoKind_e::End, 0, true}};
     const Json json = told(outcome);
     EXPECT_EQ(Json::parse(R"([{"code":3,"members":[1,2]}])"), json["stateChanges"]);
     EXPECT_EQ(Json::parse(R"([{"event":"begin","success":null},{"event":"end","success":true}])"),
@@ -141,14 +141,14 @@ TEST(Json, ConnectivityTellsElementsAndCorners) {
 }
 
 /// A dialog with a page that holds a control of each kind that has a value.
-Dialog sampleDialog() {
-    Dialog dialog;
+Dialog_s sampleDialog() {
+    Dialog_s dialog;
     dialog.open = true;
     dialog.tabs.emplace();
     dialog.tabs->pages = {{2, "Files"}, {3, "Options"}};
     dialog.tabs->frontPage = 3;
-    const auto add = [&dialog](ControlKind kind, const char* caption) -> Control& {
-        Control& control = dialog.controls.emplace_back();
+    const auto add = [&dialog](ControlKind_e kind, const char* caption) -> Control_s& {
+        Control_s& control = dialog.controls.emplace_back();
         control.id = 10 + static_cast<std::int32_t>(dialog.controls.size());
         control.parent = 2;
         control.kind = kind;
@@ -156,13 +156,13 @@ Dialog sampleDialog() {
         control.geometry = {1, 2, 3, 4};
         return control;
     };
-    add(ControlKind::Label, "Name:").sensitive = false;
-    add(ControlKind::Toggle, "Swirl ").value = 1;
-    Control& menu = add(ControlKind::OptionMenu, "");
+    add(ControlKind_e::Label, "Name:").sensitive = false;
+    add(ControlKind_e::Toggle, "Swirl ").value = 1;
+    Control_s& menu = add(ControlKind_e::OptionMenu, "");
     menu.items = {"Red", "Green"};
     menu.value = 2;
-    add(ControlKind::TextField, "").text = "wing";
-    Control& list = add(ControlKind::List, "");
+    add(ControlKind_e::TextField, "").text = "wing";
+    Control_s& list = add(ControlKind_e::List, "");
     list.items = {"a", "b"};
     list.selected = {2};
     dialog.focus = list.id;
@@ -184,11 +184,11 @@ TEST(Json, TextOfNothingIsTheLibrarysDump) {
 TEST(Json, TextOfAnOutcomeIsTheLibrarysDump) {
     Outcome_s outcome = loadedOutcome(3);
     outcome.hostError = "No.";
-    outcome.messages = {{MessageKind::Question, "Which?\nThis?", false}};
+    outcome.messages = {{MessageKind_e::Question, "Which?\nThis?", false}};
     outcome.progress.add("Zone 1");
     outcome.progress.add("Zone 2");
     outcome.stateChanges = {{3, {1, 2}}, {0, {}}};
-    outcome.undo = {{UndoKind::Begin, 0, std::nullopt}, {UndoKind::End, 0, true}};
+    outcome.undo = {{UndoKind_e::Begin, 0, std::nullopt}, {UndoKind_e::End, 0, true}};
     outcome.dataSet->auxData = {{"Common.Mach", "0.5"}};
     outcome.dataSet->zones[1].fields.clear();
     outcome.dataSet->zones[2].connectivity = {7, 4, 0x1a};

@@ -11,7 +11,7 @@ inline FieldOutcome_s fetchedField(std::int32_t variable, double min, double max
     FieldOutcome_s field;
     field.variable = variable;
     field.type = QuorFieldDataType_Float;
-    field.state = FieldState::Deferred;
+    field.state = FieldState_e::Deferred;
     field.count = 30;
     field.statistics = FieldStatistics_s{min, max, (min + max) / 2, 0x00c0ffee};
     return field;

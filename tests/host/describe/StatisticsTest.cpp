@@ -86,15 +86,15 @@ TEST(Statistics, MeanOfAMillionEqualValuesIsThatValue) {
 
 // ---- Of many values
 
-constexpr std::int64_t kMany = 5'000'011;
+constexpr std::int64_t many = 5'000'011;
 
 TEST(Statistics, CanBeStoppedAnywhere) {
-    const std::vector<float> values(kMany, 0.5F);
+    const std::vector<float> values(many, 0.5F);
     int asked = 0;
     const auto count = [&asked](int most) { return [&asked, most] { return ++asked <= most; }; };
     const auto describe = [&](int most) {
         asked = 0;
-        return describeValuesWhile(count(most), QuorFieldDataType_Float, values.data(), kMany);
+        return describeValuesWhile(count(most), QuorFieldDataType_Float, values.data(), many);
     };
     ASSERT_TRUE(describe(1000).has_value());
     const int questions = asked;
@@ -104,15 +104,15 @@ TEST(Statistics, CanBeStoppedAnywhere) {
 }
 
 TEST(Statistics, AreTheSameInPieces) {
-    std::vector<float> values(kMany, 0.5F);
+    std::vector<float> values(many, 0.5F);
     values[0] = -3.0F;
     values.back() = 7.0F;
     const auto goOn = [] { return true; };
     const FieldStatistics_s told = describeFloats(values);
-    EXPECT_EQ(told, describeValuesWhile(goOn, QuorFieldDataType_Float, values.data(), kMany));
+    EXPECT_EQ(told, describeValuesWhile(goOn, QuorFieldDataType_Float, values.data(), many));
     EXPECT_EQ(told.min, -3.0);
     EXPECT_EQ(told.max, 7.0);
-    EXPECT_EQ(told.mean, (0.5 * (kMany - 2) - 3.0 + 7.0) / static_cast<double>(kMany));
+    EXPECT_EQ(told.mean, (0.5 * (many - 2) - 3.0 + 7.0) / static_cast<double>(many));
 }
 
 } // namespace

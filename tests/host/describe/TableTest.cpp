@@ -109,7 +109,7 @@ TEST(Table, ListsValuesThatCouldNotBeFetched) {
 
 TEST(Table, MessagesOfSeveralLinesStayReadable) {
     Outcome_s outcome;
-    outcome.messages = {{MessageKind::Question, "Replace?\nFile: a.q", true}};
+    outcome.messages = {{MessageKind_e::Question, "Replace?\nFile: a.q", true}};
     EXPECT_EQ("No data set\n"
               "\n"
               "Messages\n"

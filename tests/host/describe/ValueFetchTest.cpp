@@ -36,18 +36,18 @@ TEST_F(ValueFetch, FetchedFieldTellsItsValues) {
 
 TEST_F(ValueFetch, FieldThatWasFetchedStaysDeferredInTheOutcome) {
     addZone(deferred(), nullptr);
-    EXPECT_EQ(FieldState::Deferred, fetched().zones[0].fields[0].state);
+    EXPECT_EQ(FieldState_e::Deferred, fetched().zones[0].fields[0].state);
 }
 
 TEST_F(ValueFetch, FieldOfManyZonesIsFetchedOnce) {
-    constexpr int kZones = 2003;
+    constexpr int zoneCount = 2003;
     host.settings().memoryLimitBytes = 1; // so that a second look would be a second fetch
     const std::shared_ptr<FieldStorage> grid = deferred();
-    for (int zone = 0; zone < kZones; ++zone)
+    for (int zone = 0; zone < zoneCount; ++zone)
         addZone(grid, nullptr);
     const DataSetOutcome_s outcome = fetched();
     EXPECT_EQ(1, loads);
-    EXPECT_EQ(15.5, outcome.zones[kZones - 1].fields[0].statistics->mean);
+    EXPECT_EQ(15.5, outcome.zones[zoneCount - 1].fields[0].statistics->mean);
 }
 
 TEST_F(ValueFetch, FieldThatFailsTellsWhyInEveryZone) {
@@ -69,13 +69,13 @@ TEST_F(ValueFetch, EmptyFieldHasNeitherValuesNorError) {
 }
 
 TEST_F(ValueFetch, ObserverCountsBytesAndEndsTheFetching) {
-    constexpr std::int64_t kFieldBytes = 4 * handMadeValueCount;
+    constexpr std::int64_t fieldBytes = 4 * handMadeValueCount;
     addZone(deferred(), deferred());
     addZone(deferred(), deferred());
     DataSetOutcome_s outcome = described();
     EXPECT_FALSE(fetchValues(host, outcome, [](std::int64_t done, std::int64_t total) {
-        EXPECT_EQ(4 * kFieldBytes, total);
-        return done < 3 * kFieldBytes;
+        EXPECT_EQ(4 * fieldBytes, total);
+        return done < 3 * fieldBytes;
     }));
     EXPECT_EQ(3, loads);
     EXPECT_FALSE(outcome.zones[1].fields[1].statistics.has_value());

@@ -13,7 +13,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kPatience = 10000; // milliseconds for each step
+constexpr int patience = 10000; // milliseconds for each step
 
 } // namespace
 
@@ -34,7 +34,7 @@ void DesktopTest::TearDown() {
             modal->close(); // the guest would wait for its answer for ever
             QTest::qWait(0);
         }
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->session().isBusy(); }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->session().isBusy(); }, patience));
     }
     EXPECT_EQ(window_->session().takeViolations(), std::vector<std::string>());
     window_.reset();
@@ -62,7 +62,7 @@ void DesktopTest::waitUntilDone() {
     while (!isDone() && goesOn) {
         const int before = person_.doneCount();
         const auto hasGoneOn = [&] { return isDone() || person_.doneCount() != before; };
-        goesOn = QTest::qWaitFor(hasGoneOn, kPatience);
+        goesOn = QTest::qWaitFor(hasGoneOn, patience);
     }
     if (!goesOn)
         ADD_FAILURE() << "the person waits in vain for: " << person_.waitsFor();
@@ -103,7 +103,7 @@ std::vector<std::string> DesktopTest::files(const std::vector<std::string>& name
 }
 
 std::vector<float> DesktopTest::values(std::int32_t zone, std::int32_t variable) {
-    const FetchResult fetched = host().fetch(zone, variable);
+    const FetchResult_s fetched = host().fetch(zone, variable);
     if (!fetched.ok || fetched.type != QuorFieldDataType_Float)
         throw std::runtime_error("no such field of 32-bit reals: " + fetched.error);
     const auto* first = static_cast<const float*>(fetched.values);

@@ -14,7 +14,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr std::int64_t kLaunch = 11;
+constexpr std::int64_t launch = 11;
 
 using Question = std::function<void(User&)>;
 
@@ -27,7 +27,7 @@ const std::pair<const char*, Question> questions[] = {
 class DesktopUserTest : public ::testing::Test {
 protected:
     /// At the window of the dialog that is open.
-    void press(std::int32_t button) { actions_.push(PressButton{button}, kLaunch); }
+    void press(std::int32_t button) { actions_.push(PressButton_s{button}, launch); }
     /// And does the rest in the moment in which its window closes, of which the guest has not heard
     /// yet.
     void answerQuestion(const std::function<void()>& rest = [] {}) {
@@ -47,11 +47,11 @@ protected:
         guest.start(
             [&] {
                 question(user_);
-                next = actions_.take(kLaunch);
+                next = actions_.take(launch);
             },
             [](const std::string& failure) { EXPECT_EQ(failure, ""); });
         EXPECT_TRUE(QTest::qWaitFor([&guest] { return !guest.isRunning(); }));
-        return next ? std::get<PressButton>(*next).button : 0;
+        return next ? std::get<PressButton_s>(*next).button : 0;
     }
 
 private:

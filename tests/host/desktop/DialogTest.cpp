@@ -12,8 +12,8 @@
 namespace quorvia::host {
 namespace {
 
-enum Page_e { kFilesPage, kStructurePage, kSubsetPage };
-enum Field_e { kIStart, kIEnd, kISkip, kJStart, kJEnd, kJSkip, kKStart, kKEnd, kKSkip, kGridSet };
+enum Page_e { filesPage, structurePage, subsetPage };
+enum Field_e { iStart, iEnd, iSkip, jStart, jEnd, jSkip, kStart, kEnd, kSkip, gridSet };
 
 /// A selection of a grid of 7 x 5 points and one solution, shown in the dialog.
 class LoadDialogTest : public DesktopTest {
@@ -23,8 +23,8 @@ protected:
         writeSample({"vortex", "--steps", "2", "--size", "7x5"});
     }
     void pickWithDialog() {
-        constexpr bool kAdvanced = true;
-        person().pickFiles(files({"vortex.x", "vortex_t0.00.q"}), kAdvanced);
+        constexpr bool advanced = true;
+        person().pickFiles(files({"vortex.x", "vortex_t0.00.q"}), advanced);
     }
     void press(const char* button) { person().clickInDialog(QLatin1String(button)); }
     /// Does what was asked of the person.
@@ -56,11 +56,11 @@ TEST_F(LoadDialogTest, BringsInTheSameValuesAsAnImportWithoutIt) {
 
 TEST_F(LoadDialogTest, RefusedFieldIsCorrectedAndItsRangeLoaded) {
     pickWithDialog();
-    person().showPage(kSubsetPage);
-    person().typeInto(kIStart, QStringLiteral("4"));
-    person().typeInto(kIEnd, QStringLiteral("2"));
+    person().showPage(subsetPage);
+    person().typeInto(iStart, QStringLiteral("4"));
+    person().typeInto(iEnd, QStringLiteral("2"));
     person().answerBox();
-    person().typeInto(kIEnd, QStringLiteral("6"));
+    person().typeInto(iEnd, QStringLiteral("6"));
     press("OK");
     begin();
     EXPECT_EQ(
@@ -75,13 +75,13 @@ TEST_F(LoadDialogTest, RefusedFieldIsCorrectedAndItsRangeLoaded) {
 
 TEST_F(LoadDialogTest, OkThatWasPressedOverARefusedFieldWaitsForAnother) {
     pickWithDialog();
-    person().showPage(kSubsetPage);
-    person().typeInto(kJEnd, QStringLiteral("no number"), Person::Leave_e::NotYet);
+    person().showPage(subsetPage);
+    person().typeInto(jEnd, QStringLiteral("no number"), Person::Leave_e::NotYet);
     press("OK");
     person().answerBox();
     person().inDialog("the field as it was before", [this](QDialog& dialog) {
         EXPECT_EQ(host().frame().dataSet(), nullptr);
-        EXPECT_EQ(dialog.findChild<QTabWidget*>()->currentIndex(), kSubsetPage);
+        EXPECT_EQ(dialog.findChild<QTabWidget*>()->currentIndex(), subsetPage);
     });
     press("OK");
     begin();
@@ -91,7 +91,7 @@ TEST_F(LoadDialogTest, OkThatWasPressedOverARefusedFieldWaitsForAnother) {
 
 TEST_F(LoadDialogTest, StructureIsDescribedByHand) {
     pickWithDialog();
-    person().showPage(kStructurePage);
+    person().showPage(structurePage);
     press("Manually Describe");
     press("2-D");
     press("OK");
@@ -107,9 +107,9 @@ TEST_F(LoadDialogTest, FilesAreRemovedAndAdded) {
         QTest::mouseClick(solutions->viewport(), Qt::LeftButton, {},
                           solutions->visualItemRect(solutions->item(0)).center());
     });
-    constexpr int kOfSolutions = 1;
-    person().clickInDialog(QStringLiteral("Remove Selected"), kOfSolutions);
-    person().clickInDialog(QStringLiteral("Add Files..."), kOfSolutions);
+    constexpr int ofSolutions = 1;
+    person().clickInDialog(QStringLiteral("Remove Selected"), ofSolutions);
+    person().clickInDialog(QStringLiteral("Add Files..."), ofSolutions);
     person().pickFiles(files({"vortex_t0.25.q"}));
     press("OK");
     begin();
@@ -131,8 +131,8 @@ TEST_F(LoadDialogTest, CancelDoesNotTakeAHalfTypedField) {
         [this] { person().inDialog("the frame", [](QDialog& dialog) { dialog.close(); }); }};
     for (const auto& leave : waysOut) {
         pickWithDialog();
-        person().showPage(kSubsetPage);
-        person().typeInto(kIStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
+        person().showPage(subsetPage);
+        person().typeInto(iStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
         leave();
         begin();
         EXPECT_EQ(guestDialog(), nullptr);
@@ -142,8 +142,8 @@ TEST_F(LoadDialogTest, CancelDoesNotTakeAHalfTypedField) {
 
 TEST_F(LoadDialogTest, HelpLeavesAHalfTypedFieldAsItIs) {
     pickWithDialog();
-    person().showPage(kSubsetPage);
-    person().typeInto(kIStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
+    person().showPage(subsetPage);
+    person().typeInto(iStart, QStringLiteral("abc"), Person::Leave_e::NotYet);
     press("Help");
     person().then("the help", [] {
         for (QWidget* widget : QApplication::topLevelWidgets())
@@ -156,7 +156,7 @@ TEST_F(LoadDialogTest, HelpLeavesAHalfTypedFieldAsItIs) {
     person().inDialog("the field", [](QDialog& dialog) {
         QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
         fields.removeIf([](const QLineEdit* each) { return !each->isVisible(); });
-        EXPECT_EQ(fields.at(kIStart)->text(), QStringLiteral("abc"));
+        EXPECT_EQ(fields.at(iStart)->text(), QStringLiteral("abc"));
     });
     press("Cancel");
     begin();
@@ -164,8 +164,8 @@ TEST_F(LoadDialogTest, HelpLeavesAHalfTypedFieldAsItIs) {
 
 TEST_F(LoadDialogTest, ReturnPressesOk) {
     pickWithDialog();
-    person().showPage(kSubsetPage);
-    person().typeInto(kISkip, QStringLiteral("2"), Person::Leave_e::NotYet);
+    person().showPage(subsetPage);
+    person().typeInto(iSkip, QStringLiteral("2"), Person::Leave_e::NotYet);
     person().inDialog("the field for Return", [](QDialog& dialog) {
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     });
@@ -202,9 +202,9 @@ TEST_F(LoadDialogTest, InsensitiveControlsSayWhy) {
     pickWithDialog();
     expectHint("Append to Existing Data Set", "There is no data set to append to yet.");
     expectHint("Remove Selected", "Nothing is selected in the list.");
-    constexpr int kOfFunctions = 2;
-    expectHint("Remove All", "The list is empty.", kOfFunctions);
-    person().showPage(kStructurePage);
+    constexpr int ofFunctions = 2;
+    expectHint("Remove All", "The list is empty.", ofFunctions);
+    person().showPage(structurePage);
     expectHint("Multi-Grid",
                "Auto Detect finds this out. Choose Manually Describe to set it by hand.");
     expectHint("File Organization, Solution file style:",
@@ -215,7 +215,7 @@ TEST_F(LoadDialogTest, InsensitiveControlsSayWhy) {
 
 TEST_F(LoadDialogTest, HintGoesOnceTheControlCanBeUsed) {
     pickWithDialog();
-    person().showPage(kStructurePage);
+    person().showPage(structurePage);
     press("Manually Describe");
     person().then("Multi-Grid without a hint", [] {
         QWidget* toggle = namedWidget(*guestDialog(), QStringLiteral("Multi-Grid"));

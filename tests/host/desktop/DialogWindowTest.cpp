@@ -21,25 +21,25 @@ namespace quorvia::host {
 namespace {
 
 enum Id_e : std::int32_t {
-    kDialog = 1,
-    kTabs,
-    kFirstPage,
-    kSecondPage,
-    kLabel,
-    kToggle,
-    kButton,
-    kList,
-    kField,
-    kRadioBox,
-    kMenu
+    dialogId = 1,
+    tabsId,
+    firstPageId,
+    secondPageId,
+    labelId,
+    toggleId,
+    buttonId,
+    listId,
+    fieldId,
+    radioBoxId,
+    menuId
 };
 
 void nothing() {}
 
-Control control(std::int32_t id, ControlKind kind, const char* caption, Geometry geometry) {
-    Control made;
+Control_s control(std::int32_t id, ControlKind_e kind, const char* caption, Geometry_s geometry) {
+    Control_s made;
     made.id = id;
-    made.parent = kFirstPage;
+    made.parent = firstPageId;
     made.kind = kind;
     made.caption = caption;
     made.geometry = geometry;
@@ -47,23 +47,24 @@ Control control(std::int32_t id, ControlKind kind, const char* caption, Geometry
 }
 
 /// One of each kind on the first of two pages.
-Dialog sampleDialog() {
-    Dialog dialog;
-    dialog.id = kDialog;
+Dialog_s sampleDialog() {
+    Dialog_s dialog;
+    dialog.id = dialogId;
     dialog.width = 6007;
     dialog.height = 2503;
     dialog.title = "Sample";
     dialog.ok = dialog.apply = dialog.cancel = dialog.help = nothing;
     dialog.open = true;
-    dialog.tabs = TabControl{kTabs, {101, 211, 5801, 2203}, {}, kFirstPage, nullptr, nullptr};
-    dialog.tabs->pages = {{kFirstPage, "First"}, {kSecondPage, "Second"}};
-    dialog.controls = {control(kLabel, ControlKind::Label, "Name:", {101, 1009, 0, 0}),
-                       control(kToggle, ControlKind::Toggle, "Swap & go", {101, 103, 2003, 121}),
-                       control(kButton, ControlKind::Button, "Remove   ", {3001, 103, 1009, 144}),
-                       control(kList, ControlKind::List, "", {101, 307, 5003, 599}),
-                       control(kField, ControlKind::TextField, "", {1009, 1009, 1511, 144}),
-                       control(kRadioBox, ControlKind::RadioBox, "", {101, 1303, 1511, 307}),
-                       control(kMenu, ControlKind::OptionMenu, "", {3001, 1303, 1511, 144})};
+    dialog.tabs = TabControl_s{tabsId, {101, 211, 5801, 2203}, {}, firstPageId, nullptr, nullptr};
+    dialog.tabs->pages = {{firstPageId, "First"}, {secondPageId, "Second"}};
+    dialog.controls = {
+        control(labelId, ControlKind_e::Label, "Name:", {101, 1009, 0, 0}),
+        control(toggleId, ControlKind_e::Toggle, "Swap & go", {101, 103, 2003, 121}),
+        control(buttonId, ControlKind_e::Button, "Remove   ", {3001, 103, 1009, 144}),
+        control(listId, ControlKind_e::List, "", {101, 307, 5003, 599}),
+        control(fieldId, ControlKind_e::TextField, "", {1009, 1009, 1511, 144}),
+        control(radioBoxId, ControlKind_e::RadioBox, "", {101, 1303, 1511, 307}),
+        control(menuId, ControlKind_e::OptionMenu, "", {3001, 1303, 1511, 144})};
     dialog.controls[3].items = {"a.x", "b.x", "c.x"};
     dialog.controls[3].allowsSeveral = true;
     dialog.controls[5].items = {"Left", "Right"};
@@ -82,8 +83,8 @@ protected:
         window_.show();
     }
 
-    Dialog& dialog() { return dialog_; }
-    Control& model(std::int32_t id) { return *findOf(id); }
+    Dialog_s& dialog() { return dialog_; }
+    Control_s& model(std::int32_t id) { return *findOf(id); }
     DialogWindow& window() { return window_; }
     void refresh() { window_.refresh(dialog_); }
     template <typename Widget>
@@ -103,46 +104,46 @@ protected:
     }
 
 private:
-    Control* findOf(std::int32_t id) {
-        for (Control& each : dialog_.controls)
+    Control_s* findOf(std::int32_t id) {
+        for (Control_s& each : dialog_.controls)
             if (each.id == id)
                 return &each;
         return nullptr;
     }
 
-    Dialog dialog_ = sampleDialog();
+    Dialog_s dialog_ = sampleDialog();
     std::vector<DialogAction> told_;
     DialogWindow window_;
 };
 
 TEST_F(DialogWindowTest, TellsAToggle) {
     click(widget<QCheckBox>());
-    EXPECT_EQ(told<SetToggle>().toggle, kToggle);
-    EXPECT_TRUE(told<SetToggle>().on);
+    EXPECT_EQ(told<SetToggle_s>().toggle, toggleId);
+    EXPECT_TRUE(told<SetToggle_s>().on);
 }
 
 TEST_F(DialogWindowTest, SpaceTurnsAToggle) {
     QTest::keyClick(&widget<QCheckBox>(), Qt::Key_Space);
-    EXPECT_TRUE(told<SetToggle>().on);
+    EXPECT_TRUE(told<SetToggle_s>().on);
 }
 
 TEST_F(DialogWindowTest, TellsAButtonOfThePage) {
     click(button("Remove"));
-    EXPECT_EQ(told<PressButton>().button, kButton);
+    EXPECT_EQ(told<PressButton_s>().button, buttonId);
 }
 
 TEST_F(DialogWindowTest, TellsEveryButtonAtItsFoot) {
     for (const char* text : {"OK", "Apply", "Cancel", "Help"})
         click(button(text));
     ASSERT_EQ(toldCount(), 4U);
-    EXPECT_EQ(told<PressDialogButton>(0).button, DialogButton::Ok);
-    EXPECT_EQ(told<PressDialogButton>(1).button, DialogButton::Apply);
-    EXPECT_EQ(told<PressDialogButton>(2).button, DialogButton::Cancel);
-    EXPECT_EQ(told<PressDialogButton>(3).button, DialogButton::Help);
+    EXPECT_EQ(told<PressDialogButton_s>(0).button, DialogButton_e::Ok);
+    EXPECT_EQ(told<PressDialogButton_s>(1).button, DialogButton_e::Apply);
+    EXPECT_EQ(told<PressDialogButton_s>(2).button, DialogButton_e::Cancel);
+    EXPECT_EQ(told<PressDialogButton_s>(3).button, DialogButton_e::Help);
 }
 
 TEST_F(DialogWindowTest, ButtonsWithoutACallbackAreNotThere) {
-    Dialog bare = sampleDialog();
+    Dialog_s bare = sampleDialog();
     bare.apply = bare.help = nullptr;
     DialogWindow window(
         bare, [](DialogAction) {}, nullptr);
@@ -161,23 +162,23 @@ TEST_F(DialogWindowTest, TellsThePositionsSelectedInAList) {
     clickRow(0, {});
     clickRow(2, Qt::ControlModifier);
     ASSERT_EQ(toldCount(), 2U);
-    EXPECT_EQ(told<SelectItems>(1).list, kList);
-    EXPECT_EQ(told<SelectItems>(1).positions, (std::vector<std::int32_t>{1, 3}));
+    EXPECT_EQ(told<SelectItems_s>(1).list, listId);
+    EXPECT_EQ(told<SelectItems_s>(1).positions, (std::vector<std::int32_t>{1, 3}));
 }
 
 TEST_F(DialogWindowTest, TellsTheItemsOfRadioBoxAndMenuFromOne) {
     click(*window().findChildren<QRadioButton*>().at(1));
     QTest::keyClick(&widget<QComboBox>(), Qt::Key_Down);
     ASSERT_EQ(toldCount(), 2U);
-    EXPECT_EQ(told<ChooseItem>(0).control, kRadioBox);
-    EXPECT_EQ(told<ChooseItem>(0).item, 2);
-    EXPECT_EQ(told<ChooseItem>(1).control, kMenu);
-    EXPECT_EQ(told<ChooseItem>(1).item, 2);
+    EXPECT_EQ(told<ChooseItem_s>(0).control, radioBoxId);
+    EXPECT_EQ(told<ChooseItem_s>(0).item, 2);
+    EXPECT_EQ(told<ChooseItem_s>(1).control, menuId);
+    EXPECT_EQ(told<ChooseItem_s>(1).item, 2);
 }
 
 TEST_F(DialogWindowTest, TellsAPageThatWasTurnedTo) {
     widget<QTabWidget>().setCurrentIndex(1);
-    EXPECT_EQ(told<ShowPage>().page, kSecondPage);
+    EXPECT_EQ(told<ShowPage_s>().page, secondPageId);
 }
 
 TEST_F(DialogWindowTest, TellsATextBeforeWhatIsPressedNext) {
@@ -185,8 +186,8 @@ TEST_F(DialogWindowTest, TellsATextBeforeWhatIsPressedNext) {
     EXPECT_EQ(toldCount(), 0U);
     click(button("OK"));
     ASSERT_EQ(toldCount(), 2U);
-    EXPECT_EQ(told<TypeText>(0).field, kField);
-    EXPECT_EQ(told<TypeText>(0).text, "17");
+    EXPECT_EQ(told<TypeText_s>(0).field, fieldId);
+    EXPECT_EQ(told<TypeText_s>(0).text, "17");
 }
 
 TEST_F(DialogWindowTest, TellsATextOnce) {
@@ -194,7 +195,7 @@ TEST_F(DialogWindowTest, TellsATextOnce) {
     QTest::keyClick(&widget<QLineEdit>(), Qt::Key_Tab);
     click(button("Apply"));
     ASSERT_EQ(toldCount(), 2U);
-    EXPECT_EQ(told<PressDialogButton>(1).button, DialogButton::Apply);
+    EXPECT_EQ(told<PressDialogButton_s>(1).button, DialogButton_e::Apply);
 }
 
 TEST_F(DialogWindowTest, KeepsAHalfTypedTextWhileABoxIsInFront) {
@@ -207,22 +208,22 @@ TEST_F(DialogWindowTest, KeepsAHalfTypedTextWhileABoxIsInFront) {
     box.close();
     EXPECT_EQ(toldCount(), 0U);
     click(button("OK"));
-    EXPECT_EQ(told<TypeText>().text, "17");
+    EXPECT_EQ(told<TypeText_s>().text, "17");
 }
 
 TEST_F(DialogWindowTest, ClosingTheWindowAsksForCancelAndLeavesItOpen) {
     window().close();
-    EXPECT_EQ(told<PressDialogButton>().button, DialogButton::Cancel);
+    EXPECT_EQ(told<PressDialogButton_s>().button, DialogButton_e::Cancel);
     EXPECT_TRUE(window().isVisible());
 }
 
 TEST_F(DialogWindowTest, ShowsWhatTheGuestHasChangedAndTellsNothing) {
-    model(kToggle).value = 1;
-    model(kField).text = "last";
-    model(kList).items = {"d.x"};
-    model(kList).selected = {1};
-    model(kRadioBox).value = 2;
-    model(kMenu).value = 3;
+    model(toggleId).value = 1;
+    model(fieldId).text = "last";
+    model(listId).items = {"d.x"};
+    model(listId).selected = {1};
+    model(radioBoxId).value = 2;
+    model(menuId).value = 3;
     refresh();
     EXPECT_TRUE(widget<QCheckBox>().isChecked());
     EXPECT_EQ(widget<QLineEdit>().text(), QStringLiteral("last"));
@@ -254,22 +255,22 @@ TEST_F(DialogWindowTest, IsAnsweredOnceItShowsWhatCameOfTheLastThingDone) {
 
 TEST_F(DialogWindowTest, LeavesATextThatIsBeingTyped) {
     QTest::keyClicks(&widget<QLineEdit>(), QStringLiteral("17"));
-    model(kField).text = "1";
+    model(fieldId).text = "1";
     refresh();
     EXPECT_EQ(widget<QLineEdit>().text(), QStringLiteral("17"));
 }
 
 TEST_F(DialogWindowTest, ShowsControlsThatCameLater) {
-    Control later = control(kMenu + 1, ControlKind::Button, "Later", {3001, 1009, 1009, 144});
-    later.parent = kSecondPage;
+    Control_s later = control(menuId + 1, ControlKind_e::Button, "Later", {3001, 1009, 1009, 144});
+    later.parent = secondPageId;
     dialog().controls.push_back(later);
-    dialog().tabs->frontPage = kSecondPage;
+    dialog().tabs->frontPage = secondPageId;
     refresh();
     EXPECT_NE(namedWidget(window(), QStringLiteral("Later")), nullptr);
 }
 
 TEST_F(DialogWindowTest, MovesTheFocusWhereTheGuestWantsIt) {
-    dialog().focus = kMenu;
+    dialog().focus = menuId;
     refresh();
     EXPECT_EQ(window().focusWidget(), &widget<QComboBox>());
     widget<QLineEdit>().setFocus();
@@ -313,16 +314,16 @@ TEST_F(DialogWindowTest, ShowsAnAmpersandOfACaption) {
 }
 
 TEST(NameOf, AControlWithoutACaptionIsThatOfTheLabelBesideIt) {
-    const Dialog dialog = sampleDialog();
+    const Dialog_s dialog = sampleDialog();
     EXPECT_EQ(nameOf(dialog, dialog.controls[4]), "Name:");
     EXPECT_EQ(nameOf(dialog, dialog.controls[1]), "Swap & go");
     EXPECT_EQ(nameOf(dialog, dialog.controls[6]), "Low");
 }
 
 TEST(SpokenNameOf, AFieldIsToldWithTheFrameAroundIt) {
-    Dialog dialog = sampleDialog();
+    Dialog_s dialog = sampleDialog();
     dialog.controls.push_back(
-        control(kMenu + 1, ControlKind::Frame, "I-Index", {53, 907, 5003, 307}));
+        control(menuId + 1, ControlKind_e::Frame, "I-Index", {53, 907, 5003, 307}));
     EXPECT_EQ(spokenNameOf(dialog, dialog.controls[4]), "I-Index, Name:");
     EXPECT_EQ(spokenNameOf(dialog, dialog.controls[1]), "Swap & go");
 }

@@ -97,8 +97,8 @@ TEST_F(ImportTest, BringsInTheFilesThatWerePicked) {
 TEST_F(ImportTest, AppendsWhenAskedTo) {
     writeSample({"vortex", "--steps", "2", "--size", "7x5"});
     import({"vortex.x", "vortex_t0.00.q"});
-    constexpr bool kAppend = true;
-    import({"vortex.x", "vortex_t0.25.q"}, kAppend);
+    constexpr bool appending = true;
+    import({"vortex.x", "vortex_t0.25.q"}, appending);
     EXPECT_EQ(window().tree().dataSet()->zones.size(), 2U);
 }
 
@@ -230,7 +230,7 @@ TEST_F(ImportTest, EndOfTheProgramWaitsForAnImport) {
     writeSample({"vortex", "--steps", "1", "--size", "7x5"});
     startWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
     std::atomic<bool> isLoading = false;
-    host().settings().progressObserver = [&isLoading](const ProgressState&) {
+    host().settings().progressObserver = [&isLoading](const ProgressState_s&) {
         isLoading = true;
         std::this_thread::sleep_for(std::chrono::milliseconds(20)); // as on a slow disk
     };
@@ -244,8 +244,8 @@ TEST_F(ImportTest, EndOfTheProgramAnswersForTheUser) {
     directory().write("broken.x", "no numbers");
     startWindow(PLOT3D_ADDON_PATH, files({"broken.x"}));
     ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().loader().has_value(); }));
-    constexpr auto kUntilItIsRefused = std::chrono::milliseconds(300);
-    std::this_thread::sleep_for(kUntilItIsRefused); // no window is awake to tell it
+    constexpr auto untilItIsRefused = std::chrono::milliseconds(300);
+    std::this_thread::sleep_for(untilItIsRefused); // no window is awake to tell it
     destroyWindow();
     EXPECT_TRUE(host().loaders().empty());
 }

@@ -16,8 +16,8 @@
 namespace quorvia::host {
 namespace {
 
-constexpr bool kInPlace = false; // of the data set that is there, rather than appended
-constexpr int kAllSteps = 40;
+constexpr bool inPlace = false; // of the data set that is there, rather than appended
+constexpr int allSteps = 40;
 
 /// A series of files whose load stands still wherever the person waits for it, until the person has
 /// acted: nobody is late, however busy the machine is.
@@ -29,20 +29,20 @@ protected:
     }
     void standStillForThePerson() {
         const auto observer = host().settings().progressObserver;
-        host().settings().progressObserver = [this, observer](const ProgressState& state) {
+        host().settings().progressObserver = [this, observer](const ProgressState_s& state) {
             observer(state);
             while (isAwaited(state) && !host().interruptRequested())
                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
         };
     }
-    void pickSeries(bool append = kInPlace, int steps = kAllSteps) {
-        constexpr bool kWithoutDialog = false;
-        person().pickFiles(series(steps), kWithoutDialog, append);
+    void pickSeries(bool append = inPlace, int steps = allSteps) {
+        constexpr bool withoutDialog = false;
+        person().pickFiles(series(steps), withoutDialog, append);
     }
     void pickSeriesWithDialog() {
-        constexpr bool kAdvanced = true;
-        constexpr int kFewSteps = 9;
-        person().pickFiles(series(kFewSteps), kAdvanced);
+        constexpr bool advanced = true;
+        constexpr int fewSteps = 9;
+        person().pickFiles(series(fewSteps), advanced);
     }
     std::vector<std::string> series(int steps) {
         standStillForThePerson();
@@ -81,7 +81,7 @@ private:
         awaited_.pop_front();
     }
     /// On the guest's thread.
-    bool isAwaited(const ProgressState& state) {
+    bool isAwaited(const ProgressState_s& state) {
         const std::lock_guard lock(mutex_);
         return state.open && !awaited_.empty() &&
                state.text.find(awaited_.front()) != std::string::npos;
@@ -112,9 +112,9 @@ TEST_F(InterruptionTest, EscapeStopsALongLoad) {
 
 TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
     import({"vortex.x", "vortex_t0.25.q"});
-    constexpr bool kAppend = true;
-    constexpr int kFewSteps = 9;
-    pickSeries(kAppend, kFewSteps);
+    constexpr bool appending = true;
+    constexpr int fewSteps = 9;
+    pickSeries(appending, fewSteps);
     cancelWhenProgressShows("Setting up Zone");
     person().answerBox();
     choose(QStringLiteral("PLOT3D Loader..."));
@@ -125,8 +125,8 @@ TEST_F(InterruptionTest, CancelledAppendLeavesTheDataSetThatWasThere) {
 TEST_F(InterruptionTest, CancelledAppendLeavesTheRangesThatWereFetched) {
     import({"vortex.x", "vortex_t0.25.q"});
     choose(QStringLiteral("Fetch All Values"));
-    constexpr bool kAppend = true;
-    pickSeries(kAppend);
+    constexpr bool appending = true;
+    pickSeries(appending);
     cancelWhenProgressShows();
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_EQ(status(), QStringLiteral("Import cancelled: 1 zone, 6 variables"));
@@ -144,8 +144,8 @@ TEST_F(InterruptionTest, ReplacementThatIsCancelledEarlyLeavesTheDataSetThatWasT
 
 TEST_F(InterruptionTest, ReplacementThatIsCancelledAmongItsZonesLeavesNoDataSet) {
     import({"vortex.x", "vortex_t0.25.q"});
-    constexpr int kFewSteps = 9;
-    pickSeries(kInPlace, kFewSteps);
+    constexpr int fewSteps = 9;
+    pickSeries(inPlace, fewSteps);
     cancelWhenProgressShows("Setting up Zone");
     person().answerBox();
     choose(QStringLiteral("PLOT3D Loader..."));
@@ -222,7 +222,7 @@ TEST(ProgressFeed, GivesTheLastStateOnce) {
     ProgressFeed feed;
     feed.put({0.25, "first", true});
     feed.put({0.5, "second", true});
-    const std::optional<ProgressState> state = feed.take();
+    const std::optional<ProgressState_s> state = feed.take();
     ASSERT_TRUE(state.has_value());
     EXPECT_EQ(state->text, "second");
     EXPECT_FALSE(feed.take().has_value());

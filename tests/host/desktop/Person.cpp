@@ -18,7 +18,7 @@
 namespace quorvia::host {
 namespace {
 
-constexpr int kMillisecondsBetweenLooks = 10;
+constexpr int millisecondsBetweenLooks = 10;
 
 template <typename Window>
 Window* findVisible() {
@@ -100,15 +100,15 @@ QWidget* namedWidget(QWidget& window, const QString& name, int which) {
 }
 
 void click(QWidget& widget) {
-    constexpr int kOnTheMark = 8;
+    constexpr int onTheMark = 8;
     const QPoint where =
-        isMarked(widget) ? QPoint(kOnTheMark, widget.height() / 2) : widget.rect().center();
+        isMarked(widget) ? QPoint(onTheMark, widget.height() / 2) : widget.rect().center();
     QTest::mouseClick(&widget, Qt::LeftButton, {}, where);
 }
 
 Person::Person() {
     QObject::connect(&timer_, &QTimer::timeout, [this] { act(); });
-    timer_.start(kMillisecondsBetweenLooks);
+    timer_.start(millisecondsBetweenLooks);
 }
 
 // A step may bring up a modal window, which runs this timer from within the step.

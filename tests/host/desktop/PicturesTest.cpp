@@ -22,10 +22,10 @@
 namespace quorvia::host {
 namespace {
 
-constexpr qint64 kLargestFile = 60 * 1024; // bytes
+constexpr qint64 largestFile = 60 * 1024; // bytes
 
 // The same in every picture, so that a picture changes only with the program.
-const auto kDayOfThePictures = std::chrono::file_clock::from_sys(std::chrono::sys_seconds{
+const auto dayOfThePictures = std::chrono::file_clock::from_sys(std::chrono::sys_seconds{
     std::chrono::sys_days{std::chrono::January / 15 / 2026} + std::chrono::hours{12}});
 
 bool updatesGolden() {
@@ -47,8 +47,8 @@ QList<QRgb> coloursOf(const QImage& image) {
 
 /// With one byte to a pixel, for small files: the shades of letters' edges are many.
 QImage withFewColours(const QImage& image) {
-    constexpr int kMostColours = 256;
-    return image.convertToFormat(QImage::Format_Indexed8, coloursOf(image).mid(0, kMostColours),
+    constexpr int mostColours = 256;
+    return image.convertToFormat(QImage::Format_Indexed8, coloursOf(image).mid(0, mostColours),
                                  Qt::ThresholdDither | Qt::AvoidDither);
 }
 
@@ -66,7 +66,7 @@ protected:
         DesktopTest::SetUp();
         writeSample({"vortex", "--steps", "6"}, samples_);
         for (const auto& entry : std::filesystem::directory_iterator(samples_))
-            std::filesystem::last_write_time(entry.path(), kDayOfThePictures);
+            std::filesystem::last_write_time(entry.path(), dayOfThePictures);
     }
     /// Takes a picture of the window. It must show something: its own size, and several colours.
     void take(const QString& name, QWidget& widget) {
@@ -75,11 +75,11 @@ protected:
                                    : QString::fromStdString(directory().path().string());
         const QString file = QStringLiteral("%1/%2.png").arg(folder, name);
         const QImage image = withFewColours(widget.grab().toImage());
-        constexpr int kSmallest = 0; // of the qualities, and the file
-        ASSERT_TRUE(image.save(file, "PNG", kSmallest));
+        constexpr int smallest = 0; // of the qualities, and the file
+        ASSERT_TRUE(image.save(file, "PNG", smallest));
         EXPECT_EQ(QImage(file).size(), widget.size());
         EXPECT_GT(coloursOf(image).size(), 8);
-        EXPECT_LT(QFileInfo(file).size(), kLargestFile);
+        EXPECT_LT(QFileInfo(file).size(), largestFile);
     }
     void takeOfDialog(const QString& name) {
         person().inDialog("the dialog to be pictured",
@@ -92,8 +92,8 @@ protected:
         person().pickFiles(paths, advanced);
     }
     void importSeries() {
-        constexpr bool kWithoutDialog = false;
-        pick(kWithoutDialog);
+        constexpr bool withoutDialog = false;
+        pick(withoutDialog);
         choose(QStringLiteral("PLOT3D Loader..."));
     }
 
@@ -105,8 +105,8 @@ private:
 };
 
 TEST_F(PicturesTest, ShowEachPageOfTheDialog) {
-    constexpr bool kWithDialog = true;
-    pick(kWithDialog);
+    constexpr bool withDialog = true;
+    pick(withDialog);
     takeOfDialog(QStringLiteral("dialog-files"));
     person().showPage(1);
     takeOfDialog(QStringLiteral("dialog-structure"));
@@ -133,14 +133,14 @@ TEST_F(PicturesTest, ShowTheProgress) {
     // The load stands still in its middle until the picture was taken.
     std::atomic<bool> isTaken = false;
     const auto observer = host().settings().progressObserver;
-    host().settings().progressObserver = [&isTaken, observer](const ProgressState& state) {
+    host().settings().progressObserver = [&isTaken, observer](const ProgressState_s& state) {
         observer(state);
         const bool isInTheMiddle = state.text.find("Zone=004, Var=003") != std::string::npos;
         while (isInTheMiddle && !isTaken)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
     };
-    constexpr bool kWithoutDialog = false;
-    pick(kWithoutDialog);
+    constexpr bool withoutDialog = false;
+    pick(withoutDialog);
     person().then("the progress window to be pictured", [this, &isTaken] {
         ProgressWindow& progress = window().session().progressWindow();
         const auto* text = progress.findChild<QLabel*>();

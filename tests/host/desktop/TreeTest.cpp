@@ -9,7 +9,7 @@
 namespace quorvia::host {
 namespace {
 
-enum Column_e { kName, kDetails, kType, kMinimum, kMaximum };
+enum Column_e { nameColumn, detailsColumn, typeColumn, minimumColumn, maximumColumn };
 
 class TreeTest : public DesktopTest {
 protected:
@@ -38,26 +38,27 @@ protected:
 
 TEST_F(TreeTest, ShowsZonesByStrandAndTime) {
     importSeries();
-    EXPECT_EQ(text("Plot3D DataSet", kDetails), "3 zones, 6 variables, plot type 2D");
-    EXPECT_EQ(text("Strand 1", kDetails), "3 zones, times 0 to 0.5");
+    EXPECT_EQ(text("Plot3D DataSet", detailsColumn), "3 zones, 6 variables, plot type 2D");
+    EXPECT_EQ(text("Strand 1", detailsColumn), "3 zones, times 0 to 0.5");
     const QTreeWidgetItem* zone = treeItem(QStringLiteral("2  vortex_t0.25.q:1"));
     ASSERT_NE(zone, nullptr);
-    EXPECT_EQ(zone->text(kDetails), QStringLiteral("7 x 5 x 1"));
-    EXPECT_EQ(zone->parent()->text(kName), QStringLiteral("Time 0.25"));
+    EXPECT_EQ(zone->text(detailsColumn), QStringLiteral("7 x 5 x 1"));
+    EXPECT_EQ(zone->parent()->text(nameColumn), QStringLiteral("Time 0.25"));
 }
 
 TEST_F(TreeTest, ShowsTheFieldsOfAnOpenedZone) {
     importSeries();
     open("2  vortex_t0.25.q:1");
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 1).text(kName), QStringLiteral("X"));
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 1).text(kDetails), QStringLiteral("shared with zone 1"));
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(kDetails), QStringLiteral("deferred"));
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(kMinimum), QString());
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 1).text(nameColumn), QStringLiteral("X"));
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 1).text(detailsColumn),
+              QStringLiteral("shared with zone 1"));
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(detailsColumn), QStringLiteral("deferred"));
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(minimumColumn), QString());
 }
 
 TEST_F(TreeTest, ShowsAuxiliaryData) {
     importSeries();
-    EXPECT_EQ(text("Common.DensityVar", kDetails), "3");
+    EXPECT_EQ(text("Common.DensityVar", detailsColumn), "3");
 }
 
 TEST_F(TreeTest, FetchesTheValuesOfASelectedZone) {
@@ -65,34 +66,34 @@ TEST_F(TreeTest, FetchesTheValuesOfASelectedZone) {
     open("2  vortex_t0.25.q:1");
     select("2  vortex_t0.25.q:1");
     choose(QStringLiteral("Fetch Values of Selection"));
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(kMinimum), least(2, 3));
-    EXPECT_EQ(text("RHO", kDetails), "range of 1 of 3 zones");
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(minimumColumn), least(2, 3));
+    EXPECT_EQ(text("RHO", detailsColumn), "range of 1 of 3 zones");
 }
 
 TEST_F(TreeTest, FetchesAVariableOfEveryZone) {
     importSeries();
     select("RHO");
     choose(QStringLiteral("Fetch Values of Selection"));
-    EXPECT_EQ(text("RHO", kDetails), "");
-    EXPECT_NE(text("RHO", kMaximum), "");
-    EXPECT_EQ(text("E", kMaximum), "");
+    EXPECT_EQ(text("RHO", detailsColumn), "");
+    EXPECT_NE(text("RHO", maximumColumn), "");
+    EXPECT_EQ(text("E", maximumColumn), "");
 }
 
 TEST_F(TreeTest, FetchesEverything) {
     importSeries();
     choose(QStringLiteral("Fetch All Values"));
     for (const char* variable : {"X", "Y", "RHO", "RHO-U", "RHO-V", "E"})
-        EXPECT_NE(text(variable, kMinimum), "") << variable;
-    EXPECT_EQ(text("X", kMinimum), "-5");
-    EXPECT_EQ(text("X", kMaximum), "5");
+        EXPECT_NE(text(variable, minimumColumn), "") << variable;
+    EXPECT_EQ(text("X", minimumColumn), "-5");
+    EXPECT_EQ(text("X", maximumColumn), "5");
 }
 
 TEST_F(TreeTest, AStrandStandsForItsZones) {
     importSeries();
     select("Strand 1");
-    constexpr std::size_t kZones = 3;
-    constexpr std::size_t kVariables = 6;
-    EXPECT_EQ(window().tree().selectedFields().size(), kZones * kVariables);
+    constexpr std::size_t zoneCount = 3;
+    constexpr std::size_t variableCount = 6;
+    EXPECT_EQ(window().tree().selectedFields().size(), zoneCount * variableCount);
 }
 
 TEST_F(TreeTest, ValuesThatAreGoneAreToldAndStopTheFetching) {
@@ -103,7 +104,7 @@ TEST_F(TreeTest, ValuesThatAreGoneAreToldAndStopTheFetching) {
     person().answerBox();
     choose(QStringLiteral("Fetch Values of Selection"));
     EXPECT_EQ(person().boxTexts().size(), 1U);
-    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(kDetails), QStringLiteral("failed"));
+    EXPECT_EQ(field("2  vortex_t0.25.q:1", 3).text(detailsColumn), QStringLiteral("failed"));
 }
 
 TEST_F(TreeTest, NothingCanBeFetchedWithoutASelection) {

@@ -9,40 +9,40 @@ namespace {
 
 constexpr bool showErrors = true;
 
-void readyNothing(Guest&) {}
+void readyNothing(Guest_s&) {}
 
-void readyList(Guest& guest) {
+void readyList(Guest_s& guest) {
     guest.list = HostStringList(QuorUtilStringListAlloc());
     QuorUtilStringListAppendString(guest.list.get(), longText);
     QuorUtilStringListAppendString(guest.list.get(), longText);
 }
 
-void readyTwoLists(Guest& guest) {
+void readyTwoLists(Guest_s& guest) {
     readyList(guest);
     guest.otherList = HostStringList(QuorUtilStringListAlloc());
     for (int text = 0; text < 5; ++text)
         QuorUtilStringListAppendString(guest.otherList.get(), longText);
 }
 
-void readyArguments(Guest& guest) {
+void readyArguments(Guest_s& guest) {
     guest.arguments = HostArgList(QuorUtilArgListAlloc());
     QuorUtilArgListAppendString(guest.arguments.get(), "First", longText);
 }
 
-void readyArgumentsAndList(Guest& guest) {
+void readyArgumentsAndList(Guest_s& guest) {
     readyArguments(guest);
     readyList(guest);
 }
 
-void readySet(Guest& guest) {
+void readySet(Guest_s& guest) {
     guest.set = Made::setOf({2, 3, 5});
 }
 
-void readyBlock(Guest& guest) {
+void readyBlock(Guest_s& guest) {
     guest.array = QuorUtilStringAlloc(24, "a label that is longer than others");
 }
 
-void readyText(Guest& guest) {
+void readyText(Guest_s& guest) {
     guest.text = HostString::copyOf(longText);
 }
 
@@ -51,7 +51,7 @@ bool loadNothing(QuorStringListHandle) {
 }
 void selectNothing(QuorStringListHandle, bool, bool) {}
 
-void readyLoaderArguments(Guest& guest) {
+void readyLoaderArguments(Guest_s& guest) {
     guest.arguments = HostArgList(QuorUtilArgListAlloc());
     const QuorArgListHandle arguments = guest.arguments.get();
     QuorUtilArgListAppendString(arguments, "LoaderName", longText);
@@ -65,36 +65,36 @@ void readyLoaderArguments(Guest& guest) {
                                   reinterpret_cast<QuorFunction>(selectNothing));
 }
 
-void readyLoader(Guest& guest) {
+void readyLoader(Guest_s& guest) {
     readyLoaderArguments(guest);
     QuorUtilImportAddLoaderX(guest.arguments.get());
     readyList(guest);
 }
 
-void readyAnswer(Guest&) {
+void readyAnswer(Guest_s&) {
     ReferenceHost::instance().setAnswers({}, true);
 }
 
-void readyChoice(Guest&) {
+void readyChoice(Guest_s&) {
     ReferenceHost::instance().setFileChoices({{longText}, {longText}});
 }
 
-void readyChoices(Guest&) {
+void readyChoices(Guest_s&) {
     ReferenceHost::instance().setFileChoices({{longText, longText}, {longText, longText}});
 }
 
-void readyLastError(Guest&) {
+void readyLastError(Guest_s&) {
     hostState().lastError = longText;
 }
 
 void noteNothing(std::int32_t) {}
 
-void readyUndo(Guest&) {
+void readyUndo(Guest_s&) {
     QuorUtilUndoStateBegin(9);
 }
 
 // The places that there are at first are used up, so that the next entry needs another one.
-void readyManyEntries(Guest& guest) {
+void readyManyEntries(Guest_s& guest) {
     readySet(guest);
     for (int entry = 0; entry < 8; ++entry) {
         QuorUtilUndoStateBegin(9);
@@ -115,252 +115,254 @@ Ended_e kept(Handle handle, Handle& place) {
 
 // ---- The calls of a guest -----------------------------------------------------------------------
 
-std::vector<ServiceScenario> lifeScenarios() {
+std::vector<ServiceScenario_s> lifeScenarios() {
     return {
         {"QuorUtilGetQuorviaVersion", readyNothing,
-         [](Guest&) { return told(QuorUtilGetQuorviaVersion()); }},
+         [](Guest_s&) { return told(QuorUtilGetQuorviaVersion()); }},
         {"QuorUtilAddOnRegister", readyNothing,
-         [](Guest&) { return told(QuorUtilAddOnRegister(100, longText, "1", "Tests")); }},
+         [](Guest_s&) { return told(QuorUtilAddOnRegister(100, longText, "1", "Tests")); }},
         {"QuorUtilLockOn", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilLockOn();
              return Ended_e::Silent;
          }},
-        {"QuorUtilLockOff", [](Guest&) { QuorUtilLockOn(); },
-         [](Guest&) {
+        {"QuorUtilLockOff", [](Guest_s&) { QuorUtilLockOn(); },
+         [](Guest_s&) {
              QuorUtilLockOff();
              return Ended_e::Silent;
          }},
         {"QuorUtilLockStart", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorUtilLockStart(guest.addOn);
              return Ended_e::Silent;
          }},
-        {"QuorUtilLockFinish", [](Guest& guest) { QuorUtilLockStart(guest.addOn); },
-         [](Guest& guest) {
+        {"QuorUtilLockFinish", [](Guest_s& guest) { QuorUtilLockStart(guest.addOn); },
+         [](Guest_s& guest) {
              QuorUtilLockFinish(guest.addOn);
              return Ended_e::Silent;
          }},
         {"QuorUtilStateChangeAddCallback", readyManyEntries,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilStateChangeAddCallback(noteNothing);
              return Ended_e::Done;
          },
          true},
         {"QuorUtilStateChanged", readyManyEntries,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorUtilStateChanged(QuorStateChange_ZonesAdded, guest.set.get());
              return Ended_e::Done;
          }},
         {"QuorUtilUndoStateBegin", readyManyEntries,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilUndoStateBegin(9);
              return Ended_e::Done;
          }},
         {"QuorUtilUndoStateEnd", readyUndo,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilUndoStateEnd(false, true);
              return Ended_e::Done;
          }},
         {"QuorUtilUndoStateEnd",
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              readyManyEntries(guest);
              QuorUtilUndoStateBegin(9);
          },
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilUndoStateEnd(false, true);
              return Ended_e::Done;
          }},
         {"QuorUtilInterruptIsSet", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilInterruptIsSet();
              return Ended_e::Silent;
          }},
         {"QuorUtilImportAddLoaderX", readyLoaderArguments,
-         [](Guest& guest) { return told(QuorUtilImportAddLoaderX(guest.arguments.get())); }},
+         [](Guest_s& guest) { return told(QuorUtilImportAddLoaderX(guest.arguments.get())); }},
         {"QuorUtilImportSetLoaderInstr", readyLoader,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilImportSetLoaderInstr(longText, guest.list.get()));
          }},
     };
 }
 
-std::vector<ServiceScenario> messageScenarios() {
+std::vector<ServiceScenario_s> messageScenarios() {
     return {
         {"QuorUtilDialogErrMsg", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilDialogErrMsg(longText);
              return Ended_e::Done;
          }},
         {"QuorUtilDialogErrMsg", readyManyEntries,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilDialogErrMsg(longText);
              return Ended_e::Done;
          }},
         {"QuorUtilDialogMessageBox", readyAnswer,
-         [](Guest&) { return told(QuorUtilDialogMessageBox(longText, QuorMessageBox_YesNo)); }},
+         [](Guest_s&) { return told(QuorUtilDialogMessageBox(longText, QuorMessageBox_YesNo)); }},
         {"QuorUtilDialogMessageBox", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              return told(QuorUtilDialogMessageBox(longText, QuorMessageBox_Information));
          }},
         {"QuorUtilPostLastErrorMessage", readyLastError,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilPostLastErrorMessage();
              return Ended_e::Done;
          }},
         {"QuorUtilDialogGetFileName", readyChoice,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilDialogGetFileName(0, guest.text.outArgument(), longText, longText,
                                                    longText));
          }},
         {"QuorUtilDialogGetFileNames", readyChoices,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilDialogGetFileNames(1, guest.list.outArgument(), longText, nullptr,
                                                     longText));
          }},
         {"QuorUtilGetBasePath", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.text = HostString(QuorUtilGetBasePath("/a/long/path/of/folders/file.x"));
              return told(guest.text);
          }},
         {"QuorUtilHelp", readyManyEntries,
-         [](Guest&) {
+         [](Guest_s&) {
              QuorUtilHelp(longText, false, 0);
              return Ended_e::Done;
          }},
     };
 }
 
-std::vector<ServiceScenario> listScenarios() {
+std::vector<ServiceScenario_s> listScenarios() {
     return {
         {"QuorUtilStringAlloc", readyNothing,
-         [](Guest& guest) { return kept<void*>(QuorUtilStringAlloc(24, longText), guest.array); }},
+         [](Guest_s& guest) {
+             return kept<void*>(QuorUtilStringAlloc(24, longText), guest.array);
+         }},
         {"QuorUtilStringDealloc", readyText,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.text.reset();
              return Ended_e::Done;
          }},
         {"QuorUtilArrayDealloc", readyBlock,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorUtilArrayDealloc(&guest.array);
              return Ended_e::Done;
          }},
         {"QuorUtilStringListAlloc", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.list = HostStringList(QuorUtilStringListAlloc());
              return told(guest.list);
          }},
         {"QuorUtilStringListDealloc", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.list.reset();
              return Ended_e::Done;
          }},
         {"QuorUtilStringListGetCount", readyList,
-         [](Guest& guest) { return told(QuorUtilStringListGetCount(guest.list.get()) == 2); }},
+         [](Guest_s& guest) { return told(QuorUtilStringListGetCount(guest.list.get()) == 2); }},
         {"QuorUtilStringListGetString", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.text = HostString(QuorUtilStringListGetString(guest.list.get(), 2));
              return told(guest.text);
          }},
         {"QuorUtilStringListSetString", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilStringListSetString(guest.list.get(), 7, longText));
          }},
         {"QuorUtilStringListAppendString", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilStringListAppendString(guest.list.get(), longText));
          }},
         {"QuorUtilStringListAppend", readyTwoLists,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilStringListAppend(guest.list.get(), guest.otherList.get()));
          }},
         {"QuorUtilStringListAppend", readyTwoLists,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilStringListAppend(guest.list.get(), guest.list.get()));
          }},
     };
 }
 
-std::vector<ServiceScenario> argumentScenarios() {
+std::vector<ServiceScenario_s> argumentScenarios() {
     return {
         {"QuorUtilArgListAlloc", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.arguments = HostArgList(QuorUtilArgListAlloc());
              return told(guest.arguments);
          }},
         {"QuorUtilArgListClear", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorUtilArgListClear(guest.arguments.get());
              return Ended_e::Done;
          }},
         {"QuorUtilArgListDealloc", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.arguments.reset();
              return Ended_e::Done;
          }},
         {"QuorUtilArgListAppendString", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendString(guest.arguments.get(), longText, longText));
          }},
         {"QuorUtilArgListAppendInt", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendInt(guest.arguments.get(), longText, 2));
          }},
         {"QuorUtilArgListAppendDouble", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendDouble(guest.arguments.get(), longText, 2.0));
          }},
         {"QuorUtilArgListAppendStringList", readyArgumentsAndList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendStringList(guest.arguments.get(), longText,
                                                          guest.list.get()));
          }},
         {"QuorUtilArgListAppendArray", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendArray(guest.arguments.get(), longText, longText));
          }},
         {"QuorUtilArgListAppendFunction", readyArguments,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorUtilArgListAppendFunction(
                  guest.arguments.get(), longText, reinterpret_cast<QuorFunction>(noteNothing)));
          }},
     };
 }
 
-std::vector<ServiceScenario> setScenarios() {
+std::vector<ServiceScenario_s> setScenarios() {
     return {
         {"QuorUtilSetAlloc", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.set = HostSet(QuorUtilSetAlloc(showErrors));
              return told(guest.set);
          }},
         {"QuorUtilSetDealloc", readySet,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.set.reset();
              return Ended_e::Done;
          }},
         {"QuorUtilSetAddMember", readySet,
-         [](Guest& guest) { return told(QuorUtilSetAddMember(guest.set.get(), 7, showErrors)); }},
+         [](Guest_s& guest) { return told(QuorUtilSetAddMember(guest.set.get(), 7, showErrors)); }},
         {"QuorUtilSetRemoveMember", readySet,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorUtilSetRemoveMember(guest.set.get(), 3);
              return Ended_e::Done;
          }},
         {"QuorUtilSetIsMember", readySet,
-         [](Guest& guest) { return told(QuorUtilSetIsMember(guest.set.get(), 3)); }},
+         [](Guest_s& guest) { return told(QuorUtilSetIsMember(guest.set.get(), 3)); }},
         {"QuorUtilSetIsEmpty", readySet,
-         [](Guest& guest) { return told(!QuorUtilSetIsEmpty(guest.set.get())); }},
+         [](Guest_s& guest) { return told(!QuorUtilSetIsEmpty(guest.set.get())); }},
         {"QuorUtilSetGetMemberCount", readySet,
-         [](Guest& guest) { return told(QuorUtilSetGetMemberCount(guest.set.get()) == 3); }},
+         [](Guest_s& guest) { return told(QuorUtilSetGetMemberCount(guest.set.get()) == 3); }},
         {"QuorUtilSetGetNextMember", readySet,
-         [](Guest& guest) { return told(QuorUtilSetGetNextMember(guest.set.get(), 3) == 5); }},
+         [](Guest_s& guest) { return told(QuorUtilSetGetNextMember(guest.set.get(), 3) == 5); }},
     };
 }
 
 } // namespace
 
-std::vector<ServiceScenario> basicScenarios() {
-    std::vector<ServiceScenario> scenarios;
+std::vector<ServiceScenario_s> basicScenarios() {
+    std::vector<ServiceScenario_s> scenarios;
     for (const auto& group : {lifeScenarios(), messageScenarios(), listScenarios(),
                               argumentScenarios(), setScenarios()})
         scenarios.insert(scenarios.end(), group.begin(), group.end());

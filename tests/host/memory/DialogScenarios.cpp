@@ -12,35 +12,35 @@ bool typed(const char*) {
     return true;
 }
 
-void readyNothing(Guest&) {}
+void readyNothing(Guest_s&) {}
 
-void readyDialog(Guest& guest) {
+void readyDialog(Guest_s& guest) {
     guest.dialog = QuorGUIDialogCreateModal(QuorGUIId_MainWindow, 5003, 2003, "Guest", pressed,
                                             pressed, nullptr, nullptr, nullptr);
 }
 
-void readyTabs(Guest& guest) {
+void readyTabs(Guest_s& guest) {
     readyDialog(guest);
     guest.tabs = QuorGUITabAdd(guest.dialog, 0, 0, 100, 100, chosen, chosen);
 }
 
-void readyToggle(Guest& guest) {
+void readyToggle(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUIToggleAdd(guest.dialog, 0, 0, 10, 10, longText, chosen);
 }
 
-void readyRadioBox(Guest& guest) {
+void readyRadioBox(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUIRadioBoxAdd(guest.dialog, 0, 0, 10, 10, longText, longText, nullptr,
                                        nullptr, nullptr, chosen);
 }
 
-void readyOptionMenu(Guest& guest) {
+void readyOptionMenu(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUIOptionMenuAdd(guest.dialog, 0, 0, 10, 10, "one,two", chosen);
 }
 
-void readyList(Guest& guest) {
+void readyList(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUIListAdd(guest.dialog, 0, 0, 10, 10, true, chosen);
     QuorGUIListAppendItem(guest.control, longText);
@@ -50,40 +50,40 @@ void readyList(Guest& guest) {
 void play(std::vector<DialogAction> actions) {
     std::vector<ScriptEntry> entries;
     for (DialogAction& action : actions)
-        entries.emplace_back(DialogStep([action = std::move(action)](const Dialog&) {
-            return DialogMove{action, "", false};
+        entries.emplace_back(DialogStep([action = std::move(action)](const Dialog_s&) {
+            return DialogMove_s{action, "", false};
         }));
     ReferenceHost::instance().script().addToScript(std::move(entries));
 }
 
-void readySelection(Guest& guest) {
+void readySelection(Guest_s& guest) {
     readyList(guest);
-    play({SelectItems{guest.control, {1, 2}}});
+    play({SelectItems_s{guest.control, {1, 2}}});
     QuorGUIDialogLaunch(guest.dialog);
 }
 
-void readyField(Guest& guest) {
+void readyField(Guest_s& guest) {
     readyDialog(guest);
     guest.control = QuorGUITextFieldAdd(guest.dialog, 0, 0, 10, 10, typed);
     QuorGUITextFieldSetString(guest.control, "a text from before");
 }
 
-void readyLongField(Guest& guest) {
+void readyLongField(Guest_s& guest) {
     readyField(guest);
     QuorGUITextFieldSetString(guest.control, longText);
 }
 
-void readyIndexField(Guest& guest) {
+void readyIndexField(Guest_s& guest) {
     readyField(guest);
     QuorGUITextFieldSetLgIndex(guest.control, 7, false);
 }
 
-void readySetField(Guest& guest) {
+void readySetField(Guest_s& guest) {
     readyField(guest);
     QuorGUITextFieldSetString(guest.control, "1-3,7,11,13");
 }
 
-void readyFieldAndSet(Guest& guest) {
+void readyFieldAndSet(Guest_s& guest) {
     readySetField(guest);
     guest.set = Made::setOf({2, 4, 6, 8, 10, 12, 14, 16, 18, 20});
 }
@@ -91,17 +91,17 @@ void readyFieldAndSet(Guest& guest) {
 /// Types a long text into the field, and leaves the dialog.
 class TypingUser : public User {
 public:
-    DialogAction nextAction(const Dialog& dialog) override {
-        const Control& field = dialog.controls.front();
+    DialogAction nextAction(const Dialog_s& dialog) override {
+        const Control_s& field = dialog.controls.front();
         if (field.text == longText)
-            return PressDialogButton{DialogButton::Cancel};
-        return TypeText{field.id, longText};
+            return PressDialogButton_s{DialogButton_e::Cancel};
+        return TypeText_s{field.id, longText};
     }
     bool answer(const std::string&) override { return false; }
-    std::vector<std::string> chooseFiles(const FileRequest&) override { return {}; }
+    std::vector<std::string> chooseFiles(const FileRequest_s&) override { return {}; }
 };
 
-void readyUser(Guest& guest) {
+void readyUser(Guest_s& guest) {
     static TypingUser user;
     readyField(guest);
     ReferenceHost::instance().setUser(&user);
@@ -113,44 +113,48 @@ Ended_e made(std::int32_t id) {
 
 // ---- The calls of a guest -----------------------------------------------------------------------
 
-std::vector<ServiceScenario> makingScenarios() {
+std::vector<ServiceScenario_s> makingScenarios() {
     return {
         {"QuorGUIDialogCreateModal", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              return made(QuorGUIDialogCreateModal(QuorGUIId_MainWindow, 5, 5, longText, pressed,
                                                   pressed, pressed, pressed, pressed));
          }},
         {"QuorGUITabAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUITabAdd(guest.dialog, 0, 0, 10, 10, chosen, chosen));
          }},
         {"QuorGUITabAddPage", readyTabs,
-         [](Guest& guest) { return made(QuorGUITabAddPage(guest.tabs, longText)); }},
+         [](Guest_s& guest) { return made(QuorGUITabAddPage(guest.tabs, longText)); }},
         {"QuorGUIFrameAdd", readyDialog,
-         [](Guest& guest) { return made(QuorGUIFrameAdd(guest.dialog, 0, 0, 10, 10, longText)); }},
+         [](Guest_s& guest) {
+             return made(QuorGUIFrameAdd(guest.dialog, 0, 0, 10, 10, longText));
+         }},
         {"QuorGUILabelAdd", readyDialog,
-         [](Guest& guest) { return made(QuorGUILabelAdd(guest.dialog, 0, 0, longText)); }},
+         [](Guest_s& guest) { return made(QuorGUILabelAdd(guest.dialog, 0, 0, longText)); }},
         {"QuorGUIToggleAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUIToggleAdd(guest.dialog, 0, 0, 10, 10, longText, chosen));
          }},
         {"QuorGUIButtonAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUIButtonAdd(guest.dialog, 0, 0, 10, 10, longText, pressed));
          }},
         {"QuorGUIListAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUIListAdd(guest.dialog, 0, 0, 10, 10, true, chosen));
          }},
         {"QuorGUITextFieldAdd", readyDialog,
-         [](Guest& guest) { return made(QuorGUITextFieldAdd(guest.dialog, 0, 0, 10, 10, typed)); }},
+         [](Guest_s& guest) {
+             return made(QuorGUITextFieldAdd(guest.dialog, 0, 0, 10, 10, typed));
+         }},
         {"QuorGUIRadioBoxAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUIRadioBoxAdd(guest.dialog, 0, 0, 10, 10, longText, longText, "three",
                                             nullptr, nullptr, chosen));
          }},
         {"QuorGUIOptionMenuAdd", readyDialog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return made(QuorGUIOptionMenuAdd(guest.dialog, 0, 0, 10, 10,
                                               "the first of two items,the second of two items",
                                               chosen));
@@ -158,50 +162,50 @@ std::vector<ServiceScenario> makingScenarios() {
     };
 }
 
-std::vector<ServiceScenario> valueScenarios() {
+std::vector<ServiceScenario_s> valueScenarios() {
     return {
         {"QuorGUIDialogLaunch", readyUser,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIDialogLaunch(guest.dialog);
              return Ended_e::Silent;
          }},
         {"QuorGUIDialogDrop",
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              readyDialog(guest);
-             for (const Dialog& dialog : hostState().toolkit.dialogs())
+             for (const Dialog_s& dialog : hostState().toolkit.dialogs())
                  hostState().toolkit.opened(*hostState().toolkit.dialog(dialog.id));
          },
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIDialogDrop(guest.dialog);
              return Ended_e::Done;
          }},
         {"QuorGUIToggleSet", readyToggle,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIToggleSet(guest.control, 1);
              return Ended_e::Done;
          }},
         {"QuorGUIRadioBoxSetToggle", readyRadioBox,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIRadioBoxSetToggle(guest.control, 2);
              return Ended_e::Done;
          }},
         {"QuorGUIOptionMenuSet", readyOptionMenu,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIOptionMenuSet(guest.control, 2);
              return Ended_e::Done;
          }},
         {"QuorGUIListDeleteAllItems", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIListDeleteAllItems(guest.control);
              return Ended_e::Done;
          }},
         {"QuorGUIListAppendItem", readyList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUIListAppendItem(guest.control, longText);
              return Ended_e::Silent;
          }},
         {"QuorGUIListGetSelectedItems", readySelection,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              std::int32_t* positions = nullptr;
              std::int32_t count = 7;
              QuorGUIListGetSelectedItems(guest.control, &positions, &count);
@@ -211,62 +215,62 @@ std::vector<ServiceScenario> valueScenarios() {
                                                          : Ended_e::Silent;
          }},
         {"QuorGUISetSensitivity", readyToggle,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUISetSensitivity(guest.control, false);
              return Ended_e::Done;
          }},
         {"QuorGUISetInputFocus", readyToggle,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUISetInputFocus(guest.control);
              return Ended_e::Done;
          }},
     };
 }
 
-std::vector<ServiceScenario> textFieldScenarios() {
+std::vector<ServiceScenario_s> textFieldScenarios() {
     return {
         {"QuorGUITextFieldSetString", readyField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUITextFieldSetString(guest.control, longText);
              return Ended_e::Silent;
          }},
         {"QuorGUITextFieldGetString", readyLongField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.text = HostString(QuorGUITextFieldGetString(guest.control));
              return told(guest.text);
          }},
         {"QuorGUITextFieldSetLgIndex", readyField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUITextFieldSetLgIndex(guest.control, 1234567890123456789, true);
              return Ended_e::Silent;
          }},
         {"QuorGUITextFieldGetLgIndex", readyIndexField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              std::int64_t index = 0;
              return told(QuorGUITextFieldGetLgIndex(guest.control, &index) && index == 7);
          }},
         {"QuorGUITextFieldValidateLgIndex", readyIndexField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorGUITextFieldValidateLgIndex(guest.control, longText, 1, 9, false));
          }},
         {"QuorGUITextFieldValidateLgIndex", readyLongField, // the user is told that it is none
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              const bool isValid =
                  QuorGUITextFieldValidateLgIndex(guest.control, longText, 1, 9, false);
              const bool isTold = !hostState().log.messages.empty();
              return !isValid && isTold ? Ended_e::Silent : Ended_e::Refused;
          }},
         {"QuorGUITextFieldSetSet", readyFieldAndSet,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorGUITextFieldSetSet(guest.control, guest.set.get(), false);
              return Ended_e::Silent;
          }},
         {"QuorGUITextFieldGetSet", readySetField,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return told(QuorGUITextFieldGetSet(guest.control, guest.newSet.outArgument()));
          }},
         {"QuorGUITextFieldGetSet", readyFieldAndSet, // into a set that is there
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              QuorSetHandle set = guest.set.get();
              return told(QuorGUITextFieldGetSet(guest.control, &set));
          }},
@@ -275,8 +279,8 @@ std::vector<ServiceScenario> textFieldScenarios() {
 
 } // namespace
 
-std::vector<ServiceScenario> dialogScenarios() {
-    std::vector<ServiceScenario> scenarios;
+std::vector<ServiceScenario_s> dialogScenarios() {
+    std::vector<ServiceScenario_s> scenarios;
     for (const auto& group : {makingScenarios(), valueScenarios(), textFieldScenarios()})
         scenarios.insert(scenarios.end(), group.begin(), group.end());
     return scenarios;

@@ -14,7 +14,7 @@
 
 namespace quorvia::host {
 
-void PrintTo(const ServiceScenario& scenario, std::ostream* out) {
+void PrintTo(const ServiceScenario_s& scenario, std::ostream* out) {
     *out << scenario.service;
 }
 
@@ -22,12 +22,12 @@ namespace {
 
 using testsupport::FaultSpan_e;
 
-struct Attempt {
+struct Attempt_s {
     Ended_e ended = Ended_e::Done;
     bool wasFaulted = false; // an allocation failed
 };
 
-Ended_e callOf(const ServiceScenario& scenario, Guest& guest) {
+Ended_e callOf(const ServiceScenario_s& scenario, Guest_s& guest) {
     try {
         return scenario.call(guest);
     } catch (const std::bad_alloc&) {
@@ -38,13 +38,14 @@ Ended_e callOf(const ServiceScenario& scenario, Guest& guest) {
 }
 
 /// Allocation `n`, from 1, fails; 0 for none.
-Attempt attempt(const ServiceScenario& scenario, Guest& guest, std::int64_t n, FaultSpan_e span) {
+Attempt_s attempt(const ServiceScenario_s& scenario, Guest_s& guest, std::int64_t n,
+                  FaultSpan_e span) {
     testsupport::failAllocation(n, span);
     const Ended_e ended = callOf(scenario, guest);
     return {ended, testsupport::endAllocationFaults()};
 }
 
-class EveryService : public HostTest, public ::testing::WithParamInterface<ServiceScenario> {
+class EveryService : public HostTest, public ::testing::WithParamInterface<ServiceScenario_s> {
 protected:
     EveryService() {
         testsupport::countCAllocations();
@@ -54,19 +55,19 @@ protected:
     /// A host as at its start, with a guest who is about to call the service.
     class Stage {
     public:
-        Stage(const ServiceScenario& scenario, QuorAddOnHandle addOn, bool recordsTranscript) {
-            hostState().toolkit.removeWhere([](const Dialog&) { return true; });
+        Stage(const ServiceScenario_s& scenario, QuorAddOnHandle addOn, bool recordsTranscript) {
+            hostState().toolkit.removeWhere([](const Dialog_s&) { return true; });
             hostState().loaders.clear();
             hostState().stateChangeCallbacks.clear();
             host().reset();
             QuorUtilLockStart(addOn);
-            before_ = GivenOut::now();
-            guest_ = std::make_unique<Guest>();
+            before_ = GivenOut_s::now();
+            guest_ = std::make_unique<Guest_s>();
             guest_->addOn = addOn;
             scenario.prepare(*guest_);
             host().recordTranscript(recordsTranscript);
         }
-        Guest& guest() { return *guest_; }
+        Guest_s& guest() { return *guest_; }
         std::string picture() const { return hostPicture(*guest_, before_); }
         /// What is wrong when the guest has left.
         Texts faultsAtTheEnd() {
@@ -79,8 +80,8 @@ protected:
         }
 
     private:
-        GivenOut before_ = {};
-        std::unique_ptr<Guest> guest_;
+        GivenOut_s before_ = {};
+        std::unique_ptr<Guest_s> guest_;
     };
 
     /// Runs without a fault first, and then with each; false once there is nothing left to fail.
@@ -100,7 +101,7 @@ private:
         SCOPED_TRACE("allocation " + std::to_string(n));
         Stage stage(GetParam(), addOn(), recordsTranscript);
         EXPECT_EQ(stage.picture(), before_);
-        const Attempt faulted = attempt(GetParam(), stage.guest(), n, span);
+        const Attempt_s faulted = attempt(GetParam(), stage.guest(), n, span);
         const std::string now = stage.picture();
         EXPECT_EQ(now, expectedAfter(faulted.ended, now));
         EXPECT_TRUE(faulted.ended != Ended_e::BadAlloc || GetParam().mayThrow);
@@ -138,7 +139,7 @@ TEST_P(EveryService, HappensWholeOrNotAtAllWhileItsCallsAreRecorded) {
 /// not those of what a user does.
 class EveryOperation : public EveryService {
 protected:
-    const OperationTraits& row() const {
+    const OperationTraits_s& row() const {
         return OperationId::at(*rowOf(GetParam().service)).traits();
     }
     /// He stops a task that has done its step, or answers No: what happened before stands.
@@ -162,19 +163,19 @@ TEST_P(EveryOperation, FailsOnPurposeIfItsRowSaysSo) {
     host().failCall(row().name, 1);
     const Ended_e ended = callOf(GetParam(), stage.guest());
     const bool isRefused = ended == Ended_e::Refused || ended == Ended_e::BadAlloc;
-    EXPECT_EQ(isRefused, row().failure == Failure::Possible);
+    EXPECT_EQ(isRefused, row().failure == Failure_e::Possible);
     // A task has done its step when it passes on that the user wants it to stop.
     EXPECT_TRUE(!isRefused || isRefusedByTheUser() || stage.picture() == before);
     EXPECT_EQ(stage.faultsAtTheEnd(), Texts());
 }
 
-std::vector<ServiceScenario> scenariosOfOperations() {
-    std::vector<ServiceScenario> scenarios = allScenarios();
+std::vector<ServiceScenario_s> scenariosOfOperations() {
+    std::vector<ServiceScenario_s> scenarios = allScenarios();
     std::erase_if(scenarios, [](const auto& each) { return !rowOf(each.service); });
     return scenarios;
 }
 
-std::string testName(const ::testing::TestParamInfo<ServiceScenario>& info) {
+std::string testName(const ::testing::TestParamInfo<ServiceScenario_s>& info) {
     std::string name = std::to_string(info.index) + '_';
     for (const char letter : info.param.service)
         if (std::isalnum(static_cast<unsigned char>(letter)) != 0)

@@ -21,9 +21,9 @@ void addAuxData(std::ostream& out, const AuxData& items) {
         out << "  aux " << name << '=' << text << '\n';
 }
 
-void addField(std::ostream& out, const Field& field, std::int32_t holder) {
+void addField(std::ostream& out, const Field_s& field, std::int32_t holder) {
     out << "  field " << field.type << ' ' << static_cast<int>(field.state()) << " of " << holder;
-    if (field.state() == FieldState::Stored) {
+    if (field.state() == FieldState_e::Stored) {
         std::uint64_t sum = 0;
         const auto* bytes = static_cast<const unsigned char*>(field.storage->values());
         for (std::int64_t index = 0; index < field.storage->byteCount(); ++index)
@@ -33,7 +33,7 @@ void addField(std::ostream& out, const Field& field, std::int32_t holder) {
     out << '\n';
 }
 
-void addZone(std::ostream& out, const DataSet& data, const Zone& zone) {
+void addZone(std::ostream& out, const DataSet& data, const Zone_s& zone) {
     out << "zone " << zone.number << ' ' << data.zoneNumber(zone.uniqueId) << ' ' << zone.name
         << ' ' << zone.type << ' ' << zone.i << ' ' << zone.j << ' ' << zone.k << " strand "
         << zone.strandId << " at " << zone.solutionTime << " parent "
@@ -52,15 +52,15 @@ void addDataSet(std::ostream& out, const DataSet& data) {
     out << "data set " << data.loaderName << ' ' << data.title << '\n';
     addAuxData(out, data.auxData);
     std::int32_t number = 0;
-    for (const Variable& variable : data.variables())
+    for (const Variable_s& variable : data.variables())
         out << "variable " << ++number << ' ' << data.variableNumber(variable.uniqueId) << ' '
             << variable.name << '\n';
-    for (const std::unique_ptr<Zone>& zone : data.zones())
+    for (const std::unique_ptr<Zone_s>& zone : data.zones())
         addZone(out, data, *zone);
 }
 
 void addList(std::ostream& out, QuorStringListHandle list) {
-    const GuestStringList* found = hostState().handles.of(list).find(list);
+    const GuestStringList_s* found = hostState().handles.of(list).find(list);
     if (found == nullptr)
         return;
     out << "list";
@@ -70,27 +70,27 @@ void addList(std::ostream& out, QuorStringListHandle list) {
 }
 
 void addArguments(std::ostream& out, QuorArgListHandle arguments) {
-    const GuestArgList* found = hostState().handles.of(arguments).find(arguments);
+    const GuestArgList_s* found = hostState().handles.of(arguments).find(arguments);
     for (std::size_t index = 0; found != nullptr && index < found->arguments.size(); ++index)
         out << "argument " << found->arguments[index].key << ' '
             << found->arguments[index].value.index() << '\n';
 }
 
 void addSet(std::ostream& out, QuorSetHandle set) {
-    const GuestSet* found = hostState().handles.of(set).find(set);
+    const GuestSet_s* found = hostState().handles.of(set).find(set);
     if (found == nullptr)
         return;
     out << "set";
     addNumbers(out, found->members);
 }
 
-void addSource(std::ostream& out, const FakeSource& source) {
+void addSource(std::ostream& out, const FakeSource_s& source) {
     out << "source " << source.loadCount << ' ' << source.unloadCount << ' ' << source.cleanUpCount
         << '\n';
 }
 
-void addGivenOut(std::ostream& out, const GivenOut& before) {
-    const GivenOut now = GivenOut::now();
+void addGivenOut(std::ostream& out, const GivenOut_s& before) {
+    const GivenOut_s now = GivenOut_s::now();
     out << "given out " << now.lists - before.lists << ' ' << now.argLists - before.argLists << ' '
         << now.sets - before.sets << ' ' << now.fields - before.fields << ' '
         << now.nodeMaps - before.nodeMaps << ' ' << now.auxData - before.auxData << ' '
@@ -98,8 +98,8 @@ void addGivenOut(std::ostream& out, const GivenOut& before) {
         << now.callbacks - before.callbacks << ' ' << now.loaders - before.loaders << '\n';
 }
 
-void addLog(std::ostream& out, const HostLog& log) {
-    for (const Message& message : log.messages)
+void addLog(std::ostream& out, const HostLog_s& log) {
+    for (const Message_s& message : log.messages)
         if (message.text != "Out of memory.")
             out << "message " << static_cast<int>(message.kind) << ' ' << message.text << ' '
                 << message.answer.has_value() << message.answer.value_or(false) << '\n';
@@ -107,11 +107,11 @@ void addLog(std::ostream& out, const HostLog& log) {
         out << "progress " << text << '\n';
     for (const std::string& text : log.instructions)
         out << "instruction " << text << '\n';
-    for (const StateChange& change : log.stateChanges) {
+    for (const StateChange_s& change : log.stateChanges) {
         out << "state change " << change.code << " of";
         addNumbers(out, change.members);
     }
-    for (const UndoEvent& event : log.undo)
+    for (const UndoEvent_s& event : log.undo)
         out << "undo " << static_cast<int>(event.kind) << ' ' << event.category << ' '
             << event.success.has_value() << event.success.value_or(false) << '\n';
     for (const std::vector<std::int64_t>& zones : log.autoStyledZones) {
@@ -126,7 +126,7 @@ void addLog(std::ostream& out, const HostLog& log) {
         << log.solutionTimeNotifications << '\n';
 }
 
-void addControl(std::ostream& out, const Control& control) {
+void addControl(std::ostream& out, const Control_s& control) {
     out << "  control " << wordFor(control.kind) << ' ' << control.caption << ' ' << control.value
         << ' ' << control.text << ' ' << control.zeroIsLast << control.sensitive << " [";
     for (const std::string& item : control.items)
@@ -135,23 +135,23 @@ void addControl(std::ostream& out, const Control& control) {
     addNumbers(out, control.selected);
 }
 
-void addDialog(std::ostream& out, const Dialog& dialog) {
+void addDialog(std::ostream& out, const Dialog_s& dialog) {
     out << "dialog " << dialog.title << ' ' << dialog.open << " focus "
         << (findControl(dialog, dialog.focus) != nullptr) << '\n';
     if (dialog.tabs.has_value()) {
         out << "  tabs in front " << (findPage(dialog, dialog.tabs->frontPage) != nullptr);
-        for (const Page& page : dialog.tabs->pages)
+        for (const Page_s& page : dialog.tabs->pages)
             out << " [" << page.caption << ']';
         out << '\n';
     }
-    for (const Control& control : dialog.controls)
+    for (const Control_s& control : dialog.controls)
         addControl(out, control);
 }
 
 } // namespace
 
-GivenOut GivenOut::now() {
-    HostState& host = hostState();
+GivenOut_s GivenOut_s::now() {
+    HostState_s& host = hostState();
     HandleRegistry& handles = host.handles;
     return {handles.of(QuorStringListHandle{}).count(),
             handles.of(QuorArgListHandle{}).count(),
@@ -165,8 +165,8 @@ GivenOut GivenOut::now() {
             static_cast<std::int64_t>(host.loaders.size())};
 }
 
-std::string hostPicture(const Guest& guest, const GivenOut& before) {
-    const HostState& host = hostState();
+std::string hostPicture(const Guest_s& guest, const GivenOut_s& before) {
+    const HostState_s& host = hostState();
     std::ostringstream out;
     out << "plot type " << host.frame.plotType() << '\n';
     if (const DataSet* data = host.frame.dataSet())
@@ -188,7 +188,7 @@ std::string hostPicture(const Guest& guest, const GivenOut& before) {
         << host.openUndoStates << ' ' << host.openProgressBars << ' ' << host.timeDeferrers << ' '
         << host.solutionTimesChanged << '\n';
     addLog(out, host.log);
-    for (const Dialog& dialog : host.toolkit.dialogs())
+    for (const Dialog_s& dialog : host.toolkit.dialogs())
         addDialog(out, dialog);
     return out.str();
 }

@@ -25,7 +25,7 @@ protected:
         work();
         testsupport::endAllocationFaults();
     }
-    static const std::vector<Message>& messages() { return host().log().messages; }
+    static const std::vector<Message_s>& messages() { return host().log().messages; }
 };
 
 TEST_F(NoMemory, MessageIsShownAllTheSame) {
@@ -46,7 +46,8 @@ TEST_F(NoMemory, MessagesThatCantBeKeptWholeAreTold) {
 }
 
 TEST_F(NoMemory, MessagesWithoutAPlaceAreShownAndTold) {
-    struct Reader : ScriptedUser {
+    class Reader : public ScriptedUser {
+    public:
         int readCount = 0;
         void read(const std::string&, bool) override { ++readCount; }
     } reader;
@@ -95,7 +96,7 @@ TEST_F(NoMemory, UndoStateBeginsAndEnds) {
 TEST_F(NoMemory, FieldThatWasNeverFetchedIsCleanedUp) {
     createDataSet({"X"});
     addZone(2, 3, 5);
-    FakeSource source;
+    FakeSource_s source;
     ASSERT_TRUE(source.registerAt(1, 1));
     withoutMemory([] { QuorUtilFrameReset(QuorUtilFrameGetUniqueID()); });
     EXPECT_EQ(source.cleanUpCount, 1);
@@ -108,8 +109,8 @@ bool loadWithoutMemory(QuorFieldHandle) {
 TEST_F(NoMemory, GuestsCallbackIsNotBlamedForIt) {
     createDataSet({"X"});
     addZone(2, 3, 5);
-    FakeSource source;
-    QuorUtilDataValueCustomLOD(1, 1, loadWithoutMemory, nullptr, FakeSource::cleanUp, nullptr,
+    FakeSource_s source;
+    QuorUtilDataValueCustomLOD(1, 1, loadWithoutMemory, nullptr, FakeSource_s::cleanUp, nullptr,
                                nullptr, &source);
     EXPECT_EQ(host().fetch(1, 1).error, "The values could not be read.");
     EXPECT_TRUE(host().log().violations.empty());
@@ -123,7 +124,7 @@ TEST_F(NoMemory, ImportIsEndedByTheHost) {
         return AddOnLibrary::open(GUEST_LIBRARY, error);
     }();
     const Texts instructions = {longText};
-    LoadResult result;
+    LoadResult_s result;
     withoutMemory([&] { result = host().importInstructions(instructions); });
     EXPECT_EQ(result.hostError, "Out of memory.");
     EXPECT_FALSE(result.ok);
@@ -142,15 +143,15 @@ protected:
         field_ = QuorGUITextFieldAdd(dialog_, 0, 0, 10, 10, typed);
         QuorGUITextFieldSetString(field_, longText);
     }
-    static const Dialog& model() { return host().toolkit().dialogs().back(); }
+    static const Dialog_s& model() { return host().toolkit().dialogs().back(); }
     static const std::string& shownText() { return model().controls.front().text; }
 
     std::int32_t dialog_ = QuorGUIId_None, field_ = QuorGUIId_None;
 };
 
 TEST_F(NoMemoryAtADialog, UserLeavesAndIsToldWhy) {
-    const auto type = [field = field_](const Dialog&) {
-        return DialogMove{TypeText{field, std::string(40, 'x')}, "", false};
+    const auto type = [field = field_](const Dialog_s&) {
+        return DialogMove_s{TypeText_s{field, std::string(40, 'x')}, "", false};
     };
     host().script().addToScript({DialogStep(type)});
     withoutMemory([this] { QuorGUIDialogLaunch(dialog_); });

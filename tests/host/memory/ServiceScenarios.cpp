@@ -5,20 +5,20 @@
 
 namespace quorvia::host {
 
-Guest::~Guest() {
+Guest_s::~Guest_s() {
     hostState().frame.reset();
     task.reset(); // a task ends before its parent
     QuorUtilArrayDealloc(&array);
 }
 
-void readyZones(Guest&) {
+void readyZones(Guest_s&) {
     Made::createDataSet({"a variable with a long name", "Y"});
     Made::addZone(2, 3, 5);
     Made::addZone(2, 3, 5);
 }
 
-std::vector<ServiceScenario> allScenarios() {
-    std::vector<ServiceScenario> scenarios;
+std::vector<ServiceScenario_s> allScenarios() {
+    std::vector<ServiceScenario_s> scenarios;
     for (const auto& group : {basicScenarios(), dataScenarios(), dialogScenarios(),
                               utilityScenarios(), sessionScenarios()})
         scenarios.insert(scenarios.end(), group.begin(), group.end());

@@ -97,7 +97,7 @@ TEST(ServiceTable, IsWhatTheLibraryDefines) {
 
 TEST(ServiceTable, HasAScenarioForEachDeclaredService) {
     Names missing = declaredServices();
-    for (const ServiceScenario& scenario : allScenarios())
+    for (const ServiceScenario_s& scenario : allScenarios())
         missing.erase(scenario.service);
     EXPECT_EQ(missing, Names());
 }

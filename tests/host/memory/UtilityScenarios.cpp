@@ -6,38 +6,38 @@ namespace quorvia::host {
 
 namespace {
 
-void readyNothing(Guest&) {}
+void readyNothing(Guest_s&) {}
 
-void watchBar(Guest& guest) {
-    ReferenceHost::instance().settings().progressObserver = [&guest](const ProgressState& state) {
+void watchBar(Guest_s& guest) {
+    ReferenceHost::instance().settings().progressObserver = [&guest](const ProgressState_s& state) {
         guest.shownFraction = state.fraction;
         guest.isBarShown = state.open;
     };
 }
 
 /// Made so that the bar has shown a text already.
-void readyBar(Guest& guest) {
+void readyBar(Guest_s& guest) {
     watchBar(guest);
     guest.bar = createTaskProgressBar(7);
     guest.bar->setMessage("a first text, which is shorter");
 }
 
-void readySubTask(Guest& guest) {
+void readySubTask(Guest_s& guest) {
     readyBar(guest);
     guest.bar->createSubTask(guest.task, 3);
 }
 
-void readyFullLog(Guest& guest) {
+void readyFullLog(Guest_s& guest) {
     readyBar(guest);
     const std::string text(32 * 1024 - 40, '.'); // the block of the log is as good as full
     guest.bar->setMessage(text);
 }
 
-void readyOwnedList(Guest& guest) {
+void readyOwnedList(Guest_s& guest) {
     guest.ownedList = std::make_unique<StringList>();
 }
 
-void readyDeferrer(Guest& guest) {
+void readyDeferrer(Guest_s& guest) {
     readyZones(guest);
     guest.deferrer = std::make_unique<SolutionTimeNotificationDeferrer>();
     QuorUtilZoneSetSolutionTime(1, 2.5);
@@ -54,7 +54,7 @@ ReferenceHost& host() {
 }
 
 /// A field that was never in memory, and one that is.
-void readyDeferredFields(Guest& guest) {
+void readyDeferredFields(Guest_s& guest) {
     readyZones(guest);
     guest.first.registerAt(1, 1);
     guest.second.registerAt(2, 1);
@@ -65,9 +65,9 @@ bool loadWithoutMemory(QuorFieldHandle) {
     throw std::bad_alloc();
 }
 
-void readyFieldWithoutMemory(Guest& guest) {
+void readyFieldWithoutMemory(Guest_s& guest) {
     readyZones(guest);
-    QuorUtilDataValueCustomLOD(1, 1, loadWithoutMemory, nullptr, FakeSource::cleanUp, nullptr,
+    QuorUtilDataValueCustomLOD(1, 1, loadWithoutMemory, nullptr, FakeSource_s::cleanUp, nullptr,
                                nullptr, &guest.first);
 }
 
@@ -78,7 +78,7 @@ void handOverSelected(QuorStringListHandle files, bool, bool) {
     handOver(files);
 }
 
-void readyLoader(Guest&) {
+void readyLoader(Guest_s&) {
     host().state().loaders.push_back(
         {"Guest Loader", "*.guest", true, true, true, handOver, handOverSelected});
 }
@@ -90,114 +90,114 @@ const Texts& files() {
 
 } // namespace
 
-std::vector<ServiceScenario> utilityScenarios() {
+std::vector<ServiceScenario_s> utilityScenarios() {
     return {
         {"createTaskProgressBar", watchBar,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.bar = createTaskProgressBar(7);
              return Ended_e::Done;
          },
          true},
         {"TaskProgress::createSubTask", readyBar,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.bar->createSubTask(guest.task, 3);
              return Ended_e::Done;
          },
          true},
         {"TaskProgress::setStepCount", readyBar,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.bar->setStepCount(5);
              return Ended_e::Done;
          }},
         {"TaskProgress::setMessage", readyBar,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return guest.bar->setMessage(textOfGuest()) ? Ended_e::Silent : Ended_e::Refused;
          }},
         {"TaskProgress::setMessage", readyFullLog,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return guest.bar->setMessage(textOfGuest()) ? Ended_e::Silent : Ended_e::Refused;
          }},
-        {"TaskProgress::step", readyBar, [](Guest& guest) { return told(guest.bar->step()); }},
+        {"TaskProgress::step", readyBar, [](Guest_s& guest) { return told(guest.bar->step()); }},
         {"TaskProgress::stepWithMessage", readySubTask,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              return guest.task->stepWithMessage(textOfGuest()) ? Ended_e::Silent : Ended_e::Refused;
          }},
         {"TaskProgress::~TaskProgress", readyBar,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.bar.reset();
              return Ended_e::Done;
          }},
         {"TaskProgress::~TaskProgress", readySubTask,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.task.reset();
              return Ended_e::Done;
          }},
         {"SolutionTimeNotificationDeferrer::SolutionTimeNotificationDeferrer", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              const SolutionTimeNotificationDeferrer deferrer;
              return told(hostState().timeDeferrers == 1);
          }},
         {"SolutionTimeNotificationDeferrer::~SolutionTimeNotificationDeferrer", readyDeferrer,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.deferrer.reset();
              return Ended_e::Done;
          }},
         {"StringList::StringList", readyNothing,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.ownedList = std::make_unique<StringList>();
              return Ended_e::Done;
          },
          true},
         {"StringList::~StringList", readyOwnedList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.ownedList.reset();
              return Ended_e::Done;
          }},
         {"StringList::append", readyOwnedList,
-         [](Guest& guest) {
+         [](Guest_s& guest) {
              guest.ownedList->append(textOfGuest());
              return Ended_e::Done;
          },
          true},
         {"StringList::getRef", readyOwnedList,
-         [](Guest& guest) { return told(guest.ownedList->getRef()); }},
+         [](Guest_s& guest) { return told(guest.ownedList->getRef()); }},
         {"utf8ToWideString", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              return told(utf8ToWideString(textOfGuest()).size() == textOfGuest().size());
          },
          true},
         {"InterruptedException::~InterruptedException", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              const InterruptedException interruption;
              return Ended_e::Done;
          }},
         {"InterruptedException::what", readyNothing,
-         [](Guest&) { return told(*InterruptedException().what()); }},
+         [](Guest_s&) { return told(*InterruptedException().what()); }},
     };
 }
 
-std::vector<ServiceScenario> sessionScenarios() {
+std::vector<ServiceScenario_s> sessionScenarios() {
     return {
         {"ReferenceHost::fetch", readyDeferredFields,
-         [](Guest&) { return told(host().fetch(1, 1).ok); }},
+         [](Guest_s&) { return told(host().fetch(1, 1).ok); }},
         {"ReferenceHost::fetch", readyFieldWithoutMemory, // of the guest, who is not blamed for it
-         [](Guest&) { return host().fetch(1, 1).ok ? Ended_e::Done : Ended_e::Silent; }},
+         [](Guest_s&) { return host().fetch(1, 1).ok ? Ended_e::Done : Ended_e::Silent; }},
         {"ReferenceHost::unload", readyDeferredFields,
-         [](Guest&) { return told(host().unload(2, 1)); }},
+         [](Guest_s&) { return told(host().unload(2, 1)); }},
         {"ReferenceHost::unloadAll", readyDeferredFields,
-         [](Guest&) {
+         [](Guest_s&) {
              host().unloadAll();
              return Ended_e::Done;
          }},
         {"ReferenceHost::sendStateChange", readyNothing,
-         [](Guest&) {
+         [](Guest_s&) {
              host().sendStateChange(QuorStateChange_FilesForgotten);
              return Ended_e::Done;
          }},
         {"ReferenceHost::importInstructions", readyLoader,
-         [](Guest&) { return told(host().importInstructions(files()).ok); }},
+         [](Guest_s&) { return told(host().importInstructions(files()).ok); }},
         {"ReferenceHost::importSelection", readyLoader,
-         [](Guest&) { return told(host().importSelection(files(), false, false).ok); }},
+         [](Guest_s&) { return told(host().importSelection(files(), false, false).ok); }},
     };
 }
 

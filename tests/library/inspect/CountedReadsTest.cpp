@@ -5,21 +5,18 @@
 
 #include "InspectFixture.h"
 #include "plot3d/Error.h"
-#include "plot3dfile/structure/MemoryFileSystem.h"
+#include "support/FakeDisk.h"
 
 namespace plot3d {
 namespace {
 
-using quorvia::quorutildataio::MemoryFileSystem;
+using quorvia::testsupport::FakeDisk;
 using writer::Encoding_e;
 
 class CountedReads : public InspectTest {
 protected:
     static constexpr std::int64_t mostBytesOfBinary = 64 * 1024;
     static constexpr std::int64_t giga = std::int64_t{1} << 30;
-
-    CountedReads() { quorvia::quorutildataio::setFileSystem(&disk); }
-    ~CountedReads() override { quorvia::quorutildataio::setFileSystem(nullptr); }
 
     static std::string integers(std::initializer_list<std::int32_t> values) {
         std::string bytes;
@@ -35,7 +32,7 @@ protected:
         return inspect(name, options);
     }
 
-    MemoryFileSystem disk;
+    FakeDisk disk;
 };
 
 // ---- Plain binary -------------------------------------------------------------------------------
@@ -46,7 +43,7 @@ TEST_F(CountedReads, OfAnEightGigabyteGridAreFew) {
         const FileInfo info = inspectSparse(name, integers({101, 103, 66000}), size);
         EXPECT_TRUE(info.ok) << problemOf(info);
         EXPECT_EQ(info.bytes.used, size);
-        EXPECT_EQ(disk.openCount, 1);
+        EXPECT_EQ(std::ssize(disk.opened), 1);
         EXPECT_LE(disk.bytesRead, 8 * 1024);
     }
 }
@@ -61,7 +58,7 @@ TEST_F(CountedReads, AreBoundedWhateverTheFileIs) {
                 options.allReadings = allReadings;
                 inspectSparse(name, begin, 8 * giga, options);
                 EXPECT_LE(disk.bytesRead, mostBytesOfBinary) << name;
-                EXPECT_EQ(disk.openCount, 1);
+                EXPECT_EQ(std::ssize(disk.opened), 1);
             }
 }
 
@@ -98,7 +95,7 @@ TEST_F(CountedReads, OfATextFileAreOncePlusALittle) {
     const FileInfo info = inspectSparse("wing.x", text, std::ssize(text));
     EXPECT_TRUE(info.ok) << problemOf(info);
     EXPECT_LE(disk.bytesRead, std::ssize(text) + 8 * 1024);
-    EXPECT_EQ(disk.openCount, 1);
+    EXPECT_EQ(std::ssize(disk.opened), 1);
 }
 
 // ---- Stops and progress -------------------------------------------------------------------------

@@ -2,10 +2,10 @@
 // that say another thing than the bytes; and what can fail.
 #include "InspectFixture.h"
 #include "plot3d/Error.h"
-#include "plot3dfile/FakeDisk.h"
 #include "plot3dwriter/Plot3DWriter.h"
 #include "session/ReferenceHost.h"
 #include "support/AllocationFaults.h"
+#include "support/FakeDisk.h"
 
 namespace plot3d {
 namespace {

@@ -20,7 +20,7 @@ protected:
         auto file = buildPlot3DFile(builder, "huge", isSolutionOrFunction);
         EXPECT_LE(disk.bytesRead, mostBytesRead);
         // Beside its reads each opening costs at most an open, two looks at the size, and a close.
-        EXPECT_LE(disk.readCount + 4 * disk.openCount, mostCalls);
+        EXPECT_LE(disk.readCount + 4 * std::ssize(disk.opened), mostCalls);
         return file;
     }
 };

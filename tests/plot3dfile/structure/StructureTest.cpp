@@ -6,18 +6,16 @@ namespace quorvia::quorutildataio {
 
 StructureTest::StructureTest() {
     host::ReferenceHost::instance().reset();
-    setFileSystem(&disk);
     setLoadOptionDefaults(options);
 }
 
 StructureTest::~StructureTest() {
-    setFileSystem(nullptr);
     EXPECT_EQ(host::ReferenceHost::instance().log().violations, std::vector<std::string>());
 }
 
 std::vector<std::string> StructureTest::messages() const {
     std::vector<std::string> texts;
-    for (const host::Message& message : host::ReferenceHost::instance().log().messages)
+    for (const host::Message_s& message : host::ReferenceHost::instance().log().messages)
         texts.push_back(message.text);
     return texts;
 }

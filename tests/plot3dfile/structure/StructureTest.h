@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include "Bytes.h"
-#include "MemoryFileSystem.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/detection/StructureDetection.h"
@@ -18,6 +17,7 @@
 #include "plot3dfile/layout/DataSize.h"
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutParsers.h"
+#include "support/FakeDisk.h"
 
 namespace quorvia::quorutildataio {
 
@@ -46,7 +46,7 @@ protected:
     /// A manual description, to be used by detect and by builders.
     void describe(Plot3DDataStructure_e dataStructure, Plot3DStyle_e style, bool isMultiGrid);
 
-    MemoryFileSystem disk;
+    testsupport::FakeDisk disk;
     Plot3DLoadOptions_s options;
 };
 

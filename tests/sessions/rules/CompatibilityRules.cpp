@@ -13,10 +13,10 @@ void require(bool holds, const char* why) {
 /// Coordinates that the plot offers.
 std::int32_t coordinatesOfPlot(std::int32_t plotType) {
     switch (plotType) {
-    case kPlot3D:
+    case plot3D:
         return 3;
-    case kPlot2D:
-    case kPlotXY:
+    case plot2D:
+    case plotXY:
         return 2;
     default:
         throw Refusal("a plot type that takes no coordinates");
@@ -30,7 +30,8 @@ bool findIBlank(const DataSet_s& dataSet, std::int32_t coordinates) {
     for (const Zone_s& zone : dataSet.zones) {
         if (dataSet.variableCount() <= coordinates)
             return false;
-        const bool isInteger = zone.fields[static_cast<std::size_t>(coordinates)].type == kInteger;
+        const bool isInteger =
+            zone.fields[static_cast<std::size_t>(coordinates)].type == integerType;
         require(isInteger || !isFound, "zones without I-blank behind one that has it");
         isFound = isInteger;
     }

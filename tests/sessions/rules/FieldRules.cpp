@@ -63,7 +63,7 @@ Selection_s selectionOf(const FileModel_s& file, std::int32_t grid, const LoadRu
 
 void setFields(const FileModel_s& file, const LoadRun_s& load, DataSet_s& dataSet,
                std::int32_t firstZone, std::int32_t firstVariable) {
-    const std::int32_t type = file.isDouble() ? kDouble : kSingle;
+    const std::int32_t type = file.isDouble() ? doubleType : singleType;
     std::int32_t number = firstZone;
     for (std::int32_t grid = 0; grid < file.gridCount(); ++grid) {
         if (!load.selects(grid))

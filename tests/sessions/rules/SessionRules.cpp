@@ -62,7 +62,7 @@ void build(LoadRun_s& load, ExpectedHost_s& host) {
                                   : 0;
         while (static_cast<std::size_t>(dataSet.variableCount()) < names.size())
             addVariable(dataSet, names[static_cast<std::size_t>(dataSet.variableCount())],
-                        first.isDouble(index) ? kDouble : kSingle);
+                        first.isDouble(index) ? doubleType : singleType);
     }
     std::vector<std::int32_t> parents;
     addTimeSteps(load, host, parents);
@@ -80,7 +80,7 @@ void buildOrClear(LoadRun_s& load, ExpectedHost_s& host) {
             throw RefusalAmidst(refusal.what());
         if (!load.options.append) {
             host.dataSet.reset();
-            host.plotType = kNoPlot;
+            host.plotType = noPlot;
         } else {
             host.dataSet->zones.resize(static_cast<std::size_t>(load.oldZones));
         }
@@ -90,10 +90,11 @@ void buildOrClear(LoadRun_s& load, ExpectedHost_s& host) {
 
 void setPlotType(const LoadRun_s& load, ExpectedHost_s& host) {
     if (!load.options.append)
-        host.plotType = load.coordinates == 1 ? kPlotXY : load.coordinates == 2 ? kPlot2D : kPlot3D;
+        host.plotType = load.coordinates == 1 ? plotXY : load.coordinates == 2 ? plot2D : plot3D;
 }
 
-struct Applier {
+class Applier {
+public:
     const std::vector<FileModel_s>& files;
     ExpectedHost_s& host;
 

@@ -63,7 +63,7 @@ void appendFunctions(LoadRun_s& load, DataSet_s& dataSet) {
     const std::int32_t ordinal = freeOrdinal(1, dataSet.variables);
     for (std::int32_t k = 1; k <= first.functionCount; ++k)
         addVariable(dataSet, fmt::format("F{}V{}", ordinal, k),
-                    first.isDouble() ? kDouble : kSingle);
+                    first.isDouble() ? doubleType : singleType);
     std::int32_t zone = 1;
     for (const FileSet_s& set : load.sets) {
         const FileModel_s& file = *set.functions.front();

@@ -92,9 +92,9 @@ Zone_s makeZone(const FileSet_s& set, std::int32_t grid, const LoadRun_s& load,
         if (set.grid == nullptr && isOfGrid) // as in the zone whose grid this one has
             zone.fields.push_back({shared->fields[static_cast<std::size_t>(index)].type, nullptr});
         else
-            zone.fields.push_back({isIBlank              ? kInteger
-                                   : set.isDouble(index) ? kDouble
-                                                         : kSingle,
+            zone.fields.push_back({isIBlank              ? integerType
+                                   : set.isDouble(index) ? doubleType
+                                                         : singleType,
                                    nullptr});
     }
     return zone;

@@ -1,0 +1,18 @@
+// One load by the linked-in add-on, in the host, and what came of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <plot3d/Watch.h>
+
+#include "open/Content.h"
+
+namespace plot3dlib {
+
+/// Runs the load in a frame of its own, which is closed again, and takes the data set out.
+/// Questions of the add-on are answered with yes. Throws plot3d::Error, and lets through what the
+/// progress callback throws. The host lock must be held.
+Content_s loadAtHost(const std::vector<std::string>& instructions, const plot3d::Watch& watch);
+
+} // namespace plot3dlib

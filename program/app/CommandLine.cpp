@@ -1,0 +1,197 @@
+#include "app/CommandLine.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <ostream>
+#include <system_error>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+#include <plot3d/Version.h>
+
+#include "app/Completion.h"
+#include "app/HelpText.h"
+#include "app/ManPage.h"
+#include "console/NearestName.h"
+
+namespace plot3d::program {
+namespace {
+
+using Words = std::vector<std::string>;
+
+std::string nearestOf(const std::string& word, const Words& known) {
+    const std::vector<std::string_view> views(known.begin(), known.end());
+    return std::string(console::nearestName(word, views));
+}
+
+Words namesOf(const Commands& commands) {
+    Words names;
+    for (const auto& command : commands)
+        names.emplace_back(command->name());
+    return names;
+}
+
+Words optionNamesOf(const CommandPage_s& page) {
+    Words names;
+    for (const OptionRow_s& row : page.options)
+        names.insert(names.end(), row.names.begin(), row.names.end());
+    return names;
+}
+
+Command* find(const Commands& commands, const std::string& name) {
+    const auto found = std::find_if(commands.begin(), commands.end(), [&name](const auto& command) {
+        return command->name() == name;
+    });
+    return found == commands.end() ? nullptr : found->get();
+}
+
+bool exists(const std::string& name) {
+    std::error_code ignored; // what can't be looked at is told when it is opened
+    return std::filesystem::exists(name, ignored);
+}
+
+/// A name with neither ending nor folder is rather a command with a slip in it than a file.
+bool looksLikeCommand(const std::string& word) {
+    return word.find_first_of("./-") == std::string::npos && !exists(word);
+}
+
+int show(const std::string& text, const Surroundings_s& surroundings) {
+    surroundings.out << text;
+    return ExitCode_Done;
+}
+
+int showHelp(const Words& arguments, const Surroundings_s& surroundings) {
+    const Commands commands = allCommands();
+    if (arguments.size() < 2)
+        return show(helpText(allPages(), surroundings.outColumns), surroundings);
+    Command* command = find(commands, arguments[1]);
+    if (command == nullptr)
+        throw UsageError(fmt::format("there is no command \"{}\"; the nearest is \"{}\"",
+                                     arguments[1], nearestOf(arguments[1], namesOf(commands))));
+    return show(helpText(DeclaredCommand(*command).page(), surroundings.outColumns), surroundings);
+}
+
+int showCompletion(const Words& arguments, const Surroundings_s& surroundings) {
+    const std::string shell = arguments.size() == 2 ? arguments[1] : "";
+    if (shell == "bash")
+        return show(bashCompletion(allPages()), surroundings);
+    if (shell == "zsh")
+        return show(zshCompletion(allPages()), surroundings);
+    throw UsageError("--completion needs the name of a shell: bash or zsh");
+}
+
+/// An option of the program itself, or null if the first argument is none.
+using Shower = int (*)(const Words&, const Surroundings_s&);
+
+Shower showerFor(const std::string& word) {
+    if (word == "--help" || word == "-h" || word == "help")
+        return showHelp;
+    if (word == "--version")
+        return [](const Words&, const Surroundings_s& surroundings) {
+            return show(fmt::format("plot3d {}\n", version()), surroundings);
+        };
+    if (word == "--man")
+        return [](const Words&, const Surroundings_s& surroundings) {
+            return show(manPage(allPages()), surroundings);
+        };
+    if (word == "--completion")
+        return showCompletion;
+    return nullptr;
+}
+
+} // namespace
+
+DeclaredCommand::DeclaredCommand(Command& command)
+    : command_(command), app_(std::make_unique<CLI::App>()) {
+    const char* const group = "Options of all commands";
+    app_->set_help_flag();
+    app_->allow_extras(); // told by us, with the nearest known option
+    command.declare(*app_);
+    app_->add_option("--progress", progress_,
+                     "Show progress on standard error: at a terminal (auto, the default), always "
+                     "or never")
+        ->type_name("always|never|auto")
+        ->group(group);
+    app_->add_flag("--quiet", quiet_, "Nothing on standard error but errors")->group(group);
+    app_->add_flag("-h,--help", help_, "Show this help")->group(group);
+}
+
+DeclaredCommand::~DeclaredCommand() = default;
+
+CommandPage_s DeclaredCommand::page() const {
+    return pageOf(command_, *app_);
+}
+
+void DeclaredCommand::refuseUnknown() const {
+    for (const std::string& word : app_->remaining()) {
+        if (word.size() < 2 || word.front() != '-')
+            throw UsageError(fmt::format("plot3d {} takes no argument \"{}\"; plot3d {} --help "
+                                         "tells what it takes",
+                                         command_.name(), word, command_.name()));
+        const std::string name = word.substr(0, word.find('='));
+        throw UsageError(fmt::format("plot3d {} has no option {}; the nearest is {}",
+                                     command_.name(), name,
+                                     nearestOf(name, optionNamesOf(page()))));
+    }
+}
+
+void DeclaredCommand::refuseWrongChoices() const {
+    for (const OptionRow_s& row : page().options) {
+        if (row.choices.empty())
+            continue;
+        for (const std::string& word : app_->get_option(row.names.back())->results())
+            if (std::find(row.choices.begin(), row.choices.end(), word) == row.choices.end())
+                throw UsageError(fmt::format("{} can't be \"{}\"; the nearest known word is \"{}\"",
+                                             row.names.back(), word, nearestOf(word, row.choices)));
+    }
+}
+
+void DeclaredCommand::parse(Words arguments) {
+    std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
+    try {
+        app_->parse(arguments);
+    } catch (const CLI::ParseError& error) {
+        if (help_)
+            return;
+        refuseUnknown();
+        std::string text = error.what();
+        std::replace(text.begin(), text.end(), '\n', ' ');
+        throw UsageError(fmt::format("{}; plot3d {} --help tells more", text, command_.name()));
+    }
+    if (help_)
+        return;
+    refuseUnknown();
+    refuseWrongChoices();
+}
+
+int DeclaredCommand::run(Words arguments, Surroundings_s surroundings) {
+    command_.takeApart(arguments);
+    parse(std::move(arguments));
+    if (help_)
+        return show(helpText(page(), surroundings.outColumns), surroundings);
+    surroundings.quiet = quiet_;
+    if (progress_ == "always")
+        surroundings.progress = ProgressWish_e::Always;
+    if (progress_ == "never")
+        surroundings.progress = ProgressWish_e::Never;
+    return command_.run(surroundings);
+}
+
+int carryOut(const Words& arguments, const Surroundings_s& surroundings) {
+    if (arguments.empty())
+        throw UsageError("nothing to do: give files, or a command; plot3d --help lists them");
+    if (const Shower shower = showerFor(arguments.front()))
+        return shower(arguments, surroundings);
+    const Commands commands = allCommands();
+    if (Command* command = find(commands, arguments.front()))
+        return DeclaredCommand(*command).run({arguments.begin() + 1, arguments.end()},
+                                             surroundings);
+    if (looksLikeCommand(arguments.front()))
+        throw UsageError(fmt::format("there is no command and no file \"{}\"; the nearest command "
+                                     "is \"{}\"",
+                                     arguments.front(),
+                                     nearestOf(arguments.front(), namesOf(commands))));
+    return DeclaredCommand(*commands.front()).run(arguments, surroundings);
+}
+
+} // namespace plot3d::program

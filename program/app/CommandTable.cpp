@@ -1,0 +1,17 @@
+#include "app/CommandTable.h"
+
+#include "convert/ConvertCommand.h"
+#include "info/InfoCommand.h"
+#include "stats/StatsCommand.h"
+
+namespace plot3d::program {
+
+Commands allCommands() {
+    Commands commands;
+    commands.push_back(std::make_unique<InfoCommand>());
+    commands.push_back(std::make_unique<StatsCommand>());
+    commands.push_back(std::make_unique<ConvertCommand>());
+    return commands;
+}
+
+} // namespace plot3d::program

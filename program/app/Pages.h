@@ -1,0 +1,55 @@
+// What there is to tell of the commands and their options: one description, from which help texts,
+// the man page and the shells' completions are made.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/CommandTable.h"
+
+namespace plot3d::program {
+
+struct OptionRow_s {
+    std::vector<std::string> names = {};   // "-o", "--output"; of a positional argument "FILE"
+    std::string value = {};                // "FILE"; empty for a flag
+    std::string text = {};                 // without line breaks
+    std::string group = {};                // heading that it stands under
+    std::vector<std::string> choices = {}; // the words that it can be; empty for anything
+    bool isRepeatable = false;
+    bool isRequired = false;
+
+    bool takesFile() const { return value == "FILE" || value == "FOLDER"; }
+};
+
+struct CommandPage_s {
+    std::string name;    // "info"; empty for the program itself
+    std::string purpose; // one line
+    std::vector<OptionRow_s> positionals;
+    std::vector<OptionRow_s> options;
+    std::string examples;
+    std::string failureMeans; // of exit code 1
+};
+
+/// Of a command whose options `app` holds.
+CommandPage_s pageOf(const Command& command, const CLI::App& app);
+
+/// Of the program itself: its own options, and its examples.
+CommandPage_s programPage();
+
+/// Of the program, then of each command.
+std::vector<CommandPage_s> allPages();
+
+/// "[OPTION]... FILE...", what stands behind the name.
+std::string usageOf(const CommandPage_s& page);
+
+/// "-o, --output FILE".
+std::string headOf(const OptionRow_s& option);
+
+struct ExitMeaning_s {
+    int code;
+    std::string meaning;
+};
+
+std::vector<ExitMeaning_s> exitMeaningsOf(const CommandPage_s& page);
+
+} // namespace plot3d::program

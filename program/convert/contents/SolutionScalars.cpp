@@ -1,0 +1,96 @@
+#include "convert/contents/SolutionScalars.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "convert/contents/NumberInput.h"
+
+namespace plot3d::program {
+
+namespace {
+
+constexpr std::size_t overflowInteger = 7; // the one scalar that is an integer, from 0
+
+int dimensionCount(Layout layout) {
+    if (layout == Layout::OneD)
+        return 1;
+    return layout == Layout::TwoD ? 2 : 3;
+}
+
+class Reading {
+public:
+    Reading(const FileInfo& info, const std::stop_token& stop)
+        : info_(info), layout_(info.layout.value_or(Layout::ThreeDWhole)),
+          isOverflow_(info.style == Style::Overflow), numbers_(openNumbers(info, stop)) {}
+
+    SolutionScalars_s run() {
+        passHeader();
+        for (std::size_t grid = 0; grid < info_.grids.size(); ++grid) {
+            scalars_.ofGrid.push_back(readScalars());
+            if (grid + 1 < info_.grids.size())
+                passVariables(info_.grids[grid]);
+        }
+        return std::move(scalars_);
+    }
+
+private:
+    void passHeader() {
+        if (info_.multiGrid) {
+            numbers_->nextInteger();
+            numbers_->nextRecord();
+        }
+        for (std::size_t grid = 0; grid < info_.grids.size(); ++grid)
+            for (int place = 0; place < dimensionCount(layout_); ++place)
+                numbers_->nextInteger();
+        if (isOverflow_) {
+            numbers_->nextInteger(); // variables
+            scalars_.speciesCount = numbers_->nextInteger();
+        }
+        numbers_->nextRecord();
+    }
+
+    std::vector<double> readScalars() {
+        std::vector<double> scalars;
+        for (int place = 0; place < expectedCount(); ++place)
+            scalars.push_back(isOverflow_ && place == static_cast<int>(overflowInteger)
+                                  ? numbers_->nextInteger()
+                                  : numbers_->nextReal());
+        while (isOverflow_ && numbers_->realsLeft() > 0)
+            scalars.push_back(numbers_->nextReal());
+        return scalars;
+    }
+
+    int expectedCount() const {
+        if (layout_ == Layout::OneD)
+            return 4;
+        if (isOverflow_)
+            return 11 + std::max(scalars_.speciesCount, 2);
+        return info_.style == Style::Swift ? 5 : 4;
+    }
+
+    /// From behind the scalars of a grid to those of the next.
+    void passVariables(const GridSize& grid) {
+        const bool inPlanes = layout_ == Layout::ThreeDPlanes;
+        if (info_.encoding != Encoding::Fortran) {
+            numbers_->skipReals(std::int64_t{grid.i} * grid.j * grid.k * info_.variables);
+            return;
+        }
+        const std::int32_t records = 1 + (inPlanes ? grid.k : 1);
+        for (std::int32_t record = 0; record < records; ++record)
+            numbers_->nextRecord();
+    }
+
+    const FileInfo& info_;
+    Layout layout_;
+    bool isOverflow_;
+    std::unique_ptr<NumberInput> numbers_;
+    SolutionScalars_s scalars_;
+};
+
+} // namespace
+
+SolutionScalars_s readSolutionScalars(const FileInfo& info, const std::stop_token& stop) {
+    return Reading(info, stop).run();
+}
+
+} // namespace plot3d::program

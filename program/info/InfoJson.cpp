@@ -1,0 +1,183 @@
+#include "info/InfoJson.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "info/InfoWords.h"
+
+namespace plot3d::program {
+namespace {
+
+using console::JsonStream;
+
+template <typename Value>
+void member(JsonStream& json, std::string_view key, const Value& value) {
+    json.key(key);
+    json.value(value);
+}
+
+template <typename Value>
+void member(JsonStream& json, std::string_view key, const std::optional<Value>& value) {
+    json.key(key);
+    if (value)
+        json.value(*value);
+    else
+        json.null();
+}
+
+template <typename Value>
+void word(JsonStream& json, std::string_view key, const std::optional<Value>& value) {
+    member(json, key, value ? std::optional(std::string_view(wordOf(*value))) : std::nullopt);
+}
+
+/// Texts that are not known are null.
+void text(JsonStream& json, std::string_view key, const std::string& value) {
+    member(json, key, value.empty() ? std::nullopt : std::optional(std::string_view(value)));
+}
+
+template <typename Value>
+std::optional<Value> onlyIf(bool hasMeaning, Value value) {
+    return hasMeaning ? std::optional(value) : std::nullopt;
+}
+
+void writeTexts(JsonStream& json, std::string_view key, const std::vector<std::string>& texts) {
+    json.key(key);
+    json.beginList();
+    for (const std::string& each : texts)
+        json.value(each);
+    json.endList();
+}
+
+void writeGrids(JsonStream& json, const FileInfo& info) {
+    json.key("grids");
+    json.beginList();
+    for (const GridSize& size : info.grids) {
+        json.beginObject();
+        member(json, "i", size.i);
+        member(json, "j", size.j);
+        member(json, "k", size.k);
+        json.endObject();
+    }
+    json.endList();
+}
+
+void writeScalars(JsonStream& json, const FileInfo& info) {
+    json.key("scalars");
+    json.beginList();
+    for (const Scalars& scalars : info.scalars) {
+        json.beginObject();
+        member(json, "mach", scalars.mach);
+        member(json, "alpha", scalars.alpha);
+        member(json, "reynolds", scalars.reynolds);
+        member(json, "time", scalars.time);
+        json.endObject();
+    }
+    json.endList();
+}
+
+void writeBytes(JsonStream& json, const ByteAccount& bytes) {
+    json.key("bytes");
+    json.beginObject();
+    member(json, "size", bytes.size);
+    member(json, "used", bytes.used);
+    member(json, "missing", bytes.missing);
+    member(json, "surplus", bytes.surplus);
+    json.endObject();
+}
+
+void writeProblem(JsonStream& json, const FileProblem& problem) {
+    json.beginObject();
+    text(json, "what", problem.misfit.what);
+    member(json, "byte", problem.misfit.byte);
+    member(json, "line", problem.misfit.line);
+    member(json, "column", problem.misfit.column);
+    text(json, "expected", problem.misfit.expected);
+    text(json, "found", problem.misfit.found);
+    writeTexts(json, "try", problem.next);
+    json.endObject();
+}
+
+void writeCandidate(JsonStream& json, const Candidate& candidate, bool isText) {
+    json.key("candidate");
+    json.beginObject();
+    member(json, "kind", wordOf(candidate.kind));
+    member(json, "layout", wordOf(candidate.layout));
+    word(json, "style", candidate.style);
+    member(json, "multiGrid", candidate.multiGrid);
+    member(json, "iBlank", candidate.iBlank);
+    member(json, "precision", onlyIf(!isText, candidate.precision));
+    word(json, "byteOrder", candidate.byteOrder);
+    json.endObject();
+}
+
+void writeMisfit(JsonStream& json, const std::optional<Misfit>& misfit) {
+    json.key("misfit");
+    if (!misfit)
+        return json.null();
+    json.beginObject();
+    text(json, "what", misfit->what);
+    member(json, "byte", misfit->byte);
+    text(json, "expected", misfit->expected);
+    text(json, "found", misfit->found);
+    json.endObject();
+}
+
+void writeWhy(JsonStream& json, const FileInfo& info) {
+    json.key("why");
+    json.beginList();
+    for (const Trial& trial : info.trials) {
+        json.beginObject();
+        writeCandidate(json, trial.candidate, info.encoding == Encoding::Text);
+        writeMisfit(json, trial.misfit);
+        json.endObject();
+    }
+    json.endList();
+}
+
+void writeStructure(JsonStream& json, const FileInfo& info) {
+    const bool hasGrids = info.layout.has_value();
+    word(json, "kind", info.kind);
+    word(json, "encoding", info.encoding);
+    member(json, "markerBytes", info.markerBytes);
+    word(json, "byteOrder", info.byteOrder);
+    member(json, "precision", info.precision);
+    word(json, "layout", info.layout);
+    word(json, "style", info.style);
+    member(json, "multiGrid", onlyIf(hasGrids, info.multiGrid));
+    member(json, "iBlank", onlyIf(hasGrids && info.kind == FileKind::Grid, info.iBlank));
+    writeGrids(json, info);
+    member(json, "variables", onlyIf(hasGrids, info.variables));
+    writeScalars(json, info);
+    writeBytes(json, info.bytes);
+}
+
+} // namespace
+
+void writeFile(JsonStream& json, const FileInfo& info) {
+    json.beginObject();
+    member(json, "file", info.file);
+    member(json, "ok", info.ok);
+    writeStructure(json, info);
+    json.key("problem");
+    if (info.problem)
+        writeProblem(json, *info.problem);
+    else
+        json.null();
+    writeWhy(json, info);
+    json.key("warnings");
+    json.beginList();
+    for (const FileProblem& warning : info.warnings)
+        writeProblem(json, warning);
+    json.endList();
+    json.key("alsoFits");
+    json.beginList();
+    for (const FileKind kind : info.alsoFits)
+        json.value(wordOf(kind));
+    json.endList();
+    writeTexts(json, "names", info.names);
+    json.endObject();
+}
+
+} // namespace plot3d::program

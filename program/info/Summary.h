@@ -1,0 +1,14 @@
+// A file for a person: a few lines that tell what it is, and what is wrong with it.
+#pragma once
+
+#include <plot3d/FileInfo.h>
+
+#include "manners/Command.h"
+
+namespace plot3d::program {
+
+enum class Lists_e : unsigned char { Shortened, Whole };
+
+void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
+
+} // namespace plot3d::program

@@ -1,0 +1,109 @@
+#include "selection/DataArguments.h"
+
+#include <utility>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+
+#include <plot3d/Error.h>
+
+#include "manners/FileList.h"
+#include "manners/Options.h"
+#include "manners/ProgressWatch.h"
+#include "manners/Talk.h"
+
+namespace plot3d::program {
+namespace {
+
+std::string settingProblem(const std::string& text) {
+    const std::size_t equals = text.find('=');
+    return equals == std::string::npos || equals == 0
+               ? fmt::format("\"{}\" is not of the form KEY=VALUE", text)
+               : std::string();
+}
+
+std::pair<std::string, std::string> settingOf(const std::string& text) {
+    const std::size_t equals = text.find('=');
+    return {text.substr(0, equals), text.substr(equals + 1)};
+}
+
+bool isEmpty(const FileLists& lists) {
+    return lists.grid.empty() && lists.solution.empty() && lists.function.empty();
+}
+
+/// Lists of known kinds, with what standard input lists in the place of `-`.
+FileLists listedByKind(const FileLists& lists, std::istream& in) {
+    FileLists result = lists;
+    result.grid = filesNamed(lists.grid, in);
+    result.solution = filesNamed(lists.solution, in);
+    result.function = filesNamed(lists.function, in);
+    return result;
+}
+
+/// Opens with progress, and tells the notes of the load.
+template <typename Files>
+DataSet opened(const Files& files, const OpenOptions& options, const Surroundings_s& surroundings) {
+    ProgressWatch progress(surroundings);
+    DataSet data = DataSet::open(files, options, progress.watch());
+    progress.clear();
+    for (const std::string& note : data.notes())
+        tellWarning(surroundings, note);
+    return data;
+}
+
+} // namespace
+
+void DataArguments::declare(CLI::App& app) {
+    CLI::Option* const files =
+        addFiles(app, files_,
+                 "Files of one data set in any order; - reads a list of them from standard input");
+    const auto addKind = [&](const char* name, std::vector<std::string>& list, const char* help) {
+        addRepeatable(app, name, list, "FILE", help)->allow_extra_args()->excludes(files);
+    };
+    addKind("--grid", lists_.grid, "Grid files, where neither names nor bytes tell the kinds");
+    addKind("--solution", lists_.solution, "Solution files, likewise");
+    addKind("--function", lists_.function, "Function files, likewise");
+    declareOptions(app);
+}
+
+void DataArguments::declareOptions(CLI::App& app) {
+    app.add_option("--name", nameFile_, "File with the names of the variables")->type_name("FILE");
+    addRepeatable(app, "--set", settings_, "KEY=VALUE",
+                  "A load instruction, such as AUTODETECT=No; may come several times")
+        ->check(settingProblem);
+    app.add_flag("--share-structure", sharesStructure_,
+                 "Take all files of a kind to be built like the first, without looking");
+    app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files");
+}
+
+OpenOptions DataArguments::options() const {
+    OpenOptions options;
+    options.shareStructure = sharesStructure_;
+    options.boundaries = !leavesOutBoundaries_;
+    options.nameFile = nameFile_;
+    for (const std::string& setting : settings_)
+        options.instructions.push_back(settingOf(setting));
+    return options;
+}
+
+DataSet DataArguments::open(const Surroundings_s& surroundings) const {
+    if (isEmpty(lists_))
+        return open(files(surroundings), surroundings);
+    return opened(listedByKind(lists_, surroundings.in), options(), surroundings);
+}
+
+DataSet DataArguments::open(const std::vector<std::string>& files,
+                            const Surroundings_s& surroundings) const {
+    if (files.empty())
+        throw Error(ErrorKind::Usage, "no file is named");
+    return opened(files, options(), surroundings);
+}
+
+std::vector<std::string> DataArguments::files(const Surroundings_s& surroundings) const {
+    std::vector<std::string> names = files_;
+    for (const auto* list : {&lists_.grid, &lists_.solution, &lists_.function})
+        names.insert(names.end(), list->begin(), list->end());
+    return filesNamed(names, surroundings.in);
+}
+
+} // namespace plot3d::program

@@ -1,0 +1,34 @@
+// The summary of one block of values.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "blocks/BlockSplit.h"
+#include "stats/FieldSummary.h"
+
+namespace plot3d::program {
+
+enum class Checksum_e : unsigned char { No, Yes };
+
+/// Where the values of a block stand.
+struct BlockPlace_s {
+    std::size_t zone = 0; // from 0
+    Box box;
+};
+
+/// `values` are those of the block, I fastest. `iBlank`: for each value that of its point, which
+/// does not count where it is 0; empty if all count. Of integers with a table.
+template <typename Value>
+FieldSummary_s summaryOf(std::span<const Value> values, std::span<const std::int32_t> iBlank,
+                         const BlockPlace_s& place, Checksum_e checksum);
+
+extern template FieldSummary_s summaryOf(std::span<const float>, std::span<const std::int32_t>,
+                                         const BlockPlace_s&, Checksum_e);
+extern template FieldSummary_s summaryOf(std::span<const double>, std::span<const std::int32_t>,
+                                         const BlockPlace_s&, Checksum_e);
+extern template FieldSummary_s summaryOf(std::span<const std::int32_t>,
+                                         std::span<const std::int32_t>, const BlockPlace_s&,
+                                         Checksum_e);
+
+} // namespace plot3d::program

@@ -1,0 +1,124 @@
+#include "stats/StatsCommand.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include <CLI/CLI.hpp>
+#include <fmt/core.h>
+
+#include "blocks/DataSetFields.h"
+#include "manners/ProgressWatch.h"
+#include "manners/Talk.h"
+#include "selection/NumberList.h"
+#include "stats/StatsReport.h"
+
+namespace plot3d::program {
+namespace {
+
+bool isCount(const std::string& word) {
+    return !word.empty() && std::all_of(word.begin(), word.end(), [](unsigned char letter) {
+        return std::isdigit(letter) != 0;
+    });
+}
+
+std::vector<double> percentilesIn(const std::string& text) {
+    std::vector<double> percentiles;
+    if (text.empty())
+        return percentiles;
+    for (const std::string_view part : partsOf(text, ',')) {
+        const auto percentile = realNumber(part);
+        if (!percentile || *percentile < 0 || *percentile > 100)
+            throw Error(ErrorKind::Usage,
+                        fmt::format("\"{}\" is no percentile: they lie between 0 and 100", part));
+        percentiles.push_back(*percentile);
+    }
+    return percentiles;
+}
+
+/// Tells what could not be read, each field once. Gives the exit code.
+int tellUnread(const StatsReport_s& report, const Surroundings_s& surroundings) {
+    int code = ExitCode_Done;
+    for (const VariableStatistics_s& variable : report.variables) {
+        for (const ZoneStatistics_s& zone : variable.zones) {
+            if (!zone.error)
+                continue;
+            const std::string what = fmt::format(
+                "{} of zone {} can't be read: ", report.nameOf(variable), zone.zone + 1);
+            tellError(surroundings.err,
+                      Error(zone.error->kind(), what + zone.error->message(), zone.error->facts()));
+            code = ExitCode_Unreadable;
+        }
+    }
+    return code;
+}
+
+} // namespace
+
+const char* StatsCommand::purpose() const {
+    return "Tell minimum, maximum, mean and more of the values of variables";
+}
+
+const char* StatsCommand::examples() const {
+    return "  plot3d stats wing.x wing.q\n"
+           "      every variable, over all zones\n"
+           "  plot3d stats wing.x wing.q --variable 'RHO*' --zone 1,3-5 --k 1 --per-zone\n"
+           "      density and momentum at the wall K = 1 of four zones\n"
+           "  plot3d stats wing.x step*.q --variable E --point 40,12,1 --json\n"
+           "      the energy at one point through time, for a program\n"
+           "  plot3d stats wing.f --percentiles 5,50,95 --histogram 40\n"
+           "      how the values of a function file are spread\n";
+}
+
+void StatsCommand::declare(CLI::App& app) {
+    files_.declare(app);
+    selection_.declare(app);
+    app.add_option("--percentiles", percentiles_, "Percentiles, such as 5,50,95")
+        ->type_name("LIST");
+    app.add_option("--histogram", bins_, "Counts in bins of equal width, 20 unless you say")
+        ->type_name("[BINS]")
+        ->check(CLI::Range(1, 100000));
+    app.add_flag("--hash", hash_,
+                 "CRC-32 of the values of each field, as little-endian bytes, I fastest");
+    app.add_flag("--per-zone", perZone_, "Tell each zone in the tables, too");
+    app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.stats/1");
+    app.add_option("--threads", threads_, "Cores to work on; all of them unless you say")
+        ->type_name("COUNT")
+        ->check(CLI::Range(1, 1024));
+}
+
+void StatsCommand::takeApart(std::vector<std::string>& arguments) {
+    const auto found = std::find(arguments.begin(), arguments.end(), "--histogram");
+    if (found != arguments.end() && (found + 1 == arguments.end() || !isCount(*(found + 1))))
+        *found += "=20";
+}
+
+StatsSelection_s StatsCommand::selectionIn(const DataSet& data) const {
+    StatsSelection_s selection = {selection_.variables(data), selection_.selectedZones(data), {}};
+    if (selection_.skipsBlanked())
+        selection.leavesOutBy = iBlankVariable(data);
+    return selection;
+}
+
+StatsWishes_s StatsCommand::wishes() const {
+    return {hash_ ? Checksum_e::Yes : Checksum_e::No, percentilesIn(percentiles_),
+            static_cast<std::size_t>(bins_), threads_ > 0 ? threads_ : coreCount()};
+}
+
+int StatsCommand::run(const Surroundings_s& surroundings) {
+    const StatsWishes_s wished = wishes();
+    const DataSet data = files_.open(surroundings);
+    const StatsSelection_s selection = selectionIn(data);
+    ProgressWatch progress(surroundings);
+    const auto variables = statisticsOf(
+        DataSetFields(data), selection, wished,
+        {[&](double fraction) { progress.show(fraction, "Reading values"); }, surroundings.stop});
+    progress.clear();
+    const StatsReport_s report = {data, selection, wished, variables, perZone_};
+    if (json_)
+        writeJson(report, surroundings.out);
+    else
+        printTables(report, surroundings);
+    return tellUnread(report, surroundings);
+}
+
+} // namespace plot3d::program

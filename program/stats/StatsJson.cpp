@@ -1,0 +1,159 @@
+#include <cmath>
+#include <optional>
+
+#include <fmt/core.h>
+
+#include "console/JsonStream.h"
+#include "stats/StatsReport.h"
+
+namespace plot3d::program {
+namespace {
+
+class StatsJson {
+public:
+    StatsJson(const StatsReport_s& report, std::ostream& out) : report_(report), json_(out) {}
+
+    void write() {
+        json_.beginObject();
+        member("schema", "plot3d.stats/1");
+        member("blank", report_.selection.leavesOutBy ? "skip" : "keep");
+        json_.key("variables");
+        json_.beginList();
+        for (const VariableStatistics_s& variable : report_.variables)
+            writeVariable(variable);
+        json_.endList();
+        json_.endObject();
+        json_.finish();
+    }
+
+private:
+    template <typename Value>
+    void member(const char* key, const Value& value) {
+        json_.key(key);
+        json_.value(value);
+    }
+
+    void memberOrNull(const char* key, std::optional<double> value) {
+        json_.key(key);
+        if (value)
+            json_.value(*value);
+        else
+            json_.null();
+    }
+
+    void writeVariable(const VariableStatistics_s& variable) {
+        json_.beginObject();
+        member("name", report_.nameOf(variable));
+        writeStatistics(variable, variable.whole);
+        json_.key("zones");
+        json_.beginList();
+        for (const ZoneStatistics_s& zone : variable.zones)
+            writeZone(variable, zone);
+        json_.endList();
+        json_.endObject();
+    }
+
+    void writeZone(const VariableStatistics_s& variable, const ZoneStatistics_s& zone) {
+        json_.beginObject();
+        member("zone", zone.zone + 1);
+        member("name", report_.data.zones()[zone.zone].name);
+        member("time", report_.data.zones()[zone.zone].time);
+        writeStatistics(variable, zone.statistics);
+        if (zone.error)
+            member("error", zone.error->what());
+        json_.endObject();
+    }
+
+    void writeStatistics(const VariableStatistics_s& variable, const Statistics_s& statistics) {
+        const FieldSummary_s& summary = statistics.summary;
+        const auto known = [&](double value) {
+            return summary.moments.count > 0 ? std::optional(value) : std::nullopt;
+        };
+        member("count", summary.moments.count);
+        memberOrNull("min", known(summary.min));
+        memberOrNull("max", known(summary.max));
+        writePlace("minAt", summary, summary.minAt);
+        writePlace("maxAt", summary, summary.maxAt);
+        memberOrNull("mean", known(summary.moments.mean()));
+        memberOrNull("deviation", known(summary.moments.deviation()));
+        member("nan", summary.nan);
+        member("infinite", summary.infinite);
+        member("blanked", summary.blanked);
+        if (report_.wishes.checksum == Checksum_e::Yes)
+            member("crc32", fmt::format("{:08x}", summary.checksum.crc32));
+        if (variable.type == ValueType::Int32)
+            writeTable(summary);
+        if (!report_.wishes.percentiles.empty())
+            writePercentiles(statistics);
+        if (report_.wishes.bins > 0)
+            writeHistogram(variable, statistics);
+    }
+
+    void writePlace(const char* key, const FieldSummary_s& summary, const Place_s& place) {
+        json_.key(key);
+        if (summary.moments.count == 0) {
+            json_.null();
+            return;
+        }
+        json_.beginObject();
+        member("zone", place.zone + 1);
+        member("i", place.point.i + 1);
+        member("j", place.point.j + 1);
+        member("k", place.point.k + 1);
+        json_.endObject();
+    }
+
+    void writeTable(const FieldSummary_s& summary) {
+        json_.key("values");
+        json_.beginList();
+        for (const auto& [value, count] : summary.table) {
+            json_.beginObject();
+            member("value", value);
+            member("count", count);
+            json_.endObject();
+        }
+        json_.endList();
+        member("otherValues", summary.beyondTable);
+    }
+
+    void writePercentiles(const Statistics_s& statistics) {
+        json_.key("percentiles");
+        json_.beginList();
+        for (std::size_t index = 0; index < statistics.percentiles.size(); ++index) {
+            const double value = statistics.percentiles[index];
+            json_.beginObject();
+            member("percent", report_.wishes.percentiles[index]);
+            memberOrNull("value", std::isnan(value) ? std::nullopt : std::optional(value));
+            json_.endObject();
+        }
+        json_.endList();
+    }
+
+    void writeHistogram(const VariableStatistics_s& variable, const Statistics_s& statistics) {
+        json_.key("histogram");
+        if (statistics.histogram.empty()) {
+            json_.null();
+            return;
+        }
+        json_.beginObject();
+        member("min", variable.whole.summary.min);
+        member("max", variable.whole.summary.max);
+        json_.key("counts");
+        json_.beginList();
+        for (const std::int64_t count : statistics.histogram)
+            json_.value(count);
+        json_.endList();
+        json_.endObject();
+    }
+
+    const StatsReport_s& report_;
+    console::JsonStream json_;
+};
+
+} // namespace
+
+void writeJson(const StatsReport_s& report, std::ostream& out) {
+    StatsJson(report, out).write();
+}
+
+} // namespace plot3d::program

@@ -1,0 +1,34 @@
+// Statistics for people and for programs.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include <plot3d/DataSet.h>
+
+#include "manners/Command.h"
+#include "stats/Statistics.h"
+
+namespace plot3d::program {
+
+/// What is told; all borrowed.
+struct StatsReport_s {
+    const DataSet& data;
+    const StatsSelection_s& selection;
+    const StatsWishes_s& wishes;
+    const std::vector<VariableStatistics_s>& variables;
+    bool tellsZones = false; // in tables; JSON always does
+
+    const std::string& nameOf(const VariableStatistics_s& statistics) const {
+        return data.variables()[statistics.variable].name;
+    }
+};
+
+/// Tables that fit the terminal.
+void printTables(const StatsReport_s& report, const Surroundings_s& surroundings);
+
+/// The schema plot3d.stats/1: docs/stats.md tells it.
+void writeJson(const StatsReport_s& report, std::ostream& out);
+
+} // namespace plot3d::program

@@ -1,0 +1,48 @@
+// The host exists once in a program, in whichever order it is linked with the library: what the
+// library does there is seen by the program. Built in both orders.
+#include <filesystem>
+#include <string>
+
+#include <link.h>
+
+#include "OpenFixture.h"
+#include "session/ReferenceHost.h"
+
+namespace plot3dtest {
+namespace {
+
+using writer::FileKind_e;
+
+/// The libraries of this project that the program has loaded, in their order.
+std::vector<std::string> loadedLibraries() {
+    std::vector<std::string> names;
+    const auto note = [](dl_phdr_info* info, std::size_t, void* data) {
+        const std::string name = std::filesystem::path(info->dlpi_name).filename().string();
+        if (name.starts_with("libplot3d.so") || name.starts_with("libquorhost.so"))
+            static_cast<std::vector<std::string>*>(data)->push_back(
+                name.substr(0, name.find(".so") + 3));
+        return 0;
+    };
+    dl_iterate_phdr(note, &names);
+    return names;
+}
+
+class LinkOrder : public OpenTest {};
+
+TEST_F(LinkOrder, LeavesOneHost) {
+    const auto& host = quorvia::host::ReferenceHost::instance();
+    plot3d::DataSet::open({write("wing.x", wholeLayout(FileKind_e::Grid)).path});
+    EXPECT_EQ(host.loaderNames(), std::vector<std::string>{"PLOT3D Loader"});
+    EXPECT_EQ(loadedLibraries().size(), 2u);
+    EXPECT_EQ(loadedLibraries().front(), FIRST_LIBRARY);
+}
+
+TEST_F(LinkOrder, LeavesTheProgramsOwnSymbolsAlone) {
+    const auto grid = write("wing.x", wholeLayout(FileKind_e::Grid));
+    const auto data = plot3d::DataSet::open({grid.path});
+    EXPECT_THROW(data.source(0, 99), plot3d::Error);
+    expectFields(data, FileReading::asMeant(grid), 0);
+}
+
+} // namespace
+} // namespace plot3dtest

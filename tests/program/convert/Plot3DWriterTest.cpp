@@ -1,0 +1,111 @@
+// The PLOT3D files that the program writes are those of the independent writer, to the byte.
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+
+#include <plot3d/Error.h>
+
+#include "acceptance/matrix/MatrixCase.h"
+#include "convert/plot3d/Plot3DWriter.h"
+#include "plot3dwriter/Plot3DWriter.h"
+#include "program/convert/DescribedContents.h"
+#include "support/TemporaryDirectory.h"
+
+namespace quorvia::testsupport {
+namespace {
+
+using namespace plot3d;
+using namespace plot3d::program;
+using plot3dwriter::Encoding_e;
+using plot3dwriter::FileDescription_s;
+using plot3dwriter::FileKind_e;
+
+std::string bytesOf(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// Integers that mean nothing are not kept.
+FileDescription_s described(const LayoutCase_s& layout) {
+    FileDescription_s contents = contentsOf(layout);
+    contents.triangleTag = nullptr;
+    return contents;
+}
+
+std::string witnessBytes(const FileDescription_s& contents, const plot3dwriter::FileForm_s& form) {
+    std::string bytes;
+    EXPECT_EQ(plot3dwriter::writePlot3DBytes(bytes, contents, form).problem, "");
+    return bytes;
+}
+
+Layout layoutOf(plot3dwriter::Layout_e layout) {
+    switch (layout) {
+    case plot3dwriter::Layout_e::OneD:
+        return Layout::OneD;
+    case plot3dwriter::Layout_e::TwoD:
+        return Layout::TwoD;
+    case plot3dwriter::Layout_e::ThreeDWhole:
+        return Layout::ThreeDWhole;
+    case plot3dwriter::Layout_e::ThreeDPlanes:
+        return Layout::ThreeDPlanes;
+    case plot3dwriter::Layout_e::Unstructured:
+        return Layout::Unstructured;
+    }
+    return Layout::ThreeDWhole;
+}
+
+FormWishes_s wishesFor(const LayoutCase_s& layout, const plot3dwriter::FileForm_s& form) {
+    FormWishes_s wishes;
+    wishes.encoding = form.encoding == Encoding_e::Text     ? Encoding::Text
+                      : form.encoding == Encoding_e::Binary ? Encoding::Binary
+                                                            : Encoding::Fortran;
+    wishes.markerBytes = form.markerBytes;
+    wishes.order =
+        form.byteOrder == plot3dwriter::ByteOrder_e::Little ? ByteOrder::Little : ByteOrder::Big;
+    wishes.precision = isDouble(form) ? ValueType::Float64 : ValueType::Float32;
+    wishes.layout = layoutOf(layout.layout);
+    wishes.multiGrid = layout.isMultiGrid;
+    wishes.original.segmentBytes = form.maxSegmentBytes;
+    return wishes;
+}
+
+class Plot3DFiles : public ::testing::TestWithParam<MatrixCase_s> {
+protected:
+    const TemporaryDirectory directory_;
+};
+
+TEST_P(Plot3DFiles, AreThoseOfTheWitness) {
+    const auto& [layout, form] = GetParam();
+    const bool isGrid = layout.kind == FileKind_e::Grid;
+    const FileDescription_s grid = described(isGrid ? layout : companionGrid(layout));
+    const auto other = isGrid ? std::nullopt : std::optional(described(layout));
+    DescribedContents contents(grid, other, ValueType::Float64);
+    const Written_s written =
+        Plot3DWriter().write(contents, {directory_.file("out.x"), false, wishesFor(layout, form)});
+    ASSERT_EQ(written.files.size(), isGrid ? 1U : 2U);
+    EXPECT_EQ(bytesOf(written.files[0]), witnessBytes(grid, form));
+    if (other) {
+        EXPECT_EQ(bytesOf(written.files[1]), witnessBytes(*other, form));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, Plot3DFiles, ::testing::ValuesIn(everyCase()),
+                         [](const auto& tested) { return nameOf(tested.param); });
+
+TEST(Plot3DFilesInSegments, AreCutAsTheWitnessCutsThem) {
+    const TemporaryDirectory directory;
+    const LayoutCase_s layout = {FileKind_e::Grid, plot3dwriter::Layout_e::ThreeDWhole, true, true};
+    plot3dwriter::FileForm_s form;
+    form.encoding = Encoding_e::Fortran;
+    for (const std::int64_t segmentBytes : {1, 7, 64, 241}) {
+        form.maxSegmentBytes = segmentBytes;
+        DescribedContents contents(described(layout), std::nullopt, ValueType::Float32);
+        const std::string path = directory.file("out.x");
+        Plot3DWriter().write(contents, {path, true, wishesFor(layout, form)});
+        EXPECT_EQ(bytesOf(path), witnessBytes(described(layout), form)) << segmentBytes;
+    }
+}
+
+} // namespace
+} // namespace quorvia::testsupport

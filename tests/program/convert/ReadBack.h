@@ -1,0 +1,49 @@
+// What readers of others find in converted files: data sets are written with what they hold beside
+// them, converted, and then all read by one process.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <plot3d/DataSet.h>
+
+#include "acceptance/matrix/FileReading.h"
+#include "support/TemporaryDirectory.h"
+
+namespace quorvia::testsupport {
+
+/// How files of the matrix are opened, and what they are then expected to hold.
+struct OpenedCase_s {
+    std::vector<std::string> files;
+    std::vector<std::string> settings; // KEY=VALUE
+    std::vector<FileReading> readings; // of the files
+};
+
+/// Runs the program; gives its exit code.
+int runProgram(const std::vector<std::string>& arguments, std::string* err = nullptr);
+
+class ReadBackTest : public ::testing::Test {
+protected:
+    /// A folder of its own for a data set.
+    std::string folder(const std::string& name) const;
+    /// Writes the files of a row of the matrix into it.
+    OpenedCase_s writeCase(const std::string& folder, const MatrixCase_s& matrixCase);
+    /// `--set` and the like for the files.
+    static std::vector<std::string> arguments(const OpenedCase_s& opened);
+    /// Converts it to folder/out.<ending> for each of the endings.
+    static void convert(const std::string& folder, std::vector<std::string> arguments,
+                        const std::vector<std::string>& endings);
+    /// Writes what must be read.
+    static void writeExpected(const std::string& folder, const OpenedCase_s& opened);
+    /// Reads all folders. Skips the test where the readers are not there.
+    void expectReadBack(int fileCount) const;
+
+private:
+    const TemporaryDirectory directory_;
+    std::vector<std::unique_ptr<WrittenFile_s>> written_; // readings point into them
+};
+
+} // namespace quorvia::testsupport
