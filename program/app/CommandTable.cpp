@@ -1,6 +1,7 @@
 #include "app/CommandTable.h"
 
 #include "convert/ConvertCommand.h"
+#include "index/IndexCommand.h"
 #include "info/InfoCommand.h"
 #include "stats/StatsCommand.h"
 
@@ -11,6 +12,7 @@ Commands allCommands() {
     commands.push_back(std::make_unique<InfoCommand>());
     commands.push_back(std::make_unique<StatsCommand>());
     commands.push_back(std::make_unique<ConvertCommand>());
+    commands.push_back(std::make_unique<IndexCommand>());
     return commands;
 }
 

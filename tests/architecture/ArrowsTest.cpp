@@ -97,7 +97,13 @@ const Arrows programArrows = {
     {"blocks", {}},
     {"stats", {"console", "manners", "selection", "blocks"}},
     {"diff", {"console", "manners", "selection", "blocks"}},
-    {"app", {"console", "manners", "info", "stats", "diff"}},
+    {"index/contents", {"selection"}},
+    {"index/cgns", {"manners", "index/contents"}},
+    {"index/references", {"manners", "index/contents"}},
+    {"index/xdmf", {"manners", "index/contents"}},
+    {"index",
+     {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf"}},
+    {"app", {"console", "manners", "info", "stats", "diff", "convert", "index"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
