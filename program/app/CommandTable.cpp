@@ -2,6 +2,7 @@
 
 #include "convert/ConvertCommand.h"
 #include "diff/DiffCommand.h"
+#include "index/IndexCommand.h"
 #include "info/InfoCommand.h"
 #include "stats/StatsCommand.h"
 
@@ -13,6 +14,7 @@ Commands allCommands() {
     commands.push_back(std::make_unique<StatsCommand>());
     commands.push_back(std::make_unique<ConvertCommand>());
     commands.push_back(std::make_unique<DiffCommand>());
+    commands.push_back(std::make_unique<IndexCommand>());
     return commands;
 }
 

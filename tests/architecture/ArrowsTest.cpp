@@ -108,7 +108,13 @@ const Arrows programArrows = {
     {"convert",
      {"manners", "selection", "convert/contents", "convert/output", "convert/csv", "convert/npz",
       "convert/vtk", "convert/plot3d", "convert/cgns"}},
-    {"app", {"console", "manners", "info", "stats", "diff", "convert"}},
+    {"index/contents", {"selection"}},
+    {"index/cgns", {"manners", "index/contents"}},
+    {"index/references", {"manners", "index/contents"}},
+    {"index/xdmf", {"manners", "index/contents"}},
+    {"index",
+     {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf"}},
+    {"app", {"console", "manners", "info", "stats", "diff", "convert", "index"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.

@@ -32,7 +32,7 @@ def expect(fits, what):
 
 
 def expect_same(values, expected, what):
-    values = numpy.ascontiguousarray(values)
+    values = numpy.ascontiguousarray(values, dtype=values.dtype.newbyteorder("="))
     expect(values.dtype == expected.dtype, f"{what} is {values.dtype}, not {expected.dtype}")
     expect(values.size == expected.size, f"{what} has {values.size} values, not {expected.size}")
     expect(values.tobytes() == expected.tobytes(), f"values of {what} differ")
@@ -273,4 +273,5 @@ def main():
     return 1 if differences else 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())

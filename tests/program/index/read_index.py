@@ -1,0 +1,192 @@
+#!/usr/bin/python3
+"""read_index.py FOLDER: reads indexes with programs of others, and compares bit for bit.
+
+Each folder in FOLDER is one data set: expected.json and expected.bin tell what it holds, and beside
+them stand its indexes, out.cgns and so on. Prints a line for each thing that differs, then how many
+indexes were read. Exit code 1 if something differs, 77 if a module is missing.
+"""
+import os
+import sys
+import xml.etree.ElementTree
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "convert"))
+sys.dont_write_bytecode = True
+from read_back import Expected, check_cgns, expect, expect_same, standard_names
+
+try:
+    import fsspec
+    import numpy
+    import zarr
+    from vtkmodules.util.numpy_support import vtk_to_numpy
+    from vtkmodules.vtkCommonCore import vtkObject
+    from vtkmodules.vtkCommonDataModel import vtkCompositeDataSet
+    from vtkmodules.vtkIOCGNSReader import vtkCGNSReader
+    from vtkmodules.vtkIOParallel import vtkPlot3DMetaReader
+except ImportError as missing:
+    print(f"not read back: {missing}")
+    sys.exit(77)
+
+differences = []
+
+
+# ---- CGNS: by h5py as it stands, and by VTK's reader
+
+
+def vtk_names(fields, count):
+    """Names of arrays and components: X, Y and Z become one vector."""
+    names = {}
+    stems = [standard_names.get(field["name"], field["name"].rstrip()) for field in fields]
+    for stem in stems:
+        letters = "XYZ"[:count]
+        whole = stem[:-1]
+        if stem[-1:] in letters and all(whole + letter in stems for letter in letters):
+            names[stem] = (whole, "XYZ".index(stem[-1]))
+        else:
+            names[stem] = (stem, None)
+    return [names[stem] for stem in stems]
+
+
+def vtk_blocks(reader):
+    """Blocks of zones by name, of the time that was asked for."""
+    blocks = {}
+    bases = reader.GetOutput()
+    for base in range(bases.GetNumberOfBlocks()):
+        zones = bases.GetBlock(base)
+        for place in range(zones.GetNumberOfBlocks()):
+            name = zones.GetMetaData(place).Get(vtkCompositeDataSet.NAME())
+            blocks[name] = zones.GetBlock(place)
+    return blocks
+
+
+def check_vtk_zone(block, zone, expected, count):
+    expect(block is not None, f"VTK has no block {zone['name']}")
+    points = vtk_to_numpy(block.GetPoints().GetData())
+    for place, field in enumerate(zone["fields"][: expected.coordinates]):
+        expect_same(points[:, place].astype(field["type"]), field["values"], "VTK's points")
+    fields = zone["fields"][expected.coordinates :]
+    for field, (name, component) in zip(fields, vtk_names(fields, count)):
+        array = block.GetPointData().GetArray(name)
+        expect(array is not None, f"VTK has no array {name}")
+        values = vtk_to_numpy(array)
+        values = values if component is None else values[:, component]
+        expect_same(values, field["values"], f"VTK's {name}")
+    if "elements" in zone:
+        cells = vtk_to_numpy(block.GetCells().GetConnectivityArray())
+        expect(cells.tolist() == sum(zone["elements"], []), "VTK's elements differ")
+
+
+def check_cgns_by_vtk(path, expected):
+    reader = vtkCGNSReader()
+    reader.SetFileName(path)
+    reader.DoublePrecisionMeshOn()
+    reader.UpdateInformation()
+    reader.EnableAllBases()
+    reader.EnableAllPointArrays()
+    firsts = {}
+    for time in expected.times:
+        reader.UpdateTimeStep(time)
+        blocks = vtk_blocks(reader)
+        for zone in expected.zones:
+            if zone["strand"] and zone["time"] != time:
+                continue
+            # The zone of a grid keeps the name that it has at the first time.
+            name = firsts.setdefault(zone["strand"] or zone["name"], zone["name"])
+            check_vtk_zone(blocks.get(name[:32]), zone, expected, expected.coordinates)
+
+
+def check_cgns_index(path, expected):
+    check_cgns(path, expected)
+    check_cgns_by_vtk(path, expected)
+
+
+# ---- References: by fsspec and zarr
+
+
+def check_references(path, expected):
+    store = fsspec.filesystem("reference", fo=path, skip_instance_cache=True).get_mapper("")
+    root = zarr.open(store, mode="r")
+    expect(len(list(root.group_keys())) == len(expected.zones), "count of zones")
+    for number, zone in enumerate(expected.zones, 1):
+        group = root[str(number)]
+        expect(group.attrs["name"] == zone["name"], "name of a zone")
+        for field in zone["fields"]:
+            array = group[field["name"].rstrip()]
+            expect("elements" in zone or array.shape == field["values"].shape, "shape")
+            expect_same(array[...], field["values"], field["name"])
+        if "elements" in zone:
+            expect(group["elements"][...].tolist() == zone["elements"], "elements differ")
+
+
+# ---- XDMF: its data items, as its definition says
+
+
+def read_item(item, folder):
+    order = ">" if item.get("Endian") == "Big" else "<"
+    kind = {"Float": "f", "Int": "i"}[item.get("NumberType")]
+    shape = tuple(int(size) for size in item.get("Dimensions").split())
+    if item.get("Format") == "XML":
+        return numpy.array([int(text) for text in item.text.split()]).reshape(shape)
+    path = os.path.join(folder, item.text)
+    dtype = order + kind + item.get("Precision")
+    return numpy.memmap(path, dtype=dtype, mode="r", offset=int(item.get("Seek")), shape=shape)
+
+
+def check_xdmf_zone(grid, zone, expected, folder):
+    expect(grid.get("Name") == zone["name"], f"{grid.get('Name')} is not {zone['name']}")
+    topology = grid.find("Topology")
+    if "elements" in zone:
+        corners = read_item(topology.find("DataItem"), folder)
+        expect(corners.tolist() == zone["elements"], "elements differ")
+    else:
+        sizes = [int(size) for size in topology.get("Dimensions").split()]
+        expect(sizes == zone["size"][::-1], f"sizes are {sizes}")
+    items = grid.findall("Geometry/DataItem") + grid.findall("Attribute/DataItem")
+    names = [attribute.get("Name") for attribute in grid.findall("Attribute")]
+    wanted = [field["name"] for field in zone["fields"][expected.coordinates :]]
+    expect(names == wanted, f"attributes are {names}")
+    expect(len(items) == len(zone["fields"]), "count of data items")
+    for item, field in zip(items, zone["fields"]):
+        expect_same(read_item(item, folder), field["values"], field["name"])
+
+
+def check_xdmf(path, expected):
+    steps = xml.etree.ElementTree.parse(path).getroot().find("Domain/Grid").findall("Grid")
+    times = [float(step.find("Time").get("Value")) for step in steps]
+    expect(times == expected.times, f"times are {times}")
+    for time, step in zip(times, steps):
+        zones = [z for z in expected.zones if not z["strand"] or z["time"] == time]
+        grids = step.findall("Grid")
+        expect(len(grids) == len(zones), "count of grids")
+        for grid, zone in zip(grids, zones):
+            check_xdmf_zone(grid, zone, expected, os.path.dirname(path))
+
+
+checks = {"out.cgns": check_cgns_index, "out.json": check_references, "out.xmf2": check_xdmf}
+
+
+def check(folder):
+    count = 0
+    expected = Expected(folder)
+    for name, check_format in checks.items():
+        path = os.path.join(folder, name)
+        if not os.path.exists(path):
+            continue
+        count += 1
+        try:
+            check_format(path, expected)
+        except Exception as problem:  # of any module: told, and the next one is read
+            differences.append(f"{path}: {type(problem).__name__}: {problem}")
+    return count
+
+
+def main():
+    root = sys.argv[1]
+    vtkObject.GlobalWarningDisplayOff()
+    count = sum(check(os.path.join(root, name)) for name in sorted(os.listdir(root)))
+    for difference in differences:
+        print(difference)
+    print(f"{count} files read")
+    return 1 if differences else 0
+
+
+sys.exit(main())
