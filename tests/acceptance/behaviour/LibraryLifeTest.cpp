@@ -2,7 +2,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include "acceptance/behaviour/SmallFiles.h"
+#include "support/SmallFiles.h"
 #include "acceptance/behaviour/Snapshot.h"
 #include "session/AddOnLibrary.h"
 #include "session/ReferenceHost.h"

@@ -1,6 +1,6 @@
 // Files of several time steps: solution times, strands, and the question about times that are all
 // the same. docs/time-series.md tells the rules.
-#include "acceptance/behaviour/SmallFiles.h"
+#include "support/SmallFiles.h"
 #include "acceptance/support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {

@@ -56,7 +56,7 @@ protected:
         return load({.solutions = {one_.solution("a.q", 1)}}, settings);
     }
 
-    SessionFiles one_{directory().path().string()};
+    SmallFiles one_{directory().path().string()};
     const Settings append_ = {{"APPEND", "Yes"}};
     Commands before_;
 };

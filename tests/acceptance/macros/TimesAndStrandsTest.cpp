@@ -74,7 +74,7 @@ TEST_F(TimesAndStrands, GridsThatDifferTakeNewStrandsOrThoseOfTheirSize) {
 
 // One of size 2 x 3 x 5 more, and the second step's only 3 x 5 x 2.
 TEST_F(TimesAndStrands, GridsOfOneSizeTakeTheStrandsOfTheStepBeforeInOrder) {
-    SessionFiles more = series_;
+    SmallFiles more = series_;
     more.grids = {{3, 5, 2}, {2, 3, 5}, {2, 3, 5}};
     const Json changing = load({.grids = {grid_, more.grid("more.x")},
                                 .solutions = {solutions_[0], more.solution("more.q", 2)}},
