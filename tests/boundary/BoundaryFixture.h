@@ -11,8 +11,6 @@
 
 namespace quorvia::testsupport {
 
-using Numbers = std::vector<double>;
-
 /// Points of a boundary, ends included, from 1.
 struct Part_s {
     std::int32_t iStart, iEnd, jStart, jEnd, kStart, kEnd;
@@ -27,12 +25,6 @@ protected:
     /// A load that must succeed without a message.
     void loadWell();
 
-    // What is in the frame; zones and variables from 1.
-    static const host::Zone_s& zone(std::int32_t number);
-    static Numbers values(std::int32_t zone, std::int32_t var);
-    static std::int32_t fieldType(std::int32_t zone, std::int32_t var);
-    static host::FieldState_e state(std::int32_t zone, std::int32_t var);
-    static std::int32_t holder(std::int32_t zone, std::int32_t var);
     /// 0 for none.
     static std::int32_t parentOf(std::int32_t zone);
     static std::string auxData(std::int32_t zone, const std::string& item);

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

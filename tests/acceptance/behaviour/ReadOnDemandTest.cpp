@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

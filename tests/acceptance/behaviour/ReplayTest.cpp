@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

@@ -2,7 +2,7 @@
 // nothing may be loaded but the whole selection.
 #include <filesystem>
 
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

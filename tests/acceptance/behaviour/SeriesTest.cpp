@@ -1,7 +1,7 @@
 // Files of several time steps: solution times, strands, and the question about times that are all
 // the same. docs/time-series.md tells the rules.
 #include "support/SmallFiles.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 namespace {

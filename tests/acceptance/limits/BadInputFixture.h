@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

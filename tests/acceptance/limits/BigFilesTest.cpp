@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 
 #include "AddOnMemory.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

@@ -2,7 +2,7 @@
 // hits, the load ends, that file is named with what happened, and the frame keeps its data set.
 #include "FaultyReads.h"
 #include "support/AllocationFaults.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

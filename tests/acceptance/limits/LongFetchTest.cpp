@@ -5,7 +5,7 @@
 
 #include "describe/GatherOutcome.h"
 #include "describe/ValueFetch.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "acceptance/transcripts/GoldenFile.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

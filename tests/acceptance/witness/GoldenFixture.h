@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 
