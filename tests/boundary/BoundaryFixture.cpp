@@ -35,12 +35,6 @@ std::int32_t BoundaryTest::parentOf(std::int32_t zoneNumber) {
     return parent != 0 ? dataSet().zoneNumber(parent) : 0;
 }
 
-std::string BoundaryTest::auxData(std::int32_t zoneNumber, const std::string& item) {
-    const host::AuxData& all = zone(zoneNumber).auxData;
-    const auto found = all.find(item);
-    return found != all.end() ? found->second : "(none)";
-}
-
 Numbers BoundaryTest::partOf(std::int32_t zoneNumber, std::int32_t var, const Part_s& part,
                              std::int32_t skipI, std::int32_t skipJ, std::int32_t skipK) {
     const host::Zone_s& parent = zone(zoneNumber);

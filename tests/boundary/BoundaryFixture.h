@@ -27,7 +27,6 @@ protected:
 
     /// 0 for none.
     static std::int32_t parentOf(std::int32_t zone);
-    static std::string auxData(std::int32_t zone, const std::string& item);
 
     /// The part of another zone's field, with a stride that never leaves out the last point.
     static Numbers partOf(std::int32_t zone, std::int32_t var, const Part_s& part,
