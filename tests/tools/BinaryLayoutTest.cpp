@@ -1,7 +1,7 @@
 // Whole small files, byte for byte, spelled by hand.
 #include <gtest/gtest.h>
 
-#include "HexBytes.h"
+#include "support/HexBytes.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {

@@ -6,7 +6,7 @@
 
 #include <sys/stat.h>
 
-#include "HexBytes.h"
+#include "support/HexBytes.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "HexBytes.h"
 #include "plot3dsample/Run.h"
+#include "support/HexBytes.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
