@@ -1,43 +1,24 @@
 // The add-on linked in and entered, with nothing remembered from another test.
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
+#include <cstdint>
 
 #include "addon/AddOnEntry.h"
 #include "dialog/DialogControls.h"
-#include "session/ReferenceHost.h"
 #include "state/DialogState.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::testsupport {
 
-class AddOnTest : public ::testing::Test {
+class AddOnTest : public HostedTest {
 protected:
     void SetUp() override {
-        host().reset();
         InitQuorAddOn113();
         host().clearFaults();
         host().clearLog();
         startAnew();
     }
-    void TearDown() override {
-        startAnew();
-        host().checkForLeaks();
-        EXPECT_EQ(host().log().violations, std::vector<std::string>());
-        EXPECT_EQ(host().lockDepth(), 0);
-        host().reset();
-    }
-
-    static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
-
-    static std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const host::Message_s& message : host().log().messages)
-            texts.push_back(message.text);
-        return texts;
-    }
+    void TearDown() override { startAnew(); }
 
 private:
     /// As if the add-on had just been entered for the first time. Dialogs of earlier tests stay at
@@ -55,7 +36,5 @@ private:
         gRetainedNameFile.clear();
     }
 };
-
-using Texts = std::vector<std::string>;
 
 } // namespace quorvia::testsupport

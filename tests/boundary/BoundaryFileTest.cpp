@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "session/ReferenceHost.h"
+#include "support/HostedTest.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
@@ -24,11 +24,9 @@ Ranges rangesOf(const Plot3DBoundary_s& boundary) {
 }
 
 /// A boundary file of a grid file with two grids, of 5 x 4 x 3 and 2 x 7 x 11 points.
-class BoundaryFile : public ::testing::Test {
+class BoundaryFile : public testsupport::GuestTest {
 protected:
     BoundaryFile() {
-        host().reset();
-        QuorUtilLockOn();
         setLoadOptionDefaults(options);
         gridFile.numGrids = 2;
         gridFile.gridDims = {{5, 4, 3}, {2, 7, 11}};
@@ -36,12 +34,7 @@ protected:
     void TearDown() override {
         head.reset();
         names.reset();
-        QuorUtilLockOff();
-        host().checkForLeaks();
-        EXPECT_EQ(host().log().violations, Texts());
-        host().reset();
     }
-    static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
 
     bool read(const std::string& content) {
         options.boundaryFile = directory.write("a.x.fvbnd", content);
@@ -62,12 +55,6 @@ protected:
                "not be loaded.";
     }
 
-    static Texts messages() {
-        Texts texts;
-        for (const host::Message_s& message : host().log().messages)
-            texts.push_back(message.text);
-        return texts;
-    }
     Texts readNames() const {
         Texts all;
         for (std::int64_t n = 1; names && n <= QuorUtilStringListGetCount(names.get()); ++n)

@@ -1,16 +1,8 @@
 #include "BoundaryFixture.h"
 
-#include <stdexcept>
-
 namespace quorvia::testsupport {
 
 namespace {
-
-template <typename Number>
-Numbers widened(const void* values, std::int64_t count) {
-    const auto* numbers = static_cast<const Number*>(values);
-    return Numbers(numbers, numbers + count);
-}
 
 std::vector<std::int64_t> selected(std::int32_t start, std::int32_t end, std::int32_t skip) {
     std::vector<std::int64_t> indices;
@@ -38,48 +30,9 @@ void BoundaryTest::loadWell() {
     ASSERT_EQ(messages(), Texts());
 }
 
-const host::Zone_s& BoundaryTest::zone(std::int32_t number) {
-    const host::Zone_s* found = host().frame().dataSet()->zone(number);
-    if (found == nullptr)
-        throw std::out_of_range("no zone " + std::to_string(number));
-    return *found;
-}
-
-Numbers BoundaryTest::values(std::int32_t zoneNumber, std::int32_t var) {
-    const host::FetchResult_s field = host().fetch(zoneNumber, var);
-    if (!field.ok)
-        throw std::runtime_error("no values: " + field.error);
-    switch (field.type) {
-    case QuorFieldDataType_Double:
-        return widened<double>(field.values, field.count);
-    case QuorFieldDataType_Int32:
-        return widened<std::int32_t>(field.values, field.count);
-    default:
-        return widened<float>(field.values, field.count);
-    }
-}
-
-std::int32_t BoundaryTest::fieldType(std::int32_t zoneNumber, std::int32_t var) {
-    return host().frame().dataSet()->field(zoneNumber, var)->type;
-}
-
-host::FieldState_e BoundaryTest::state(std::int32_t zoneNumber, std::int32_t var) {
-    return host().frame().dataSet()->field(zoneNumber, var)->state();
-}
-
-std::int32_t BoundaryTest::holder(std::int32_t zoneNumber, std::int32_t var) {
-    return host().frame().dataSet()->fieldHolders(var)[static_cast<std::size_t>(zoneNumber - 1)];
-}
-
 std::int32_t BoundaryTest::parentOf(std::int32_t zoneNumber) {
     const std::int64_t parent = zone(zoneNumber).parentZoneId;
-    return parent != 0 ? host().frame().dataSet()->zoneNumber(parent) : 0;
-}
-
-std::string BoundaryTest::auxData(std::int32_t zoneNumber, const std::string& item) {
-    const host::AuxData& all = zone(zoneNumber).auxData;
-    const auto found = all.find(item);
-    return found != all.end() ? found->second : "(none)";
+    return parent != 0 ? dataSet().zoneNumber(parent) : 0;
 }
 
 Numbers BoundaryTest::partOf(std::int32_t zoneNumber, std::int32_t var, const Part_s& part,

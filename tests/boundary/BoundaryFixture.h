@@ -11,10 +11,6 @@
 
 namespace quorvia::testsupport {
 
-using Numbers = std::vector<double>;
-
-inline const GridList parentGrids = {{2, 3, 5}, {5, 3, 7}};
-
 /// Points of a boundary, ends included, from 1.
 struct Part_s {
     std::int32_t iStart, iEnd, jStart, jEnd, kStart, kEnd;
@@ -29,15 +25,8 @@ protected:
     /// A load that must succeed without a message.
     void loadWell();
 
-    // What is in the frame; zones and variables from 1.
-    static const host::Zone_s& zone(std::int32_t number);
-    static Numbers values(std::int32_t zone, std::int32_t var);
-    static std::int32_t fieldType(std::int32_t zone, std::int32_t var);
-    static host::FieldState_e state(std::int32_t zone, std::int32_t var);
-    static std::int32_t holder(std::int32_t zone, std::int32_t var);
     /// 0 for none.
     static std::int32_t parentOf(std::int32_t zone);
-    static std::string auxData(std::int32_t zone, const std::string& item);
 
     /// The part of another zone's field, with a stride that never leaves out the last point.
     static Numbers partOf(std::int32_t zone, std::int32_t var, const Part_s& part,

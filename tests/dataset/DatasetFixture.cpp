@@ -1,8 +1,6 @@
 #include "DatasetFixture.h"
 
 #include <algorithm>
-#include <cstring>
-#include <fstream>
 #include <stdexcept>
 
 #include "dataset/items/CommonAuxData.h"
@@ -45,20 +43,6 @@ Plot3DStyle_e styleOf(FileKind_e kind) {
     }
 }
 
-FileDescription_s describe(FileKind_e kind, const GridList& grids, Layout_e layout) {
-    FileDescription_s description;
-    description.kind = kind;
-    description.layout = layout;
-    description.isMultiGrid = grids.size() > 1;
-    description.grids = grids;
-    description.value = placeValue;
-    description.iblank = placeIBlank;
-    description.corner = [](std::int32_t, std::int64_t element, std::int32_t corner) {
-        return static_cast<std::int32_t>(element) + corner + 1;
-    };
-    return description;
-}
-
 std::int32_t countSelected(const Plot3DLoadOptions_s& options, const Plot3DFileHandler& handler) {
     std::int32_t count = 0;
     for (std::int32_t grid = 1; grid <= handler.getNumGrids(); ++grid)
@@ -66,86 +50,12 @@ std::int32_t countSelected(const Plot3DLoadOptions_s& options, const Plot3DFileH
     return count;
 }
 
-template <typename Number>
-Numbers widened(const void* values, std::int64_t count) {
-    const auto* numbers = static_cast<const Number*>(values);
-    return Numbers(numbers, numbers + count);
-}
-
 } // namespace
 
-double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
-                  std::int32_t k) {
-    return i + 10 * j + 100 * k + 1000 * variable + 10000 * grid;
-}
-
-std::int32_t placeIBlank(std::int32_t grid, std::int32_t i, std::int32_t j, std::int32_t k) {
-    return 1 + i + 2 * j + 3 * k - 16 * grid;
-}
-
-FileForm_s binary(ByteOrder_e byteOrder, Precision_e precision) {
-    FileForm_s form;
-    form.byteOrder = byteOrder;
-    form.precision = precision;
-    return form;
-}
-
-FileForm_s fortran(ByteOrder_e byteOrder, Precision_e precision) {
-    FileForm_s form = binary(byteOrder, precision);
-    form.encoding = Encoding_e::Fortran;
-    return form;
-}
-
-FileForm_s text() {
-    FileForm_s form;
-    form.encoding = Encoding_e::Text;
-    return form;
-}
-
-FileDescription_s describeGrid(const GridList& grids, Layout_e layout) {
-    return describe(FileKind_e::Grid, grids, layout);
-}
-
-FileDescription_s describeSolution(const GridList& grids, double time, Layout_e layout,
-                                   FileKind_e kind) {
-    FileDescription_s description = describe(kind, grids, layout);
-    for (std::size_t grid = 0; grid < grids.size(); ++grid)
-        description.scalars.push_back({1.25 + static_cast<double>(grid), 2.0, 3e6, time});
-    return description;
-}
-
-FileDescription_s describeFunction(const GridList& grids, std::int32_t varCount, Layout_e layout) {
-    FileDescription_s description = describe(FileKind_e::Function, grids, layout);
-    description.numVars = varCount;
-    return description;
-}
-
-Numbers fieldOf(const FileDescription_s& description, std::int32_t grid, std::int32_t variable) {
-    const GridDims_s dims = description.grids[static_cast<std::size_t>(grid)];
-    const bool isUnstructured = description.layout == Layout_e::Unstructured;
-    Numbers field;
-    for (std::int32_t k = 0; k < (isUnstructured ? 1 : dims.k); ++k)
-        for (std::int32_t j = 0; j < (isUnstructured ? 1 : dims.j); ++j)
-            for (std::int32_t i = 0; i < dims.i; ++i)
-                field.push_back(description.value(grid, variable, i, j, k));
-    return field;
-}
-
-Numbers iblankOf(const FileDescription_s& description, std::int32_t grid) {
-    FileDescription_s asValues = description;
-    asValues.value = [&](std::int32_t g, std::int32_t, std::int32_t i, std::int32_t j,
-                         std::int32_t k) { return description.iblank(g, i, j, k); };
-    return fieldOf(asValues, grid, 0);
-}
-
 DatasetTest::DatasetTest() {
-    host().reset();
-    QuorUtilLockOn();
     setLoadOptionDefaults(options);
     zonesAdded = HostSet(QuorUtilSetAlloc(true));
 }
-
-DatasetTest::~DatasetTest() = default;
 
 void DatasetTest::TearDown() {
     files_.clear();
@@ -154,18 +64,12 @@ void DatasetTest::TearDown() {
     parentZones.reset();
     currentTask.reset();
     host().clearFaults();
-    QuorUtilLockOff();
-    host().checkForLeaks();
-    EXPECT_EQ(host().log().violations, Texts());
-    host().reset();
 }
 
 Plot3DFile_s& DatasetTest::write(const std::string& name, const FileDescription_s& description,
                                  const FileForm_s& form) {
     const std::string path = directory.file(name);
-    const auto outcome = plot3dwriter::writePlot3DFile(path, description, form);
-    if (!outcome.problem.empty())
-        throw std::runtime_error(outcome.problem);
+    writeFile(path, description, form);
     files_.push_back(createPlot3DFile(path, false));
     Plot3DFile_s& file = *files_.back();
     file.isSolutionOrFunction = description.kind != FileKind_e::Grid;
@@ -275,110 +179,16 @@ bool DatasetTest::addZones(TimeSteps& steps) {
     return ok;
 }
 
-void DatasetTest::makeDataSet(const Texts& variables) {
-    const HostStringList names(QuorUtilStringListAlloc());
-    for (const std::string& name : variables)
-        QuorUtilStringListAppendString(names.get(), name.c_str());
-    const HostArgList arguments(QuorUtilArgListAlloc());
-    QuorUtilArgListAppendString(arguments.get(), "LoaderName", "another loader");
-    QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "an old data set");
-    QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
-    ASSERT_TRUE(QuorUtilDataSetCreateX(arguments.get()));
-}
-
-namespace {
-
-void addHostZone(std::int32_t zoneType, std::int64_t i, std::int64_t j, std::int64_t k,
-                 std::int32_t varCount, std::int32_t fieldType) {
-    const std::vector<std::int32_t> types(static_cast<std::size_t>(varCount), fieldType);
-    const HostArgList arguments(QuorUtilArgListAlloc());
-    QuorUtilArgListAppendString(arguments.get(), "Name", "old");
-    QuorUtilArgListAppendInt(arguments.get(), "ZoneType", zoneType);
-    QuorUtilArgListAppendInt(arguments.get(), "IMax", i);
-    QuorUtilArgListAppendInt(arguments.get(), "JMax", j);
-    QuorUtilArgListAppendInt(arguments.get(), "KMax", k);
-    QuorUtilArgListAppendArray(arguments.get(), "VarDataType", types.data());
-    ASSERT_TRUE(QuorUtilDataSetAddZoneX(arguments.get()));
-}
-
-} // namespace
-
 void DatasetTest::makeZone(const GridDims_s& dims, std::int32_t varCount, std::int32_t type) {
-    addHostZone(QuorZoneType_Ordered, dims.i, dims.j, dims.k, varCount, type);
+    GuestTest::makeZone(dims.i, dims.j, dims.k,
+                        std::vector<std::int32_t>(static_cast<std::size_t>(varCount), type));
 }
 
 void DatasetTest::makeElementZone(std::int32_t nodes, std::int32_t triangles,
                                   std::int32_t varCount) {
-    addHostZone(QuorZoneType_Triangles, nodes, triangles, 3, varCount, QuorFieldDataType_Float);
-}
-
-const host::Zone_s& DatasetTest::zone(std::int32_t number) {
-    const host::Zone_s* found = host().frame().dataSet()->zone(number);
-    if (found == nullptr)
-        throw std::out_of_range("no zone " + std::to_string(number));
-    return *found;
-}
-
-std::int32_t DatasetTest::zoneCount() {
-    return host().frame().dataSet()->zoneCount();
-}
-
-Texts DatasetTest::zoneNames() {
-    Texts names;
-    for (std::int32_t number = 1; number <= zoneCount(); ++number)
-        names.push_back(zone(number).name);
-    return names;
-}
-
-Texts DatasetTest::variableNames() {
-    Texts names;
-    for (const host::Variable_s& variable : host().frame().dataSet()->variables())
-        names.push_back(variable.name);
-    return names;
-}
-
-std::vector<std::int32_t> DatasetTest::strands() {
-    std::vector<std::int32_t> all;
-    for (std::int32_t number = 1; number <= zoneCount(); ++number)
-        all.push_back(zone(number).strandId);
-    return all;
-}
-
-Numbers DatasetTest::values(std::int32_t zoneNumber, std::int32_t var) {
-    const host::FetchResult_s field = host().fetch(zoneNumber, var);
-    if (!field.ok)
-        return {};
-    switch (field.type) {
-    case QuorFieldDataType_Double:
-        return widened<double>(field.values, field.count);
-    case QuorFieldDataType_Int32:
-        return widened<std::int32_t>(field.values, field.count);
-    default:
-        return widened<float>(field.values, field.count);
-    }
-}
-
-host::FieldState_e DatasetTest::state(std::int32_t zoneNumber, std::int32_t var) {
-    return host().frame().dataSet()->field(zoneNumber, var)->state();
-}
-
-std::int32_t DatasetTest::sharedWith(std::int32_t zoneNumber, std::int32_t var) {
-    return host().frame().dataSet()->fieldHolders(var)[static_cast<std::size_t>(zoneNumber - 1)];
-}
-
-Texts DatasetTest::messages() {
-    Texts texts;
-    for (const host::Message_s& message : host().log().messages)
-        texts.push_back(message.text);
-    return texts;
-}
-
-std::vector<std::int64_t> DatasetTest::membersOf(QuorSetHandle set) {
-    std::vector<std::int64_t> members;
-    for (std::int64_t member = QuorUtilSetGetNextMember(set, 0); member != 0;
-         member = QuorUtilSetGetNextMember(set, member))
-        members.push_back(member);
-    return members;
+    const std::vector<std::int32_t> types(static_cast<std::size_t>(varCount),
+                                          QuorFieldDataType_Float);
+    GuestTest::makeZone(nodes, triangles, 3, types, QuorZoneType_Triangles);
 }
 
 } // namespace quorvia::testsupport

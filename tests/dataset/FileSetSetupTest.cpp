@@ -54,8 +54,8 @@ TEST_F(FileSetSetup, SharesTheOneGridWithAllTimeSteps) {
     EXPECT_EQ(std::count(files.opened.begin(), files.opened.end(), x.fileName.str()), 1);
     EXPECT_EQ(zoneCount(), 9);
     for (std::int32_t var = 1; var <= 4; ++var)
-        EXPECT_EQ(sharedWith(8, var), 2);
-    EXPECT_EQ(sharedWith(8, 5), 8);
+        EXPECT_EQ(holder(8, var), 2);
+    EXPECT_EQ(holder(8, 5), 8);
 }
 
 TEST_F(FileSetSetup, TakesLaterSolutionsFromThePositionsOfTheFirst) {
@@ -111,7 +111,7 @@ TEST_F(FileSetSetup, ScansLaterSolutionsThatDoNotShareTheirStructure) {
     Plot3DFile_s& q2 = write("q2", solutionAt(oneGrid, 2), fortran(ByteOrder_e::Big));
     ASSERT_TRUE(load({step(&x, &q1), step(&x, &q2)}));
     EXPECT_EQ(values(2, 5), fieldOf(solutionAt(oneGrid, 2), 0, 1));
-    EXPECT_EQ(sharedWith(2, 1), 1);
+    EXPECT_EQ(holder(2, 1), 1);
 }
 
 TEST_F(FileSetSetup, ReadsATimeSeriesOfTextInFull) {
@@ -142,7 +142,7 @@ TEST_F(FileSetSetup, DoesNotOpenLaterGridsOfOneStructure) {
     const FakeDisk files(FakeDisk::Behind_e::Platform);
     ASSERT_TRUE(load({step(&x1), step(&x2)}));
     EXPECT_FALSE(wasOpened(files, x2));
-    EXPECT_EQ(sharedWith(5, 2), 5);
+    EXPECT_EQ(holder(5, 2), 5);
     EXPECT_EQ(values(5, 2), fieldOf(moved, 1, 1));
 }
 

@@ -132,7 +132,7 @@ TEST_F(ZoneCreation, SharesTheNodeMapWithTheFirstTimeStep) {
     };
     ASSERT_TRUE(load({step(&x, &q("q1")), step(&x, &q("q2"))}));
     EXPECT_EQ(host().frame().dataSet()->nodeMapHolders(), (Numbers32{1, 1}));
-    EXPECT_EQ(sharedWith(2, 1), 1);
+    EXPECT_EQ(holder(2, 1), 1);
     EXPECT_NE(zone(2).nodeMap->nodes(), nullptr);
 }
 
@@ -146,7 +146,7 @@ TEST_F(ZoneCreation, HasNoConnectivityInLaterStepsWhereSharingIsForbidden) {
     };
     ASSERT_TRUE(load({step(&x, &q("q1")), step(&x, &q("q2"))}));
     EXPECT_EQ(zone(2).nodeMap->nodes(), nullptr);
-    EXPECT_EQ(sharedWith(2, 1), 2);
+    EXPECT_EQ(holder(2, 1), 2);
     EXPECT_EQ(values(2, 1), fieldOf(description, 0, 0));
 }
 
@@ -246,7 +246,7 @@ TEST_F(ExistingZones, GetTheNewSolutionAndKeepTheirGrid) {
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zoneCount(), 3);
     EXPECT_EQ(state(1, 3), host::FieldState_e::Stored);
-    EXPECT_EQ(sharedWith(3, 1), 3);
+    EXPECT_EQ(holder(3, 1), 3);
     EXPECT_EQ(values(1, 4), fieldOf(q, 0, 0));
     EXPECT_EQ(zone(1).solutionTime, 0.5);
     EXPECT_EQ(membersOf(zonesAdded.get()), std::vector<std::int64_t>());
@@ -273,8 +273,8 @@ TEST_F(ExistingZones, LendNodeMapAndGridToASolutionThatIsAppendedBesideThem) {
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zone(5).j, 5);
     EXPECT_EQ(host().frame().dataSet()->nodeMapHolders()[4], 4);
-    EXPECT_EQ(sharedWith(5, 3), 4);
-    EXPECT_EQ(sharedWith(5, 4), 5);
+    EXPECT_EQ(holder(5, 3), 4);
+    EXPECT_EQ(holder(5, 4), 5);
 }
 
 TEST_F(ExistingZones, LendTheirGridToLaterTimeStepsOfASolution) {
@@ -285,8 +285,8 @@ TEST_F(ExistingZones, LendTheirGridToLaterTimeStepsOfASolution) {
     existingZoneCount = 3;
     ASSERT_TRUE(addZones(steps));
     EXPECT_EQ(zoneCount(), 4);
-    EXPECT_EQ(sharedWith(4, 1), 3);
-    EXPECT_EQ(sharedWith(4, 4), 4);
+    EXPECT_EQ(holder(4, 1), 3);
+    EXPECT_EQ(holder(4, 4), 4);
 }
 
 TEST_F(ExistingZones, ThatGetASolutionAppendedTakeStrandsAndCountAsAdded) {

@@ -5,19 +5,13 @@
 #include <vector>
 
 #include "dialog/LoadDialogFixture.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
-#include "tools/SmallFiles.h"
 
 namespace quorvia::quorutildataio {
 
-using plot3dwriter::Encoding_e;
-using plot3dwriter::FileDescription_s;
-using plot3dwriter::FileKind_e;
-using plot3dwriter::GridDims_s;
-using plot3dwriter::Layout_e;
-using plot3dwriter::tests::describe;
-using plot3dwriter::tests::form;
-using plot3dwriter::tests::written;
+using testsupport::FileDescription_s;
+using testsupport::GridList;
 
 class DialogOk : public LoadDialogTest {
 protected:
@@ -25,22 +19,16 @@ protected:
     static constexpr bool no = false;
 
     std::string write(const std::string& name, const FileDescription_s& description) const {
-        return directory_.write(name, written(description, form(Encoding_e::Binary)));
+        return directory_.write(name, testsupport::bytesOf(description));
     }
-    std::string gridFile(const std::string& name, const std::vector<GridDims_s>& grids) const {
-        return write(name, describe(FileKind_e::Grid, Layout_e::ThreeDWhole, grids));
+    std::string gridFile(const std::string& name, const GridList& grids) const {
+        return write(name, testsupport::describeGrid(grids));
     }
     std::string solutionFile(const std::string& name) const {
-        FileDescription_s description =
-            describe(FileKind_e::ClassicSolution, Layout_e::ThreeDWhole, {{2, 3, 5}});
-        description.scalars = {{0.5, 2.0, 1000.0, 0.0}};
-        return write(name, description);
+        return write(name, testsupport::describeSolution({{2, 3, 5}}, 0.0));
     }
     std::string functionFile(const std::string& name) const {
-        FileDescription_s description =
-            describe(FileKind_e::Function, Layout_e::ThreeDWhole, {{2, 3, 5}});
-        description.numVars = 2;
-        return write(name, description);
+        return write(name, testsupport::describeFunction({{2, 3, 5}}, 2));
     }
 
     static bool isAnythingLoaded() { return host().frame().dataSet() != nullptr; }

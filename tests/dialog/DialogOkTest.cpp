@@ -54,8 +54,9 @@ TEST_F(DialogOk, LoadsTheGridsOfTheSetAndKeepsTheSet) {
 }
 
 TEST_F(DialogOk, LoadMayFindAnotherStructureAndTheDialogKeepsItsOwn) {
-    importFiles({write("flat.x", describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}}))},
-                {pressOk()});
+    importFiles(
+        {write("flat.x", testsupport::describeGrid({{2, 3, 1}}, testsupport::Layout_e::TwoD))},
+        {pressOk()});
     ASSERT_TRUE(isAnythingLoaded());
     EXPECT_EQ(gLoadOptions.dataStructure, Plot3DDataStructure_3DWhole);
     EXPECT_TRUE(gLoadOptions.isMultiGrid);

@@ -87,13 +87,7 @@ protected:
     /// A data set that another program left at the host.
     static void makeDataSet() {
         const HostLock lock(addOnID);
-        const HostStringList names(QuorUtilStringListAlloc());
-        QuorUtilStringListAppendString(names.get(), "old");
-        const HostArgList arguments(QuorUtilArgListAlloc());
-        QuorUtilArgListAppendString(arguments.get(), "LoaderName", "Another Loader");
-        QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Old");
-        QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
-        ASSERT_TRUE(QuorUtilDataSetCreateX(arguments.get()));
+        AddOnTest::makeDataSet({"old"}, "Another Loader", "Old");
     }
 
     // ---- What the user sees ---------------------------------------------------------------------

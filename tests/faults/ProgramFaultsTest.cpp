@@ -83,7 +83,7 @@ struct CommandLine_s {
 };
 
 Texts loadOfFiles() {
-    const SessionFiles files = sessions().filesOf("program");
+    const SmallFiles files = sessions().filesOf("program");
     return {"load",    files.grid("a.x"), files.solution("1.q", 1), files.solution("2.q", 2),
             "--addon", PLOT3D_ADDON_PATH};
 }

@@ -4,10 +4,10 @@
 #include <set>
 #include <utility>
 
-#include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/macros/MacroSession.h"
 #include "app/macro/DialogSteps.h"
 #include "faults/Faults.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -97,10 +97,10 @@ Sessions::Sessions() {
     addSelections();
 }
 
-SessionFiles Sessions::filesOf(const std::string& subfolder) const {
+SmallFiles Sessions::filesOf(const std::string& subfolder) const {
     const std::string folder = directory_.file(subfolder);
     std::filesystem::create_directory(folder);
-    return SessionFiles(folder);
+    return SmallFiles(folder);
 }
 
 Session_s& Sessions::add(const std::string& name) {
@@ -110,7 +110,7 @@ Session_s& Sessions::add(const std::string& name) {
 }
 
 void Sessions::addFreshLoads() {
-    const SessionFiles files = filesOf("fresh");
+    const SmallFiles files = filesOf("fresh");
     const Files_s all = {.grids = {files.grid("a.x", true)},
                          .solutions = {files.solution("1.q", 1), files.solution("2.q", 2, 50)},
                          .functions = {files.function("1.f", 2), files.function("2.f", 2, 50)}};
@@ -125,7 +125,7 @@ void Sessions::addFreshLoads() {
     const Settings shares = {{"SOLUTIONSSHARESTRUCTURE", "Yes"}};
     add("SharedStructure").steps = {instructed("load", all, withStrands + shares)};
 
-    SessionFiles fortran = filesOf("fortran");
+    SmallFiles fortran = filesOf("fortran");
     fortran.form.encoding = Encoding_e::Fortran;
     fortran.form.byteOrder = ByteOrder_e::Big;
     fortran.form.markerBytes = 8;
@@ -142,7 +142,7 @@ void Sessions::addFreshLoads() {
 }
 
 void Sessions::addAppendsAndReplacements() {
-    const SessionFiles files = filesOf("onto");
+    const SmallFiles files = filesOf("onto");
     const std::string grid = files.grid("a.x");
     const Texts solutions = {files.solution("1.q", 1), files.solution("2.q", 2, 30)};
     const Texts later = {files.solution("3.q", 3, 50), files.solution("4.q", 4, 70)};
@@ -161,7 +161,7 @@ void Sessions::addAppendsAndReplacements() {
     add("AppendedFunctions").steps = {start, instructed("append", Files_s{.functions = functions},
                                                         appending, Survival_e::BeforeAndVariables)};
 
-    SessionFiles lines = filesOf("line");
+    SmallFiles lines = filesOf("line");
     lines.layout = Layout_e::OneD;
     lines.grids = {{7, 1, 1}};
     add("AppendedToLoneGrid").steps = {
@@ -173,7 +173,7 @@ void Sessions::addAppendsAndReplacements() {
 }
 
 void Sessions::addSideFiles() {
-    const SessionFiles files = filesOf("side");
+    const SmallFiles files = filesOf("side");
     const std::string grid = files.grid("a.x", true);
     const Files_s steps = {.grids = {grid},
                            .solutions = {files.solution("1.q", 1), files.solution("2.q", 2)}};
@@ -197,7 +197,7 @@ void Sessions::addSideFiles() {
 }
 
 void Sessions::addLayouts() {
-    SessionFiles text = filesOf("text");
+    SmallFiles text = filesOf("text");
     text.form.encoding = Encoding_e::Text;
     add("Text").steps = {instructed(
         "load", {.grids = {text.grid("a.x", true)}, .solutions = {text.solution("1.q", 1)}})};
@@ -209,7 +209,7 @@ void Sessions::addLayouts() {
         {.grids = {surfaces.surface("a.x")},
          .solutions = {surfaces.surfaceSolution("1.q", 1), surfaces.surfaceSolution("2.q", 2)}})};
 
-    SessionFiles planes = filesOf("planes");
+    SmallFiles planes = filesOf("planes");
     planes.layout = Layout_e::ThreeDPlanes;
     planes.form.encoding = Encoding_e::Fortran;
     add("Planes").steps = {instructed(
@@ -217,7 +217,7 @@ void Sessions::addLayouts() {
 }
 
 void Sessions::addSelections() {
-    const SessionFiles files = filesOf("selected");
+    const SmallFiles files = filesOf("selected");
     const Texts first = {files.grid("a.x"), files.solution("a.1.q", 1), files.solution("a.2.q", 2)};
     const Texts later = {files.grid("b.x"), files.solution("b.3.q", 3)};
     add("Selection").steps = {selected("select", first),

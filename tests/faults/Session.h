@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "acceptance/macros/SessionFiles.h"
+#include "acceptance/macros/FieldOfFile.h"
 #include "session/ReferenceHost.h"
 #include "support/TemporaryDirectory.h"
 
@@ -48,7 +48,7 @@ public:
     /// Where the files are.
     std::string folder() const { return directory_.path().string(); }
     /// Makes files in a folder of their own there.
-    SessionFiles filesOf(const std::string& subfolder) const;
+    SmallFiles filesOf(const std::string& subfolder) const;
     /// Writes `text` to a file there; gives its whole name.
     std::string write(const std::string& name, const std::string& text) const {
         return directory_.write(name, text);

@@ -1,25 +1,19 @@
-// A guest at the reference host: it has registered, holds the lock, and does what the tests say. At
-// the end of a test every violation must have been expected.
+// A guest at the reference host: it has registered, holds the lock, and does what the tests say.
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "quorvia/HostHandles.h"
 #include "quorvia/QuorUtil.h"
-#include "session/ReferenceHost.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::host {
 
-using Texts = std::vector<std::string>;
+using testsupport::Texts;
 
-class HostTest : public ::testing::Test {
+class HostTest : public testsupport::HostedTest {
 protected:
-    HostTest() {
-        host().reset();
+    HostTest() : HostedTest(LeakCheck_e::None) { // a guest may leave something on purpose
         QuorUtilLockOn();
         static const QuorAddOnHandle guest = QuorUtilAddOnRegister(100, "Guest", "1", "Tests");
         QuorUtilLockOff();
@@ -30,28 +24,16 @@ protected:
     ~HostTest() override {
         if (!lockIsFree_)
             QuorUtilLockFinish(addOn_);
-        EXPECT_EQ(host().log().violations, expected_);
-        host().reset();
     }
 
-    static ReferenceHost& host() { return ReferenceHost::instance(); }
     QuorAddOnHandle addOn() const { return addOn_; }
     void freeLock() {
         QuorUtilLockFinish(addOn_);
         lockIsFree_ = true;
     }
-    /// The violations of the whole test, in order.
-    void expectViolations(Texts violations) { expected_ = std::move(violations); }
 
     static void createDataSet(const Texts& variableNames) {
-        HostStringList names(QuorUtilStringListAlloc());
-        for (const std::string& name : variableNames)
-            QuorUtilStringListAppendString(names.get(), name.c_str());
-        HostArgList arguments(QuorUtilArgListAlloc());
-        QuorUtilArgListAppendString(arguments.get(), "LoaderName", "Guest Loader");
-        QuorUtilArgListAppendString(arguments.get(), "DataSetTitle", "Tests");
-        QuorUtilArgListAppendStringList(arguments.get(), "VarNames", names.get());
-        ASSERT_TRUE(QuorUtilDataSetCreateX(arguments.get()));
+        makeDataSet(variableNames, "Guest Loader", "Tests");
     }
 
     /// The arguments that every zone needs.
@@ -71,12 +53,6 @@ protected:
                         std::int64_t type = QuorZoneType_Ordered) {
         ASSERT_TRUE(QuorUtilDataSetAddZoneX(zoneArguments(i, j, k, type).get()));
     }
-    static HostSet setOf(const std::vector<std::int64_t>& members) {
-        HostSet set(QuorUtilSetAlloc(true));
-        for (const std::int64_t member : members)
-            QuorUtilSetAddMember(set.get(), member, true);
-        return set;
-    }
     static Field_s& field(std::int32_t zone, std::int32_t var) {
         return *host().frame().dataSet()->field(zone, var);
     }
@@ -87,7 +63,6 @@ protected:
 private:
     QuorAddOnHandle addOn_ = nullptr;
     bool lockIsFree_ = false;
-    Texts expected_;
 };
 
 /// A field that its source keeps: counts what the host asks of it. Must outlive the registration.

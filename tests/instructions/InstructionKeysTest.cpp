@@ -21,7 +21,7 @@ class FlagInstruction : public testsupport::ParserTest,
                         public ::testing::WithParamInterface<FlagKey_s> {
 protected:
     bool flagAfter(const char* value) {
-        createDataSet(); // so that APPEND is allowed
+        makeDataSet({"X"}); // so that APPEND is allowed
         const bool isGood = parseStandard({"STYLE", "SWIFT", "DATASTRUCTURE", "3DW", "ISMULTIGRID",
                                            "Yes", GetParam().word, value});
         EXPECT_TRUE(isGood);

@@ -26,7 +26,7 @@ class InstructionRoundTrip : public testsupport::ParserTest {
 protected:
     void SetUp() override {
         ParserTest::SetUp();
-        createDataSet(); // so that APPEND is allowed
+        makeDataSet({"X"}); // so that APPEND is allowed
         const unsigned int seed = testSeed();
         RecordProperty("seed", static_cast<int>(seed));
         std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';

@@ -1,6 +1,6 @@
 #include "instructions/InstructionStrings.h"
 
-#include "instructions/GuestFixture.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 namespace {

@@ -114,7 +114,7 @@ TEST_F(InstructionSyntax, TellsTheFirstFaultOfTheOptionsAlone) {
 }
 
 TEST_F(InstructionSyntax, AppendsToTheDataSetThatIsThere) {
-    createDataSet();
+    makeDataSet({"X"});
     EXPECT_TRUE(parseStandard({"APPEND", "Yes"}));
     EXPECT_TRUE(options_.append);
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "instructions/GuestFixture.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 namespace {

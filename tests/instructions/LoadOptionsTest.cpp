@@ -1,6 +1,6 @@
 #include "instructions/Plot3DLoadOptions.h"
 
-#include "instructions/GuestFixture.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 

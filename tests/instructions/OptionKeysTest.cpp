@@ -6,9 +6,9 @@
 #include <set>
 
 #include "app/Settings.h"
-#include "instructions/GuestFixture.h"
 #include "instructions/InstructionKeys.h"
 #include "instructions/InstructionWriter.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 namespace {

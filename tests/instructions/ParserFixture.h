@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "instructions/GuestFixture.h"
 #include "instructions/InstructionParser.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::testsupport {
 

@@ -52,12 +52,6 @@ protected:
     }
     bool run() { return createDatasetAndZones(context); }
 
-    static Texts zoneNames() {
-        Texts names;
-        for (const auto& zone : host().frame().dataSet()->zones())
-            names.push_back(zone->name);
-        return names;
-    }
     static std::vector<std::int64_t> toldMembers(std::int32_t code) {
         for (const host::StateChange_s& change : host().log().stateChanges)
             if (change.code == code)

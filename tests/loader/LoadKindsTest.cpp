@@ -8,10 +8,10 @@ namespace {
 
 using namespace quorutildataio;
 
-using Members = std::vector<std::int64_t>;
-
+const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
 const GridList onePlane = {{5, 7, 1}};
 const GridList oneLine = {{7, 1, 1}};
+const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 /// What a load told: state changes by code, undo states as they ended, and the screen.
 struct Told_s {
@@ -74,19 +74,13 @@ protected:
                 all.undo.push_back(event.success.value());
         return all;
     }
-    static Texts zoneNames() {
-        Texts names;
-        for (const auto& zone : host().frame().dataSet()->zones())
-            names.push_back(zone->name);
-        return names;
-    }
     static std::int32_t plotType() { return host().frame().plotType(); }
     static void checkField(std::int32_t zone, std::int32_t var, std::int32_t grid,
                            std::int32_t fileVar, double shift) {
         const host::FetchResult_s field = host().fetch(zone, var);
         ASSERT_TRUE(field.ok) << zone << " " << var << " " << field.error;
         const auto* values = static_cast<const float*>(field.values);
-        const plot3dwriter::GridDims_s& dims = twoGrids[static_cast<std::size_t>(grid)];
+        const GridDims_s& dims = twoGrids[static_cast<std::size_t>(grid)];
         ASSERT_EQ(field.count, std::int64_t{dims.i} * dims.j * dims.k);
         for (std::int32_t k = 0; k < dims.k; ++k)
             for (std::int32_t j = 0; j < dims.j; ++j)
@@ -319,7 +313,7 @@ TEST_F(LoadKinds, AppendingFunctionsTwiceNamesTheSecondByAFreeOrdinal) {
 
 TEST_F(LoadKinds, AppendingFunctionsInTextReadsThemAtOnce) {
     loadFirst();
-    form.encoding = plot3dwriter::Encoding_e::Text;
+    form.encoding = Encoding_e::Text;
     appendFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
     EXPECT_EQ(host().frame().dataSet()->field(2, 10)->state(), host::FieldState_e::Stored);
     checkFunctions(1, 9, 2);
@@ -327,7 +321,7 @@ TEST_F(LoadKinds, AppendingFunctionsInTextReadsThemAtOnce) {
 
 TEST_F(LoadKinds, AppendingFunctionsInDoublePrecisionMakesVariablesOfIt) {
     loadFirst();
-    form.precision = plot3dwriter::Precision_e::Double;
+    form.precision = Precision_e::Double;
     appendFiles({}, {}, {functionFile("a.fun", twoGrids, 2)});
     EXPECT_EQ(host().frame().dataSet()->field(1, 9)->type, QuorFieldDataType_Double);
     const host::FetchResult_s field = host().fetch(2, 10);

@@ -1,44 +1,23 @@
-// A test of a file record: its disk is in memory, it holds the host's lock, and at the end the host
-// must have seen no violation and miss nothing that it handed out.
+// A test of a file record, whose disk is in memory.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "FileBytes.h"
 #include "plot3dfile/detection/EncodingSniffer.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/file/Plot3DFile.h"
-#include "session/ReferenceHost.h"
 #include "support/FakeDisk.h"
+#include "support/FileBytes.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::testsupport {
 
-class RecordFixture : public ::testing::Test {
+class RecordFixture : public GuestTest {
 protected:
-    void SetUp() override {
-        host().reset();
-        QuorUtilLockOn();
-    }
     void TearDown() override {
         file = nullptr;
         EXPECT_EQ(disk.openFiles, 0);
-        QuorUtilLockOff();
-        host().checkForLeaks();
-        EXPECT_EQ(host().log().violations, std::vector<std::string>());
-        host().reset();
-    }
-
-    static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
-
-    static std::vector<std::string> messages() {
-        std::vector<std::string> texts;
-        for (const host::Message_s& message : host().log().messages)
-            texts.push_back(message.text);
-        return texts;
     }
 
     /// The record of a file of these bytes, sniffed and closed.
@@ -79,7 +58,5 @@ protected:
     FakeDisk disk;
     quorutildataio::Plot3DFilePtr file;
 };
-
-using Texts = std::vector<std::string>;
 
 } // namespace quorvia::testsupport

@@ -6,15 +6,16 @@
 #include <fstream>
 #include <sstream>
 
-#include "SmallFiles.h"
 #include "plot3dsample/Run.h"
+#include "support/HexBytes.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::plot3dsample {
 namespace {
 
-using plot3dwriter::tests::hexOf;
-using plot3dwriter::tests::toHex;
+using testsupport::hexOf;
+using testsupport::toHex;
 
 class SampleProgram : public testing::Test {
 protected:

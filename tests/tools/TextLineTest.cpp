@@ -3,32 +3,33 @@
 
 #include <limits>
 
-#include "SmallFiles.h"
 #include "plot3dwriter/ByteSink.h"
 #include "plot3dwriter/TextNumbers.h"
+#include "support/SmallFiles.h"
 
-namespace quorvia::plot3dwriter::tests {
+namespace quorvia::testsupport {
 namespace {
 
+using namespace plot3dwriter;
+
 TEST(TextLines, CountOfGridsAndEachGridStandOnLinesOfTheirOwn) {
-    FileDescription_s grids =
-        describe(FileKind_e::Grid, Layout_e::ThreeDWhole, {{1, 1, 2}, {1, 1, 1}});
+    FileDescription_s grids = describe(FileKind_e::Grid, {{1, 1, 2}, {1, 1, 1}});
     grids.hasIBlank = true;
-    EXPECT_EQ(written(grids, form(Encoding_e::Text)), "2\n"
-                                                      "1 1 2\n"
-                                                      "1 1 1\n"
-                                                      "0. 100.\n1000. 1100.\n2000. 2100.\n"
-                                                      "1 4\n"
-                                                      "10000.\n11000.\n12000.\n"
-                                                      "17\n");
+    EXPECT_EQ(bytesOf(grids, formOf(Encoding_e::Text)), "2\n"
+                                                        "1 1 2\n"
+                                                        "1 1 1\n"
+                                                        "0. 100.\n1000. 1100.\n2000. 2100.\n"
+                                                        "1 4\n"
+                                                        "10000.\n11000.\n12000.\n"
+                                                        "-15\n");
 }
 
 TEST(TextLines, ScalarsEndTheirLineHoweverShortLinesAre) {
-    FileDescription_s solution = describe(FileKind_e::SwiftSolution, Layout_e::TwoD, {{3, 1, 1}});
+    FileDescription_s solution = describe(FileKind_e::SwiftSolution, {{3, 1, 1}}, Layout_e::TwoD);
     solution.scalars = {{0.5, 2, 1e6, 0.25, 9}};
-    FileForm_s text = form(Encoding_e::Text);
+    FileForm_s text = formOf(Encoding_e::Text);
     text.text.tokensPerLine = 2;
-    EXPECT_EQ(written(solution, text), "3 1\n"
+    EXPECT_EQ(bytesOf(solution, text), "3 1\n"
                                        "0.5 2. 1e+06 0.25 9.\n"
                                        "0. 1.\n2.\n1000. 1001.\n1002.\n"
                                        "2000. 2001.\n2002.\n3000. 3001.\n3002.\n");
@@ -36,48 +37,48 @@ TEST(TextLines, ScalarsEndTheirLineHoweverShortLinesAre) {
 
 TEST(TextLines, OverflowCountsFollowTheDimensionsAndItsIntegerHasNoPoint) {
     FileDescription_s solution =
-        describe(FileKind_e::OverflowSolution, Layout_e::ThreeDPlanes, {{1, 1, 1}});
+        describe(FileKind_e::OverflowSolution, {{1, 1, 1}}, Layout_e::ThreeDPlanes);
     solution.numVars = 1;
     solution.numSpecies = 1;
     solution.scalars = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}};
-    EXPECT_EQ(written(solution, form(Encoding_e::Text)),
+    EXPECT_EQ(bytesOf(solution, formOf(Encoding_e::Text)),
               "1 1 1\n1 1\n1. 2. 3. 4. 5. 6. 7. 8 9. 10. 11. 12. 13.\n0.\n");
 }
 
 TEST(TextLines, SurfaceOfFourNodesAndTwoTriangles) {
     const FileDescription_s surface =
-        describe(FileKind_e::Grid, Layout_e::Unstructured, {{4, 2, 0}});
-    EXPECT_EQ(written(surface, form(Encoding_e::Text)),
+        describe(FileKind_e::Grid, {{4, 2, 0}}, Layout_e::Unstructured);
+    EXPECT_EQ(bytesOf(surface, formOf(Encoding_e::Text)),
               "4 2 0\n0. 1. 2. 3.\n1000. 1001. 1002. 1003.\n2000. 2001. 2002. 2003.\n"
               "1 2 3 2 3 4\n0 0\n");
 }
 
 TEST(TextLines, CommasAndCarriageReturnsAreAMatterOfTaste) {
-    FileForm_s text = form(Encoding_e::Text);
+    FileForm_s text = formOf(Encoding_e::Text);
     text.text.commas = true;
     text.text.carriageReturns = true;
-    EXPECT_EQ(written(describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 1, 1}}), text),
+    EXPECT_EQ(bytesOf(describe(FileKind_e::Grid, {{2, 1, 1}}, Layout_e::TwoD), text),
               "2, 1\r\n0., 1.\r\n1000., 1001.\r\n");
 }
 
 TEST(RepeatCounts, GatherEqualNeighboursInsideOneBlock) {
-    FileDescription_s grid = describe(FileKind_e::Grid, Layout_e::ThreeDWhole, {{2, 3, 5}});
+    FileDescription_s grid = describe(FileKind_e::Grid, {{2, 3, 5}});
     grid.hasIBlank = true;
     grid.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
                     std::int32_t k) { return variable == 2 && i + j + k == 0 ? -4.5 : 0.5; };
     grid.iblank = [](auto...) { return 1; };
-    FileForm_s text = form(Encoding_e::Text);
+    FileForm_s text = formOf(Encoding_e::Text);
     text.text.repeatCounts = true;
-    EXPECT_EQ(written(grid, text), "2 3 5\n30*0.5\n30*0.5\n-4.5 29*0.5\n30*1\n");
+    EXPECT_EQ(bytesOf(grid, text), "2 3 5\n30*0.5\n30*0.5\n-4.5 29*0.5\n30*1\n");
 }
 
 TEST(RepeatCounts, LeaveHeaderAndScalarsAlone) {
-    FileDescription_s solution = describe(FileKind_e::ClassicSolution, Layout_e::OneD, {{2, 1, 1}});
+    FileDescription_s solution = describe(FileKind_e::ClassicSolution, {{2, 1, 1}}, Layout_e::OneD);
     solution.scalars = {{0, 0, 0, 0}};
     solution.value = [](auto...) { return 3; };
-    FileForm_s text = form(Encoding_e::Text);
+    FileForm_s text = formOf(Encoding_e::Text);
     text.text.repeatCounts = true;
-    EXPECT_EQ(written(solution, text), "2\n0. 0. 0. 0.\n2*3.\n2*3.\n2*3.\n");
+    EXPECT_EQ(bytesOf(solution, text), "2\n0. 0. 0. 0.\n2*3.\n2*3.\n2*3.\n");
 }
 
 TEST(RealToken, AlwaysHoldsAPointOrAnExponent) {
@@ -120,4 +121,4 @@ TEST(RealToken, RefusesWhatIsNotFinite) {
 }
 
 } // namespace
-} // namespace quorvia::plot3dwriter::tests
+} // namespace quorvia::testsupport

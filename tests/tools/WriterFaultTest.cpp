@@ -4,19 +4,21 @@
 #include <filesystem>
 #include <limits>
 
-#include "SmallFiles.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
-namespace quorvia::plot3dwriter::tests {
+namespace quorvia::testsupport {
 namespace {
+
+using namespace plot3dwriter;
 
 std::string faultOf(const FileDescription_s& description,
                     Encoding_e encoding = Encoding_e::Binary) {
-    return findFault(description, form(encoding));
+    return findFault(description, formOf(encoding));
 }
 
 FileDescription_s solution(FileKind_e kind, Layout_e layout) {
-    FileDescription_s result = describe(kind, layout, {{2, 1, 1}});
+    FileDescription_s result = describe(kind, {{2, 1, 1}}, layout);
     result.numVars = 5;
     result.scalars = {std::vector<double>(static_cast<std::size_t>(scalarCount(result)), 1.0)};
     return result;
@@ -35,7 +37,7 @@ TEST(Description, SwiftIsNeverUnstructured) {
 }
 
 TEST(Description, OneDIsSingleGridWithoutIBlank) {
-    FileDescription_s line = describe(FileKind_e::Grid, Layout_e::OneD, {{2, 1, 1}});
+    FileDescription_s line = describe(FileKind_e::Grid, {{2, 1, 1}}, Layout_e::OneD);
     line.isMultiGrid = true;
     EXPECT_EQ(faultOf(line), "a 1-D file can't be multi-grid");
     line.isMultiGrid = false;
@@ -44,14 +46,14 @@ TEST(Description, OneDIsSingleGridWithoutIBlank) {
 }
 
 TEST(Description, OnlyGridFilesHaveIBlank) {
-    FileDescription_s function = describe(FileKind_e::Function, Layout_e::TwoD, {{2, 1, 1}});
+    FileDescription_s function = describe(FileKind_e::Function, {{2, 1, 1}}, Layout_e::TwoD);
     function.numVars = 1;
     function.hasIBlank = true;
     EXPECT_EQ(faultOf(function), "only a grid file has I-blank");
 }
 
 TEST(Description, SingleGridFileHasOneGrid) {
-    FileDescription_s grids = describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 1, 1}, {2, 1, 1}});
+    FileDescription_s grids = describe(FileKind_e::Grid, {{2, 1, 1}, {2, 1, 1}}, Layout_e::TwoD);
     grids.isMultiGrid = false;
     EXPECT_EQ(faultOf(grids), "a single-grid file has exactly one grid, found 2");
 }
@@ -59,24 +61,24 @@ TEST(Description, SingleGridFileHasOneGrid) {
 TEST(Description, GridHasTrianglesOrTetrahedra) {
     const std::string neither =
         "grid 1 needs nodes, and triangles or tetrahedra but not both, found ";
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::Unstructured, {{4, 1, 1}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{4, 1, 1}}, Layout_e::Unstructured)),
               neither + "4 x 1 x 1");
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::Unstructured, {{4, 0, 0}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{4, 0, 0}}, Layout_e::Unstructured)),
               neither + "4 x 0 x 0");
 }
 
 TEST(Description, DimensionsFitTheLayout) {
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::OneD, {{2, 3, 1}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{2, 3, 1}}, Layout_e::OneD)),
               "grid 1 of a 1-D file must be i x 1 x 1, found 2 x 3 x 1");
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}, {2, 3, 5}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{2, 3, 1}, {2, 3, 5}}, Layout_e::TwoD)),
               "grid 2 of a 2-D file must be i x j x 1, found 2 x 3 x 5");
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::ThreeDWhole, {{2, 0, 5}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{2, 0, 5}})),
               "grid 1 needs at least one point in each direction, found 2 x 0 x 5");
 }
 
 TEST(Description, SizeMustFitFilePositions) {
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, Layout_e::ThreeDWhole, {{most, most, most}})),
+    EXPECT_EQ(faultOf(describe(FileKind_e::Grid, {{most, most, most}})),
               "grid 1 is too large for 64-bit file positions");
 }
 
@@ -104,26 +106,26 @@ TEST(ScalarCount, FollowsTheStyle) {
 }
 
 TEST(Writing, TellsWhyAFileCannotBeCreated) {
-    const auto grid = describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}});
-    EXPECT_EQ(writePlot3DFile("/nowhere/at/all.x", grid, form(Encoding_e::Binary)).problem,
+    const auto grid = describe(FileKind_e::Grid, {{2, 3, 1}}, Layout_e::TwoD);
+    EXPECT_EQ(writePlot3DFile("/nowhere/at/all.x", grid, formOf(Encoding_e::Binary)).problem,
               "cannot write /nowhere/at/all.x: No such file or directory");
 }
 
 TEST(Writing, TellsOfAFullDisk) {
-    const auto grid = describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}});
-    EXPECT_EQ(writePlot3DFile("/dev/full", grid, form(Encoding_e::Binary)).problem,
+    const auto grid = describe(FileKind_e::Grid, {{2, 3, 1}}, Layout_e::TwoD);
+    EXPECT_EQ(writePlot3DFile("/dev/full", grid, formOf(Encoding_e::Binary)).problem,
               "cannot write /dev/full: No space left on device");
 }
 
 TEST(Writing, LeavesNoHalfFile) {
     const testsupport::TemporaryDirectory directory;
-    auto grid = describe(FileKind_e::Grid, Layout_e::TwoD, {{2, 3, 1}});
+    auto grid = describe(FileKind_e::Grid, {{2, 3, 1}}, Layout_e::TwoD);
     grid.value = [](auto...) { return std::numeric_limits<double>::infinity(); };
     const std::string path = directory.file("bad.x");
-    EXPECT_EQ(writePlot3DFile(path, grid, form(Encoding_e::Text)).problem,
+    EXPECT_EQ(writePlot3DFile(path, grid, formOf(Encoding_e::Text)).problem,
               "cannot write " + path + ": a value that is not finite has no form in text");
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 } // namespace
-} // namespace quorvia::plot3dwriter::tests
+} // namespace quorvia::testsupport

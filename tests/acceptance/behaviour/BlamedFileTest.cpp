@@ -1,7 +1,7 @@
 // A load whose function file is at fault closes with the name of its solution or grid file, which
 // is sound. Ahead of that the file at fault is named.
-#include "acceptance/behaviour/SmallFiles.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

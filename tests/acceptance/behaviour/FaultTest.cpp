@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <set>
 
-#include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -2,29 +2,18 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/behaviour/Snapshot.h"
 #include "session/AddOnLibrary.h"
-#include "session/ReferenceHost.h"
+#include "support/HostedTest.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-class LibraryLife : public ::testing::Test {
+class LibraryLife : public HostedTest {
 protected:
-    void SetUp() override { host().reset(); }
-    void TearDown() override {
-        host().checkForLeaks();
-        EXPECT_EQ(host().log().violations, Texts());
-        EXPECT_EQ(host().lockDepth(), 0);
-        EXPECT_FALSE(isInMemory());
-        host().reset();
-    }
-
-    static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
+    void TearDown() override { EXPECT_FALSE(isInMemory()); }
 
     static std::unique_ptr<host::AddOnLibrary> open() {
         std::string error;

@@ -1,9 +1,9 @@
 // Values that are fetched after the load: dropped and fetched again, cut short, gone.
 #include <filesystem>
 
-#include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -2,9 +2,9 @@
 // instructions again.
 #include <algorithm>
 
-#include "acceptance/behaviour/SmallFiles.h"
 #include "acceptance/behaviour/Snapshot.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

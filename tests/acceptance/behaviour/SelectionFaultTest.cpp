@@ -2,8 +2,8 @@
 // nothing may be loaded but the whole selection.
 #include <filesystem>
 
-#include "acceptance/behaviour/SmallFiles.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

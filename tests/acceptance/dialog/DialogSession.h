@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "acceptance/macros/FieldOfFile.h"
 #include "acceptance/macros/MacroSession.h"
-#include "acceptance/macros/SessionFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -54,7 +54,7 @@ protected:
     /// What the dialog shows behind the actions.
     const Json& shownAfter(const Texts& files, Actions actions);
 
-    SessionFiles series_{directory().path().string()};
+    SmallFiles series_{directory().path().string()};
 };
 
 } // namespace quorvia::testsupport

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
 
 #include "AddOnMemory.h"
 
 namespace quorvia::testsupport {
-
-using namespace plot3dwriter;
 
 namespace {
 
@@ -73,10 +70,8 @@ void fetchEverything(host::ReferenceHost& host) {
             host.fetch(zone, variable);
 }
 
-FileDescription_s describe(FileKind_e kind) {
-    FileDescription_s description;
-    description.kind = kind;
-    description.grids = {{2, 3, 5}};
+/// Broken values, which no reading of a text takes for a count.
+FileDescription_s withBrokenValues(FileDescription_s description) {
     description.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
                            std::int32_t k) { return i + 100 * j + 10000 * k + 0.25 * variable; };
     return description;
@@ -148,38 +143,14 @@ std::string BadInputTest::invalidGrid(const std::string& file) {
 }
 
 FileDescription_s smallGrid() {
-    return describe(FileKind_e::Grid);
+    return withBrokenValues(describeGrid({{2, 3, 5}}));
 }
 
 FileDescription_s smallSolution() {
-    FileDescription_s description = describe(FileKind_e::ClassicSolution);
+    FileDescription_s description =
+        withBrokenValues(describe(FileKind_e::ClassicSolution, {{2, 3, 5}}));
     description.scalars = {{0.8, 2.0, 1e6, 0.5}};
     return description;
-}
-
-std::string bytesOf(const FileDescription_s& description, const FileForm_s& form) {
-    std::string bytes;
-    const WriteOutcome_s outcome = writePlot3DBytes(bytes, description, form);
-    if (!outcome.problem.empty())
-        throw std::runtime_error(outcome.problem);
-    return bytes;
-}
-
-std::vector<FileForm_s> everyEncoding() {
-    std::vector<FileForm_s> forms(1);
-    forms.front().encoding = Encoding_e::Text;
-    FileForm_s form;
-    for (const ByteOrder_e order : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-        form.byteOrder = order;
-        form.encoding = Encoding_e::Binary;
-        forms.push_back(form);
-        form.encoding = Encoding_e::Fortran;
-        for (const std::int32_t markerBytes : {4, 8}) {
-            form.markerBytes = markerBytes;
-            forms.push_back(form);
-        }
-    }
-    return forms;
 }
 
 std::string headerIntegers(std::initializer_list<std::int64_t> values, ByteOrder_e order) {

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "acceptance/support/LoadedAddOn.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -41,18 +41,11 @@ private:
 };
 
 /// One 3-D grid of 2 x 3 x 5 points, and a Classic solution on it.
-plot3dwriter::FileDescription_s smallGrid();
-plot3dwriter::FileDescription_s smallSolution();
-
-/// The bytes of a file. Throws std::runtime_error if it can't be written in that form.
-std::string bytesOf(const plot3dwriter::FileDescription_s& description,
-                    const plot3dwriter::FileForm_s& form = {});
-
-/// Text, plain binary and Fortran records of both widths, the binary ones in both byte orders.
-std::vector<plot3dwriter::FileForm_s> everyEncoding();
+FileDescription_s smallGrid();
+FileDescription_s smallSolution();
 
 /// 32-bit integers as they stand in a binary file.
 std::string headerIntegers(std::initializer_list<std::int64_t> values,
-                           plot3dwriter::ByteOrder_e order = plot3dwriter::ByteOrder_e::Little);
+                           ByteOrder_e order = ByteOrder_e::Little);
 
 } // namespace quorvia::testsupport

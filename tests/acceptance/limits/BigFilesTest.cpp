@@ -8,8 +8,8 @@
 #include <sys/stat.h>
 
 #include "AddOnMemory.h"
-#include "acceptance/support/LoadedAddOn.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -20,8 +20,8 @@ constexpr std::int64_t gibibyte = std::int64_t{1} << 30;
 constexpr std::int64_t mostBytesOnDisk = 100'000'000;
 
 /// Exact in 32 bits, and different at each point of a field of these tests.
-double placeValue(std::int32_t /*grid*/, std::int32_t variable, std::int32_t i, std::int32_t j,
-                  std::int32_t k) {
+double numberedValue(std::int32_t /*grid*/, std::int32_t variable, std::int32_t i, std::int32_t j,
+                     std::int32_t k) {
     return i + 211 * (j + 199 * k) + 0.125 * (variable % 8);
 }
 
@@ -34,18 +34,7 @@ void PrintTo(const FormCase_s& formCase, std::ostream* out) {
     *out << formCase.name;
 }
 
-FileForm_s formOf(Encoding_e encoding, ByteOrder_e byteOrder, Precision_e precision,
-                  std::int32_t markerBytes = 4) {
-    FileForm_s form;
-    form.encoding = encoding;
-    form.byteOrder = byteOrder;
-    form.precision = precision;
-    form.markerBytes = markerBytes;
-    return form;
-}
-
-const FormCase_s binary = {"Binary",
-                           formOf(Encoding_e::Binary, ByteOrder_e::Little, Precision_e::Single)};
+const FormCase_s binary = {"Binary", formOf(Encoding_e::Binary)};
 const FormCase_s binaryBigEndianDouble = {
     "BinaryBigEndianDouble", formOf(Encoding_e::Binary, ByteOrder_e::Big, Precision_e::Double)};
 const FormCase_s fortran4 = {"Fortran4",
@@ -71,9 +60,7 @@ protected:
     std::string write(const std::string& name, const FileDescription_s& description,
                       const FileForm_s& form) {
         const std::string file = directory().file(name);
-        written_ = writePlot3DFile(file, description, form);
-        if (!written_.problem.empty())
-            throw std::runtime_error(written_.problem);
+        written_ = writeFile(file, description, form);
         EXPECT_LT(bytesOnDisk(file), mostBytesOnDisk);
         return file;
     }
@@ -102,11 +89,8 @@ private:
 class GridBehind4GiB : public BigFiles, public ::testing::WithParamInterface<FormCase_s> {
 protected:
     /// The first grid holds 4.8 GB in 32 bits and is one hole; the second is 2 x 3 x 5.
-    static FileDescription_s describe(FileKind_e kind) {
-        FileDescription_s description;
-        description.kind = kind;
-        description.isMultiGrid = true;
-        description.grids = {{997, 1009, 401}, {2, 3, 5}};
+    static FileDescription_s describeBoth(FileKind_e kind) {
+        FileDescription_s description = describe(kind, {{997, 1009, 401}, {2, 3, 5}});
         description.value = [](std::int32_t grid, std::int32_t variable, std::int32_t i,
                                std::int32_t j, std::int32_t k) {
             return grid == 0 ? 0.0 : i + 100 * j + 10000 * k + 0.25 * variable;
@@ -116,7 +100,7 @@ protected:
 };
 
 TEST_P(GridBehind4GiB, HasItsOwnValues) {
-    FileDescription_s description = describe(FileKind_e::Grid);
+    FileDescription_s description = describeBoth(FileKind_e::Grid);
     description.isHole = [](std::int32_t grid, std::int32_t, std::int32_t) { return grid == 0; };
     const std::string file = write("big.x", description, GetParam().form);
     ASSERT_GT(written().blocks.back().position, 4 * gibibyte);
@@ -150,21 +134,19 @@ protected:
     }
     static std::int32_t fieldCount() { return fieldAcross(2) + 5; }
 
-    static FileDescription_s describe(FileKind_e kind) {
-        FileDescription_s description;
-        description.kind = kind;
-        description.grids = {dims};
-        description.value = placeValue;
+    static FileDescription_s describeNumbered(FileKind_e kind) {
+        FileDescription_s description = describe(kind, {dims});
+        description.value = numberedValue;
         return description;
     }
     std::string writeGrid() {
-        FileDescription_s grid = describe(FileKind_e::Grid);
+        FileDescription_s grid = describeNumbered(FileKind_e::Grid);
         grid.isHole = [](std::int32_t, std::int32_t, std::int32_t) { return true; };
         return write("small.x", grid, GetParam().form);
     }
     /// Only the fields around the boundaries hold something.
     std::string writeFunctions() {
-        FileDescription_s functions = describe(FileKind_e::Function);
+        FileDescription_s functions = describeNumbered(FileKind_e::Function);
         functions.numVars = fieldCount();
         functions.isHole = [](std::int32_t, std::int32_t variable, std::int32_t) {
             return std::abs(variable - fieldAcross(1)) > 1 &&
@@ -238,9 +220,7 @@ TEST_F(HugeFiles, WalkOverZerosIsInterrupted) {
 
 // A grid file of one big grid that a job has laid out and not yet filled.
 TEST_F(HugeFiles, HeaderWithHolesBehindItLoadsAtOnce) {
-    FileDescription_s description;
-    description.grids = {{887, 883, 907}};
-    description.value = placeValue;
+    FileDescription_s description = describeGrid({{887, 883, 907}});
     description.isHole = [](std::int32_t, std::int32_t, std::int32_t) { return true; };
     const std::string file = write("holes.x", description, {});
     ASSERT_GT(written().byteCount, hugeFile - gibibyte);

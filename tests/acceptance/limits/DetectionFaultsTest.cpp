@@ -1,14 +1,12 @@
 // Detection in the built library, where a read or an allocation fails. Whichever file of a load it
 // hits, the load ends, that file is named with what happened, and the frame keeps its data set.
 #include "FaultyReads.h"
-#include "acceptance/support/LoadedAddOn.h"
-#include "plot3dwriter/Plot3DWriter.h"
 #include "support/AllocationFaults.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {
-
-using namespace plot3dwriter;
 
 class DetectionFaults : public LoadedAddOnTest {
 protected:
@@ -24,17 +22,11 @@ protected:
     }
 
     std::string write(const std::string& name, FileKind_e kind) const {
-        FileDescription_s description;
-        description.kind = kind;
-        description.grids = {{2, 3, 5}};
+        FileDescription_s description = describe(kind, {{2, 3, 5}});
         description.numVars = 2;
         if (kind == FileKind_e::ClassicSolution)
             description.scalars = {{0.8, 2.0, 1e6, static_cast<double>(name.front())}};
-        description.value = [](std::int32_t, std::int32_t, std::int32_t i, std::int32_t j,
-                               std::int32_t) { return i + 0.5 * j; };
-        const std::string file = directory().file(name);
-        EXPECT_EQ(writePlot3DFile(file, description, form_).problem, "");
-        return file;
+        return directory().write(name, bytesOf(description));
     }
     /// Runs `arm` when the header of the file is about to be examined.
     static void armAt(const std::string& file, void (*arm)()) {
@@ -61,7 +53,6 @@ protected:
         host().clearLog();
     }
 
-    FileForm_s form_;
     Load_s series_;
 };
 

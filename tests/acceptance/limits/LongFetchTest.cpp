@@ -2,12 +2,11 @@
 // fetched again. The files are sparse.
 #include <algorithm>
 #include <fstream>
-#include <stdexcept>
 
-#include "acceptance/support/LoadedAddOn.h"
 #include "describe/GatherOutcome.h"
 #include "describe/ValueFetch.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -34,18 +33,11 @@ protected:
     /// A grid file of zeros, but that Y of its last point is 1.
     void loadGrid(const GridDims_s& dims, const FetchForm_s& formCase,
                   const std::vector<std::pair<std::string, std::string>>& settings = {}) {
-        FileDescription_s grid;
-        grid.grids = {dims};
-        grid.value = [](auto...) { return 0.0; };
+        FileDescription_s grid = describeGrid({dims});
         grid.isHole = [](std::int32_t, std::int32_t, std::int32_t) { return true; };
-        FileForm_s form;
-        form.encoding = formCase.encoding;
-        form.byteOrder = formCase.byteOrder;
-        form.precision = formCase.precision;
         const std::string file = directory().file("big.x");
-        const WriteOutcome_s written = writePlot3DFile(file, grid, form);
-        if (!written.problem.empty())
-            throw std::runtime_error(written.problem);
+        const WriteOutcome_s written = writeFile(
+            file, grid, formOf(formCase.encoding, formCase.byteOrder, formCase.precision));
         putOneAhead(file, written.blocks.at(2).position, formCase);
         expectLoads({.gridFiles = {file}, .settings = settings});
     }

@@ -8,29 +8,20 @@
 
 #include "AddOnMemory.h"
 #include "app/Program.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
 namespace {
 
-using namespace plot3dwriter;
-
 /// Grids of 2 x 2 x 2 points with three coordinates and five variables.
 class ManyZones : public ::testing::Test {
 protected:
     void writeFiles(std::size_t zones) const {
-        for (const FileKind_e kind : {FileKind_e::Grid, FileKind_e::ClassicSolution}) {
-            FileDescription_s description;
-            description.kind = kind;
-            description.isMultiGrid = true;
-            description.grids.assign(zones, {2, 2, 2});
-            if (kind == FileKind_e::ClassicSolution)
-                description.scalars.assign(zones, {0.5, 0, 1e6, 0.25});
-            description.value = [](auto...) { return 0.5; };
-            const std::string file = kind == FileKind_e::Grid ? grid() : solution();
-            ASSERT_EQ(writePlot3DFile(file, description, {}).problem, "");
-        }
+        SmallFiles files(directory_.path().string());
+        files.grids.assign(zones, {2, 2, 2});
+        EXPECT_EQ(files.grid("many.x"), grid());
+        EXPECT_EQ(files.solution("many.q", 0.25), solution());
     }
     /// The most that the load held at one moment, in bytes.
     std::int64_t peakOfLoad() const {

@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 namespace {

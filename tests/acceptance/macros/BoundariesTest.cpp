@@ -89,12 +89,6 @@ protected:
                                          names.begin()) +
                1;
     }
-    static std::vector<std::int32_t> numbers(const Json& outcome, const char* member) {
-        std::vector<std::int32_t> all;
-        for (const Json& zone : outcome["dataSet"]["zones"])
-            all.push_back(zone[member]);
-        return all;
-    }
 };
 
 /// Every way in which reals stand in a file that the loader reads.
@@ -138,38 +132,12 @@ TEST_F(Boundaries, HaveTheValuesOfTheirParentsInEveryFormOfFile) {
         }
 }
 
-TEST_F(Boundaries, StandBehindTheGridsWithNamesConditionsAndParents) {
-    const std::string grid = gridWithBoundaries("a.x");
-    const std::string solution = series_.solution("step.1.q", 1);
-    play({load({.grids = {grid}, .solutions = {solution}},
-               withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}})});
-    EXPECT_EQ(zoneNames(last()),
-              (Texts{"step.1.q:1", "step.1.q:2", "wall: I[1-5],J[1-3],K[1-1]",
-                     "inflow: I[5-5],J[1-3],K[1-7]", "symmetry: I[1-2],J[3-3],K[1-5]",
-                     "wall: I[2-5],J[1-2],K[3-6]", "outflow: I[2-2],J[1-1],K[2-5]",
-                     "wall: I[1-1],J[2-2],K[5-5]"}));
-    EXPECT_EQ(numbers(last(), "parentZone"), (std::vector{0, 0, 1, 1, 2, 1, 2, 2}));
-    EXPECT_EQ(numbers(last(), "strandId"), (std::vector{1, 2, 3, 4, 5, 6, 7, 8}));
-    const Json& inflow = last()["dataSet"]["zones"][3]["auxData"];
-    EXPECT_EQ(inflow["Common.IsBoundaryZone"], "Y");
-    EXPECT_EQ(inflow["Common.BoundaryCondition"], "Inflow");
-}
-
 TEST_F(Boundaries, FollowTheSkipsOfTheLoad) {
     const std::string grid = gridWithBoundaries("a.x");
     const std::string solution = series_.solution("skip.q", 1);
     play({load({.grids = {grid}, .solutions = {solution}},
                withBoundaries + Settings{{"IINDEXRANGE", "1,,2"}})});
     expectFaces(last(), 3, false, 0, FieldForm_e::Single, {1, 0, 2});
-}
-
-TEST_F(Boundaries, OfAGridThatIsNotLoadedHaveNoParent) {
-    const std::string grid = gridWithBoundaries("a.x");
-    const std::string solution = series_.solution("set.q", 1);
-    play({load({.grids = {grid}, .solutions = {solution}},
-               withBoundaries + Settings{{"FILEGRIDSET", "2"}})});
-    EXPECT_EQ(numbers(last(), "parentZone"), (std::vector{0, 0, 0, 1, 0, 1, 1}));
-    expectFaces(last(), 2, false);
 }
 
 TEST_F(Boundaries, WithAnErrorCostTheirMessageAndNothingElse) {
@@ -183,39 +151,6 @@ TEST_F(Boundaries, WithAnErrorCostTheirMessageAndNothingElse) {
                                       "\nBoundary zones will not be loaded."});
     EXPECT_TRUE(dataSet(last()) == dataSet(described("without")));
     EXPECT_EQ(exitCode_, 1); // a file was left out
-}
-
-TEST_F(Boundaries, OfAnAppendedGridStandBehindAllZones) {
-    const std::string grid = gridWithBoundaries("a.x");
-    const std::string solution = series_.solution("later.q", 1, 30);
-    play({load({.grids = {grid}, .solutions = {solution}}),
-          load({.grids = {grid}, .solutions = {solution}},
-               withBoundaries + Settings{{"APPEND", "Yes"}})});
-    EXPECT_EQ(last()["dataSet"]["zones"].size(), 4 + faces.size());
-    EXPECT_EQ(numbers(last(), "parentZone"), (std::vector{0, 0, 0, 0, 3, 3, 4, 3, 4, 4}));
-    expectFaces(last(), 5, false, 30);
-}
-
-TEST_F(Boundaries, ThatJoinStrandsFollowOnTheLastZoneAndNotOnTheHighestStrand) {
-    const Files_s files = {.grids = {gridWithBoundaries("a.x")},
-                           .solutions = {series_.solution("join.q", 1)}};
-    const Settings withStrands = withBoundaries + Settings{{"ASSIGNSTRANDIDS", "Yes"}};
-    play({load(files, withStrands),
-          load(files, withStrands + Settings{{"APPEND", "Yes"}, {"ADDTOEXISTINGSTRANDS", "Yes"}})});
-    EXPECT_EQ(numbers(last(), "strandId"),
-              (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 3, 4, 5, 6, 7, 8}));
-}
-
-TEST_F(Boundaries, StandInTheWayOfAppendedFunctions) {
-    const Files_s files = {.grids = {gridWithBoundaries("a.x")}};
-    play({load(files, withBoundaries), describe("before"),
-          load({.functions = {series_.function("a.fun", 2)}}, {{"APPEND", "Yes"}})});
-    EXPECT_EQ(messages(last()),
-              Texts{"If you are appending function files, you must append one file per existing "
-                    "time step already loaded. Also, any existing boundary zones will not allow "
-                    "appending function files. You are appending 1 function files with 2 zones "
-                    "each and there exist 8 zones."});
-    EXPECT_EQ(dataSet(last()), dataSet(described("before")));
 }
 
 // Zones of the grids, and a boundary zone of the second step that may not share its Y.

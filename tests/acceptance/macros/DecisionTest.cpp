@@ -59,13 +59,13 @@ private:
             text += name + " ";
         return text + std::to_string(last()["dataSet"]["variables"].size());
     }
-    static SessionFiles oneGrid(const std::string& folder) {
-        SessionFiles files(folder);
+    static SmallFiles oneGrid(const std::string& folder) {
+        SmallFiles files(folder);
         files.grids = {{2, 3, 5}};
         return files;
     }
 
-    SessionFiles one_ = oneGrid(directory().path().string());
+    SmallFiles one_ = oneGrid(directory().path().string());
 
 protected:
     const Settings append_ = {{"APPEND", "Yes"}};
@@ -197,9 +197,9 @@ protected:
         return messages(last());
     }
 
-    SessionFiles two_{directory().path().string()};
-    SessionFiles other_{directory().path().string()};
-    SessionFiles sizes_{directory().path().string()};
+    SmallFiles two_{directory().path().string()};
+    SmallFiles other_{directory().path().string()};
+    SmallFiles sizes_{directory().path().string()};
 };
 
 TEST_F(HeaderRules, SolutionHasAsManyGridsAsTheGridFile) {
@@ -225,7 +225,7 @@ TEST_F(HeaderRules, LaterFileOfUniformGridsHasAsManyAsTheFirst) {
 
 // A file that the first one's structure fits as it is was not held against the first of its list.
 TEST_F(HeaderRules, LaterFileHasNoMoreGridsThanTheFirstTimeStep) {
-    SessionFiles three{directory().path().string()};
+    SmallFiles three{directory().path().string()};
     three.grids = {{2, 3, 5}, {3, 5, 2}, {2, 3, 5}};
     three.form.encoding = two_.form.encoding = plot3dwriter::Encoding_e::Fortran;
     const std::string later = three.grid("b.x");

@@ -8,7 +8,7 @@ namespace {
 
 constexpr double shifts[] = {0, 0, 50, 70, 90};
 
-Texts writeSolutions(const SessionFiles& files, const std::string& stem) {
+Texts writeSolutions(const SmallFiles& files, const std::string& stem) {
     Texts names;
     for (int step = 1; step <= 5; ++step)
         names.push_back(
@@ -34,7 +34,7 @@ KindSession::KindSession() {
     grid_ = series_.grid("a.x");
     solutions_ = writeSolutions(series_, "step");
     functions_ = {series_.function("f.1.fun", 2, 50), series_.function("f.2.fun", 2, 70)};
-    SessionFiles lines(directory().path().string());
+    SmallFiles lines(directory().path().string());
     lines.layout = plot3dwriter::Layout_e::OneD;
     lines.grids = {{7, 1, 1}};
     line_ = lines.grid("line.x");

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "acceptance/macros/FieldOfFile.h"
 #include "acceptance/macros/MacroSession.h"
-#include "acceptance/macros/SessionFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -46,7 +46,7 @@ protected:
     static Texts undo(const Json& outcome);
     static bool showed(const Json& outcome, const std::string& progressText);
 
-    SessionFiles series_{directory().path().string()};
+    SmallFiles series_{directory().path().string()};
     std::string grid_;
     Texts solutions_; // times 1 to 5
     Texts functions_;

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "acceptance/behaviour/SmallFiles.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {

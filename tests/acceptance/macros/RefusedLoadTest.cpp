@@ -141,16 +141,11 @@ protected:
     TooManyVariables() { series_.form.encoding = Encoding_e::Fortran; }
 
     std::string overflow(const std::string& name, std::int32_t variables) {
-        FileDescription_s description;
-        description.kind = FileKind_e::OverflowSolution;
-        description.isMultiGrid = true;
-        description.grids = series_.grids;
+        FileDescription_s description =
+            testsupport::describe(FileKind_e::OverflowSolution, series_.grids);
         description.numVars = variables;
         description.scalars.assign(series_.grids.size(), std::vector<double>(13, 1.0));
-        description.value = placeValue;
-        const std::string path = directory().file(name);
-        EXPECT_EQ(writePlot3DFile(path, description, series_.form).problem, "");
-        return path;
+        return directory().write(name, bytesOf(description, series_.form));
     }
     static std::string cause(int needed, int there, const std::string& file) {
         return "The values of the file need a data set of " + std::to_string(needed) +

@@ -70,7 +70,7 @@ protected:
     }
     Texts grid() const { return {series_.grid("a.x", GetParam().hasIBlank)}; }
 
-    SessionFiles series_{directory().path().string()};
+    SmallFiles series_{directory().path().string()};
 };
 
 TEST_P(ReplacedFunctions, OfOneStepComeIntoTheirPlaces) {
@@ -139,7 +139,7 @@ protected:
                     << zone << " " << variable;
     }
 
-    SessionFiles series_{directory().path().string()};
+    SmallFiles series_{directory().path().string()};
 };
 
 TEST_F(UnlikeGrids, WithoutIBlankBehindOneWithItKeepTheirFunctionsInPlace) {

@@ -167,9 +167,9 @@ TEST_P(PartsOfFiles, SolutionAppendedOnASubsetTakesItsPoints) {
 }
 
 TEST_P(PartsOfFiles, NumbersOfGridsMayChangeFromStepToStep) {
-    SessionFiles fewer = series_;
+    SmallFiles fewer = series_;
     fewer.grids = {{5, 3, 7}};
-    SessionFiles two = series_;
+    SmallFiles two = series_;
     two.grids = {{5, 3, 7}, {2, 3, 5}};
     playLoads(
         {load({.grids = {grid_, fewer.grid("1.x"), two.grid("2.x")},

@@ -74,7 +74,7 @@ protected:
         return states;
     }
 
-    SessionFiles series_{directory().path().string()};
+    SmallFiles series_{directory().path().string()};
     bool hasIBlank_ = false;
 };
 

@@ -15,7 +15,7 @@ std::int32_t solutionVariablesOf(Layout_e layout) {
 }
 
 /// Of one zone, in the order of its variables.
-std::vector<FieldOfFile_s> fieldsOfZone(const SessionFiles& files, std::size_t grid,
+std::vector<FieldOfFile_s> fieldsOfZone(const SmallFiles& files, std::size_t grid,
                                         const TimeStepFields_s& step) {
     std::vector<FieldOfFile_s> fields;
     const auto add = [&](std::int32_t count, FieldForm_e form, double shift) {
@@ -36,7 +36,7 @@ std::vector<FieldOfFile_s> fieldsOfZone(const SessionFiles& files, std::size_t g
 
 } // namespace
 
-void expectTimeStep(const Json& outcome, const SessionFiles& files, const TimeStepFields_s& step) {
+void expectTimeStep(const Json& outcome, const SmallFiles& files, const TimeStepFields_s& step) {
     ASSERT_FALSE(outcome["dataSet"].is_null());
     const Json& zones = outcome["dataSet"]["zones"];
     ASSERT_GE(zones.size(), step.firstZone - 1 + files.grids.size());

@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <optional>
 
+#include "acceptance/macros/FieldOfFile.h"
 #include "acceptance/macros/MacroSession.h"
-#include "acceptance/macros/SessionFiles.h"
 
 namespace quorvia::testsupport {
 
 /// The variables of a time step in their order: coordinates, I-blank, solution, functions. Values
-/// are those of SessionFiles, which wrote the files.
+/// are those of SmallFiles, which wrote the files.
 struct TimeStepFields_s {
     std::size_t firstZone = 1; // from 1
     FieldForm_e gridForm = FieldForm_e::Single;
@@ -22,6 +22,6 @@ struct TimeStepFields_s {
 };
 
 /// Expects each field of the zones of `files.grids`, and that there are no others.
-void expectTimeStep(const Json& outcome, const SessionFiles& files, const TimeStepFields_s& step);
+void expectTimeStep(const Json& outcome, const SmallFiles& files, const TimeStepFields_s& step);
 
 } // namespace quorvia::testsupport

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "acceptance/matrix/FileReading.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 

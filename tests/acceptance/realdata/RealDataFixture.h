@@ -6,7 +6,7 @@
 #include <string>
 
 #include "acceptance/realdata/PlainReading.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 

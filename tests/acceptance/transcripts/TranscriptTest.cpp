@@ -1,9 +1,9 @@
 // What small loads ask of the host, call by call and in order, held against golden files.
 #include <filesystem>
 
-#include "acceptance/behaviour/SmallFiles.h"
-#include "acceptance/support/LoadedAddOn.h"
 #include "acceptance/transcripts/GoldenFile.h"
+#include "support/LoadedAddOn.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 namespace {

@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "acceptance/support/FieldExpectation.h"
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
 namespace {

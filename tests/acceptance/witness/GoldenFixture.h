@@ -5,26 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "acceptance/support/LoadedAddOn.h"
+#include "support/HexBytes.h"
+#include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {
-
-/// The bytes that pairs of hexadecimal digits stand for; blanks are for the reader's eye.
-inline std::string fromHex(std::string_view text) {
-    const std::string_view digits = "0123456789abcdef";
-    std::string bytes;
-    std::string pair;
-    for (const char letter : text) {
-        if (letter == ' ')
-            continue;
-        pair += letter;
-        if (pair.size() < 2)
-            continue;
-        bytes += static_cast<char>(digits.find(pair[0]) * 16 + digits.find(pair[1]));
-        pair.clear();
-    }
-    return bytes;
-}
 
 class GoldenFileTest : public LoadedAddOnTest {
 protected:

@@ -7,7 +7,7 @@ namespace {
 class DataSize : public StructureTest {
 protected:
     /// An open record of a single 3-D Whole file.
-    Plot3DFilePtr whole(const Bytes& bytes, bool isSolutionOrFunction = gridFile,
+    Plot3DFilePtr whole(const FileBytes& bytes, bool isSolutionOrFunction = gridFile,
                         Plot3DStyle_e style = Plot3DStyle_Classic) {
         return openRecord(bytes.str(), Plot3DDataStructure_3DWhole, isSolutionOrFunction, style);
     }
@@ -18,10 +18,10 @@ protected:
         return judge(file);
     }
 
-    static Bytes fortranGrid(std::int64_t bytesOfData) {
-        return Bytes()
-            .record(payload().integers({2, 3, 5}))
-            .record(payload().reals(bytesOfData / 4));
+    static FileBytes fortranGrid(std::int64_t bytesOfData) {
+        return FileBytes()
+            .record(FileBytes().integers({2, 3, 5}))
+            .record(FileBytes().equalReals(bytesOfData / 4));
     }
 };
 
@@ -34,7 +34,7 @@ TEST_F(DataSize, TellsPrecisionAndIBlankOfPlainBinaryBySize) {
     for (const bool isDouble : {false, true})
         for (const bool hasIBlank : {false, true}) {
             const std::int64_t size = points * bytesPerPoint[isDouble][hasIBlank];
-            auto file = whole(Bytes().integers({2, 3, 5}).reals(size / 4));
+            auto file = whole(FileBytes().integers({2, 3, 5}).equalReals(size / 4));
             for (const bool triedDouble : {false, true})
                 for (const bool triedIBlank : {false, true})
                     EXPECT_EQ(judgeAs(*file, triedDouble, triedIBlank),
@@ -43,21 +43,22 @@ TEST_F(DataSize, TellsPrecisionAndIBlankOfPlainBinaryBySize) {
 }
 
 TEST_F(DataSize, RefusesTrailingBytesOfPlainBinaryUnlessRelaxed) {
-    auto file = whole(Bytes().integers({2, 3, 5}).reals(3 * points + 1));
+    auto file = whole(FileBytes().integers({2, 3, 5}).equalReals(3 * points + 1));
     EXPECT_FALSE(judge(*file));
     file->relaxedChecks = true;
     EXPECT_TRUE(judge(*file));
 }
 
 TEST_F(DataSize, RefusesMissingBytesOfPlainBinaryEvenIfRelaxed) {
-    auto file = whole(Bytes().integers({2, 3, 5}).reals(3 * points - 1));
+    auto file = whole(FileBytes().integers({2, 3, 5}).equalReals(3 * points - 1));
     file->relaxedChecks = true;
     EXPECT_FALSE(judge(*file));
 }
 
 TEST_F(DataSize, CountsScalarsOfEveryGridInPlainBinary) {
-    auto file = whole(Bytes().integers({2, 2, 3, 5, 7, 2, 3}).reals(4 + 5 * 30 + 4 + 5 * 42),
-                      solutionOrFunction);
+    auto file =
+        whole(FileBytes().integers({2, 2, 3, 5, 7, 2, 3}).equalReals(4 + 5 * 30 + 4 + 5 * 42),
+              solutionOrFunction);
     file->isMultiGrid = true;
     EXPECT_TRUE(judge(*file));
     file->style = Plot3DStyle_Swift;
@@ -66,24 +67,24 @@ TEST_F(DataSize, CountsScalarsOfEveryGridInPlainBinary) {
 
 TEST_F(DataSize, WantsEightBytesBehindAnOverflowFileInPlainBinary) {
     // 2 variables, 3 species, hence 14 scalars; 2 reals once for the file.
-    auto file = whole(Bytes().integers({2, 3, 5, 2, 3}).reals(14 + 2 * points + 2),
+    auto file = whole(FileBytes().integers({2, 3, 5, 2, 3}).equalReals(14 + 2 * points + 2),
                       solutionOrFunction, Plot3DStyle_Overflow);
     EXPECT_TRUE(judge(*file));
-    auto without = whole(Bytes().integers({2, 3, 5, 2, 3}).reals(14 + 2 * points),
+    auto without = whole(FileBytes().integers({2, 3, 5, 2, 3}).equalReals(14 + 2 * points),
                          solutionOrFunction, Plot3DStyle_Overflow);
     EXPECT_FALSE(judge(*without));
 }
 
 TEST_F(DataSize, WantsSixteenBytesBehindADoublePrecisionOverflowFileInPlainBinary) {
-    auto file = whole(Bytes().integers({2, 3, 5, 2, 3}).doubles(14 + 2 * points + 2),
+    auto file = whole(FileBytes().integers({2, 3, 5, 2, 3}).equalDoubles(14 + 2 * points + 2),
                       solutionOrFunction, Plot3DStyle_Overflow);
     EXPECT_TRUE(judgeAs(*file, true, false));
     EXPECT_FALSE(judgeAs(*file, false, false));
 }
 
 TEST_F(DataSize, TakesGridsOfPlainBinaryForStylelessWhateverTheirCompanionsAre) {
-    auto file =
-        whole(Bytes().integers({2, 3, 5}).reals(3 * points), gridFile, Plot3DStyle_Overflow);
+    auto file = whole(FileBytes().integers({2, 3, 5}).equalReals(3 * points), gridFile,
+                      Plot3DStyle_Overflow);
     EXPECT_TRUE(judge(*file));
 }
 
@@ -91,10 +92,10 @@ TEST_F(DataSize, LimitsPointsOfPlainBinaryGrids) {
     // Fits a sparse file of the right size, but has 2147483646 points.
     const std::int32_t half = 1073741823;
     const std::int64_t size = 12 + 12 * std::int64_t{2} * half;
-    disk.putSparse("huge", Bytes().integers({2, half, 1}).str(), size);
+    disk.putSparse("huge", FileBytes().integers({2, half, 1}).str(), size);
     Plot3DFileBuilder builder(options);
     EXPECT_EQ(buildPlot3DFile(builder, "huge", gridFile), nullptr);
-    disk.putSparse("large", Bytes().integers({2, half - 1, 1}).str(), size - 24);
+    disk.putSparse("large", FileBytes().integers({2, half - 1, 1}).str(), size - 24);
     auto large = buildPlot3DFile(builder, "large", gridFile);
     ASSERT_NE(large, nullptr);
     EXPECT_EQ(large->gridDims[0], (Plot3DGridDims_s{2, half - 1, 1}));
@@ -104,7 +105,7 @@ TEST_F(DataSize, LimitsElementsOfPlainBinaryGrids) {
     constexpr std::int32_t most = 2147483645;
     const auto fits = [this](std::int32_t triangles, std::int32_t tetrahedra) {
         const std::int64_t elements = std::int64_t{triangles} + tetrahedra;
-        disk.putSparse("mesh", Bytes().integers({5, triangles, tetrahedra}).str(),
+        disk.putSparse("mesh", FileBytes().integers({5, triangles, tetrahedra}).str(),
                        12 + 5 * 12 + elements * 16);
         auto file = createPlot3DFile("mesh", false);
         EXPECT_TRUE(openPlot3DFile(*file));
@@ -119,11 +120,11 @@ TEST_F(DataSize, LimitsElementsOfPlainBinaryGrids) {
 
 TEST_F(DataSize, DoesNotOverflowOnAbsurdCountsOfVariables) {
     for (const std::int32_t absurd : {2147483647, -2147483647}) {
-        auto file = whole(Bytes().integers({2, 3, 5, absurd, absurd}).reals(90), solutionOrFunction,
-                          Plot3DStyle_Overflow);
+        auto file = whole(FileBytes().integers({2, 3, 5, absurd, absurd}).equalReals(90),
+                          solutionOrFunction, Plot3DStyle_Overflow);
         EXPECT_FALSE(judge(*file));
     }
-    disk.putSparse("vars", Bytes().integers({1024, 1024, 2047, 2147483647, 7}).str(),
+    disk.putSparse("vars", FileBytes().integers({1024, 1024, 2047, 2147483647, 7}).str(),
                    std::int64_t{1} << 40);
     auto file = createPlot3DFile("vars", false);
     ASSERT_TRUE(openPlot3DFile(*file));
@@ -135,23 +136,23 @@ TEST_F(DataSize, DoesNotOverflowOnAbsurdCountsOfVariables) {
 }
 
 TEST_F(DataSize, CountsSixteenBytesForEachElement) {
-    auto file = openRecord(Bytes().integers({5, 0, 3}).reals(15 + 4 * 3).str(),
+    auto file = openRecord(FileBytes().integers({5, 0, 3}).equalReals(15 + 4 * 3).str(),
                            Plot3DDataStructure_Unstructured);
     EXPECT_TRUE(judge(*file));
-    auto corners = openRecord(Bytes().integers({5, 2, 0}).reals(15 + 3 * 2).str(),
+    auto corners = openRecord(FileBytes().integers({5, 2, 0}).equalReals(15 + 3 * 2).str(),
                               Plot3DDataStructure_Unstructured);
     EXPECT_FALSE(judge(*corners));
 }
 
 TEST_F(DataSize, CannotTellPlanesFromWholeInPlainBinary) {
-    auto file = whole(Bytes().integers({2, 3, 5}).reals(3 * points));
+    auto file = whole(FileBytes().integers({2, 3, 5}).equalReals(3 * points));
     EXPECT_TRUE(judge(*file));
     file->dataStructure = Plot3DDataStructure_3DPlanes;
     EXPECT_TRUE(judge(*file));
 }
 
 TEST_F(DataSize, Has4ByteIntegersInDoublePrecisionToo) {
-    auto file = whole(Bytes().integers({2, 3, 5}).doubles(3 * points).reals(points));
+    auto file = whole(FileBytes().integers({2, 3, 5}).equalDoubles(3 * points).equalReals(points));
     EXPECT_TRUE(judgeAs(*file, true, true));
 }
 
@@ -167,9 +168,9 @@ TEST_F(DataSize, TellsPrecisionAndIBlankOfFortranByTheFirstRecord) {
 }
 
 TEST_F(DataSize, TellsPlanesFromWholeInFortran) {
-    Bytes bytes = Bytes().record(payload().integers({2, 3, 5}));
+    FileBytes bytes = FileBytes().record(FileBytes().integers({2, 3, 5}));
     for (int plane = 0; plane < 5; ++plane)
-        bytes.record(payload().reals(3 * 6));
+        bytes.record(FileBytes().equalReals(3 * 6));
     auto file = whole(bytes);
     EXPECT_FALSE(judge(*file));
     file->dataStructure = Plot3DDataStructure_3DPlanes;
@@ -177,31 +178,31 @@ TEST_F(DataSize, TellsPlanesFromWholeInFortran) {
 }
 
 TEST_F(DataSize, LooksAtTheFirstGridOfFortranOnly) {
-    const Bytes trailing = fortranGrid(12 * points).record(payload().reals(7));
+    const FileBytes trailing = fortranGrid(12 * points).record(FileBytes().equalReals(7));
     EXPECT_TRUE(judge(*whole(trailing)));
     // The second grid, of 7 x 2 x 3 points, has no record at all.
-    Bytes missing;
-    missing.record(payload().integers({2}));
-    missing.record(payload().integers({2, 3, 5, 7, 2, 3}));
-    missing.record(payload().reals(3 * points));
+    FileBytes missing;
+    missing.record(FileBytes().integers({2}));
+    missing.record(FileBytes().integers({2, 3, 5, 7, 2, 3}));
+    missing.record(FileBytes().equalReals(3 * points));
     auto file = whole(missing);
     file->isMultiGrid = true;
     EXPECT_TRUE(judge(*file));
 }
 
 TEST_F(DataSize, WantsTheRecordsOfTheFirstGrid) {
-    EXPECT_FALSE(judge(*whole(Bytes().record(payload().integers({2, 3, 5})))));
-    const Bytes noVariables =
-        Bytes().record(payload().integers({2, 3, 5})).record(payload().reals(4));
+    EXPECT_FALSE(judge(*whole(FileBytes().record(FileBytes().integers({2, 3, 5})))));
+    const FileBytes noVariables =
+        FileBytes().record(FileBytes().integers({2, 3, 5})).record(FileBytes().equalReals(4));
     EXPECT_FALSE(judge(*whole(noVariables, solutionOrFunction)));
 }
 
 TEST_F(DataSize, WantsTheScalarRecordOfFortranToBeExact) {
     for (const std::int32_t scalars : {4, 5}) {
-        auto file = whole(Bytes()
-                              .record(payload().integers({2, 3, 5}))
-                              .record(payload().reals(scalars))
-                              .record(payload().reals(5 * points)),
+        auto file = whole(FileBytes()
+                              .record(FileBytes().integers({2, 3, 5}))
+                              .record(FileBytes().equalReals(scalars))
+                              .record(FileBytes().equalReals(5 * points)),
                           solutionOrFunction);
         EXPECT_EQ(judge(*file), scalars == 4);
         file->relaxedChecks = true;
@@ -213,10 +214,10 @@ TEST_F(DataSize, WantsTheScalarRecordOfFortranToBeExact) {
 
 TEST_F(DataSize, TakesALongerScalarRecordOfOverflow) {
     for (const std::int32_t scalars : {12, 13, 17}) {
-        auto file = whole(Bytes()
-                              .record(payload().integers({2, 3, 5, 2, 0}))
-                              .record(payload().reals(scalars))
-                              .record(payload().reals(2 * points)),
+        auto file = whole(FileBytes()
+                              .record(FileBytes().integers({2, 3, 5, 2, 0}))
+                              .record(FileBytes().equalReals(scalars))
+                              .record(FileBytes().equalReals(2 * points)),
                           solutionOrFunction, Plot3DStyle_Overflow);
         EXPECT_EQ(judge(*file), scalars >= 13);
     }
@@ -224,19 +225,21 @@ TEST_F(DataSize, TakesALongerScalarRecordOfOverflow) {
 
 TEST_F(DataSize, AllowsFourBytesLessInADoublePrecisionScalarRecordOfOverflow) {
     for (const std::int32_t words : {24, 25, 26}) {
-        auto file = whole(Bytes()
-                              .record(payload().integers({2, 3, 5, 2, 0}))
-                              .record(payload().reals(words))
-                              .record(payload().doubles(2 * points)),
+        auto file = whole(FileBytes()
+                              .record(FileBytes().integers({2, 3, 5, 2, 0}))
+                              .record(FileBytes().equalReals(words))
+                              .record(FileBytes().equalDoubles(2 * points)),
                           solutionOrFunction, Plot3DStyle_Overflow);
         EXPECT_EQ(judgeAs(*file, true, false), words >= 25);
     }
 }
 
 TEST_F(DataSize, CountsConnectivityInTheRecordOfItsGrid) {
-    auto file = openRecord(
-        Bytes().record(payload().integers({5, 2, 0})).record(payload().reals(15 + 4 * 2)).str(),
-        Plot3DDataStructure_Unstructured);
+    auto file = openRecord(FileBytes()
+                               .record(FileBytes().integers({5, 2, 0}))
+                               .record(FileBytes().equalReals(15 + 4 * 2))
+                               .str(),
+                           Plot3DDataStructure_Unstructured);
     EXPECT_TRUE(judge(*file));
 }
 

@@ -13,7 +13,8 @@ protected:
     static constexpr std::int64_t mostCalls = 200;
 
     /// Detects a sparse file with this header, and holds what it costs against the limits.
-    Plot3DFilePtr detectSparse(const Bytes& header, std::int64_t size, bool isSolutionOrFunction) {
+    Plot3DFilePtr detectSparse(const FileBytes& header, std::int64_t size,
+                               bool isSolutionOrFunction) {
         disk.putSparse("huge", header.str(), size);
         disk.resetCounts();
         Plot3DFileBuilder builder(options);
@@ -28,7 +29,7 @@ protected:
 TEST_F(DetectionCost, IsTheSameForAMegabyteAndForEightGigabytes) {
     for (const std::int32_t k : {7, 66000}) {
         const std::int64_t size = 12 + std::int64_t{12} * 101 * 103 * k;
-        auto file = detectSparse(Bytes().integers({101, 103, k}), size, gridFile);
+        auto file = detectSparse(FileBytes().integers({101, 103, k}), size, gridFile);
         ASSERT_NE(file, nullptr);
         EXPECT_EQ(file->gridDims[0], (Plot3DGridDims_s{101, 103, k}));
     }
@@ -36,7 +37,7 @@ TEST_F(DetectionCost, IsTheSameForAMegabyteAndForEightGigabytes) {
 
 TEST_F(DetectionCost, IsBoundedForTheLastCandidateOfTheSecondSearch) {
     // An unstructured grid of a billion nodes, in double precision and the other byte order.
-    Bytes header(Bytes::Order_e::Big);
+    FileBytes header(Order_e::Swapped);
     header.integers({1000000007, 0, 100000007});
     const std::int64_t size = 12 + std::int64_t{24} * 1000000007 + std::int64_t{16} * 100000007;
     auto file = detectSparse(header, size, gridFile);
@@ -46,13 +47,14 @@ TEST_F(DetectionCost, IsBoundedForTheLastCandidateOfTheSecondSearch) {
 
 TEST_F(DetectionCost, IsBoundedForAFileThatFitsNothing) {
     const std::int64_t size = std::int64_t{8} << 30;
-    EXPECT_EQ(detectSparse(Bytes().integers({101, 103, 66000}), size, gridFile), nullptr);
-    EXPECT_EQ(detectSparse(Bytes().integers({101, 103, 66000}), size, solutionOrFunction), nullptr);
+    EXPECT_EQ(detectSparse(FileBytes().integers({101, 103, 66000}), size, gridFile), nullptr);
+    EXPECT_EQ(detectSparse(FileBytes().integers({101, 103, 66000}), size, solutionOrFunction),
+              nullptr);
 }
 
 TEST_F(DetectionCost, IsBoundedForAnAbsurdCountOfGrids) {
     const std::int64_t size = std::int64_t{8} << 30;
-    const Bytes header = Bytes().integers({500000000, 1, 1, 1});
+    const FileBytes header = FileBytes().integers({500000000, 1, 1, 1});
     EXPECT_EQ(detectSparse(header, size, gridFile), nullptr);
 }
 
@@ -94,7 +96,7 @@ protected:
 
     /// Small counts, as headers have them, then noise.
     std::string plausibleHeader() {
-        Bytes bytes(below(2) == 0 ? Bytes::Order_e::Little : Bytes::Order_e::Big);
+        FileBytes bytes(below(2) == 0 ? Order_e::Native : Order_e::Swapped);
         for (std::int32_t count = below(12); count >= 0; --count)
             bytes.integers({below(20) == 0 ? 2147483647 - below(3) : below(6) - 1});
         return bytes.str() + noise(below(300));
@@ -102,13 +104,13 @@ protected:
 
     /// A good file with a few bytes changed, cut short or padded.
     std::string mutatedFile() {
-        std::string bytes = below(2) == 0
-                                ? Bytes().integers({2, 2, 3, 5, 7, 3, 2}).reals(3 * 72).str()
-                                : Bytes()
-                                      .record(payload().integers({2, 3, 5, 2, 3}))
-                                      .record(payload().reals(14))
-                                      .record(payload().reals(60))
-                                      .str();
+        std::string bytes =
+            below(2) == 0 ? FileBytes().integers({2, 2, 3, 5, 7, 3, 2}).equalReals(3 * 72).str()
+                          : FileBytes()
+                                .record(FileBytes().integers({2, 3, 5, 2, 3}))
+                                .record(FileBytes().equalReals(14))
+                                .record(FileBytes().equalReals(60))
+                                .str();
         for (std::int32_t count = below(4); count >= 0; --count)
             bytes[static_cast<std::size_t>(below(40))] = static_cast<char>(below(256));
         bytes.resize(bytes.size() - static_cast<std::size_t>(below(2) * below(20)) +

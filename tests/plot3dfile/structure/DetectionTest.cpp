@@ -8,7 +8,7 @@ namespace {
 using Detection = StructureTest;
 using Texts = std::vector<std::string>;
 
-constexpr std::int64_t pointCount = 30; // of 2 x 3 x 5
+constexpr std::int64_t points = 30; // of 2 x 3 x 5
 
 const char* const noGridFound =
     "Auto Detect cannot determine the Plot 3D grid Please manually describe the file on the File "
@@ -17,22 +17,24 @@ const char* const noSolutionFound =
     "Auto Detect cannot determine the Plot 3D solution/function file structure.\nPlease manually "
     "describe the file on the File Structure tab of the advanced load dialog.\nFile: file";
 
-Bytes fortranGrid(std::int64_t bytesOfData) {
-    return Bytes().record(payload().integers({2, 3, 5})).record(payload().reals(bytesOfData / 4));
+FileBytes fortranGrid(std::int64_t bytesOfData) {
+    return FileBytes()
+        .record(FileBytes().integers({2, 3, 5}))
+        .record(FileBytes().equalReals(bytesOfData / 4));
 }
 
 // ---- Order of trials ----------------------------------------------------------------------------
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryForWhole) {
-    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
 }
 
 TEST_F(Detection, TellsPlanesOfFortranByTheirRecords) {
-    Bytes bytes = Bytes().record(payload().integers({2, 3, 5}));
+    FileBytes bytes = FileBytes().record(FileBytes().integers({2, 3, 5}));
     for (int plane = 0; plane < 5; ++plane)
-        bytes.record(payload().reals(3 * 6));
+        bytes.record(FileBytes().equalReals(3 * 6));
     auto file = detect(bytes.str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DPlanes);
@@ -40,10 +42,10 @@ TEST_F(Detection, TellsPlanesOfFortranByTheirRecords) {
 
 // Only the first grid's records are compared, and one plane is a whole field.
 TEST_F(Detection, TakesPlanesOfFortranForWholeIfTheFirstGridHasOnePlane) {
-    Bytes bytes;
-    bytes.record(payload().integers({2})).record(payload().integers({5, 7, 1, 2, 3, 2}));
-    bytes.record(payload().reals(3 * 35));
-    bytes.record(payload().reals(3 * 6)).record(payload().reals(3 * 6));
+    FileBytes bytes;
+    bytes.record(FileBytes().integers({2})).record(FileBytes().integers({5, 7, 1, 2, 3, 2}));
+    bytes.record(FileBytes().equalReals(3 * 35));
+    bytes.record(FileBytes().equalReals(3 * 6)).record(FileBytes().equalReals(3 * 6));
     auto file = detect(bytes.str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
@@ -56,10 +58,10 @@ TEST_F(Detection, TakesTextFor3DWholeIfAny3DReadingFits) {
 }
 
 // A 2-D grid of one point in double precision. The low half of its X, the smallest number above 0,
-// stands where 3-D has its K, and then 1 x 1 x 1 pointCount in single precision fill the file.
+// stands where 3-D has its K, and then 1 x 1 x 1 points in single precision fill the file.
 TEST_F(Detection, Takes2DFor3DIfItsHeaderFits) {
     const std::string bytes =
-        Bytes().integers({1, 1}).doubles(1, 4.9406564584124654e-324).doubles(1).str();
+        FileBytes().integers({1, 1}).equalDoubles(1, 4.9406564584124654e-324).equalDoubles(1).str();
     auto file = openRecord(bytes, Plot3DDataStructure_2D);
     file->isDoublePrecision = true;
     EXPECT_TRUE(judge(*file));
@@ -69,9 +71,10 @@ TEST_F(Detection, Takes2DFor3DIfItsHeaderFits) {
     EXPECT_FALSE(found->isDoublePrecision);
 }
 
-// n x 1 x 1 pointCount have the bytes of n nodes.
+// n x 1 x 1 points have the bytes of n nodes.
 TEST_F(Detection, TakesSolutionsOfUnstructuredDataFor3DWhole) {
-    auto file = detect(Bytes().integers({7, 1, 1}).reals(4 + 5 * 7).str(), solutionOrFunction);
+    auto file =
+        detect(FileBytes().integers({7, 1, 1}).equalReals(4 + 5 * 7).str(), solutionOrFunction);
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
     EXPECT_EQ(file->gridDims[0], (Plot3DGridDims_s{7, 1, 1}));
@@ -105,14 +108,14 @@ TEST_F(Detection, TakesTheTokensOfOneLineForASingleGrid) {
 }
 
 TEST_F(Detection, GivesA1DFileOneGrid) {
-    auto file = detect(Bytes().integers({7}).reals(7).str());
+    auto file = detect(FileBytes().integers({7}).equalReals(7).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_1D);
     EXPECT_EQ(file->numGrids, 1);
 }
 
 TEST_F(Detection, ForgetsTheStructureOfAFileThatFitsNone) {
-    disk.put("file", Bytes().integers({2, 3, 5}).reals(7).str());
+    disk.put("file", FileBytes().integers({2, 3, 5}).equalReals(7).str());
     auto file = createPlot3DFile("file", false);
     ASSERT_TRUE(openPlot3DFile(*file));
     EXPECT_FALSE(searchStructure(*file));
@@ -120,7 +123,7 @@ TEST_F(Detection, ForgetsTheStructureOfAFileThatFitsNone) {
 }
 
 TEST_F(Detection, TriesNoIBlankInSolutions) {
-    auto file = openRecord(Bytes().integers({2, 3, 5}).reals(4 + 6 * pointCount).str(),
+    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(4 + 6 * points).str(),
                            Plot3DDataStructure_3DWhole, solutionOrFunction);
     EXPECT_FALSE(tryIBlank(*file, true));
     EXPECT_TRUE(file->hasIBlank);
@@ -130,8 +133,8 @@ TEST_F(Detection, TriesNoIBlankInSolutions) {
 // ---- Second chances -----------------------------------------------------------------------------
 
 TEST_F(Detection, FindsTheOtherByteOrderOfPlainBinaryInASecondSearch) {
-    Bytes reversed(Bytes::Order_e::Big);
-    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * pointCount).str());
+    FileBytes reversed(Order_e::Swapped);
+    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
     EXPECT_FALSE(file->relaxedChecks);
@@ -145,7 +148,7 @@ TEST_F(Detection, RelaxesItsChecksForLongerFortranRecords) {
         bool hasIBlank;
     } readings[] = {{36, true, true}, {26, true, false}, {20, false, true}, {14, false, false}};
     for (const auto& reading : readings) {
-        auto file = detect(fortranGrid(reading.bytesPerPoint * pointCount).str());
+        auto file = detect(fortranGrid(reading.bytesPerPoint * points).str());
         ASSERT_NE(file, nullptr);
         EXPECT_TRUE(file->relaxedChecks);
         EXPECT_EQ(file->isDoublePrecision, reading.isDoublePrecision);
@@ -185,7 +188,7 @@ TEST_F(Detection, GivesTextSolutionsNoIBlank) {
 // ---- Refusals -----------------------------------------------------------------------------------
 
 TEST_F(Detection, AsksForADescriptionOfAFileThatFitsNone) {
-    const std::string bytes = Bytes().integers({2, 3, 5}).reals(7).str();
+    const std::string bytes = FileBytes().integers({2, 3, 5}).equalReals(7).str();
     EXPECT_EQ(detect(bytes), nullptr);
     EXPECT_EQ(detect(bytes, solutionOrFunction), nullptr);
     EXPECT_EQ(messages(), (Texts{noGridFound, noSolutionFound}));
@@ -206,7 +209,7 @@ TEST_F(Detection, TellsOfEachTryToOpenAFileThatIsNotThere) {
 
 TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
     disk.vanishAfterOpens("file", 1);
-    EXPECT_EQ(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
+    EXPECT_EQ(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
     EXPECT_EQ(messages(), Texts{"The file file could not be opened."});
 }
 
@@ -214,7 +217,7 @@ TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
 
 TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, true);
-    const std::string bytes = Bytes().integers({2, 3, 5}).reals(3 * pointCount).str();
+    const std::string bytes = FileBytes().integers({2, 3, 5}).equalReals(3 * points).str();
     EXPECT_EQ(detect(bytes), nullptr);
     EXPECT_EQ(detect(bytes, solutionOrFunction), nullptr);
     EXPECT_EQ(messages(),
@@ -226,7 +229,7 @@ TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
     describe(Plot3DDataStructure_3DPlanes, Plot3DStyle_Classic, false);
-    auto file = detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DPlanes);
     EXPECT_TRUE(file->relaxedChecks);
@@ -234,22 +237,22 @@ TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
 
 TEST_F(Detection, FindsTheByteOrderOfADescribedFile) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    Bytes reversed(Bytes::Order_e::Big);
-    auto file = detect(reversed.integers({2, 3, 5}).reals(3 * pointCount).str());
+    FileBytes reversed(Order_e::Swapped);
+    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
 }
 
 TEST_F(Detection, TakesTheShortestReadingOfDescribedPlainBinary) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(Bytes().integers({2, 3, 5}).doubles(3 * pointCount).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalDoubles(3 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_FALSE(file->isDoublePrecision);
 }
 
 TEST_F(Detection, TakesTheLongestReadingOfDescribedFortran) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(fortranGrid(28 * pointCount).str());
+    auto file = detect(fortranGrid(28 * points).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->isDoublePrecision);
     EXPECT_TRUE(file->hasIBlank);
@@ -262,16 +265,16 @@ TEST_F(Detection, TakesDescribedTextOverLooseLines) {
 
 TEST_F(Detection, GivesADescribed1DFileNoGrids) {
     describe(Plot3DDataStructure_1D, Plot3DStyle_Classic, false);
-    auto file = detect(Bytes().integers({7}).reals(7).str());
+    auto file = detect(FileBytes().integers({7}).equalReals(7).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->numGrids, 0);
 }
 
 TEST_F(Detection, TakesAGridFileWhateverStyleItsCompanionsHave) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Overflow, false);
-    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
+    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Function, false);
-    EXPECT_NE(detect(Bytes().integers({2, 3, 5}).reals(3 * pointCount).str()), nullptr);
+    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
 }
 
 } // namespace

@@ -9,13 +9,13 @@ protected:
     FileList() {
         options.solutionsShareStructure = false;
         options.uniformGridStructure = false;
-        disk.put("small.x", Bytes().integers({2, 3, 5}).reals(3 * 30).str());
-        disk.put("large.x", Bytes().integers({7, 3, 2}).reals(3 * 42).str());
-        disk.put("multi.x", Bytes().integers({1, 2, 3, 5}).reals(3 * 30).str());
-        disk.put("plane.x", Bytes().integers({5, 7}).reals(2 * 35).str());
-        disk.put("a.q", Bytes().integers({2, 3, 5}).reals(4 + 5 * 30).str());
-        disk.put("b.q", Bytes().integers({2, 3, 5}).doubles(4 + 5 * 30).str());
-        disk.put("a.fun", Bytes().integers({1, 2, 3, 5, 2}).reals(2 * 30).str());
+        disk.put("small.x", FileBytes().integers({2, 3, 5}).equalReals(3 * 30).str());
+        disk.put("large.x", FileBytes().integers({7, 3, 2}).equalReals(3 * 42).str());
+        disk.put("multi.x", FileBytes().integers({1, 2, 3, 5}).equalReals(3 * 30).str());
+        disk.put("plane.x", FileBytes().integers({5, 7}).equalReals(2 * 35).str());
+        disk.put("a.q", FileBytes().integers({2, 3, 5}).equalReals(4 + 5 * 30).str());
+        disk.put("b.q", FileBytes().integers({2, 3, 5}).equalDoubles(4 + 5 * 30).str());
+        disk.put("a.fun", FileBytes().integers({1, 2, 3, 5, 2}).equalReals(2 * 30).str());
     }
 
     Plot3DFile_s* build(const char* name, bool isSolutionOrFunction) {
@@ -65,7 +65,7 @@ TEST_F(FileList, ValidatesGridFilesOfALoadThatIsNotUniform) {
 TEST_F(FileList, KeepsTheSizeOfTheFirstFileIfItsStructureIsReused) {
     options.uniformGridStructure = true;
     build("small.x", gridFile);
-    disk.put("longer.x", Bytes().integers({2, 3, 5}).reals(3 * 30 + 7).str());
+    disk.put("longer.x", FileBytes().integers({2, 3, 5}).equalReals(3 * 30 + 7).str());
     Plot3DFile_s* second = build("longer.x", gridFile);
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(second->fileSize, 12 + 4 * 3 * 30);
@@ -77,7 +77,7 @@ TEST_F(FileList, KeepsTheSizeOfTheFirstFileIfItsStructureIsReused) {
 TEST_F(FileList, TriesPrecisionAgainIfTheStructureIsReused) {
     options.uniformGridStructure = true;
     build("small.x", gridFile);
-    disk.put("iblank.x", Bytes().integers({2, 3, 5}).reals(4 * 30).str());
+    disk.put("iblank.x", FileBytes().integers({2, 3, 5}).equalReals(4 * 30).str());
     files[0]->fileSize = 12 + 4 * 4 * 30; // as if both files had the size of this one
     Plot3DFile_s* second = build("iblank.x", gridFile);
     ASSERT_NE(second, nullptr);
@@ -88,9 +88,9 @@ TEST_F(FileList, TriesPrecisionAgainIfTheStructureIsReused) {
 TEST_F(FileList, TriesNoOtherStructureThanTheReusedOne) {
     options.uniformGridStructure = true;
     const auto planes = [](std::int32_t count) {
-        Bytes bytes = Bytes().record(payload().integers({2, 3, count}));
+        FileBytes bytes = FileBytes().record(FileBytes().integers({2, 3, count}));
         for (std::int32_t plane = 0; plane < count; ++plane)
-            bytes.record(payload().reals(3 * 6));
+            bytes.record(FileBytes().equalReals(3 * 6));
         return bytes.str();
     };
     disk.put("planes.x", planes(5));
@@ -102,9 +102,9 @@ TEST_F(FileList, TriesNoOtherStructureThanTheReusedOne) {
 TEST_F(FileList, ReusesTheWidthOfMarkers) {
     options.uniformGridStructure = true;
     const auto grid = [](std::int32_t i) {
-        Bytes bytes;
-        bytes.record<std::int64_t>(payload().integers({i, 3, 5}));
-        return bytes.record<std::int64_t>(payload().reals(15 * 3 * i)).str();
+        FileBytes bytes(Order_e::Native, 8);
+        bytes.record(FileBytes().integers({i, 3, 5}));
+        return bytes.record(FileBytes().equalReals(15 * 3 * i)).str();
     };
     disk.put("first.x", grid(2));
     disk.put("second.x", grid(7));
@@ -115,8 +115,8 @@ TEST_F(FileList, ReusesTheWidthOfMarkers) {
 TEST_F(FileList, FindsTheByteOrderAgainIfTheStructureIsReused) {
     options.uniformGridStructure = true;
     build("small.x", gridFile);
-    Bytes reversed(Bytes::Order_e::Big);
-    disk.put("reversed.x", reversed.integers({2, 3, 5}).reals(3 * 30).str());
+    FileBytes reversed(Order_e::Swapped);
+    disk.put("reversed.x", reversed.integers({2, 3, 5}).equalReals(3 * 30).str());
     Plot3DFile_s* second = build("reversed.x", gridFile);
     ASSERT_NE(second, nullptr);
     EXPECT_TRUE(second->byteSwap);
@@ -150,7 +150,10 @@ TEST_F(FileList, ReusesTheStructureOfSolutionsThatShareIt) {
 TEST_F(FileList, RelaxesItsChecksOfAReusedFortranFile) {
     options.uniformGridStructure = true;
     const auto grid = [](std::int64_t reals) {
-        return Bytes().record(payload().integers({2, 3, 5})).record(payload().reals(reals)).str();
+        return FileBytes()
+            .record(FileBytes().integers({2, 3, 5}))
+            .record(FileBytes().equalReals(reals))
+            .str();
     };
     disk.put("exact.x", grid(90));
     disk.put("longer.x", grid(97));

@@ -11,7 +11,7 @@ using LayoutHeader = StructureTest;
 
 TEST_F(LayoutHeader, ReadsIntegersThatFillAFortranRecord) {
     auto file =
-        openRecord(Bytes().record(payload().integers({2, 3})).str(), Plot3DDataStructure_1D);
+        openRecord(FileBytes().record(FileBytes().integers({2, 3})).str(), Plot3DDataStructure_1D);
     std::int32_t values[2] = {};
     EXPECT_TRUE(readIntegerRecord(*file, 2, values));
     EXPECT_EQ(values[0], 2);
@@ -20,7 +20,7 @@ TEST_F(LayoutHeader, ReadsIntegersThatFillAFortranRecord) {
 
 TEST_F(LayoutHeader, RefusesIntegersInALongerFortranRecord) {
     auto file =
-        openRecord(Bytes().record(payload().integers({2, 3})).str(), Plot3DDataStructure_1D);
+        openRecord(FileBytes().record(FileBytes().integers({2, 3})).str(), Plot3DDataStructure_1D);
     std::int32_t value = 0;
     EXPECT_FALSE(readIntegerRecord(*file, 1, &value));
     file->relaxedChecks = true;
@@ -29,7 +29,8 @@ TEST_F(LayoutHeader, RefusesIntegersInALongerFortranRecord) {
 }
 
 TEST_F(LayoutHeader, RefusesIntegersInAShorterFortranRecordEvenIfRelaxed) {
-    auto file = openRecord(Bytes().record(payload().integers({2})).str(), Plot3DDataStructure_1D);
+    auto file =
+        openRecord(FileBytes().record(FileBytes().integers({2})).str(), Plot3DDataStructure_1D);
     file->relaxedChecks = true;
     std::int32_t values[2] = {};
     EXPECT_FALSE(readIntegerRecord(*file, 2, values));
@@ -68,8 +69,8 @@ TEST_F(LayoutHeader, GrowsManyDimensionsByAHundredThousand) {
 }
 
 TEST_F(LayoutHeader, KeepsLeftoverDimensionsOfEarlierTrials) {
-    auto file =
-        openRecord(Bytes().integers({2, 3, 5}).reals(90).str(), Plot3DDataStructure_3DWhole);
+    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(90).str(),
+                           Plot3DDataStructure_3DWhole);
     EXPECT_TRUE(storeGridDims(7, 11, 13, 1, file->gridDims));
     EXPECT_TRUE(judge(*file));
     EXPECT_EQ(file->numGrids, 1);

@@ -29,7 +29,7 @@ constexpr Plot3DDataStructure_e severalGridLayouts[] = {
 TEST_F(LayoutParser, RefusesCountOfGridsBelowOne) {
     for (const std::int32_t count : {0, -1, -2147483647})
         for (const Plot3DDataStructure_e layout : severalGridLayouts)
-            EXPECT_FALSE(accepts(Bytes().integers({count}).str(), layout, multi));
+            EXPECT_FALSE(accepts(FileBytes().integers({count}).str(), layout, multi));
     for (const Plot3DDataStructure_e layout : severalGridLayouts)
         EXPECT_FALSE(accepts("0\n" + std::string(60, '1'), layout, multi));
 }
@@ -37,8 +37,8 @@ TEST_F(LayoutParser, RefusesCountOfGridsBelowOne) {
 // Function files without variables have no data, so that nothing but their size stands against
 // them.
 TEST_F(LayoutParser, RefusesMoreGridsThanOneForSixteenBytes) {
-    auto file = openRecord(Bytes().integers({2, 1, 1, 0, 1, 1, 0, 1}).str(), Plot3DDataStructure_2D,
-                           solutionOrFunction, Plot3DStyle_Function);
+    auto file = openRecord(FileBytes().integers({2, 1, 1, 0, 1, 1, 0, 1}).str(),
+                           Plot3DDataStructure_2D, solutionOrFunction, Plot3DStyle_Function);
     file->isMultiGrid = true;
     file->relaxedChecks = true;
     EXPECT_FALSE(judge(*file)); // 32 bytes
@@ -48,14 +48,14 @@ TEST_F(LayoutParser, RefusesMoreGridsThanOneForSixteenBytes) {
 
 TEST_F(LayoutParser, RefusesSixteenBytesInEveryLayoutBut1D) {
     for (const Plot3DDataStructure_e layout : severalGridLayouts) {
-        auto file = openRecord(Bytes().integers({1, 1, 1, 0}).str(), layout, solutionOrFunction,
+        auto file = openRecord(FileBytes().integers({1, 1, 1, 0}).str(), layout, solutionOrFunction,
                                Plot3DStyle_Function);
         file->relaxedChecks = true;
         EXPECT_FALSE(judge(*file));
         file->fileSize = 17;
         EXPECT_TRUE(judge(*file));
     }
-    auto line = openRecord(Bytes().integers({3}).reals(3).str(), Plot3DDataStructure_1D);
+    auto line = openRecord(FileBytes().integers({3}).equalReals(3).str(), Plot3DDataStructure_1D);
     line->numGrids = 1;
     EXPECT_TRUE(judge(*line));
 }
@@ -64,14 +64,14 @@ TEST_F(LayoutParser, RefusesSixteenBytesInEveryLayoutBut1D) {
 
 TEST_F(LayoutParser, RefusesDimensionsBelowOne) {
     for (const std::int32_t wrong : {0, -2}) {
-        EXPECT_FALSE(accepts(Bytes().integers({wrong, 3, 5}).reals(90).str(),
+        EXPECT_FALSE(accepts(FileBytes().integers({wrong, 3, 5}).equalReals(90).str(),
                              Plot3DDataStructure_3DWhole, single));
-        EXPECT_FALSE(accepts(Bytes().integers({2, wrong, 5}).reals(90).str(),
+        EXPECT_FALSE(accepts(FileBytes().integers({2, wrong, 5}).equalReals(90).str(),
                              Plot3DDataStructure_3DWhole, single));
-        EXPECT_FALSE(accepts(Bytes().integers({2, 3, wrong}).reals(90).str(),
+        EXPECT_FALSE(accepts(FileBytes().integers({2, 3, wrong}).equalReals(90).str(),
                              Plot3DDataStructure_3DWhole, single));
-        EXPECT_FALSE(
-            accepts(Bytes().integers({2, wrong}).reals(90).str(), Plot3DDataStructure_2D, single));
+        EXPECT_FALSE(accepts(FileBytes().integers({2, wrong}).equalReals(90).str(),
+                             Plot3DDataStructure_2D, single));
     }
     // In text even if their product is one of a grid.
     const std::string values(60, '1');
@@ -87,14 +87,14 @@ TEST_F(LayoutParser, RefusesGridsWithMorePointsThanTheFileHasBytes) {
 
 TEST_F(LayoutParser, RefusesProductsPast64Bits) {
     const std::int32_t huge = 2147483647;
-    EXPECT_FALSE(accepts(Bytes().integers({huge, huge, huge}).reals(30).str(),
+    EXPECT_FALSE(accepts(FileBytes().integers({huge, huge, huge}).equalReals(30).str(),
                          Plot3DDataStructure_3DWhole, single));
 }
 
 // Two grids of nearly 2^63 points each, in a file of as many bytes as a position can tell.
 TEST_F(LayoutParser, RefusesSumsPast64Bits) {
     const std::int32_t huge = 2147483647;
-    disk.putSparse("record", Bytes().integers({2, huge, huge, 2, huge, huge, 2}).str(),
+    disk.putSparse("record", FileBytes().integers({2, huge, huge, 2, huge, huge, 2}).str(),
                    std::numeric_limits<std::int64_t>::max());
     auto file = createPlot3DFile("record", false);
     ASSERT_TRUE(openPlot3DFile(*file));
@@ -106,8 +106,8 @@ TEST_F(LayoutParser, RefusesSumsPast64Bits) {
 }
 
 TEST_F(LayoutParser, RefusesCountsInTheOtherByteOrder) {
-    Bytes reversed(Bytes::Order_e::Big);
-    reversed.integers({2, 3, 5}).reals(90);
+    FileBytes reversed(Order_e::Swapped);
+    reversed.integers({2, 3, 5}).equalReals(90);
     EXPECT_FALSE(accepts(reversed.str(), Plot3DDataStructure_3DWhole, single));
 }
 
@@ -171,10 +171,12 @@ TEST_F(LayoutParser, WantsTheFirstScalarsToEndTheirLine) {
 // ---- Fortran headers ----------------------------------------------------------------------------
 
 TEST_F(LayoutParser, WantsDimensionsToFillTheirRecord) {
-    const Bytes fits = Bytes().record(payload().integers({2, 3, 5})).record(payload().reals(90));
-    const Bytes tooLong =
-        Bytes().record(payload().integers({2, 3, 5, 9})).record(payload().reals(90));
-    const Bytes tooShort = Bytes().record(payload().integers({2, 3})).record(payload().reals(90));
+    const FileBytes fits =
+        FileBytes().record(FileBytes().integers({2, 3, 5})).record(FileBytes().equalReals(90));
+    const FileBytes tooLong =
+        FileBytes().record(FileBytes().integers({2, 3, 5, 9})).record(FileBytes().equalReals(90));
+    const FileBytes tooShort =
+        FileBytes().record(FileBytes().integers({2, 3})).record(FileBytes().equalReals(90));
     EXPECT_TRUE(accepts(fits.str(), Plot3DDataStructure_3DWhole, single));
     EXPECT_FALSE(accepts(tooLong.str(), Plot3DDataStructure_3DWhole, single));
     EXPECT_FALSE(accepts(tooShort.str(), Plot3DDataStructure_3DWhole, single));
@@ -184,15 +186,15 @@ TEST_F(LayoutParser, WantsDimensionsToFillTheirRecord) {
 
 TEST_F(LayoutParser, RefusesGridsThatDisagreeOnTheNumberOfVariables) {
     // Two grids, of 2 and of 3 variables; the size of the data is right for 2 in each.
-    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 2, 5, 7, 3}).reals(2 * 41).str(),
+    EXPECT_FALSE(accepts(FileBytes().integers({2, 2, 3, 2, 5, 7, 3}).equalReals(2 * 41).str(),
                          Plot3DDataStructure_2D, multi, solutionOrFunction, Plot3DStyle_Function));
-    EXPECT_FALSE(accepts(Bytes().integers({2, 2, 3, 1, 2, 5, 7, 1, 3}).reals(2 * 41).str(),
+    EXPECT_FALSE(accepts(FileBytes().integers({2, 2, 3, 1, 2, 5, 7, 1, 3}).equalReals(2 * 41).str(),
                          Plot3DDataStructure_3DWhole, multi, solutionOrFunction,
                          Plot3DStyle_Function));
-    EXPECT_FALSE(accepts(Bytes().integers({2, 3, 1, 1, 2, 5, 1, 1, 3}).reals(2 * 8).str(),
+    EXPECT_FALSE(accepts(FileBytes().integers({2, 3, 1, 1, 2, 5, 1, 1, 3}).equalReals(2 * 8).str(),
                          Plot3DDataStructure_Unstructured, multi, solutionOrFunction,
                          Plot3DStyle_Function));
-    EXPECT_TRUE(accepts(Bytes().integers({2, 2, 3, 2, 5, 7, 2}).reals(2 * 41).str(),
+    EXPECT_TRUE(accepts(FileBytes().integers({2, 2, 3, 2, 5, 7, 2}).equalReals(2 * 41).str(),
                         Plot3DDataStructure_2D, multi, solutionOrFunction, Plot3DStyle_Function));
 }
 
@@ -234,9 +236,9 @@ TEST_F(LayoutParser, RefusesIBlankAndSeveralGridsIn1D) {
 
 TEST_F(LayoutParser, WantsTrianglesOrTetrahedraButNotBoth) {
     const auto acceptsElements = [&](std::int32_t triangles, std::int32_t tetrahedra) {
-        Bytes file;
-        file.integers({4, triangles, tetrahedra}).reals(12);
-        file.reals(4 * (std::int64_t{triangles} + tetrahedra));
+        FileBytes file;
+        file.integers({4, triangles, tetrahedra}).equalReals(12);
+        file.equalReals(4 * (std::int64_t{triangles} + tetrahedra));
         return accepts(file.str(), Plot3DDataStructure_Unstructured, single);
     };
     EXPECT_TRUE(acceptsElements(2, 0));
@@ -247,7 +249,7 @@ TEST_F(LayoutParser, WantsTrianglesOrTetrahedraButNotBoth) {
 
 TEST_F(LayoutParser, WantsOnesBehindTheNodesOfAnUnstructuredSolution) {
     const auto acceptsSizes = [&](std::int32_t second, std::int32_t third) {
-        return accepts(Bytes().integers({7, second, third}).reals(4 + 35).str(),
+        return accepts(FileBytes().integers({7, second, third}).equalReals(4 + 35).str(),
                        Plot3DDataStructure_Unstructured, single, solutionOrFunction);
     };
     EXPECT_TRUE(acceptsSizes(1, 1));
@@ -259,8 +261,8 @@ TEST_F(LayoutParser, WantsOnesBehindTheNodesOfAnUnstructuredSolution) {
 
 TEST_F(LayoutParser, Gives1DSolutionsThreeVariablesAndFourScalarsInEveryStyle) {
     for (const Plot3DStyle_e style : {Plot3DStyle_Classic, Plot3DStyle_Swift}) {
-        auto file = openRecord(Bytes().integers({7}).reals(4 + 21).str(), Plot3DDataStructure_1D,
-                               solutionOrFunction, style);
+        auto file = openRecord(FileBytes().integers({7}).equalReals(4 + 21).str(),
+                               Plot3DDataStructure_1D, solutionOrFunction, style);
         file->numGrids = 1;
         EXPECT_TRUE(judge(*file));
         EXPECT_EQ(file->numVars, 3);
@@ -269,8 +271,8 @@ TEST_F(LayoutParser, Gives1DSolutionsThreeVariablesAndFourScalarsInEveryStyle) {
 }
 
 TEST_F(LayoutParser, TakesTheNumberOfVariablesOfA1DFunctionFileFromItsHeader) {
-    auto file = openRecord(Bytes().integers({7, 2}).reals(14).str(), Plot3DDataStructure_1D,
-                           solutionOrFunction, Plot3DStyle_Function);
+    auto file = openRecord(FileBytes().integers({7, 2}).equalReals(14).str(),
+                           Plot3DDataStructure_1D, solutionOrFunction, Plot3DStyle_Function);
     file->numGrids = 1;
     EXPECT_TRUE(judge(*file));
     EXPECT_EQ(file->numVars, 2);

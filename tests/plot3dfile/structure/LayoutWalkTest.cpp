@@ -161,7 +161,7 @@ TEST_F(LayoutWalk, EndsAtTheFirstMissingValueWhateverTheHeaderPromises) {
 
 // The header is a record, and nothing follows: the grid's own records are missing.
 TEST_F(LayoutWalk, TellsWhichRecordIsMissing) {
-    const std::string header = Bytes().record(payload().integers({2, 3, 5})).str();
+    const std::string header = FileBytes().record(FileBytes().integers({2, 3, 5})).str();
     auto grid = openRecord(header, Plot3DDataStructure_3DWhole);
     grid->fileSize = 1000; // as if the file had been cut after it was measured
     EXPECT_FALSE(walk(*grid));
@@ -174,7 +174,7 @@ TEST_F(LayoutWalk, TellsWhichRecordIsMissing) {
 }
 
 TEST_F(LayoutWalk, IsSilentAboutMissingRecordsWithoutReport) {
-    auto file = openRecord(Bytes().record(payload().integers({2, 3, 5})).str(),
+    auto file = openRecord(FileBytes().record(FileBytes().integers({2, 3, 5})).str(),
                            Plot3DDataStructure_3DWhole);
     file->fileSize = 1000;
     const Plot3DItemReceiver_s receiver = recording.receiver();

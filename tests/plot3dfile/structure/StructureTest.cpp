@@ -1,23 +1,9 @@
 #include "StructureTest.h"
 
-#include "session/ReferenceHost.h"
-
 namespace quorvia::quorutildataio {
 
 StructureTest::StructureTest() {
-    host::ReferenceHost::instance().reset();
     setLoadOptionDefaults(options);
-}
-
-StructureTest::~StructureTest() {
-    EXPECT_EQ(host::ReferenceHost::instance().log().violations, std::vector<std::string>());
-}
-
-std::vector<std::string> StructureTest::messages() const {
-    std::vector<std::string> texts;
-    for (const host::Message_s& message : host::ReferenceHost::instance().log().messages)
-        texts.push_back(message.text);
-    return texts;
 }
 
 Plot3DFilePtr StructureTest::openRecord(const std::string& bytes,

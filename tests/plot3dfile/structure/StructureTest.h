@@ -1,14 +1,10 @@
-// What the tests of layouts and detection share: a disk in memory, the host's messages, and the
+// What the tests of layouts and detection share: a disk in memory and the
 // words for building files and records.
 #pragma once
 
 #include <memory>
 #include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "Bytes.h"
 #include "instructions/Plot3DLoadOptions.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/detection/StructureDetection.h"
@@ -18,20 +14,20 @@
 #include "plot3dfile/layout/LayoutHeader.h"
 #include "plot3dfile/layout/LayoutParsers.h"
 #include "support/FakeDisk.h"
+#include "support/FileBytes.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 
 constexpr bool gridFile = false;          // for `isSolutionOrFunction`
 constexpr bool solutionOrFunction = true; // for `isSolutionOrFunction`
 
-class StructureTest : public testing::Test {
+using testsupport::FileBytes;
+using testsupport::Order_e;
+
+class StructureTest : public testsupport::HostedTest {
 protected:
     StructureTest();
-    ~StructureTest() override;
-
-    /// Errors that the user has seen so far, in order.
-    std::vector<std::string> messages() const;
-
     /// The open record of a file of these bytes, its encoding sniffed, its structure as told.
     Plot3DFilePtr openRecord(const std::string& bytes, Plot3DDataStructure_e dataStructure,
                              bool isSolutionOrFunction = gridFile,

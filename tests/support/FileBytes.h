@@ -1,5 +1,5 @@
-// The bytes of a small file, made by hand: numbers, text, markers and records, in either byte
-// order.
+// The bytes of a small file, made by hand and not by the writer: numbers, text, markers and
+// records, in either byte order.
 #pragma once
 
 #include <algorithm>
@@ -20,6 +20,8 @@ public:
     FileBytes& integers(const std::vector<std::int32_t>& values) { return appendAll(values); }
     FileBytes& reals(const std::vector<float>& values) { return appendAll(values); }
     FileBytes& doubles(const std::vector<double>& values) { return appendAll(values); }
+    FileBytes& equalReals(std::int64_t count, float value = 0.5F) { return repeat(count, value); }
+    FileBytes& equalDoubles(std::int64_t count, double value = 0.5) { return repeat(count, value); }
     FileBytes& raw(const std::string& bytes) {
         bytes_ += bytes;
         return *this;
@@ -38,6 +40,7 @@ public:
         const auto length = static_cast<std::int64_t>(payload.size());
         return marker(length).raw(payload).marker(length);
     }
+    FileBytes& record(const FileBytes& payload) { return record(payload.str()); }
 
     const std::string& str() const { return bytes_; }
 
@@ -45,6 +48,13 @@ private:
     template <typename Number>
     FileBytes& appendAll(const std::vector<Number>& values) {
         for (const Number value : values)
+            append(value);
+        return *this;
+    }
+
+    template <typename Number>
+    FileBytes& repeat(std::int64_t count, Number value) {
+        for (std::int64_t index = 0; index < count; ++index)
             append(value);
         return *this;
     }
