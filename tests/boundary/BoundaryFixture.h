@@ -11,6 +11,8 @@
 
 namespace quorvia::testsupport {
 
+inline const GridList parentGrids = {{2, 3, 5}, {5, 3, 7}};
+
 /// Points of a boundary, ends included, from 1.
 struct Part_s {
     std::int32_t iStart, iEnd, jStart, jEnd, kStart, kEnd;

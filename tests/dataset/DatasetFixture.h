@@ -17,6 +17,9 @@
 
 namespace quorvia::testsupport {
 
+inline const GridList oneGrid = {{2, 3, 5}};
+inline const GridList threeGrids = {{2, 3, 5}, {3, 2, 2}, {2, 2, 7}};
+
 class DatasetTest : public GuestTest {
 protected:
     DatasetTest();

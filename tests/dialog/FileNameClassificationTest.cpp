@@ -1,6 +1,6 @@
 #include "filenames/FileNameClassification.h"
 
-#include "instructions/GuestFixture.h"
+#include "support/HostedTest.h"
 
 namespace quorvia::quorutildataio {
 namespace {

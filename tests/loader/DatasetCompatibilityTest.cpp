@@ -9,9 +9,7 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList oneGrid = {{2, 3, 5}}; // like the zones of makeOldDataSet
 const GridList otherSize = {{2, 3, 7}};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 class DatasetCompatibility : public LoaderTest {
 protected:

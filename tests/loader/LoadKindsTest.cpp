@@ -8,10 +8,8 @@ namespace {
 
 using namespace quorutildataio;
 
-const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
 const GridList onePlane = {{5, 7, 1}};
 const GridList oneLine = {{7, 1, 1}};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 /// What a load told: state changes by code, undo states as they ended, and the screen.
 struct Told_s {

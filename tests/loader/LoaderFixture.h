@@ -14,6 +14,10 @@
 
 namespace quorvia::testsupport {
 
+inline const GridList oneGrid = {{2, 3, 5}}; // like the zones of makeOldDataSet
+inline const GridList twoGrids = {{2, 3, 5}, {3, 5, 7}};
+inline const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+
 constexpr bool fromSelection = true; // for loads: the user chose the files
 
 class LoaderTest : public HostedTest {

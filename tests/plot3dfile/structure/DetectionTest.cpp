@@ -8,7 +8,7 @@ namespace {
 using Detection = StructureTest;
 using Texts = std::vector<std::string>;
 
-constexpr std::int64_t points = 30; // of 2 x 3 x 5
+constexpr std::int64_t pointCount = 30; // of 2 x 3 x 5
 
 const char* const noGridFound =
     "Auto Detect cannot determine the Plot 3D grid Please manually describe the file on the File "
@@ -26,7 +26,7 @@ FileBytes fortranGrid(std::int64_t bytesOfData) {
 // ---- Order of trials ----------------------------------------------------------------------------
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryForWhole) {
-    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DWhole);
 }
@@ -123,7 +123,7 @@ TEST_F(Detection, ForgetsTheStructureOfAFileThatFitsNone) {
 }
 
 TEST_F(Detection, TriesNoIBlankInSolutions) {
-    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(4 + 6 * points).str(),
+    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(4 + 6 * pointCount).str(),
                            Plot3DDataStructure_3DWhole, solutionOrFunction);
     EXPECT_FALSE(tryIBlank(*file, true));
     EXPECT_TRUE(file->hasIBlank);
@@ -134,7 +134,7 @@ TEST_F(Detection, TriesNoIBlankInSolutions) {
 
 TEST_F(Detection, FindsTheOtherByteOrderOfPlainBinaryInASecondSearch) {
     FileBytes reversed(Order_e::Swapped);
-    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * points).str());
+    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
     EXPECT_FALSE(file->relaxedChecks);
@@ -148,7 +148,7 @@ TEST_F(Detection, RelaxesItsChecksForLongerFortranRecords) {
         bool hasIBlank;
     } readings[] = {{36, true, true}, {26, true, false}, {20, false, true}, {14, false, false}};
     for (const auto& reading : readings) {
-        auto file = detect(fortranGrid(reading.bytesPerPoint * points).str());
+        auto file = detect(fortranGrid(reading.bytesPerPoint * pointCount).str());
         ASSERT_NE(file, nullptr);
         EXPECT_TRUE(file->relaxedChecks);
         EXPECT_EQ(file->isDoublePrecision, reading.isDoublePrecision);
@@ -209,7 +209,7 @@ TEST_F(Detection, TellsOfEachTryToOpenAFileThatIsNotThere) {
 
 TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
     disk.vanishAfterOpens("file", 1);
-    EXPECT_EQ(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
+    EXPECT_EQ(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str()), nullptr);
     EXPECT_EQ(messages(), Texts{"The file file could not be opened."});
 }
 
@@ -217,7 +217,7 @@ TEST_F(Detection, RefusesAFileThatVanishesBehindItsMeasuring) {
 
 TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, true);
-    const std::string bytes = FileBytes().integers({2, 3, 5}).equalReals(3 * points).str();
+    const std::string bytes = FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str();
     EXPECT_EQ(detect(bytes), nullptr);
     EXPECT_EQ(detect(bytes, solutionOrFunction), nullptr);
     EXPECT_EQ(messages(),
@@ -229,7 +229,7 @@ TEST_F(Detection, RefusesAFileThatDoesNotFitItsDescription) {
 
 TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
     describe(Plot3DDataStructure_3DPlanes, Plot3DStyle_Classic, false);
-    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->dataStructure, Plot3DDataStructure_3DPlanes);
     EXPECT_TRUE(file->relaxedChecks);
@@ -238,21 +238,21 @@ TEST_F(Detection, TakesPlanesOfPlainBinaryIfTheyAreDescribed) {
 TEST_F(Detection, FindsTheByteOrderOfADescribedFile) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
     FileBytes reversed(Order_e::Swapped);
-    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * points).str());
+    auto file = detect(reversed.integers({2, 3, 5}).equalReals(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->byteSwap);
 }
 
 TEST_F(Detection, TakesTheShortestReadingOfDescribedPlainBinary) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(FileBytes().integers({2, 3, 5}).equalDoubles(3 * points).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalDoubles(3 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_FALSE(file->isDoublePrecision);
 }
 
 TEST_F(Detection, TakesTheLongestReadingOfDescribedFortran) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Classic, false);
-    auto file = detect(fortranGrid(28 * points).str());
+    auto file = detect(fortranGrid(28 * pointCount).str());
     ASSERT_NE(file, nullptr);
     EXPECT_TRUE(file->isDoublePrecision);
     EXPECT_TRUE(file->hasIBlank);
@@ -272,9 +272,9 @@ TEST_F(Detection, GivesADescribed1DFileNoGrids) {
 
 TEST_F(Detection, TakesAGridFileWhateverStyleItsCompanionsHave) {
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Overflow, false);
-    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
+    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str()), nullptr);
     describe(Plot3DDataStructure_3DWhole, Plot3DStyle_Function, false);
-    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * points).str()), nullptr);
+    EXPECT_NE(detect(FileBytes().integers({2, 3, 5}).equalReals(3 * pointCount).str()), nullptr);
 }
 
 } // namespace
