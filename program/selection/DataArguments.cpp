@@ -1,11 +1,14 @@
 #include "selection/DataArguments.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
 
 #include <plot3d/Error.h>
+#include <plot3d/FileInfo.h>
+#include <plot3d/FileNames.h>
 
 #include "manners/FileList.h"
 #include "manners/Options.h"
@@ -31,13 +34,32 @@ bool isEmpty(const FileLists& lists) {
     return lists.grid.empty() && lists.solution.empty() && lists.function.empty();
 }
 
-/// Lists of known kinds, with what standard input lists in the place of `-`.
-FileLists listedByKind(const FileLists& lists, std::istream& in) {
-    FileLists result = lists;
-    result.grid = filesNamed(lists.grid, in);
-    result.solution = filesNamed(lists.solution, in);
-    result.function = filesNamed(lists.function, in);
-    return result;
+/// The list for a file by its name, or else by its bytes. Throws Error if it is of no kind.
+std::vector<std::string>& listFor(const std::string& file, FileLists& lists,
+                                  std::vector<std::string>& nameFiles, const Watch& watch) {
+    InspectOptions options;
+    options.trials = false;
+    const FileInfo info = inspect(file, options, watch);
+    switch (info.kind.value_or(FileKind::Boundary)) {
+    case FileKind::Grid:
+        return lists.grid;
+    case FileKind::Solution:
+        return lists.solution;
+    case FileKind::Function:
+        return lists.function;
+    case FileKind::Name:
+        return nameFiles;
+    case FileKind::Boundary:
+        break;
+    }
+    const Misfit misfit = info.problem ? info.problem->misfit : Misfit();
+    throw Error(ErrorKind::NotPlot3D,
+                misfit.what.empty() ? "no grid, solution or function file" : misfit.what,
+                {.file = file,
+                 .byte = misfit.byte,
+                 .expected = misfit.expected,
+                 .found = misfit.found,
+                 .next = {}});
 }
 
 /// Opens with progress, and tells the notes of the load.
@@ -54,11 +76,10 @@ DataSet opened(const Files& files, const OpenOptions& options, const Surrounding
 } // namespace
 
 void DataArguments::declare(CLI::App& app) {
-    CLI::Option* const files =
-        addFiles(app, files_,
-                 "Files of one data set in any order; - reads a list of them from standard input");
+    addFiles(app, files_,
+             "Files of one data set in any order; - reads a list of them from standard input");
     const auto addKind = [&](const char* name, std::vector<std::string>& list, const char* help) {
-        addRepeatable(app, name, list, "FILE", help)->allow_extra_args()->excludes(files);
+        addRepeatable(app, name, list, "FILE", help)->allow_extra_args();
     };
     addKind("--grid", lists_.grid, "Grid files, where neither names nor bytes tell the kinds");
     addKind("--solution", lists_.solution, "Solution files, likewise");
@@ -86,10 +107,27 @@ OpenOptions DataArguments::options() const {
     return options;
 }
 
+FileLists DataArguments::listsWithFiles(const Surroundings_s& surroundings) const {
+    FileLists lists;
+    lists.grid = filesNamed(lists_.grid, surroundings.in);
+    lists.solution = filesNamed(lists_.solution, surroundings.in);
+    lists.function = filesNamed(lists_.function, surroundings.in);
+    std::vector<std::string> others = filesNamed(files_, surroundings.in);
+    std::sort(others.begin(), others.end(), naturalLess);
+    std::vector<std::string> nameFiles;
+    ProgressWatch progress(surroundings);
+    for (const std::string& file : others)
+        listFor(file, lists, nameFiles, progress.watch()).push_back(file);
+    if (nameFiles.size() > 1 || (!nameFiles.empty() && !nameFile_.empty()))
+        throw Error(ErrorKind::Usage, "there is more than one file of names");
+    lists.name = nameFiles.empty() ? nameFile_ : nameFiles.front();
+    return lists;
+}
+
 DataSet DataArguments::open(const Surroundings_s& surroundings) const {
     if (isEmpty(lists_))
         return open(files(surroundings), surroundings);
-    return opened(listedByKind(lists_, surroundings.in), options(), surroundings);
+    return opened(listsWithFiles(surroundings), options(), surroundings);
 }
 
 DataSet DataArguments::open(const std::vector<std::string>& files,

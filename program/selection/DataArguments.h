@@ -29,6 +29,8 @@ public:
 
 private:
     OpenOptions options() const;
+    /// The files of known kinds, and behind them the others by the kind that they are seen to have.
+    FileLists listsWithFiles(const Surroundings_s& surroundings) const;
 
     std::vector<std::string> files_; // of kinds that their names or bytes tell
     FileLists lists_;

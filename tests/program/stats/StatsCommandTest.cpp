@@ -206,6 +206,18 @@ TEST_F(StatsCommandTest, TellsWhatCannotBeReadAndGoesOnWithTheRest) {
     EXPECT_NE(run.out.find("\n  RHO          60 "), std::string::npos) << run.out;
 }
 
+TEST_F(StatsCommandTest, TakesFilesOfAnyNameByKind) {
+    const std::string x = write("mesh.bin", gridFile(twoSizes, placeValue));
+    const std::string q = write("flow.bin", solutionFile(twoSizes, placeValue));
+    for (const std::vector<std::string>& words : {std::vector<std::string>{x, q},
+                                                  {"--grid", x, "--solution", q},
+                                                  {x, "--solution", q},
+                                                  {q, "--grid", x}})
+        EXPECT_EQ(told(words).size(), 8U) << words.front();
+    EXPECT_EQ(stats({"--grid", q, "--solution", x}).code, 1);
+    EXPECT_EQ(stats({file("none.bin"), "--solution", q}).code, 1);
+}
+
 TEST_F(StatsCommandTest, RefusesWhatItCannotDo) {
     EXPECT_EQ(stats({grid(), "--variable", "NONE"}).code, 2);
     EXPECT_EQ(stats({grid(), "--zone", "3"}).code, 2);
