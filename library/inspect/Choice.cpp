@@ -41,8 +41,8 @@ void addReadingsWithIBlank(Readings& readings) {
 
 class Chooser {
 public:
-    Chooser(Evidence_s& evidence, bool allReadings)
-        : evidence_(evidence), allReadings_(allReadings) {}
+    Chooser(Evidence_s& evidence, const plot3d::InspectOptions& options)
+        : evidence_(evidence), options_(options) {}
 
     Choice_s run() {
         for (const Kinds_e kinds : kindsToTry())
@@ -59,14 +59,15 @@ private:
             evidence_.expectedKind.value_or(plot3d::FileKind::Grid) == plot3d::FileKind::Grid;
         const Kinds_e first = isGrid ? Kinds_e::Grid : Kinds_e::SolutionOrFunction;
         const Kinds_e second = isGrid ? Kinds_e::SolutionOrFunction : Kinds_e::Grid;
-        if (evidence_.expectedKind && !allReadings_)
+        if (evidence_.expectedKind && !options_.allReadings)
             return {first};
         return {first, second};
     }
 
     void tryKinds(Kinds_e kinds) {
-        Search_s search =
-            searchFile(evidence_.file, evidence_.form, {.kinds = kinds, .goesOn = allReadings_});
+        Search_s search = searchFile(
+            evidence_.file, evidence_.form,
+            {.kinds = kinds, .goesOn = options_.allReadings, .notesTrials = options_.trials});
         choice_.trials.insert(choice_.trials.end(), search.trials.begin(), search.trials.end());
         if (search.readings.empty())
             return;
@@ -101,8 +102,9 @@ private:
     }
 
     void takeUnstructured() {
-        const Search_s search = searchFile(evidence_.file, evidence_.form,
-                                           {.kinds = triedKinds_.front(), .goesOn = true});
+        const Search_s search =
+            searchFile(evidence_.file, evidence_.form,
+                       {.kinds = triedKinds_.front(), .goesOn = true, .notesTrials = false});
         for (const Reading_s& reading : search.readings)
             if (reading.dataStructure == io::Plot3DDataStructure_Unstructured)
                 return take(firstOfKinds_.front(), reading);
@@ -110,9 +112,10 @@ private:
 
     /// Goes on behind the reading that a load takes, which does not account for every byte.
     bool takeExactOf(std::size_t index) {
-        Readings readings = searchFile(evidence_.file, evidence_.form,
-                                       {.kinds = triedKinds_[index], .goesOn = true})
-                                .readings;
+        Readings readings =
+            searchFile(evidence_.file, evidence_.form,
+                       {.kinds = triedKinds_[index], .goesOn = true, .notesTrials = false})
+                .readings;
         if (isText(evidence_))
             addReadingsWithIBlank(readings);
         const auto exact = std::find_if(readings.begin(), readings.end(),
@@ -138,7 +141,7 @@ private:
     }
 
     Evidence_s& evidence_;
-    const bool allReadings_;
+    const plot3d::InspectOptions& options_;
     Choice_s choice_;
     Readings firstOfKinds_;
     std::vector<Kinds_e> triedKinds_;
@@ -146,8 +149,8 @@ private:
 
 } // namespace
 
-Choice_s chooseReading(Evidence_s& evidence, bool allReadings) {
-    return Chooser(evidence, allReadings).run();
+Choice_s chooseReading(Evidence_s& evidence, const plot3d::InspectOptions& options) {
+    return Chooser(evidence, options).run();
 }
 
 } // namespace plot3dlib

@@ -18,7 +18,7 @@ struct Choice_s {
 /// Tries the readings of the expected kind, or of all kinds, and sets `loaded`, `reading`,
 /// `account` and `text` of the evidence. A reading that accounts for every byte is preferred to one
 /// that does not; otherwise the order is grid, solution, function, and within a kind that of a
-/// load. `allReadings` goes on to all kinds, and behind what fits.
-Choice_s chooseReading(Evidence_s& evidence, bool allReadings);
+/// load. `allReadings` of the options goes on to all kinds, and behind what fits.
+Choice_s chooseReading(Evidence_s& evidence, const plot3d::InspectOptions& options);
 
 } // namespace plot3dlib

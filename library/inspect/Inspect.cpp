@@ -64,7 +64,7 @@ void inspectData(Evidence_s& evidence, const plot3d::InspectOptions& options,
     evidence.form = sniff(evidence.file);
     if (evidence.form.encoding == io::Plot3DEncoding_Unknown)
         return; // a read has failed, which is told at the end
-    Choice_s choice = chooseReading(evidence, options.allReadings);
+    Choice_s choice = chooseReading(evidence, options);
     if (!guessCutRecords(evidence) && !evidence.reading)
         guessReading(evidence);
     if (evidence.reading)

@@ -21,7 +21,9 @@ FoundProblem recogniseOtherKind(Evidence_s& evidence) {
     const bool isGrid = evidence.expectedKind == plot3d::FileKind::Grid;
     const std::vector<Reading_s> readings =
         searchFile(evidence.file, evidence.form,
-                   {.kinds = isGrid ? Kinds_e::SolutionOrFunction : Kinds_e::Grid, .goesOn = true})
+                   {.kinds = isGrid ? Kinds_e::SolutionOrFunction : Kinds_e::Grid,
+                    .goesOn = true,
+                    .notesTrials = false})
             .readings;
     const auto exact = std::find_if(readings.begin(), readings.end(),
                                     [&](const auto& r) { return isExact(evidence, r); });

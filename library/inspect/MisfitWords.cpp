@@ -82,7 +82,9 @@ Words_s headerWords(const TrialNote_s& note) {
     case io::Plot3DMisfit_e::GridsPassEnd:
         return {"grid " + grouped(misfit.grid + 1) +
                     " ends behind the file even with one byte a point",
-                "at least " + bytes(misfit.expected), bytes(misfit.found)};
+                misfit.expected == past64Bits ? bytes(misfit.expected)
+                                              : "at least " + bytes(misfit.expected),
+                bytes(misfit.found)};
     case io::Plot3DMisfit_e::VariablesMissing:
         return {"the count of variables" + ofGrid(note) + " is missing", "an integer",
                 "something else"};
@@ -99,8 +101,16 @@ Words_s headerWords(const TrialNote_s& note) {
     }
 }
 
+/// A negative count of variables takes a negative number of bytes.
+bool isOfNegativeSize(const io::Plot3DMisfit_s& misfit) {
+    return misfit.expected < 0 && (misfit.what == io::Plot3DMisfit_e::DataSize ||
+                                   misfit.what == io::Plot3DMisfit_e::DataRecord);
+}
+
 Words_s dataWords(const TrialNote_s& note) {
     const io::Plot3DMisfit_s& misfit = note.misfit;
+    if (isOfNegativeSize(misfit))
+        return {"the count of variables is negative", "0 or more", grouped(note.structure.numVars)};
     switch (misfit.what) {
     case io::Plot3DMisfit_e::GridCountUnknown:
         return {"the grids are not those of a 1-D file", "1 grid", counted(misfit.found, "grid")};

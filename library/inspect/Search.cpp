@@ -10,6 +10,7 @@ namespace plot3dlib {
 namespace {
 
 constexpr std::size_t fewGrids = 8;
+constexpr std::size_t usualTrials = 40;
 constexpr std::int64_t anySize = std::int64_t{1} << 62;
 
 /// A record without a name, which nothing needs that is not told at the host.
@@ -54,22 +55,24 @@ io::Plot3DFileStructure_s structureAlone(const io::Plot3DFile_s& record) {
 
 class TrialNotes final : public Stopper {
 public:
-    TrialNotes(ExaminedFile& file, bool goesOnBehindFit)
-        : Stopper(file), goesOnBehindFit_(goesOnBehindFit) {}
+    TrialNotes(ExaminedFile& file, const SearchRange_s& range) : Stopper(file), range_(range) {
+        if (range.notesTrials)
+            search_.trials.reserve(usualTrials);
+    }
 
     bool takesTrial(const io::Plot3DFile_s& record, bool fits) override {
-        if (record.misfit.what != io::Plot3DMisfit_e::NotInLayout)
+        if (range_.notesTrials && record.misfit.what != io::Plot3DMisfit_e::NotInLayout)
             search_.trials.push_back({structureAlone(record), record.misfit, fits});
         if (fits)
             search_.readings.push_back(readingOf(record));
-        return fits && !goesOnBehindFit_;
+        return fits && !range_.goesOn;
     }
 
     bool foundNone() const { return search_.readings.empty(); }
     Search_s take() { return std::move(search_); }
 
 private:
-    const bool goesOnBehindFit_;
+    const SearchRange_s range_;
     Search_s search_;
 };
 
@@ -79,7 +82,8 @@ public:
     using Stopper::Stopper;
 
     bool takesTrial(const io::Plot3DFile_s& record, bool fits) override {
-        if (fits || record.misfit.what == io::Plot3DMisfit_e::DataSize)
+        const bool isNear = fits || record.misfit.what == io::Plot3DMisfit_e::DataSize;
+        if (isNear && record.numVars > 0)
             readings_.push_back(readingOf(record));
         return false;
     }
@@ -106,10 +110,9 @@ io::Plot3DRecordForm_s sniff(ExaminedFile& file) {
 
 Search_s searchFile(ExaminedFile& file, const io::Plot3DRecordForm_s& form,
                     const SearchRange_s& range) {
-    TrialNotes notes(file, range.goesOn);
+    TrialNotes notes(file, range);
     const auto record = recordOf(file, notes);
     begin(*record, form, range.kinds);
-    record->hasIBlank = range.textIBlank;
     const bool isTaken = io::searchStructure(*record);
     // Under relaxed checks much fits: it says something only where nothing else does.
     const bool triesAgain = notes.foundNone() || form.encoding == io::Plot3DEncoding_Binary;

@@ -24,14 +24,14 @@ enum class Kinds_e : std::uint8_t { Grid, SolutionOrFunction };
 
 struct SearchRange_s {
     Kinds_e kinds = Kinds_e::Grid;
-    bool goesOn = false;     // behind the first reading that fits
-    bool textIBlank = false; // text holds I-blank
+    bool goesOn = false;      // behind the first reading that fits
+    bool notesTrials = false; // otherwise only what fits is given
 };
 
 /// How the file stores its numbers, as a load finds out. Unknown: a read failed.
 io::Plot3DRecordForm_s sniff(ExaminedFile& file);
 
-/// Tries all readings of the file.
+/// Tries all readings of the file, of text those without I-blank.
 Search_s searchFile(ExaminedFile& file, const io::Plot3DRecordForm_s& form,
                     const SearchRange_s& range);
 
