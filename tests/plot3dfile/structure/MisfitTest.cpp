@@ -45,8 +45,9 @@ protected:
 // ---- Headers ------------------------------------------------------------------------------------
 
 TEST_F(Misfit, TellsACountOfGridsThatCantBe) {
-    EXPECT_EQ(misfitOf(FileBytes().integers({7}).reals(15).str(), Plot3DDataStructure_2D, multi),
-              (Plot3DMisfit_s{Misfit_e::GridCount, 0, 4, 3, 7}));
+    EXPECT_EQ(
+        misfitOf(FileBytes().integers({7}).equalReals(15).str(), Plot3DDataStructure_2D, multi),
+        (Plot3DMisfit_s{Misfit_e::GridCount, 0, 4, 3, 7}));
     EXPECT_EQ(misfitOf("2 3 5\n" + std::string(60, '1'), Plot3DDataStructure_3DWhole, multi),
               (Plot3DMisfit_s{Misfit_e::IntegersLineGoesOn, 0, 2, 1, 0}));
     EXPECT_EQ(misfitOf("x 3 5\n" + std::string(60, '1'), Plot3DDataStructure_3DWhole, multi),
@@ -67,30 +68,31 @@ TEST_F(Misfit, TellsTheGridWhoseDimensionsDoNotFit) {
 }
 
 TEST_F(Misfit, TellsWhereGridsEndThatPassTheFile) {
-    EXPECT_EQ(
-        misfitOf(FileBytes().integers({7, 11, 13}).reals(5).str(), Plot3DDataStructure_3DWhole),
-        (Plot3DMisfit_s{Misfit_e::GridsPassEnd, 0, 12, 1001, 32}));
+    EXPECT_EQ(misfitOf(FileBytes().integers({7, 11, 13}).equalReals(5).str(),
+                       Plot3DDataStructure_3DWhole),
+              (Plot3DMisfit_s{Misfit_e::GridsPassEnd, 0, 12, 1001, 32}));
 }
 
 TEST_F(Misfit, TellsElementsOfBothKindsAndOfNone) {
-    EXPECT_EQ(
-        misfitOf(FileBytes().integers({4, 2, 3}).reals(99).str(), Plot3DDataStructure_Unstructured),
-        (Plot3DMisfit_s{Misfit_e::TwoKindsOfElements, 0, 12, 2, 3}));
-    EXPECT_EQ(
-        misfitOf(FileBytes().integers({4, 0, 0}).reals(99).str(), Plot3DDataStructure_Unstructured),
-        (Plot3DMisfit_s{Misfit_e::NoElements, 0, 12, 0, 0}));
-    EXPECT_EQ(misfitOf(FileBytes().integers({4, 1, 3}).reals(99).str(),
+    EXPECT_EQ(misfitOf(FileBytes().integers({4, 2, 3}).equalReals(99).str(),
+                       Plot3DDataStructure_Unstructured),
+              (Plot3DMisfit_s{Misfit_e::TwoKindsOfElements, 0, 12, 2, 3}));
+    EXPECT_EQ(misfitOf(FileBytes().integers({4, 0, 0}).equalReals(99).str(),
+                       Plot3DDataStructure_Unstructured),
+              (Plot3DMisfit_s{Misfit_e::NoElements, 0, 12, 0, 0}));
+    EXPECT_EQ(misfitOf(FileBytes().integers({4, 1, 3}).equalReals(99).str(),
                        Plot3DDataStructure_Unstructured, Plot3DStyle_Classic),
               (Plot3DMisfit_s{Misfit_e::NotNodesAlone, 0, 12, 1, 3}));
 }
 
 TEST_F(Misfit, TellsWhatALayoutDoesNotHave) {
-    EXPECT_EQ(misfitOf(FileBytes().integers({4}).reals(99).str(), Plot3DDataStructure_2D,
+    EXPECT_EQ(misfitOf(FileBytes().integers({4}).equalReals(99).str(), Plot3DDataStructure_2D,
                        Plot3DStyle_Overflow)
                   .what,
               Misfit_e::NotInLayout);
     EXPECT_EQ(
-        misfitOf(FileBytes().integers({4}).reals(99).str(), Plot3DDataStructure_1D, multi).what,
+        misfitOf(FileBytes().integers({4}).equalReals(99).str(), Plot3DDataStructure_1D, multi)
+            .what,
         Misfit_e::NotInLayout);
 }
 
@@ -98,19 +100,19 @@ TEST_F(Misfit, TellsWhatALayoutDoesNotHave) {
 
 TEST_F(Misfit, TellsBytesBehindTheHeader) {
     EXPECT_EQ(
-        misfitOf(FileBytes().integers({2, 3, 5}).reals(91).str(), Plot3DDataStructure_3DWhole),
+        misfitOf(FileBytes().integers({2, 3, 5}).equalReals(91).str(), Plot3DDataStructure_3DWhole),
         (Plot3DMisfit_s{Misfit_e::DataSize, 0, 12, 360, 364}));
 }
 
 TEST_F(Misfit, TellsLengthsOfRecords) {
     const FileBytes header = FileBytes().record(FileBytes().integers({2, 3, 5}));
-    EXPECT_EQ(misfitOf(FileBytes(header).record(FileBytes().reals(89)).str(),
+    EXPECT_EQ(misfitOf(FileBytes(header).record(FileBytes().equalReals(89)).str(),
                        Plot3DDataStructure_3DWhole),
               (Plot3DMisfit_s{Misfit_e::DataRecord, 0, 24, 360, 356}));
     EXPECT_EQ(misfitOf(FileBytes().record(FileBytes().integers({1, 1, 2})).str(),
                        Plot3DDataStructure_3DWhole),
               (Plot3DMisfit_s{Misfit_e::DataMissing, 0, 20, 24, 0}));
-    EXPECT_EQ(misfitOf(FileBytes(header).record(FileBytes().reals(5)).str(),
+    EXPECT_EQ(misfitOf(FileBytes(header).record(FileBytes().equalReals(5)).str(),
                        Plot3DDataStructure_3DWhole, Plot3DStyle_Classic),
               (Plot3DMisfit_s{Misfit_e::ScalarsRecord, 0, 24, 16, 20}));
 }
@@ -122,7 +124,7 @@ TEST_F(Misfit, TellsScalarsThatDoNotEndTheirLine) {
 }
 
 TEST_F(Misfit, IsNoneOfAReadingThatFits) {
-    auto file = detect(FileBytes().integers({2, 3, 5}).reals(90).str());
+    auto file = detect(FileBytes().integers({2, 3, 5}).equalReals(90).str());
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->misfit.what, Misfit_e::None);
 }
@@ -145,8 +147,8 @@ public:
 };
 
 TEST_F(Misfit, OfEveryTrialIsShownToTheObserver) {
-    auto file =
-        openRecord(FileBytes().integers({2, 3, 5}).reals(120).str(), Plot3DDataStructure_Unknown);
+    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(120).str(),
+                           Plot3DDataStructure_Unknown);
     TrialRecorder trials;
     file->observer = &trials;
     EXPECT_TRUE(searchStructure(*file));
@@ -159,8 +161,8 @@ TEST_F(Misfit, OfEveryTrialIsShownToTheObserver) {
 }
 
 TEST_F(Misfit, SearchGoesOnBehindWhatTheObserverDoesNotTake) {
-    auto file =
-        openRecord(FileBytes().integers({2, 3, 5}).reals(90).str(), Plot3DDataStructure_Unknown);
+    auto file = openRecord(FileBytes().integers({2, 3, 5}).equalReals(90).str(),
+                           Plot3DDataStructure_Unknown);
     TrialRecorder trials;
     trials.takesWhatFits = false;
     file->observer = &trials;
