@@ -6,7 +6,9 @@
 #include <plot3d/Error.h>
 
 #include "index/cgns/CgnsIndex.h"
+#include "index/p3d/P3dIndex.h"
 #include "index/references/ReferenceIndex.h"
+#include "index/vp3d/Vp3dIndex.h"
 #include "index/xdmf/XdmfIndex.h"
 
 namespace plot3d::program {
@@ -35,6 +37,8 @@ const std::vector<IndexFormatRow_s>& indexFormats() {
         {".xmf2", make<XdmfIndex>, ".vtm", ""},
         {".json", make<ReferenceIndex>, ".npz",
          "fsspec takes relative paths from the working directory of the program that reads them"},
+        {".p3d", make<P3dIndex>, ".vtm", ""},
+        {".vp3d", make<Vp3dIndex>, ".vtm", ""},
     };
     return rows;
 }

@@ -112,8 +112,12 @@ const Arrows programArrows = {
     {"index/cgns", {"manners", "index/contents"}},
     {"index/references", {"manners", "index/contents"}},
     {"index/xdmf", {"manners", "index/contents"}},
+    {"index/wholefiles", {"index/contents"}},
+    {"index/p3d", {"manners", "index/contents", "index/wholefiles"}},
+    {"index/vp3d", {"manners", "index/contents", "index/wholefiles"}},
     {"index",
-     {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf"}},
+     {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf",
+      "index/p3d", "index/vp3d"}},
     {"app", {"console", "manners", "info", "stats", "diff", "convert", "index"}},
 };
 

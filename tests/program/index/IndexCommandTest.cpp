@@ -116,13 +116,14 @@ TEST_P(IndexCommand, RefusesAPartOfAZone) {
     EXPECT_NE(err.find("\ntry: plot3d convert --k 1 " + where_ + "/a.x"), std::string::npos) << err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, IndexCommand, ::testing::Values(".cgns", ".xmf2", ".json"),
+INSTANTIATE_TEST_SUITE_P(Each, IndexCommand,
+                         ::testing::Values(".cgns", ".xmf2", ".json", ".p3d", ".vp3d"),
                          [](const auto& tested) { return std::string(tested.param + 1); });
 
 TEST(IndexFormats, AreToldForAnEndingThatIsNone) {
     std::string err;
     EXPECT_EQ(runProgram({"index", "a.x", "-o", "out.txt"}, &err), 2);
-    EXPECT_NE(err.find("known are .cgns, .xmf2, .json"), std::string::npos) << err;
+    EXPECT_NE(err.find("known are .cgns, .xmf2, .json, .p3d, .vp3d\n"), std::string::npos) << err;
 }
 
 } // namespace

@@ -8,6 +8,7 @@ namespace quorvia::testsupport {
 namespace {
 
 using plot3dwriter::Encoding_e;
+using plot3dwriter::FileKind_e;
 using plot3dwriter::Layout_e;
 
 /// Text, and records that tell planes from whole fields.
@@ -17,8 +18,24 @@ bool isInFile(const MatrixCase_s& tested) {
            !(hasPlanes && tested.form.encoding == Encoding_e::Fortran);
 }
 
+/// What ParaView's and VisIt's readers of PLOT3D read.
+bool isPlain(const MatrixCase_s& tested) {
+    const auto& [layout, form] = tested;
+    const bool isOtherStyle =
+        layout.kind == FileKind_e::SwiftSolution || layout.kind == FileKind_e::OverflowSolution;
+    const bool hasWideMarkers = form.encoding == Encoding_e::Fortran && form.markerBytes == 8;
+    return layout.layout != Layout_e::OneD && layout.layout != Layout_e::Unstructured &&
+           !isOtherStyle && !hasWideMarkers;
+}
+
 bool canSay(const std::string& ending, const MatrixCase_s& tested) {
-    return isInFile(tested) && !(ending == "xmf2" && tested.layout.layout == Layout_e::OneD);
+    if (!isInFile(tested))
+        return false;
+    if (ending == "xmf2")
+        return tested.layout.layout != Layout_e::OneD;
+    if (ending == "vp3d" && tested.layout.kind == FileKind_e::Function)
+        return false;
+    return (ending != "p3d" && ending != "vp3d") || isPlain(tested);
 }
 
 class IndexMatrix : public IndexTest {
@@ -37,7 +54,7 @@ TEST_F(IndexMatrix, HoldsEveryValueOrRefuses) {
     for (const MatrixCase_s& tested : everyCase()) {
         const std::string where = folder(nameOf(tested));
         const OpenedCase_s opened = writeCase(where, tested);
-        for (const std::string ending : {"cgns", "json", "xmf2"}) {
+        for (const std::string ending : {"cgns", "json", "xmf2", "p3d", "vp3d"}) {
             const std::string output = where + "/out." + ending;
             if (!canSay(ending, tested)) {
                 expectRefused(arguments(opened), output);

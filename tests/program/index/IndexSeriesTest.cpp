@@ -1,4 +1,6 @@
 // Several times of two grids through each index.
+#include <fstream>
+
 #include "IndexFixture.h"
 
 namespace quorvia::testsupport {
@@ -9,14 +11,46 @@ class IndexSeries : public IndexTest, public ::testing::WithParamInterface<bool>
 TEST_P(IndexSeries, HoldsEveryValueOfEveryTime) {
     const std::string where = folder("series");
     const std::vector<std::string> files = writeSeries(where, 3, GetParam());
-    for (const std::string ending : {"cgns", "json", "xmf2"})
+    for (const std::string ending : {"cgns", "json", "xmf2", "p3d"})
         EXPECT_EQ(index(files, where + "/out." + ending), 0);
     expectWhatTheLibraryFinds(where, files);
-    expectReadBack(3);
+    expectReadBack(4);
 }
 
 INSTANTIATE_TEST_SUITE_P(Grids, IndexSeries, ::testing::Bool(),
                          [](const auto& tested) { return tested.param ? "Move" : "StandStill"; });
+
+class PatternOfSolutions : public IndexTest {
+protected:
+    void SetUp() override { files_ = writeSeries(where_, 3, false); }
+    int index(std::string* err = nullptr) const {
+        return IndexTest::index(files_, where_ + "/out.vp3d", err);
+    }
+
+    std::string where_ = folder("series");
+    std::vector<std::string> files_;
+};
+
+TEST_F(PatternOfSolutions, FitsThemAll) {
+    ASSERT_EQ(index(), 0);
+    std::ifstream in(where_ + "/out.vp3d");
+    std::string lines;
+    for (std::string line; std::getline(in, line);)
+        if (!line.starts_with("# "))
+            lines += line + "\n";
+    EXPECT_EQ(lines, "GRID " + where_ + "/m.x\nSOLUTION " + where_ +
+                         "/m_*.q\nMULTI_GRID\nC_BINARY\nLITTLE_ENDIAN\n3D\nIBLANKING\n"
+                         "SINGLE_PRECISION\nSOLUTION_TIME_ACCURATE\n");
+}
+
+TEST_F(PatternOfSolutions, IsRefusedIfItFitsAnotherFile) {
+    std::ofstream(where_ + "/m_7.q") << "another one";
+    std::string err;
+    EXPECT_EQ(index(&err), 1);
+    EXPECT_NE(err.find("no pattern fits the names of the solutions and of no other file"),
+              std::string::npos)
+        << err;
+}
 
 } // namespace
 } // namespace quorvia::testsupport
