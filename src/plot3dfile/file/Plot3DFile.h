@@ -89,9 +89,10 @@ bool closePlot3DFile(Plot3DFile_s& file);
 void rewindPlot3DFile(Plot3DFile_s& file);
 
 /// Notes what does not fit the reading that is being judged, of the grid with this index from 0.
-/// False always, so that a judgement can end with it.
-inline bool refuseReading(Plot3DFile_s& file, Plot3DMisfit_e what, std::int64_t expected = 0,
-                          std::int64_t found = 0, std::int32_t gridIndex = 0) {
+/// False (not told): always, so that a judgement can end with it.
+[[nodiscard]] inline bool refuseReading(Plot3DFile_s& file, Plot3DMisfit_e what,
+                                        std::int64_t expected = 0, std::int64_t found = 0,
+                                        std::int32_t gridIndex = 0) {
     // Of text one character is read ahead, but none before the first.
     const bool isAhead = file.encoding == Plot3DEncoding_Ascii && file.lookahead >= 0;
     const std::int64_t position = file.stream->tell();
