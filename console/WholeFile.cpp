@@ -107,7 +107,9 @@ bool WholeFile::beginBeside(const fs::path& folder) {
             close(file);
             growing_ = path;
             Growing::add(growing_);
-            stream_.open(path, std::ios::binary | std::ios::trunc);
+            // It is empty: to truncate it would make some file systems write it out when it is
+            // closed.
+            stream_.open(path, std::ios::binary | std::ios::in | std::ios::out);
             return stream_.is_open();
         }
         if (errno != EEXIST)
