@@ -120,7 +120,8 @@ int main(int argc, char** argv) {
     const auto add = [](const char* name, auto work, auto... arguments) {
         benchmark::RegisterBenchmark(name, work, arguments...)
             ->Unit(benchmark::kMillisecond)
-            ->UseRealTime();
+            ->UseRealTime()
+            ->Iterations(1);
     };
     add("ConvertNative", convert, "little");
     add("ConvertSwapped", convert, "big");

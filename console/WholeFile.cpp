@@ -109,7 +109,9 @@ bool WholeFile::beginBeside(const fs::path& folder) {
             close(file);
             growing_ = std::move(path);
             addToGrowing();
-            stream_.open(growing_, std::ios::binary | std::ios::trunc);
+            // It is empty: to truncate it would make some file systems write it out when it is
+            // closed.
+            stream_.open(growing_, std::ios::binary | std::ios::in | std::ios::out);
             return stream_.is_open();
         }
         if (errno != EEXIST)

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -19,7 +20,11 @@ constexpr mode_t asTheUserHasIt = 0666;
 ByteOutput::ByteOutput(const std::filesystem::path& path, std::string shownName)
     : shownName_(std::move(shownName)) {
     buffer_.reserve(bufferBytes);
-    file_ = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, asTheUserHasIt);
+    // To truncate an empty file would make some file systems write it out when it is closed.
+    std::error_code ignored; // what can't be looked at can't be opened either
+    const auto size = std::filesystem::file_size(path, ignored);
+    const int truncates = !ignored && size > 0 ? O_TRUNC : 0;
+    file_ = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | truncates, asTheUserHasIt);
     if (file_ < 0)
         fail();
 }

@@ -166,17 +166,28 @@ private:
         forEachBlock(box.extent(), pointsPerBlock, [&](Box block, std::int64_t count) {
             block.k.first += box.k.first;
             block.k.last += box.k.first;
-            values_.resize(static_cast<std::size_t>(count));
-            contents_.read(zone, variable, block, values_.data());
+            char* const values = placeFor(count, type);
+            contents_.read(zone, variable, block, values);
             if (type == wanted) {
-                numbers_->put(wanted, values_.data(), count);
+                numbers_->put(wanted, values, count);
                 return;
             }
             converted_.resize(static_cast<std::size_t>(count));
-            convertValues(type, values_.data(), wanted, converted_.data(), count);
+            convertValues(type, values, wanted, converted_.data(), count);
             numbers_->put(wanted, converted_.data(), count);
         });
         numbers_->endRun();
+    }
+
+    /// Room for values, at the same distance from a cache line as they will have in the file:
+    /// the system copies such bytes up to twice as fast.
+    char* placeFor(std::int64_t count, ValueType type) {
+        constexpr std::int64_t line = 64;
+        values_.resize(static_cast<std::size_t>(count + line / width(ValueType::Float64)));
+        char* const first = reinterpret_cast<char*>(values_.data());
+        const auto address = static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(first));
+        const std::int64_t shift = (out_.position() - address) & (line - 1);
+        return first + shift / width(type) * width(type);
     }
 
     void writeElements(std::size_t zone) {
