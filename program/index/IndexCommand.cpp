@@ -32,6 +32,17 @@ void makeReadOnly(const fs::path& file) {
                     {.file = file.string()});
 }
 
+/// What an index noted.
+std::vector<OriginalMark_s> marksOf(const std::string& index) {
+    try {
+        return indexFormatOf(index).make()->readMarks(index);
+    } catch (const Error& error) {
+        if (error.kind() != ErrorKind::Unreadable || !error.facts().file.empty())
+            throw;
+        throw Error(error.kind(), error.message(), {.file = index});
+    }
+}
+
 } // namespace
 
 const char* IndexCommand::purpose() const {
@@ -54,7 +65,8 @@ const char* IndexCommand::failureMeans() const {
 
 void IndexCommand::declare(CLI::App& app) {
     data_.declare(app);
-    addOutput(app, output_, overwrites_, "The index; its ending tells the format");
+    addOutput(app, output_, overwrites_,
+              "The index; its ending tells the format: .cgns, .xmf2, .json, .p3d or .vp3d");
     app.get_option("--output")->required(false);
     app.add_flag("--relative", isRelative_,
                  "Name the original files relative to the folder of the index, so that all can "
@@ -62,7 +74,8 @@ void IndexCommand::declare(CLI::App& app) {
     app.add_option("--check", checked_,
                    "Compare the original files of this index with what it noted of them: size, "
                    "time of change and the first 64 KiB")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->excludes(app.get_option("--output"));
     selection_.declare(app);
     // Readers of the index get all points, with their I-blank.
     app.remove_option(app.get_option("--blank"));
@@ -91,7 +104,7 @@ int IndexCommand::check(const Surroundings_s& surroundings) const {
     std::error_code ignored; // what can't be looked at can't be read, which is told then
     if (!fs::exists(file, ignored))
         throw Error(ErrorKind::NotFound, "is not there", {.file = checked_});
-    const std::vector<OriginalMark_s> marks = indexFormatOf(checked_).make()->readMarks(file);
+    const std::vector<OriginalMark_s> marks = marksOf(checked_);
     const std::vector<std::string> lines = differences(marks, fs::absolute(file).parent_path());
     for (const std::string& line : lines)
         surroundings.out << line << '\n';

@@ -26,6 +26,8 @@ std::string textAt(const Hdf5Handle& file, const std::string& path) {
 
 std::string readCgnsText(const std::filesystem::path& path, const std::string& name) {
     checkHdf5(H5Eset_auto2(H5E_DEFAULT, nullptr, nullptr)); // errors are told by us
+    if (H5Fis_hdf5(path.c_str()) <= 0)
+        throw Error(ErrorKind::Unreadable, "is no HDF5 file");
     const Hdf5Handle file(H5Fopen(path.c_str(), H5F_ACC_RDONLY, H5P_DEFAULT), H5Fclose);
     for (const std::string base : {"Base1D", "Base2D", "Base3D"})
         if (has(file, base) && has(file, base + "/" + name))

@@ -23,15 +23,16 @@ Hdf5Handle properties(hid_t kind) {
 }
 
 /// Nodes have few links, but some have one for each time step: those are kept in a tree by the
-/// library, the others in the header of the group.
+/// library, the others in the header of the group. Room for its attributes is taken at once, as if
+/// it were for links: a header that grows costs time and bytes.
 Hdf5Handle nodeProperties() {
     constexpr unsigned mostInHeader = 64;
-    constexpr unsigned usualCount = 1;
-    constexpr unsigned usualLength = 5; // of " data"
+    constexpr unsigned linksInRoom = 4;
+    constexpr unsigned lengthInRoom = 44;
     Hdf5Handle list = properties(H5P_GROUP_CREATE);
     checkHdf5(H5Pset_link_creation_order(list.get(), inOrder));
     checkHdf5(H5Pset_link_phase_change(list.get(), mostInHeader, mostInHeader / 2));
-    checkHdf5(H5Pset_est_link_info(list.get(), usualCount, usualLength));
+    checkHdf5(H5Pset_est_link_info(list.get(), linksInRoom, lengthInRoom));
     checkHdf5(H5Pset_obj_track_times(list.get(), false));
     return list;
 }

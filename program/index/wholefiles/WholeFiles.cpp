@@ -46,6 +46,7 @@ public:
         if (lists_.grid.empty())
             refuse("there is no grid file, and this format tells of values at points");
         refuseParts();
+        data_.refuseFieldsOutsideFiles();
         files_.form = formOf(lists_.grid.front(), FileKind::Grid);
         holdForms(lists_.grid, FileKind::Grid);
         holdForms(lists_.solution, FileKind::Solution);
@@ -106,8 +107,8 @@ private:
             const GridSize& grid = files_.form.grids[place];
             if (data_.zone(first + place).size != Extent{grid.i, grid.j, grid.k})
                 refuse("the grids of the data set are not those of its files");
-            if (data_.data().kind(first + place, 0) != FieldKind::InFile)
-                data_.refuseFieldsOutsideFiles();
+            if (data_.zone(first + place).time != data_.zone(first).time)
+                refuse("the grids of one file have several times, and this format has one for all");
         }
     }
 

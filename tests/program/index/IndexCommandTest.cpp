@@ -84,7 +84,7 @@ TEST_P(IndexCommand, FindsAMissingFile) {
 
 TEST_P(IndexCommand, TellsWhatIsNoIndex) {
     std::ofstream(output_) << "something else";
-    EXPECT_NE(check().code, 0);
+    EXPECT_EQ(check().code, 3);
 }
 
 TEST_P(IndexCommand, MakesItReadOnly) {

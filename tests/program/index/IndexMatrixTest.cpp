@@ -24,8 +24,10 @@ bool isPlain(const MatrixCase_s& tested) {
     const bool isOtherStyle =
         layout.kind == FileKind_e::SwiftSolution || layout.kind == FileKind_e::OverflowSolution;
     const bool hasWideMarkers = form.encoding == Encoding_e::Fortran && form.markerBytes == 8;
-    return layout.layout != Layout_e::OneD && layout.layout != Layout_e::Unstructured &&
-           !isOtherStyle && !hasWideMarkers;
+    // The grids of these files have a time each, which other readers have for a file.
+    const bool hasTimes = layout.kind == FileKind_e::ClassicSolution && layout.isMultiGrid;
+    return !hasTimes && layout.layout != Layout_e::OneD &&
+           layout.layout != Layout_e::Unstructured && !isOtherStyle && !hasWideMarkers;
 }
 
 bool canSay(const std::string& ending, const MatrixCase_s& tested) {

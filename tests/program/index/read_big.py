@@ -13,7 +13,7 @@ except ImportError as missing:
 
 fields = 0
 with h5py.File(sys.argv[1]) as file:
-    zones = [node for node in file["Base3D"].values() if node.attrs["label"] == b"Zone_t"]
+    zones = [node for node in file["Base3D"].values() if node.attrs.get("label") == b"Zone_t"]
     for variable, letter in enumerate("XYZ"):
         values = zones[0][f"GridCoordinates/Coordinate{letter}/ data"]
         j, i = numpy.mgrid[: values.shape[1], : values.shape[2]]
