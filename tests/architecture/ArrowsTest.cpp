@@ -72,6 +72,7 @@ Arrows libraryArrows() {
         {"facts", {}},
         {"read", {"facts", "plot3dfile/bytes"}},
         {"flow", {"facts"}},
+        {"example", {}}, // public headers alone
         {"derive", {"facts", "flow"}},
         {"inspect",
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
@@ -98,7 +99,17 @@ const Arrows programArrows = {
     {"blocks", {}},
     {"stats", {"console", "manners", "selection", "blocks"}},
     {"diff", {"console", "manners", "selection", "blocks"}},
-    {"app", {"console", "manners", "info", "stats", "diff"}},
+    {"convert/output", {}},
+    {"convert/contents", {"selection", "blocks", "convert/output"}},
+    {"convert/csv", {"manners", "convert", "convert/output"}},
+    {"convert/npz", {"manners", "convert", "convert/output"}},
+    {"convert/vtk", {"manners", "convert", "convert/output", "convert/contents"}},
+    {"convert/plot3d", {"manners", "convert", "convert/output", "convert/contents"}},
+    {"convert/cgns", {"manners", "convert", "convert/output", "convert/contents"}},
+    {"convert",
+     {"manners", "selection", "convert/output", "convert/contents", "convert/csv", "convert/npz",
+      "convert/vtk", "convert/plot3d", "convert/cgns"}},
+    {"app", {"console", "manners", "info", "stats", "diff", "convert"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
