@@ -24,7 +24,7 @@ Reading_s shapeOf(const io::Plot3DRecordForm_s& form, io::Plot3DDataStructure_e 
     const bool is2D = dataStructure == io::Plot3DDataStructure_2D;
     shape.numVars = is2D ? 2 : 3;
     if (shape.isSolutionOrFunction) {
-        shape.numVars = is2D ? 4 : 5; // of function files the header tells it
+        shape.numVars = is2D ? 4 : 5; // unless each grid's header tells it
         shape.numScalars = io::scalarCount(io::styleRules(style), 0);
     }
     return shape;
@@ -91,9 +91,10 @@ public:
 
     bool takeGrid() {
         const bool is2D = shape_.dataStructure == io::Plot3DDataStructure_2D;
-        const bool isFunction = shape_.style == io::Plot3DStyle_Function;
+        const bool isCounted =
+            io::styleRulesOf(shape_).variableCount == io::VariableCount_e::OfEachGrid;
         const std::int32_t dimensions = is2D ? 2 : 3;
-        if (!enterRecord(io::integerWidth * (dimensions + (isFunction ? 1 : 0))))
+        if (!enterRecord(io::integerWidth * (dimensions + (isCounted ? 1 : 0))))
             return false;
         std::int32_t sizes[3] = {1, 1, 1};
         for (std::int32_t index = 0; index < dimensions; ++index) {
@@ -101,7 +102,7 @@ public:
             if (sizes[index] < 1)
                 return false;
         }
-        if (isFunction)
+        if (isCounted)
             shape_.numVars = next().value_or(0);
         shape_.grids = {{sizes[0], sizes[1], sizes[2]}};
         return shape_.numVars > 0 && passOverData(blocksOf(shape_, 0));

@@ -1,5 +1,9 @@
 #include "inspect/Evidence.h"
 
+#include <utility>
+
+#include "instructions/InstructionWords.h"
+
 namespace plot3dlib {
 
 namespace {
@@ -18,37 +22,16 @@ const char* optionOf(const Evidence_s& evidence) {
     }
 }
 
-const char* structureWord(io::Plot3DDataStructure_e structure) {
-    switch (structure) {
-    case io::Plot3DDataStructure_1D:
-        return "DATASTRUCTURE=1D";
-    case io::Plot3DDataStructure_2D:
-        return "DATASTRUCTURE=2D";
-    case io::Plot3DDataStructure_3DPlanes:
-        return "DATASTRUCTURE=3DP";
-    case io::Plot3DDataStructure_Unstructured:
-        return "DATASTRUCTURE=UNSTRUCTURED";
-    default:
-        return "DATASTRUCTURE=3DW";
-    }
+/// A key with its word, as the loader spells it; of a value without one, `unknown`.
+template <typename Words, typename Value>
+std::string setting(const char* key, const Words& words, Value value, const char* unknown) {
+    const char* const word = io::findWord(words, value);
+    return std::string(key) + "=" + (word != nullptr ? word : unknown);
 }
 
-const char* styleWord(io::Plot3DStyle_e style) {
-    switch (style) {
-    case io::Plot3DStyle_Function:
-        return "STYLE=PLOT3DFUNCTION";
-    case io::Plot3DStyle_Overflow:
-        return "STYLE=OVERFLOW";
-    case io::Plot3DStyle_Swift:
-        return "STYLE=SWIFT";
-    default:
-        return "STYLE=PLOT3DCLASSIC";
-    }
-}
-
-void addSetting(std::vector<std::string>& command, const char* setting) {
+void addSetting(std::vector<std::string>& command, std::string setting) {
     command.emplace_back("--set");
-    command.emplace_back(setting);
+    command.push_back(std::move(setting));
 }
 
 } // namespace
@@ -65,8 +48,9 @@ std::vector<std::string> loadCommand(const Evidence_s& evidence) {
 std::vector<std::string> describedLoadCommand(const Evidence_s& evidence) {
     std::vector<std::string> command = loadCommand(evidence);
     addSetting(command, "AUTODETECT=No");
-    addSetting(command, structureWord(evidence.reading->dataStructure));
-    addSetting(command, styleWord(evidence.reading->style));
+    addSetting(command, setting("DATASTRUCTURE", io::dataStructureWords,
+                                evidence.reading->dataStructure, "3DW"));
+    addSetting(command, setting("STYLE", io::styleWords, evidence.reading->style, "PLOT3DCLASSIC"));
     addSetting(command, evidence.reading->isMultiGrid ? "ISMULTIGRID=Yes" : "ISMULTIGRID=No");
     return command;
 }

@@ -1,21 +1,41 @@
 #include "inspect/GridScalars.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "plot3dfile/bytes/ByteOrder.h"
+#include "plot3dfile/layout/StyleRules.h"
 
 namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t namedScalars = 4; // Mach, angle, Reynolds, time: the same in every style
+constexpr std::int64_t namedScalars = 4; // those with a place in plot3d::Scalars are the first
 // Of plain binary no more than this is read, however many grids there are.
 constexpr std::size_t mostBytesOfScalars = 16 * 1024;
 
 using Values = std::array<std::optional<double>, namedScalars>;
 
-plot3d::Scalars named(const Values& values) {
-    return {values[0], values[1], values[2], values[3]};
+/// Whose value a scalar is; null: nobody's who is told here.
+std::optional<double> plot3d::Scalars::*memberOf(const io::StyleScalar_s& scalar) {
+    if (scalar.itemName == nullptr)
+        return &plot3d::Scalars::time;
+    const std::string_view name = scalar.itemName;
+    if (name == "Common.ReferenceMachNumber")
+        return &plot3d::Scalars::mach;
+    if (name == "Common.AngleOfAttack")
+        return &plot3d::Scalars::alpha;
+    return name == "Common.ReynoldsNumber" ? &plot3d::Scalars::reynolds : nullptr;
+}
+
+plot3d::Scalars named(const Values& values, const Reading_s& reading) {
+    const auto scalars = io::styleRules(reading.style).scalars;
+    plot3d::Scalars told;
+    for (std::size_t place = 0; place < std::min(values.size(), scalars.size()); ++place)
+        if (const auto member = memberOf(scalars[place]))
+            told.*member = values[place];
+    return told;
 }
 
 template <typename Real>
@@ -39,10 +59,10 @@ std::vector<plot3d::Scalars> scalarsOfBinary(Evidence_s& evidence) {
     for (const std::int64_t position : evidence.account->scalarPositions) {
         if (isBounded && scalars.size() * width >= mostBytesOfScalars)
             break;
-        scalars.push_back(
-            named(reading.isDoublePrecision
-                      ? readBinary<double>(evidence.file, position, reading.byteSwap)
-                      : readBinary<float>(evidence.file, position, reading.byteSwap)));
+        scalars.push_back(named(reading.isDoublePrecision
+                                    ? readBinary<double>(evidence.file, position, reading.byteSwap)
+                                    : readBinary<float>(evidence.file, position, reading.byteSwap),
+                                reading));
     }
     return scalars;
 }
@@ -57,7 +77,7 @@ std::vector<plot3d::Scalars> scalarsOfText(Evidence_s& evidence) {
         Values values;
         for (std::size_t scalar = 0; scalar < values.size(); ++scalar)
             values[scalar] = evidence.text->valueAt(index + static_cast<std::int64_t>(scalar));
-        scalars.push_back(named(values));
+        scalars.push_back(named(values, reading));
         index += gridSize(blocksOf(reading, grid), valueWidths());
     }
     return scalars;

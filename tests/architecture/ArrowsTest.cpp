@@ -72,6 +72,7 @@ Arrows libraryArrows() {
         {"facts", {}},
         {"read", {"facts", "plot3dfile/bytes"}},
         {"flow", {"facts"}},
+        {"example", {}}, // public headers alone
         {"derive", {"facts", "flow"}},
         {"inspect",
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",

@@ -55,6 +55,26 @@ TEST(Settings, WordsAreThoseOfTheLoader) {
         EXPECT_EQ(settingProblem("APPEND", word), "");
 }
 
+/// The row of a key in the document; empty if it has none.
+std::string documentedRow(const std::string& key) {
+    std::ifstream document(INSTRUCTIONS_DOCUMENT);
+    for (std::string line; std::getline(document, line);)
+        if (line.rfind("| `" + key + "` |", 0) == 0)
+            return line;
+    return "";
+}
+
+TEST(Settings, EveryWordIsDocumented) {
+    const std::string styles = documentedRow("STYLE");
+    for (const auto& entry : styleWords)
+        EXPECT_NE(styles.find("`" + std::string(entry.word) + "`"), std::string::npos)
+            << entry.word;
+    const std::string structures = documentedRow("DATASTRUCTURE");
+    for (const auto& entry : dataStructureWords)
+        EXPECT_NE(structures.find("`" + std::string(entry.word) + "`"), std::string::npos)
+            << entry.word;
+}
+
 TEST(Settings, RangesSetsAndNamesAreLeftToTheLoader) {
     EXPECT_EQ(settingProblem("IINDEXRANGE", "x"), "");
     EXPECT_EQ(settingProblem("FILEGRIDSET", ""), "");

@@ -53,7 +53,7 @@ private:
             integers.push_back(grid.j);
         else if (description_.layout != Layout_e::OneD)
             integers.insert(integers.end(), {grid.j, grid.k});
-        if (description_.kind == FileKind_e::Function)
+        if (isCountOfEachGrid(description_.kind))
             integers.push_back(numVars_);
         return integers;
     }

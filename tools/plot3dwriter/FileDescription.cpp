@@ -14,6 +14,12 @@ bool isSolution(FileKind_e kind) {
     return kind != FileKind_e::Grid && kind != FileKind_e::Function;
 }
 
+std::int32_t directionCount(Layout_e layout) {
+    if (layout == Layout_e::OneD)
+        return 1;
+    return layout == Layout_e::TwoD ? 2 : 3;
+}
+
 bool isThreeD(Layout_e layout) {
     return layout == Layout_e::ThreeDWhole || layout == Layout_e::ThreeDPlanes;
 }
@@ -132,27 +138,51 @@ std::string findFormFault(const FileDescription_s& description, const FileForm_s
 
 } // namespace
 
+// Without a default, so that the compiler asks for a kind that is added.
+
+bool isCountOfEachGrid(FileKind_e kind) {
+    switch (kind) {
+    case FileKind_e::Function:
+        return true;
+    case FileKind_e::Grid:
+    case FileKind_e::ClassicSolution:
+    case FileKind_e::SwiftSolution:
+    case FileKind_e::OverflowSolution:
+        break;
+    }
+    return false;
+}
+
 std::int32_t variableCount(const FileDescription_s& description) {
-    if (description.kind == FileKind_e::OverflowSolution ||
-        description.kind == FileKind_e::Function)
+    switch (description.kind) {
+    case FileKind_e::OverflowSolution:
+    case FileKind_e::Function:
         return description.numVars;
-    std::int32_t directions = 3;
-    if (description.layout == Layout_e::OneD)
-        directions = 1;
-    else if (description.layout == Layout_e::TwoD)
-        directions = 2;
+    case FileKind_e::Grid:
+        return directionCount(description.layout);
+    case FileKind_e::ClassicSolution:
+    case FileKind_e::SwiftSolution:
+        break;
+    }
     // Density and energy stand on either side of the momentum.
-    return description.kind == FileKind_e::Grid ? directions : directions + 2;
+    return directionCount(description.layout) + 2;
 }
 
 std::int32_t scalarCount(const FileDescription_s& description) {
-    if (!isSolution(description.kind))
+    constexpr std::int32_t ofClassic = 4; // and of any solution in 1-D
+    const bool isLine = description.layout == Layout_e::OneD;
+    switch (description.kind) {
+    case FileKind_e::Grid:
+    case FileKind_e::Function:
         return 0;
-    if (description.layout == Layout_e::OneD || description.kind == FileKind_e::ClassicSolution)
-        return 4;
-    if (description.kind == FileKind_e::SwiftSolution)
-        return 5;
-    return 11 + std::max(description.numSpecies, 2);
+    case FileKind_e::SwiftSolution:
+        return isLine ? ofClassic : 5;
+    case FileKind_e::OverflowSolution:
+        return isLine ? ofClassic : 11 + std::max(description.numSpecies, 2);
+    case FileKind_e::ClassicSolution:
+        break;
+    }
+    return ofClassic;
 }
 
 std::int64_t pointCount(const FileDescription_s& description, const GridDims_s& grid) {

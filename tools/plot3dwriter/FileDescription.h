@@ -74,6 +74,9 @@ struct FileDescription_s {
     HoleFunction isHole;             ///< empty: no holes; not for text
 };
 
+/// Whether the number of variables stands in the header, behind the dimensions of each grid.
+bool isCountOfEachGrid(FileKind_e kind);
+
 /// Real variables per grid, I-blank not counted: the coordinates of a grid file, the variables of a
 /// solution by its layout, otherwise FileDescription_s::numVars.
 std::int32_t variableCount(const FileDescription_s& description);

@@ -35,7 +35,7 @@ std::int64_t headerBytes(const FileDescription_s& description) {
         integersPerGrid = 1;
     else if (description.layout == Layout_e::TwoD)
         integersPerGrid = 2;
-    if (description.kind == FileKind_e::Function)
+    if (isCountOfEachGrid(description.kind))
         ++integersPerGrid;
     const std::int64_t overflowCounts = description.kind == FileKind_e::OverflowSolution ? 2 : 0;
     const auto gridCount = static_cast<std::int64_t>(description.grids.size());

@@ -61,11 +61,7 @@ private:
     }
 
     int expectedCount() const {
-        if (layout_ == Layout::OneD)
-            return 4;
-        if (isOverflow_)
-            return 11 + std::max(scalars_.speciesCount, 2);
-        return info_.style == Style::Swift ? 5 : 4;
+        return scalarCount(info_.style.value_or(Style::Classic), layout_, scalars_.speciesCount);
     }
 
     /// From behind the scalars of a grid to those of the next.
@@ -88,6 +84,22 @@ private:
 };
 
 } // namespace
+
+int scalarCount(Style style, Layout layout, int speciesCount) {
+    constexpr int ofClassic = 4;
+    if (layout == Layout::OneD)
+        return ofClassic;
+    switch (style) {
+    case Style::Swift:
+        return 5;
+    case Style::Overflow:
+        return 11 + std::max(speciesCount, 2);
+    case Style::Classic:
+    case Style::Function:
+        break; // the compiler asks for every style
+    }
+    return ofClassic;
+}
 
 SolutionScalars_s readSolutionScalars(const FileInfo& info, const std::stop_token& stop) {
     return Reading(info, stop).run();

@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 
+#include "convert/contents/SolutionScalars.h"
 #include "convert/contents/ValueConversion.h"
 #include "convert/plot3d/NumberOutput.h"
 
@@ -229,9 +230,7 @@ private:
 int scalarCount(const FilePlan_s& plan) {
     if (plan.kind != FileKind::Solution)
         return 0;
-    if (plan.form.layout == Layout::OneD || plan.style == Style::Classic)
-        return 4;
-    return plan.style == Style::Swift ? 5 : 11 + std::max(plan.speciesCount, 2);
+    return scalarCount(plan.style, plan.form.layout, plan.speciesCount);
 }
 
 void writeFileContents(Contents& contents, const FilePlan_s& plan, ByteOutput& out) {

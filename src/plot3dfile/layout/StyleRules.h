@@ -18,7 +18,9 @@ enum class VariableCount_e : std::uint8_t {
     OfFile      // in the header, behind all grids, together with the number of species
 };
 
-/// One of the scalars ahead of each grid's variables.
+/// One of the scalars ahead of each grid's variables. A name that begins with I to N makes it an
+/// integer of 4 bytes, as in Fortran; sizes reckon with one integer where there are species, and
+/// with none elsewhere.
 struct StyleScalar_s {
     const char* itemName; // of the auxiliary data; null: the solution time, which is none
     bool isOnDataSet;     // an item of the data set as well as of the zone

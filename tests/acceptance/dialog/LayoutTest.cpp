@@ -1,5 +1,7 @@
 // Every control of the dialog: its kind, caption, place and size, in order; and what it shows at
 // the first launch.
+#include <fstream>
+
 #include "acceptance/dialog/DialogSession.h"
 
 namespace quorvia::testsupport {
@@ -125,6 +127,19 @@ TEST_F(DialogLayout, HoldsEveryControlInOrder) {
     for (const Json& each : firstLaunch()["dialog"]["controls"])
         made.push_back(lineOf(each));
     EXPECT_EQ(made, expected);
+}
+
+// The host's help names them as the dialog does, a new one as well.
+TEST_F(DialogLayout, HelpTellsOfEveryToggle) {
+    std::ifstream file(HELP_PAGE);
+    std::string help;
+    for (std::string word; file >> word;)
+        help += word + ' ';
+    for (const auto* rows : {&fileSelectionRows, &fileStructureRows, &dataSubsetRows})
+        for (const Row_s& row : *rows)
+            if (row.kind == std::string("toggle"))
+                EXPECT_NE(help.find("<b>" + std::string(row.caption) + "</b>"), std::string::npos)
+                    << row.caption;
 }
 
 TEST_F(DialogLayout, ListsAllowSeveralItems) {

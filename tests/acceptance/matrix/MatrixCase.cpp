@@ -70,9 +70,10 @@ std::string nameOf(FileKind_e kind) {
         return "Swift";
     case FileKind_e::OverflowSolution:
         return "Overflow";
-    default:
-        return "Function";
+    case FileKind_e::Function:
+        break; // the compiler asks for every kind
     }
+    return "Function";
 }
 
 std::string nameOf(Layout_e layout) {

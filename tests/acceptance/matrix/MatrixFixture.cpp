@@ -17,9 +17,11 @@ const char* styleWord(FileKind_e kind) {
         return "OVERFLOW";
     case FileKind_e::SwiftSolution:
         return "SWIFT";
-    default:
-        return "PLOT3DCLASSIC";
+    case FileKind_e::Grid:
+    case FileKind_e::ClassicSolution:
+        break; // the compiler asks for every kind
     }
+    return "PLOT3DCLASSIC";
 }
 
 const char* dataStructureWord(Layout_e layout) {

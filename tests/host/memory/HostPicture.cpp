@@ -22,11 +22,14 @@ void addAuxData(std::ostream& out, const AuxData& items) {
 }
 
 void addField(std::ostream& out, const Field_s& field, std::int32_t holder) {
-    out << "  field " << field.type << ' ' << static_cast<int>(field.state()) << " of " << holder;
+    // A member that is added does not compile until the picture has a place for it.
+    const auto& [type, location, passive, storage] = field;
+    out << "  field " << type << ' ' << location << ' ' << passive << ' '
+        << static_cast<int>(field.state()) << " of " << holder;
     if (field.state() == FieldState_e::Stored) {
         std::uint64_t sum = 0;
-        const auto* bytes = static_cast<const unsigned char*>(field.storage->values());
-        for (std::int64_t index = 0; index < field.storage->byteCount(); ++index)
+        const auto* bytes = static_cast<const unsigned char*>(storage->values());
+        for (std::int64_t index = 0; index < storage->byteCount(); ++index)
             sum = sum * 31 + bytes[index];
         out << " values " << sum;
     }
@@ -34,16 +37,18 @@ void addField(std::ostream& out, const Field_s& field, std::int32_t holder) {
 }
 
 void addZone(std::ostream& out, const DataSet& data, const Zone_s& zone) {
-    out << "zone " << zone.number << ' ' << data.zoneNumber(zone.uniqueId) << ' ' << zone.name
-        << ' ' << zone.type << ' ' << zone.i << ' ' << zone.j << ' ' << zone.k << " strand "
-        << zone.strandId << " at " << zone.solutionTime << " parent "
-        << data.zoneNumber(zone.parentZoneId) << '\n';
-    addAuxData(out, zone.auxData);
-    for (std::int32_t var = 1; var <= static_cast<std::int32_t>(zone.fields.size()); ++var)
-        addField(out, zone.fields[static_cast<std::size_t>(var - 1)],
-                 data.fieldHolders(var)[static_cast<std::size_t>(zone.number - 1)]);
-    if (zone.nodeMap != nullptr) {
-        const std::int32_t* nodes = zone.nodeMap->nodes();
+    // As of a field.
+    const auto& [number, uniqueId, name, type, i, j, k, strandId, solutionTime, parentZoneId,
+                 nodeMap, auxData, fields] = zone;
+    out << "zone " << number << ' ' << data.zoneNumber(uniqueId) << ' ' << name << ' ' << type
+        << ' ' << i << ' ' << j << ' ' << k << " strand " << strandId << " at " << solutionTime
+        << " parent " << data.zoneNumber(parentZoneId) << '\n';
+    addAuxData(out, auxData);
+    for (std::int32_t var = 1; var <= static_cast<std::int32_t>(fields.size()); ++var)
+        addField(out, fields[static_cast<std::size_t>(var - 1)],
+                 data.fieldHolders(var)[static_cast<std::size_t>(number - 1)]);
+    if (nodeMap != nullptr) {
+        const std::int32_t* nodes = nodeMap->nodes();
         out << "  nodes " << (nodes != nullptr ? std::to_string(nodes[0]) : "none") << '\n';
     }
 }

@@ -75,6 +75,17 @@ TEST(StyleRules, HaveExactlyOneTimeAmongTheScalars) {
     }
 }
 
+// The first letter of its name makes a scalar an integer, and the size test knows of one alone.
+TEST(StyleRules, HaveOneIntegerWithSpeciesAndNoneWithout) {
+    const auto isInteger = [](const StyleScalar_s& scalar) {
+        return scalar.itemName != nullptr && scalar.itemName[0] >= 'I' && scalar.itemName[0] <= 'N';
+    };
+    for (const StyleRules_s& rules : allStyleRules()) {
+        const auto integers = std::count_if(rules.scalars.begin(), rules.scalars.end(), isInteger);
+        EXPECT_EQ(integers, rules.hasSpecies ? 1 : 0) << findWord(styleWords, rules.style);
+    }
+}
+
 // Four scalars are all that a 1-D file has.
 TEST(StyleRules, HaveFourScalarsAtLeastWhereThereAreAnyIn1D) {
     for (const StyleRules_s& rules : allStyleRules()) {
