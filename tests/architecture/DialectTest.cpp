@@ -31,7 +31,8 @@ bool isWorthALook(const std::string& line) {
     for (const char* word : {"struct ", "class ", "enum "})
         if (line.find(word) != std::string::npos)
             return true;
-    for (std::size_t at = line.find('k'); at + 1 < line.size(); at = line.find('k', at + 1))
+    for (std::size_t at = line.find('k'); at != line.npos && at + 1 < line.size();
+         at = line.find('k', at + 1))
         if (line[at + 1] >= 'A' && line[at + 1] <= 'Z')
             return true;
     return false;

@@ -25,7 +25,7 @@ Owner_e ownerOf(const void* code) {
         return countsProgramAsHost() ? Owner_e::Host : Owner_e::Test;
     if (library.ends_with("/plot3dloader.so"))
         return Owner_e::AddOn;
-    if (library.ends_with("/libquorhost.so"))
+    if (library.find("/libquorhost.so") != library.npos) // its version follows
         return Owner_e::Host;
     return Owner_e::Unknown;
 }
