@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <hdf5.h>
+
 #include <plot3d/Error.h>
 
 namespace plot3d::program {
@@ -48,6 +50,9 @@ std::string padded(std::string name) {
 
 CgnsFile::CgnsFile(const std::string& path, std::string shownName)
     : shownName_(std::move(shownName)) {
+    // At the program's end the library would go over a file that a full disk left open, and crash.
+    // Whatever is written is closed before.
+    static_cast<void>(H5dont_atexit()); // says no if it was asked before
     check(cg_set_file_type(CG_FILE_HDF5));
     check(cg_open(path.c_str(), CG_MODE_WRITE, &file_));
     isOpen_ = true;
