@@ -12,10 +12,10 @@
 
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
+#include <plot3d/FileNames.h>
 
 #include "inspect/KindOfName.h"
 #include "open/Facts.h"
-#include "open/NaturalOrder.h"
 
 namespace plot3dlib {
 
@@ -81,7 +81,7 @@ void addTo(SortedFiles_s& sorted, FileKind kind, const std::string& file) {
 } // namespace
 
 SortedFiles_s sortByKind(std::vector<std::string> files, const plot3d::Watch& watch) {
-    std::sort(files.begin(), files.end(), isNaturallyBefore);
+    std::sort(files.begin(), files.end(), plot3d::naturalLess);
     SortedFiles_s sorted;
     for (const std::string& file : files) {
         demandFile(file);

@@ -16,6 +16,9 @@ std::string lineOf(const Error& error) {
     const ErrorFacts& facts = error.facts();
     std::string line = facts.file.empty() ? "" : facts.file + ": ";
     line += error.message();
+    const bool goesOn = facts.byte || !facts.expected.empty() || !facts.found.empty();
+    if (goesOn && line.ends_with('.'))
+        line.pop_back();
     if (facts.byte)
         line += " at byte " + console::grouped(*facts.byte);
     if (!facts.expected.empty())

@@ -30,6 +30,11 @@ TEST_F(Manners, AnErrorIsOneLineAndWhatToTry) {
                          "found nothing\ntry: plot3d info a.q\n");
 }
 
+TEST_F(Manners, AnErrorGoesOnBehindASentenceWithoutItsFullStop) {
+    tellError(err, Error(ErrorKind::NotPlot3D, "It ends early.", {.file = "a.q", .byte = 8}));
+    EXPECT_EQ(err.str(), "plot3d: error: a.q: It ends early at byte 8\n");
+}
+
 TEST_F(Manners, AnErrorWithoutFactsIsOneLine) {
     tellError(err, Error(ErrorKind::Refused, "no\ngood"));
     EXPECT_EQ(err.str(), "plot3d: error: no?good\n");

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "convert/cgns/CgnsFile.h"
-#include "convert/cgns/CgnsNames.h"
 #include "convert/cgns/CgnsPlan.h"
 #include "manners/ResultFile.h"
+#include "names/CgnsNames.h"
+#include "names/UniqueNames.h"
 
 namespace plot3d::program {
 
@@ -112,11 +114,24 @@ private:
     std::vector<std::uint64_t> values_;
 };
 
+std::vector<std::string> variableNames(const Contents& contents) {
+    std::vector<std::string> names = namesOf(contents);
+    std::transform(names.begin(), names.end(), names.begin(), cgnsStandardName);
+    return nodeNames(std::move(names), cgnsNameLength);
+}
+
+std::vector<std::string> zoneNames(const Contents& contents) {
+    std::vector<std::string> names;
+    for (const ContentZone_s& zone : contents.zones())
+        names.push_back(zone.name);
+    return nodeNames(std::move(names), cgnsNameLength);
+}
+
 class BaseWriter {
 public:
     BaseWriter(Contents& contents, const std::vector<CgnsZonePlan_s>& plans, CgnsFile& file)
-        : contents_(contents), plans_(plans), file_(file), names_(cgnsVariableNames(contents)),
-          zoneNames_(cgnsZoneNames(contents)) {}
+        : contents_(contents), plans_(plans), file_(file), names_(variableNames(contents)),
+          zoneNames_(zoneNames(contents)) {}
 
     void write() {
         for (const CgnsZonePlan_s& plan : plans_) {

@@ -1,8 +1,8 @@
 #include "convert/npz/NpzWriter.h"
 
 #include "convert/npz/ZipOutput.h"
-#include "convert/output/UniqueNames.h"
 #include "manners/ResultFile.h"
+#include "names/UniqueNames.h"
 
 namespace plot3d::program {
 

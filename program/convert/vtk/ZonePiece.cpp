@@ -7,8 +7,8 @@
 #include <plot3d/Error.h>
 
 #include "convert/contents/ValueConversion.h"
-#include "convert/output/UniqueNames.h"
 #include "convert/vtk/AppendedFile.h"
+#include "names/UniqueNames.h"
 
 namespace plot3d::program {
 

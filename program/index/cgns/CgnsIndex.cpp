@@ -10,24 +10,14 @@
 #include "index/cgns/CgnsText.h"
 #include "index/cgns/CgnsTree.h"
 #include "index/cgns/CgnsZone.h"
-#include "index/contents/NodeNames.h"
+#include "names/CgnsNames.h"
+#include "names/UniqueNames.h"
 
 namespace plot3d::program {
 
 namespace {
 
 const char* const marksName = "Plot3dOriginals";
-
-std::string standardName(const std::string& name) {
-    static const std::map<std::string, std::string> names = {
-        {"X", "CoordinateX"},   {"Y", "CoordinateY"},
-        {"Z", "CoordinateZ"},   {"RHO", "Density"},
-        {"RHO-U", "MomentumX"}, {"RHO-V", "MomentumY"},
-        {"RHO-W", "MomentumZ"}, {"E", "EnergyStagnationDensity"},
-    };
-    const auto found = names.find(name);
-    return found == names.end() ? name : found->second;
-}
 
 /// `names` as names of nodes, none of which is `taken`.
 std::vector<std::string> freeNames(std::vector<std::string> names,
@@ -64,7 +54,7 @@ private:
     void nameNodes() {
         std::vector<std::string> names;
         for (const IndexedVariable_s& variable : data_.variables())
-            names.push_back(standardName(variable.name));
+            names.push_back(cgnsStandardName(variable.name));
         names_ = freeNames(names, {"GridLocation"});
         names.clear();
         for (const Series_s& series : data_.series())

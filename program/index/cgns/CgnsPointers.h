@@ -1,13 +1,12 @@
 // Names of nodes as values of a node: 32 letters each, with blanks behind.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
-namespace plot3d::program {
+#include "names/CgnsNames.h"
 
-inline constexpr std::size_t cgnsNameLength = 32;
+namespace plot3d::program {
 
 inline std::string pointerText(const std::vector<std::string>& names) {
     std::string text;

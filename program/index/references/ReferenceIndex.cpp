@@ -7,10 +7,10 @@
 
 #include <plot3d/Error.h>
 
-#include "index/contents/NodeNames.h"
 #include "index/contents/PlainText.h"
 #include "index/contents/TextFile.h"
 #include "manners/ProgressWatch.h"
+#include "names/UniqueNames.h"
 
 namespace plot3d::program {
 
