@@ -32,7 +32,7 @@ FoundProblem recogniseOtherKind(Evidence_s& evidence) {
     const char* kind = wordOf(kindOf(*exact));
     return problemOf(std::string("As a ") + kind + " file all its bytes are used.",
                      wordOf(*evidence.expectedKind), kind,
-                     {"plot3d", "stats", std::string("--") + kind, evidence.file.name()});
+                     loadCommand(kindOf(*exact), evidence.file.name()));
 }
 
 /// Anything with a long enough second record passes for a 1-D grid of as many points as its first

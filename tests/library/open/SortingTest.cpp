@@ -1,4 +1,6 @@
 // How files that are named together become lists by kind.
+#include <fstream>
+
 #include "SeriesFixture.h"
 
 namespace plot3dtest {
@@ -43,6 +45,15 @@ TEST_F(Sorting, RefusesAFileThatIsOfNoKind) {
     EXPECT_EQ(error.kind(), ErrorKind::NotPlot3D);
     EXPECT_EQ(error.facts().file, file("notes.txt"));
     EXPECT_FALSE(error.facts().next.empty());
+}
+
+TEST_F(Sorting, NamesTheGridInTheCommandForASolutionThatIsOfNoKind) {
+    const auto solution = writeStep("wing.bin", FileKind_e::ClassicSolution, 1, 0.25, plainForm());
+    std::ofstream(solution, std::ios::binary | std::ios::app) << "and more";
+    const auto grid = writeGrid("mesh.bin");
+    const std::string next = failureOf({solution, grid}).facts().next;
+    EXPECT_TRUE(next.starts_with("plot3d stats --grid " + grid + " --solution " + solution))
+        << next;
 }
 
 TEST_F(Sorting, NamesTheFileOfASeriesThatIsBad) {
