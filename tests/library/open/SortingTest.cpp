@@ -49,7 +49,7 @@ TEST_F(Sorting, RefusesAFileThatIsOfNoKind) {
 
 TEST_F(Sorting, NamesTheGridInTheCommandForASolutionThatIsOfNoKind) {
     const auto solution = writeStep("wing.bin", FileKind_e::ClassicSolution, 1, 0.25, plainForm());
-    std::ofstream(solution, std::ios::binary | std::ios::app) << "and more";
+    std::ofstream(solution, std::ios::binary | std::ios::app) << "and more of it";
     const auto grid = writeGrid("mesh.bin");
     const std::string next = failureOf({solution, grid}).facts().next;
     EXPECT_TRUE(next.starts_with("plot3d stats --grid " + grid + " --solution " + solution))
