@@ -2,18 +2,13 @@
 #include <algorithm>
 #include <array>
 
+#include "inspect/Choice.h"
 #include "inspect/Problems.h"
 #include "inspect/Recognisers.h"
-#include "inspect/TextAccount.h"
 
 namespace plot3dlib {
 
 namespace {
-
-bool isExact(Evidence_s& evidence, const Reading_s& reading) {
-    return evidence.text ? fitsExactly(*evidence.text, reading)
-                         : accountOf(evidence.file, reading).isExact();
-}
 
 FoundProblem recogniseOtherKind(Evidence_s& evidence) {
     if (!evidence.expectedKind)
