@@ -42,10 +42,11 @@ ByteOutput::~ByteOutput() {
 }
 
 void ByteOutput::write(const void* bytes, std::size_t count) {
-    if (buffer_.size() + count > bufferBytes)
-        flush();
+    const bool goesThrough = count > bufferBytes / 2;
+    if (goesThrough || buffer_.size() + count > bufferBytes)
+        flush(); // what came before stands ahead of it
     const auto* const first = static_cast<const char*>(bytes);
-    if (count > bufferBytes / 2)
+    if (goesThrough)
         writeThrough(first, count);
     else
         buffer_.insert(buffer_.end(), first, first + count);
