@@ -73,10 +73,12 @@ Arrows libraryArrows() {
         {"read", {"facts", "plot3dfile/bytes"}},
         {"flow", {"facts"}},
         {"example", {}}, // public headers alone
+        {"console/counts", {}},
         {"derive", {"facts", "flow"}},
         {"inspect",
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
-          "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection"}},
+          "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection",
+          "console/counts"}},
         {"open",
          {"facts", "read", "inspect", "sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file",
           "dataset/ondemand", "boundary", "addon", "model", "state", "session"}},

@@ -105,5 +105,29 @@ TEST_F(Sorting, RefusesWordsThatNoLoadTakes) {
     EXPECT_THROW(DataSet::open({writeGrid()}, options), plot3d::Error);
 }
 
+/// What stood behind them was left out, without a word.
+TEST_F(Sorting, RefusesInstructionsThatThereAreNot) {
+    plot3d::OpenOptions options;
+    options.instructions = {{"ASCIIISDUBLE", "Yes"}};
+    const auto error = failureOf({writeGrid()}, options);
+    EXPECT_EQ(error.kind(), ErrorKind::Usage);
+    EXPECT_EQ(error.message(), "There is no load instruction \"ASCIIISDUBLE\"");
+    EXPECT_NE(error.facts().expected.find(", ASCIIISDOUBLE, "), std::string::npos);
+    options.instructions = {{"-iset", "1,2,1"}}; // of older lists
+    EXPECT_NO_THROW(DataSet::open({writeGrid()}, options));
+}
+
+TEST_F(Sorting, RefusesInstructionsThatAreNeitherYesNorNo) {
+    plot3d::OpenOptions options;
+    options.instructions = {{"AsciiIsDouble", "Yse"}};
+    EXPECT_EQ(failureOf({writeGrid()}, options).kind(), ErrorKind::Usage);
+    options.instructions = {{"FILELIST_GRIDFILES", "1"}};
+    EXPECT_EQ(failureOf({writeGrid()}, options).kind(), ErrorKind::Usage);
+    for (const char* const word : {"yes", "No", "t", "FALSE"}) {
+        options.instructions = {{"AsciiIsDouble", word}};
+        EXPECT_NO_THROW(DataSet::open({writeGrid()}, options)) << word;
+    }
+}
+
 } // namespace
 } // namespace plot3dtest
