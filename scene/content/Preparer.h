@@ -31,6 +31,8 @@ private:
     class Work;
     class Cache;
 
+    bool isGridAlone() const;
+
     const DataSet& data_;
     Gas gas_;
     int threads_;

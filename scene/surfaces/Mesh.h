@@ -55,4 +55,7 @@ struct Mesh_s {
     Place_s placeOf(std::int64_t point) const;
 };
 
+/// For each point 1 if a cell that is drawn has it, 0 otherwise; empty if all points are drawn.
+std::vector<char> drawnPoints(const Mesh_s& mesh);
+
 } // namespace plot3d::scene
