@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <functional>
 
 #include <plot3d/FieldReader.h>
 
@@ -82,6 +84,38 @@ void addOfPatch(const Patch_s& patch, std::int64_t step, ArrowList& arrows,
 }
 
 } // namespace
+
+namespace {
+
+/// The edges of cells with that many corners, as numbers whose order is that of their points.
+void addEdges(const std::vector<std::int32_t>& cells, std::size_t each,
+              std::vector<std::uint64_t>& edges) {
+    for (std::size_t first = 0; first + each <= cells.size(); first += each)
+        for (std::size_t corner = 0; corner < each; ++corner) {
+            const auto one = static_cast<std::uint32_t>(cells[first + corner]);
+            const auto other = static_cast<std::uint32_t>(cells[first + (corner + 1) % each]);
+            if (one != other)
+                edges.push_back(std::uint64_t{std::min(one, other)} << 32 | std::max(one, other));
+        }
+}
+
+} // namespace
+
+std::shared_ptr<const GridLines_s> gridLinesOf(const Mesh_s& mesh) {
+    std::vector<std::uint64_t> edges;
+    edges.reserve(mesh.quads.size() + mesh.triangles.size());
+    addEdges(mesh.quads, 4, edges);
+    addEdges(mesh.triangles, 3, edges);
+    std::sort(edges.begin(), edges.end());
+    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
+    const auto grid = std::make_shared<GridLines_s>();
+    grid->lines.reserve(2 * edges.size());
+    for (const std::uint64_t edge : edges) {
+        grid->lines.push_back(static_cast<std::int32_t>(edge >> 32));
+        grid->lines.push_back(static_cast<std::int32_t>(edge & 0xffffffff));
+    }
+    return grid;
+}
 
 std::shared_ptr<const Arrows_s> arrowsOn(const DataSet& data, std::size_t zone, const Mesh_s& mesh,
                                          const VectorQuantity_s& vector, const Gas& gas,

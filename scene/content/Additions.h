@@ -1,4 +1,4 @@
-// What is drawn beside the surfaces of a zone: arrows of a vector, and the zone's edges.
+// What is drawn beside the surfaces of a zone: its grid lines, arrows of a vector, its edges.
 #pragma once
 
 #include <cstddef>
@@ -11,6 +11,8 @@
 #include "content/SceneContent.h"
 
 namespace plot3d::scene {
+
+std::shared_ptr<const GridLines_s> gridLinesOf(const Mesh_s& mesh);
 
 /// Arrows at evenly chosen points of the mesh's patches, about `most` of them; only their values
 /// are read. Null if the zone has no values of the vector. Unstructured zones have theirs at nodes

@@ -62,6 +62,7 @@ class Preparer::Cache {
 public:
     Kept<Mesh_s> meshes;
     Kept<PointValues_s> values;
+    Kept<GridLines_s> gridLines;
     Kept<Arrows_s> arrows;
     Kept<Outline_s> outlines;
     std::map<std::string, Range_s> ranges;
@@ -134,6 +135,8 @@ void Preparer::Work::choose() {
     view().plot = plotOf(data_, view());
     quantity_ = colourOf(data_, view());
     view().colour = quantity_.isNothing() ? "none" : quantity_.name;
+    if (quantity_.isNothing() && preparer_.isGridAlone()) // which is its lines
+        view().gridLines = true;
     content_->colourName = quantity_.name;
     if (quantity_.derived != nullptr && quantity_.derived->components.size() == 3)
         content_->colourName += " magnitude";
@@ -274,6 +277,12 @@ void Preparer::Work::addAdditions() {
                         arrowsOn(data_, part.zone, *part.mesh, *vector, preparer_.gas_, most, stop);
                 });
         }
+        if (view().gridLines) {
+            part.gridLines = foundIn(before_.gridLines, shown_[index].meshKey);
+            if (!part.gridLines)
+                pieces.push_back(
+                    [&](const std::stop_token&) { part.gridLines = gridLinesOf(*part.mesh); });
+        }
         if (view().outlines) {
             part.outline = foundIn(before_.outlines, key);
             if (!part.outline)
@@ -286,6 +295,8 @@ void Preparer::Work::addAdditions() {
     for (std::size_t index = 0; index < shown_.size(); ++index) {
         const ZonePart_s& part = content_->parts[index];
         const std::string key = shown_[index].meshKey + " of " + std::to_string(part.zone);
+        if (part.gridLines)
+            now_.gridLines[shown_[index].meshKey] = part.gridLines;
         if (part.arrows)
             now_.arrows[key + " " + vector->name] = part.arrows;
         if (part.outline)
@@ -341,9 +352,6 @@ void Preparer::Work::settleWords() {
             content_->notes.push_back("zone " + std::to_string(part.zone + 1) +
                                       " has no values of " + quantity_.name);
     }
-    // A grid alone is its lines.
-    if (quantity_.isNothing() && preparer_.isGridAlone())
-        view().gridLines = true;
     content_->title = titleOf(data_, *content_);
     content_->summary = summaryOf(*content_);
 }

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +29,11 @@ struct Arrows_s {
     double longest = 0;
 };
 
+/// Edges of a mesh's cells, each once.
+struct GridLines_s {
+    std::vector<std::int32_t> lines; // two points of the mesh each
+};
+
 /// Edges of a zone.
 struct Outline_s {
     std::vector<double> points;              // x, y, z of each
@@ -37,9 +43,10 @@ struct Outline_s {
 struct ZonePart_s {
     std::size_t zone = 0; // index from 0
     std::shared_ptr<const Mesh_s> mesh;
-    std::shared_ptr<const PointValues_s> values; // null: the zone has none, and is drawn grey
-    std::shared_ptr<const Arrows_s> arrows;      // null: none asked for, or the zone has none
-    std::shared_ptr<const Outline_s> outline;    // null: not asked for
+    std::shared_ptr<const PointValues_s> values;  // null: the zone has none, and is drawn grey
+    std::shared_ptr<const GridLines_s> gridLines; // null: not asked for
+    std::shared_ptr<const Arrows_s> arrows;       // null: none asked for, or the zone has none
+    std::shared_ptr<const Outline_s> outline;     // null: not asked for
 };
 
 /// Of a plot of lines.
