@@ -1,6 +1,8 @@
 // Flat marks drawn over the renderer's scene.
 #pragma once
 
+#include <utility>
+
 #include <vtkContextItem.h>
 
 #include "annotation/Drawing.h"
@@ -10,7 +12,9 @@ namespace plot3d::scene {
 class Overlay : public vtkContextItem {
 public:
     static Overlay* New();
+    // clang-format off
     vtkTypeMacro(Overlay, vtkContextItem) // ends itself
+        // clang-format on
 
         void set(Drawing_s drawing) {
         drawing_ = std::move(drawing);
