@@ -33,10 +33,12 @@ void OffscreenPainter::makeWindow(int width, int height) {
         window_ = vtkSmartPointer<vtkRenderWindow>::New();
         renderer_ = vtkSmartPointer<vtkRenderer>::New();
         window_->OffScreenRenderingOn();
-        window_->SetMultiSamples(0); // which leave surfaces jagged here, and don't go with this:
+        // Samples leave surfaces jagged in software, and don't go with what smooths edges.
+        window_->SetMultiSamples(0);
         renderer_->UseFXAAOn();
         window_->SetDPI(72);
         window_->AddRenderer(renderer_);
+        stage_ = std::make_unique<Stage>(*renderer_);
     }
     window_->SetSize(width, height);
 }

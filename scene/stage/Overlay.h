@@ -12,13 +12,7 @@ namespace plot3d::scene {
 class Overlay : public vtkContextItem {
 public:
     static Overlay* New();
-    // clang-format off
-    vtkTypeMacro(Overlay, vtkContextItem) // ends itself
-        // clang-format on
-
-        void set(Drawing_s drawing) {
-        drawing_ = std::move(drawing);
-    }
+    void set(Drawing_s drawing) { drawing_ = std::move(drawing); }
     bool Paint(vtkContext2D* painter) override;
 
 private:
