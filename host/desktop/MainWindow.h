@@ -10,6 +10,7 @@
 
 #include "desktop/DataSetTree.h"
 #include "desktop/DesktopSession.h"
+#include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
 
 namespace quorvia::host {
@@ -58,6 +59,7 @@ private:
     void showWhatIsPossible();
     bool mayImport() const;
 
+    FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
     QAction* import_ = nullptr;

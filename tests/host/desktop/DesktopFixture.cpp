@@ -8,15 +8,10 @@
 #include <QTest>
 #include <QTreeWidgetItemIterator>
 
+#include "host/desktop/Patience.h"
 #include "plot3dsample/Run.h"
 
 namespace quorvia::host {
-namespace {
-
-constexpr int patience = 10000; // milliseconds for each step
-
-} // namespace
-
 void DesktopTest::SetUp() {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                        QString::fromStdString(directory_.file("settings")));
@@ -34,7 +29,7 @@ void DesktopTest::TearDown() {
             modal->close(); // the guest would wait for its answer for ever
             QTest::qWait(0);
         }
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->session().isBusy(); }, patience));
+        EXPECT_TRUE(comesTrue([this] { return !window_->session().isBusy(); }));
     }
     EXPECT_EQ(window_->session().takeViolations(), std::vector<std::string>());
     window_.reset();
@@ -62,7 +57,7 @@ void DesktopTest::waitUntilDone() {
     while (!isDone() && goesOn) {
         const int before = person_.doneCount();
         const auto hasGoneOn = [&] { return isDone() || person_.doneCount() != before; };
-        goesOn = QTest::qWaitFor(hasGoneOn, patience);
+        goesOn = comesTrue(hasGoneOn);
     }
     if (!goesOn)
         ADD_FAILURE() << "the person waits in vain for: " << person_.waitsFor();
