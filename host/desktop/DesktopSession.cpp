@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <plot3d/AddOn.h>
+
 #include "describe/GatherOutcome.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
@@ -74,20 +76,33 @@ std::vector<std::string> DesktopSession::takeViolations() {
 
 void DesktopSession::openAddOn(const std::string& path,
                                std::function<void(std::string error)> done) {
-    const auto error = std::make_shared<std::string>();
+    struct Opening_s {
+        std::optional<Loader_s> loader;
+        std::string error;
+    };
+    const auto opening = std::make_shared<Opening_s>();
     start(
         QStringLiteral("Opening the Add-on"),
-        [this, path, error] { library_ = AddOnLibrary::open(path, *error); },
-        [this, error, done = std::move(done)] {
-            readLoader();
-            done(*error);
+        [this, path, opening] {
+            opening->loader = path.empty() ? linkedLoader() : loaderOf(path, opening->error);
+        },
+        [this, opening, done = std::move(done)] {
+            loader_ = std::move(opening->loader);
+            done(opening->error);
         });
 }
 
-void DesktopSession::readLoader() {
-    loader_.reset();
-    if (!host().loaders().empty())
-        loader_ = host().loaders().back();
+std::optional<Loader_s> DesktopSession::linkedLoader() {
+    plot3d::registerAddOn();
+    return host().loaders().front();
+}
+
+std::optional<Loader_s> DesktopSession::loaderOf(const std::string& path, std::string& error) {
+    const std::size_t countBefore = host().loaders().size();
+    library_ = AddOnLibrary::open(path, error);
+    if (host().loaders().size() == countBefore)
+        return std::nullopt;
+    return host().loaders().back();
 }
 
 void DesktopSession::import(const FileSelection_s& selection,

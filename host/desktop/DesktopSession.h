@@ -44,9 +44,10 @@ public:
 
     bool isBusy() const { return work_.isRunning(); }
 
-    /// Gets why the library could not be opened; empty if it could.
+    /// The add-on's library at `path`, or for an empty path the add-on that is linked into the
+    /// program. `done` gets why it could not be opened; empty if it could.
     void openAddOn(const std::string& path, std::function<void(std::string error)> done);
-    /// The loader that was registered last; nothing if there is none.
+    /// The add-on's; nothing if it has registered none.
     const std::optional<Loader_s>& loader() const { return loader_; }
 
     void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
@@ -66,7 +67,8 @@ public:
 private:
     static ReferenceHost& host() { return ReferenceHost::instance(); }
     void setUpHost();
-    void readLoader();
+    static std::optional<Loader_s> linkedLoader();
+    std::optional<Loader_s> loaderOf(const std::string& path, std::string& error);
     void start(const QString& title, GuestWork::Work work, std::function<void()> done);
     void collectViolations();
 

@@ -17,8 +17,8 @@ namespace quorvia::host {
 
 class MainWindow : public QMainWindow {
 public:
-    /// The add-on at `addOnPath` is opened once the program's event loop runs; then `files` are
-    /// imported in one selection, if there are any.
+    /// The add-on at `addOnPath`, or the linked-in one if that is empty, is opened once the
+    /// program's event loop runs; then `files` are imported in one selection, if there are any.
     MainWindow(const std::string& addOnPath, std::vector<std::string> files);
 
     /// The add-on is open, or can't be opened, and nothing runs.

@@ -39,7 +39,8 @@ int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
     QApplication::setStyle(new DesktopStyle);
-    MainWindow window(addOnPath(arguments.addOnPath), wholePaths(arguments.files));
+    const std::string& addOn = arguments.addOnPath;
+    MainWindow window(addOn.empty() ? addOn : addOnPath(addOn), wholePaths(arguments.files));
     window.show();
     const int code = QApplication::exec();
     for (const std::string& violation : window.session().takeViolations())

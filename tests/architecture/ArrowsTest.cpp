@@ -134,8 +134,7 @@ std::string roomOf(const std::string& path, const Arrows& arrows) {
     return room;
 }
 
-std::vector<std::string> quotedIncludes(const fs::path& file) {
-    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+std::vector<std::string> includesLike(const fs::path& file, const std::regex& pattern) {
     std::vector<std::string> includes;
     std::ifstream in(file);
     std::smatch match;
@@ -143,6 +142,11 @@ std::vector<std::string> quotedIncludes(const fs::path& file) {
         if (std::regex_search(line, match, pattern))
             includes.push_back(match[1]);
     return includes;
+}
+
+std::vector<std::string> quotedIncludes(const fs::path& file) {
+    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+    return includesLike(file, pattern);
 }
 
 bool isSource(const fs::path& path) {
@@ -188,6 +192,17 @@ TEST(Arrows, OfTheAddOnGoOneWay) {
 
 TEST(Arrows, OfTheHostGoOneWayAndReachOnlyTheSdkOfTheAddOn) {
     expectNoForbiddenInclude("host", hostArrows);
+}
+
+// The library stands on the host; a program alone may stand on both.
+TEST(Arrows, OfTheHostReachTheLibraryFromItsWindowsAlone) {
+    const std::regex ofTheLibrary("^\\s*#\\s*include\\s*<(plot3d/[^>]+)>");
+    std::set<std::string> rooms;
+    const fs::path root = fs::path(PLOT3D_SOURCE_DIR) / "host";
+    for (const auto& entry : fs::recursive_directory_iterator(root))
+        if (isSource(entry.path()) && !includesLike(entry.path(), ofTheLibrary).empty())
+            rooms.insert(roomOf(fs::relative(entry.path(), root).generic_string(), hostArrows));
+    EXPECT_EQ(rooms, std::set<std::string>{"desktop"});
 }
 
 TEST(Arrows, OfTheLibraryGoOneWay) {

@@ -1,7 +1,11 @@
 #include "host/desktop/DesktopFixture.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <sstream>
 #include <stdexcept>
+
+#include <dlfcn.h>
 
 #include <QApplication>
 #include <QSettings>
@@ -103,6 +107,14 @@ std::vector<float> DesktopTest::values(std::int32_t zone, std::int32_t variable)
         throw std::runtime_error("no such field of 32-bit reals: " + fetched.error);
     const auto* first = static_cast<const float*>(fetched.values);
     return {first, first + fetched.count};
+}
+
+std::ptrdiff_t DesktopTest::loaderCount(const std::string& library) {
+    return std::ranges::count_if(host().loaders(), [&library](const Loader_s& loader) {
+        Dl_info info = {};
+        return dladdr(reinterpret_cast<const void*>(loader.load), &info) != 0 &&
+               std::filesystem::path(info.dli_fname).filename() == library;
+    });
 }
 
 QTreeWidgetItem* DesktopTest::treeItem(const QString& name) {
