@@ -39,10 +39,20 @@ void requireZone(const DataSet& data, std::size_t zone) {
 
 /// Where the values that the formula needs are; empty if points beside the zone's are not known.
 std::optional<plot3dlib::FlowRegion_s> regionFor(const DataSet& data, std::size_t zone,
+                                                 const Box& box,
                                                  const plot3dlib::FlowQuantity_s& formula) {
     if (!formula.needs.coordinates)
-        return plot3dlib::wholeRegion(data, zone);
-    return regionWithNeighbours(data, zone, plot3dlib::flowVariablesOf(data));
+        return plot3dlib::FlowRegion_s{zone, box, Box::whole(box.extent())};
+    return regionWithNeighbours(data, zone, box, plot3dlib::flowVariablesOf(data));
+}
+
+bool lies(const Range& range, std::int64_t size) {
+    return range.step >= 1 && range.first >= 0 && range.first <= range.last && range.last < size;
+}
+
+void requireBox(const Box& box, const Extent& size) {
+    if (!lies(box.i, size.i) || !lies(box.j, size.j) || !lies(box.k, size.k))
+        throw Error(ErrorKind::Usage, "the box leaves the zone, or has no points");
 }
 
 } // namespace
@@ -69,7 +79,7 @@ bool canDerive(const DataSet& data, std::size_t zone, const DerivedQuantity& qua
                std::string& reason) {
     requireZone(data, zone);
     const plot3dlib::FlowQuantity_s& formula = formulaOf(quantity);
-    const auto region = regionFor(data, zone, formula);
+    const auto region = regionFor(data, zone, Box::whole(data.zones()[zone].size), formula);
     reason = plot3dlib::whatIsMissing(data, region ? region->zone : zone, formula.needs);
     if (reason.empty() && !region)
         reason = "the points beside this boundary, which derivatives need, are not known";
@@ -79,11 +89,19 @@ bool canDerive(const DataSet& data, std::size_t zone, const DerivedQuantity& qua
 std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
                                         const DerivedQuantity& quantity, const Gas& gas,
                                         std::stop_token stop) {
+    requireZone(data, zone);
+    return derive(data, zone, quantity, Box::whole(data.zones()[zone].size), gas, stop);
+}
+
+std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
+                                        const DerivedQuantity& quantity, const Box& box,
+                                        const Gas& gas, std::stop_token stop) {
     std::string reason;
     if (!canDerive(data, zone, quantity, reason))
         throw Error(ErrorKind::Unsupported, quantity.name + " can't be computed: " + reason);
+    requireBox(box, data.zones()[zone].size);
     const plot3dlib::FlowQuantity_s& formula = formulaOf(quantity);
-    const plot3dlib::FlowRegion_s region = *regionFor(data, zone, formula);
+    const plot3dlib::FlowRegion_s region = *regionFor(data, zone, box, formula);
     const plot3dlib::ZoneFlow values(data, region.zone, region.box, formula.needs, gas, stop);
     plot3dlib::Components components = formula.compute(values.flow(), values.constants(), stop);
     for (std::vector<double>& component : components)

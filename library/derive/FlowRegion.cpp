@@ -27,26 +27,32 @@ Range within(const Range& range, const Range& read) {
     return {range.first - read.first, range.last - read.first, range.step};
 }
 
-} // namespace
-
-FlowRegion_s wholeRegion(const DataSet& data, std::size_t zone) {
-    const Box whole = Box::whole(data.zones()[zone].size);
-    return {zone, whole, whole};
+/// `range` counts the indices of `whole`: the same indices themselves.
+Range composed(const Range& whole, const Range& range) {
+    return {whole.first + range.first * whole.step, whole.first + range.last * whole.step,
+            range.step * whole.step};
 }
 
+FlowRegion_s regionAround(const DataSet& data, std::size_t zone, const Box& box) {
+    const Extent& size = data.zones()[zone].size;
+    const Box read{withNeighbours(box.i, size.i), withNeighbours(box.j, size.j),
+                   withNeighbours(box.k, size.k)};
+    return {zone, read, {within(box.i, read.i), within(box.j, read.j), within(box.k, read.k)}};
+}
+
+} // namespace
+
 std::optional<FlowRegion_s> regionWithNeighbours(const DataSet& data, std::size_t zone,
-                                                 const FlowVariables_s& variables) {
+                                                 const Box& box, const FlowVariables_s& variables) {
     const std::optional<std::size_t> parent = data.zones()[zone].parent;
     if (!parent)
-        return wholeRegion(data, zone);
-    const std::optional<Box> box = boxInParent(data, zone, variables.momentum[0]);
-    if (!box || boxInParent(data, zone, variables.coordinates[0]) != box)
+        return regionAround(data, zone, box);
+    const std::optional<Box> part = boxInParent(data, zone, variables.momentum[0]);
+    if (!part || boxInParent(data, zone, variables.coordinates[0]) != part)
         return std::nullopt;
-    const Extent& size = data.zones()[*parent].size;
-    const Box read{withNeighbours(box->i, size.i), withNeighbours(box->j, size.j),
-                   withNeighbours(box->k, size.k)};
-    return FlowRegion_s{
-        *parent, read, {within(box->i, read.i), within(box->j, read.j), within(box->k, read.k)}};
+    return regionAround(
+        data, *parent,
+        {composed(part->i, box.i), composed(part->j, box.j), composed(part->k, box.k)});
 }
 
 std::vector<double> wantedOf(const FlowRegion_s& region, std::vector<double> values) {

@@ -19,12 +19,10 @@ struct FlowRegion_s {
     plot3d::Box wanted;   // the points that are asked for, counted within `box`
 };
 
-/// All points of the zone itself.
-FlowRegion_s wholeRegion(const plot3d::DataSet& data, std::size_t zone);
-
-/// For derivatives. Empty for a boundary zone whose fields are no parts of those of its grid, so
-/// that the points beside it are not known.
+/// For derivatives at the points of `box`, of that zone. Empty for a boundary zone whose fields are
+/// no parts of those of its grid, so that the points beside it are not known.
 std::optional<FlowRegion_s> regionWithNeighbours(const plot3d::DataSet& data, std::size_t zone,
+                                                 const plot3d::Box& box,
                                                  const FlowVariables_s& variables);
 
 /// The values at the points that are asked for, out of those of the region.

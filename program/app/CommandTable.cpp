@@ -4,6 +4,7 @@
 #include "diff/DiffCommand.h"
 #include "index/IndexCommand.h"
 #include "info/InfoCommand.h"
+#include "render/RenderCommand.h"
 #include "stats/StatsCommand.h"
 
 namespace plot3d::program {
@@ -15,6 +16,7 @@ Commands allCommands() {
     commands.push_back(std::make_unique<ConvertCommand>());
     commands.push_back(std::make_unique<DiffCommand>());
     commands.push_back(std::make_unique<IndexCommand>());
+    commands.push_back(std::make_unique<RenderCommand>());
     return commands;
 }
 

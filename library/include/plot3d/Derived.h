@@ -43,4 +43,10 @@ std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
                                         const DerivedQuantity& quantity, const Gas& gas = {},
                                         std::stop_token stop = {});
 
+/// The same at the points of a box of the zone. Reads no more than the box; for derivatives also
+/// the points beside it and between its steps. Throws Error, Usage for a box that leaves the zone.
+std::vector<std::vector<double>> derive(const DataSet& data, std::size_t zone,
+                                        const DerivedQuantity& quantity, const Box& box,
+                                        const Gas& gas = {}, std::stop_token stop = {});
+
 } // namespace plot3d

@@ -72,6 +72,36 @@ TEST_F(DerivedTest, HaveTheValuesOfTheFlow) {
     }
 }
 
+std::vector<double> pointsOf(const std::vector<double>& values, const plot3d::Extent& size,
+                             const plot3d::Box& box) {
+    std::vector<double> some;
+    for (std::int64_t k = box.k.first; k <= box.k.last; k += box.k.step)
+        for (std::int64_t j = box.j.first; j <= box.j.last; j += box.j.step)
+            for (std::int64_t i = box.i.first; i <= box.i.last; i += box.i.step)
+                some.push_back(values[static_cast<std::size_t>((k * size.j + j) * size.i + i)]);
+    return some;
+}
+
+TEST_F(DerivedTest, AreTheSameAtTheirPointsForABox) {
+    const DataSet data = open();
+    const plot3d::Extent size = data.zones()[0].size;
+    const plot3d::Box planes{{0, 4, 4}, {0, 3, 1}, {0, 2, 1}};
+    const plot3d::Box inside{{1, 3, 2}, {2, 2, 1}, {1, 1, 1}};
+    for (const char* word : {"pressure", "velocity", "vorticity"})
+        for (const plot3d::Box& box : {planes, inside}) {
+            const Components whole = derive(data, 0, named(word));
+            const Components part = derive(data, 0, named(word), box);
+            for (std::size_t component = 0; component < whole.size(); ++component)
+                EXPECT_EQ(part[component], pointsOf(whole[component], size, box)) << word;
+        }
+}
+
+TEST_F(DerivedTest, RefuseABoxThatLeavesTheZone) {
+    const DataSet data = open();
+    EXPECT_THROW(derive(data, 0, named("pressure"), {{0, 5, 1}, {0, 3, 1}, {0, 2, 1}}),
+                 plot3d::Error);
+}
+
 TEST_F(DerivedTest, HaveDerivativesAtAllPoints) {
     const Components vorticity = derive(open(), 0, named("vorticity"));
     ASSERT_EQ(vorticity.size(), 3U);

@@ -1,0 +1,246 @@
+#include "render/ViewArguments.h"
+
+#include <fstream>
+#include <iterator>
+
+#include <CLI/CLI.hpp>
+#include <plot3d/Error.h>
+
+#include "colours/ColourMap.h"
+#include "selection/NumberChecks.h"
+#include "selection/NumberList.h"
+#include "selection/TimeRange.h"
+#include "view/ViewJson.h"
+#include "view/ViewWords.h"
+
+namespace plot3d::program {
+
+namespace {
+
+/// For CLI11: empty, or why the text can't be taken.
+template <typename Parse>
+auto takenBy(Parse parse) {
+    return [parse](const std::string& text) -> std::string {
+        try {
+            parse(text);
+            return {};
+        } catch (const Error& error) {
+            return error.message();
+        }
+    };
+}
+
+std::string mapWords() {
+    std::string words;
+    for (const std::string_view name : scene::ColourMap::names())
+        words += (words.empty() ? "" : "|") + std::string(name);
+    return words;
+}
+
+void checkRange(const std::string& text) {
+    if (!scene::rangeOverFromWord(text))
+        scene::rangeFromText(text);
+}
+
+std::string aboveNothing(const std::string& text) {
+    const std::string problem = notNegative(text);
+    return problem.empty() && *realNumber(text) == 0 ? "a number above 0 is needed" : problem;
+}
+
+} // namespace
+
+void ViewArguments::declare(CLI::App& app) {
+    declareContents(app);
+    declareLook(app);
+}
+
+void ViewArguments::declareContents(CLI::App& app) {
+    const char* const group = "What is shown";
+    app.add_option("--color", colour_,
+                   "Variable, or derived quantity by word or number; none for plain surfaces "
+                   "(default: the first variable of the solution)")
+        ->type_name("NAME")
+        ->group(group);
+    app.add_option("--range", range_,
+                   "Values at the ends of the colours; or what they are taken from: the points "
+                   "shown (default), all points at that time, or at all times")
+        ->type_name("LEAST:MOST|shown|time|all-times")
+        ->check(takenBy(checkRange))
+        ->group(group);
+    app.add_option("--time", time_, "Solution time: the step at it, or first or last")
+        ->type_name("TIME")
+        ->group(group);
+    app.add_flag("--all-times", allTimes_,
+                 "A picture of each time step, numbered, with one range for all; and an animation "
+                 "(.mp4) where ffmpeg is installed")
+        ->group(group);
+    app.add_option("--zones", zones_, "Zones by number from 1, such as 1,3-5")
+        ->type_name("LIST")
+        ->group(group);
+    app.add_option("--surface", surfaces_,
+                   "outer; planes of indices such as k=1,-1 (-1 is the last); boundary=NAME of the "
+                   "boundary file, with * and ?; may come several times")
+        ->type_name("outer|i=|j=|k=|boundary=")
+        ->check(takenBy([](const std::string& text) { scene::surfacesFromText(text); }))
+        ->allow_extra_args(false)
+        ->group(group);
+    app.add_option("--line", line_,
+                   "Plot values along one grid line of each zone: j=3,k=1 for that along I")
+        ->type_name("INDICES")
+        ->check(takenBy([](const std::string& text) { scene::lineFromText(text); }))
+        ->group(group);
+    app.add_option("--blank", blank_,
+                   "What becomes of cells with a corner whose I-blank is 0 (default: hide); color "
+                   "shows I-blank itself")
+        ->type_name("hide|show|color")
+        ->check(CLI::IsMember({"hide", "show", "color"}))
+        ->group(group);
+    app.add_flag("--lines", gridLines_, "Grid lines")->group(group);
+    app.add_option("--contours", contours_, "Contour lines, spread evenly over the range")
+        ->type_name("N")
+        ->check([](const std::string& text) { return wholeNumberBetween(text, 0, 1000); })
+        ->group(group);
+    app.add_option("--vectors", vectors_,
+                   "Arrows of velocity, another derived vector, or of variables A,B,C")
+        ->type_name("NAME")
+        ->group(group);
+    app.add_flag("--outlines", outlines_, "Edges of the zones")->group(group);
+    app.add_option("--gamma", gas_.gamma,
+                   "Ratio of specific heats for derived quantities, where the file has none for "
+                   "each point (default: 1.4)")
+        ->type_name("NUMBER")
+        ->group(group);
+    app.add_option("--gas-constant", gas_.gasConstant, "In the units of the solution (default: 1)")
+        ->type_name("NUMBER")
+        ->group(group);
+}
+
+void ViewArguments::declareLook(CLI::App& app) {
+    const char* const group = "How it looks";
+    app.add_option("--map", map_, "Colours (default: viridis); viridis-r turns them round")
+        ->type_name(mapWords())
+        ->check(takenBy([](const std::string& text) { scene::ColourMap::named(text); }))
+        ->group(group);
+    app.add_option("--view", direction_,
+                   "From where it is seen: iso (default), an axis, or X,Y,Z from the data towards "
+                   "the eye")
+        ->type_name("iso|+x|-x|+y|-y|+z|-z|X,Y,Z")
+        ->check(takenBy([](const std::string& text) { scene::cameraFromText(text); }))
+        ->group(group);
+    app.add_option("--zoom", zoom_, "2 is twice as large as all that fits (default: 1)")
+        ->type_name("FACTOR")
+        ->check(aboveNothing)
+        ->group(group);
+    app.add_option("--plot", plot_,
+                   "Surfaces in space, in their plane, or lines over a coordinate (default: auto, "
+                   "by the dimensions of the grid)")
+        ->type_name("auto|3d|2d|xy")
+        ->check(CLI::IsMember({"auto", "3d", "2d", "xy"}))
+        ->group(group);
+    app.add_option("--size", size_, "Pixels (default: 1280x960)")
+        ->type_name("WIDTHxHEIGHT")
+        ->check(takenBy([](const std::string& text) { scene::sizeFromText(text); }))
+        ->group(group);
+    app.add_option("--background", background_,
+                   "white (default), lightgrey, grey, dark, black or #RRGGBB")
+        ->type_name("COLOR")
+        ->check(takenBy([](const std::string& text) { scene::colourFromText(text); }))
+        ->group(group);
+    app.add_option("--title", title_, "Instead of the names of the files")
+        ->type_name("TEXT")
+        ->group(group);
+    app.add_flag("--no-axes", hidesAxes_, "Leave out the axes")->group(group);
+    app.add_flag("--no-legend", hidesLegend_, "Leave out the legend")->group(group);
+    app.add_flag("--no-title", hidesTitle_, "Leave out the title and the line below it")
+        ->group(group);
+    app.add_option("--view-file", viewFile_,
+                   "Begin with the view that --save-view wrote; options change it")
+        ->type_name("FILE")
+        ->group(group);
+}
+
+scene::View_s ViewArguments::startingView() const {
+    if (viewFile_.empty())
+        return {};
+    std::ifstream in(viewFile_, std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (!in)
+        throw Error(ErrorKind::NotFound, "can't be read", {.file = viewFile_});
+    try {
+        return scene::viewFromJson(text);
+    } catch (const Error& error) {
+        ErrorFacts facts = error.facts();
+        facts.file = viewFile_;
+        throw Error(error.kind(), error.message(), std::move(facts));
+    }
+}
+
+void ViewArguments::takeContents(scene::View_s& view, const DataSet& data) const {
+    if (!colour_.empty())
+        view.colour = colour_;
+    if (const auto over = scene::rangeOverFromWord(range_)) {
+        view.range.reset();
+        view.rangeOver = *over;
+    } else if (!range_.empty()) {
+        view.range = scene::rangeFromText(range_);
+    }
+    if (!time_.empty()) {
+        std::vector<double> times;
+        for (const TimeStep& step : data.timeSteps())
+            times.push_back(step.time);
+        view.time = times[parseTimes(time_, times).front()];
+    }
+    if (!zones_.empty()) {
+        view.zones = parseNumberList(zones_, data.zones().size(), "zone");
+        for (std::size_t& zone : view.zones)
+            ++zone;
+    }
+    if (!surfaces_.empty())
+        view.surfaces.clear();
+    for (const std::string& text : surfaces_)
+        for (scene::SurfaceWish_s& surface : scene::surfacesFromText(text))
+            view.surfaces.push_back(std::move(surface));
+    if (!line_.empty())
+        view.line = scene::lineFromText(line_);
+    if (!blank_.empty())
+        view.blank = *scene::blankFromWord(blank_);
+    if (!vectors_.empty())
+        view.vectors = vectors_;
+    if (contours_ >= 0)
+        view.contours = contours_;
+    view.gridLines = view.gridLines || gridLines_;
+    view.outlines = view.outlines || outlines_;
+}
+
+void ViewArguments::takeLook(scene::View_s& view) const {
+    if (!map_.empty())
+        view.map = map_;
+    if (!direction_.empty()) {
+        const scene::Camera_s camera = scene::cameraFromText(direction_);
+        view.camera.direction = camera.direction;
+        view.camera.up = camera.up;
+        view.camera.focus.reset();
+    }
+    if (zoom_ > 0)
+        view.camera.zoom = zoom_;
+    if (!plot_.empty())
+        view.plot = *scene::plotFromWord(plot_);
+    if (!size_.empty())
+        view.size = scene::sizeFromText(size_);
+    if (!background_.empty())
+        view.background = background_;
+    if (!title_.empty())
+        view.titleText = title_;
+    view.axes = view.axes && !hidesAxes_;
+    view.legend = view.legend && !hidesLegend_;
+    view.title = view.title && !hidesTitle_;
+}
+
+scene::View_s ViewArguments::view(const DataSet& data) const {
+    scene::View_s view = startingView();
+    takeContents(view, data);
+    takeLook(view);
+    return view;
+}
+
+} // namespace plot3d::program

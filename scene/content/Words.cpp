@@ -1,0 +1,85 @@
+#include "content/Words.h"
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+
+#include "view/ViewWords.h"
+
+namespace plot3d::scene {
+
+namespace {
+
+void addName(std::string& names, const std::vector<std::string>& files) {
+    if (files.empty())
+        return;
+    names += (names.empty() ? "" : ", ") + std::filesystem::path(files.front()).filename().string();
+    if (files.size() > 1)
+        names += " to " + std::filesystem::path(files.back()).filename().string();
+}
+
+std::string fileNames(const FileLists& files, std::size_t timeStep, std::size_t stepCount) {
+    std::string names;
+    for (const auto* list : {&files.grid, &files.solution, &files.function}) {
+        if (list->size() == stepCount && list->size() > 1)
+            addName(names, {(*list)[timeStep]});
+        else
+            addName(names, *list);
+    }
+    return names;
+}
+
+std::string surfacesText(const View_s& view) {
+    if (view.surfaces == View_s().surfaces)
+        return "outer surface";
+    std::string text;
+    for (const SurfaceWish_s& surface : view.surfaces)
+        text += (text.empty() ? "surfaces " : " ") + textOf(surface);
+    return text;
+}
+
+std::string viewText(const View_s& view) {
+    if (view.plot == PlotKind_e::Plane)
+        return "seen from above";
+    return "view " + textOfDirection(view.camera);
+}
+
+} // namespace
+
+std::string shortNumber(double number) {
+    std::array<char, 32> text = {};
+    std::snprintf(text.data(), text.size(), "%.4g", number == 0 ? 0.0 : number);
+    return text.data();
+}
+
+std::string titleOf(const DataSet& data, const SceneContent_s& content) {
+    std::string title = content.view.titleText;
+    if (title.empty())
+        title = fileNames(data.files(), content.timeStep, data.timeSteps().size());
+    if (title.empty())
+        title = data.title();
+    if (data.timeSteps().size() > 1)
+        title += (title.empty() ? "time " : ", time ") +
+                 shortNumber(data.timeSteps()[content.timeStep].time);
+    return title;
+}
+
+std::string summaryOf(const SceneContent_s& content) {
+    const View_s& view = content.view;
+    std::string text;
+    if (content.hasValues)
+        text = content.colourName + " " + shortNumber(content.range.least) + " to " +
+               shortNumber(content.range.most);
+    if (view.plot == PlotKind_e::Lines)
+        return text;
+    text += (text.empty() ? "" : ", map " + view.map + ", ") + surfacesText(view) + ", " +
+            viewText(view);
+    std::int64_t hidden = 0;
+    for (const ZonePart_s& part : content.parts)
+        hidden += part.mesh->hiddenCells;
+    if (hidden > 0)
+        text += ", " + std::to_string(hidden) + " blanked cells hidden";
+    return text;
+}
+
+} // namespace plot3d::scene
