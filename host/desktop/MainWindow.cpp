@@ -70,14 +70,14 @@ void MainWindow::addMenus() {
 void MainWindow::addFileMenu() {
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
     QMenu* import = file->addMenu(QStringLiteral("&Import"));
-    import_ = action(QStringLiteral("No Loader"), QKeySequence(Qt::CTRL | Qt::Key_I),
+    import_ = action(QStringLiteral("No Loader"), QKeySequence(QStringLiteral("Ctrl+I")),
                      &MainWindow::importByHand);
     import->addAction(import_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
-    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
     file->addAction(quit);
 }
@@ -86,8 +86,8 @@ void MainWindow::addValuesMenu() {
     QMenu* values = menuBar()->addMenu(QStringLiteral("&Values"));
     fetchSelected_ = action(QStringLiteral("&Fetch Values of Selection"), QKeySequence(Qt::Key_F5),
                             &MainWindow::fetchSelected);
-    fetchAll_ = action(QStringLiteral("Fetch &All Values"), QKeySequence(Qt::SHIFT | Qt::Key_F5),
-                       &MainWindow::fetchAll);
+    fetchAll_ = action(QStringLiteral("Fetch &All Values"),
+                       QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
     values->addActions({fetchSelected_, fetchAll_});
 }
 

@@ -33,12 +33,13 @@ bool updatesGolden() {
 }
 
 /// The colours of the picture, the most frequent first.
-QList<QRgb> coloursOf(const QImage& image) {
+QVector<QRgb> coloursOf(const QImage& image) {
     QHash<QRgb, int> counts;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             ++counts[image.pixel(x, y)];
-    QList<QRgb> colours = counts.keys();
+    const QList<QRgb> found = counts.keys();
+    QVector<QRgb> colours(found.begin(), found.end());
     std::sort(colours.begin(), colours.end(), [&counts](QRgb left, QRgb right) {
         return std::make_tuple(counts[right], left) < std::make_tuple(counts[left], right);
     });
