@@ -10,6 +10,8 @@
 
 #include <QWidget>
 
+#include <plot3d/DataSet.h>
+
 #include "describe/ValueFetch.h"
 #include "desktop/DesktopUser.h"
 #include "desktop/GuestWindows.h"
@@ -28,6 +30,10 @@ struct ImportOutcome_s {
     LoadResult_s result;
     QuorPlotType_e plotType = QuorPlotType_None;
     std::optional<DataSetOutcome_s> dataSet; // as it is now, whether the import succeeded or not
+    /// The same to be looked at, on any thread; null if there is none, or only this host can read
+    /// it.
+    std::shared_ptr<const plot3d::DataSet> values;
+    std::string whyNoValues; // empty if there is no data set
 };
 
 /// Everything is called, and calls back, on the windows' thread. One session at a time: there is

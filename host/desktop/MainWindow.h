@@ -1,5 +1,5 @@
-// The window of the program: the import menu, the tree of the data set, and a line that tells what
-// happened last.
+// The window of the program: the import menu, the tree of the data set, its picture, and a line
+// that tells what happened last.
 #pragma once
 
 #include <string>
@@ -12,6 +12,7 @@
 #include "desktop/DesktopSession.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
+#include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
 
@@ -25,6 +26,7 @@ public:
     bool isReady() const { return isOpened_ && !session_.isBusy(); }
     DesktopSession& session() { return session_; }
     DataSetTree& tree() { return *tree_; }
+    DataSetView& view() { return *view_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -32,6 +34,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void addPanes();
     void addMenus();
     void addFileMenu();
     void addValuesMenu();
@@ -62,6 +65,7 @@ private:
     FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
+    DataSetView* view_ = nullptr;
     QAction* import_ = nullptr;
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;

@@ -10,6 +10,7 @@
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopStyle.h"
 #include "desktop/MainWindow.h"
+#include "desktop/view/DataSetView.h"
 #include "session/AddOnPath.h"
 
 namespace quorvia::host {
@@ -36,6 +37,7 @@ std::vector<std::string> wholePaths(const std::vector<std::string>& files) {
 }
 
 int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
+    prepareViews();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
     QApplication::setStyle(new DesktopStyle);

@@ -63,7 +63,12 @@ const Arrows hostArrows = {
     {"console", {}}, // at the top, used by what people see
     {"describe", {"console", "sdk", "model", "toolkit", "state", "session"}},
     {"app", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
-    {"desktop", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"view", {}}, // these three of the scene, used by the windows
+    {"content", {}},
+    {"stage", {}},
+    {"desktop",
+     {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
+      "stage"}},
 };
 
 /// The rooms of the library, and all that stand below it.

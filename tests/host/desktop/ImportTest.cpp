@@ -73,9 +73,9 @@ protected:
         });
     }
     /// An action may stand in the tool bar as well.
-    static QMenu* menuOf(const QAction& action) {
-        for (QObject* object : action.associatedObjects())
-            if (auto* menu = qobject_cast<QMenu*>(object))
+    QMenu* menuOf(QAction& action) {
+        for (QMenu* menu : window().findChildren<QMenu*>())
+            if (menu->actions().contains(&action))
                 return menu;
         return nullptr;
     }
