@@ -11,6 +11,7 @@ namespace plot3dlib {
 namespace {
 
 constexpr std::int64_t numberWidthInHeader = 4;
+constexpr std::int64_t longestSegment = -io::fullSegmentMarker;
 
 bool hasSpecies(const Reading_s& reading) {
     return io::styleRulesOf(reading).hasSpecies;
@@ -87,6 +88,21 @@ public:
 private:
     std::int64_t end() const { return record_.nextRecordStart; }
     std::int64_t markers() const { return 2 * static_cast<std::int64_t>(record_.markerSize); }
+    /// Of all segments of a record.
+    std::int64_t markersOf(std::int64_t payload) const {
+        const std::int64_t segments =
+            record_.markerSize == 4 ? (payload + longestSegment - 1) / longestSegment : 1;
+        return markers() * std::max<std::int64_t>(segments, 1);
+    }
+    /// Of the first bytes of a record what is no marker of a segment.
+    std::int64_t payloadIn(std::int64_t bytes) const {
+        if (record_.markerSize != 4)
+            return std::max<std::int64_t>(bytes - record_.markerSize, 0);
+        const std::int64_t whole = bytes / (longestSegment + markers());
+        const std::int64_t begun = bytes % (longestSegment + markers());
+        return whole * longestSegment +
+               std::clamp<std::int64_t>(begun - record_.markerSize, 0, longestSegment);
+    }
 
     /// Its payload may end behind the file.
     bool enterRecord() {
@@ -135,12 +151,13 @@ private:
     bool takeRecord(std::int64_t expected, bool mayBeLonger, PlaceAt placeAt) {
         const std::int64_t start = end();
         if (isEnded_ || !enterRecord()) {
-            noteShortfall({placeAt(0), file_.size(), 0, 0, 0});
             const std::int64_t begun =
                 isEnded_ ? 0 : std::max<std::int64_t>(file_.size() - start, 0);
+            noteShortfall({placeAt(std::min(payloadIn(begun), expected)), file_.size(), 0, 0, 0});
             isEnded_ = true;
-            record_.nextRecordStart = std::max(end(), file_.size());
-            account_.bytes.missing = sum(account_.bytes.missing, sum(expected, markers()) - begun);
+            record_.nextRecordStart = std::max(start, file_.size());
+            account_.bytes.missing =
+                sum(account_.bytes.missing, sum(expected, markersOf(expected)) - begun);
             return false;
         }
         const std::int64_t length = record_.recordLength;
@@ -148,8 +165,7 @@ private:
             account_.scalarPositions.push_back(start + record_.markerSize);
         compareLength(start, expected, length, mayBeLonger, placeAt);
         if (end() > file_.size()) {
-            const std::int64_t inFile =
-                std::max<std::int64_t>(file_.size() - start - record_.markerSize, 0);
+            const std::int64_t inFile = payloadIn(std::max<std::int64_t>(file_.size() - start, 0));
             noteShortfall({placeAt(std::min(inFile, expected)), file_.size(), expected, inFile, 0});
             account_.bytes.missing = sum(account_.bytes.missing, end() - file_.size());
             isEnded_ = true;
@@ -172,7 +188,7 @@ private:
 
     void miss(std::int64_t records, std::int64_t bytes) {
         std::int64_t all = 0;
-        if (__builtin_mul_overflow(records, sum(bytes, markers()), &all))
+        if (__builtin_mul_overflow(records, sum(bytes, markersOf(bytes)), &all))
             all = largest;
         account_.bytes.missing = sum(account_.bytes.missing, all);
     }

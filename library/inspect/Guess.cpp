@@ -93,7 +93,7 @@ bool beginsWithReals(ExaminedFile& file, const Reading_s& reading) {
         reading.isDoublePrecision);
 }
 
-/// Whether small integers stand where the first grid's I-blank begins.
+/// Whether small integers stand where the first grid's I-blank begins. Zeros alone could be reals.
 bool holdsIBlank(ExaminedFile& file, const Reading_s& reading) {
     if (!reading.hasIBlank)
         return false;
@@ -101,12 +101,14 @@ bool holdsIBlank(ExaminedFile& file, const Reading_s& reading) {
     const std::int64_t start = io::integerWidth * headerValues(reading) +
                                blocks.variables * io::realWidth(reading) * blocks.planePoints;
     const std::int64_t count = std::min(blocks.planePoints, fewIntegers);
+    bool areZeros = true;
     for (std::int64_t index = 0; index < count; ++index) {
         const auto value = integerAt(file, start + index * io::integerWidth, reading.byteSwap);
         if (!value || *value < -largestIBlank || *value > largestIBlank)
             return false;
+        areZeros = areZeros && *value == 0;
     }
-    return true;
+    return !areZeros;
 }
 
 std::vector<Kinds_e> kindsOf(const Evidence_s& evidence) {

@@ -4,6 +4,7 @@
 
 #include "plot3dfile/detection/EncodingSniffer.h"
 #include "plot3dfile/detection/StructureTrials.h"
+#include "plot3dfile/numbers/FortranRecords.h"
 
 namespace plot3dlib {
 
@@ -12,6 +13,7 @@ namespace {
 constexpr std::size_t fewGrids = 8;
 constexpr std::size_t usualTrials = 40;
 constexpr std::int64_t anySize = std::int64_t{1} << 62;
+constexpr std::int64_t longestHeader = std::int64_t{1} << 20;
 
 /// A record without a name, which nothing needs that is not told at the host.
 std::unique_ptr<io::Plot3DFile_s> recordOf(ExaminedFile& file, io::DetectionObserver& observer) {
@@ -79,17 +81,31 @@ private:
 /// Keeps readings whose header is good, and lets none be taken.
 class NearMisses final : public Stopper {
 public:
-    using Stopper::Stopper;
+    explicit NearMisses(ExaminedFile& file) : Stopper(file), fileSize_(file.size()) {}
 
     bool takesTrial(const io::Plot3DFile_s& record, bool fits) override {
-        const bool isNear = fits || record.misfit.what == io::Plot3DMisfit_e::DataSize;
+        const bool isNear = fits || record.misfit.what == io::Plot3DMisfit_e::DataSize ||
+                            isCutInSegments(record.misfit);
         if (isNear && record.numVars > 0)
             readings_.push_back(readingOf(record));
+        // The next trial does not begin inside the record that this one did not find the end of.
+        judged_->inSegmentedRecord = false;
         return false;
     }
+    /// To be called ahead of the trials.
+    void judge(io::Plot3DFile_s& record) { judged_ = &record; }
     std::vector<Reading_s> take() { return std::move(readings_); }
 
 private:
+    /// The first grid's record is longer than a segment, and goes on behind the file's end.
+    bool isCutInSegments(const io::Plot3DMisfit_s& misfit) const {
+        return misfit.what == io::Plot3DMisfit_e::DataMissing &&
+               misfit.expected > -io::fullSegmentMarker &&
+               misfit.expected > fileSize_ - longestHeader;
+    }
+
+    const std::int64_t fileSize_;
+    io::Plot3DFile_s* judged_ = nullptr;
     std::vector<Reading_s> readings_;
 };
 
@@ -125,6 +141,7 @@ std::vector<Reading_s> searchAtAnySize(ExaminedFile& file, const io::Plot3DRecor
                                        Kinds_e kinds) {
     NearMisses misses(file);
     const auto record = recordOf(file, misses);
+    misses.judge(*record);
     begin(*record, form, kinds);
     record->fileSize = anySize;
     const bool isTaken =

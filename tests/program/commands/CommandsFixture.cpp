@@ -1,0 +1,115 @@
+#include "program/commands/CommandsFixture.h"
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <random>
+#include <utility>
+
+namespace plot3d::program {
+
+using Json = nlohmann::json;
+using writer::Encoding_e;
+
+namespace {
+
+const char* kindWord(int part) {
+    if (part == Part_Grid)
+        return "grid";
+    return part == Part_Solution ? "solution" : "function";
+}
+
+/// In the order of Layout_e.
+constexpr std::array layoutWords = {"1D", "2D", "3DWhole", "3DPlanes", "Unstructured"};
+
+/// What tells the reading of a file from others; of info itself and of its candidates.
+Json readingIn(const Json& told, bool isText) {
+    Json reading = {{"kind", told.at("kind")},
+                    {"layout", told.at("layout")},
+                    {"multiGrid", told.at("multiGrid")}};
+    if (!isText) {
+        reading["precision"] = told.at("precision");
+        reading["byteOrder"] = told.at("byteOrder");
+        reading["iBlank"] = told.at("iBlank") == true;
+    }
+    return reading;
+}
+
+Json readingOf(const ModelFile_s& file) {
+    const bool isText = file.form.encoding == Encoding_e::Text;
+    Json reading = {{"kind", kindWord(file.part)},
+                    {"layout", layoutWords[static_cast<std::size_t>(file.contents.layout)]},
+                    {"multiGrid", file.contents.isMultiGrid}};
+    if (!isText) {
+        reading["precision"] = file.form.precision == writer::Precision_e::Double ? 64 : 32;
+        reading["byteOrder"] = file.form.byteOrder == writer::ByteOrder_e::Big ? "big" : "little";
+        reading["iBlank"] = file.contents.hasIBlank;
+    }
+    return reading;
+}
+
+} // namespace
+
+std::uint64_t seedOfRun() {
+    const char* const given = std::getenv("PLOT3D_TEST_SEED");
+    const std::uint64_t seed =
+        given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
+    std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
+    return seed;
+}
+
+void CommandsTest::writeFiles(const ModelSet& data, const std::string& folder) const {
+    std::filesystem::create_directory(file(folder));
+    for (const ModelFile_s& each : data.files())
+        write(folder + "/" + each.name, each.contents, each.form);
+}
+
+Words CommandsTest::loadWords(const ModelSet& data, const std::string& folder) const {
+    Words words;
+    for (const ModelFile_s& each : data.files()) {
+        if (!data.isKnownByNames())
+            words.push_back(std::string("--") + kindWord(each.part));
+        words.push_back(path(folder, each));
+    }
+    for (const std::string& option : data.loadOptions())
+        words.push_back(option);
+    return words;
+}
+
+Ended_s CommandsTest::ran(const std::string& command, const std::vector<Words>& words) {
+    Words all = {command};
+    for (const Words& some : words)
+        all.insert(all.end(), some.begin(), some.end());
+    return ended(all);
+}
+
+Json CommandsTest::infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const {
+    const Ended_s run = ended(
+        {"info", "--why", "--json", "--as", kindWord(fileOfSet.part), path(folder, fileOfSet)});
+    return Json::parse(run.out).at("files").at(0);
+}
+
+bool CommandsTest::isAmbiguous(const ModelSet& data, const std::string& folder) const {
+    bool isAmbiguous = false;
+    for (const ModelFile_s& each : data.files()) {
+        const bool isText = each.form.encoding == Encoding_e::Text;
+        if (isText && each.contents.hasIBlank)
+            continue; // which info does not know
+        const Json told = infoOf(each, folder);
+        const Json wanted = readingOf(each);
+        // There is a warning where a load takes another reading than accounts for all bytes.
+        if (told.at("ok") == true && told.at("warnings").empty() &&
+            readingIn(told, isText) == wanted)
+            continue;
+        isAmbiguous = true;
+        bool isFound = false;
+        for (const Json& trial : told.at("why"))
+            isFound = isFound || (trial.at("misfit").is_null() &&
+                                  readingIn(trial.at("candidate"), isText) == wanted);
+        EXPECT_TRUE(isFound) << each.name << " is no " << wanted << " for " << told.dump(1);
+    }
+    return isAmbiguous;
+}
+
+} // namespace plot3d::program

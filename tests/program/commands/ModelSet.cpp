@@ -1,0 +1,250 @@
+#include "program/commands/ModelSet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+namespace plot3d::program {
+
+using writer::Encoding_e;
+using writer::FileDescription_s;
+using writer::FileKind_e;
+using writer::GridDims_s;
+using writer::Layout_e;
+
+namespace {
+
+FileKind_e kindOf(int part) {
+    if (part == Part_Grid)
+        return FileKind_e::Grid;
+    return part == Part_Solution ? FileKind_e::ClassicSolution : FileKind_e::Function;
+}
+
+std::vector<std::string> solutionNames(Layout_e layout) {
+    switch (layout) {
+    case Layout_e::OneD:
+        return {"V2", "V3", "V4"};
+    case Layout_e::TwoD:
+        return {"RHO", "RHO-U", "RHO-V", "E"};
+    default:
+        return {"RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+    }
+}
+
+int dimensionsOf(Layout_e layout) {
+    return layout == Layout_e::OneD ? 1 : layout == Layout_e::TwoD ? 2 : 3;
+}
+
+} // namespace
+
+ModelSet::ModelSet(std::uint64_t seed, std::uint64_t formSeed) : seed_(seed) {
+    Dice draw(seed);
+    Dice form(formSeed);
+    layout_ =
+        draw.oneOf<Layout_e>({Layout_e::ThreeDWhole, Layout_e::ThreeDWhole, Layout_e::TwoD,
+                              Layout_e::ThreeDPlanes, Layout_e::OneD, Layout_e::Unstructured});
+    drawSizes(draw);
+    drawParts(draw);
+    drawForms(form);
+    addVariables();
+    addZones(draw);
+    addFiles(form);
+}
+
+void ModelSet::drawSizes(Dice& draw) {
+    const bool isOne = layout_ == Layout_e::OneD || draw.chance(33);
+    for (std::int32_t left = isOne ? 1 : draw.between(1, 3); left > 0; --left)
+        switch (layout_) {
+        case Layout_e::OneD:
+            sizes_.push_back({draw.between(2, 30), 1, 1});
+            break;
+        case Layout_e::TwoD:
+            sizes_.push_back({draw.between(2, 9), draw.between(2, 8), 1});
+            break;
+        case Layout_e::Unstructured:
+            sizes_.push_back(draw.chance(50)
+                                 ? GridDims_s{draw.between(4, 20), 0, draw.between(1, 9)}
+                                 : GridDims_s{draw.between(4, 20), draw.between(1, 9), 0});
+            break;
+        default:
+            sizes_.push_back({draw.between(1, 8), draw.between(2, 6), draw.between(1, 5)});
+        }
+    hasIBlank_ = dimensionsOf(layout_) > 1 && !isUnstructured() && draw.chance(50);
+}
+
+/// Which files there are: the numbers of them that make time steps (docs/time-series.md).
+void ModelSet::drawParts(Dice& draw) {
+    hasSolution_ = draw.chance(50);
+    steps_ = draw.chance(50) ? draw.between(2, 3) : 1;
+    if (steps_ == 1)
+        functionFiles_ = draw.between(0, 2);
+    else
+        functionFiles_ = hasSolution_ ? draw.between(0, 1) : 1;
+    moves_ = steps_ > 1 && hasSolution_ && draw.chance(33);
+    functionVariables_ = draw.between(1, 3);
+    hasSpoiltValues_ = draw.chance(33);
+}
+
+/// Planes are told from whole fields by their records alone; I-blank and precision of text are
+/// words of the load, and so those of all text files.
+void ModelSet::drawForms(Dice& form) {
+    isKnownByNames_ = !form.chance(25);
+    hasText_ = !hasSpoiltValues_ && layout_ != Layout_e::ThreeDPlanes &&
+               !(isUnstructured() && sizes_.size() > 1) && form.chance(33);
+    isDouble_[0] = form.chance(50);
+    isDouble_[1] = hasText_ || !hasSolution_ ? isDouble_[0] : form.chance(50);
+}
+
+void ModelSet::addVariables() {
+    const std::vector<std::string> coordinates = {"X", "Y", "Z"};
+    for (std::int32_t place = 0; place < dimensionsOf(layout_); ++place)
+        variables_.push_back({coordinates[static_cast<std::size_t>(place)], Part_Grid, place});
+    if (hasIBlank_)
+        variables_.push_back({"IBlank", Part_Grid, dimensionsOf(layout_), true});
+    std::int32_t place = 0;
+    if (hasSolution_)
+        for (const std::string& name : solutionNames(layout_))
+            variables_.push_back({name, Part_Solution, place++});
+    for (int file = 0; file < functionFiles_; ++file)
+        for (std::int32_t number = 0; number < functionVariables_; ++number)
+            variables_.push_back({"F" + std::to_string(file + 1) + "V" + std::to_string(number + 1),
+                                  Part_Functions + file, number});
+}
+
+/// Files need not be in the order of their times, unless these stand in their names.
+void ModelSet::addZones(Dice& draw) {
+    for (int step = 0; step < steps_; ++step)
+        stepTimes_.push_back(0.25 * (step + 1));
+    if (hasSolution_ && draw.chance(33))
+        std::swap(stepTimes_.front(), stepTimes_.back());
+    for (int step = 0; step < steps_; ++step)
+        for (std::int32_t grid = 0; grid < static_cast<std::int32_t>(sizes_.size()); ++grid) {
+            const GridDims_s& dims = sizes_[static_cast<std::size_t>(grid)];
+            ModelZone_s zone = {grid, step, {dims.i, dims.j, dims.k}, 0};
+            if (isUnstructured())
+                zone.size = {dims.i, 1, 1};
+            if (hasSolution_ || steps_ > 1)
+                zone.time = stepTimes_[static_cast<std::size_t>(step)];
+            zones_.push_back(zone);
+        }
+    if (steps_ > 1)
+        times_ = stepTimes_;
+    std::sort(times_.begin(), times_.end());
+}
+
+void ModelSet::addFiles(Dice& form) {
+    const auto numbered = [](int step) { return "a_" + std::to_string(step + 9); };
+    for (int step = 0; step < (moves_ ? steps_ : 1); ++step)
+        addFile(Part_Grid, step, numbered(step) + ".x", form);
+    for (int step = 0; step < steps_; ++step) {
+        if (hasSolution_)
+            addFile(Part_Solution, step, numbered(step) + ".q", form);
+        for (int file = 0; file < functionFiles_; ++file)
+            addFile(Part_Functions + file, step, functionName(step, file) + ".f", form);
+    }
+}
+
+/// Without a solution a number in the name would be the time.
+std::string ModelSet::functionName(int step, int file) const {
+    if (hasSolution_)
+        return "a_" + std::to_string(step + 9) + static_cast<char>('a' + file);
+    return steps_ == 1 ? std::string("a_") + static_cast<char>('a' + file)
+                       : "a_" + std::to_string(stepTimes_[static_cast<std::size_t>(step)]);
+}
+
+void ModelSet::addFile(int part, int step, const std::string& name, Dice& form) {
+    std::vector<std::int32_t> grids(sizes_.size());
+    std::iota(grids.begin(), grids.end(), 0);
+    ModelFile_s file = {isKnownByNames_ ? name : name + ".bin", part, step,
+                        description(part, grids), drawForm(form, part)};
+    file.contents.isMultiGrid = sizes_.size() > 1 || (layout_ != Layout_e::OneD && form.chance(50));
+    file.contents.value = [this, part, step](std::int32_t grid, std::int32_t variable,
+                                             std::int32_t i, std::int32_t j, std::int32_t k) {
+        return rawValue(part, step, grid, variable, i, j, k);
+    };
+    if (part == Part_Solution)
+        file.contents.scalars.assign(sizes_.size(), scalars(step));
+    files_.push_back(file);
+}
+
+writer::FileForm_s ModelSet::drawForm(Dice& draw, int part) const {
+    writer::FileForm_s form =
+        binaryForm(isDouble(part) ? writer::Precision_e::Double : writer::Precision_e::Single,
+                   draw.chance(50) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big);
+    form.markerBytes = draw.chance(50) ? 4 : 8;
+    if (hasText_ && draw.chance(50))
+        form.encoding = Encoding_e::Text;
+    else if (layout_ == Layout_e::ThreeDPlanes || draw.chance(50))
+        form.encoding = Encoding_e::Fortran;
+    return form;
+}
+
+std::vector<double> ModelSet::scalars(int step) const {
+    return {0.5 + step, 2.25, 1500000.0, stepTimes_[static_cast<std::size_t>(step)]};
+}
+
+FileDescription_s ModelSet::description(int part, const std::vector<std::int32_t>& grids) const {
+    FileDescription_s contents;
+    contents.kind = kindOf(part);
+    contents.layout = layout_;
+    contents.numVars = part >= Part_Functions ? functionVariables_ : 0;
+    for (const std::int32_t grid : grids)
+        contents.grids.push_back(sizes_[static_cast<std::size_t>(grid)]);
+    contents.isMultiGrid = grids.size() > 1;
+    if (part == Part_Grid && hasIBlank_) {
+        contents.hasIBlank = true;
+        contents.iblank = [this, grids](std::int32_t grid, std::int32_t i, std::int32_t j,
+                                        std::int32_t k) {
+            return iBlank({grids[static_cast<std::size_t>(grid)], 0, {}, 0}, i, j, k);
+        };
+    }
+    if (part == Part_Grid && isUnstructured())
+        contents.corner = [this, grids](std::int32_t grid, std::int64_t element,
+                                        std::int32_t corner) {
+            const std::int32_t of = grids[static_cast<std::size_t>(grid)];
+            const auto nodes = static_cast<std::uint32_t>(sizes_[static_cast<std::size_t>(of)].i);
+            return 1 + static_cast<std::int32_t>(dice(seed_ + 3, of, element, corner) % nodes);
+        };
+    return contents;
+}
+
+std::vector<std::string> ModelSet::loadOptions() const {
+    std::vector<std::string> words;
+    if (hasText_)
+        words = {"--set", isDouble_[0] ? "ASCIIISDOUBLE=Yes" : "ASCIIISDOUBLE=No", "--set",
+                 hasIBlank_ ? "ASCIIHASIBLANK=Yes" : "ASCIIHASIBLANK=No"};
+    return words;
+}
+
+double ModelSet::rawValue(int part, int step, std::int32_t grid, std::int32_t variable,
+                          std::int64_t i, std::int64_t j, std::int64_t k) const {
+    const std::int64_t place = i + 100 * j + 10000 * k;
+    const std::int64_t file = 10 * step + part;
+    const std::uint32_t luck = dice(seed_ + 1, file, grid, variable, place);
+    if (part != Part_Grid && hasSpoiltValues_ && luck % 40 < 3)
+        return luck % 40 == 0   ? std::numeric_limits<double>::quiet_NaN()
+               : luck % 40 == 1 ? HUGE_VAL
+                                : -HUGE_VAL;
+    const bool isChanged =
+        part != Part_Grid &&
+        static_cast<int>(dice(seed_ + 2, file, grid, variable, place) % 100) < changedShare;
+    const std::uint32_t bits = dice(isChanged ? seed_ + 4 : seed_, file, grid, variable, place);
+    return (static_cast<double>(bits) - 2147483648.0) / 3.0;
+}
+
+double ModelSet::value(const ModelZone_s& zone, const ModelVariable_s& variable, std::int64_t i,
+                       std::int64_t j, std::int64_t k) const {
+    if (variable.isIBlank)
+        return iBlank(zone, i, j, k);
+    const int step = variable.part == Part_Grid && !moves_ ? 0 : zone.step;
+    const double value = rawValue(variable.part, step, zone.grid, variable.place, i, j, k);
+    return isDouble(variable.part) ? value : static_cast<double>(static_cast<float>(value));
+}
+
+std::int32_t ModelSet::iBlank(const ModelZone_s& zone, std::int64_t i, std::int64_t j,
+                              std::int64_t k) const {
+    return static_cast<std::int32_t>(dice(seed_ + 5, zone.grid, i, j, k) % 5) - 1;
+}
+
+} // namespace plot3d::program
