@@ -19,12 +19,13 @@ void write(const std::string& path, const FileDescription_s& description, const 
         throw std::runtime_error(outcome.problem);
 }
 
-FileDescription_s describe(FileKind_e kind, GridDims_s dims) {
+FileDescription_s describe(FileKind_e kind, GridDims_s dims, std::int32_t grids = 1) {
     FileDescription_s description;
     description.kind = kind;
-    description.grids = {dims};
+    description.isMultiGrid = grids > 1;
+    description.grids.assign(static_cast<std::size_t>(grids), dims);
     if (kind == FileKind_e::ClassicSolution)
-        description.scalars = {{0.8, 2.0, 1e6, 0.0}};
+        description.scalars.assign(static_cast<std::size_t>(grids), {0.8, 2.0, 1e6, 0.0});
     description.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
                            std::int32_t k) {
         return 0.25 * variable + std::sin(0.01 * i) + 1e-3 * (j + 7 * k);
@@ -32,20 +33,30 @@ FileDescription_s describe(FileKind_e kind, GridDims_s dims) {
     return description;
 }
 
-} // namespace
-
-std::vector<std::string> writeTimeSeries(const std::filesystem::path& directory, std::int32_t steps,
-                                         const Points_s& points) {
-    const GridDims_s dims{points.i, points.j, points.k};
+std::vector<std::string> writeSeries(const std::filesystem::path& directory, GridDims_s dims,
+                                     std::int32_t grids, std::int32_t steps) {
     std::vector<std::string> files = {(directory / "series.x").string()};
-    write(files.front(), describe(FileKind_e::Grid, dims), {});
+    write(files.front(), describe(FileKind_e::Grid, dims, grids), {});
+    FileDescription_s solution = describe(FileKind_e::ClassicSolution, dims, grids);
     for (std::int32_t step = 0; step < steps; ++step) {
-        FileDescription_s solution = describe(FileKind_e::ClassicSolution, dims);
-        solution.scalars.front()[3] = 0.5 * step;
+        for (std::vector<double>& scalars : solution.scalars)
+            scalars[3] = 0.5 * step;
         files.push_back((directory / fmt::format("series_{:04}.q", step)).string());
         write(files.back(), solution, {});
     }
     return files;
+}
+
+} // namespace
+
+std::vector<std::string> writeTimeSeries(const std::filesystem::path& directory, std::int32_t steps,
+                                         const Points_s& points) {
+    return writeSeries(directory, {points.i, points.j, points.k}, 1, steps);
+}
+
+std::vector<std::string> writeManyGrids(const std::filesystem::path& directory, std::int32_t grids,
+                                        std::int32_t steps) {
+    return writeSeries(directory, {2, 2, 2}, grids, steps);
 }
 
 void writeTextGrid(const std::string& path, std::int32_t points) {

@@ -20,6 +20,10 @@ struct Points_s {
 std::vector<std::string> writeTimeSeries(const std::filesystem::path& directory, std::int32_t steps,
                                          const Points_s& points = {});
 
+/// One grid file of `grids` grids of 2 x 2 x 2 points and `steps` Classic solution files, as above.
+std::vector<std::string> writeManyGrids(const std::filesystem::path& directory, std::int32_t grids,
+                                        std::int32_t steps);
+
 /// A single 3-D grid of `points` in each direction as text, about 44 bytes a point.
 void writeTextGrid(const std::string& path, std::int32_t points);
 
