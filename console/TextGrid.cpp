@@ -1,6 +1,7 @@
 #include "console/TextGrid.h"
 
 #include <algorithm>
+#include <numeric>
 #include <ostream>
 
 #include "console/Text.h"
@@ -23,6 +24,11 @@ void TextGrid::addRow(const std::vector<std::string>& cells) {
     for (const std::string& cell : cells)
         row.push_back(onOneLine(cell));
     rows_.push_back(std::move(row));
+}
+
+std::size_t TextGrid::width() const {
+    const std::vector<std::size_t> all = widths(0);
+    return std::accumulate(all.begin(), all.end(), gap * all.size());
 }
 
 /// What is too much for the terminal is taken from the widest column that may give way, and so on.

@@ -28,6 +28,8 @@ public:
     /// One cell for each column; shown as onOneLine() gives it.
     void addRow(const std::vector<std::string>& cells);
     bool isEmpty() const { return rows_.empty(); }
+    /// Of its widest line, where no column gives way.
+    std::size_t width() const;
 
     /// Headings, then the rows, indented by two blanks; no blanks at the ends of lines. `columns`:
     /// width that the table should fit into; 0 for any.

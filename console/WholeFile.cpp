@@ -39,10 +39,11 @@ WholeFile::WholeFile(const std::string& name, Existing_e existing)
     std::error_code ignored; // what can't be looked at can't be opened either, which is told
     const fs::file_status status = fs::status(target_, ignored);
     exists_ = fs::exists(status);
-    isPlain_ = !exists_ || fs::is_regular_file(status);
+    // Standard output may be a file, which is nobody's to replace.
+    isPlain_ = name != "/dev/stdout" && (!exists_ || fs::is_regular_file(status));
     errno = 0;
     if (!isPlain_) {
-        stream_.open(target_, std::ios::binary);
+        stream_.open(target_, std::ios::binary | std::ios::app);
     } else if (exists_ && access(target_.c_str(), W_OK) != 0) {
         stream_.setstate(std::ios::failbit);
     } else {

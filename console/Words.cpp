@@ -2,26 +2,11 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 
 #include <fmt/core.h>
 
 namespace console {
-
-std::string grouped(std::int64_t number) {
-    const std::string digits = std::to_string(number);
-    std::string result;
-    for (std::size_t place = 0; place < digits.size(); ++place) {
-        const bool isBehindDigit = place > (number < 0 ? 1U : 0U);
-        if (isBehindDigit && (digits.size() - place) % 3 == 0)
-            result += ',';
-        result += digits[place];
-    }
-    return result;
-}
-
-std::string counted(std::int64_t count, std::string_view one, std::string_view many) {
-    return fmt::format("{} {}", grouped(count), count == 1 ? one : many);
-}
 
 std::string roughBytes(double byteCount) {
     constexpr std::array units = {"bytes", "kB", "MB", "GB", "TB", "PB"};

@@ -1,25 +1,11 @@
 // Counts, sizes and times in words.
 #pragma once
 
-#include <concepts>
-#include <cstdint>
 #include <string>
-#include <string_view>
+
+#include "console/counts/Counts.h"
 
 namespace console {
-
-/// "940,528".
-std::string grouped(std::int64_t number);
-std::string grouped(std::unsigned_integral auto number) {
-    return grouped(static_cast<std::int64_t>(number));
-}
-
-/// "1 zone", "3 zones", "1,000 zones".
-std::string counted(std::int64_t count, std::string_view one, std::string_view many);
-std::string counted(std::unsigned_integral auto count, std::string_view one,
-                    std::string_view many) {
-    return counted(static_cast<std::int64_t>(count), one, many);
-}
 
 /// "812 bytes", "9.1 kB", "2.3 GB": powers of 1,000, two or three digits.
 std::string roughBytes(double byteCount);

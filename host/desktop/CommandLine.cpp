@@ -48,7 +48,7 @@ parseDesktopCommandLine(std::vector<std::string> arguments, std::ostream& out, s
         ->option_text("...")
         ->allow_extra_args();
     app.add_option("--addon", result.addOnPath,
-                   "Another add-on library (default:\n../lib/plot3dloader.so from the program)")
+                   "Another add-on library (default: the\nadd-on that is linked into the program)")
         ->type_name("PATH");
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back

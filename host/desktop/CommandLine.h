@@ -9,7 +9,7 @@
 namespace quorvia::host {
 
 struct DesktopArguments_s {
-    std::string addOnPath;          // empty: the library that was built with the program
+    std::string addOnPath;          // empty: the add-on that is linked in
     std::vector<std::string> files; // to import at the start, in one selection
 };
 

@@ -170,7 +170,7 @@ public:
         : ControlView(new QComboBox(parent)), menu_(*static_cast<QComboBox*>(widget())) {
         for (const std::string& caption : control.items)
             menu_.addItem(shown(caption));
-        QObject::connect(&menu_, &QComboBox::activated, &menu_,
+        QObject::connect(&menu_, QOverload<int>::of(&QComboBox::activated), &menu_,
                          [id = control.id, act = std::move(act)](int index) {
                              act(ChooseItem_s{id, index + 1});
                          });

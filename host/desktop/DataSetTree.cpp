@@ -1,11 +1,14 @@
 #include "desktop/DataSetTree.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPainter>
+#include <QSignalBlocker>
+#include <QTreeWidgetItemIterator>
 
 #include "describe/VariableSummary.h"
 #include "describe/Words.h"
@@ -49,6 +52,30 @@ QString timeText(double time) {
     return QStringLiteral("Time %1").arg(shownNumber(time));
 }
 
+bool isOfBoundaries(const StrandGroup_s& group, const DataSetOutcome_s& dataSet) {
+    return dataSet.zones[group.times.front().zones.front()].parentZone != 0;
+}
+
+/// Numbers of the zones at or below the item.
+void collectZones(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) {
+    if (zoneOf(item) != 0) {
+        zones.push_back(static_cast<std::size_t>(zoneOf(item)));
+        return;
+    }
+    for (int index = 0; index < item->childCount(); ++index)
+        collectZones(item->child(index), zones);
+}
+
+/// The same of ticked items.
+void collectTicked(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) {
+    const bool canBeTicked = item->data(nameColumn, Qt::CheckStateRole).isValid();
+    if (canBeTicked && item->checkState(nameColumn) == Qt::Checked)
+        collectZones(item, zones);
+    else if (!canBeTicked)
+        for (int index = 0; index < item->childCount(); ++index)
+            collectTicked(item->child(index), zones);
+}
+
 QString spanOf(const StrandGroup_s& group) {
     std::size_t zones = 0;
     for (const TimeGroup_s& time : group.times)
@@ -72,8 +99,8 @@ DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
     setUniformRowHeights(true); // quick with thousands of zones
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(detailsColumn, QHeaderView::Stretch);
-    constexpr int nameLetters = 50;
-    constexpr int numberLetters = 14;
+    constexpr int nameLetters = 30;
+    constexpr int numberLetters = 13;
     const int letter = fontMetrics().averageCharWidth();
     setColumnWidth(nameColumn, nameLetters * letter);
     for (const int column : {typeColumn, minimumColumn, maximumColumn})
@@ -82,6 +109,17 @@ DataSetTree::DataSetTree(FetchWanted fetchWanted, QWidget* parent)
         headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTreeWidget::itemExpanded, this,
             [this](QTreeWidgetItem* item) { fillZone(item); });
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        const std::int32_t variable = variableOf(item);
+        if (variable != 0)
+            variableChosen_(dataSet_->variables[static_cast<std::size_t>(variable) - 1]);
+    });
+    connect(this, &QTreeWidget::itemChanged, this, [this] { tellTicks(); });
+}
+
+void DataSetTree::tellChoices(VariableChosen variableChosen, ZonesTicked zonesTicked) {
+    variableChosen_ = std::move(variableChosen);
+    zonesTicked_ = std::move(zonesTicked);
 }
 
 void DataSetTree::showNothing() {
@@ -92,7 +130,9 @@ void DataSetTree::showNothing() {
 
 void DataSetTree::showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
     clear();
+    ticked_.reset();
     dataSet_ = std::move(dataSet);
+    const QSignalBlocker silence(this);
     auto* root = new QTreeWidgetItem(this);
     root->setText(nameColumn, shown(dataSet_->title));
     root->setText(detailsColumn,
@@ -136,18 +176,26 @@ void DataSetTree::addZones(QTreeWidgetItem* root) {
         const QString name = group.strand == 0 ? QStringLiteral("Static zones")
                                                : QStringLiteral("Strand %1").arg(group.strand);
         QTreeWidgetItem* strand = addItem(all, name, spanOf(group));
+        if (group.strand != 0) // one grid through time
+            strand->setCheckState(nameColumn,
+                                  isOfBoundaries(group, *dataSet_) ? Qt::Unchecked : Qt::Checked);
         strand->setExpanded(true);
         for (const TimeGroup_s& time : group.times) {
             QTreeWidgetItem* step = addItem(strand, timeText(time.time),
                                             shownCount(time.zones.size(), "zone", "zones"));
-            for (const std::size_t place : time.zones)
-                addZone(step, dataSet_->zones[place]);
+            for (const std::size_t place : time.zones) {
+                const ZoneOutcome_s& zone = dataSet_->zones[place];
+                QTreeWidgetItem* item = addZone(step, zone);
+                if (group.strand == 0)
+                    item->setCheckState(nameColumn,
+                                        zone.parentZone != 0 ? Qt::Unchecked : Qt::Checked);
+            }
             step->setExpanded(group.times.size() == 1);
         }
     }
 }
 
-void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
+QTreeWidgetItem* DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
     const QString of = zone.parentZone == 0
                            ? QString()
                            : QStringLiteral(", boundary of zone %1").arg(zone.parentZone);
@@ -157,6 +205,7 @@ void DataSetTree::addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone) {
     item->setText(typeColumn, QString::fromLatin1(wordOf(zone.type)));
     item->setData(nameColumn, zoneRole, zone.number);
     item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator); // filled once it is opened
+    return item;
 }
 
 void DataSetTree::addAuxData(QTreeWidgetItem* parent, const AuxDataItems& auxData) {
@@ -265,6 +314,32 @@ std::vector<FieldAddress_s> DataSetTree::selectedFields() const {
     for (const QTreeWidgetItem* item : selectedItems())
         collectFields(item, fields);
     return fields;
+}
+
+// Texts change as well; only a choice that is another is told.
+void DataSetTree::tellTicks() {
+    std::vector<std::size_t> zones;
+    collectTicked(invisibleRootItem(), zones);
+    std::sort(zones.begin(), zones.end());
+    std::vector<std::size_t> usual;
+    for (const ZoneOutcome_s& zone : dataSet_->zones)
+        if (zone.parentZone == 0)
+            usual.push_back(static_cast<std::size_t>(zone.number));
+    auto now = zones == usual ? std::nullopt : std::optional(std::move(zones));
+    if (now == ticked_)
+        return;
+    ticked_ = now;
+    zonesTicked_(std::move(now));
+}
+
+void DataSetTree::markZone(std::size_t number) {
+    for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item)
+        if (zoneOf(*item) == static_cast<std::int32_t>(number) && variableOf(*item) == 0) {
+            setCurrentItem(*item, nameColumn,
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+            scrollToItem(*item);
+            return;
+        }
 }
 
 void DataSetTree::contextMenuEvent(QContextMenuEvent* event) {

@@ -2,8 +2,10 @@
 // auxiliary data. Ranges stand where values were fetched.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <QTreeWidget>
@@ -18,7 +20,14 @@ public:
     /// Takes the fields whose values the user wants to see.
     using FetchWanted = std::function<void(std::vector<FieldAddress_s>)>;
 
+    /// Gets the name of a variable that was clicked at.
+    using VariableChosen = std::function<void(const std::string& name)>;
+    /// Gets the numbers of the zones that are ticked, ascending; nothing for all but boundaries.
+    using ZonesTicked = std::function<void(std::optional<std::vector<std::size_t>> zones)>;
+
     explicit DataSetTree(FetchWanted fetchWanted, QWidget* parent = nullptr);
+    /// Of what the user does from now on.
+    void tellChoices(VariableChosen variableChosen, ZonesTicked zonesTicked);
 
     /// In place of what was shown.
     void showDataSet(DataSetOutcome_s dataSet, QuorPlotType_e plotType);
@@ -34,6 +43,8 @@ public:
     std::vector<FieldAddress_s> allFields() const;
     /// Of all that is selected, whatever its level: a strand stands for all of its zones.
     std::vector<FieldAddress_s> selectedFields() const;
+    /// Selects the row of the zone, and brings it into sight.
+    void markZone(std::size_t number);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -43,7 +54,7 @@ private:
     QTreeWidgetItem* addItem(QTreeWidgetItem* parent, const QString& name, const QString& details);
     void addVariables(QTreeWidgetItem* root);
     void addZones(QTreeWidgetItem* root);
-    void addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone);
+    QTreeWidgetItem* addZone(QTreeWidgetItem* parent, const ZoneOutcome_s& zone);
     void addAuxData(QTreeWidgetItem* parent, const AuxDataItems& auxData);
     void fillZone(QTreeWidgetItem* item);
     void showFieldValues(QTreeWidgetItem* item) const;
@@ -52,7 +63,12 @@ private:
     void collectFields(const QTreeWidgetItem* item, std::vector<FieldAddress_s>& fields) const;
     void addFieldsOfZone(std::int32_t zone, std::vector<FieldAddress_s>& fields) const;
 
+    void tellTicks();
+
     FetchWanted fetchWanted_;
+    VariableChosen variableChosen_ = [](const std::string&) {};
+    ZonesTicked zonesTicked_ = [](const auto&) {};
+    std::optional<std::vector<std::size_t>> ticked_; // as told last
     std::optional<DataSetOutcome_s> dataSet_;
 };
 

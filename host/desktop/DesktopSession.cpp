@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include <plot3d/AddOn.h>
+#include <plot3d/Error.h>
+
 #include "describe/GatherOutcome.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
@@ -17,9 +20,36 @@ std::string megabytes(std::int64_t byteCount) {
     return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
 }
 
+bool isReadByHostAlone(const plot3d::DataSet& data) {
+    for (std::size_t zone = 0; zone < data.zones().size(); ++zone)
+        for (std::size_t variable = 0; variable < data.variables().size(); ++variable)
+            if (data.kind(zone, variable) == plot3d::FieldKind::AtHost)
+                return true;
+    return false;
+}
+
+void takeValues(Frame& frame, ImportOutcome_s& outcome) {
+    try {
+        auto data = std::make_shared<const plot3d::DataSet>(plot3d::DataSet::of(frame));
+        if (isReadByHostAlone(*data))
+            outcome.whyNoValues = "Data of another add-on can't be looked at: where its values "
+                                  "lie is not known.";
+        else
+            outcome.values = std::move(data);
+    } catch (const plot3d::Error& error) {
+        outcome.whyNoValues = error.what();
+    }
+}
+
 ImportOutcome_s describeImport(ReferenceHost& host, const LoadResult_s& result) {
-    Outcome_s outcome = describeOutcome(host, result);
-    return {result, outcome.plotType, std::move(outcome.dataSet)};
+    Outcome_s described = describeOutcome(host, result);
+    ImportOutcome_s outcome;
+    outcome.result = result;
+    outcome.plotType = described.plotType;
+    outcome.dataSet = std::move(described.dataSet);
+    if (outcome.dataSet)
+        takeValues(host.frame(), outcome);
+    return outcome;
 }
 
 } // namespace
@@ -74,20 +104,33 @@ std::vector<std::string> DesktopSession::takeViolations() {
 
 void DesktopSession::openAddOn(const std::string& path,
                                std::function<void(std::string error)> done) {
-    const auto error = std::make_shared<std::string>();
+    struct Opening_s {
+        std::optional<Loader_s> loader;
+        std::string error;
+    };
+    const auto opening = std::make_shared<Opening_s>();
     start(
         QStringLiteral("Opening the Add-on"),
-        [this, path, error] { library_ = AddOnLibrary::open(path, *error); },
-        [this, error, done = std::move(done)] {
-            readLoader();
-            done(*error);
+        [this, path, opening] {
+            opening->loader = path.empty() ? linkedLoader() : loaderOf(path, opening->error);
+        },
+        [this, opening, done = std::move(done)] {
+            loader_ = std::move(opening->loader);
+            done(opening->error);
         });
 }
 
-void DesktopSession::readLoader() {
-    loader_.reset();
-    if (!host().loaders().empty())
-        loader_ = host().loaders().back();
+std::optional<Loader_s> DesktopSession::linkedLoader() {
+    plot3d::registerAddOn();
+    return host().loaders().front();
+}
+
+std::optional<Loader_s> DesktopSession::loaderOf(const std::string& path, std::string& error) {
+    const std::size_t countBefore = host().loaders().size();
+    library_ = AddOnLibrary::open(path, error);
+    if (host().loaders().size() == countBefore)
+        return std::nullopt;
+    return host().loaders().back();
 }
 
 void DesktopSession::import(const FileSelection_s& selection,

@@ -10,6 +10,8 @@
 
 #include <QWidget>
 
+#include <plot3d/DataSet.h>
+
 #include "describe/ValueFetch.h"
 #include "desktop/DesktopUser.h"
 #include "desktop/GuestWindows.h"
@@ -28,6 +30,10 @@ struct ImportOutcome_s {
     LoadResult_s result;
     QuorPlotType_e plotType = QuorPlotType_None;
     std::optional<DataSetOutcome_s> dataSet; // as it is now, whether the import succeeded or not
+    /// The same to be looked at, on any thread; null if there is none, or only this host can read
+    /// it.
+    std::shared_ptr<const plot3d::DataSet> values;
+    std::string whyNoValues; // empty if there is no data set
 };
 
 /// Everything is called, and calls back, on the windows' thread. One session at a time: there is
@@ -44,9 +50,10 @@ public:
 
     bool isBusy() const { return work_.isRunning(); }
 
-    /// Gets why the library could not be opened; empty if it could.
+    /// The add-on's library at `path`, or for an empty path the add-on that is linked into the
+    /// program. `done` gets why it could not be opened; empty if it could.
     void openAddOn(const std::string& path, std::function<void(std::string error)> done);
-    /// The loader that was registered last; nothing if there is none.
+    /// The add-on's; nothing if it has registered none.
     const std::optional<Loader_s>& loader() const { return loader_; }
 
     void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
@@ -66,7 +73,8 @@ public:
 private:
     static ReferenceHost& host() { return ReferenceHost::instance(); }
     void setUpHost();
-    void readLoader();
+    static std::optional<Loader_s> linkedLoader();
+    std::optional<Loader_s> loaderOf(const std::string& path, std::string& error);
     void start(const QString& title, GuestWork::Work work, std::function<void()> done);
     void collectViolations();
 

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTimer>
@@ -36,17 +37,32 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
     setWindowTitle(QStringLiteral("Quorvia Reference Host"));
     setObjectName(QStringLiteral("main"));
     setAcceptDrops(true);
-    tree_ = new DataSetTree(
-        [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
-    setCentralWidget(tree_);
+    addPanes();
     addMenus();
     addTools();
-    constexpr QSize sizeAtFirst(860, 600);
+    constexpr QSize sizeAtFirst(1280, 760);
     resize(sizeAtFirst);
     restoreGeometry(preferences_.windowGeometry());
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] { showWhatIsPossible(); });
     showWhatIsPossible();
     QTimer::singleShot(0, this, [this, addOnPath] { openAddOn(addOnPath); });
+}
+
+void MainWindow::addPanes() {
+    tree_ = new DataSetTree(
+        [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
+    view_ = DataSetView::make([this](std::size_t zone) { tree_->markZone(zone + 1); }, this);
+    tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
+                       [this](const auto& zones) { view_->showZones(zones); });
+    auto* panes = new QSplitter(this);
+    panes->setChildrenCollapsible(false);
+    panes->addWidget(tree_);
+    panes->addWidget(view_);
+    panes->setStretchFactor(1, 1); // the picture grows with the window
+    constexpr int treeWidth = 600;
+    constexpr int viewWidth = 680;
+    panes->setSizes({treeWidth, viewWidth});
+    setCentralWidget(panes);
 }
 
 // ---- Menus --------------------------------------------------------------------------------------
@@ -70,14 +86,14 @@ void MainWindow::addMenus() {
 void MainWindow::addFileMenu() {
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
     QMenu* import = file->addMenu(QStringLiteral("&Import"));
-    import_ = action(QStringLiteral("No Loader"), QKeySequence(Qt::CTRL | Qt::Key_I),
+    import_ = action(QStringLiteral("No Loader"), QKeySequence(QStringLiteral("Ctrl+I")),
                      &MainWindow::importByHand);
     import->addAction(import_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
-    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
     file->addAction(quit);
 }
@@ -86,8 +102,8 @@ void MainWindow::addValuesMenu() {
     QMenu* values = menuBar()->addMenu(QStringLiteral("&Values"));
     fetchSelected_ = action(QStringLiteral("&Fetch Values of Selection"), QKeySequence(Qt::Key_F5),
                             &MainWindow::fetchSelected);
-    fetchAll_ = action(QStringLiteral("Fetch &All Values"), QKeySequence(Qt::SHIFT | Qt::Key_F5),
-                       &MainWindow::fetchAll);
+    fetchAll_ = action(QStringLiteral("Fetch &All Values"),
+                       QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
     values->addActions({fetchSelected_, fetchAll_});
 }
 
@@ -185,6 +201,8 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
         tree_->showNothing();
     else if (!isAsBefore)
         tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
+    if (!isAsBefore)
+        view_->showDataSet(std::move(outcome.values), outcome.whyNoValues);
     if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
 }
@@ -205,6 +223,7 @@ void MainWindow::importDropped(const std::vector<std::string>& files) {
 void MainWindow::discardDataSet() {
     session_.discardDataSet([this] {
         tree_->showNothing();
+        view_->showDataSet(nullptr, {});
         workEnded(QStringLiteral("Discarded"));
     });
     workBegins(QStringLiteral("Discarding the data set"));

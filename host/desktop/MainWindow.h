@@ -1,5 +1,5 @@
-// The window of the program: the import menu, the tree of the data set, and a line that tells what
-// happened last.
+// The window of the program: the import menu, the tree of the data set, its picture, and a line
+// that tells what happened last.
 #pragma once
 
 #include <string>
@@ -10,20 +10,23 @@
 
 #include "desktop/DataSetTree.h"
 #include "desktop/DesktopSession.h"
+#include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
+#include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
 
 class MainWindow : public QMainWindow {
 public:
-    /// The add-on at `addOnPath` is opened once the program's event loop runs; then `files` are
-    /// imported in one selection, if there are any.
+    /// The add-on at `addOnPath`, or the linked-in one if that is empty, is opened once the
+    /// program's event loop runs; then `files` are imported in one selection, if there are any.
     MainWindow(const std::string& addOnPath, std::vector<std::string> files);
 
     /// The add-on is open, or can't be opened, and nothing runs.
     bool isReady() const { return isOpened_ && !session_.isBusy(); }
     DesktopSession& session() { return session_; }
     DataSetTree& tree() { return *tree_; }
+    DataSetView& view() { return *view_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -31,6 +34,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void addPanes();
     void addMenus();
     void addFileMenu();
     void addValuesMenu();
@@ -58,8 +62,10 @@ private:
     void showWhatIsPossible();
     bool mayImport() const;
 
+    FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
+    DataSetView* view_ = nullptr;
     QAction* import_ = nullptr;
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;

@@ -10,6 +10,7 @@
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopStyle.h"
 #include "desktop/MainWindow.h"
+#include "desktop/view/DataSetView.h"
 #include "session/AddOnPath.h"
 
 namespace quorvia::host {
@@ -36,10 +37,12 @@ std::vector<std::string> wholePaths(const std::vector<std::string>& files) {
 }
 
 int runWindow(int argc, char** argv, const DesktopArguments_s& arguments) {
+    prepareViews();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorhost-desktop"));
     QApplication::setStyle(new DesktopStyle);
-    MainWindow window(addOnPath(arguments.addOnPath), wholePaths(arguments.files));
+    const std::string& addOn = arguments.addOnPath;
+    MainWindow window(addOn.empty() ? addOn : addOnPath(addOn), wholePaths(arguments.files));
     window.show();
     const int code = QApplication::exec();
     for (const std::string& violation : window.session().takeViolations())

@@ -1,8 +1,8 @@
 #include "inspect/Account.h"
 
 #include <algorithm>
-#include <limits>
 
+#include "inspect/Saturation.h"
 #include "plot3dfile/layout/StyleRules.h"
 #include "plot3dfile/numbers/FortranRecords.h"
 
@@ -10,15 +10,10 @@ namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t numberWidthInHeader = 4;
 
 bool hasSpecies(const Reading_s& reading) {
     return io::styleRulesOf(reading).hasSpecies;
-}
-
-std::int64_t sum(std::int64_t a, std::int64_t b) {
-    return a > largest - b ? largest : a + b;
 }
 
 // ---- Plain binary

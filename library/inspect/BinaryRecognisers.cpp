@@ -40,12 +40,12 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     return std::nullopt;
 }
 
-constexpr std::array<Recogniser, 1> table = {recogniseLongIntegers};
+constexpr std::array<Recogniser, 1> binaryTable = {recogniseLongIntegers};
 
 } // namespace
 
 std::span<const Recogniser> binaryRecognisers() {
-    return table;
+    return binaryTable;
 }
 
 } // namespace plot3dlib

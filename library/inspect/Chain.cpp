@@ -10,7 +10,7 @@ namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t mostGrids = 10'000;
+constexpr std::int64_t mostChainedGrids = 10'000;
 
 // ---- What the grids may look like
 
@@ -170,7 +170,7 @@ std::optional<Chain_s> walk(Evidence_s& evidence, const Reading_s& shape, bool h
     for (; !walker.isAtEnd(); ++chain.grids) {
         if (chain.grids == 1)
             chain.secondAt = walker.position();
-        if (chain.grids == mostGrids || !walker.takeGrid())
+        if (chain.grids == mostChainedGrids || !walker.takeGrid())
             return std::nullopt;
     }
     const bool isChain = chain.grids >= 2 && (!hasCount || count == chain.grids);

@@ -38,12 +38,12 @@ FoundProblem recogniseScatteredHeaders(Evidence_s& evidence) {
     return problem;
 }
 
-constexpr std::array<Recogniser, 2> table = {recogniseChain, recogniseScatteredHeaders};
+constexpr std::array<Recogniser, 2> chainTable = {recogniseChain, recogniseScatteredHeaders};
 
 } // namespace
 
 std::span<const Recogniser> chainRecognisers() {
-    return table;
+    return chainTable;
 }
 
 } // namespace plot3dlib

@@ -19,11 +19,6 @@ Account_s accountFor(Evidence_s& evidence, const Reading_s& reading) {
                          : accountOf(evidence.file, reading);
 }
 
-bool isExact(Evidence_s& evidence, const Reading_s& reading) {
-    return evidence.text ? fitsExactly(*evidence.text, reading)
-                         : accountOf(evidence.file, reading).isExact();
-}
-
 bool mayHaveIBlank(const Reading_s& reading) {
     return !reading.isSolutionOrFunction && reading.dataStructure != io::Plot3DDataStructure_1D &&
            reading.dataStructure != io::Plot3DDataStructure_Unstructured;
@@ -148,6 +143,11 @@ private:
 };
 
 } // namespace
+
+bool isExact(Evidence_s& evidence, const Reading_s& reading) {
+    return evidence.text ? fitsExactly(*evidence.text, reading)
+                         : accountOf(evidence.file, reading).isExact();
+}
 
 Choice_s chooseReading(Evidence_s& evidence, const plot3d::InspectOptions& options) {
     return Chooser(evidence, options).run();

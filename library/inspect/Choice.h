@@ -21,4 +21,7 @@ struct Choice_s {
 /// load. `allReadings` of the options goes on to all kinds, and behind what fits.
 Choice_s chooseReading(Evidence_s& evidence, const plot3d::InspectOptions& options);
 
+/// Whether the reading accounts for every byte of the file; of text, for every number.
+bool isExact(Evidence_s& evidence, const Reading_s& reading);
+
 } // namespace plot3dlib

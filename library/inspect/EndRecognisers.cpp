@@ -9,10 +9,8 @@ namespace plot3dlib {
 
 namespace {
 
-using Problem = FoundProblem;
-
 /// A record whose length is not what the header says.
-Problem recogniseShortRecord(Evidence_s& evidence) {
+FoundProblem recogniseShortRecord(Evidence_s& evidence) {
     const auto& shortfall = evidence.account->shortfall;
     if (!shortfall || shortfall->record == 0)
         return std::nullopt;
@@ -26,7 +24,7 @@ Problem recogniseShortRecord(Evidence_s& evidence) {
     return plot3d::FileProblem{misfit, whyCommand(evidence)};
 }
 
-Problem recogniseTruncated(Evidence_s& evidence) {
+FoundProblem recogniseTruncated(Evidence_s& evidence) {
     const auto& shortfall = evidence.account->shortfall;
     if (!shortfall)
         return std::nullopt;
@@ -44,14 +42,14 @@ Problem recogniseTruncated(Evidence_s& evidence) {
 
 /// A description by hand is no cure: it takes 32-bit reals first, for which the file is long
 /// enough.
-Problem recogniseLongRealsWithRest(Evidence_s& evidence) {
+FoundProblem recogniseLongRealsWithRest(Evidence_s& evidence) {
     if (!evidence.isGuessed || evidence.form.encoding != io::Plot3DEncoding_Binary)
         return std::nullopt;
     const plot3d::ByteAccount& bytes = evidence.account->bytes;
     if (!evidence.reading->isDoublePrecision || bytes.surplus == 0 ||
         bytes.surplus > bytes.used / 2)
         return std::nullopt;
-    Problem problem = problemOf(
+    FoundProblem problem = problemOf(
         grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
             " stand behind 64-bit reals. Described by hand the file would be read as 32-bit reals.",
         counted(bytes.used, "byte"), counted(bytes.size, "byte"),
@@ -61,20 +59,20 @@ Problem recogniseLongRealsWithRest(Evidence_s& evidence) {
 }
 
 /// Bytes that are no record make a Fortran file pass for plain binary.
-Problem recogniseRestOfRecords(Evidence_s& evidence) {
+FoundProblem recogniseRestOfRecords(Evidence_s& evidence) {
     const plot3d::ByteAccount& bytes = evidence.account->bytes;
     if (!evidence.isGuessed || bytes.surplus == 0 ||
         evidence.form.encoding != io::Plot3DEncoding_FortranUnformatted)
         return std::nullopt;
-    Problem problem = problemOf(grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
-                                    " stand behind the last record, and are none.",
-                                counted(bytes.used, "byte"), counted(bytes.size, "byte"),
-                                copyBeginningCommand(evidence.file.name(), bytes.used));
+    FoundProblem problem = problemOf(grouped(bytes.surplus) + " of " + counted(bytes.size, "byte") +
+                                         " stand behind the last record, and are none.",
+                                     counted(bytes.used, "byte"), counted(bytes.size, "byte"),
+                                     copyBeginningCommand(evidence.file.name(), bytes.used));
     problem->misfit.byte = bytes.used;
     return problem;
 }
 
-Problem recogniseSurplus(Evidence_s& evidence) {
+FoundProblem recogniseSurplus(Evidence_s& evidence) {
     const Account_s& account = *evidence.account;
     const plot3d::ByteAccount& bytes = account.bytes;
     if (bytes.surplus == 0)
@@ -103,14 +101,14 @@ Problem recogniseSurplus(Evidence_s& evidence) {
                                                           : whyCommand(evidence)};
 }
 
-constexpr std::array<Recogniser, 5> table = {recogniseShortRecord, recogniseTruncated,
-                                             recogniseLongRealsWithRest, recogniseRestOfRecords,
-                                             recogniseSurplus};
+constexpr std::array<Recogniser, 5> endTable = {recogniseShortRecord, recogniseTruncated,
+                                                recogniseLongRealsWithRest, recogniseRestOfRecords,
+                                                recogniseSurplus};
 
 } // namespace
 
 std::span<const Recogniser> endRecognisers() {
-    return table;
+    return endTable;
 }
 
 } // namespace plot3dlib

@@ -2,24 +2,16 @@
 
 #include <utility>
 
+#include "inspect/Words.h"
 #include "instructions/InstructionWords.h"
 
 namespace plot3dlib {
 
 namespace {
 
-const char* optionOf(const Evidence_s& evidence) {
-    const plot3d::FileKind kind = evidence.reading
-                                      ? kindOf(*evidence.reading)
-                                      : evidence.expectedKind.value_or(plot3d::FileKind::Grid);
-    switch (kind) {
-    case plot3d::FileKind::Solution:
-        return "--solution";
-    case plot3d::FileKind::Function:
-        return "--function";
-    default:
-        return "--grid";
-    }
+plot3d::FileKind kindToLoad(const Evidence_s& evidence) {
+    return evidence.reading ? kindOf(*evidence.reading)
+                            : evidence.expectedKind.value_or(plot3d::FileKind::Grid);
 }
 
 /// A key with its word, as the loader spells it; of a value without one, `unknown`.
@@ -36,9 +28,16 @@ void addSetting(std::vector<std::string>& command, std::string setting) {
 
 } // namespace
 
+std::vector<std::string> loadCommand(plot3d::FileKind kind, const std::string& file) {
+    std::vector<std::string> command = {"plot3d", "stats"};
+    if (kind == plot3d::FileKind::Solution || kind == plot3d::FileKind::Function)
+        command.insert(command.end(), {"--grid", gridToName});
+    command.insert(command.end(), {std::string("--") + wordOf(kind), file});
+    return command;
+}
+
 std::vector<std::string> loadCommand(const Evidence_s& evidence) {
-    std::vector<std::string> command = {"plot3d", "stats", optionOf(evidence),
-                                        evidence.file.name()};
+    std::vector<std::string> command = loadCommand(kindToLoad(evidence), evidence.file.name());
     const bool isText = evidence.form.encoding == io::Plot3DEncoding_Ascii;
     if (isText && evidence.reading && evidence.reading->hasIBlank)
         addSetting(command, "ASCIIHASIBLANK=Yes");

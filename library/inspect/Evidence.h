@@ -30,7 +30,12 @@ struct Evidence_s {
     std::unique_ptr<TextScan> text;   // of a text file
 };
 
-/// "plot3d stats --grid FILE", as a beginning of what to type next.
+/// Where a command wants the name of a grid file that a look into one file can't know.
+inline constexpr const char* gridToName = "GRID";
+
+/// "plot3d stats --grid FILE", as a beginning of what to type next; of a solution or function file
+/// "plot3d stats --grid GRID --solution FILE", since none is read without a grid.
+std::vector<std::string> loadCommand(plot3d::FileKind kind, const std::string& file);
 std::vector<std::string> loadCommand(const Evidence_s& evidence);
 /// The same with the reading described by hand.
 std::vector<std::string> describedLoadCommand(const Evidence_s& evidence);

@@ -32,7 +32,7 @@ std::vector<std::int64_t> longSizes(Evidence_s& evidence, io::Plot3DFile_s& reco
     return sizes;
 }
 
-FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
+FoundProblem recogniseRecordsOfLongIntegers(Evidence_s& evidence) {
     io::Plot3DFile_s record;
     static_cast<io::Plot3DRecordForm_s&>(record) = evidence.form;
     record.stream = evidence.file.stream();
@@ -57,12 +57,12 @@ FoundProblem recogniseLongIntegers(Evidence_s& evidence) {
     return problem;
 }
 
-constexpr std::array<Recogniser, 1> table = {recogniseLongIntegers};
+constexpr std::array<Recogniser, 1> fortranTable = {recogniseRecordsOfLongIntegers};
 
 } // namespace
 
 std::span<const Recogniser> fortranRecognisers() {
-    return table;
+    return fortranTable;
 }
 
 } // namespace plot3dlib

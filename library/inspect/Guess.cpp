@@ -41,17 +41,15 @@ struct Sample_s {
     std::vector<double> wide;
 };
 
-Sample_s sampleOf(const std::vector<char>& bytes, bool byteSwap) {
-    Sample_s sample;
-    sample.narrow.resize(bytes.size() / sizeof(float));
-    sample.wide.resize(bytes.size() / sizeof(double));
-    std::memcpy(sample.narrow.data(), bytes.data(), sample.narrow.size() * sizeof(float));
-    std::memcpy(sample.wide.data(), bytes.data(), sample.wide.size() * sizeof(double));
-    if (byteSwap) {
-        io::reverseEach(sample.narrow.data(), sizeof(float), std::ssize(sample.narrow));
-        io::reverseEach(sample.wide.data(), sizeof(double), std::ssize(sample.wide));
-    }
-    return sample;
+template <typename Real>
+std::vector<Real> realsOf(const std::vector<char>& bytes, bool byteSwap) {
+    std::vector<Real> reals(bytes.size() / sizeof(Real));
+    if (reals.empty())
+        return reals; // no memory, not even for no bytes, is there for memcpy
+    std::memcpy(reals.data(), bytes.data(), reals.size() * sizeof(Real));
+    if (byteSwap)
+        io::reverseEach(reals.data(), sizeof(Real), std::ssize(reals));
+    return reals;
 }
 
 /// Whether the lower halves of 64-bit reals would all be 0, as of few digits.
@@ -90,7 +88,9 @@ bool beginsWithReals(ExaminedFile& file, const Reading_s& reading) {
         static_cast<std::size_t>(std::min(present, reals * io::realWidth(reading))));
     if (file.readAt(start, bytes.data(), std::ssize(bytes)) != std::ssize(bytes))
         return false;
-    return areReals(sampleOf(bytes, reading.byteSwap), reading.isDoublePrecision);
+    return areReals(
+        {realsOf<float>(bytes, reading.byteSwap), realsOf<double>(bytes, reading.byteSwap)},
+        reading.isDoublePrecision);
 }
 
 /// Whether small integers stand where the first grid's I-blank begins.

@@ -120,13 +120,13 @@ FoundProblem recogniseMissingCountOfVariables(Evidence_s& evidence) {
     return std::nullopt;
 }
 
-constexpr std::array<Recogniser, 2> table = {recogniseTwoKindsOfElements,
-                                             recogniseMissingCountOfVariables};
+constexpr std::array<Recogniser, 2> headerTable = {recogniseTwoKindsOfElements,
+                                                   recogniseMissingCountOfVariables};
 
 } // namespace
 
 std::span<const Recogniser> headerRecognisers() {
-    return table;
+    return headerTable;
 }
 
 } // namespace plot3dlib

@@ -2,18 +2,13 @@
 #include <algorithm>
 #include <array>
 
+#include "inspect/Choice.h"
 #include "inspect/Problems.h"
 #include "inspect/Recognisers.h"
-#include "inspect/TextAccount.h"
 
 namespace plot3dlib {
 
 namespace {
-
-bool isExact(Evidence_s& evidence, const Reading_s& reading) {
-    return evidence.text ? fitsExactly(*evidence.text, reading)
-                         : accountOf(evidence.file, reading).isExact();
-}
 
 FoundProblem recogniseOtherKind(Evidence_s& evidence) {
     if (!evidence.expectedKind)
@@ -32,7 +27,7 @@ FoundProblem recogniseOtherKind(Evidence_s& evidence) {
     const char* kind = wordOf(kindOf(*exact));
     return problemOf(std::string("As a ") + kind + " file all its bytes are used.",
                      wordOf(*evidence.expectedKind), kind,
-                     {"plot3d", "stats", std::string("--") + kind, evidence.file.name()});
+                     loadCommand(kindOf(*exact), evidence.file.name()));
 }
 
 /// Anything with a long enough second record passes for a 1-D grid of as many points as its first

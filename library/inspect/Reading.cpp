@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <bit>
-#include <limits>
 
+#include "inspect/Saturation.h"
 #include "plot3dfile/bytes/CheckedSize.h"
 #include "plot3dfile/layout/StyleRules.h"
 
@@ -11,17 +11,12 @@ namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t integersOfElement = 4;
 
 std::int64_t product(std::int64_t a, std::int64_t b) {
     io::CheckedSize size;
     size.addProduct({a, b});
     return size.value().value_or(largest);
-}
-
-std::int64_t sum(std::int64_t a, std::int64_t b) {
-    return a > largest - b ? largest : a + b;
 }
 
 plot3d::Layout layoutOf(io::Plot3DDataStructure_e dataStructure) {

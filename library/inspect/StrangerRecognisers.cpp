@@ -137,13 +137,14 @@ FoundProblem recogniseComments(Evidence_s& evidence) {
     return problem;
 }
 
-constexpr std::array<Recogniser, 6> table = {recogniseEmpty, recogniseZeros, recogniseSignature,
-                                             recogniseHdf5,  recogniseJson,  recogniseComments};
+constexpr std::array<Recogniser, 6> strangerTable = {recogniseEmpty,     recogniseZeros,
+                                                     recogniseSignature, recogniseHdf5,
+                                                     recogniseJson,      recogniseComments};
 
 } // namespace
 
 std::span<const Recogniser> strangerRecognisers() {
-    return table;
+    return strangerTable;
 }
 
 } // namespace plot3dlib

@@ -1,13 +1,13 @@
 #include "inspect/TextAccount.h"
 
 #include <algorithm>
-#include <limits>
+
+#include "inspect/Saturation.h"
 
 namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t mostPlanes = 1'000'000; // a repeat count can promise billions
 constexpr std::int64_t leastBytesOfNumber = 2;
 
@@ -34,7 +34,7 @@ bool holdsIntegers(const TextScan& scan, const Reading_s& reading) {
 std::int64_t valuesOf(const Reading_s& reading) {
     const std::int64_t data = dataSize(reading, valueWidths());
     const std::int64_t header = headerValues(reading);
-    return data > largest - header ? largest : data + header;
+    return sum(data, header);
 }
 
 bool fitsExactly(const TextScan& scan, const Reading_s& reading) {

@@ -11,11 +11,11 @@ namespace plot3dlib {
 
 namespace {
 
-constexpr std::int64_t lookedAt = 4096;
+constexpr std::int64_t lookedAtOfText = 4096;
 constexpr std::size_t mostShown = 40;
 
 std::string firstLine(Evidence_s& evidence) {
-    const std::string_view head = evidence.file.head(lookedAt);
+    const std::string_view head = evidence.file.head(lookedAtOfText);
     return std::string(head.substr(0, head.find_first_of("\r\n")));
 }
 
@@ -96,8 +96,8 @@ FoundProblem recogniseFaultyToken(Evidence_s& evidence) {
     return faultyTokenProblem(evidence, evidence.text->faults().front());
 }
 
-constexpr std::array<Recogniser, 4> table = {recogniseLeadingBlankLine, recogniseRemark,
-                                             recogniseCountOnLineOfSizes, recogniseFaultyToken};
+constexpr std::array<Recogniser, 4> textTable = {recogniseLeadingBlankLine, recogniseRemark,
+                                                 recogniseCountOnLineOfSizes, recogniseFaultyToken};
 
 } // namespace
 
@@ -116,7 +116,7 @@ plot3d::FileProblem faultyTokenProblem(Evidence_s& evidence, const FaultyToken_s
 }
 
 std::span<const Recogniser> textRecognisers() {
-    return table;
+    return textTable;
 }
 
 } // namespace plot3dlib

@@ -4,18 +4,6 @@
 
 namespace plot3dlib {
 
-std::string grouped(std::int64_t number) {
-    std::string text = std::to_string(number);
-    const std::size_t first = number < 0 ? 1 : 0;
-    for (std::size_t end = text.size(); end > first + 3; end -= 3)
-        text.insert(end - 3, ",");
-    return text;
-}
-
-std::string counted(std::int64_t number, std::string_view thing) {
-    return grouped(number) + " " + std::string(thing) + (number == 1 ? "" : "s");
-}
-
 const char* wordOf(plot3d::FileKind kind) {
     switch (kind) {
     case plot3d::FileKind::Grid:

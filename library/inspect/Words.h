@@ -1,20 +1,18 @@
 // The words in which the looks at a file are told.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <string>
-#include <string_view>
 
 #include <plot3d/FileInfo.h>
 
+#include "console/counts/Counts.h"
 #include "inspect/Reading.h"
 
 namespace plot3dlib {
 
-/// With separators between thousands: "819,228".
-std::string grouped(std::int64_t number);
-/// "1 byte", "2,340 bytes"; the plural is made with an s.
-std::string counted(std::int64_t number, std::string_view thing);
+using console::counted;
+using console::grouped;
 
 const char* wordOf(plot3d::FileKind kind);
 const char* wordOf(plot3d::Layout layout);

@@ -10,6 +10,7 @@
 #include "open/DataSetContent.h"
 #include "open/Facts.h"
 #include "open/FileSorting.h"
+#include "open/GridDemand.h"
 #include "open/HostLoad.h"
 #include "open/HostLock.h"
 #include "open/LoadFailure.h"
@@ -55,6 +56,7 @@ Content_s loadAsToldOrSafely(const FileLists& files, const OpenOptions& options,
 Content_s load(const FileLists& files, const std::vector<std::string>& boundaryFiles,
                const OpenOptions& options, const Watch& watch) {
     demandReadable(options);
+    demandGrid(files);
     const BoundaryUse_s boundary = boundaryUse(files, boundaryFiles, options.boundaries);
     demandToGoOn(watch);
     Content_s content = loadAsToldOrSafely(files, options, boundary.isLoaded, watch);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "inspect/Evidence.h"
+
 namespace plot3dlib {
 
 namespace {
@@ -24,6 +26,13 @@ std::string quoted(const std::string& word) {
     return text + "'";
 }
 
+std::vector<std::string> withGrid(std::vector<std::string> command,
+                                  const std::vector<std::string>& grids) {
+    if (grids.size() == 1)
+        std::replace(command.begin(), command.end(), std::string(gridToName), grids.front());
+    return command;
+}
+
 } // namespace
 
 std::string commandOf(const std::vector<std::string>& words) {
@@ -33,13 +42,13 @@ std::string commandOf(const std::vector<std::string>& words) {
     return command;
 }
 
-plot3d::ErrorFacts factsOf(const plot3d::FileInfo& info) {
+plot3d::ErrorFacts factsOf(const plot3d::FileInfo& info, const std::vector<std::string>& grids) {
     plot3d::ErrorFacts facts = ofFile(info.file);
     if (info.problem) {
         facts.byte = info.problem->misfit.byte;
         facts.expected = info.problem->misfit.expected;
         facts.found = info.problem->misfit.found;
-        facts.next = commandOf(info.problem->next);
+        facts.next = commandOf(withGrid(info.problem->next, grids));
     }
     if (facts.next.empty())
         facts.next = commandOf({"plot3d", "info", "--why", info.file});

@@ -27,7 +27,8 @@ inline plot3d::ErrorFacts expecting(std::string expected, std::string found = ""
 /// A command to type: its words, quoted for a shell where they must be.
 std::string commandOf(const std::vector<std::string>& words);
 
-/// Of what a look into the file has found wrong.
-plot3d::ErrorFacts factsOf(const plot3d::FileInfo& info);
+/// Of what a look into the file has found wrong. `grids` are the grid files that go with it: a
+/// single one is named in the command to type.
+plot3d::ErrorFacts factsOf(const plot3d::FileInfo& info, const std::vector<std::string>& grids);
 
 } // namespace plot3dlib

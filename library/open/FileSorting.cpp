@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -39,8 +40,19 @@ void demandFile(const std::string& file) {
         throw Error(ErrorKind::NotFound, "This is no regular file.", ofFile(file));
 }
 
-Error noKind(const plot3d::FileInfo& info) {
-    ErrorFacts facts = factsOf(info);
+/// Those that are good for a message: a bad one among them is told another time.
+std::vector<std::string> gridsAmong(const std::vector<std::string>& files,
+                                    const plot3d::Watch& watch) {
+    std::vector<std::string> grids;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(grids), [&](const auto& file) {
+        const std::optional<FileKind> kind = kindOfName(file);
+        return (kind ? kind : plot3d::inspect(file, {}, watch).kind) == FileKind::Grid;
+    });
+    return grids;
+}
+
+Error noKind(const plot3d::FileInfo& info, const std::vector<std::string>& grids) {
+    ErrorFacts facts = factsOf(info, grids);
     return Error(ErrorKind::NotPlot3D,
                  "The name does not say what the file is, and it reads neither as a grid, nor as a "
                  "solution, nor as a function file" +
@@ -48,10 +60,12 @@ Error noKind(const plot3d::FileInfo& info) {
                  std::move(facts));
 }
 
-FileKind kindByLooking(const std::string& file, const plot3d::Watch& watch) {
+/// `files`: all that are named together with it.
+FileKind kindByLooking(const std::string& file, const std::vector<std::string>& files,
+                       const plot3d::Watch& watch) {
     const plot3d::FileInfo info = plot3d::inspect(file, {}, watch);
     if (!info.ok || !info.kind)
-        throw noKind(info);
+        throw noKind(info, gridsAmong(files, watch));
     return *info.kind;
 }
 
@@ -86,7 +100,7 @@ SortedFiles_s sortByKind(std::vector<std::string> files, const plot3d::Watch& wa
     for (const std::string& file : files) {
         demandFile(file);
         const std::optional<FileKind> kind = kindOfName(file);
-        addTo(sorted, kind ? *kind : kindByLooking(file, watch), file);
+        addTo(sorted, kind ? *kind : kindByLooking(file, files, watch), file);
     }
     return sorted;
 }

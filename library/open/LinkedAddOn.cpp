@@ -3,9 +3,11 @@
 #include <optional>
 #include <string>
 
+#include <plot3d/AddOn.h>
 #include <plot3d/Error.h>
 
 #include "addon/AddOnEntry.h"
+#include "open/HostLock.h"
 #include "session/GuestEntry.h"
 #include "session/SeparateFrame.h"
 
@@ -51,3 +53,12 @@ boundaryRecordOf(const FieldStorage& field) {
 }
 
 } // namespace plot3dlib
+
+namespace plot3d {
+
+void registerAddOn() {
+    const plot3dlib::HostLock lock;
+    plot3dlib::linkedLoader();
+}
+
+} // namespace plot3d

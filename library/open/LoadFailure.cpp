@@ -152,7 +152,8 @@ Error explained(const Error& error, const plot3d::FileLists& files, const plot3d
     plot3d::InspectOptions options;
     options.as = kindIn(files, facts.file);
     const plot3d::FileInfo info = plot3d::inspect(facts.file, options, watch);
-    return info.problem ? Error(error.kind(), info.problem->misfit.what, factsOf(info)) : error;
+    return info.problem ? Error(error.kind(), info.problem->misfit.what, factsOf(info, files.grid))
+                        : error;
 }
 
 std::vector<std::string> notesOf(const std::vector<Message_s>& messages) {

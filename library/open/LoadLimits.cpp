@@ -3,12 +3,20 @@
 #include <algorithm>
 #include <cctype>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include <plot3d/Error.h>
+
+#include "instructions/InstructionKeys.h"
+#include "instructions/InstructionStrings.h"
+#include "open/Facts.h"
 
 namespace plot3dlib {
 
 namespace {
+
+namespace io = quorvia::quorutildataio;
 
 bool isKey(const std::string& text, const std::string& key) {
     return std::equal(text.begin(), text.end(), key.begin(), key.end(), [](char left, char right) {
@@ -21,6 +29,37 @@ bool isRangeKey(const std::string& text) {
         if (isKey(text, key))
             return true;
     return false;
+}
+
+std::string keyWords() {
+    std::string words;
+    for (const io::OptionKey_s& key : io::optionKeys)
+        words += std::string(words.empty() ? "" : ", ") + key.word;
+    return words;
+}
+
+bool isTruth(const std::string& value) {
+    return io::isTrueString(value.c_str()) || isKey(value, "NO") || isKey(value, "N") ||
+           isKey(value, "FALSE") || isKey(value, "F");
+}
+
+/// A load takes no notice of what stands behind a key that it does not know, and takes every word
+/// that it does not know for No.
+void demandInstruction(const std::string& key, const std::string& value) {
+    using plot3d::Error;
+    using plot3d::ErrorKind;
+    if (io::findInstructionKey(key.c_str()) == nullptr)
+        throw Error(ErrorKind::Usage, "There is no load instruction \"" + key + "\"",
+                    expecting("one of " + keyWords()));
+    for (const io::OptionKey_s& known : io::optionKeys) {
+        if (!isKey(key, known.word))
+            continue;
+        if (std::holds_alternative<io::OptionMember<std::vector<std::string>>>(known.member))
+            throw Error(ErrorKind::Usage, key + " names files, which are given by themselves");
+        if (std::holds_alternative<io::OptionMember<bool>>(known.member) && !isTruth(value))
+            throw Error(ErrorKind::Usage, key + " can't be \"" + value + "\"",
+                        expecting("Yes or No"));
+    }
 }
 
 /// Start,End,Skip; an end that is empty or 0 is the last index.
@@ -51,6 +90,8 @@ bool isReadInPart(const Content_s& content, std::size_t variable) {
 } // namespace
 
 void demandReadable(const plot3d::OpenOptions& options) {
+    for (const auto& [key, value] : options.instructions)
+        demandInstruction(key, value);
     bool hasSet = false;
     bool hasRangeEnd = false;
     for (const auto& [key, value] : options.instructions) {

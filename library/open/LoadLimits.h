@@ -8,8 +8,9 @@
 
 namespace plot3dlib {
 
-/// Throws plot3d::Error (Unsupported) for a set of grids beside a range that has an end: the grids
-/// behind one that is not loaded would be read from wrong places.
+/// Throws plot3d::Error: (Usage) for an instruction that no load knows or would take for something
+/// else; (Unsupported) for a set of grids beside a range that has an end: the grids behind one that
+/// is not loaded would be read from wrong places.
 void demandReadable(const plot3d::OpenOptions& options);
 
 /// Of a load whose later files took over the structure of the first: false if some of them can't

@@ -103,7 +103,7 @@ Shower showerFor(const std::string& word) {
 
 DeclaredCommand::DeclaredCommand(Command& command)
     : command_(command), app_(std::make_unique<CLI::App>()) {
-    const char* const group = "Options of all commands";
+    const char* const group = groupOfAllCommands;
     app_->set_help_flag();
     app_->allow_extras(); // told by us, with the nearest known option
     command.declare(*app_);

@@ -53,7 +53,7 @@ std::string helpText(const CommandPage_s& page, int columns) {
     if (!page.positionals.empty())
         text += "\n";
     for (const OptionRow_s& row : page.positionals)
-        text += entry(row.names.front() + (row.isRepeatable ? "..." : ""), row.text, width);
+        text += entry(argumentsOf(row), row.text, width);
     return text + optionsText(page, width) + tailText(page, width);
 }
 

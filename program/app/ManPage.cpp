@@ -1,6 +1,7 @@
 #include "app/ManPage.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <fmt/core.h>
 #include <plot3d/Version.h>
@@ -46,10 +47,17 @@ std::string commandText(const CommandPage_s& page) {
     std::string text = fmt::format(".SH {}\n.B plot3d {}\n{}\n.PP\n{}\n", upper(page.name),
                                    page.name, literal(usageOf(page)), literal(page.purpose));
     for (const OptionRow_s& row : page.positionals)
+        text += entry(argumentsOf(row), row.text);
+    std::string group;
+    for (const OptionRow_s& row : page.options) {
+        if (row.group == groupOfAllCommands)
+            continue;
+        if (row.group != std::exchange(group, row.group))
+            text += fmt::format(".SS {}\n", row.group);
         text += entry(headOf(row), row.text);
-    for (const OptionRow_s& row : page.options)
-        text += entry(headOf(row), row.text);
-    return text + entry("Exit code 1", page.failureMeans + ".") + examplesText(page);
+    }
+    return text + ".SS Exit codes and examples\n" + entry("Exit code 1", page.failureMeans + ".") +
+           examplesText(page);
 }
 
 } // namespace
@@ -67,6 +75,10 @@ std::string manPage(const std::vector<CommandPage_s>& pages) {
     for (const OptionRow_s& row : program.options)
         text += entry(headOf(row), row.text);
     text += examplesText(program);
+    text += fmt::format(".SH {}\n", upper(groupOfAllCommands));
+    for (const OptionRow_s& row : pages.at(1).options)
+        if (row.group == groupOfAllCommands)
+            text += entry(headOf(row), row.text);
     for (std::size_t number = 1; number < pages.size(); ++number)
         text += commandText(pages[number]);
     text += ".SH EXIT STATUS\n";

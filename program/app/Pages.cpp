@@ -99,13 +99,19 @@ std::vector<CommandPage_s> allPages() {
     return pages;
 }
 
+std::string argumentsOf(const OptionRow_s& positional) {
+    if (positional.value.find(' ') != std::string::npos)
+        return positional.value;
+    return positional.names.front() + (positional.isRepeatable ? "..." : "");
+}
+
 std::string usageOf(const CommandPage_s& page) {
     std::string usage = "[OPTION]...";
     for (const OptionRow_s& row : page.options)
         if (row.isRequired)
             usage += " " + row.names.front() + " " + row.value;
     for (const OptionRow_s& row : page.positionals)
-        usage += " " + row.names.front() + (row.isRepeatable ? "..." : "");
+        usage += " " + argumentsOf(row);
     return usage;
 }
 

@@ -9,6 +9,9 @@
 
 namespace plot3d::program {
 
+/// The group of the options that every command has.
+inline constexpr const char* groupOfAllCommands = "Options of all commands";
+
 struct OptionRow_s {
     std::vector<std::string> names = {};   // "-o", "--output"; of a positional argument "FILE"
     std::string value = {};                // "FILE"; empty for a flag
@@ -41,6 +44,9 @@ std::vector<CommandPage_s> allPages();
 
 /// "[OPTION]... FILE...", what stands behind the name.
 std::string usageOf(const CommandPage_s& page);
+
+/// "FILE..."; the type's name instead if that is of several words.
+std::string argumentsOf(const OptionRow_s& positional);
 
 /// "-o, --output FILE".
 std::string headOf(const OptionRow_s& option);

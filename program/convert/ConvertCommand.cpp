@@ -1,6 +1,5 @@
 #include "convert/ConvertCommand.h"
 
-#include <filesystem>
 #include <sstream>
 #include <utility>
 
@@ -10,6 +9,7 @@
 #include "convert/Writers.h"
 #include "manners/Options.h"
 #include "manners/ProgressWatch.h"
+#include "manners/ResultFile.h"
 #include "manners/Talk.h"
 
 namespace plot3d::program {
@@ -25,6 +25,13 @@ namespace {
 /// These formats have no place for values without points.
 bool needsGrid(Format_e format) {
     return format != Format_e::Csv && format != Format_e::Npz;
+}
+
+/// Of the others bytes are gone back to, or there are several files.
+bool canStream(Format_e format, const std::string& file) {
+    const std::string extension = extensionOf(file);
+    return format == Format_e::Csv || format == Format_e::Plot3D ||
+           (format == Format_e::Vtk && (extension == ".vts" || extension == ".vtu"));
 }
 
 std::string knownQuantities() {
@@ -57,7 +64,8 @@ const char* ConvertCommand::failureMeans() const {
 
 void ConvertCommand::declare(CLI::App& app) {
     data_.declare(app);
-    addOutput(app, output_, overwrites_, "The result; its ending tells the format");
+    addOutput(app, output_, overwrites_,
+              "The result; its ending tells the format. - is standard output, for csv and plot3d");
     app.add_option("--to", to_, "The format, where the ending does not tell it")
         ->type_name("vtk|cgns|npz|csv|plot3d");
     selection_.declare(app);
@@ -92,6 +100,9 @@ Format_e ConvertCommand::format() const {
                     "--to and the word of a format");
     if (*format != Format_e::Plot3D && !form_.given().empty())
         refuseUsage(form_.given() + " is for results that are PLOT3D files");
+    if (isStream(output_) && !canStream(*format, output_))
+        refuseUsage(wordOf(*format) +
+                    " can't be written to standard output or a pipe; csv and plot3d can");
     return *format;
 }
 
@@ -118,6 +129,8 @@ ContentSelection_s ConvertCommand::selectionOf(const DataSet& data, Format_e for
 }
 
 int ConvertCommand::run(const Surroundings_s& surroundings) {
+    if (output_ == "-")
+        output_ = standardOutput;
     const Format_e target = format();
     const DataSet data = data_.open(surroundings);
     ProgressWatch progress(surroundings);
@@ -130,7 +143,7 @@ int ConvertCommand::run(const Surroundings_s& surroundings) {
     for (const std::string& note : written.notes)
         tellNote(surroundings, note);
     for (const std::string& file : written.files)
-        if (std::filesystem::is_regular_file(file)) // on /dev/stdout it would stand in the result
+        if (!isStream(file)) // the name would stand in the result
             surroundings.out << file << '\n';
     return ExitCode_Done;
 }

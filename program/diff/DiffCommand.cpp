@@ -3,14 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
+#include <plot3d/Error.h>
+#include <plot3d/FileInfo.h>
 
 #include "blocks/DataSetFields.h"
 #include "manners/FileList.h"
 #include "manners/Options.h"
 #include "manners/ProgressWatch.h"
+#include "manners/ShellWords.h"
 #include "manners/Talk.h"
 #include "selection/NumberChecks.h"
 
@@ -49,6 +53,21 @@ void tellUnread(const DiffReport_s& report, const Surroundings_s& surroundings) 
     }
 }
 
+bool isGrid(const std::string& file) {
+    InspectOptions options;
+    options.trials = false;
+    return inspect(file, options).kind == FileKind::Grid;
+}
+
+/// `FILE...`, with a place ahead of them for the grid file that is missing.
+std::vector<std::string> withGrid(const std::vector<std::string>& files) {
+    std::vector<std::string> words;
+    if (std::none_of(files.begin(), files.end(), isGrid))
+        words.emplace_back("GRID");
+    words.insert(words.end(), files.begin(), files.end());
+    return words;
+}
+
 } // namespace
 
 const char* DiffCommand::purpose() const {
@@ -71,7 +90,8 @@ const char* DiffCommand::failureMeans() const {
 void DiffCommand::declare(CLI::App& app) {
     addFiles(app, firstFiles_,
              "Files of the first data set, then -- and those of the second; two files alone are "
-             "one of each");
+             "one of each")
+        ->type_name("FILE... -- FILE...");
     addRepeatable(app, secondOption, secondFiles_, "FILE", "")->group("");
     data_.declareOptions(app);
     selection_.declareWithoutBlank(app);
@@ -121,10 +141,31 @@ DiffSelection_s DiffCommand::selectionIn(const DataSet& first) const {
             selection_.isEverything()};
 }
 
+/// Both need their grids, which is more than the error of one of them tells.
+DataSet DiffCommand::opened(const std::vector<std::string>& files,
+                            const Surroundings_s& surroundings) const {
+    try {
+        return data_.open(files, surroundings);
+    } catch (const Error& error) {
+        if (error.kind() != ErrorKind::Refused || std::any_of(files.begin(), files.end(), isGrid))
+            throw;
+        std::vector<std::string> words = {"plot3d", "diff"};
+        for (const auto* list : {&firstFiles_, &secondFiles_}) {
+            const std::vector<std::string> named = withGrid(*list);
+            words.insert(words.end(), named.begin(), named.end());
+            if (list == &firstFiles_)
+                words.emplace_back("--");
+        }
+        ErrorFacts facts = error.facts();
+        facts.next = shellLine(words);
+        throw Error(error.kind(), error.message(), std::move(facts));
+    }
+}
+
 int DiffCommand::run(const Surroundings_s& surroundings) {
     splitTwoFiles();
-    const DataSet first = data_.open(filesNamed(firstFiles_, surroundings.in), surroundings);
-    const DataSet second = data_.open(filesNamed(secondFiles_, surroundings.in), surroundings);
+    const DataSet first = opened(filesNamed(firstFiles_, surroundings.in), surroundings);
+    const DataSet second = opened(filesNamed(secondFiles_, surroundings.in), surroundings);
     const DiffPlan_s plan = planOf(first, second, selectionIn(first), tolerance_);
     ProgressWatch progress(surroundings);
     const auto found = compare(

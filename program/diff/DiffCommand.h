@@ -24,6 +24,7 @@ public:
 
 private:
     void splitTwoFiles();
+    DataSet opened(const std::vector<std::string>& files, const Surroundings_s& surroundings) const;
     DiffSelection_s selectionIn(const DataSet& first) const;
 
     std::vector<std::string> firstFiles_;

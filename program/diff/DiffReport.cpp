@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <ostream>
-#include <sstream>
 
 #include <fmt/core.h>
 
@@ -56,6 +55,9 @@ private:
         if (report_.isUnreadable())
             return fmt::format("Not all could be read: {} compared, {} different", compared,
                                console::grouped(all.different));
+        if (all.compared == 0)
+            return report_.isSame() ? "The data sets have no values to compare"
+                                    : "The data sets differ, and have no values to compare";
         if (!report_.isSame())
             return fmt::format("The data sets differ: {} of {} different",
                                console::grouped(all.different), compared);
@@ -119,27 +121,19 @@ private:
         grid.addRow(cells);
     }
 
-    std::string table(bool hasPlaces) const {
+    TextGrid table(bool hasPlaces) const {
         TextGrid result = grid(hasPlaces);
         for (const VariableDifference_s& variable : variables_)
             addRow(result, variable, hasPlaces);
-        std::ostringstream text;
-        result.print(text, 0, paint_);
-        return text.str();
-    }
-
-    bool fits(const std::string& text) const {
-        std::istringstream lines(text);
-        for (std::string line; columns_ > 0 && std::getline(lines, line);)
-            if (console::widthOf(line) > static_cast<std::size_t>(columns_))
-                return false;
-        return true;
+        return result;
     }
 
     void printDistances() {
-        const std::string wide = table(true);
-        out_ << '\n' << (fits(wide) ? wide : table(false));
-        if (fits(wide))
+        const TextGrid wide = table(true);
+        const bool fits = columns_ == 0 || wide.width() <= static_cast<std::size_t>(columns_);
+        out_ << '\n';
+        (fits ? wide : table(false)).print(out_, 0, paint_);
+        if (fits)
             return;
         const std::string where = report_.hasSeveralZones ? "zone: i,j,k" : "i,j,k";
         TextGrid places({{"variable"}, {"largest at " + where}, {"relative at " + where}});

@@ -77,8 +77,11 @@ void IndexCommand::declare(CLI::App& app) {
         ->type_name("FILE")
         ->excludes(app.get_option("--output"));
     selection_.declare(app);
-    // Readers of the index get all points, with their I-blank.
+    // Readers of the index get all points, with their I-blank. A part of them is refused with the
+    // command that makes a copy, and not offered.
     app.remove_option(app.get_option("--blank"));
+    for (const char* const part : {"--i", "--j", "--k", "--point"})
+        app.get_option(part)->group("");
 }
 
 void IndexCommand::takeApart(std::vector<std::string>& arguments) {

@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
+#include <plot3d/Error.h>
 #include <plot3d/FileNames.h>
 
 #include "console/JsonStream.h"
@@ -110,12 +111,20 @@ std::size_t InfoCommand::showJson(const std::vector<std::string>& files,
     json.value("plot3d.info/1");
     json.key("files");
     json.beginList();
-    const std::size_t badCount =
-        inspectAll(files, surroundings, [&json](const FileInfo& info) { writeFile(json, info); });
-    json.endList();
-    json.endObject();
-    json.finish();
-    return badCount;
+    const auto end = [&json] {
+        json.endList();
+        json.endObject();
+        json.finish();
+    };
+    try {
+        const std::size_t badCount = inspectAll(
+            files, surroundings, [&json](const FileInfo& info) { writeFile(json, info); });
+        end();
+        return badCount;
+    } catch (const Error&) { // what is known so far is as good as the whole would be
+        end();
+        throw;
+    }
 }
 
 int InfoCommand::run(const Surroundings_s& surroundings) {

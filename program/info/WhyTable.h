@@ -8,7 +8,8 @@
 
 namespace plot3d::program {
 
-/// Shortened: readings that follow one another and fail alike stand in one row.
+/// Shortened: readings that follow one another and fail alike stand in one row, and of many rows of
+/// a kind those are shown whose first misfit is furthest behind.
 void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
 
 } // namespace plot3d::program

@@ -10,6 +10,12 @@
 
 namespace plot3d::program {
 
+/// Where a result goes that is named `-`.
+inline constexpr const char* standardOutput = "/dev/stdout";
+
+/// Whether what is written to `name` can't be gone back to: standard output, pipes, devices.
+bool isStream(const std::string& name);
+
 class ResultFile {
 public:
     /// Begins the file. Throws plot3d::Error (Refused) if there is one already and it may not be

@@ -18,6 +18,8 @@
 namespace plot3d::program {
 namespace {
 
+constexpr const char* dataSetGroup = "Data set";
+
 std::string settingProblem(const std::string& text) {
     const std::size_t equals = text.find('=');
     return equals == std::string::npos || equals == 0
@@ -79,7 +81,7 @@ void DataArguments::declare(CLI::App& app) {
     addFiles(app, files_,
              "Files of one data set in any order; - reads a list of them from standard input");
     const auto addKind = [&](const char* name, std::vector<std::string>& list, const char* help) {
-        addRepeatable(app, name, list, "FILE", help)->allow_extra_args();
+        addRepeatable(app, name, list, "FILE", help)->allow_extra_args()->group(dataSetGroup);
     };
     addKind("--grid", lists_.grid, "Grid files, where neither names nor bytes tell the kinds");
     addKind("--solution", lists_.solution, "Solution files, likewise");
@@ -88,13 +90,18 @@ void DataArguments::declare(CLI::App& app) {
 }
 
 void DataArguments::declareOptions(CLI::App& app) {
-    app.add_option("--name", nameFile_, "File with the names of the variables")->type_name("FILE");
+    app.add_option("--name", nameFile_, "File with the names of the variables")
+        ->type_name("FILE")
+        ->group(dataSetGroup);
     addRepeatable(app, "--set", settings_, "KEY=VALUE",
                   "A load instruction, such as AUTODETECT=No; may come several times")
-        ->check(settingProblem);
+        ->check(settingProblem)
+        ->group(dataSetGroup);
     app.add_flag("--share-structure", sharesStructure_,
-                 "Take all files of a kind to be built like the first, without looking");
-    app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files");
+                 "Take all files of a kind to be built like the first, without looking")
+        ->group(dataSetGroup);
+    app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files")
+        ->group(dataSetGroup);
 }
 
 OpenOptions DataArguments::options() const {
@@ -133,7 +140,7 @@ DataSet DataArguments::open(const Surroundings_s& surroundings) const {
 DataSet DataArguments::open(const std::vector<std::string>& files,
                             const Surroundings_s& surroundings) const {
     if (files.empty())
-        throw Error(ErrorKind::Usage, "no file is named");
+        throw Error(ErrorKind::Usage, "no file is named: give the files of a data set, or --help");
     return opened(files, options(), surroundings);
 }
 

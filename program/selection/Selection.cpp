@@ -61,19 +61,24 @@ std::optional<Box> boxOf(const Extent& size, const IndexRange_s& i, const IndexR
 } // namespace
 
 void SelectionArguments::declareWithoutBlank(CLI::App& app) {
-    app.add_option("--variable", variables_,
-                   "Variables by name, separated by commas; * and ? stand for any characters and "
-                   "for one")
+    const auto add = [&app](const char* name, std::string& text, const char* help) {
+        return app.add_option(name, text, help)->group("Selection");
+    };
+    add("--variable", variables_,
+        "Variables by name, separated by commas; * and ? stand for any characters and for one")
         ->type_name("NAMES");
-    app.add_option("--zone", zones_, "Zones by number from 1, such as 1,3-5")->type_name("LIST");
-    app.add_option("--time", times_, "Solution times: one, a range such as 0.5:2, or first or last")
+    add("--zone", zones_, "Zones by number from 1, such as 1,3-5")->type_name("LIST");
+    add("--time", times_, "Solution times: one, a range such as 0.5:2, or first or last")
         ->type_name("TIME");
-    const auto* help = "FIRST,LAST,STEP from 1; -1 is the last; one number is that index alone";
-    const auto range = parsedBy(parseIndexRange);
-    app.add_option("--i", i_, help)->type_name("RANGE")->check(range);
-    app.add_option("--j", j_, help)->type_name("RANGE")->check(range);
-    app.add_option("--k", k_, help)->type_name("RANGE")->check(range);
-    app.add_option("--point", point_, "One point of each zone, by its indices from 1")
+    const auto addRange = [&add](const char* name, std::string& text, const char* help) {
+        add(name, text, help)->type_name("RANGE")->check(parsedBy(parseIndexRange));
+    };
+    addRange("--i", i_,
+             "Indices along I: FIRST,LAST,STEP from 1, each of which may be left out; -1 is the "
+             "last; one number is that index alone");
+    addRange("--j", j_, "Along J, likewise");
+    addRange("--k", k_, "Along K, likewise");
+    add("--point", point_, "One point of each zone, by its indices from 1")
         ->type_name("I,J,K")
         ->check(parsedBy(parsePoint))
         ->excludes("--i", "--j", "--k");
@@ -82,7 +87,8 @@ void SelectionArguments::declareWithoutBlank(CLI::App& app) {
 void SelectionArguments::declare(CLI::App& app) {
     declareWithoutBlank(app);
     app.add_option("--blank", blank_, "What becomes of points whose I-blank is 0 (default: skip)")
-        ->type_name("skip|keep");
+        ->type_name("skip|keep")
+        ->group("Selection");
 }
 
 bool SelectionArguments::isEverything() const {

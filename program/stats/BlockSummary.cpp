@@ -45,11 +45,17 @@ public:
             takeRun(start, std::min(valuesOfRun<Value>, values_.size() - start));
     }
 
-    FieldSummary_s summary(const BlockPlace_s& place) {
-        if (summary_.moments.count > 0) {
+    /// Extremes that are none beside what stands ahead of the block get no place.
+    FieldSummary_s summary(const BlockPlace_s& place, const FieldSummary_s& ahead) {
+        if (summary_.moments.count == 0)
+            return summary_;
+        const bool isFirst = ahead.moments.count == 0;
+        summary_.min = static_cast<double>(min_.value);
+        summary_.max = static_cast<double>(max_.value);
+        if (isFirst || summary_.min < ahead.min)
             summary_.min = placed(min_, summary_.minAt, place);
+        if (isFirst || summary_.max > ahead.max)
             summary_.max = placed(max_, summary_.maxAt, place);
-        }
         return summary_;
     }
 
@@ -144,21 +150,23 @@ void fillTable(std::span<const std::int32_t> values, FieldSummary_s& summary) {
 } // namespace
 
 template <typename Value>
-FieldSummary_s summaryOf(std::span<const Value> values, IBlank iBlank, const BlockPlace_s& place,
-                         Checksum_e checksum) {
+void addBlock(std::span<const Value> values, IBlank iBlank, const BlockPlace_s& place,
+              Checksum_e checksum, FieldSummary_s& summary) {
     BlockSummary<Value> block(values, iBlank);
     block.takeAll();
-    FieldSummary_s summary = block.summary(place);
+    FieldSummary_s added = block.summary(place, summary);
     if (checksum == Checksum_e::Yes)
-        summary.checksum = checksumOf(std::as_bytes(values));
+        added.checksum = checksumOf(std::as_bytes(values));
     if constexpr (std::is_same_v<Value, std::int32_t>)
-        fillTable(values, summary);
-    return summary;
+        fillTable(values, added);
+    summary.add(added);
 }
 
-template FieldSummary_s summaryOf(std::span<const float>, IBlank, const BlockPlace_s&, Checksum_e);
-template FieldSummary_s summaryOf(std::span<const double>, IBlank, const BlockPlace_s&, Checksum_e);
-template FieldSummary_s summaryOf(std::span<const std::int32_t>, IBlank, const BlockPlace_s&,
-                                  Checksum_e);
+template void addBlock(std::span<const float>, IBlank, const BlockPlace_s&, Checksum_e,
+                       FieldSummary_s&);
+template void addBlock(std::span<const double>, IBlank, const BlockPlace_s&, Checksum_e,
+                       FieldSummary_s&);
+template void addBlock(std::span<const std::int32_t>, IBlank, const BlockPlace_s&, Checksum_e,
+                       FieldSummary_s&);
 
 } // namespace plot3d::program

@@ -17,18 +17,18 @@ struct BlockPlace_s {
     Box box;
 };
 
-/// `values` are those of the block, I fastest. `iBlank`: for each value that of its point, which
-/// does not count where it is 0; empty if all count. Of integers with a table.
+/// Adds a block to the summary of what stands ahead of it. `values` are those of the block, I
+/// fastest. `iBlank`: for each value that of its point, which does not count where it is 0; empty
+/// if all count. Of integers with a table.
 template <typename Value>
-FieldSummary_s summaryOf(std::span<const Value> values, std::span<const std::int32_t> iBlank,
-                         const BlockPlace_s& place, Checksum_e checksum);
+void addBlock(std::span<const Value> values, std::span<const std::int32_t> iBlank,
+              const BlockPlace_s& place, Checksum_e checksum, FieldSummary_s& summary);
 
-extern template FieldSummary_s summaryOf(std::span<const float>, std::span<const std::int32_t>,
-                                         const BlockPlace_s&, Checksum_e);
-extern template FieldSummary_s summaryOf(std::span<const double>, std::span<const std::int32_t>,
-                                         const BlockPlace_s&, Checksum_e);
-extern template FieldSummary_s summaryOf(std::span<const std::int32_t>,
-                                         std::span<const std::int32_t>, const BlockPlace_s&,
-                                         Checksum_e);
+extern template void addBlock(std::span<const float>, std::span<const std::int32_t>,
+                              const BlockPlace_s&, Checksum_e, FieldSummary_s&);
+extern template void addBlock(std::span<const double>, std::span<const std::int32_t>,
+                              const BlockPlace_s&, Checksum_e, FieldSummary_s&);
+extern template void addBlock(std::span<const std::int32_t>, std::span<const std::int32_t>,
+                              const BlockPlace_s&, Checksum_e, FieldSummary_s&);
 
 } // namespace plot3d::program

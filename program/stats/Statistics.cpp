@@ -70,7 +70,7 @@ private:
         readers_[worker].forEachBlock(
             field, piece.stretch,
             [&](auto values, std::span<const std::int32_t> iBlank, const Box& box) {
-                summary.add(summaryOf(values, iBlank, {field.zone, box}, wishes_.checksum));
+                addBlock(values, iBlank, {field.zone, box}, wishes_.checksum, summary);
             });
         return summary;
     }

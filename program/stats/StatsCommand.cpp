@@ -79,7 +79,7 @@ const char* StatsCommand::examples() const {
            "      density and momentum at the wall K = 1 of four zones\n"
            "  plot3d stats wing.x step*.q --variable E --point 40,12,1 --json\n"
            "      the energy at one point through time, for a program\n"
-           "  plot3d stats wing.f --percentiles 5,50,95 --histogram 40\n"
+           "  plot3d stats wing.x wing.f --percentiles 5,50,95 --histogram 40\n"
            "      how the values of a function file are spread\n";
 }
 

@@ -2,11 +2,9 @@
 #include <cmath>
 #include <functional>
 #include <ostream>
-#include <sstream>
 
 #include <fmt/core.h>
 
-#include "console/Text.h"
 #include "console/TextGrid.h"
 #include "console/Words.h"
 #include "stats/Histogram.h"
@@ -76,18 +74,8 @@ private:
 
     // --- tables that give up columns where they are wider than the terminal
 
-    std::string printed(const TextGrid& grid) const {
-        std::ostringstream text;
-        grid.print(text, 0, paint_);
-        return text.str();
-    }
-
-    bool fits(const std::string& text) const {
-        std::istringstream lines(text);
-        for (std::string line; columns_ > 0 && std::getline(lines, line);)
-            if (console::widthOf(line) > static_cast<std::size_t>(columns_))
-                return false;
-        return true;
+    bool fits(const TextGrid& grid) const {
+        return columns_ == 0 || grid.width() <= static_cast<std::size_t>(columns_);
     }
 
     void heading(const std::string& text) {
@@ -214,23 +202,22 @@ private:
         return grid;
     }
 
-    /// In one table if it fits, otherwise in several, each with the names of the rows.
+    /// In one table if it fits, otherwise in several, each with the names of the rows and as many
+    /// columns as fit.
     void printSummaries() {
         const auto shows = [](const Row_s& row) { return !isTable(row.variable); };
-        const std::vector<Columns> parts = {valuesOfRows(), leftOutOfRows(), placesOfRows()};
-        const std::string whole =
-            printed(gridOf(joined({namesOfRows(), parts[0], parts[1], parts[2]}), shows));
-        if (fits(whole)) {
-            out_ << whole;
-            return;
-        }
-        const char* gap = "";
-        for (const Columns& part : parts) {
-            if (part.empty())
-                continue;
-            out_ << gap;
-            gridOf(joined({namesOfRows(), part}), shows).print(out_, columns_, paint_);
-            gap = "\n";
+        const Columns all = joined({valuesOfRows(), leftOutOfRows(), placesOfRows()});
+        for (std::size_t next = 0; next < all.size();) {
+            out_ << (next == 0 ? "" : "\n");
+            Columns columns = joined({namesOfRows(), {all[next++]}});
+            for (; next < all.size(); ++next) {
+                columns.push_back(all[next]);
+                if (fits(gridOf(columns, shows)))
+                    continue;
+                columns.pop_back();
+                break;
+            }
+            gridOf(columns, shows).print(out_, 0, paint_);
         }
     }
 
@@ -284,8 +271,7 @@ private:
             }
             wide.addRow(row);
         }
-        const std::string text = printed(wide);
-        out_ << (fits(text) ? text : printed(high));
+        (fits(wide) ? wide : high).print(out_, 0, paint_);
     }
 
     static std::string pointTextOf(const VariableStatistics_s& variable, std::size_t zone) {
@@ -322,14 +308,13 @@ private:
                                 return percentileText(row, index);
                             }});
         }
-        const auto shows = [](const Row_s&) { return true; };
-        const std::string text = printed(gridOf(wide, shows));
+        const TextGrid grid = gridOf(wide, [](const Row_s&) { return true; });
         for (const Row_s& row : rows_)
             for (std::size_t index = 0; index < report_.wishes.percentiles.size(); ++index)
                 high.addRow({report_.nameOf(row.variable), zoneText(row),
                              fmt::format("{}%", report_.wishes.percentiles[index]),
                              percentileText(row, index)});
-        out_ << (fits(text) ? text : printed(high));
+        (fits(grid) ? grid : high).print(out_, 0, paint_);
     }
 
     static std::string percentileText(const Row_s& row, std::size_t index) {

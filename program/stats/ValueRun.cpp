@@ -1,17 +1,18 @@
 #include "stats/ValueRun.h"
 
-#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
-#ifdef __SSE2__
-#include <emmintrin.h>
+#ifdef __x86_64__
+#include <immintrin.h>
 #endif
 
 namespace plot3d::program {
 namespace {
 
-// Values are taken eight at a time, to eight sums side by side, in registers of 16 bytes, which all
-// machines have: which value goes to which sum is fixed, and so is what comes out.
+// Values are taken eight at a time, to eight sums side by side: which value goes to which sum is
+// fixed, and so is what comes out, in registers of 16 bytes, which all machines have, as in those
+// of 32 bytes, which most have.
 constexpr std::size_t lanes = 8;
 
 template <typename Value>
@@ -31,7 +32,7 @@ inline Register<Value> registerAt(const Value* values) {
 }
 
 /// The first or second half of four values as 64-bit reals.
-#ifdef __SSE2__ // compilers go through general registers otherwise
+#ifdef __x86_64__ // compilers go through general registers otherwise
 inline Pair firstTwo(const Register<std::int32_t>& values) {
     return _mm_cvtepi32_pd(reinterpret_cast<__m128i>(values));
 }
@@ -77,6 +78,123 @@ struct Sums_s {
     }
 };
 
+/// Extremes side by side, as many as stand in 32 bytes, and sums.
+template <typename Value>
+struct Lanes_s {
+    std::array<Value, 32 / sizeof(Value)> min;
+    std::array<Value, 32 / sizeof(Value)> max;
+    Sums_s sums;
+};
+
+// What follows goes over `count` values, a multiple of eight. Minimum and maximum are those of the
+// lanes to begin with. A NaN is neither below nor above, but makes the sum one.
+
+template <typename Value>
+void addExtremes(const Value* values, std::size_t count, Lanes_s<Value>& found) {
+    Register<Value> min[2];
+    Register<Value> max[2];
+    std::memcpy(min, found.min.data(), sizeof min);
+    std::memcpy(max, found.max.data(), sizeof max);
+    Sums_s sums;
+    for (std::size_t at = 0; at < count; at += lanes) {
+        for (std::size_t part = 0; part < registers<Value>; ++part) {
+            const auto next = registerAt(values + at + part * valuesOfRegister<Value>);
+            min[part % 2] = next < min[part % 2] ? next : min[part % 2];
+            max[part % 2] = next > max[part % 2] ? next : max[part % 2];
+            forEachPair<Value>(part, next, [&sums](std::size_t pair, const Pair& two) {
+                sums.pairs[pair] += two;
+            });
+        }
+    }
+    std::memcpy(found.min.data(), min, sizeof min);
+    std::memcpy(found.max.data(), max, sizeof max);
+    found.sums = sums;
+}
+
+template <typename Value>
+void addSquares(const Value* values, std::size_t count, double mean, Sums_s& found) {
+    Sums_s sums;
+    for (std::size_t at = 0; at < count; at += lanes) {
+        for (std::size_t part = 0; part < registers<Value>; ++part) {
+            const auto next = registerAt(values + at + part * valuesOfRegister<Value>);
+            forEachPair<Value>(part, next, [&sums, mean](std::size_t pair, const Pair& two) {
+                const Pair distance = two - mean;
+                sums.pairs[pair] += distance * distance;
+            });
+        }
+    }
+    found = sums;
+}
+
+#ifdef __x86_64__
+template <typename Value>
+using WideRegister __attribute__((vector_size(32))) = Value;
+
+[[gnu::target("avx2")]] inline __m256d fourAt(const float* values) {
+    return _mm256_cvtps_pd(_mm_loadu_ps(values));
+}
+[[gnu::target("avx2")]] inline __m256d fourAt(const double* values) {
+    return _mm256_loadu_pd(values);
+}
+[[gnu::target("avx2")]] inline __m256d fourAt(const std::int32_t* values) {
+    return _mm256_cvtepi32_pd(_mm_loadu_si128(reinterpret_cast<const __m128i*>(values)));
+}
+
+template <typename Value>
+[[gnu::target("avx2")]] void addExtremesWide(const Value* values, std::size_t count,
+                                             Lanes_s<Value>& found) {
+    constexpr std::size_t width = 32 / sizeof(Value);
+    WideRegister<Value> min;
+    WideRegister<Value> max;
+    std::memcpy(&min, found.min.data(), sizeof min);
+    std::memcpy(&max, found.max.data(), sizeof max);
+    __m256d first = _mm256_setzero_pd();
+    __m256d second = _mm256_setzero_pd();
+    for (std::size_t at = 0; at < count; at += lanes) {
+        for (std::size_t part = 0; part < lanes; part += width) {
+            WideRegister<Value> next;
+            std::memcpy(&next, values + at + part, sizeof next);
+            min = next < min ? next : min;
+            max = next > max ? next : max;
+        }
+        first += fourAt(values + at);
+        second += fourAt(values + at + 4);
+    }
+    std::memcpy(found.min.data(), &min, sizeof min);
+    std::memcpy(found.max.data(), &max, sizeof max);
+    std::memcpy(&found.sums.pairs[0], &first, sizeof first);
+    std::memcpy(&found.sums.pairs[2], &second, sizeof second);
+}
+
+template <typename Value>
+[[gnu::target("avx2")]] void addSquaresWide(const Value* values, std::size_t count, double mean,
+                                            Sums_s& found) {
+    __m256d first = _mm256_setzero_pd();
+    __m256d second = _mm256_setzero_pd();
+    for (std::size_t at = 0; at < count; at += lanes) {
+        const __m256d firstDistance = fourAt(values + at) - mean;
+        const __m256d secondDistance = fourAt(values + at + 4) - mean;
+        first += firstDistance * firstDistance;
+        second += secondDistance * secondDistance;
+    }
+    std::memcpy(&found.pairs[0], &first, sizeof first);
+    std::memcpy(&found.pairs[2], &second, sizeof second);
+}
+
+bool isWide() {
+    return __builtin_cpu_supports("avx2") != 0;
+}
+#else
+template <typename Value>
+void addExtremesWide(const Value*, std::size_t, Lanes_s<Value>&) {}
+template <typename Value>
+void addSquaresWide(const Value*, std::size_t, double, Sums_s&) {}
+
+bool isWide() {
+    return false;
+}
+#endif
+
 template <typename Value>
 struct Extremes_s {
     Value min;
@@ -89,56 +207,33 @@ struct Extremes_s {
     }
 };
 
-/// A NaN is neither below nor above, but makes the sum one.
 template <typename Value>
-Extremes_s<Value> extremesOf(std::span<const Value> values) {
-    Extremes_s<Value> result = {values[0], values[0], 0};
-    Register<Value> min[2];
-    Register<Value> max[2];
-    std::fill(std::begin(min), std::end(min), Register<Value>{} + values[0]);
-    std::fill(std::begin(max), std::end(max), Register<Value>{} + values[0]);
-    Sums_s sums;
-    std::size_t at = 0;
-    for (; at + lanes <= values.size(); at += lanes) {
-        for (std::size_t part = 0; part < registers<Value>; ++part) {
-            const auto next = registerAt(values.data() + at + part * valuesOfRegister<Value>);
-            min[part % 2] = next < min[part % 2] ? next : min[part % 2];
-            max[part % 2] = next > max[part % 2] ? next : max[part % 2];
-            forEachPair<Value>(part, next, [&sums](std::size_t pair, const Pair& two) {
-                sums.pairs[pair] += two;
-            });
-        }
+Extremes_s<Value> extremesOf(std::span<const Value> values, bool wide) {
+    const std::size_t whole = values.size() / lanes * lanes;
+    Lanes_s<Value> found;
+    found.min.fill(values[0]);
+    found.max.fill(values[0]);
+    (wide ? addExtremesWide<Value> : addExtremes<Value>)(values.data(), whole, found);
+    Extremes_s<Value> result = {values[0], values[0], found.sums.total()};
+    for (std::size_t lane = 0; lane < found.min.size(); ++lane) {
+        result.take(found.min[lane]);
+        result.take(found.max[lane]);
     }
-    for (std::size_t lane = 0; lane < valuesOfRegister<Value>; ++lane) {
-        result.take(min[0][lane]);
-        result.take(min[1][lane]);
-        result.take(max[0][lane]);
-        result.take(max[1][lane]);
-    }
-    result.sum = sums.total();
-    for (; at < values.size(); ++at) {
-        result.take(values[at]);
-        result.sum += static_cast<double>(values[at]);
+    for (const Value value : values.subspan(whole)) {
+        result.take(value);
+        result.sum += static_cast<double>(value);
     }
     return result;
 }
 
 template <typename Value>
-double squaresAround(double mean, std::span<const Value> values) {
+double squaresAround(double mean, std::span<const Value> values, bool wide) {
+    const std::size_t whole = values.size() / lanes * lanes;
     Sums_s sums;
-    std::size_t at = 0;
-    for (; at + lanes <= values.size(); at += lanes) {
-        for (std::size_t part = 0; part < registers<Value>; ++part) {
-            const auto next = registerAt(values.data() + at + part * valuesOfRegister<Value>);
-            forEachPair<Value>(part, next, [&sums, mean](std::size_t pair, const Pair& two) {
-                const Pair distance = two - mean;
-                sums.pairs[pair] += distance * distance;
-            });
-        }
-    }
+    (wide ? addSquaresWide<Value> : addSquares<Value>)(values.data(), whole, mean, sums);
     double result = sums.total();
-    for (; at < values.size(); ++at) {
-        const double distance = static_cast<double>(values[at]) - mean;
+    for (const Value value : values.subspan(whole)) {
+        const double distance = static_cast<double>(value) - mean;
         result += distance * distance;
     }
     return result;
@@ -147,10 +242,11 @@ double squaresAround(double mean, std::span<const Value> values) {
 } // namespace
 
 template <typename Value>
-bool goOver(std::span<const Value> values, ValueRun_s<Value>& run) {
-    const Extremes_s<Value> extremes = extremesOf(values);
+bool goOver(std::span<const Value> values, ValueRun_s<Value>& run, Registers_e registers) {
+    const bool wide = registers == Registers_e::Widest && isWide();
+    const Extremes_s<Value> extremes = extremesOf(values, wide);
     const double mean = extremes.sum / static_cast<double>(values.size());
-    const double squares = squaresAround(mean, values);
+    const double squares = squaresAround(mean, values, wide);
     run.min = extremes.min;
     run.max = extremes.max;
     run.moments = {static_cast<std::int64_t>(values.size()), extremes.sum, squares};
@@ -168,9 +264,9 @@ ValueRun_s<Value> goOverSlowly(std::span<const Value> values) {
     return {extremes.min, extremes.max, moments};
 }
 
-template bool goOver(std::span<const float>, ValueRun_s<float>&);
-template bool goOver(std::span<const double>, ValueRun_s<double>&);
-template bool goOver(std::span<const std::int32_t>, ValueRun_s<std::int32_t>&);
+template bool goOver(std::span<const float>, ValueRun_s<float>&, Registers_e);
+template bool goOver(std::span<const double>, ValueRun_s<double>&, Registers_e);
+template bool goOver(std::span<const std::int32_t>, ValueRun_s<std::int32_t>&, Registers_e);
 
 template ValueRun_s<float> goOverSlowly(std::span<const float>);
 template ValueRun_s<double> goOverSlowly(std::span<const double>);

@@ -21,14 +21,18 @@ struct ValueRun_s {
     Moments_s moments;
 };
 
+/// Which registers are used; the result is the same.
+enum class Registers_e : unsigned char { Widest, OfAllMachines };
+
 /// Of one value at least. The result depends on values and order alone, not on the machine. False
 /// if a value may be NaN or infinite; `run` is then of no use.
 template <typename Value>
-bool goOver(std::span<const Value> values, ValueRun_s<Value>& run);
+bool goOver(std::span<const Value> values, ValueRun_s<Value>& run,
+            Registers_e registers = Registers_e::Widest);
 
-extern template bool goOver(std::span<const float>, ValueRun_s<float>&);
-extern template bool goOver(std::span<const double>, ValueRun_s<double>&);
-extern template bool goOver(std::span<const std::int32_t>, ValueRun_s<std::int32_t>&);
+extern template bool goOver(std::span<const float>, ValueRun_s<float>&, Registers_e);
+extern template bool goOver(std::span<const double>, ValueRun_s<double>&, Registers_e);
+extern template bool goOver(std::span<const std::int32_t>, ValueRun_s<std::int32_t>&, Registers_e);
 
 /// The same in long double and one value at a time, for values whose sums or squares overflow
 /// 64-bit reals. All must be finite.

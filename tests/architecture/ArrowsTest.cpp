@@ -63,7 +63,12 @@ const Arrows hostArrows = {
     {"console", {}}, // at the top, used by what people see
     {"describe", {"console", "sdk", "model", "toolkit", "state", "session"}},
     {"app", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
-    {"desktop", {"console", "sdk", "model", "toolkit", "state", "session", "describe"}},
+    {"view", {}}, // these three of the scene, used by the windows
+    {"content", {}},
+    {"stage", {}},
+    {"desktop",
+     {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
+      "stage"}},
 };
 
 /// The rooms of the library, and all that stand below it.
@@ -73,10 +78,12 @@ Arrows libraryArrows() {
         {"read", {"facts", "plot3dfile/bytes"}},
         {"flow", {"facts"}},
         {"example", {}}, // public headers alone
+        {"console/counts", {}},
         {"derive", {"facts", "flow"}},
         {"inspect",
          {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
-          "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection"}},
+          "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection",
+          "console/counts"}},
         {"open",
          {"facts", "read", "inspect", "sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file",
           "dataset/ondemand", "boundary", "addon", "model", "state", "session"}},
@@ -154,8 +161,7 @@ std::string roomOf(const std::string& path, const Arrows& arrows) {
     return room;
 }
 
-std::vector<std::string> quotedIncludes(const fs::path& file) {
-    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+std::vector<std::string> includesLike(const fs::path& file, const std::regex& pattern) {
     std::vector<std::string> includes;
     std::ifstream in(file);
     std::smatch match;
@@ -163,6 +169,11 @@ std::vector<std::string> quotedIncludes(const fs::path& file) {
         if (std::regex_search(line, match, pattern))
             includes.push_back(match[1]);
     return includes;
+}
+
+std::vector<std::string> quotedIncludes(const fs::path& file) {
+    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+    return includesLike(file, pattern);
 }
 
 bool isSource(const fs::path& path) {
@@ -208,6 +219,17 @@ TEST(Arrows, OfTheAddOnGoOneWay) {
 
 TEST(Arrows, OfTheHostGoOneWayAndReachOnlyTheSdkOfTheAddOn) {
     expectNoForbiddenInclude("host", hostArrows);
+}
+
+// The library stands on the host; a program alone may stand on both.
+TEST(Arrows, OfTheHostReachTheLibraryFromItsWindowsAlone) {
+    const std::regex ofTheLibrary("^\\s*#\\s*include\\s*<(plot3d/[^>]+)>");
+    std::set<std::string> rooms;
+    const fs::path root = fs::path(PLOT3D_SOURCE_DIR) / "host";
+    for (const auto& entry : fs::recursive_directory_iterator(root))
+        if (isSource(entry.path()) && !includesLike(entry.path(), ofTheLibrary).empty())
+            rooms.insert(roomOf(fs::relative(entry.path(), root).generic_string(), hostArrows));
+    EXPECT_EQ(rooms, std::set<std::string>{"desktop"});
 }
 
 TEST(Arrows, OfTheLibraryGoOneWay) {

@@ -18,6 +18,8 @@ TEST(Words, NumbersAreGroupedByThousands) {
 TEST(Words, CountsHaveTheirNumber) {
     EXPECT_EQ(counted(1, "zone", "zones"), "1 zone");
     EXPECT_EQ(counted(1200, "zone", "zones"), "1,200 zones");
+    EXPECT_EQ(counted(1, "byte"), "1 byte");
+    EXPECT_EQ(counted(2340, "byte"), "2,340 bytes");
 }
 
 TEST(Words, SizesHaveTwoOrThreeDigits) {

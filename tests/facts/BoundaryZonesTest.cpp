@@ -8,9 +8,9 @@ namespace {
 using Settings = std::vector<std::pair<std::string, std::string>>;
 using Strands = std::vector<std::int32_t>;
 
-const Settings withStrands = {{"ASSIGNSTRANDIDS", "Yes"}};
-const Settings appending = {{"APPEND", "Yes"}};
-const Texts onlyGrid = {"X", "Y", "Z"};
+const Settings onStrands = {{"ASSIGNSTRANDIDS", "Yes"}};
+const Settings appended = {{"APPEND", "Yes"}};
+const Texts coordinates = {"X", "Y", "Z"};
 const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 Settings operator+(Settings settings, const Settings& more) {
@@ -51,7 +51,7 @@ protected:
                 .settings = Settings{{"LOADBOUNDARY", "Yes"}} + more};
     }
     /// With a solution for each time, of values 30 above those of the one before.
-    Load_s series(const Numbers& times, const Settings& more = withStrands) const {
+    Load_s series(const Numbers& times, const Settings& more = onStrands) const {
         Load_s load = grid(more);
         double shift = 0;
         for (const double time : times) {
@@ -72,7 +72,7 @@ protected:
     /// A load of two time steps in which the n-th call of the operation fails; 0: none does.
     void attemptSeries(const Settings& boundaries, const std::string& operation, std::int64_t n) {
         Load_s load = series({0.25, 0.75});
-        load.settings = boundaries + withStrands;
+        load.settings = boundaries + onStrands;
         host().frame().reset();
         host().clearFaults();
         if (n > 0)
@@ -212,9 +212,9 @@ TEST_F(BoundaryZones, HaveTheParentOfTheirTimeStep) {
 const Settings joining = {{"ADDTOEXISTINGSTRANDS", "Yes"}};
 
 TEST_F(BoundaryZones, ThatJoinStrandsFollowOnThatOfTheLastZone) {
-    thereAre(1, onlyGrid);
+    thereAre(1, coordinates);
     writeTwoFaces();
-    expectLoads(grid(appending + withStrands + joining));
+    expectLoads(grid(appended + onStrands + joining));
     EXPECT_EQ(strands(), (Strands{0, 1, 2, 3, 4}));
     EXPECT_EQ(parents(), (Strands{0, 0, 0, 3, 2}));
 }
@@ -222,7 +222,7 @@ TEST_F(BoundaryZones, ThatJoinStrandsFollowOnThatOfTheLastZone) {
 TEST_F(BoundaryZones, ThatJoinThoseOfAnEarlierLoadHaveTheSameStrands) {
     writeTwoFaces();
     expectLoads(series({1}));
-    expectLoads(series({1}, appending + withStrands + joining));
+    expectLoads(series({1}, appended + onStrands + joining));
     EXPECT_EQ(strands(), (Strands{1, 2, 3, 4, 1, 2, 3, 4}));
 }
 
@@ -233,7 +233,7 @@ protected:
         thereAre(1, gridAndSolution);
         zone(1).strandId = 7;
         writeTwoFaces();
-        expectLoads(series({0.25, 0.75}, appending + withStrands + more));
+        expectLoads(series({0.25, 0.75}, appended + onStrands + more));
         return strands();
     }
 };
@@ -250,19 +250,19 @@ TEST_F(StrandsOfBoundaryZones, ThatJoinOthersFollowOnTheLastAndNotTheHighest) {
 TEST_F(BoundaryZones, StandInTheWayOfAppendedFunctions) {
     writeTwoFaces();
     expectLoads(grid());
-    EXPECT_FALSE(load({.functionFiles = {files_.function("a.fun", 2)}, .settings = appending}).ok);
+    EXPECT_FALSE(load({.functionFiles = {files_.function("a.fun", 2)}, .settings = appended}).ok);
     EXPECT_EQ(messages(),
               Texts{"If you are appending function files, you must append one file per existing "
                     "time step already loaded. Also, any existing boundary zones will not allow "
                     "appending function files. You are appending 1 function files with 2 zones "
                     "each and there exist 4 zones."});
-    EXPECT_EQ(variableNames(), onlyGrid);
+    EXPECT_EQ(variableNames(), coordinates);
 }
 
 TEST_F(BoundaryZones, OfAnAppendedGridStandBehindAllZones) {
     thereAre(3, gridAndSolution);
     writeTwoFaces();
-    expectLoads(series({1}, appending));
+    expectLoads(series({1}, appended));
     EXPECT_EQ(parents(), (Strands{0, 0, 0, 0, 0, 5, 4}));
     expectShows(6, 1, symmetryPart);
     expectShows(7, 0, inletPart);

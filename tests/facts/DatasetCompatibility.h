@@ -14,7 +14,7 @@ namespace quorvia::testsupport {
 using Settings = std::vector<std::pair<std::string, std::string>>;
 
 const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
-const Settings appending = {{"APPEND", "Yes"}};
+const Settings onto = {{"APPEND", "Yes"}};
 
 class DatasetCompatibility : public LoadedAddOnTest {
 protected:
@@ -44,9 +44,7 @@ protected:
     Load_s solution(const Settings& settings = {}) const {
         return {.solutionFiles = {files_.solution("a.q", 1)}, .settings = settings};
     }
-    Load_s appendedGrid() const {
-        return {.gridFiles = {files_.grid("a.x")}, .settings = appending};
-    }
+    Load_s appendedGrid() const { return {.gridFiles = {files_.grid("a.x")}, .settings = onto}; }
     Load_s appendedGridAndSolution() const {
         Load_s load = appendedGrid();
         load.solutionFiles = solution().solutionFiles;

@@ -22,7 +22,7 @@ TEST_F(DatasetCompatibility, WantsADataSet) {
 TEST_F(DatasetCompatibility, WantsADataSetToAppendTo) {
     const Texts told = {"Cannot append without an existing data set."};
     EXPECT_EQ(refusalOf(appendedGrid()), told);
-    EXPECT_EQ(refusalOf(solution(appending)), told);
+    EXPECT_EQ(refusalOf(solution(onto)), told);
 }
 
 TEST_F(DatasetCompatibility, WantsTheHostsAnswer) {
@@ -68,7 +68,7 @@ TEST_F(DatasetCompatibility, AppendsToASolutionInTheCells) {
     for (const bool hasGrid : {true, false}) {
         thereAre(2, gridAndSolution);
         makeCellCentred(2, 7);
-        EXPECT_EQ(zonesAfter(hasGrid ? appendedGrid() : solution(appending)),
+        EXPECT_EQ(zonesAfter(hasGrid ? appendedGrid() : solution(onto)),
                   (Texts{"old", "old", hasGrid ? "a.x:1" : "a.q:1"}));
     }
 }
@@ -138,7 +138,7 @@ TEST_F(LineOfCompatibility, BringsItsSolutionIntoAPlane) {
     QuorUtilLockOn();
     makeZone(7, 1, 1);
     QuorUtilLockOff();
-    EXPECT_EQ(zonesAfter(solution(appending)), Texts{"a.q:1"});
+    EXPECT_EQ(zonesAfter(solution(onto)), Texts{"a.q:1"});
 }
 
 TEST_F(DatasetCompatibility, AppendsAGridToAnyNumberOfVariables) {
@@ -186,7 +186,7 @@ TEST_F(DatasetCompatibility, WantsAZoneForEachGridOfASolution) {
                         "of zones (1) than the number of grids retrieved from in the solution "
                         "files (2)."};
     EXPECT_EQ(refusalOf(solution()), told);
-    EXPECT_EQ(refusalOf(solution(appending)), told);
+    EXPECT_EQ(refusalOf(solution(onto)), told);
 }
 
 TEST_F(DatasetCompatibility, TakesNoFunctionsThatPassForASolution) {
@@ -220,7 +220,7 @@ TEST_F(DatasetCompatibility, CountsTheIBlankThatIsThere) {
 // a line's is joined by loading the grid once more.
 TEST_F(DatasetCompatibility, DoesNotAppendASolutionToALoneGridOfThreeDimensions) {
     thereAre(1, onlyGrid);
-    EXPECT_EQ(refusalOf(solution(appending)), variableFault(3, 8));
+    EXPECT_EQ(refusalOf(solution(onto)), variableFault(3, 8));
 }
 
 TEST_F(DatasetCompatibility, ComparesTheLastZones) {
@@ -230,7 +230,7 @@ TEST_F(DatasetCompatibility, ComparesTheLastZones) {
         makeZone(2, 3, k);
     QuorUtilLockOff();
     files_.grids = {{2, 3, 5}, {2, 3, 5}, {2, 3, 7}};
-    EXPECT_EQ(refusalOf(solution(appending)), Texts{sizeFault(6, 3)});
+    EXPECT_EQ(refusalOf(solution(onto)), Texts{sizeFault(6, 3)});
     files_.grids = {{2, 3, 7}, {2, 3, 5}, {2, 3, 5}};
     EXPECT_EQ(refusalOf(solution()), Texts{sizeFault(4, 1)});
 }

@@ -53,7 +53,7 @@ TEST_F(ZonesOfElements, OfOtherTypesAreNotCompared) {
 TEST_F(ZonesOfElements, OfOtherTypesDoNotGiveTheirsToNewZones) {
     for (const std::int32_t type : {otherElements, std::int32_t{QuorZoneType_Ordered}}) {
         thereIsAZoneOf(type);
-        const Load_s load = solutionOf(7, appending);
+        const Load_s load = solutionOf(7, onto);
         host().clearLog();
         EXPECT_FALSE(LoadedAddOnTest::load(load).ok);
         EXPECT_TRUE(host().log().undo.empty());

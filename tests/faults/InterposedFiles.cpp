@@ -18,12 +18,12 @@ using namespace quorvia::testsupport;
 
 namespace {
 
-constinit std::string gWatchedFolder; // files are opened before static objects are made
+constinit const std::string* gWatchedFolder = nullptr; // opens come before static objects are made
 constexpr int descriptorCount = 1024;
 std::bitset<descriptorCount> gWatched; // open descriptors of watched files
 
 bool isWatched(const char* path) {
-    return !gWatchedFolder.empty() && std::string_view(path).starts_with(gWatchedFolder);
+    return gWatchedFolder != nullptr && std::string_view(path).starts_with(*gWatchedFolder);
 }
 
 bool isWatched(int descriptor) {
@@ -80,7 +80,9 @@ ssize_t readWatched(Read readNow) {
 namespace quorvia::testsupport {
 
 void watchFilesOf(const std::string& folder) {
-    gWatchedFolder = folder;
+    static std::string watched;
+    watched = folder;
+    gWatchedFolder = &watched;
 }
 
 } // namespace quorvia::testsupport

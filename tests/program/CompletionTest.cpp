@@ -1,6 +1,7 @@
-// What bash offers for a command line that is being typed.
+// What bash and zsh offer for a command line that is being typed.
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -23,6 +24,26 @@ std::string offered(const std::string& line) {
         text += block.data();
     EXPECT_EQ(pclose(pipe), 0);
     return text;
+}
+
+/// The line after the tab key.
+std::string completedByZsh(const std::string& line) {
+    const std::string command = "zsh -f " COMPLETE_SCRIPT " " PLOT3D_PROGRAM " '" + line + "'";
+    std::string text;
+    FILE* pipe = popen(command.c_str(), "r");
+    for (int letter = fgetc(pipe); letter != EOF; letter = fgetc(pipe))
+        text += static_cast<char>(letter);
+    EXPECT_EQ(pclose(pipe), 0);
+    return text;
+}
+
+TEST(Completion, OfZshCompletesWhatThereIsOneOf) {
+    if (std::system("command -v zsh >/dev/null") != 0)
+        GTEST_SKIP() << "there is no zsh";
+    EXPECT_EQ(completedByZsh("plot3d inf"), "plot3d info ");
+    EXPECT_EQ(completedByZsh("plot3d info --wh"), "plot3d info --why ");
+    EXPECT_EQ(completedByZsh("plot3d stats --blank k"), "plot3d stats --blank keep ");
+    EXPECT_EQ(completedByZsh("plot3d --ver"), "plot3d --version ");
 }
 
 TEST(Completion, OffersCommands) {

@@ -59,6 +59,14 @@ TEST_F(InfoJson, NullStandsWhereAThingHasNoMeaning) {
         EXPECT_TRUE(bad.at(key).is_null()) << key;
 }
 
+TEST_F(InfoJson, EndsBehindTheLastWholeFileWhereItIsStopped) {
+    stoppedBehind = "multi.x";
+    const Json all = Json::parse(told({"--json", "comb.q", "multi.x", "my blunt.q"}));
+    EXPECT_EQ(code, 130);
+    ASSERT_EQ(all.at("files").size(), 2U);
+    EXPECT_EQ(all.at("files").at(1).at("file"), "multi.x");
+}
+
 TEST_F(InfoJson, OfAProblem) {
     EXPECT_EQ(first({"--json", "my blunt.q"}).at("problem"), Json::parse(R"({
         "what": "484 bytes too many", "byte": 819228, "line": null, "column": null,

@@ -136,6 +136,38 @@ TEST_F(InfoText, WhyShowsEachReadingIfAllIsWanted) {
     EXPECT_NE(text.find(", longer records allowed  none: fits\n"), std::string::npos);
 }
 
+/// As many as of a file of unknown kind, each with a misfit of its own; that of number 7 of a kind
+/// is furthest behind.
+std::vector<Trial> manyTrials() {
+    std::vector<Trial> trials;
+    for (const FileKind kind : {FileKind::Grid, FileKind::Solution})
+        for (std::int64_t number = 1; number <= 20; ++number) {
+            Misfit misfit;
+            misfit.what = "misfit " + std::to_string(number);
+            misfit.byte = number == 7 ? 1000 : 8;
+            trials.push_back({{}, misfit});
+            trials.back().candidate.kind = kind;
+        }
+    return trials;
+}
+
+TEST_F(InfoText, WhyShowsTheNearestReadingsOfEachKind) {
+    files["my blunt.q"].trials = manyTrials();
+    const std::string text = told({"--why", "my blunt.q"});
+    for (const char* const shown : {"misfit 1 ", "misfit 4 ", "misfit 7 "})
+        EXPECT_NE(text.find(shown), std::string::npos) << text;
+    EXPECT_EQ(text.find("misfit 5 "), std::string::npos);
+    EXPECT_NE(text.find("    ...  15 more as a grid file "), std::string::npos) << text;
+    EXPECT_NE(text.find("    ...  15 more as a solution file "), std::string::npos);
+}
+
+TEST_F(InfoText, WhyShowsAllReadingsIfAllIsWanted) {
+    files["my blunt.q"].trials = manyTrials();
+    const std::string text = told({"--why", "--all", "my blunt.q"});
+    EXPECT_NE(text.find("misfit 20 "), std::string::npos);
+    EXPECT_EQ(text.find("..."), std::string::npos);
+}
+
 TEST_F(InfoText, AKindCanBeGiven) {
     told({"--as", "function", "comb.q"});
     EXPECT_EQ(asked.front().as, FileKind::Function);

@@ -61,6 +61,18 @@ TEST_F(PagesTest, UsageNamesWhatMustBeGiven) {
     EXPECT_EQ(usageOf(DeclaredCommand(sorting).page()), "[OPTION]... -o FILE FILE...");
 }
 
+class Comparing : public Sorting {
+public:
+    void declare(CLI::App& app) override {
+        addFiles(app, files, "What is compared")->type_name("FILE -- FILE");
+    }
+};
+
+TEST_F(PagesTest, UsageNamesListsOfFilesAsTheCommandDoes) {
+    Comparing comparing;
+    EXPECT_EQ(usageOf(DeclaredCommand(comparing).page()), "[OPTION]... FILE -- FILE");
+}
+
 TEST_F(PagesTest, OptionsAreForUsers) {
     const CommandPage_s page = DeclaredCommand(sorting).page();
     ASSERT_GE(page.options.size(), 4U);

@@ -1,6 +1,7 @@
 // All of the library.
 #pragma once
 
+#include <plot3d/AddOn.h>
 #include <plot3d/Box.h>
 #include <plot3d/DataSet.h>
 #include <plot3d/Derived.h>

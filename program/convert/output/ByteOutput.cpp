@@ -15,16 +15,23 @@ namespace plot3d::program {
 namespace {
 constexpr std::size_t bufferBytes = std::size_t{1} << 18;
 constexpr mode_t asTheUserHasIt = 0666;
+
+int openedForWriting(const std::filesystem::path& path) {
+    if (path == "/dev/stdout") // which may be a file with something in it already
+        return fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+    // To truncate an empty file would make some file systems write it out when it is closed.
+    std::error_code ignored; // what can't be looked at can't be opened either
+    const auto size = std::filesystem::file_size(path, ignored);
+    const int truncates = !ignored && size > 0 ? O_TRUNC : 0;
+    return open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | truncates, asTheUserHasIt);
+}
+
 } // namespace
 
 ByteOutput::ByteOutput(const std::filesystem::path& path, std::string shownName)
     : shownName_(std::move(shownName)) {
     buffer_.reserve(bufferBytes);
-    // To truncate an empty file would make some file systems write it out when it is closed.
-    std::error_code ignored; // what can't be looked at can't be opened either
-    const auto size = std::filesystem::file_size(path, ignored);
-    const int truncates = !ignored && size > 0 ? O_TRUNC : 0;
-    file_ = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | truncates, asTheUserHasIt);
+    file_ = openedForWriting(path);
     if (file_ < 0)
         fail();
 }
@@ -35,10 +42,11 @@ ByteOutput::~ByteOutput() {
 }
 
 void ByteOutput::write(const void* bytes, std::size_t count) {
-    if (buffer_.size() + count > bufferBytes)
-        flush();
+    const bool goesThrough = count > bufferBytes / 2;
+    if (goesThrough || buffer_.size() + count > bufferBytes)
+        flush(); // what came before stands ahead of it
     const auto* const first = static_cast<const char*>(bytes);
-    if (count > bufferBytes / 2)
+    if (goesThrough)
         writeThrough(first, count);
     else
         buffer_.insert(buffer_.end(), first, first + count);

@@ -14,7 +14,8 @@ namespace plot3d::program {
 
 class ByteOutput {
 public:
-    /// Begins the file `path` anew. Failures name `shownName`, the file that the user asked for.
+    /// Begins the file `path` anew; /dev/stdout goes on where it is, whatever it is. Failures name
+    /// `shownName`, the file that the user asked for.
     /// This and all else throws Error (Refused) with the system's reason.
     ByteOutput(const std::filesystem::path& path, std::string shownName);
     /// Without finish() the file may be incomplete, and nobody is told.

@@ -35,6 +35,13 @@ const std::vector<FormatFacts_s>& formats() {
     return all;
 }
 
+std::string wordOf(Format_e format) {
+    for (const FormatFacts_s& facts : formats())
+        if (facts.format == format)
+            return facts.word;
+    return {};
+}
+
 std::optional<Format_e> formatOfWord(std::string_view word) {
     for (const FormatFacts_s& facts : formats())
         if (lowerCase(word) == facts.word)

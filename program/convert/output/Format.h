@@ -18,6 +18,8 @@ struct FormatFacts_s {
 
 const std::vector<FormatFacts_s>& formats();
 
+/// The word of --to.
+std::string wordOf(Format_e format);
 /// By word; case does not count.
 std::optional<Format_e> formatOfWord(std::string_view word);
 /// By the extension of a file's name; case does not count.

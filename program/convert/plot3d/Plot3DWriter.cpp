@@ -4,6 +4,8 @@
 #include <list>
 #include <regex>
 
+#include <plot3d/Error.h>
+
 #include "convert/plot3d/FileSet.h"
 #include "manners/ResultFile.h"
 
@@ -54,10 +56,24 @@ void noteText(const FilePlan_s& file, std::vector<std::string>& notes) {
         notes.push_back("text does not tell all of itself; to load it add" + settings);
 }
 
+/// Through standard output or a pipe goes one file, which has no other name.
+std::vector<FilePlan_s> plansFor(const Contents& contents, const Target_s& target) {
+    std::vector<FilePlan_s> plans = planFiles(contents, target);
+    if (!isStream(target.path))
+        return plans;
+    if (plans.size() > 1)
+        throw Error(ErrorKind::Unsupported,
+                    "these are " + std::to_string(plans.size()) +
+                        " PLOT3D files, and standard output or a pipe takes one",
+                    {.next = "-o and the name of a file, from which those of the others are made"});
+    plans.front().path = target.path;
+    return plans;
+}
+
 } // namespace
 
 Written_s Plot3DWriter::write(Contents& contents, const Target_s& target) {
-    const std::vector<FilePlan_s> plans = planFiles(contents, target);
+    const std::vector<FilePlan_s> plans = plansFor(contents, target);
     Written_s written;
     noteBoundaries(contents, written.notes);
     noteNames(contents, plans, written.notes);

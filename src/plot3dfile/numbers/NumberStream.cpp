@@ -5,6 +5,7 @@
 
 #include "plot3dfile/numbers/BinaryRuns.h"
 #include "plot3dfile/numbers/RealToken.h"
+#include "plot3dfile/numbers/ShortDecimal.h"
 
 namespace quorvia::quorutildataio {
 
@@ -139,10 +140,28 @@ const char* convertUnusualReal(const char* token, const char* windowEnd, double&
     return convertRealToken(text.view(), value) ? end : nullptr;
 }
 
-const char* convertWholeReal(const char* token, const char* windowEnd, double& value) {
-    const char* end = convertPlainReal(token, windowEnd, value);
-    return end != nullptr ? end : convertUnusualReal(token, windowEnd, value);
-}
+// Converts the tokens of a window, most of which look alike: where short decimals are rare none are
+// tried for.
+class WindowConverter {
+public:
+    explicit WindowConverter(const char* windowEnd) : windowEnd_(windowEnd) {}
+
+    /// Gives the token's end, inside the window and a separator, or null.
+    const char* convert(const char* token, double& value) {
+        if (misses_ < mostMisses && windowEnd_ - token >= roomOfShortDecimal) {
+            if (const char* const end = convertShortDecimal(token, value))
+                return end;
+            ++misses_;
+        }
+        const char* end = convertPlainReal(token, windowEnd_, value);
+        return end != nullptr ? end : convertUnusualReal(token, windowEnd_, value);
+    }
+
+private:
+    static constexpr int mostMisses = 64;
+    const char* windowEnd_;
+    int misses_ = 0;
+};
 
 } // namespace
 
@@ -187,11 +206,12 @@ std::int64_t readPlainReals(Plot3DFile_s& file, std::int64_t count, double* valu
         return 0;
     const FileStream::Window_s window = file.stream->window();
     const char* next = window.begin;
+    WindowConverter converter(window.end);
     std::int64_t delivered = 0;
     for (const char* token = next; delivered < count; ++delivered) {
         while (token < window.end && isSeparator(*token))
             ++token;
-        const char* end = convertWholeReal(token, window.end, values[delivered]);
+        const char* end = converter.convert(token, values[delivered]);
         if (end == nullptr)
             break;
         token = next = end + 1;

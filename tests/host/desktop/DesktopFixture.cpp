@@ -1,22 +1,21 @@
 #include "host/desktop/DesktopFixture.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <sstream>
 #include <stdexcept>
+
+#include <dlfcn.h>
 
 #include <QApplication>
 #include <QSettings>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
 
+#include "host/desktop/Patience.h"
 #include "plot3dsample/Run.h"
 
 namespace quorvia::host {
-namespace {
-
-constexpr int patience = 10000; // milliseconds for each step
-
-} // namespace
-
 void DesktopTest::SetUp() {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                        QString::fromStdString(directory_.file("settings")));
@@ -34,7 +33,7 @@ void DesktopTest::TearDown() {
             modal->close(); // the guest would wait for its answer for ever
             QTest::qWait(0);
         }
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->session().isBusy(); }, patience));
+        EXPECT_TRUE(comesTrue([this] { return !window_->session().isBusy(); }));
     }
     EXPECT_EQ(window_->session().takeViolations(), std::vector<std::string>());
     window_.reset();
@@ -62,7 +61,7 @@ void DesktopTest::waitUntilDone() {
     while (!isDone() && goesOn) {
         const int before = person_.doneCount();
         const auto hasGoneOn = [&] { return isDone() || person_.doneCount() != before; };
-        goesOn = QTest::qWaitFor(hasGoneOn, patience);
+        goesOn = comesTrue(hasGoneOn);
     }
     if (!goesOn)
         ADD_FAILURE() << "the person waits in vain for: " << person_.waitsFor();
@@ -108,6 +107,14 @@ std::vector<float> DesktopTest::values(std::int32_t zone, std::int32_t variable)
         throw std::runtime_error("no such field of 32-bit reals: " + fetched.error);
     const auto* first = static_cast<const float*>(fetched.values);
     return {first, first + fetched.count};
+}
+
+std::ptrdiff_t DesktopTest::loaderCount(const std::string& library) {
+    return std::ranges::count_if(host().loaders(), [&library](const Loader_s& loader) {
+        Dl_info info = {};
+        return dladdr(reinterpret_cast<const void*>(loader.load), &info) != 0 &&
+               std::filesystem::path(info.dli_fname).filename() == library;
+    });
 }
 
 QTreeWidgetItem* DesktopTest::treeItem(const QString& name) {

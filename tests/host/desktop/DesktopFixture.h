@@ -1,6 +1,7 @@
 // The program's window with the built add-on, a directory of sample data, and a person.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,7 +27,8 @@ protected:
     const testsupport::TemporaryDirectory& directory() const { return directory_; }
     std::string file(const std::string& name) const { return directory_.file(name); }
 
-    /// Closes the window, and opens another one as a later run of the program would.
+    /// Closes the window, and opens another one as a later run of the program would. An empty path
+    /// stands for the add-on that is linked in.
     void openWindow(const std::string& addOnPath = PLOT3D_ADDON_PATH,
                     const std::vector<std::string>& files = {});
     /// The same, without waiting until the add-on is open.
@@ -47,6 +49,9 @@ protected:
 
     /// From the host, whatever the tree shows.
     static std::vector<float> values(std::int32_t zone, std::int32_t variable);
+    /// The host's loaders whose code lies in the library of that file name. The one that is linked
+    /// in stays for good.
+    static std::ptrdiff_t loaderCount(const std::string& library);
     /// Names of the items from the root down to the text asked for, as the tree shows them.
     QTreeWidgetItem* treeItem(const QString& name);
 

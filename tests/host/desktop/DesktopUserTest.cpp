@@ -9,6 +9,7 @@
 
 #include "desktop/GuestWindows.h"
 #include "desktop/GuestWork.h"
+#include "host/desktop/Patience.h"
 #include "host/desktop/Person.h"
 
 namespace quorvia::host {
@@ -50,7 +51,7 @@ protected:
                 next = actions_.take(launch);
             },
             [](const std::string& failure) { EXPECT_EQ(failure, ""); });
-        EXPECT_TRUE(QTest::qWaitFor([&guest] { return !guest.isRunning(); }));
+        EXPECT_TRUE(comesTrue([&guest] { return !guest.isRunning(); }));
         return next ? std::get<PressButton_s>(*next).button : 0;
     }
 

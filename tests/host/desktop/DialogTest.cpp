@@ -154,9 +154,7 @@ TEST_F(LoadDialogTest, HelpLeavesAHalfTypedFieldAsItIs) {
         return false;
     });
     person().inDialog("the field", [](QDialog& dialog) {
-        QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
-        fields.removeIf([](const QLineEdit* each) { return !each->isVisible(); });
-        EXPECT_EQ(fields.at(iStart)->text(), QStringLiteral("abc"));
+        EXPECT_EQ(visibleField(dialog, iStart)->text(), QStringLiteral("abc"));
     });
     press("Cancel");
     begin();

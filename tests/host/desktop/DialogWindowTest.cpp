@@ -15,6 +15,7 @@
 #include <QTest>
 
 #include "desktop/ControlNames.h"
+#include "host/desktop/Patience.h"
 #include "host/desktop/Person.h"
 
 namespace quorvia::host {
@@ -93,9 +94,6 @@ protected:
     }
     QPushButton& button(const char* text) {
         return *qobject_cast<QPushButton*>(namedWidget(window_, QLatin1String(text)));
-    }
-    static bool comesToTheFront(const QWidget& window) {
-        return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
     }
     std::size_t toldCount() const { return told_.size(); }
     template <typename Action>

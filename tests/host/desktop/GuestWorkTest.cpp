@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QTest>
+#include "host/desktop/Patience.h"
 
 namespace quorvia::host {
 namespace {
@@ -15,7 +15,7 @@ std::string failureOf(GuestWork::Work work) {
     GuestWork guest;
     std::string told = "nothing yet";
     guest.start(std::move(work), [&told](const std::string& failure) { told = failure; });
-    EXPECT_TRUE(QTest::qWaitFor([&guest] { return !guest.isRunning(); }));
+    EXPECT_TRUE(comesTrue([&guest] { return !guest.isRunning(); }));
     return told;
 }
 

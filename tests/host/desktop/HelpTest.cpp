@@ -8,6 +8,7 @@
 #include <QTextBrowser>
 
 #include "host/desktop/DesktopFixture.h"
+#include "host/desktop/Patience.h"
 
 namespace quorvia::host {
 namespace {
@@ -34,7 +35,7 @@ TEST_F(HelpTest, MenuOpensThePageOnImporting) {
 TEST_F(HelpTest, PageBeginsAtTheTarget) {
     choose(QStringLiteral("Importing PLOT3D Files"));
     auto* bar = helpWindow()->findChild<QTextBrowser*>()->verticalScrollBar();
-    EXPECT_TRUE(QTest::qWaitFor([bar] { return bar->value() > 0; }));
+    EXPECT_TRUE(comesTrue([bar] { return bar->value() > 0; }));
 }
 
 TEST_F(HelpTest, OneWindowIsOpenAtATime) {

@@ -19,6 +19,7 @@
 
 #include "desktop/MessageBoxes.h"
 #include "host/desktop/DesktopFixture.h"
+#include "host/desktop/Patience.h"
 
 namespace quorvia::host {
 namespace {
@@ -60,7 +61,7 @@ protected:
             isBusy = window().session().isBusy();
             window().close();
         });
-        EXPECT_TRUE(QTest::qWaitFor([&isBusy] { return isBusy; }));
+        EXPECT_TRUE(comesTrue([&isBusy] { return isBusy; }));
     }
     void answerDrop(const char* button) {
         person().then("the question of a drop", [button] {
@@ -72,9 +73,9 @@ protected:
         });
     }
     /// An action may stand in the tool bar as well.
-    static QMenu* menuOf(const QAction& action) {
-        for (QObject* object : action.associatedObjects())
-            if (auto* menu = qobject_cast<QMenu*>(object))
+    QMenu* menuOf(QAction& action) {
+        for (QMenu* menu : window().findChildren<QMenu*>())
+            if (menu->actions().contains(&action))
                 return menu;
         return nullptr;
     }
@@ -213,7 +214,7 @@ TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenImportsNothing) {
     writeSample({"vortex", "--steps", "1", "--size", "7x5"});
     startWindow(PLOT3D_ADDON_PATH, files({"vortex.x", "vortex_t0.00.q"}));
     closeOnceBusy();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !window().isVisible(); }));
+    EXPECT_TRUE(comesTrue([this] { return !window().isVisible(); }));
     EXPECT_FALSE(window().session().isBusy());
     EXPECT_EQ(host().frame().dataSet(), nullptr);
 }
@@ -221,7 +222,7 @@ TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenImportsNothing) {
 TEST_F(ImportTest, WindowThatIsClosedBeforeTheAddOnIsOpenTellsNoFault) {
     startWindow(directory().file("nowhere.so"), {});
     closeOnceBusy();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window().isReady(); }));
+    EXPECT_TRUE(comesTrue([this] { return window().isReady(); }));
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(person().boxTexts(), std::vector<std::string>());
 }
@@ -234,20 +235,20 @@ TEST_F(ImportTest, EndOfTheProgramWaitsForAnImport) {
         isLoading = true;
         std::this_thread::sleep_for(std::chrono::milliseconds(20)); // as on a slow disk
     };
-    ASSERT_TRUE(QTest::qWaitFor([&isLoading] { return isLoading.load(); }));
+    ASSERT_TRUE(comesTrue([&isLoading] { return isLoading.load(); }));
     destroyWindow();
-    EXPECT_TRUE(host().loaders().empty());
+    EXPECT_EQ(loaderCount("plot3dloader.so"), 0);
     EXPECT_EQ(host().frame().dataSet(), nullptr);
 }
 
 TEST_F(ImportTest, EndOfTheProgramAnswersForTheUser) {
     directory().write("broken.x", "no numbers");
     startWindow(PLOT3D_ADDON_PATH, files({"broken.x"}));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window().session().loader().has_value(); }));
+    ASSERT_TRUE(comesTrue([this] { return window().session().loader().has_value(); }));
     constexpr auto untilItIsRefused = std::chrono::milliseconds(300);
     std::this_thread::sleep_for(untilItIsRefused); // no window is awake to tell it
     destroyWindow();
-    EXPECT_TRUE(host().loaders().empty());
+    EXPECT_EQ(loaderCount("plot3dloader.so"), 0);
 }
 
 TEST_F(ImportTest, LongMessageStaysOnTheScreen) {

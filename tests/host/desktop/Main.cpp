@@ -3,8 +3,10 @@
 #include <QApplication>
 
 #include "desktop/DesktopStyle.h"
+#include "desktop/view/DataSetView.h"
 
 int main(int argc, char** argv) {
+    quorvia::host::prepareViews();
     QApplication application(argc, argv);
     QApplication::setStyle(new quorvia::host::DesktopStyle);
     QApplication::setQuitOnLastWindowClosed(false);

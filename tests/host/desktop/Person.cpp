@@ -99,6 +99,13 @@ QWidget* namedWidget(QWidget& window, const QString& name, int which) {
     return nullptr;
 }
 
+QLineEdit* visibleField(QWidget& window, int which) {
+    for (QLineEdit* field : window.findChildren<QLineEdit*>())
+        if (field->isVisible() && which-- == 0)
+            return field;
+    return nullptr;
+}
+
 void click(QWidget& widget) {
     constexpr int onTheMark = 8;
     const QPoint where =
@@ -198,9 +205,7 @@ void Person::clickInDialog(const QString& text, int which) {
 
 void Person::typeInto(int field, const QString& text, Leave_e leave) {
     inDialog("field " + std::to_string(field), [field, text, leave](QDialog& dialog) {
-        QList<QLineEdit*> fields = dialog.findChildren<QLineEdit*>();
-        fields.removeIf([](const QLineEdit* each) { return !each->isVisible(); });
-        QLineEdit* const edit = fields.at(field);
+        QLineEdit* const edit = visibleField(dialog, field);
         click(*edit);
         edit->selectAll();
         QTest::keyClicks(edit, text);

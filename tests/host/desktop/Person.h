@@ -10,6 +10,7 @@
 
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
@@ -72,6 +73,9 @@ QDialog* guestDialog();
 /// The visible widget of the kind and accessible name, the `which`-th from 0; null if there is
 /// none.
 QWidget* namedWidget(QWidget& window, const QString& name, int which = 0);
+
+/// The `which`-th text field that can be seen, from 0; null if there are not as many.
+QLineEdit* visibleField(QWidget& window, int which);
 
 /// Clicks with the left button in the widget's middle; a check box or radio button on its mark.
 void click(QWidget& widget);

@@ -53,9 +53,9 @@ TEST_F(RealFiles, TellsWhatStandsBehindARefusedSolution) {
     EXPECT_EQ(firstGrid(info), (GridSize{40, 32, 32}));
     EXPECT_EQ(info.bytes.surplus, 484);
     EXPECT_EQ(problemOf(info), "484 of 819,712 bytes stand behind the last grid.");
-    EXPECT_EQ(nextOf(*info.problem, info),
-              "plot3d stats --solution FILE --set AUTODETECT=No --set DATASTRUCTURE=3DW --set "
-              "STYLE=PLOT3DCLASSIC --set ISMULTIGRID=No");
+    EXPECT_EQ(nextOf(*info.problem, info), "plot3d stats --grid GRID --solution FILE --set "
+                                           "AUTODETECT=No --set DATASTRUCTURE=3DW --set "
+                                           "STYLE=PLOT3DCLASSIC --set ISMULTIGRID=No");
 }
 
 } // namespace

@@ -70,9 +70,9 @@ TEST_F(SpoiltBinary, WithBytesBehindItIsRefusedAndDescribedByHand) {
     EXPECT_EQ(info.bytes.surplus, 10);
     EXPECT_EQ(problemOf(info), "10 of 638 bytes stand behind the last grid.");
     EXPECT_EQ(info.problem->misfit.byte, std::ssize(good));
-    EXPECT_EQ(nextOf(*info.problem, info),
-              "plot3d stats --solution FILE --set AUTODETECT=No --set DATASTRUCTURE=3DW --set "
-              "STYLE=PLOT3DCLASSIC --set ISMULTIGRID=No");
+    EXPECT_EQ(nextOf(*info.problem, info), "plot3d stats --grid GRID --solution FILE --set "
+                                           "AUTODETECT=No --set DATASTRUCTURE=3DW --set "
+                                           "STYLE=PLOT3DCLASSIC --set ISMULTIGRID=No");
 }
 
 TEST_F(SpoiltBinary, OfLongRealsWithBytesBehindThemMustBeCut) {
@@ -187,7 +187,7 @@ TEST_F(SpoiltBinary, SolutionGivenAsAGridIsToldSo) {
         const FileInfo info = inspectSpoilt(solutionBytes(encoding));
         EXPECT_EQ(problemOf(info) + warningOf(info), "As a solution file all its bytes are used.");
         const FileProblem& problem = info.problem ? *info.problem : info.warnings.front();
-        EXPECT_EQ(nextOf(problem, info), "plot3d stats --solution FILE");
+        EXPECT_EQ(nextOf(problem, info), "plot3d stats --grid GRID --solution FILE");
     }
 }
 

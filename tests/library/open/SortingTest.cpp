@@ -1,4 +1,6 @@
 // How files that are named together become lists by kind.
+#include <fstream>
+
 #include "SeriesFixture.h"
 
 namespace plot3dtest {
@@ -43,6 +45,15 @@ TEST_F(Sorting, RefusesAFileThatIsOfNoKind) {
     EXPECT_EQ(error.kind(), ErrorKind::NotPlot3D);
     EXPECT_EQ(error.facts().file, file("notes.txt"));
     EXPECT_FALSE(error.facts().next.empty());
+}
+
+TEST_F(Sorting, NamesTheGridInTheCommandForASolutionThatIsOfNoKind) {
+    const auto solution = writeStep("wing.bin", FileKind_e::ClassicSolution, 1, 0.25, plainForm());
+    std::ofstream(solution, std::ios::binary | std::ios::app) << "and more of it";
+    const auto grid = writeGrid("mesh.bin");
+    const std::string next = failureOf({solution, grid}).facts().next;
+    EXPECT_TRUE(next.starts_with("plot3d stats --grid " + grid + " --solution " + solution))
+        << next;
 }
 
 TEST_F(Sorting, NamesTheFileOfASeriesThatIsBad) {
@@ -92,6 +103,30 @@ TEST_F(Sorting, RefusesWordsThatNoLoadTakes) {
     plot3d::OpenOptions options;
     options.instructions = {{"STYLE", "NONE"}};
     EXPECT_THROW(DataSet::open({writeGrid()}, options), plot3d::Error);
+}
+
+/// What stood behind them was left out, without a word.
+TEST_F(Sorting, RefusesInstructionsThatThereAreNot) {
+    plot3d::OpenOptions options;
+    options.instructions = {{"ASCIIISDUBLE", "Yes"}};
+    const auto error = failureOf({writeGrid()}, options);
+    EXPECT_EQ(error.kind(), ErrorKind::Usage);
+    EXPECT_EQ(error.message(), "There is no load instruction \"ASCIIISDUBLE\"");
+    EXPECT_NE(error.facts().expected.find(", ASCIIISDOUBLE, "), std::string::npos);
+    options.instructions = {{"-iset", "1,2,1"}}; // of older lists
+    EXPECT_NO_THROW(DataSet::open({writeGrid()}, options));
+}
+
+TEST_F(Sorting, RefusesInstructionsThatAreNeitherYesNorNo) {
+    plot3d::OpenOptions options;
+    options.instructions = {{"AsciiIsDouble", "Yse"}};
+    EXPECT_EQ(failureOf({writeGrid()}, options).kind(), ErrorKind::Usage);
+    options.instructions = {{"FILELIST_GRIDFILES", "1"}};
+    EXPECT_EQ(failureOf({writeGrid()}, options).kind(), ErrorKind::Usage);
+    for (const char* const word : {"yes", "No", "t", "FALSE"}) {
+        options.instructions = {{"AsciiIsDouble", word}};
+        EXPECT_NO_THROW(DataSet::open({writeGrid()}, options)) << word;
+    }
 }
 
 } // namespace

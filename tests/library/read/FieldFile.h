@@ -32,6 +32,9 @@ std::vector<double> expectedReals(const plot3d::Extent& size, const plot3d::Box&
 plot3d::ByteOrder machineOrder();
 plot3d::ByteOrder otherOrder();
 
+/// A field of odd numbers of points, of which every test that needs just some takes this.
+inline constexpr plot3d::Extent smallField{7, 5, 3};
+
 struct FieldFile_s {
     plot3d::Extent size;
     plot3d::ValueType type = plot3d::ValueType::Float32;

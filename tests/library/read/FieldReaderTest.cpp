@@ -21,8 +21,6 @@ using plot3d::FieldReader;
 using plot3d::Source;
 using plot3d::ValueType;
 
-constexpr Extent size{7, 5, 3};
-
 std::optional<Error> errorOf(const std::function<void()>& work) {
     try {
         work();
@@ -40,11 +38,12 @@ std::optional<ErrorKind> kindOf(const std::function<void()>& work) {
 class FieldReaderTest : public ::testing::Test {
 protected:
     FieldReader readerOf(ValueType type) {
-        return {FieldFile_s{size, type, otherOrder(), {}, false}.write(directory_), size};
+        return {FieldFile_s{smallField, type, otherOrder(), {}, false}.write(directory_),
+                smallField};
     }
     std::optional<ErrorKind> kindOfRead(const Box& box) {
         const FieldReader reader = readerOf(ValueType::Float32);
-        std::vector<float> room(static_cast<std::size_t>(size.count()));
+        std::vector<float> room(static_cast<std::size_t>(smallField.count()));
         return kindOf([&] { reader.read(box, room.data()); });
     }
 
@@ -54,24 +53,25 @@ protected:
 TEST_F(FieldReaderTest, KnowsTypeAndSize) {
     const FieldReader reader = readerOf(ValueType::Int32);
     EXPECT_EQ(reader.type(), ValueType::Int32);
-    EXPECT_EQ(reader.size(), size);
+    EXPECT_EQ(reader.size(), smallField);
 }
 
 TEST_F(FieldReaderTest, ReadsOnBehindAMove) {
     FieldReader first = readerOf(ValueType::Float64);
     const FieldReader second = std::move(first);
-    EXPECT_EQ(readReals(second, Box::whole(size)), expectedReals(size, Box::whole(size)));
+    EXPECT_EQ(readReals(second, Box::whole(smallField)),
+              expectedReals(smallField, Box::whole(smallField)));
 }
 
 TEST_F(FieldReaderTest, ReadsAllWithoutABox) {
-    std::vector<double> values(static_cast<std::size_t>(size.count()));
+    std::vector<double> values(static_cast<std::size_t>(smallField.count()));
     readerOf(ValueType::Float64).read(values.data());
-    EXPECT_EQ(values, expectedReals(size, Box::whole(size)));
+    EXPECT_EQ(values, expectedReals(smallField, Box::whole(smallField)));
 }
 
 TEST_F(FieldReaderTest, TakesALastIndexThatTheStepMisses) {
     const Box box{{0, 5, 3}, {1, 4, 2}, {0, 2, 2}};
-    EXPECT_EQ(readReals(readerOf(ValueType::Float32), box), expectedReals(size, box));
+    EXPECT_EQ(readReals(readerOf(ValueType::Float32), box), expectedReals(smallField, box));
 }
 
 TEST_F(FieldReaderTest, ReadsNothingForABoxWithoutPoints) {
@@ -135,7 +135,7 @@ TEST_F(FieldReaderTest, EndsWhenItIsStopped) {
     std::stop_source stop;
     stop.request_stop();
     const FieldReader reader = readerOf(ValueType::Float32);
-    std::vector<float> room(static_cast<std::size_t>(size.count()));
+    std::vector<float> room(static_cast<std::size_t>(smallField.count()));
     EXPECT_EQ(kindOf([&] { reader.read(room.data(), stop.get_token()); }), ErrorKind::Interrupted);
     EXPECT_EQ(reader.readCount(), 0);
 }
@@ -148,7 +148,7 @@ TEST_F(FieldReaderTest, ServesManyThreadsAtOnce) {
         threads.emplace_back([&] {
             for (std::int64_t turn = 0; turn < 200; ++turn) {
                 const Box box{{turn % 7, 6, 1}, {0, 4, 1 + turn % 3}, {turn % 3, 2, 1}};
-                wrong += readReals(reader, box) != expectedReals(size, box);
+                wrong += readReals(reader, box) != expectedReals(smallField, box);
             }
         });
     for (std::thread& thread : threads)

@@ -20,10 +20,8 @@ using plot3d::Extent;
 using plot3d::FieldReader;
 using plot3d::ValueType;
 
-constexpr Extent size{7, 5, 3};
-
 /// A field in memory that keeps its own values.
-FieldReader fieldInMemory(ValueType type, const Extent& points = size) {
+FieldReader fieldInMemory(ValueType type, const Extent& points = smallField) {
     const auto values =
         std::make_shared<const std::string>(bytesOfValues(type, machineOrder(), points.count()));
     return FieldReader(plot3dlib::valuesInMemory(type, points, values->data(), values));
@@ -43,7 +41,8 @@ TEST(ValuesInMemory, GiveAnyBox) {
 
 TEST(ValuesInMemory, AreReadFromNoFile) {
     const FieldReader reader = fieldInMemory(ValueType::Float64);
-    EXPECT_EQ(readReals(reader, Box::whole(size)), expectedReals(size, Box::whole(size)));
+    EXPECT_EQ(readReals(reader, Box::whole(smallField)),
+              expectedReals(smallField, Box::whole(smallField)));
     EXPECT_EQ(reader.bytesRead(), 0);
     EXPECT_EQ(reader.readCount(), 0);
 }
@@ -61,8 +60,8 @@ TEST(ValuesInMemory, HoldTheirOwnerAsLongAsTheReaderLives) {
 class ValuesOfPart : public ::testing::Test {
 protected:
     FieldReader partOfField(const Box& part) {
-        const FieldFile_s file{size, ValueType::Float32, otherOrder(), {}, false};
-        whole_ = std::make_shared<const FieldReader>(file.write(directory_), size);
+        const FieldFile_s file{smallField, ValueType::Float32, otherOrder(), {}, false};
+        whole_ = std::make_shared<const FieldReader>(file.write(directory_), smallField);
         return FieldReader(plot3dlib::valuesOfPart(whole_, part));
     }
 
@@ -75,13 +74,13 @@ TEST_F(ValuesOfPart, AreThePointsOfTheirBox) {
     const FieldReader reader = partOfField(part);
     EXPECT_EQ(reader.size(), (Extent{3, 1, 2}));
     EXPECT_EQ(readBytes(reader, Box::whole(reader.size())),
-              expectedBytes(ValueType::Float32, size, part));
+              expectedBytes(ValueType::Float32, smallField, part));
 }
 
 TEST_F(ValuesOfPart, CountTheStepsOfABoxFromTheirOwn) {
     const FieldReader reader = partOfField({{1, 6, 2}, {0, 4, 2}, {0, 2, 1}});
     EXPECT_EQ(readReals(reader, {{0, 2, 2}, {1, 2, 1}, {2, 2, 1 << 30}}),
-              expectedReals(size, {{1, 5, 4}, {2, 4, 2}, {2, 2, 1}}));
+              expectedReals(smallField, {{1, 5, 4}, {2, 4, 2}, {2, 2, 1}}));
 }
 
 TEST_F(ValuesOfPart, ReadWhatTheyNeedAlone) {
@@ -99,7 +98,7 @@ TEST_F(ValuesOfPart, LieInTheirField) {
 class FakeHost {
 public:
     FieldReader field() {
-        return FieldReader(plot3dlib::valuesAtHost(ValueType::Float64, size,
+        return FieldReader(plot3dlib::valuesAtHost(ValueType::Float64, smallField,
                                                    [this](const auto& use) { underLock(use); }));
     }
     std::atomic<int> calls = 0;
@@ -115,13 +114,13 @@ private:
         --inside;
     }
     std::mutex mutex_;
-    std::string values_ = bytesOfValues(ValueType::Float64, machineOrder(), size.count());
+    std::string values_ = bytesOfValues(ValueType::Float64, machineOrder(), smallField.count());
 };
 
 TEST(ValuesAtHost, AreAskedForOnceForEachBox) {
     FakeHost host;
     const Box box{{1, 6, 2}, {0, 4, 2}, {0, 2, 1}};
-    EXPECT_EQ(readReals(host.field(), box), expectedReals(size, box));
+    EXPECT_EQ(readReals(host.field(), box), expectedReals(smallField, box));
     EXPECT_EQ(host.calls, 1);
 }
 
@@ -132,7 +131,7 @@ TEST(ValuesAtHost, AreReadUnderItsLock) {
     for (int n = 0; n < 3; ++n)
         threads.emplace_back([&] {
             for (int turn = 0; turn < 50; ++turn)
-                readReals(reader, Box::whole(size));
+                readReals(reader, Box::whole(smallField));
         });
     for (std::thread& thread : threads)
         thread.join();
@@ -142,10 +141,10 @@ TEST(ValuesAtHost, AreReadUnderItsLock) {
 
 TEST(ValuesAtHost, PassOnWhatTheHostCannotGive) {
     const FieldReader reader(
-        plot3dlib::valuesAtHost(ValueType::Float32, size, [](const auto&) -> void {
+        plot3dlib::valuesAtHost(ValueType::Float32, smallField, [](const auto&) -> void {
             throw plot3d::Error(plot3d::ErrorKind::Unreadable, "the host gives no values");
         }));
-    EXPECT_THROW(readReals(reader, Box::whole(size)), plot3d::Error);
+    EXPECT_THROW(readReals(reader, Box::whole(smallField)), plot3d::Error);
 }
 
 } // namespace

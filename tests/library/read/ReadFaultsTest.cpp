@@ -14,11 +14,8 @@ namespace {
 using plot3d::Box;
 using plot3d::Error;
 using plot3d::ErrorKind;
-using plot3d::Extent;
 using plot3d::FieldReader;
 using plot3d::ValueType;
-
-constexpr Extent size{7, 5, 3};
 
 std::optional<Error> errorOfRead(const FieldReader& reader, const Box& box) {
     try {
@@ -32,9 +29,9 @@ std::optional<Error> errorOfRead(const FieldReader& reader, const Box& box) {
 TEST(TruncatedFile, IsToldWithTheByteThatIsMissing) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile_s{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
+        FieldFile_s{smallField, ValueType::Float32, otherOrder(), {}, false}.write(directory);
     std::filesystem::resize_file(source.file, 300);
-    const auto error = errorOfRead(FieldReader(source, size), Box::whole(size));
+    const auto error = errorOfRead(FieldReader(source, smallField), Box::whole(smallField));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->kind(), ErrorKind::Unreadable);
     EXPECT_EQ(error->facts().file, source.file);
@@ -46,18 +43,19 @@ TEST(TruncatedFile, IsToldWithTheByteThatIsMissing) {
 TEST(TruncatedFile, StillGivesTheValuesThatItHas) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile_s{size, ValueType::Float32, otherOrder(), {}, false}.write(directory);
+        FieldFile_s{smallField, ValueType::Float32, otherOrder(), {}, false}.write(directory);
     std::filesystem::resize_file(source.file, 300);
     const Box box{{0, 6, 1}, {0, 4, 1}, {0, 1, 1}};
-    EXPECT_EQ(readReals(FieldReader(source, size), box), expectedReals(size, box));
+    EXPECT_EQ(readReals(FieldReader(source, smallField), box), expectedReals(smallField, box));
 }
 
 TEST(TruncatedFile, ThatEndsAtAPieceIsTold) {
     const TemporaryDirectory directory;
     const plot3d::Source source =
-        FieldFile_s{size, ValueType::Float64, machineOrder(), {400, 0, 37}, false}.write(directory);
+        FieldFile_s{smallField, ValueType::Float64, machineOrder(), {400, 0, 37}, false}.write(
+            directory);
     std::filesystem::resize_file(source.file, 407); // all of the first piece
-    const auto error = errorOfRead(FieldReader(source, size), Box::whole(size));
+    const auto error = errorOfRead(FieldReader(source, smallField), Box::whole(smallField));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->facts().byte, 421); // where the next one is to begin
     EXPECT_EQ(error->facts().found, "407 bytes");
@@ -67,12 +65,13 @@ TEST(TruncatedFile, ThatEndsAtAPieceIsTold) {
 class FailingReads : public ::testing::Test {
 protected:
     FailingReads() {
-        const std::string values = bytesOfValues(ValueType::Float32, otherOrder(), size.count());
+        const std::string values =
+            bytesOfValues(ValueType::Float32, otherOrder(), smallField.count());
         disk_.put("field.bin", values);
     }
     FieldReader reader() {
         return {{"field.bin", ValueType::Float32, otherOrder(), {{0, 101}, {101, 99}, {200, 220}}},
-                size};
+                smallField};
     }
     FakeDisk disk_;
 };
@@ -82,19 +81,20 @@ TEST_F(FailingReads, AreToldEachWithItsPlace) {
     for (std::int64_t n = 1; n <= 3; ++n) {
         const FieldReader failing = reader();
         disk_.failingRead = n;
-        const auto error = errorOfRead(failing, Box::whole(size));
+        const auto error = errorOfRead(failing, Box::whole(smallField));
         ASSERT_TRUE(error);
         EXPECT_EQ(error->kind(), ErrorKind::Unreadable);
         EXPECT_EQ(error->facts().byte, places[n - 1]);
         EXPECT_EQ(error->facts().found, "a read error");
-        EXPECT_EQ(readReals(failing, Box::whole(size)), expectedReals(size, Box::whole(size)));
+        EXPECT_EQ(readReals(failing, Box::whole(smallField)),
+                  expectedReals(smallField, Box::whole(smallField)));
     }
 }
 
 TEST_F(FailingReads, ThatComeUpShortAreTold) {
     const FieldReader failing = reader();
     disk_.halvedRead = 2;
-    const auto error = errorOfRead(failing, Box::whole(size));
+    const auto error = errorOfRead(failing, Box::whole(smallField));
     ASSERT_TRUE(error);
     EXPECT_EQ(error->facts().byte, 101 + 48);
 }
@@ -103,7 +103,7 @@ TEST_F(FailingReads, LeaveNoFileOpen) {
     {
         const FieldReader failing = reader();
         disk_.failingRead = 1;
-        EXPECT_TRUE(errorOfRead(failing, Box::whole(size)));
+        EXPECT_TRUE(errorOfRead(failing, Box::whole(smallField)));
         EXPECT_EQ(disk_.openFiles, 1);
     }
     EXPECT_EQ(disk_.openFiles, 0);

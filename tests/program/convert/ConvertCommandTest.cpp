@@ -1,6 +1,10 @@
 // The command line of plot3d convert: what is chosen, what is added, what is refused.
+#include <cstdio>
 #include <fstream>
+#include <iterator>
 #include <sstream>
+
+#include <sys/stat.h>
 
 #include "program/app/Program.h" // the host has an app/Program.h, too
 
@@ -142,6 +146,58 @@ TEST_F(ConvertCommandLine, RefusesLayoutsThatDoNotFit) {
 TEST_F(ConvertCommandLine, TakesTheFormatFromAWord) {
     EXPECT_EQ(convert("out.data", {"--to", "csv"}), 0) << err_;
     EXPECT_EQ(lines("out.data")[0], "zone,time,i,j,k,X,Y,Z,RHO,RHO-U,RHO-V,RHO-W,E");
+}
+
+/// Runs the program in a shell, in the folder of the files; gives what it wrote to standard output.
+class ConvertedThroughPipes : public ConvertCommandLine {
+protected:
+    std::string shown(const std::string& words) const {
+        const std::string command = "cd " + directory_.path().string() + " && { " +
+                                    PLOT3D_PROGRAM " convert " + words + "; } 2>err";
+        std::FILE* const pipe = popen(command.c_str(), "r");
+        std::string text;
+        for (int letter = std::fgetc(pipe); letter != EOF; letter = std::fgetc(pipe))
+            text += static_cast<char>(letter);
+        pclose(pipe);
+        return text;
+    }
+    std::string bytesOf(const std::string& name) const {
+        std::ifstream in(path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+};
+
+TEST_F(ConvertedThroughPipes, IsATableOnStandardOutput) {
+    ASSERT_EQ(convert("out.csv", {}), 0) << err_;
+    EXPECT_EQ(shown("case.x case.q --to csv -o -"), bytesOf("out.csv"));
+    EXPECT_EQ(shown("case.x case.q --to csv -o /dev/stdout"), bytesOf("out.csv"));
+}
+
+TEST_F(ConvertedThroughPipes, IsAGridFileOnStandardOutput) {
+    EXPECT_EQ(shown("case.x --to plot3d -o -"), bytesOf("case.x"));
+}
+
+TEST_F(ConvertedThroughPipes, GoesOnWhereStandardOutputIsAFile) {
+    shown("case.x --to plot3d -o - >begun; echo behind >>begun");
+    EXPECT_EQ(bytesOf("begun"), bytesOf("case.x") + "behind\n") << bytesOf("err");
+}
+
+TEST_F(ConvertedThroughPipes, GoesIntoANamedPipe) {
+    ASSERT_EQ(convert("out.vts", {"--zone", "1"}), 0) << err_;
+    ASSERT_EQ(mkfifo(path("pipe.vts").c_str(), 0600), 0);
+    EXPECT_EQ(shown("--zone 1 case.x case.q -o pipe.vts --overwrite & cat pipe.vts; wait"),
+              bytesOf("out.vts"));
+}
+
+TEST_F(ConvertedThroughPipes, IsRefusedWhereAFormatGoesBackOrHasSeveralFiles) {
+    for (const char* const format : {"vtk", "cgns", "npz"}) {
+        EXPECT_EQ(shown(std::string("case.x case.q -o - --to ") + format), "");
+        EXPECT_EQ(bytesOf("err"), std::string("plot3d: error: ") + format +
+                                      " can't be written to standard output or a pipe; csv and "
+                                      "plot3d can\n");
+    }
+    EXPECT_EQ(shown("case.x case.q -o - --to plot3d"), "");
+    EXPECT_NE(bytesOf("err").find("these are 2 PLOT3D files"), std::string::npos);
 }
 
 } // namespace

@@ -1,6 +1,4 @@
 // The PLOT3D files that the program writes are those of the independent writer, to the byte.
-#include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -10,6 +8,7 @@
 #include "convert/plot3d/Plot3DWriter.h"
 #include "plot3dwriter/Plot3DWriter.h"
 #include "program/convert/DescribedContents.h"
+#include "support/BytesOfFile.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
@@ -20,11 +19,6 @@ using namespace plot3d::program;
 using plot3dwriter::Encoding_e;
 using plot3dwriter::FileDescription_s;
 using plot3dwriter::FileKind_e;
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 /// Integers that mean nothing are not kept.
 FileDescription_s described(const LayoutCase_s& layout) {
@@ -84,9 +78,9 @@ TEST_P(Plot3DFiles, AreThoseOfTheWitness) {
     const Written_s written =
         Plot3DWriter().write(contents, {directory_.file("out.x"), false, wishesFor(layout, form)});
     ASSERT_EQ(written.files.size(), isGrid ? 1U : 2U);
-    EXPECT_EQ(bytesOf(written.files[0]), witnessBytes(grid, form));
+    EXPECT_EQ(bytesOfFile(written.files[0]), witnessBytes(grid, form));
     if (other) {
-        EXPECT_EQ(bytesOf(written.files[1]), witnessBytes(*other, form));
+        EXPECT_EQ(bytesOfFile(written.files[1]), witnessBytes(*other, form));
     }
 }
 
@@ -103,7 +97,7 @@ TEST(Plot3DFilesInSegments, AreCutAsTheWitnessCutsThem) {
         DescribedContents contents(described(layout), std::nullopt, ValueType::Float32);
         const std::string path = directory.file("out.x");
         Plot3DWriter().write(contents, {path, true, wishesFor(layout, form)});
-        EXPECT_EQ(bytesOf(path), witnessBytes(described(layout), form)) << segmentBytes;
+        EXPECT_EQ(bytesOfFile(path), witnessBytes(described(layout), form)) << segmentBytes;
     }
 }
 

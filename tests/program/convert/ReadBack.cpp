@@ -222,10 +222,10 @@ void ReadBackTest::writeExpected(const std::string& folder, const plot3d::DataSe
     Expectation(folder, data).write(coordinateCount, zones);
 }
 
-void ReadBackTest::expectReadBack(int fileCount) const {
+void ReadBackTest::expectReadBack(int fileCount, const std::string& argument) const {
     constexpr int moduleIsMissing = 77;
-    const std::string command =
-        "/usr/bin/python3 " READ_BACK_SCRIPT " " + directory_.path().string() + " 2>&1";
+    const std::string command = "/usr/bin/python3 " READ_BACK_SCRIPT " " +
+                                directory_.path().string() + " " + argument + " 2>&1";
     std::FILE* const pipe = popen(command.c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     std::string text;

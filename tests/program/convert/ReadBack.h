@@ -48,8 +48,9 @@ protected:
     static void writeExpected(const std::string& folder, const OpenedCase_s& opened);
     static void writeExpected(const std::string& folder, const plot3d::DataSet& data,
                               int coordinateCount, const std::vector<ExpectedZone_s>& zones);
-    /// Reads all folders. Skips the test where the readers are not there.
-    void expectReadBack(int fileCount) const;
+    /// Reads all folders; the script gets the argument, too. Skips the test where the readers are
+    /// not there.
+    void expectReadBack(int fileCount, const std::string& argument = {}) const;
 
 private:
     const TemporaryDirectory directory_;

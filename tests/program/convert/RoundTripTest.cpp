@@ -1,9 +1,9 @@
 // PLOT3D files to PLOT3D files: every row of the matrix comes back as it was.
-#include <fstream>
 #include <iterator>
 #include <sstream>
 
 #include "program/convert/ReadBack.h"
+#include "support/BytesOfFile.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -15,11 +15,6 @@ using plot3dwriter::FileForm_s;
 using plot3dwriter::FileKind_e;
 
 using Words = std::vector<std::string>;
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 Words tokensOf(const std::string& text) {
     std::istringstream in(text);
@@ -37,7 +32,7 @@ std::string wanted(const WrittenFile_s& file) {
 
 /// Text may break its lines elsewhere.
 void expectSameFile(const std::string& path, const WrittenFile_s& original) {
-    const std::string found = bytesOf(path);
+    const std::string found = bytesOfFile(path);
     const bool isText = original.form.encoding == Encoding_e::Text;
     if (isText)
         EXPECT_EQ(tokensOf(found), tokensOf(wanted(original))) << path;

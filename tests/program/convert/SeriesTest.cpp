@@ -1,9 +1,9 @@
 // Three times of two grids that move, with I-blank, in every format.
-#include <fstream>
 #include <iterator>
 
 #include "plot3dwriter/Plot3DWriter.h"
 #include "program/convert/ReadBack.h"
+#include "support/BytesOfFile.h"
 
 namespace quorvia::testsupport {
 namespace {
@@ -54,11 +54,6 @@ protected:
         return zones;
     }
 
-    static std::string bytesOf(const std::string& path) {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-
 private:
     static ExpectedZone_s expectedZone(int step, std::int32_t grid) {
         const auto dims = fileOf(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
@@ -106,7 +101,7 @@ TEST_F(ConvertedSeries, BecomesTheFilesOfEachTime) {
     form.byteOrder = plot3dwriter::ByteOrder_e::Big;
     writeSeries(where, form);
     for (const char* const name : {"_1.x", "_1.q", "_2.x", "_2.q", "_3.x", "_3.q"})
-        EXPECT_TRUE(bytesOf(where + "/out" + name) == bytesOf(where + "/m" + name)) << name;
+        EXPECT_TRUE(bytesOfFile(where + "/out" + name) == bytesOfFile(where + "/m" + name)) << name;
 }
 
 TEST_F(ConvertedSeries, KeepsOneGridFileForGridsThatStandStill) {
@@ -114,8 +109,8 @@ TEST_F(ConvertedSeries, KeepsOneGridFileForGridsThatStandStill) {
     std::vector<std::string> words = writeSeries(where, {});
     words = {"convert", words[0], words[1], words[3], words[5], "-o", where + "/out.x"};
     ASSERT_EQ(runProgram(words), 0);
-    EXPECT_TRUE(bytesOf(where + "/out.x") == bytesOf(where + "/m_1.x"));
-    EXPECT_TRUE(bytesOf(where + "/out_3.q") == bytesOf(where + "/m_3.q"));
+    EXPECT_TRUE(bytesOfFile(where + "/out.x") == bytesOfFile(where + "/m_1.x"));
+    EXPECT_TRUE(bytesOfFile(where + "/out_3.q") == bytesOfFile(where + "/m_3.q"));
     EXPECT_FALSE(std::filesystem::exists(where + "/out_1.x"));
 }
 
@@ -125,8 +120,8 @@ TEST_F(ConvertedSeries, GivesOneTimeOfItAlone) {
     words.insert(words.begin(), "convert");
     words.insert(words.end(), {"--time", "0.25", "-o", where + "/out.x"});
     ASSERT_EQ(runProgram(words), 0);
-    EXPECT_TRUE(bytesOf(where + "/out.x") == bytesOf(where + "/m_2.x"));
-    EXPECT_TRUE(bytesOf(where + "/out.q") == bytesOf(where + "/m_2.q"));
+    EXPECT_TRUE(bytesOfFile(where + "/out.x") == bytesOfFile(where + "/m_2.x"));
+    EXPECT_TRUE(bytesOfFile(where + "/out.q") == bytesOfFile(where + "/m_2.q"));
 }
 
 } // namespace

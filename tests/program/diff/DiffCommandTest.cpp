@@ -156,6 +156,17 @@ TEST_F(DiffCommandTest, RefusesWhatIsNoPairOfDataSets) {
         EXPECT_EQ(ended(words).code, 2) << words.size();
 }
 
+TEST_F(DiffCommandTest, TellsTheCommandForSolutionsAlone) {
+    const std::string first = flow("a").back();
+    const std::string second = flow("b").back();
+    const Ended_s run = ended({"diff", first, second});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.err, "plot3d: error: " + first +
+                           ": The file needs the grid file on which its values stand.\n"
+                           "try: plot3d diff GRID " +
+                           first + " -- GRID " + second + "\n");
+}
+
 TEST_F(DiffCommandTest, TellsWhatCannotBeReadAndGoesOnWithTheRest) {
     const Words first = flow("a");
     Words second = {"--share-structure", first[0], first[1],

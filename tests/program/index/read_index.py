@@ -11,15 +11,14 @@ import xml.etree.ElementTree
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "convert"))
 sys.dont_write_bytecode = True
-from read_back import Expected, check_cgns, expect, expect_same, standard_names
+from read_back import Expected, check_cgns, expect, expect_same
 
 try:
     import fsspec
     import numpy
     import zarr
-    from vtkmodules.util.numpy_support import vtk_to_numpy
+    from vtk_blocks import blocks_of, check_p3d_zone, check_vtk_zone, first_named, zones_at
     from vtkmodules.vtkCommonCore import vtkObject
-    from vtkmodules.vtkCommonDataModel import vtkCompositeDataSet
     from vtkmodules.vtkIOCGNSReader import vtkCGNSReader
     from vtkmodules.vtkIOParallel import vtkPlot3DMetaReader
 except ImportError as missing:
@@ -32,49 +31,6 @@ differences = []
 # ---- CGNS: by h5py as it stands, and by VTK's reader
 
 
-def vtk_names(fields, count):
-    """Names of arrays and components: X, Y and Z become one vector."""
-    names = {}
-    stems = [standard_names.get(field["name"], field["name"].rstrip()) for field in fields]
-    for stem in stems:
-        letters = "XYZ"[:count]
-        whole = stem[:-1]
-        if stem[-1:] in letters and all(whole + letter in stems for letter in letters):
-            names[stem] = (whole, "XYZ".index(stem[-1]))
-        else:
-            names[stem] = (stem, None)
-    return [names[stem] for stem in stems]
-
-
-def vtk_blocks(reader):
-    """Blocks of zones by name, of the time that was asked for."""
-    blocks = {}
-    bases = reader.GetOutput()
-    for base in range(bases.GetNumberOfBlocks()):
-        zones = bases.GetBlock(base)
-        for place in range(zones.GetNumberOfBlocks()):
-            name = zones.GetMetaData(place).Get(vtkCompositeDataSet.NAME())
-            blocks[name] = zones.GetBlock(place)
-    return blocks
-
-
-def check_vtk_zone(block, zone, expected, count):
-    expect(block is not None, f"VTK has no block {zone['name']}")
-    points = vtk_to_numpy(block.GetPoints().GetData())
-    for place, field in enumerate(zone["fields"][: expected.coordinates]):
-        expect_same(points[:, place].astype(field["type"]), field["values"], "VTK's points")
-    fields = zone["fields"][expected.coordinates :]
-    for field, (name, component) in zip(fields, vtk_names(fields, count)):
-        array = block.GetPointData().GetArray(name)
-        expect(array is not None, f"VTK has no array {name}")
-        values = vtk_to_numpy(array)
-        values = values if component is None else values[:, component]
-        expect_same(values, field["values"], f"VTK's {name}")
-    if "elements" in zone:
-        cells = vtk_to_numpy(block.GetCells().GetConnectivityArray())
-        expect(cells.tolist() == sum(zone["elements"], []), "VTK's elements differ")
-
-
 def check_cgns_by_vtk(path, expected):
     reader = vtkCGNSReader()
     reader.SetFileName(path)
@@ -82,16 +38,12 @@ def check_cgns_by_vtk(path, expected):
     reader.UpdateInformation()
     reader.EnableAllBases()
     reader.EnableAllPointArrays()
-    firsts = {}
     for time in expected.times:
         reader.UpdateTimeStep(time)
-        blocks = vtk_blocks(reader)
-        for zone in expected.zones:
-            if zone["strand"] and zone["time"] != time:
-                continue
-            # The zone of a grid keeps the name that it has at the first time.
-            name = firsts.setdefault(zone["strand"] or zone["name"], zone["name"])
-            check_vtk_zone(blocks.get(name[:32]), zone, expected, expected.coordinates)
+        blocks = dict(blocks_of(reader.GetOutput()))
+        for name, zone in first_named(expected, time).items():
+            expect(name in blocks, f"VTK has no block {name}")
+            check_vtk_zone(blocks[name], zone, expected)
 
 
 def check_cgns_index(path, expected):
@@ -154,7 +106,7 @@ def check_xdmf(path, expected):
     times = [float(step.find("Time").get("Value")) for step in steps]
     expect(times == expected.times, f"times are {times}")
     for time, step in zip(times, steps):
-        zones = [z for z in expected.zones if not z["strand"] or z["time"] == time]
+        zones = zones_at(expected, time)
         grids = step.findall("Grid")
         expect(len(grids) == len(zones), "count of grids")
         for grid, zone in zip(grids, zones):
@@ -165,29 +117,13 @@ def check_xdmf(path, expected):
 # looked at.
 
 
-def check_p3d_zone(block, zone, expected):
-    points = vtk_to_numpy(block.GetPoints().GetData())
-    for place, field in enumerate(zone["fields"][: expected.coordinates]):
-        expect_same(points[:, place], field["values"], "VTK's points")
-    solution = {"RHO": ("Density", None), "RHO-U": ("Momentum", 0), "RHO-V": ("Momentum", 1),
-                "RHO-W": ("Momentum", 2), "E": ("StagnationEnergy", None)}
-    for field in zone["fields"][expected.coordinates :]:
-        if field["name"] == "IBlank":
-            continue  # VTK makes ghosts of it
-        name, component = solution.get(field["name"], (field["name"].rstrip(), None))
-        array = block.GetPointData().GetArray(name)
-        expect(array is not None, f"VTK has no array {name}")
-        values = vtk_to_numpy(array)
-        expect_same(values if component is None else values[:, component], field["values"], name)
-
-
 def check_p3d(path, expected):
     reader = vtkPlot3DMetaReader()
     reader.SetFileName(path)
     reader.UpdateInformation()
     for time in expected.times:
         reader.UpdateTimeStep(time)
-        zones = [z for z in expected.zones if not z["strand"] or z["time"] == time]
+        zones = zones_at(expected, time)
         blocks = reader.GetOutput()
         expect(blocks.GetNumberOfBlocks() == len(zones), "VTK's count of blocks")
         for place, zone in enumerate(zones):

@@ -7,9 +7,9 @@
 namespace plot3d::program {
 namespace {
 
-using Indices = std::optional<Range>;
+using Found = std::optional<Range>;
 
-Indices along(const char* text, std::int64_t count) {
+Found along(const char* text, std::int64_t count) {
     return resolved(parseIndexRange(text), count);
 }
 
@@ -35,9 +35,9 @@ TEST(IndexRange, CountsFromTheEndWithAMinus) {
 TEST(IndexRange, IsCutToWhatADirectionHas) {
     EXPECT_EQ(along("2,50", 7), (Range{1, 6, 1}));
     EXPECT_EQ(along("-50,3", 7), (Range{0, 2, 1}));
-    EXPECT_EQ(along("8,50", 7), Indices());
-    EXPECT_EQ(along("-8", 7), Indices());
-    EXPECT_EQ(along("4,-5", 7), Indices());
+    EXPECT_EQ(along("8,50", 7), Found());
+    EXPECT_EQ(along("-8", 7), Found());
+    EXPECT_EQ(along("4,-5", 7), Found());
 }
 
 class RefusedRange : public testing::TestWithParam<const char*> {};

@@ -11,14 +11,14 @@
 namespace plot3d::program {
 namespace {
 
-using Values = std::vector<double>;
+using Numbers = std::vector<double>;
 
-const Values asked = {0, 1, 12.5, 25, 50, 75, 99.9, 100};
+const Numbers asked = {0, 1, 12.5, 25, 50, 75, 99.9, 100};
 
 /// Sorted, and on the line between neighbours.
-Values plainly(Values values) {
+Numbers plainly(Numbers values) {
     std::sort(values.begin(), values.end());
-    Values found;
+    Numbers found;
     for (const double percentile : asked) {
         const double place = static_cast<double>(values.size() - 1) * (percentile / 100);
         const auto lower = static_cast<std::size_t>(place);
@@ -30,7 +30,7 @@ Values plainly(Values values) {
 }
 
 /// With room for a few values only, in turns on three workers.
-Values inLittleRoom(const Values& values, std::int64_t heldValues) {
+Numbers inLittleRoom(const Numbers& values, std::int64_t heldValues) {
     constexpr std::size_t workers = 3;
     const auto goOver = [&](const TakeValues& take) {
         for (std::size_t start = 0; start < values.size(); start += 7)
@@ -43,7 +43,7 @@ Values inLittleRoom(const Values& values, std::int64_t heldValues) {
 
 class Percentiles : public testing::TestWithParam<std::int64_t> {
 protected:
-    void expectPlain(const Values& values) const {
+    void expectPlain(const Numbers& values) const {
         EXPECT_EQ(inLittleRoom(values, GetParam()), plainly(values));
     }
 };
@@ -51,7 +51,7 @@ protected:
 TEST_P(Percentiles, OfRandomValuesAreThoseOfTheSortedOnes) {
     std::mt19937_64 random(20);
     std::normal_distribution<double> normal(0.98, 0.02);
-    Values values;
+    Numbers values;
     for (int count = 0; count < 3000; ++count)
         values.push_back(normal(random));
     expectPlain(values);
@@ -59,7 +59,7 @@ TEST_P(Percentiles, OfRandomValuesAreThoseOfTheSortedOnes) {
 
 TEST_P(Percentiles, OfValuesOfAllSizesAndSigns) {
     std::mt19937_64 random(21);
-    Values values = {0.0, -0.0, 5e-324, -5e-324, 1.7e308, -1.7e308};
+    Numbers values = {0.0, -0.0, 5e-324, -5e-324, 1.7e308, -1.7e308};
     for (int count = 0; count < 1000; ++count)
         values.push_back(std::ldexp(static_cast<double>(random()) - 9e18,
                                     static_cast<int>(random() % 1500) - 1000));
@@ -67,7 +67,7 @@ TEST_P(Percentiles, OfValuesOfAllSizesAndSigns) {
 }
 
 TEST_P(Percentiles, OfNeighboursInTheLastBit) {
-    Values values = {1};
+    Numbers values = {1};
     for (int count = 0; count < 500; ++count)
         values.push_back(std::nextafter(values.back(), 2));
     expectPlain(values);
@@ -75,7 +75,7 @@ TEST_P(Percentiles, OfNeighboursInTheLastBit) {
 
 TEST_P(Percentiles, OfOneValueAndOfOneThatRepeats) {
     expectPlain({-3});
-    expectPlain(Values(1000, -3.25));
+    expectPlain(Numbers(1000, -3.25));
 }
 
 INSTANTIATE_TEST_SUITE_P(HeldValues, Percentiles, testing::Values(1, 16, 500, 1000000));
@@ -87,7 +87,7 @@ TEST(NoPercentiles, AreNotANumber) {
 
 TEST(Histogram, HasValuesOfAnEdgeInTheUpperBinAndTheMaximumInTheLast) {
     Histogram histogram(0, 4, 4);
-    histogram.add(Values{0, 0.5, 1, 1.999, 2, 3, 4, 4});
+    histogram.add(Numbers{0, 0.5, 1, 1.999, 2, 3, 4, 4});
     EXPECT_EQ(histogram.counts(), (std::vector<std::int64_t>{2, 2, 1, 3}));
 }
 
@@ -98,20 +98,20 @@ TEST(Histogram, AgreesWithItsEdges) {
     for (std::size_t bin = 0; bin < bins; ++bin) {
         Histogram histogram(min, max, bins);
         const double edge = binEdge(min, max, bins, bin);
-        histogram.add(Values{edge, std::nextafter(binEdge(min, max, bins, bin + 1), min)});
+        histogram.add(Numbers{edge, std::nextafter(binEdge(min, max, bins, bin + 1), min)});
         EXPECT_EQ(histogram.counts()[bin], 2) << bin;
     }
 }
 
 TEST(Histogram, OfOneValueHasItInTheFirstBin) {
     Histogram histogram(2, 2, 3);
-    histogram.add(Values{2, 2});
+    histogram.add(Numbers{2, 2});
     EXPECT_EQ(histogram.counts(), (std::vector<std::int64_t>{2, 0, 0}));
 }
 
 TEST(Histogram, SpansAllReals) {
     Histogram histogram(-1.7e308, 1.7e308, 2);
-    histogram.add(Values{-1.7e308, -1, 0, 1, 1.7e308});
+    histogram.add(Numbers{-1.7e308, -1, 0, 1, 1.7e308});
     EXPECT_EQ(histogram.counts(), (std::vector<std::int64_t>{2, 3}));
 }
 

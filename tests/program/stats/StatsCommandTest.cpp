@@ -73,6 +73,28 @@ TEST_F(StatsCommandTest, BreaksTheTableWhereTheTerminalIsNarrow) {
     EXPECT_NE(out.str().find("minimum at zone: i,j,k"), std::string::npos);
 }
 
+/// The lines of the headings at a terminal of that width.
+int headingsAt(const std::string& file, int columns, bool colour) {
+    std::ostringstream out;
+    std::istringstream in;
+    const Surroundings_s terminal = {in,    out, out, columns, 0, colour, ProgressWish_e::Never,
+                                     false, {}};
+    EXPECT_EQ(run({"stats", file, "--blank", "keep"}, terminal), 0);
+    int count = 0;
+    std::istringstream lines(out.str());
+    for (std::string line; std::getline(lines, line);)
+        count += line.find("  variable") == std::string::npos ? 0 : 1;
+    return count;
+}
+
+TEST_F(StatsCommandTest, HasAsManyColumnsInATableAsFit) {
+    const std::string file = grid();
+    EXPECT_EQ(headingsAt(file, 200, false), 1);
+    EXPECT_EQ(headingsAt(file, 112, true), 1) << "colours have no width";
+    EXPECT_EQ(headingsAt(file, 80, true), 2);
+    EXPECT_EQ(headingsAt(file, 40, false), 4);
+}
+
 TEST_F(StatsCommandTest, LeavesOutBlankedPointsAndSaysSo) {
     const Ended_s run = stats({grid(oneHole), "--variable", "X"});
     EXPECT_NE(run.out.find("\n1 point with I-blank 0 left out; --blank keep takes them in\n"),

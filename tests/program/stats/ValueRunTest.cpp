@@ -40,6 +40,22 @@ TYPED_TEST(ValueRun, HasSumAndSquaresOfWholeNumbersToTheLastDigit) {
     EXPECT_EQ(goOverSlowly(std::span<const TypeParam>(values)).moments.sum, 303);
 }
 
+TYPED_TEST(ValueRun, IsTheSameInAnyRegistersToTheLastDigit) {
+    for (std::size_t count = 1; count < 200; ++count) {
+        std::vector<TypeParam> values;
+        for (std::size_t n = 0; n < count; ++n)
+            values.push_back(
+                static_cast<TypeParam>(1e9 * std::sin(static_cast<double>(n * count))));
+        ValueRun_s<TypeParam> wide;
+        ValueRun_s<TypeParam> narrow;
+        ASSERT_TRUE(goOver(std::span<const TypeParam>(values), wide));
+        ASSERT_TRUE(goOver(std::span<const TypeParam>(values), narrow, Registers_e::OfAllMachines));
+        ASSERT_EQ(wide.min, narrow.min);
+        ASSERT_EQ(wide.max, narrow.max);
+        ASSERT_EQ(wide.moments, narrow.moments);
+    }
+}
+
 TEST(ValueRunOfReals, IsOfNoUseWithOneThatIsNotFinite) {
     for (const float bad : {std::nanf(""), HUGE_VALF, -HUGE_VALF}) {
         for (std::size_t place = 0; place < 19; ++place) {

@@ -1,0 +1,41 @@
+// The picture of the data set, beside its tree.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QWidget>
+
+#include <plot3d/DataSet.h>
+
+namespace quorvia::host {
+
+/// Before the application is made: what the window system must know for a view.
+void prepareViews();
+
+class DataSetView : public QWidget {
+public:
+    /// Gets the zone, an index from 0, of a point that was clicked at.
+    using ZonePicked = std::function<void(std::size_t zone)>;
+    /// Numbers from 1, ascending; nothing stands for all but boundary zones.
+    using ZoneChoice = std::optional<std::vector<std::size_t>>;
+
+    /// Belongs to `parent`. Where the program was built without the scene it says so, and does
+    /// nothing else.
+    static DataSetView* make(ZonePicked picked, QWidget* parent);
+
+    /// In place of what was shown. Null: nothing, and why not, which may be empty.
+    virtual void showDataSet(std::shared_ptr<const plot3d::DataSet> data,
+                             const std::string& whyNot) = 0;
+    virtual void colourBy(const std::string& variable) = 0;
+    virtual void showZones(ZoneChoice zones) = 0;
+
+protected:
+    using QWidget::QWidget;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,141 @@
+#include "desktop/view/SceneWidget.h"
+
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+#include <vtkCallbackCommand.h>
+#include <vtkCamera.h>
+#include <vtkGenericOpenGLRenderWindow.h>
+#include <vtkInteractorStyleTrackballCamera.h>
+#include <vtkObjectFactory.h>
+#include <vtkRenderWindowInteractor.h>
+
+#include "view/ViewWords.h"
+
+namespace quorvia::host {
+
+using plot3d::scene::Camera_s;
+using plot3d::scene::Detail_e;
+using plot3d::scene::PlotKind_e;
+
+namespace {
+
+/// Turns what stands in space, moves what is plane, and tells a click from a drag.
+class Hands : public vtkInteractorStyleTrackballCamera {
+public:
+    static Hands* New();
+    vtkTypeMacro(Hands, vtkInteractorStyleTrackballCamera) Hands(const Hands&) = delete;
+    Hands& operator=(const Hands&) = delete;
+
+    std::function<bool()> isFlat = [] { return false; };
+    std::function<void(int x, int y)> clicked = [](int, int) {};
+    std::function<void(Detail_e detail)> detail = [](Detail_e) {};
+
+    void OnLeftButtonDown() override {
+        const int* at = Interactor->GetEventPosition();
+        pressedAt_ = {at[0], at[1]};
+        if (!isFlat()) {
+            vtkInteractorStyleTrackballCamera::OnLeftButtonDown();
+            return;
+        }
+        FindPokedRenderer(at[0], at[1]);
+        GrabFocus(EventCallbackCommand);
+        StartPan();
+    }
+    void OnLeftButtonUp() override {
+        vtkInteractorStyleTrackballCamera::OnLeftButtonUp();
+        const int* at = Interactor->GetEventPosition();
+        constexpr int trembling = 3; // pixels
+        if (std::abs(at[0] - pressedAt_[0]) <= trembling &&
+            std::abs(at[1] - pressedAt_[1]) <= trembling)
+            clicked(at[0], at[1]);
+    }
+    void StartState(int state) override {
+        detail(Detail_e::Coarse);
+        vtkInteractorStyleTrackballCamera::StartState(state);
+    }
+    void StopState() override {
+        detail(Detail_e::Full);
+        vtkInteractorStyleTrackballCamera::StopState();
+    }
+    void OnChar() override {} // the keys are the window's
+
+protected:
+    Hands() = default;
+
+private:
+    std::array<int, 2> pressedAt_ = {};
+};
+vtkStandardNewMacro(Hands);
+
+} // namespace
+
+SceneWidget::SceneWidget(Picked picked, QWidget* parent)
+    : QVTKOpenGLNativeWidget(parent), picked_(std::move(picked)) {
+    setObjectName(QStringLiteral("scene"));
+    setFocusPolicy(Qt::StrongFocus);
+    setRenderWindow(vtkNew<vtkGenericOpenGLRenderWindow>().Get());
+    renderWindow()->AddRenderer(renderer_);
+    stage_ = std::make_unique<plot3d::scene::Stage>(*renderer_);
+    const vtkNew<Hands> hands;
+    hands->isFlat = [this] { return isFlat(); };
+    hands->clicked = [this](int x, int y) { pickAt(x, y); };
+    hands->detail = [this](Detail_e detail) { stage_->setDetail(detail); };
+    interactor()->SetInteractorStyle(hands);
+}
+
+SceneWidget::~SceneWidget() = default;
+
+bool SceneWidget::isFlat() const {
+    return stage_->content() != nullptr && stage_->content()->view.plot != PlotKind_e::Space;
+}
+
+void SceneWidget::showContent(std::shared_ptr<const plot3d::scene::SceneContent_s> content) {
+    stage_->show(std::move(content));
+    draw();
+}
+
+void SceneWidget::resetCamera() {
+    if (stage_->content() == nullptr)
+        return;
+    stage_->setCamera(stage_->content()->view.camera);
+    draw();
+}
+
+void SceneWidget::lookFrom(const std::string& direction) {
+    if (isFlat())
+        return;
+    stage_->setCamera(plot3d::scene::cameraFromText(direction));
+    draw();
+}
+
+void SceneWidget::zoom(double factor) {
+    renderer_->GetActiveCamera()->Zoom(factor);
+    draw();
+}
+
+void SceneWidget::turn(double aside, double upwards) {
+    vtkCamera& camera = *renderer_->GetActiveCamera();
+    if (isFlat())
+        return;
+    camera.Azimuth(aside);
+    camera.Elevation(upwards);
+    camera.OrthogonalizeViewUp();
+    draw();
+}
+
+void SceneWidget::mark(const std::optional<plot3d::scene::Vector3>& position) {
+    stage_->mark(position);
+    draw();
+}
+
+void SceneWidget::pickAt(int x, int y) {
+    picked_(stage_->pick(x, y));
+}
+
+void SceneWidget::draw() {
+    renderWindow()->Render();
+}
+
+} // namespace quorvia::host

@@ -1,0 +1,48 @@
+// The scene in a window: turned, moved and zoomed by mouse and keys, and pointed at.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <QVTKOpenGLNativeWidget.h>
+
+#include <vtkNew.h>
+#include <vtkRenderer.h>
+
+#include "stage/Stage.h"
+
+namespace quorvia::host {
+
+class SceneWidget : public QVTKOpenGLNativeWidget {
+public:
+    /// Gets what was clicked at; nothing for the background.
+    using Picked = std::function<void(const std::optional<plot3d::scene::Picked_s>& picked)>;
+
+    SceneWidget(Picked picked, QWidget* parent);
+    ~SceneWidget() override;
+
+    void showContent(std::shared_ptr<const plot3d::scene::SceneContent_s> content);
+    /// As the content's own view has it.
+    void resetCamera();
+    /// From "+x", "-x", ... "-z" or "iso", with all in sight. Plane data stay as they are seen.
+    void lookFrom(const std::string& direction);
+    /// Above 1: nearer.
+    void zoom(double factor);
+    /// Degrees to the side and upwards; plane data stay as they are.
+    void turn(double aside, double upwards);
+    void mark(const std::optional<plot3d::scene::Vector3>& position);
+    const plot3d::scene::Stage& stage() const { return *stage_; }
+
+private:
+    bool isFlat() const;
+    void pickAt(int x, int y);
+    void draw();
+
+    Picked picked_;
+    vtkNew<vtkRenderer> renderer_;
+    std::unique_ptr<plot3d::scene::Stage> stage_;
+};
+
+} // namespace quorvia::host

@@ -1,0 +1,311 @@
+#include "desktop/view/ViewPanel.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QSurfaceFormat>
+#include <QVBoxLayout>
+
+#include "content/Choices.h"
+#include "desktop/Texts.h"
+
+namespace quorvia::host {
+
+using plot3d::DataSet;
+using plot3d::scene::Picked_s;
+using plot3d::scene::SceneContent_s;
+using plot3d::scene::View_s;
+
+namespace {
+
+constexpr int millisecondsBetweenLooks = 50;
+
+plot3d::Extent largestOf(const DataSet& data) {
+    plot3d::Extent largest;
+    for (const plot3d::Zone& zone : data.zones()) {
+        largest.i = std::max(largest.i, zone.size.i);
+        largest.j = std::max(largest.j, zone.size.j);
+        largest.k = std::max(largest.k, zone.size.k);
+    }
+    return largest;
+}
+
+/// "Zone 2  vortex_t0.25.q:1", and the point's indices from 1.
+QString placeText(const DataSet& data, const Picked_s& picked) {
+    return QStringLiteral("Zone %1  %2\ni %3  j %4  k %5")
+        .arg(picked.zone + 1)
+        .arg(shown(data.zones()[picked.zone].name))
+        .arg(picked.place.i + 1)
+        .arg(picked.place.j + 1)
+        .arg(picked.place.k + 1);
+}
+
+/// "X = 1.5", of all variables that the zone has there.
+QString valuesText(const DataSet& data, const Picked_s& picked) {
+    const auto& [i, j, k] = picked.place;
+    const plot3d::Box point = {{i, i, 1}, {j, j, 1}, {k, k, 1}};
+    QStringList parts;
+    for (std::size_t variable = 0; variable < data.variables().size(); ++variable)
+        if (data.kind(picked.zone, variable) != plot3d::FieldKind::Empty)
+            parts.append(QStringLiteral("%1 = %2").arg(
+                shown(data.variables()[variable].name).trimmed(),
+                shownNumber(data.values(picked.zone, variable, point).front())));
+    return parts.join(QStringLiteral("   "));
+}
+
+} // namespace
+
+void prepareViews() {
+    QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
+}
+
+DataSetView* DataSetView::make(ZonePicked picked, QWidget* parent) {
+    return new ViewPanel(std::move(picked), parent);
+}
+
+ViewPanel::ViewPanel(ZonePicked picked, QWidget* parent)
+    : DataSetView(parent), picked_(std::move(picked)),
+      prepare_([this](const std::optional<std::string>& failure) { stayAsBefore(failure); }),
+      read_([this](const std::optional<std::string>& failure) {
+          values_->setText(shown(failure.value_or("")));
+      }) {
+    setObjectName(QStringLiteral("view"));
+    addParts();
+    addKeys();
+    connect(&stateTimer_, &QTimer::timeout, this, [this] { showState(); });
+    showDataSet(nullptr, {});
+}
+
+// ---- The parts ----------------------------------------------------------------------------------
+
+void ViewPanel::addParts() {
+    ViewBar::Events_s events;
+    events.coloured = [this](const std::string& variable) { colourBy(variable); };
+    events.cut = [this](const plot3d::scene::SurfaceWish_s& surfaces) {
+        View_s view = wanted_;
+        view.surfaces = {surfaces};
+        want(std::move(view));
+    };
+    events.lookedFrom = [this](const std::string& direction) { scene_->lookFrom(direction); };
+    bar_ = new ViewBar(std::move(events), this);
+    scene_ = new SceneWidget([this](const std::optional<Picked_s>& picked) { showPicked(picked); },
+                             this);
+    message_ = new QLabel(this);
+    message_->setObjectName(QStringLiteral("viewMessage"));
+    message_->setAlignment(Qt::AlignCenter);
+    message_->setWordWrap(true);
+    pages_ = new QStackedWidget(this);
+    pages_->addWidget(message_);
+    pages_->addWidget(scene_);
+    times_ = new TimeBar([this](int step) { chooseStep(step); }, this);
+    auto* layout = new QVBoxLayout(this);
+    constexpr int margin = 6;
+    layout->setContentsMargins(margin, margin, margin, 0);
+    layout->addWidget(bar_);
+    layout->addWidget(pages_, 1);
+    layout->addWidget(times_);
+    layout->addWidget(makeFoot());
+}
+
+QWidget* ViewPanel::makeFoot() {
+    values_ = new QLabel(this);
+    values_->setObjectName(QStringLiteral("pointValues"));
+    values_->setTextFormat(Qt::PlainText);
+    values_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    values_->setWordWrap(true);
+    values_->setAlignment(Qt::AlignTop);
+    foot_ = new QStackedWidget(this);
+    foot_->addWidget(values_);
+    foot_->addWidget(makeProgressRow());
+    constexpr int linesOfValues = 3;
+    foot_->setFixedHeight(linesOfValues * foot_->fontMetrics().lineSpacing());
+    return foot_;
+}
+
+QWidget* ViewPanel::makeProgressRow() {
+    progressRow_ = new QWidget(this);
+    progressText_ = new QLabel(progressRow_);
+    progressText_->setTextFormat(Qt::PlainText);
+    progress_ = new QProgressBar(progressRow_);
+    progress_->setRange(0, 100);
+    auto* cancel = new QPushButton(QStringLiteral("Cancel"), progressRow_);
+    cancel->setObjectName(QStringLiteral("cancelView"));
+    connect(cancel, &QPushButton::clicked, this, [this] { prepare_.cancel(); });
+    auto* layout = new QHBoxLayout(progressRow_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(progressText_);
+    layout->addWidget(progress_, 1);
+    layout->addWidget(cancel);
+    return progressRow_;
+}
+
+void ViewPanel::addKeys() {
+    const auto on = [this](const char* keys, auto act) {
+        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), scene_);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    constexpr double step = 10; // degrees
+    constexpr double nearer = 1.25;
+    on("Home", [this] { scene_->resetCamera(); });
+    on("I", [this] { scene_->lookFrom("iso"); });
+    for (const char* axis : {"x", "y", "z"}) {
+        on(axis, [this, axis] { scene_->lookFrom(std::string("+") + axis); });
+        on((std::string("Shift+") + axis).c_str(),
+           [this, axis] { scene_->lookFrom(std::string("-") + axis); });
+    }
+    on("+", [this] { scene_->zoom(nearer); });
+    on("=", [this] { scene_->zoom(nearer); }); // the same key without Shift
+    on("-", [this] { scene_->zoom(1 / nearer); });
+    on("Left", [this] { scene_->turn(step, 0); });
+    on("Right", [this] { scene_->turn(-step, 0); });
+    on("Up", [this] { scene_->turn(0, -step); });
+    on("Down", [this] { scene_->turn(0, step); });
+    on("PgDown", [this] { times_->goBy(1); });
+    on("PgUp", [this] { times_->goBy(-1); });
+    on("Space", [this] { times_->play(!times_->isPlaying()); });
+}
+
+// ---- What is shown ------------------------------------------------------------------------------
+
+std::vector<std::string> ViewPanel::colourNames() const {
+    const auto coordinates = plot3d::scene::coordinatesOf(*data_);
+    std::vector<std::string> names;
+    for (std::size_t variable = 0; variable < data_->variables().size(); ++variable)
+        if (std::find(coordinates.begin(), coordinates.end(), variable) == coordinates.end())
+            names.push_back(data_->variables()[variable].name);
+    for (const std::optional<std::size_t>& coordinate : coordinates)
+        if (coordinate)
+            names.push_back(data_->variables()[*coordinate].name);
+    return names;
+}
+
+void ViewPanel::showDataSet(std::shared_ptr<const DataSet> data, const std::string& whyNot) {
+    data_ = std::move(data);
+    preparer_ = data_ ? std::make_shared<plot3d::scene::Preparer>(*data_) : nullptr;
+    isNew_ = true;
+    hasNoZone_ = false;
+    wanted_ = taken_ = {};
+    values_->clear();
+    bar_->setEnabled(data_ != nullptr);
+    std::vector<double> times;
+    if (data_) {
+        bar_->setChoices(colourNames(), largestOf(*data_));
+        for (const plot3d::TimeStep& step : data_->timeSteps())
+            times.push_back(step.time);
+    }
+    times_->setTimes(std::move(times));
+    say(data_ ? std::string() : whyNot);
+    want({});
+}
+
+void ViewPanel::colourBy(const std::string& variable) {
+    View_s view = wanted_;
+    view.colour = variable;
+    view.range.reset();
+    want(std::move(view));
+}
+
+void ViewPanel::showZones(ZoneChoice zones) {
+    hasNoZone_ = zones && zones->empty();
+    View_s view = wanted_;
+    view.zones = std::move(zones).value_or(std::vector<std::size_t>());
+    want(std::move(view));
+}
+
+void ViewPanel::chooseStep(int step) {
+    View_s view = wanted_;
+    view.time = data_->timeSteps()[static_cast<std::size_t>(step)].time;
+    want(std::move(view));
+}
+
+void ViewPanel::want(View_s view) {
+    wanted_ = std::move(view);
+    if (!data_ || hasNoZone_) {
+        prepare_.start([](const plot3d::Watch&) { return LatestWork::Finish([] {}); });
+        if (data_)
+            say("No zone is ticked in the tree.");
+        return;
+    }
+    // The work keeps what it reads, also when the data set is replaced meanwhile.
+    prepare_.start([this, data = data_, preparer = preparer_,
+                    wish = wanted_](const plot3d::Watch& watch) -> LatestWork::Finish {
+        auto content = preparer->prepare(wish, watch);
+        return [this, content = std::move(content), wish] { take(content, wish); };
+    });
+    times_->setBusy(true);
+    stateTimer_.start(millisecondsBetweenLooks);
+}
+
+void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s& view) {
+    taken_ = view;
+    pages_->setCurrentWidget(scene_);
+    scene_->mark(std::nullopt);
+    scene_->showContent(std::move(content));
+    if (std::exchange(isNew_, false))
+        scene_->resetCamera();
+    showChoices();
+    showState();
+}
+
+void ViewPanel::stayAsBefore(const std::optional<std::string>& failure) {
+    times_->play(false);
+    wanted_ = taken_;
+    if (isNew_)
+        say(failure.value_or("Cancelled."));
+    else if (failure)
+        values_->setText(shown(*failure));
+    showChoices();
+    showState();
+}
+
+void ViewPanel::showChoices() {
+    if (content() == nullptr || isNew_)
+        return;
+    bar_->showChoice(content()->colourName, wanted_.surfaces.front());
+    bar_->showDirections(content()->view.plot == plot3d::scene::PlotKind_e::Space);
+    times_->showStep(static_cast<int>(content()->timeStep));
+}
+
+void ViewPanel::say(const std::string& text) {
+    message_->setText(shown(text));
+    pages_->setCurrentWidget(message_);
+}
+
+void ViewPanel::showState() {
+    const bool isRunning = prepare_.isRunning();
+    times_->setBusy(isRunning);
+    foot_->setCurrentWidget(isRunning ? progressRow_ : values_);
+    if (!isRunning) {
+        stateTimer_.stop();
+        return;
+    }
+    const LatestWork::State_s state = prepare_.state();
+    progressText_->setText(shown(state.text));
+    constexpr double percent = 100;
+    progress_->setValue(static_cast<int>(state.fraction * percent));
+}
+
+// ---- What is clicked at -------------------------------------------------------------------------
+
+void ViewPanel::showPicked(const std::optional<Picked_s>& picked) {
+    values_->clear();
+    scene_->mark(picked ? std::optional(picked->position) : std::nullopt);
+    if (!picked)
+        return;
+    picked_(picked->zone);
+    readValues(*picked);
+}
+
+void ViewPanel::readValues(const Picked_s& picked) {
+    values_->setText(placeText(*data_, picked));
+    read_.start([this, data = data_, picked](const plot3d::Watch&) -> LatestWork::Finish {
+        const QString text =
+            placeText(*data, picked) + QLatin1Char('\n') + valuesText(*data, picked);
+        return [this, text] { values_->setText(text); };
+    });
+}
+
+} // namespace quorvia::host

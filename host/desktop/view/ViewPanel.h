@@ -1,0 +1,82 @@
+// The picture of a data set with what works it: colours and surfaces above, time below, what was
+// clicked at, and how far preparing has come. All reading goes on beside the windows' thread.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTimer>
+
+#include "content/Preparer.h"
+#include "desktop/view/DataSetView.h"
+#include "desktop/view/LatestWork.h"
+#include "desktop/view/SceneWidget.h"
+#include "desktop/view/TimeBar.h"
+#include "desktop/view/ViewBar.h"
+
+namespace quorvia::host {
+
+class ViewPanel : public DataSetView {
+public:
+    ViewPanel(ZonePicked picked, QWidget* parent);
+
+    void showDataSet(std::shared_ptr<const plot3d::DataSet> data,
+                     const std::string& whyNot) override;
+    void colourBy(const std::string& variable) override;
+    void showZones(ZoneChoice zones) override;
+
+    /// What is in the picture; null for nothing. It may be older than what was asked for last.
+    const plot3d::scene::SceneContent_s* content() const { return scene_->stage().content(); }
+    /// What is asked for is in the picture, or was refused or cancelled, and what was clicked at
+    /// has been told.
+    bool isSettled() const { return !prepare_.isRunning() && !read_.isRunning(); }
+    SceneWidget& scene() { return *scene_; }
+    TimeBar& timeBar() { return *times_; }
+    LatestWork& preparing() { return prepare_; }
+
+private:
+    void addParts();
+    void addKeys();
+    QWidget* makeFoot();
+    QWidget* makeProgressRow();
+    void want(plot3d::scene::View_s view);
+    void take(std::shared_ptr<const plot3d::scene::SceneContent_s> content,
+              const plot3d::scene::View_s& view);
+    void stayAsBefore(const std::optional<std::string>& failure);
+    void showChoices();
+    void showState();
+    void showPicked(const std::optional<plot3d::scene::Picked_s>& picked);
+    void readValues(const plot3d::scene::Picked_s& picked);
+    void say(const std::string& text);
+    void chooseStep(int step);
+    std::vector<std::string> colourNames() const;
+
+    ZonePicked picked_;
+    ViewBar* bar_ = nullptr;
+    QStackedWidget* pages_ = nullptr; // the picture, or why there is none
+    SceneWidget* scene_ = nullptr;
+    QLabel* message_ = nullptr;
+    TimeBar* times_ = nullptr;
+    QLabel* values_ = nullptr;       // of the point that was clicked at
+    QStackedWidget* foot_ = nullptr; // the values, or while something is prepared how far it is
+    QWidget* progressRow_ = nullptr;
+    QLabel* progressText_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    QTimer stateTimer_;
+    std::shared_ptr<const plot3d::DataSet> data_;
+    std::shared_ptr<plot3d::scene::Preparer> preparer_; // used by the thread of prepare_ alone
+    plot3d::scene::View_s wanted_;                      // as asked for last
+    plot3d::scene::View_s taken_;                       // as asked for, of what is in the picture
+    bool isNew_ = true;      // nothing of the data set was in the picture yet
+    bool hasNoZone_ = false; // the user wants to see none
+    LatestWork prepare_;
+    LatestWork read_; // last, with prepare_: their threads end first
+};
+
+} // namespace quorvia::host
