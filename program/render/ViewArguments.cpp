@@ -61,10 +61,11 @@ void ViewArguments::declareContents(CLI::App& app) {
                    "(default: the first variable of the solution)")
         ->type_name("NAME")
         ->group(group);
-    app.add_option("--range", range_,
-                   "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
-                   "points shown (default), all points at that time (time), or at all times "
-                   "(all-times)")
+    app.add_option(
+           "--range", range_,
+           "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
+           "points shown (default), all points at that time (time), or at all times "
+           "(all-times)")
         ->type_name("RANGE")
         ->check(takenBy(checkRange))
         ->group(group);
@@ -118,13 +119,15 @@ void ViewArguments::declareContents(CLI::App& app) {
 
 void ViewArguments::declareLook(CLI::App& app) {
     const char* const group = "How it looks";
-    app.add_option("--map", map_, "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
+    app.add_option("--map", map_,
+                   "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
         ->type_name("NAME")
         ->check(takenBy([](const std::string& text) { scene::ColourMap::named(text); }))
         ->group(group);
-    app.add_option("--view", direction_,
-                   "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
-                   "data towards the eye")
+    app.add_option(
+           "--view", direction_,
+           "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
+           "data towards the eye")
         ->type_name("DIRECTION")
         ->check(takenBy([](const std::string& text) { scene::cameraFromText(text); }))
         ->group(group);
