@@ -59,6 +59,11 @@ std::vector<std::string> DesktopUser::chooseFiles(const FileRequest_s& request) 
     return files;
 }
 
+void DesktopUser::choiceLost() {
+    constexpr bool isError = true;
+    read("There is no memory for the names of the files.", isError);
+}
+
 void DesktopUser::dialogShown(const Dialog_s& dialog) {
     actions_.clear();
     post(windows_, [&windows = windows_, copy = dialog] { windows.showDialog(copy); });

@@ -25,6 +25,7 @@ public:
     DialogAction nextAction(const Dialog_s& dialog) override;
     bool answer(const std::string& question) override;
     std::vector<std::string> chooseFiles(const FileRequest_s& request) override;
+    void choiceLost() override;
     void dialogShown(const Dialog_s& dialog) override;
     void dialogDropped(const Dialog_s& dialog) override;
     void read(const std::string& text, bool isError) override;

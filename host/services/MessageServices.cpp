@@ -1,5 +1,6 @@
 // Messages, questions, file dialogs, help.
 #include <iterator>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -51,6 +52,19 @@ QuorStringListHandle chooseFiles(Call& call, const FileRequest_s& request) {
     return call.host().handles.of(QuorStringListHandle{}).add(call.operation(), std::move(list));
 }
 
+/// To the guest a choice that is lost looks like a Cancel, so that the user must be told.
+template <typename Chosen, typename Choose>
+Chosen letUserChoose(Call& call, Choose choose) {
+    return call.withinMemory<Chosen>(nullptr, [&] {
+        try {
+            return choose();
+        } catch (const std::bad_alloc&) {
+            call.host().user->choiceLost();
+            throw;
+        }
+    });
+}
+
 } // namespace
 
 extern "C" {
@@ -83,7 +97,7 @@ bool QuorUtilDialogGetFileName(std::int32_t dialogKind, char** name, const char*
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *name = nullptr;
     std::string chosen;
-    *name = call.withinMemory<char*>(nullptr, [&] {
+    *name = letUserChoose<char*>(call, [&] {
         const char* proposed = defaultName != nullptr ? defaultName : "";
         return chooseFile(call, {false, typeWord, proposed, filter}, chosen);
     });
@@ -100,7 +114,7 @@ bool QuorUtilDialogGetFileNames(std::int32_t dialogKind, QuorStringListHandle* n
     if (names == nullptr || dialogKind != 1 || typeWord == nullptr || filter == nullptr)
         return call.result(call.violate("bad dialog kind, or an argument is null"));
     *names = nullptr;
-    *names = call.withinMemory(QuorStringListHandle{}, [&] {
+    *names = letUserChoose<QuorStringListHandle>(call, [&] {
         return chooseFiles(call, {true, typeWord, "", filter});
     });
     call.result(*names != nullptr);

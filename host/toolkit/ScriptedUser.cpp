@@ -91,11 +91,20 @@ DialogAction ScriptedUser::playOn(const Dialog_s& dialog) {
 DialogAction ScriptedUser::nextAction(const Dialog_s& dialog) {
     try {
         return playOn(dialog);
-    } catch (const std::bad_alloc&) { // the rest would be played at another place than was meant
-        script_.clear();
-        problem_ = "no memory"; // so short a text needs none
+    } catch (const std::bad_alloc&) {
+        loseScript();
         throw;
     }
+}
+
+void ScriptedUser::choiceLost() {
+    loseScript();
+}
+
+// The rest would be played at another place than was meant.
+void ScriptedUser::loseScript() {
+    script_.clear();
+    problem_ = "no memory"; // so short a text needs none
 }
 
 bool ScriptedUser::answer(const std::string& question) {

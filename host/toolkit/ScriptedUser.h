@@ -57,8 +57,10 @@ public:
     DialogAction nextAction(const Dialog_s& dialog) override;
     bool answer(const std::string& question) override;
     FileChoice chooseFiles(const FileRequest_s& request) override;
+    void choiceLost() override;
 
 private:
+    void loseScript();
     DialogAction playOn(const Dialog_s& dialog);
     ScriptEntry takeEntry();
     /// Does what the entry says if it is no step of a dialog.

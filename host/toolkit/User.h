@@ -30,6 +30,8 @@ public:
     virtual bool answer(const std::string& question) = 0;
     /// Whole paths; none for Cancel.
     virtual std::vector<std::string> chooseFiles(const FileRequest_s& request) = 0;
+    /// There was no memory for the files that were chosen: the guest was told of none.
+    virtual void choiceLost() {}
 
     // What a window needs to draw. The dialog and its controls are borrowed for the call.
 
