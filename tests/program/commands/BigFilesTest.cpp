@@ -143,11 +143,12 @@ TEST_F(BigFiles, AreConvertedWhereTheEndsOfSegmentsCutThem) {
     const std::string big = writeBig(segmented);
     for (const std::int32_t first : {221, 443}) {
         const std::string range = std::to_string(first + 1) + "," + std::to_string(first + 3);
-        const Ended_s run = ended({"convert", big, "-o", file("part.x"), "--overwrite", "--k",
-                                   range, "--encoding", "binary"});
+        const std::string part = "part" + std::to_string(first) + ".x";
+        const Ended_s run =
+            ended({"convert", big, "-o", file(part), "--k", range, "--encoding", "binary"});
         ASSERT_EQ(run.code, 0) << run.err;
         write("wanted.x", planesFrom(first, 3), formOf(writer::Encoding_e::Binary));
-        EXPECT_TRUE(bytesOf("part.x") == bytesOf("wanted.x")) << "planes " << range;
+        EXPECT_TRUE(bytesOf(part) == bytesOf("wanted.x")) << "planes " << range;
     }
 }
 

@@ -211,13 +211,14 @@ TEST_F(RandomConversions, AreTheFilesOfTheWriter) {
 /// sizes: PLOT3D files come back bit for bit.
 TEST_F(RandomConversions, GiveFilesOfAnySizeBack) {
     for (const std::int32_t planes : {1, 3, 7, 9, 13, 17, 33}) {
+        const std::string back = "back" + std::to_string(planes);
         const Sizes sizes = {{61, 67, planes}, {5, 3, 2}, {67, 61, planes}};
         const std::string grid = write("any.x", gridFile(sizes, randomValues(7), placeIBlank));
         const std::string solution = write("any.q", solutionFile(sizes, randomValues(8)));
-        const Ended_s run = ended({"convert", grid, solution, "--overwrite", "-o", file("back.x")});
+        const Ended_s run = ended({"convert", grid, solution, "-o", file(back + ".x")});
         ASSERT_EQ(run.code, 0) << run.err;
-        EXPECT_TRUE(bytesOf(file("back.x")) == bytesOf(grid)) << planes << " planes";
-        EXPECT_TRUE(bytesOf(file("back.q")) == bytesOf(solution)) << planes << " planes";
+        EXPECT_TRUE(bytesOf(file(back + ".x")) == bytesOf(grid)) << planes << " planes";
+        EXPECT_TRUE(bytesOf(file(back + ".q")) == bytesOf(solution)) << planes << " planes";
     }
 }
 
