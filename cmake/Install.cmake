@@ -1,7 +1,8 @@
-# What `cmake --install` puts where, in four components that are the four packages:
+# What `cmake --install` puts where, in components that are the packages:
 #   library   libplot3d and libquorhost, with the add-on for other hosts
 #   develop   headers, config files for find_package and pkg-config
 #   programs  plot3d, quorhost, plot3d-sample, man page, completions
+#   render    libplot3dscene, which plot3d render loads
 #   desktop   quorhost-desktop, its entry in menus, icon, patterns of file names
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -19,7 +20,7 @@ function(find_libraries_beside folder)
 endfunction()
 
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/plot3d)
-set(addon_folder ${CMAKE_INSTALL_LIBDIR}/plot3d) # where host/session/AddOnPath looks for it
+set(addon_folder ${CMAKE_INSTALL_LIBDIR}/plot3d) # where host/session/AddOnPath and program/render look
 
 find_libraries_beside(${CMAKE_INSTALL_LIBDIR} plot3d quorhost_sdk)
 install(TARGETS plot3d quorhost_sdk EXPORT plot3dTargets
@@ -57,6 +58,11 @@ install(FILES ${pages}/plot3d
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programs)
 install(FILES ${pages}/_plot3d
     DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT programs)
+
+if(TARGET plot3dscene)
+  find_libraries_beside(${addon_folder} plot3dscene)
+  install(TARGETS plot3dscene LIBRARY DESTINATION ${addon_folder} COMPONENT render)
+endif()
 
 if(PLOT3D_BUILD_DESKTOP)
   find_libraries_beside(${CMAKE_INSTALL_BINDIR} quorhost-desktop)

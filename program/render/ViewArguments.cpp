@@ -33,7 +33,7 @@ auto takenBy(Parse parse) {
 std::string mapWords() {
     std::string words;
     for (const std::string_view name : scene::ColourMap::names())
-        words += (words.empty() ? "" : "|") + std::string(name);
+        words += (words.empty() ? "" : ", ") + std::string(name);
     return words;
 }
 
@@ -62,9 +62,10 @@ void ViewArguments::declareContents(CLI::App& app) {
         ->type_name("NAME")
         ->group(group);
     app.add_option("--range", range_,
-                   "Values at the ends of the colours; or what they are taken from: the points "
-                   "shown (default), all points at that time, or at all times")
-        ->type_name("LEAST:MOST|shown|time|all-times")
+                   "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
+                   "points shown (default), all points at that time (time), or at all times "
+                   "(all-times)")
+        ->type_name("RANGE")
         ->check(takenBy(checkRange))
         ->group(group);
     app.add_option("--time", time_, "Solution time: the step at it, or first or last")
@@ -80,7 +81,7 @@ void ViewArguments::declareContents(CLI::App& app) {
     app.add_option("--surface", surfaces_,
                    "outer; planes of indices such as k=1,-1 (-1 is the last); boundary=NAME of the "
                    "boundary file, with * and ?; may come several times")
-        ->type_name("outer|i=|j=|k=|boundary=")
+        ->type_name("SURFACE")
         ->check(takenBy([](const std::string& text) { scene::surfacesFromText(text); }))
         ->allow_extra_args(false)
         ->group(group);
@@ -117,14 +118,14 @@ void ViewArguments::declareContents(CLI::App& app) {
 
 void ViewArguments::declareLook(CLI::App& app) {
     const char* const group = "How it looks";
-    app.add_option("--map", map_, "Colours (default: viridis); viridis-r turns them round")
-        ->type_name(mapWords())
+    app.add_option("--map", map_, "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
+        ->type_name("NAME")
         ->check(takenBy([](const std::string& text) { scene::ColourMap::named(text); }))
         ->group(group);
     app.add_option("--view", direction_,
-                   "From where it is seen: iso (default), an axis, or X,Y,Z from the data towards "
-                   "the eye")
-        ->type_name("iso|+x|-x|+y|-y|+z|-z|X,Y,Z")
+                   "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
+                   "data towards the eye")
+        ->type_name("DIRECTION")
         ->check(takenBy([](const std::string& text) { scene::cameraFromText(text); }))
         ->group(group);
     app.add_option("--zoom", zoom_, "2 is twice as large as all that fits (default: 1)")

@@ -19,6 +19,8 @@ double roundStep(double atLeast) {
 
 std::string labelOf(double value, double step, double largest) {
     std::array<char, 48> text = {};
+    if (value == 0 && largest == 0)
+        return "0";
     if (largest >= 1e6 || largest < 1e-4) {
         const int digits = std::max(0, static_cast<int>(std::floor(std::log10(largest) + 1e-9) -
                                                         std::floor(std::log10(step) + 1e-9)));

@@ -26,7 +26,7 @@ namespace {
 template <typename Thing>
 using Kept = std::map<std::string, std::shared_ptr<const Thing>>;
 
-constexpr std::int64_t arrowsInAll = 900;
+constexpr std::int64_t arrowsInAll = 500;
 
 template <typename Thing>
 std::shared_ptr<const Thing> foundIn(const Kept<Thing>& kept, const std::string& key) {

@@ -1,5 +1,7 @@
 #include "picture/OffscreenPainter.h"
 
+#include <algorithm>
+
 #include <plot3d/Error.h>
 #include <vtkImageData.h>
 #include <vtkPNGWriter.h>
@@ -7,7 +9,6 @@
 #include <vtkRenderer.h>
 #include <vtkUnsignedCharArray.h>
 
-#include "picture/Display.h"
 #include "stage/Stage.h"
 
 namespace plot3d::scene {
@@ -18,8 +19,10 @@ OffscreenPainter::~OffscreenPainter() {
     stage_.reset(); // ahead of the renderer that it is in
 }
 
-std::string OffscreenPainter::displayProblem() const {
-    return scene::displayProblem();
+std::string OffscreenPainter::displayProblem() {
+    if (!window_)
+        display_ = std::make_unique<DisplayLink>();
+    return display_->problem();
 }
 
 void OffscreenPainter::makeWindow(int width, int height) {
@@ -30,7 +33,9 @@ void OffscreenPainter::makeWindow(int width, int height) {
         window_ = vtkSmartPointer<vtkRenderWindow>::New();
         renderer_ = vtkSmartPointer<vtkRenderer>::New();
         window_->OffScreenRenderingOn();
-        window_->SetMultiSamples(4);
+        // Samples leave surfaces jagged in software, and don't go with what smooths edges.
+        window_->SetMultiSamples(0);
+        renderer_->UseFXAAOn();
         window_->SetDPI(72);
         window_->AddRenderer(renderer_);
         stage_ = std::make_unique<Stage>(*renderer_);

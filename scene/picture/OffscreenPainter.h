@@ -7,6 +7,7 @@
 #include <vtkNew.h>
 #include <vtkSmartPointer.h>
 
+#include "picture/Display.h"
 #include "picture/Painter.h"
 
 class vtkRenderWindow;
@@ -21,7 +22,7 @@ public:
     OffscreenPainter();
     ~OffscreenPainter() override;
 
-    std::string displayProblem() const override;
+    std::string displayProblem() override;
     void warmUp(int width, int height) override;
     Pixels_s paint(const std::shared_ptr<const SceneContent_s>& content) override;
     std::vector<std::uint8_t> png(const Pixels_s& pixels) const override;
@@ -29,6 +30,7 @@ public:
 private:
     void makeWindow(int width, int height);
 
+    std::unique_ptr<DisplayLink> display_; // outlives the window
     vtkSmartPointer<vtkRenderer> renderer_;
     vtkSmartPointer<vtkRenderWindow> window_;
     std::unique_ptr<Stage> stage_;

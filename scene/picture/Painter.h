@@ -25,7 +25,7 @@ public:
     virtual ~Painter() = default;
     /// Why no window can be made on the display that DISPLAY names; empty if one can. Without this
     /// question a missing display ends the process.
-    virtual std::string displayProblem() const = 0;
+    virtual std::string displayProblem() = 0;
     /// Makes what can be made ahead of the first picture, of that size, while others still read.
     virtual void warmUp(int width, int height) = 0;
     /// In the size of the content's view. One window serves all pictures of a painter. Throws Error

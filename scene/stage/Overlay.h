@@ -1,6 +1,8 @@
 // Flat marks drawn over the renderer's scene.
 #pragma once
 
+#include <utility>
+
 #include <vtkContextItem.h>
 
 #include "annotation/Drawing.h"
@@ -10,11 +12,7 @@ namespace plot3d::scene {
 class Overlay : public vtkContextItem {
 public:
     static Overlay* New();
-    vtkTypeMacro(Overlay, vtkContextItem) // ends itself
-
-        void set(Drawing_s drawing) {
-        drawing_ = std::move(drawing);
-    }
+    void set(Drawing_s drawing) { drawing_ = std::move(drawing); }
     bool Paint(vtkContext2D* painter) override;
 
 private:

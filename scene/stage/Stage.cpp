@@ -44,7 +44,7 @@ void addLights(vtkRenderer& renderer) {
         double intensity;
     };
     renderer.AutomaticLightCreationOff();
-    for (const Light_s& one : {Light_s{{-0.5, 0.7, 1.4}, 0.85}, Light_s{{0.9, -0.2, 0.7}, 0.3}}) {
+    for (const Light_s& one : {Light_s{{-0.4, 0.8, 1.2}, 0.8}, Light_s{{0.9, 0.1, 0.8}, 0.35}}) {
         vtkNew<vtkLight> light;
         light->SetLightTypeToCameraLight();
         light->SetPosition(one.position.data());

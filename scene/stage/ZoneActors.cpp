@@ -89,8 +89,10 @@ void ZoneActors::showSurface(const ZonePart_s& part, const Style_s& style) {
     mapper_->SetInputData(style.isCoarse && coarse_ ? coarse_ : full_);
     vtkProperty& property = *surface_->GetProperty();
     property.SetLighting(style.isInSpace);
-    property.SetAmbient(style.isInSpace ? 0.25 : 1);
-    property.SetDiffuse(style.isInSpace ? 0.8 : 0);
+    // Colours that mean values keep close to those of the legend.
+    const double ambient = !style.isInSpace ? 1 : part.values ? 0.5 : 0.3;
+    property.SetAmbient(ambient);
+    property.SetDiffuse(style.isInSpace ? 1.15 - ambient : 0);
     property.SetSpecular(0);
     property.SetLineWidth(static_cast<float>(2 * style.lineWidth));
     const Vector3 plain = zoneColour(part.zone);
@@ -116,6 +118,7 @@ void ZoneActors::colourSurface(const ZonePart_s& part, const Style_s& style) {
 void ZoneActors::setLines(vtkActor& actor, vtkPolyData* lines, const Style_s& style,
                           double opacity) {
     setPlain(actor, lines);
+    actor.GetMapper()->SetRelativeCoincidentTopologyLineOffsetParameters(-1, -12);
     vtkProperty& property = *actor.GetProperty();
     property.SetLighting(false);
     property.SetColor(style.ink[0], style.ink[1], style.ink[2]);

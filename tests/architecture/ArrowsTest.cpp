@@ -125,7 +125,27 @@ const Arrows programArrows = {
     {"index",
      {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf",
       "index/p3d", "index/vp3d"}},
-    {"app", {"console", "manners", "info", "stats", "diff", "convert", "index"}},
+    {"render",
+     {"console", "manners", "selection", "view", "colours", "surfaces", "content", "picture"}},
+    {"app", {"console", "manners", "info", "stats", "diff", "convert", "index", "render"}},
+    // The scene, of which no more than the painter's interface reaches VTK's side.
+    {"view", {}},
+    {"colours", {}},
+    {"surfaces", {}},
+    {"content", {}},
+    {"picture", {}},
+};
+
+const Arrows sceneArrows = {
+    {"console", {}},
+    {"blocks", {}}, // of the program: cores, and boxes in pieces
+    {"view", {"console"}},
+    {"colours", {}},
+    {"surfaces", {"view"}},
+    {"content", {"view", "colours", "surfaces", "blocks"}},
+    {"annotation", {"view", "colours", "surfaces", "content"}},
+    {"stage", {"view", "colours", "surfaces", "content", "annotation"}},
+    {"picture", {"view", "content", "stage"}},
 };
 
 /// The longest room of the table that `path`, relative to the tree's root, lies in; empty if none.
@@ -220,6 +240,21 @@ TEST(Arrows, OfTheToolsNeverReachTheReader) {
 
 TEST(Arrows, OfTheProgramGoOneWay) {
     expectNoForbiddenInclude("program", programArrows);
+}
+
+TEST(Arrows, OfTheSceneGoOneWay) {
+    expectNoForbiddenInclude("scene", sceneArrows);
+}
+
+// Whoever includes a header of VTK needs VTK to be built.
+TEST(Arrows, OfTheSceneReachVtkFromStageAndPictureAlone) {
+    for (const char* room : {"view", "colours", "surfaces", "content", "annotation"})
+        for (const auto& entry :
+             fs::directory_iterator(fs::path(PLOT3D_SOURCE_DIR) / "scene" / room)) {
+            std::ifstream in(entry.path());
+            for (std::string line; std::getline(in, line);)
+                EXPECT_NE(line.rfind("#include <vtk", 0), 0U) << entry.path() << ": " << line;
+        }
 }
 
 bool beginsWithOneOf(const std::string& text, const std::vector<std::string>& beginnings) {

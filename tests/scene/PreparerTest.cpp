@@ -1,0 +1,170 @@
+// From a data set and a view to what is drawn.
+#include <algorithm>
+#include <cmath>
+#include <stop_token>
+
+#include <plot3d/Error.h>
+
+#include "SceneFixture.h"
+
+namespace plot3dtest {
+namespace {
+
+using plot3d::scene::PlotKind_e;
+using plot3d::scene::Preparer;
+using plot3d::scene::RangeOver_e;
+
+using PreparerTest = SceneTest;
+
+TEST_F(PreparerTest, ChoosesWhatTheViewLeavesOpen) {
+    const DataSet cylinder = opened({"cylinder"});
+    EXPECT_EQ(prepared(cylinder)->view.colour, "RHO");
+    EXPECT_EQ(prepared(cylinder)->view.plot, PlotKind_e::Space);
+    EXPECT_EQ(prepared(opened({"vortex"}))->view.plot, PlotKind_e::Plane);
+    const DataSet tube = opened({"shocktube"});
+    EXPECT_EQ(prepared(tube)->view.plot, PlotKind_e::Lines);
+}
+
+TEST_F(PreparerTest, DrawsAGridAloneByItsLines) {
+    const DataSet data = DataSet::open({sample({"cylinder"}).back()});
+    const Content content = prepared(data);
+    EXPECT_FALSE(content->hasValues);
+    EXPECT_TRUE(content->parts.at(0).gridLines);
+}
+
+TEST_F(PreparerTest, TakesOverWhatIsTheSame) {
+    const DataSet data = opened({"vortex", "--steps", "2"});
+    Preparer preparer(data);
+    View_s view;
+    const Content first = preparer.prepare(view);
+    view.map = "magma";
+    const Content recoloured = preparer.prepare(view);
+    EXPECT_EQ(recoloured->parts[0].values, first->parts[0].values);
+    view.time = data.timeSteps()[1].time;
+    const Content next = preparer.prepare(view);
+    EXPECT_EQ(next->parts[0].mesh, first->parts[0].mesh);
+    EXPECT_NE(next->parts[0].values, first->parts[0].values);
+    EXPECT_EQ(next->title, "vortex.x, vortex_t0.25.q, time 0.25");
+}
+
+TEST_F(PreparerTest, TakesTheRangeFromWhatIsAskedFor) {
+    const DataSet data = numbered({5, 3, 7});
+    View_s view = viewOf("k=1");
+    EXPECT_EQ(prepared(data, view)->range.most, 4 + 200);
+    view.rangeOver = RangeOver_e::Time;
+    EXPECT_EQ(prepared(data, view)->range.most, 4 + 200 + 60000);
+    view.range = plot3d::scene::Range_s{1, 2};
+    EXPECT_EQ(prepared(data, view)->range.most, 2);
+}
+
+TEST_F(PreparerTest, ColoursByDerivedQuantitiesAsTheLibraryGivesThem) {
+    const DataSet data = opened({"cylinder"});
+    View_s view;
+    for (const char* word : {"pressure", "vorticity"}) {
+        view.colour = word;
+        const Content content = prepared(data, view);
+        const auto all = plot3d::derive(data, 0, *plot3d::findDerivedQuantity(word));
+        const auto& part = content->parts[0];
+        const auto& zone = data.zones()[0].size;
+        for (std::int64_t point = 0; point < part.mesh->pointCount(); point += 7) {
+            const auto place = part.mesh->placeOf(point);
+            const auto at =
+                static_cast<std::size_t>((place.k * zone.j + place.j) * zone.i + place.i);
+            const double length =
+                all.size() == 1 ? all[0][at] : std::hypot(all[0][at], all[1][at], all[2][at]);
+            ASSERT_DOUBLE_EQ(part.values->values[static_cast<std::size_t>(point)], length);
+        }
+    }
+}
+
+TEST_F(PreparerTest, KeepsToTheZonesOfTheView) {
+    const DataSet data = opened({"cylinder"});
+    View_s view;
+    view.zones = {2};
+    const Content content = prepared(data, view);
+    ASSERT_EQ(content->parts.size(), 1U);
+    EXPECT_EQ(content->parts[0].zone, 1U);
+    view.zones = {3};
+    EXPECT_THROW(prepared(data, view), plot3d::Error);
+}
+
+TEST_F(PreparerTest, ShowsBoundariesByTheirNames) {
+    const DataSet data = opened({"cylinder", "--boundaries"});
+    const Content outer = prepared(data);
+    EXPECT_EQ(outer->parts.size(), 2U);
+    const Content boundaries = prepared(data, viewOf("boundary"));
+    for (const auto& part : boundaries->parts)
+        EXPECT_TRUE(data.zones()[part.zone].parent);
+    EXPECT_GT(boundaries->parts.size(), 2U);
+    EXPECT_THROW(prepared(data, viewOf("boundary=nothing*")), plot3d::Error);
+}
+
+TEST_F(PreparerTest, PlotsAlongALineOfTheGrid) {
+    const DataSet data = numbered({5, 3, 7});
+    View_s view;
+    view.line = std::array<std::int64_t, 3>{2, -1, 0};
+    const Content content = prepared(data, view);
+    ASSERT_EQ(content->curves.size(), 1U);
+    EXPECT_EQ(content->curves[0].ordinates,
+              (std::vector<double>{201, 10201, 20201, 30201, 40201, 50201, 60201}));
+    EXPECT_EQ(content->curves[0].abscissas[2], 2);
+    EXPECT_EQ(content->abscissaNames[0], "Z"); // which changes most along it
+}
+
+TEST_F(PreparerTest, RefusesNamesThatAreNothingWithThoseThatThereAre) {
+    const DataSet data = numbered({5, 3, 7});
+    View_s view;
+    view.colour = "densty";
+    try {
+        prepared(data, view);
+        FAIL();
+    } catch (const plot3d::Error& error) {
+        EXPECT_EQ(
+            error.message().rfind("nothing is called \"densty\"; there are X, Y, Z, F1V1, ", 0),
+            0U);
+    }
+}
+
+TEST_F(PreparerTest, StopsWhenItIsAskedToAndWorksAgainAfterwards) {
+    const DataSet data = opened({"cylinder"});
+    Preparer preparer(data);
+    std::stop_source stop;
+    plot3d::Watch watch;
+    watch.stop = stop.get_token();
+    watch.progress = [&](const plot3d::Progress&) { stop.request_stop(); };
+    EXPECT_THROW(preparer.prepare({}, watch), plot3d::Error);
+    EXPECT_EQ(preparer.prepare({})->parts.size(), 2U);
+}
+
+TEST_F(PreparerTest, HasArrowsWithTheVectorsOfTheirPoints) {
+    const DataSet data = opened({"cylinder"});
+    View_s view = viewOf("k=1");
+    view.zones = {2}; // Cartesian
+    view.vectors = "RHO-U,RHO-V,RHO-W";
+    const auto arrows = prepared(data, view)->parts.at(0).arrows;
+    ASSERT_TRUE(arrows);
+    const plot3d::Extent size = data.zones()[1].size;
+    const plot3d::Box plane{{0, size.i - 1, 1}, {0, size.j - 1, 1}, {0, 0, 1}};
+    const auto x = data.values(1, 0, plane);
+    const auto y = data.values(1, 1, plane);
+    const auto momentum = data.values(1, data.variable("RHO-U"), plane);
+    for (std::size_t arrow = 0; arrow < arrows->points.size() / 3; ++arrow) {
+        std::size_t at = 0;
+        while (x[at] != arrows->points[3 * arrow] || y[at] != arrows->points[3 * arrow + 1])
+            ++at;
+        ASSERT_EQ(arrows->directions[3 * arrow], momentum.at(at));
+    }
+    EXPECT_LT(arrows->points.size() / 3, 1000U);
+}
+
+TEST_F(PreparerTest, OutlinesTheTwelveEdgesOfAZone) {
+    const DataSet data = numbered({5, 3, 7});
+    View_s view;
+    view.outlines = true;
+    const auto outline = prepared(data, view)->parts.at(0).outline;
+    ASSERT_EQ(outline->polylines.size(), 12U);
+    EXPECT_EQ(outline->points.size(), 3U * 4 * (5 + 3 + 7));
+}
+
+} // namespace
+} // namespace plot3dtest
