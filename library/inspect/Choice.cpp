@@ -1,6 +1,7 @@
 #include "inspect/Choice.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "inspect/TextAccount.h"
 
@@ -71,14 +72,14 @@ private:
     }
 
     void choose() {
-        for (const Reading_s& first : firstOfKinds_)
-            if (isExact(evidence_, first)) {
-                take(first, first);
+        for (std::size_t index = 0; index < firstOfKinds_.size(); ++index)
+            if (isExact(evidence_, firstOfKinds_[index])) {
+                takeExact(index);
                 noteFurtherKinds();
                 return;
             }
         for (std::size_t index = 0; index < firstOfKinds_.size(); ++index)
-            if (takeExactOf(index)) {
+            if (takeExactOf(index, std::nullopt)) {
                 noteFurtherKinds();
                 return;
             }
@@ -105,16 +106,27 @@ private:
                 return take(firstOfKinds_.front(), reading);
     }
 
-    /// Goes on behind the reading that a load takes, which does not account for every byte.
-    bool takeExactOf(std::size_t index) {
+    /// The reading that a load takes accounts for every byte. It may still be of another kind than
+    /// the file is said to be: of a few sizes a function file passes for a solution.
+    void takeExact(std::size_t index) {
+        const Reading_s& first = firstOfKinds_[index];
+        const bool isOtherKind = triedKinds_[index] == Kinds_e::SolutionOrFunction &&
+                                 evidence_.expectedKind.value_or(kindOf(first)) != kindOf(first);
+        if (!isOtherKind || !takeExactOf(index, evidence_.expectedKind))
+            take(first, first);
+    }
+
+    /// Goes on behind the reading that a load takes, to one of that kind, if one is asked for.
+    bool takeExactOf(std::size_t index, std::optional<plot3d::FileKind> kind) {
         Readings readings =
             searchFile(evidence_.file, evidence_.form,
                        {.kinds = triedKinds_[index], .goesOn = true, .notesTrials = false})
                 .readings;
         if (isText(evidence_))
             addReadingsWithIBlank(readings);
-        const auto exact = std::find_if(readings.begin(), readings.end(),
-                                        [&](const auto& r) { return isExact(evidence_, r); });
+        const auto exact = std::find_if(readings.begin(), readings.end(), [&](const auto& r) {
+            return kind.value_or(kindOf(r)) == kindOf(r) && isExact(evidence_, r);
+        });
         if (exact == readings.end())
             return false;
         take(firstOfKinds_[index], *exact);

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "inspect/HeaderGuess.h"
+#include "inspect/Search.h"
 #include "inspect/TextAccount.h"
 #include "plot3dfile/bytes/ByteOrder.h"
 #include "plot3dfile/numbers/FortranRecords.h"
@@ -19,7 +20,6 @@ constexpr std::int64_t realsAheadOfInteger = 7; // among the scalars of Overflow
 constexpr std::int64_t largestScalar = 8;       // bytes
 constexpr std::int64_t fewIntegers = 8;
 constexpr std::int32_t largestIBlank = 10'000;
-constexpr std::int64_t longestHeader = 1024 * 1024;
 
 struct Guess_s {
     Reading_s reading;

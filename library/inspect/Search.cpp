@@ -13,7 +13,6 @@ namespace {
 constexpr std::size_t fewGrids = 8;
 constexpr std::size_t usualTrials = 40;
 constexpr std::int64_t anySize = std::int64_t{1} << 62;
-constexpr std::int64_t longestHeader = std::int64_t{1} << 20;
 
 /// A record without a name, which nothing needs that is not told at the host.
 std::unique_ptr<io::Plot3DFile_s> recordOf(ExaminedFile& file, io::DetectionObserver& observer) {

@@ -2,12 +2,16 @@
 // where nothing fits.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "inspect/ExaminedFile.h"
 #include "inspect/Reading.h"
 
 namespace plot3dlib {
+
+/// Bytes that a file's counts and sizes hardly ever take.
+inline constexpr std::int64_t longestHeader = std::int64_t{1} << 20;
 
 struct TrialNote_s {
     io::Plot3DFileStructure_s structure; // as it was tried, without its segments

@@ -68,6 +68,17 @@ TEST_F(NoMemory, QuestionIsNotAskedAndNotAnsweredWithYes) {
     EXPECT_TRUE(QuorUtilDialogMessageBox(longText, QuorMessageBox_YesNo));
 }
 
+// A guest takes a choice that does not come for a Cancel: a script that went on would play the rest
+// without the files.
+TEST_F(NoMemory, ChoiceOfFilesThatIsLostEndsTheScript) {
+    host().setFileChoices({{longText, longText}});
+    QuorStringListHandle chosen = nullptr;
+    withoutMemory([&] {
+        EXPECT_FALSE(QuorUtilDialogGetFileNames(1, &chosen, "Solution", nullptr, "*.q"));
+    });
+    EXPECT_EQ(host().script().problem(), "no memory");
+}
+
 TEST_F(NoMemory, BreachOfTheContractIsToldLater) {
     withoutMemory([] { QuorUtilZoneGetType(7); });
     expectViolations({"violations that could not be kept for want of memory: 1"});

@@ -50,6 +50,25 @@ TEST_F(Trials, EndWithTheOneThatFits) {
     EXPECT_EQ(info.trials[5].candidate.byteOrder, ByteOrder::Little);
 }
 
+// One grid of 3 x 1 points with five functions has as many bytes as the Classic solution of that
+// grid, which a load tries first.
+TEST_F(Trials, AreTakenByTheKindThatTheNameTells) {
+    writer::FileDescription_s contents;
+    contents.kind = writer::FileKind_e::Function;
+    contents.layout = writer::Layout_e::TwoD;
+    contents.isMultiGrid = true;
+    contents.grids = {{3, 1, 1}};
+    contents.numVars = 5;
+    contents.value = [](auto...) { return 1.0; };
+    const FileInfo info = inspectBytes("wing.f", bytesOf(contents, {}));
+    EXPECT_EQ(info.kind, FileKind::Function);
+    EXPECT_EQ(info.variables, 5);
+    ASSERT_EQ(info.warnings.size(), 1U);
+    EXPECT_EQ(nextOf(info.warnings[0], info),
+              "plot3d stats --grid GRID --function FILE --set AUTODETECT=No --set "
+              "DATASTRUCTURE=2D --set STYLE=PLOT3DFUNCTION --set ISMULTIGRID=Yes");
+}
+
 TEST_F(Trials, AreLeftAwayIfNobodyAsks) {
     InspectOptions options;
     options.trials = false;
