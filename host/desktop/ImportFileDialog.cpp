@@ -122,6 +122,17 @@ FileSelection_s selectFilesToImport(QWidget* parent, const Loader_s& loader, boo
     return selection;
 }
 
+QString chooseFileToSave(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog dialog(parent);
+    prepare(dialog, title, /*severalFiles=*/false);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter(filter);
+    dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).remove(QLatin1Char(')')));
+    const std::vector<std::string> files = runDialog(dialog);
+    return files.empty() ? QString() : shown(files.front());
+}
+
 std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request) {
     QFileDialog dialog(parent);
     const QString files = request.severalFiles ? QStringLiteral("Files") : QStringLiteral("File");

@@ -24,4 +24,8 @@ FileSelection_s selectFilesToImport(QWidget* parent, const Loader_s& loader, boo
 /// What a guest asks for; none for Cancel. Remembers the folder.
 std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request);
 
+/// Where the user wants something to be written, asked before a file is overwritten; empty if he
+/// cancels. `filter` is "Kind (*.ending)"; the ending is added to a name without one.
+QString chooseFileToSave(QWidget* parent, const QString& title, const QString& filter);
+
 } // namespace quorvia::host

@@ -14,6 +14,7 @@
 #include <QUrl>
 
 #include "describe/Words.h"
+#include "desktop/FieldTableWindow.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
 
@@ -34,16 +35,16 @@ std::vector<std::string> localFiles(const QMimeData& data) {
 
 MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> files)
     : filesAtStart_(std::move(files)), session_(*this) {
-    setWindowTitle(QStringLiteral("Quorvia Reference Host"));
     setObjectName(QStringLiteral("main"));
     setAcceptDrops(true);
-    addPanes();
     addMenus();
     addTools();
+    addPanes();
     constexpr QSize sizeAtFirst(1280, 760);
     resize(sizeAtFirst);
     restoreGeometry(preferences_.windowGeometry());
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] { showWhatIsPossible(); });
+    showTitle();
     showWhatIsPossible();
     QTimer::singleShot(0, this, [this, addOnPath] { openAddOn(addOnPath); });
 }
@@ -51,7 +52,9 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
 void MainWindow::addPanes() {
     tree_ = new DataSetTree(
         [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
-    view_ = DataSetView::make([this](std::size_t zone) { tree_->markZone(zone + 1); }, this);
+    view_ = DataSetView::make(
+        {[this](std::size_t zone) { tree_->markZone(zone + 1); }, [this] { showWhatIsPossible(); }},
+        this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
     auto* panes = new QSplitter(this);
@@ -91,6 +94,9 @@ void MainWindow::addFileMenu() {
     import->addAction(import_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
+    savePicture_ = action(QStringLiteral("&Save Picture..."), QKeySequence(QKeySequence::Save),
+                          &MainWindow::savePicture);
+    file->addAction(savePicture_);
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -104,7 +110,9 @@ void MainWindow::addValuesMenu() {
                             &MainWindow::fetchSelected);
     fetchAll_ = action(QStringLiteral("Fetch &All Values"),
                        QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
-    values->addActions({fetchSelected_, fetchAll_});
+    showTable_ = action(QStringLiteral("Show &Table of Field"), QKeySequence(Qt::Key_F6),
+                        &MainWindow::showTable);
+    values->addActions({fetchSelected_, fetchAll_, showTable_});
 }
 
 void MainWindow::addHelpMenu() {
@@ -141,6 +149,10 @@ void MainWindow::showWhatIsPossible() {
     set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
         "Select variables, zones or fields of the data set first.");
+    const bool isOneField = tree_->dataSet() != nullptr && tree_->selectedFields().size() == 1;
+    set(showTable_, isOneField && values_ != nullptr,
+        isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
+    set(savePicture_, view_->hasPicture(), "There is no picture.");
 }
 
 void MainWindow::workBegins(const QString& what) {
@@ -202,9 +214,31 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
     else if (!isAsBefore)
         tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
     if (!isAsBefore)
-        view_->showDataSet(std::move(outcome.values), outcome.whyNoValues);
+        showValues(std::move(outcome.values), outcome.whyNoValues);
     if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
+}
+
+void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,
+                            const std::string& whyNot) {
+    for (QDialog* table : findChildren<QDialog*>(QStringLiteral("fieldTable")))
+        table->close(); // of what is gone
+    values_ = std::move(values);
+    whyNoValues_ = whyNot;
+    view_->showDataSet(values_, whyNot);
+    showTitle();
+}
+
+/// The names of the zones tell files and steps.
+void MainWindow::showTitle() {
+    const DataSetOutcome_s* dataSet = tree_->dataSet();
+    const QString program = QStringLiteral("Quorvia Reference Host");
+    if (dataSet == nullptr || dataSet->zones.empty())
+        setWindowTitle(program);
+    else
+        setWindowTitle(
+            QStringLiteral("%1, %2 \u2013 %3")
+                .arg(shown(dataSet->title), shown(dataSet->zones.front().name), program));
 }
 
 void MainWindow::importDropped(const std::vector<std::string>& files) {
@@ -223,7 +257,7 @@ void MainWindow::importDropped(const std::vector<std::string>& files) {
 void MainWindow::discardDataSet() {
     session_.discardDataSet([this] {
         tree_->showNothing();
-        view_->showDataSet(nullptr, {});
+        showValues(nullptr, {});
         workEnded(QStringLiteral("Discarded"));
     });
     workBegins(QStringLiteral("Discarding the data set"));
@@ -247,6 +281,21 @@ void MainWindow::showFetched(DataSetOutcome_s dataSet, FetchEnd_e end) {
     workEnded(end == FetchEnd_e::Done      ? QStringLiteral("Values fetched")
               : end == FetchEnd_e::Stopped ? QStringLiteral("Fetching cancelled")
                                            : QStringLiteral("Not all values could be fetched"));
+}
+
+void MainWindow::showTable() {
+    const FieldAddress_s field = tree_->selectedFields().front();
+    auto* table = new FieldTableWindow(values_, static_cast<std::size_t>(field.zone) - 1,
+                                       static_cast<std::size_t>(field.variable) - 1, this);
+    table->show();
+}
+
+void MainWindow::savePicture() {
+    const QString file =
+        chooseFileToSave(this, QStringLiteral("Save Picture"), QStringLiteral("Pictures (*.png)"));
+    if (!file.isEmpty() && !view_->savePicture(file))
+        showText(this, "The picture can't be written to " + file.toStdString() + ".",
+                 TextKind_e::Error);
 }
 
 // ---- Help, and the rest of a window's life ------------------------------------------------------

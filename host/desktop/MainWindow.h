@@ -2,6 +2,7 @@
 // that tells what happened last.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -47,12 +48,15 @@ private:
     void importByHand();
     void import(const FileSelection_s& selection);
     void showImport(ImportOutcome_s outcome);
+    void showValues(std::shared_ptr<const plot3d::DataSet> values, const std::string& whyNot);
     void importDropped(const std::vector<std::string>& files);
     void fetch(std::vector<FieldAddress_s> fields);
     void showFetched(DataSetOutcome_s dataSet, FetchEnd_e end);
     void fetchSelected() { fetch(tree_->selectedFields()); }
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
+    void showTable();
+    void savePicture();
     void showHelp();
     void showAbout();
 
@@ -60,6 +64,7 @@ private:
     /// False: the window was waiting for this to close, and has; nothing may follow.
     bool workEnded(const QString& what);
     void showWhatIsPossible();
+    void showTitle();
     bool mayImport() const;
 
     FocusReturn focusReturn_;
@@ -70,6 +75,10 @@ private:
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
+    QAction* showTable_ = nullptr;
+    QAction* savePicture_ = nullptr;
+    std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
+    std::string whyNoValues_;
     bool isOpened_ = false;
     bool wantsToClose_ = false;
     std::vector<std::string> filesAtStart_;

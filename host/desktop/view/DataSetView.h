@@ -19,20 +19,27 @@ void prepareViews();
 
 class DataSetView : public QWidget {
 public:
-    /// Gets the zone, an index from 0, of a point that was clicked at.
-    using ZonePicked = std::function<void(std::size_t zone)>;
+    struct Events_s {
+        /// Gets the zone, an index from 0, of a point that was clicked at.
+        std::function<void(std::size_t zone)> picked;
+        /// There is a picture, or there is none any more.
+        std::function<void()> changed;
+    };
     /// Numbers from 1, ascending; nothing stands for all but boundary zones.
     using ZoneChoice = std::optional<std::vector<std::size_t>>;
 
     /// Belongs to `parent`. Where the program was built without the scene it says so, and does
     /// nothing else.
-    static DataSetView* make(ZonePicked picked, QWidget* parent);
+    static DataSetView* make(Events_s events, QWidget* parent);
 
     /// In place of what was shown. Null: nothing, and why not, which may be empty.
     virtual void showDataSet(std::shared_ptr<const plot3d::DataSet> data,
                              const std::string& whyNot) = 0;
     virtual void colourBy(const std::string& variable) = 0;
     virtual void showZones(ZoneChoice zones) = 0;
+    virtual bool hasPicture() const = 0;
+    /// As PNG, as it is seen. False (not told): there is none, or it can't be written.
+    [[nodiscard]] virtual bool savePicture(const QString& file) = 0;
 
 protected:
     using QWidget::QWidget;

@@ -20,13 +20,15 @@ public:
     void showDataSet(std::shared_ptr<const plot3d::DataSet>, const std::string&) override {}
     void colourBy(const std::string&) override {}
     void showZones(ZoneChoice) override {}
+    bool hasPicture() const override { return false; }
+    bool savePicture(const QString&) override { return false; }
 };
 
 } // namespace
 
 void prepareViews() {}
 
-DataSetView* DataSetView::make(ZonePicked, QWidget* parent) {
+DataSetView* DataSetView::make(Events_s, QWidget* parent) {
     return new NoView(parent);
 }
 

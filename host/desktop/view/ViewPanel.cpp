@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QHBoxLayout>
+#include <QImage>
 #include <QShortcut>
 #include <QSurfaceFormat>
 #include <QVBoxLayout>
@@ -61,12 +62,12 @@ void prepareViews() {
     QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
 }
 
-DataSetView* DataSetView::make(ZonePicked picked, QWidget* parent) {
-    return new ViewPanel(std::move(picked), parent);
+DataSetView* DataSetView::make(Events_s events, QWidget* parent) {
+    return new ViewPanel(std::move(events), parent);
 }
 
-ViewPanel::ViewPanel(ZonePicked picked, QWidget* parent)
-    : DataSetView(parent), picked_(std::move(picked)),
+ViewPanel::ViewPanel(Events_s events, QWidget* parent)
+    : DataSetView(parent), told_(std::move(events)),
       prepare_([this](const std::optional<std::string>& failure) { stayAsBefore(failure); }),
       read_([this](const std::optional<std::string>& failure) {
           values_->setText(shown(failure.value_or("")));
@@ -215,6 +216,15 @@ void ViewPanel::showZones(ZoneChoice zones) {
     want(std::move(view));
 }
 
+// The frame's alpha is a left-over of drawing, and means nothing.
+bool ViewPanel::savePicture(const QString& file) {
+    if (!hasPicture())
+        return false;
+    QImage picture = scene_->grabFramebuffer();
+    picture.reinterpretAsFormat(QImage::Format_RGB32);
+    return picture.save(file, "PNG");
+}
+
 void ViewPanel::chooseStep(int step) {
     View_s view = wanted_;
     view.time = data_->timeSteps()[static_cast<std::size_t>(step)].time;
@@ -241,11 +251,11 @@ void ViewPanel::want(View_s view) {
 
 void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s& view) {
     taken_ = view;
-    pages_->setCurrentWidget(scene_);
     scene_->mark(std::nullopt);
     scene_->showContent(std::move(content));
     if (std::exchange(isNew_, false))
         scene_->resetCamera();
+    turnTo(scene_);
     showChoices();
     showState();
 }
@@ -271,7 +281,14 @@ void ViewPanel::showChoices() {
 
 void ViewPanel::say(const std::string& text) {
     message_->setText(shown(text));
-    pages_->setCurrentWidget(message_);
+    turnTo(message_);
+}
+
+void ViewPanel::turnTo(QWidget* page) {
+    const bool isNew = pages_->currentWidget() != page;
+    pages_->setCurrentWidget(page);
+    if (isNew)
+        told_.changed();
 }
 
 void ViewPanel::showState() {
@@ -295,7 +312,7 @@ void ViewPanel::showPicked(const std::optional<Picked_s>& picked) {
     scene_->mark(picked ? std::optional(picked->position) : std::nullopt);
     if (!picked)
         return;
-    picked_(picked->zone);
+    told_.picked(picked->zone);
     readValues(*picked);
 }
 

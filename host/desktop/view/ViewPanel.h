@@ -14,8 +14,8 @@
 #include <QTimer>
 
 #include "content/Preparer.h"
+#include "desktop/LatestWork.h"
 #include "desktop/view/DataSetView.h"
-#include "desktop/view/LatestWork.h"
 #include "desktop/view/SceneWidget.h"
 #include "desktop/view/TimeBar.h"
 #include "desktop/view/ViewBar.h"
@@ -24,12 +24,14 @@ namespace quorvia::host {
 
 class ViewPanel : public DataSetView {
 public:
-    ViewPanel(ZonePicked picked, QWidget* parent);
+    ViewPanel(Events_s events, QWidget* parent);
 
     void showDataSet(std::shared_ptr<const plot3d::DataSet> data,
                      const std::string& whyNot) override;
     void colourBy(const std::string& variable) override;
     void showZones(ZoneChoice zones) override;
+    bool hasPicture() const override { return pages_->currentWidget() == scene_; }
+    bool savePicture(const QString& file) override;
 
     /// What is in the picture; null for nothing. It may be older than what was asked for last.
     const plot3d::scene::SceneContent_s* content() const { return scene_->stage().content(); }
@@ -54,10 +56,11 @@ private:
     void showPicked(const std::optional<plot3d::scene::Picked_s>& picked);
     void readValues(const plot3d::scene::Picked_s& picked);
     void say(const std::string& text);
+    void turnTo(QWidget* page);
     void chooseStep(int step);
     std::vector<std::string> colourNames() const;
 
-    ZonePicked picked_;
+    Events_s told_;
     ViewBar* bar_ = nullptr;
     QStackedWidget* pages_ = nullptr; // the picture, or why there is none
     SceneWidget* scene_ = nullptr;

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -242,6 +243,23 @@ TEST_F(ViewTest, DataOfAnotherAddOnSayWhyTheyAreNotShown) {
     importVortex();
     EXPECT_EQ(message(), "Data of another add-on can't be looked at: where its values lie is not "
                          "known.");
+}
+
+TEST_F(ViewTest, PictureIsSavedAsItIsSeen) {
+    EXPECT_FALSE(action(QStringLiteral("Save Picture...")).isEnabled());
+    importVortex();
+    person().pickFiles({file("seen.png")});
+    choose(QStringLiteral("Save Picture..."));
+    QImage seen = view().scene().grabFramebuffer();
+    seen.reinterpretAsFormat(QImage::Format_RGB32);
+    EXPECT_EQ(QImage(QString::fromStdString(file("seen.png"))), seen);
+}
+
+TEST_F(ViewTest, TitleTellsTheDataSet) {
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Quorvia Reference Host"));
+    importVortex();
+    EXPECT_EQ(window().windowTitle(),
+              QStringLiteral("Plot3D DataSet, vortex_t0.00.q:1 \u2013 Quorvia Reference Host"));
 }
 
 TEST_F(ViewTest, IsTurnedByMouseAndKeysAndResetByAKey) {

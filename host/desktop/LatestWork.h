@@ -1,4 +1,4 @@
-// Work for the view on a thread of its own, so that the window never waits for it. What is asked
+// Work for a window on a thread of its own, so that the window never waits for it. What is asked
 // for last counts: it stops and replaces what was asked for before.
 #pragma once
 

@@ -1,4 +1,4 @@
-#include "desktop/view/LatestWork.h"
+#include "desktop/LatestWork.h"
 
 #include <exception>
 #include <new>
