@@ -256,7 +256,7 @@ void compareMemory() {
     const std::int64_t vtk =
         costOf([] { VtkSurface(flow().grid()).of(flow().solution()); }).peakKilobytes - nothing;
     benchmarks::printCount("memory for the polygons of 256 MB, of what VTK's pipeline takes",
-                           static_cast<double>(ours) / static_cast<double>(vtk), 0.6, "");
+                           100.0 * static_cast<double>(ours) / static_cast<double>(vtk), 60, "%");
 }
 
 } // namespace

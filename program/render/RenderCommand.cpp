@@ -105,6 +105,10 @@ void RenderCommand::declare(CLI::App& app) {
 void RenderCommand::refuseOutputs() const {
     if (output_.empty() && savedView_.empty())
         throw Error(ErrorKind::Usage, "no picture is named: -o PICTURE.png");
+    const std::string ending = std::filesystem::path(output_).extension().string();
+    if (!ending.empty() && ending != ".png" && ending != ".PNG")
+        throw Error(ErrorKind::Usage, "pictures are PNG files, and \"" + ending +
+                                          "\" says something else: -o PICTURE.png");
     if (!savedView_.empty())
         refuseExisting(savedView_, overwrites_);
     if (output_.empty() || view_.wantsAllTimes())

@@ -76,7 +76,7 @@ void ViewArguments::declareContents(CLI::App& app) {
                  "A picture of each time step, numbered, with one range for all; and an animation "
                  "(.mp4) where ffmpeg is installed")
         ->group(group);
-    app.add_option("--zones", zones_, "Zones by number from 1, such as 1,3-5")
+    app.add_option("--zones,--zone", zones_, "Zones by number from 1, such as 1,3-5")
         ->type_name("LIST")
         ->group(group);
     app.add_option("--surface", surfaces_,

@@ -101,6 +101,7 @@ public:
 
     ~Parts() {
         renderer_.RemoveObserver(observer_);
+        renderer_.RemoveAllLights();
         renderer_.RemoveActor(overlayActor_);
     }
 

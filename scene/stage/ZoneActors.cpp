@@ -63,6 +63,10 @@ ZoneActors::~ZoneActors() {
 
 void ZoneActors::show(const ZonePart_s& part, const SceneContent_s& content, const Style_s& style,
                       std::size_t rank, std::size_t count) {
+    if (style.ink != ink_ || style.arrowLength != arrowLength_)
+        forgetLines();
+    ink_ = style.ink;
+    arrowLength_ = style.arrowLength;
     showSurface(part, style);
     colourSurface(part, style);
     constexpr double mostUnits = 8;
@@ -76,15 +80,20 @@ void ZoneActors::show(const ZonePart_s& part, const SceneContent_s& content, con
     part_ = part;
 }
 
+void ZoneActors::forgetLines() {
+    part_.gridLines = nullptr;
+    part_.arrows = nullptr;
+    part_.outline = nullptr;
+    contourCount_ = 0;
+}
+
 void ZoneActors::showSurface(const ZonePart_s& part, const Style_s& style) {
     if (part.mesh != part_.mesh) {
         full_ = polyDataOf(*part.mesh, Cells_e::All);
         coarse_ =
             part.mesh->coarseQuads.empty() ? nullptr : polyDataOf(*part.mesh, Cells_e::Coarse);
         part_.values = nullptr;
-        part_.gridLines = nullptr;
-        part_.arrows = nullptr;
-        contourCount_ = 0;
+        forgetLines();
     }
     mapper_->SetInputData(style.isCoarse && coarse_ ? coarse_ : full_);
     vtkProperty& property = *surface_->GetProperty();
@@ -157,7 +166,7 @@ void ZoneActors::showContours(const ZonePart_s& part, const SceneContent_s& cont
 
 void ZoneActors::showArrows(const ZonePart_s& part, const Style_s& style) {
     arrows_->SetVisibility(part.arrows && !style.isCoarse);
-    if (!part.arrows)
+    if (!part.arrows || part.arrows == part_.arrows)
         return;
     vtkNew<vtkPoints> points;
     points->SetData(arrayOf(part.arrows->points, 3));

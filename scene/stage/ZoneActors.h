@@ -48,6 +48,8 @@ public:
     std::vector<std::int64_t> pointsOf(std::int64_t cell) const;
 
 private:
+    /// All lines and arrows are made anew.
+    void forgetLines();
     void showSurface(const ZonePart_s& part, const Style_s& style);
     void colourSurface(const ZonePart_s& part, const Style_s& style);
     void showGridLines(const ZonePart_s& part, const Style_s& style);
@@ -68,6 +70,8 @@ private:
     vtkNew<vtkActor> outline_;
     Range_s contourRange_ = {0, 0};
     int contourCount_ = 0;
+    Vector3 ink_ = {};
+    double arrowLength_ = 0;
 };
 
 } // namespace plot3d::scene

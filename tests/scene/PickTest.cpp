@@ -107,6 +107,23 @@ TEST_F(PickTest, GoesBackToACameraThatWasSaved) {
         EXPECT_NEAR((*again.focus)[axis], (*camera.focus)[axis], 1e-9);
 }
 
+TEST_F(PickTest, DrawsLinesInTheInkOfTheBackground) {
+    const DataSet data = opened({"vortex", "--steps", "1"});
+    plot3d::scene::Preparer preparer(data);
+    View_s view = smallView();
+    view.gridLines = true;
+    view.vectors = "velocity";
+    show(preparer.prepare(view));
+    view.background = "black";
+    show(preparer.prepare(view));
+    const auto changed = readAll();
+    Stage fresh(*renderer_);
+    stage_ = nullptr;
+    fresh.show(preparer.prepare(view));
+    window_->Render();
+    EXPECT_EQ(readAll(), changed);
+}
+
 TEST_F(PickTest, MarksAPoint) {
     const DataSet data = opened({"vortex", "--steps", "1"});
     show(prepared(data, smallView()));

@@ -73,6 +73,14 @@ TEST_F(RenderCommandTest, RefusesWhatCantBe) {
               "plot3d: error: no picture is named: -o PICTURE.png\n");
 }
 
+TEST_F(RenderCommandTest, WritesNoPngUnderAnotherEnding) {
+    const Ended_s end = ended({"render", "wing.x", "-o", "wing.jpg"});
+    EXPECT_EQ(end.code, ExitCode_Usage);
+    EXPECT_EQ(end.err,
+              "plot3d: error: pictures are PNG files, and \".jpg\" says something else: -o "
+              "PICTURE.png\n");
+}
+
 TEST_F(RenderCommandTest, KeepsFilesThatAreThere) {
     const std::string picture = folder_.write("there.png", "precious");
     const Ended_s end = ended({"render", sample({"ball"})[1], "-o", picture});

@@ -41,7 +41,7 @@ std::vector<pid_t> childrenOf(pid_t parent) {
 class RenderProcessTest : public plot3dtest::SceneTest {
 protected:
     pid_t start(std::vector<std::string> words, const char* path, const char* display) const {
-        words.insert(words.begin(), PLOT3D_PROGRAM);
+        words.insert(words.begin(), program_);
         std::vector<char*> pointers;
         for (std::string& word : words)
             pointers.push_back(word.data());
@@ -57,7 +57,7 @@ protected:
             setenv("DISPLAY", display, 1);
         if (path != nullptr)
             setenv("PATH", path, 1);
-        execv(PLOT3D_PROGRAM, pointers.data());
+        execv(program_.c_str(), pointers.data());
         _exit(127);
     }
     Said_s ended(pid_t child) const {
@@ -77,6 +77,20 @@ protected:
         words.insert(words.end(), more.begin(), more.end());
         return words;
     }
+    /// As it is without the package for pictures: from now on it runs beside all libraries but
+    /// that.
+    void leaveOutTheScene() {
+        const fs::path built = fs::path(PLOT3D_PROGRAM).parent_path().parent_path();
+        fs::create_directories(folder_.path() / "tree" / "bin");
+        fs::create_directories(folder_.path() / "tree" / "lib");
+        program_ = (folder_.path() / "tree" / "bin" / "plot3d").string();
+        fs::copy_file(PLOT3D_PROGRAM, program_);
+        for (const auto& entry : fs::directory_iterator(built / "lib"))
+            if (entry.path().filename() != "libplot3dscene.so")
+                fs::create_symlink(entry.path(),
+                                   folder_.path() / "tree" / "lib" / entry.path().filename());
+    }
+    std::string program_ = PLOT3D_PROGRAM;
     std::string picture() const { return folder_.file("picture.png"); }
 };
 
@@ -104,6 +118,17 @@ TEST_F(RenderProcessTest, LooksBeforeItMakesAWindowOnADisplayThatIsNotThere) {
                               0),
               0U);
     EXPECT_EQ(run(render(sample({"ball"}), {"-o", picture()}), nullptr, ":987").code, 0);
+}
+
+TEST_F(RenderProcessTest, SaysWhatToInstallWithoutTheLibraryForPictures) {
+    leaveOutTheScene();
+    const Said_s said = run(render(sample({"ball"}), {"-o", picture()}));
+    EXPECT_EQ(said.code, 1);
+    EXPECT_EQ(said.text, "plot3d: error: pictures are not part of this installation: there is no "
+                         "libplot3dscene.so\n"
+                         "try: install the package plot3d-render, or build with VTK "
+                         "(PLOT3D_BUILD_SCENE)\n");
+    EXPECT_EQ(run({"info", sample({"ball"})[1]}).code, 0);
 }
 
 TEST_F(RenderProcessTest, EndsItsDisplayAndLeavesNothingBehindAfterCtrlC) {
