@@ -18,9 +18,31 @@ namespace plot3d::program {
 
 namespace {
 
+/// No signal reaches this thread while it lives.
+class SignalsHeldBack {
+public:
+    SignalsHeldBack() {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &before_);
+    }
+    ~SignalsHeldBack() { letThrough(); }
+    SignalsHeldBack(const SignalsHeldBack&) = delete;
+    SignalsHeldBack& operator=(const SignalsHeldBack&) = delete;
+
+    void letThrough() const { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+private:
+    sigset_t before_ = {};
+};
+
 /// In the child, between fork and exec: nothing but system calls.
 [[noreturn]] void becomeProgram(const char* program, char* const* arguments, int keptOpen,
-                                pid_t parent) {
+                                pid_t parent, const SignalsHeldBack& signals) {
+    // The parent's handlers would tell the parent of signals that the child gets.
+    signal(SIGINT, SIG_DFL);
+    signal(SIGTERM, SIG_DFL);
+    signals.letThrough();
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != parent)
         _exit(127); // it has ended meanwhile
@@ -56,11 +78,12 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
     const pid_t parent = getpid();
+    const SignalsHeldBack signals;
     child_ = fork();
     if (child_ < 0)
         throw Error(ErrorKind::Refused, program + " can't be started: " + std::strerror(errno));
     if (child_ == 0)
-        becomeProgram(words[0].c_str(), pointers.data(), keptOpen, parent);
+        becomeProgram(words[0].c_str(), pointers.data(), keptOpen, parent, signals);
 }
 
 ChildProcess::~ChildProcess() {

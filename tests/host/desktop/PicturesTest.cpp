@@ -17,7 +17,9 @@
 #include <QTest>
 #include <QTreeView>
 
+#ifdef QUORHOST_HAS_VIEW
 #include "desktop/view/ViewPanel.h"
+#endif
 #include "host/desktop/DesktopFixture.h"
 #include "host/desktop/Patience.h"
 
@@ -163,6 +165,7 @@ TEST_F(PicturesTest, ShowTheProgress) {
     EXPECT_NE(window().tree().dataSet(), nullptr);
 }
 
+#ifdef QUORHOST_HAS_VIEW
 TEST_F(PicturesTest, ShowTheTreeWithRanges) {
     openWindow(linkedIn);
     importSeries();
@@ -173,6 +176,7 @@ TEST_F(PicturesTest, ShowTheTreeWithRanges) {
     EXPECT_TRUE(comesTrue([&view] { return view.isSettled(); }));
     take(QStringLiteral("tree"), window(), Colours_e::All);
 }
+#endif
 
 } // namespace
 } // namespace quorvia::host

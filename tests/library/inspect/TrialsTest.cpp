@@ -50,14 +50,14 @@ TEST_F(Trials, EndWithTheOneThatFits) {
     EXPECT_EQ(info.trials[5].candidate.byteOrder, ByteOrder::Little);
 }
 
-// One grid of 3 x 1 points with five functions has as many bytes as the Classic solution of that
-// grid, which a load tries first.
+// As a Classic solution, which a load tries first, the grids would have 3 x 2 and 5 x 1 points, and
+// the file just as many bytes.
 TEST_F(Trials, AreTakenByTheKindThatTheNameTells) {
     writer::FileDescription_s contents;
     contents.kind = writer::FileKind_e::Function;
     contents.layout = writer::Layout_e::TwoD;
     contents.isMultiGrid = true;
-    contents.grids = {{3, 1, 1}};
+    contents.grids = {{3, 2, 1}, {1, 4, 1}};
     contents.numVars = 5;
     contents.value = [](auto...) { return 1.0; };
     const FileInfo info = inspectBytes("wing.f", bytesOf(contents, {}));

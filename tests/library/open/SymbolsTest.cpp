@@ -48,9 +48,9 @@ TEST(LibrarySymbols, HaveWhatTheHeadersDeclare) {
     std::string all;
     for (const std::string& name : exported())
         all += name + "\n";
-    for (const char* name : {"plot3d::DataSet::open(", "plot3d::DataSet::of(", "plot3d::version()",
-                             "plot3d::registerAddOn()",
-                             "plot3d::FieldReader::read(", "typeinfo for plot3d::Error"})
+    for (const char* name :
+         {"plot3d::DataSet::open(", "plot3d::DataSet::of(", "plot3d::version()",
+          "plot3d::registerAddOn()", "plot3d::FieldReader::read(", "typeinfo for plot3d::Error"})
         EXPECT_NE(all.find(name), std::string::npos) << name;
 }
 
