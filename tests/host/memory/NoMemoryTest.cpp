@@ -73,9 +73,8 @@ TEST_F(NoMemory, QuestionIsNotAskedAndNotAnsweredWithYes) {
 TEST_F(NoMemory, ChoiceOfFilesThatIsLostEndsTheScript) {
     host().setFileChoices({{longText, longText}});
     QuorStringListHandle chosen = nullptr;
-    withoutMemory([&] {
-        EXPECT_FALSE(QuorUtilDialogGetFileNames(1, &chosen, "Solution", nullptr, "*.q"));
-    });
+    withoutMemory(
+        [&] { EXPECT_FALSE(QuorUtilDialogGetFileNames(1, &chosen, "Solution", nullptr, "*.q")); });
     EXPECT_EQ(host().script().problem(), "no memory");
 }
 
