@@ -94,7 +94,8 @@ TEST_F(Surfaces, OfTetrahedraAreTheFacesOfOneElementAlone) {
         plot3d::scene::outerFaces(plot3d::ZoneKind::Tetrahedra, {0, 1, 2, 3, 1, 2, 3, 4});
     EXPECT_EQ(faces.triangles.size(), 3U * 6);
     const DataSet data = opened({"ball"});
-    const Mesh_s& mesh = meshOf(prepared(data));
+    const Content content = prepared(data);
+    const Mesh_s& mesh = meshOf(content);
     EXPECT_EQ(mesh.triangles.size(), 3U * 12 * 7 * 7);
     EXPECT_EQ(mesh.pointCount(), 6 * 7 * 7 + 2);
 }
