@@ -27,7 +27,8 @@ bool FieldCache::fetch(FieldStorage& storage) {
     if (!storage.isDeferred())
         return true;
     if (storage.cache_ != nullptr) {
-        recent_.splice(recent_.end(), recent_, storage.place_);
+        auto& recent = storage.cache_->recent_; // another one may have fetched it
+        recent.splice(recent.end(), recent, storage.place_);
         return true;
     }
     if (storage.loading_)

@@ -12,6 +12,7 @@
 #include "model/FieldStorage.h"
 #include "model/NodeMap.h"
 #include "open/FileForm.h"
+#include "open/KeptFrame.h"
 
 namespace plot3dlib {
 
@@ -42,6 +43,8 @@ struct Content_s {
     std::vector<std::shared_ptr<const quorvia::host::FieldStorage>> storedFields; // InMemory
     std::vector<plot3d::PartOf> parts;                                            // PartOf
     std::vector<std::weak_ptr<quorvia::host::FieldStorage>> fieldsAtHost;         // AtHost
+    /// Where these are, if the data set was opened here; null for those of a session of the host.
+    std::shared_ptr<KeptFrame> frame;
 
     /// By zone, null for ordered ones; empty if all zones are ordered.
     std::vector<std::shared_ptr<const quorvia::host::NodeMap>> nodeMaps;

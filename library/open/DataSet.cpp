@@ -31,7 +31,10 @@ void demandToGoOn(const Watch& watch) {
 Content_s loadExplained(const FileLists& files, const OpenOptions& options, bool withBoundary,
                         const Watch& watch) {
     try {
-        return loadAtHost(composeInstructions(files, options, withBoundary), watch);
+        const std::vector<std::string> instructions =
+            composeInstructions(files, options, withBoundary);
+        return options.addOn.empty() ? loadAtHost(instructions, watch)
+                                     : loadByAddOn(options.addOn, instructions, watch);
     } catch (const Error& error) {
         throw explained(error, files, watch);
     }

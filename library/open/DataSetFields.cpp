@@ -59,12 +59,16 @@ FieldReader readerOfPart(const Content_s& content, const PartOf& part) {
 }
 
 FieldReader readerAtHost(const FieldRecord_s& field, const Extent& size,
-                         std::weak_ptr<quorvia::host::FieldStorage> weak) {
-    const auto withValues = [weak = std::move(weak)](const auto& use) {
+                         std::weak_ptr<quorvia::host::FieldStorage> weak,
+                         std::shared_ptr<KeptFrame> frame) {
+    const auto withValues = [weak = std::move(weak), frame = std::move(frame)](
+                                const auto& use, const std::stop_token& stop) {
         const HostLock lock;
         const auto storage = weak.lock();
         if (storage == nullptr)
             throw Error(ErrorKind::Unreadable, "The host does not have the field any more.");
+        if (frame != nullptr)
+            return frame->withValues(*storage, use, stop);
         if (!quorvia::host::ReferenceHost::instance().state().fetch(*storage))
             throw Error(ErrorKind::Unreadable, "The host could not fetch the values.");
         use(storage->values());
@@ -83,7 +87,7 @@ FieldReader readerOf(const Content_s& content, std::size_t zone, std::size_t var
     case FieldKind::PartOf:
         return readerOfPart(content, content.parts[field.place]);
     case FieldKind::AtHost:
-        return readerAtHost(field, size, content.fieldsAtHost[field.place]);
+        return readerAtHost(field, size, content.fieldsAtHost[field.place], content.frame);
     case FieldKind::Empty:
         break;
     }

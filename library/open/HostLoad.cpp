@@ -2,11 +2,13 @@
 
 #include <chrono>
 #include <exception>
+#include <memory>
 #include <stop_token>
 
 #include "open/ContentOfFrame.h"
 #include "open/LinkedAddOn.h"
 #include "open/LoadFailure.h"
+#include "open/OtherAddOn.h"
 #include "session/ReferenceHost.h"
 #include "session/SeparateFrame.h"
 
@@ -14,8 +16,10 @@ namespace plot3dlib {
 
 namespace {
 
+using quorvia::host::Loader_s;
 using quorvia::host::LoadResult_s;
 using quorvia::host::ReferenceHost;
+using quorvia::host::SeparateFrame;
 
 /// Passes the host's progress on. What the caller's function throws must not pass through the
 /// add-on: the load is stopped, and the exception comes when it has ended.
@@ -47,29 +51,48 @@ private:
     std::exception_ptr thrown_;
 };
 
-LoadResult_s importWatched(ReferenceHost& host, const std::vector<std::string>& instructions,
+LoadResult_s importWatched(ReferenceHost& host, const Loader_s& loader,
+                           const std::vector<std::string>& instructions,
                            const plot3d::Watch& watch) {
     ProgressTeller teller(host, watch);
     host.settings().progressObserver = [&teller](const auto& state) { teller.tell(state); };
     const std::stop_callback stopLoad(watch.stop, [&host] { host.requestInterrupt(); });
-    const LoadResult_s result = host.importInstructions(instructions, linkedLoader());
+    const LoadResult_s result = host.importInstructions(instructions, loader);
     host.settings().progressObserver = nullptr;
     teller.rethrow();
     return result;
 }
 
+/// Into the frame that is current, and all else of the host as at the start.
+Content_s contentOfLoad(const Loader_s& loader, const std::vector<std::string>& instructions,
+                        HostFields_e hostFields, const plot3d::Watch& watch) {
+    ReferenceHost& host = ReferenceHost::instance();
+    const LoadResult_s result = importWatched(host, loader, instructions, watch);
+    if (!result.ok || result.interrupted || host.frame().dataSet() == nullptr)
+        throw failureOf(result, host.log().messages);
+    Content_s content = contentOf(host.frame(), hostFields);
+    const std::vector<std::string> said = notesOf(host.log().messages);
+    content.notes.insert(content.notes.begin(), said.begin(), said.end());
+    return content;
+}
+
 } // namespace
 
 Content_s loadAtHost(const std::vector<std::string>& instructions, const plot3d::Watch& watch) {
-    ReferenceHost& host = ReferenceHost::instance();
-    quorvia::host::SeparateFrame separate;
+    SeparateFrame separate;
     separate.user().setAnswers({}, /*afterwards=*/true);
-    const LoadResult_s result = importWatched(host, instructions, watch);
-    if (!result.ok || result.interrupted || separate.frame().dataSet() == nullptr)
-        throw failureOf(result, host.log().messages);
-    Content_s content = contentOf(separate.frame(), HostFields_e::Fetched);
-    const std::vector<std::string> said = notesOf(host.log().messages);
-    content.notes.insert(content.notes.begin(), said.begin(), said.end());
+    return contentOfLoad(linkedLoader(), instructions, HostFields_e::Fetched, watch);
+}
+
+Content_s loadByAddOn(const std::string& path, const std::vector<std::string>& instructions,
+                      const plot3d::Watch& watch) {
+    const Loader_s& loader = loaderOfAddOn(path);
+    SeparateFrame separate;
+    separate.user().setAnswers({}, /*afterwards=*/true);
+    const auto kept = std::make_shared<KeptFrame>();
+    ReferenceHost::instance().makeCurrent(*kept->frame());
+    Content_s content = contentOfLoad(loader, instructions, HostFields_e::LeftAtHost, watch);
+    content.frame = kept;
     return content;
 }
 

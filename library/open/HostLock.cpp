@@ -5,8 +5,8 @@ namespace plot3dlib {
 namespace {
 
 /// Never destroyed: data sets may be closed after main has ended.
-std::mutex& hostMutex() {
-    static auto* const mutex = new std::mutex;
+std::recursive_mutex& hostMutex() {
+    static auto* const mutex = new std::recursive_mutex;
     return *mutex;
 }
 

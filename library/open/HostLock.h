@@ -6,13 +6,14 @@
 
 namespace plot3dlib {
 
-/// Held from making to end. Not for a thread that holds it already.
+/// Held from making to end. A thread that holds it may take it again: a data set that fails to load
+/// gives back what it has of the host while the load still holds the lock.
 class HostLock {
 public:
     HostLock();
 
 private:
-    std::unique_lock<std::mutex> lock_;
+    std::unique_lock<std::recursive_mutex> lock_;
 };
 
 } // namespace plot3dlib

@@ -141,6 +141,14 @@ Error failureOf(const quorvia::host::LoadResult_s& result, const std::vector<Mes
                                      "a word or a value that no load takes.");
 }
 
+Error fetchFailureOf(const std::vector<Message_s>& messages) {
+    const std::vector<Said_s> errors = errorsOf(messages);
+    if (errors.empty())
+        return Error(ErrorKind::Unreadable, "The host could not fetch the values.");
+    const Error said = errorOf(errors);
+    return Error(ErrorKind::Unreadable, said.message(), ofFile(said.facts().file));
+}
+
 Error explained(const Error& error, const plot3d::FileLists& files, const plot3d::Watch& watch) {
     if (error.kind() != ErrorKind::NotPlot3D && error.kind() != ErrorKind::Refused)
         return error;

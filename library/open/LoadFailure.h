@@ -15,6 +15,9 @@ namespace plot3dlib {
 plot3d::Error failureOf(const quorvia::host::LoadResult_s& result,
                         const std::vector<quorvia::host::Message_s>& messages);
 
+/// Why the values of a field did not come.
+plot3d::Error fetchFailureOf(const std::vector<quorvia::host::Message_s>& messages);
+
 /// The same error with what a look into its file has found wrong there, or a command to type.
 plot3d::Error explained(const plot3d::Error& error, const plot3d::FileLists& files,
                         const plot3d::Watch& watch);

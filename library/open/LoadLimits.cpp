@@ -82,7 +82,8 @@ bool isReadInPart(const Content_s& content, std::size_t variable) {
     bool isLeft = false;
     for (std::size_t zone = 0; zone < content.zones.size(); ++zone) {
         isRead |= content.field(zone, variable).kind == plot3d::FieldKind::InMemory;
-        isLeft |= content.field(zone, variable).kind == plot3d::FieldKind::InFile;
+        isLeft |= content.field(zone, variable).kind == plot3d::FieldKind::InFile ||
+                  content.field(zone, variable).kind == plot3d::FieldKind::AtHost;
     }
     return isRead && isLeft;
 }

@@ -92,7 +92,8 @@ public:
         : Values(type, size), withValues_(std::move(withValues)) {}
 
     void read(const Box& box, void* destination, const std::stop_token& stop) const override {
-        withValues_([&](const void* values) { copyBox(values, *this, box, destination, stop); });
+        withValues_([&](const void* values) { copyBox(values, *this, box, destination, stop); },
+                    stop);
     }
 
 private:

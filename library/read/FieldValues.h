@@ -54,8 +54,9 @@ FieldValues valuesOfPart(std::shared_ptr<const plot3d::FieldReader> whole, const
 
 /// Takes the lock of the host, has it bring the values of the whole field, calls `use` with them
 /// once, and gives the lock back on every way out. The values need to stand only for the call. May
-/// throw Error, and lets through what `use` throws.
-using WithHostValues = std::function<void(const std::function<void(const void* values)>& use)>;
+/// throw Error, Interrupted if `stop` asked for it, and lets through what `use` throws.
+using WithHostValues = std::function<void(const std::function<void(const void* values)>& use,
+                                          const std::stop_token& stop)>;
 
 /// Values that are known through a host alone. `withValues` may be called from any thread.
 FieldValues valuesAtHost(plot3d::ValueType type, const plot3d::Extent& size,

@@ -102,6 +102,10 @@ void DataArguments::declareOptions(CLI::App& app) {
         ->group(dataSetGroup);
     app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files")
         ->group(dataSetGroup);
+    app.add_option("--addon", addOn_,
+                   "Load by the add-on in this dynamic library, not by the one inside plot3d")
+        ->type_name("PATH")
+        ->group(dataSetGroup);
 }
 
 OpenOptions DataArguments::options() const {
@@ -109,6 +113,7 @@ OpenOptions DataArguments::options() const {
     options.shareStructure = sharesStructure_;
     options.boundaries = !leavesOutBoundaries_;
     options.nameFile = nameFile_;
+    options.addOn = addOn_;
     for (const std::string& setting : settings_)
         options.instructions.push_back(settingOf(setting));
     return options;

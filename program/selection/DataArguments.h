@@ -36,6 +36,7 @@ private:
     FileLists lists_;
     std::vector<std::string> settings_; // KEY=VALUE
     std::string nameFile_;
+    std::string addOn_;
     bool sharesStructure_ = false;
     bool leavesOutBoundaries_ = false;
 };

@@ -50,6 +50,10 @@ struct OpenOptions {
     /// Further load instructions, key and value as docs/instructions.md tells them: a structure
     /// described by hand, index ranges, grids.
     std::vector<std::pair<std::string, std::string>> instructions;
+    /// The dynamic library of another add-on that is to load the files; empty for the linked-in
+    /// one. Its fields are AtHost: the add-on reads them whole, one at a time, and up to a GiB of
+    /// them is kept. It stays in the program until that ends.
+    std::string addOn;
 };
 
 class FieldReader;

@@ -153,8 +153,12 @@ void IndexedData::refuseFieldsOutsideFiles() const {
                 throw Error(ErrorKind::Unsupported,
                             numbered(index) + " is a boundary, a part of another zone",
                             {.next = "the same with --no-boundaries"});
-            case FieldKind::InMemory:
             case FieldKind::AtHost:
+                throw Error(ErrorKind::Unsupported,
+                            "where another add-on's fields lie is not known: an index is made "
+                            "without --addon",
+                            {.next = "plot3d convert, which copies the values"});
+            case FieldKind::InMemory:
                 refuseReadValues(data_);
             }
 }

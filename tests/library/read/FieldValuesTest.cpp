@@ -98,8 +98,9 @@ TEST_F(ValuesOfPart, LieInTheirField) {
 class FakeHost {
 public:
     FieldReader field() {
-        return FieldReader(plot3dlib::valuesAtHost(ValueType::Float64, smallField,
-                                                   [this](const auto& use) { underLock(use); }));
+        return FieldReader(
+            plot3dlib::valuesAtHost(ValueType::Float64, smallField,
+                                    [this](const auto& use, const auto&) { underLock(use); }));
     }
     std::atomic<int> calls = 0;
     std::atomic<int> inside = 0;
@@ -140,8 +141,8 @@ TEST(ValuesAtHost, AreReadUnderItsLock) {
 }
 
 TEST(ValuesAtHost, PassOnWhatTheHostCannotGive) {
-    const FieldReader reader(
-        plot3dlib::valuesAtHost(ValueType::Float32, smallField, [](const auto&) -> void {
+    const FieldReader reader(plot3dlib::valuesAtHost(
+        ValueType::Float32, smallField, [](const auto&, const auto&) -> void {
             throw plot3d::Error(plot3d::ErrorKind::Unreadable, "the host gives no values");
         }));
     EXPECT_THROW(readReals(reader, Box::whole(smallField)), plot3d::Error);

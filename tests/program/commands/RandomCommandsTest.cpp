@@ -170,7 +170,9 @@ TEST_F(RandomCommands, StatsAreThoseOfTheValues) {
     forRandomSets(setCount, [this](const ModelSet& data, Dice& draw, const std::string& folder) {
         const ModelSelection selection(data, draw);
         const bool keepsBlanked = draw.chance(33);
+        const Words addOn = draw.chance(25) ? Words{"--addon", PLOT3DLOADER_FILE} : Words();
         const Ended_s run = ran("stats", {loadWords(data, folder),
+                                          addOn,
                                           selection.words(),
                                           keepsBlanked ? Words{"--blank", "keep"} : Words(),
                                           {"--json", "--hash", "--percentiles", "0,12.5,50,100"}});
