@@ -130,8 +130,9 @@ int printBytesRead() {
     fmt::print("\nBytes read to set up one grid file and {} solution files\n"
                "  {} with fields of 5 KB, {} with fields of 146 KB\n",
                steps, small, big);
-    benchmarks::printCount("Growth of that number", static_cast<double>(big - small), 1024,
-                           "bytes");
+    benchmarks::printCount(
+        "Growth of the bytes read to set 51 files up, from fields of 5 KB to 146 KB",
+        static_cast<double>(big - small), 1024, "bytes");
     return 0;
 }
 
