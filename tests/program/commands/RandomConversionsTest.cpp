@@ -17,8 +17,6 @@ namespace {
 using Json = nlohmann::json;
 using writer::Encoding_e;
 
-constexpr int setCount = 40;
-
 /// The zones of one time that are selected.
 using Boxes = std::vector<ModelBox_s>;
 
