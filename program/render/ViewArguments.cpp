@@ -95,7 +95,6 @@ void ViewArguments::declareContents(CLI::App& app) {
                    "What becomes of cells with a corner whose I-blank is 0 (default: hide); color "
                    "shows I-blank itself")
         ->type_name("hide|show|color")
-        ->check(CLI::IsMember({"hide", "show", "color"}))
         ->group(group);
     app.add_flag("--lines", gridLines_, "Grid lines")->group(group);
     app.add_option("--contours", contours_, "Contour lines, spread evenly over the range")
@@ -139,7 +138,6 @@ void ViewArguments::declareLook(CLI::App& app) {
                    "Surfaces in space, in their plane, or lines over a coordinate (default: auto, "
                    "by the dimensions of the grid)")
         ->type_name("auto|3d|2d|xy")
-        ->check(CLI::IsMember({"auto", "3d", "2d", "xy"}))
         ->group(group);
     app.add_option("--size", size_, "Pixels (default: 1280x960)")
         ->type_name("WIDTHxHEIGHT")
