@@ -1,6 +1,7 @@
 #include "desktop/DataSetTree.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <QContextMenuEvent>
@@ -66,14 +67,18 @@ void collectZones(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) 
         collectZones(item->child(index), zones);
 }
 
-/// The same of ticked items.
-void collectTicked(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) {
-    const bool canBeTicked = item->data(nameColumn, Qt::CheckStateRole).isValid();
-    if (canBeTicked && item->checkState(nameColumn) == Qt::Checked)
-        collectZones(item, zones);
-    else if (!canBeTicked)
-        for (int index = 0; index < item->childCount(); ++index)
-            collectTicked(item->child(index), zones);
+bool canBeTicked(const QTreeWidgetItem* item) {
+    return item->data(nameColumn, Qt::CheckStateRole).isValid();
+}
+
+/// Those of `numbers` that are among `zones`, which ascend.
+std::vector<std::size_t> amongThem(const std::vector<std::size_t>& numbers,
+                                   const std::vector<std::size_t>& zones) {
+    std::vector<std::size_t> among;
+    std::copy_if(
+        numbers.begin(), numbers.end(), std::back_inserter(among),
+        [&](std::size_t number) { return std::binary_search(zones.begin(), zones.end(), number); });
+    return among;
 }
 
 QString spanOf(const StrandGroup_s& group) {
@@ -316,16 +321,55 @@ std::vector<FieldAddress_s> DataSetTree::selectedFields() const {
     return fields;
 }
 
+std::vector<std::size_t> DataSetTree::usualZones() const {
+    std::vector<std::size_t> usual;
+    for (const ZoneOutcome_s& zone : dataSet_->zones)
+        if (zone.parentZone == 0)
+            usual.push_back(static_cast<std::size_t>(zone.number));
+    return usual;
+}
+
+/// Numbers of the zones at or below the item that are shown; of what is half ticked those that
+/// were.
+void DataSetTree::collectTicked(const QTreeWidgetItem* item,
+                                std::vector<std::size_t>& zones) const {
+    if (!canBeTicked(item)) {
+        for (int index = 0; index < item->childCount(); ++index)
+            collectTicked(item->child(index), zones);
+        return;
+    }
+    std::vector<std::size_t> below;
+    if (item->checkState(nameColumn) != Qt::Unchecked)
+        collectZones(item, below);
+    if (item->checkState(nameColumn) == Qt::PartiallyChecked)
+        below = amongThem(below, ticked_.value_or(std::vector<std::size_t>()));
+    zones.insert(zones.end(), below.begin(), below.end());
+}
+
+void DataSetTree::tickZones(std::vector<std::size_t> zones) {
+    const QSignalBlocker silence(this);
+    ticked_ = zones.empty() ? std::nullopt : std::optional(zones);
+    if (zones.empty())
+        zones = usualZones();
+    for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item) {
+        if (!canBeTicked(*item))
+            continue;
+        std::vector<std::size_t> below;
+        collectZones(*item, below);
+        const std::size_t shownCount = amongThem(below, zones).size();
+        (*item)->setCheckState(nameColumn, shownCount == 0              ? Qt::Unchecked
+                                           : shownCount == below.size() ? Qt::Checked
+                                                                        : Qt::PartiallyChecked);
+    }
+    viewport()->update();
+}
+
 // Texts change as well; only a choice that is another is told.
 void DataSetTree::tellTicks() {
     std::vector<std::size_t> zones;
     collectTicked(invisibleRootItem(), zones);
     std::sort(zones.begin(), zones.end());
-    std::vector<std::size_t> usual;
-    for (const ZoneOutcome_s& zone : dataSet_->zones)
-        if (zone.parentZone == 0)
-            usual.push_back(static_cast<std::size_t>(zone.number));
-    auto now = zones == usual ? std::nullopt : std::optional(std::move(zones));
+    auto now = zones == usualZones() ? std::nullopt : std::optional(std::move(zones));
     if (now == ticked_)
         return;
     ticked_ = now;

@@ -45,6 +45,9 @@ public:
     std::vector<FieldAddress_s> selectedFields() const;
     /// Selects the row of the zone, and brings it into sight.
     void markZone(std::size_t number);
+    /// Ticks these zones, ascending, and no others; none stands for all but boundary zones. A
+    /// strand of which a part is shown is half ticked. Tells nobody.
+    void tickZones(std::vector<std::size_t> zones);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -64,6 +67,8 @@ private:
     void addFieldsOfZone(std::int32_t zone, std::vector<FieldAddress_s>& fields) const;
 
     void tellTicks();
+    std::vector<std::size_t> usualZones() const;
+    void collectTicked(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) const;
 
     FetchWanted fetchWanted_;
     VariableChosen variableChosen_ = [](const std::string&) {};

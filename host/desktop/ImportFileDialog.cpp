@@ -57,6 +57,12 @@ std::vector<std::string> runDialog(QFileDialog& dialog) {
     return files;
 }
 
+/// Empty if the user cancels.
+QString runForOne(QFileDialog& dialog) {
+    const std::vector<std::string> files = runDialog(dialog);
+    return files.empty() ? QString() : shown(files.front());
+}
+
 /// The row of options below the file name and the filter.
 struct Options_s {
     QCheckBox* advanced;
@@ -129,8 +135,14 @@ QString chooseFileToSave(QWidget* parent, const QString& title, const QString& f
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(filter);
     dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).remove(QLatin1Char(')')));
-    const std::vector<std::string> files = runDialog(dialog);
-    return files.empty() ? QString() : shown(files.front());
+    return runForOne(dialog);
+}
+
+QString chooseFileToOpen(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog dialog(parent);
+    prepare(dialog, title, /*severalFiles=*/false);
+    dialog.setNameFilters({filter, allFiles});
+    return runForOne(dialog);
 }
 
 std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request) {

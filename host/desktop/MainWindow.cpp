@@ -17,6 +17,7 @@
 #include "desktop/FieldTableWindow.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
+#include "desktop/ViewFiles.h"
 
 namespace quorvia::host {
 namespace {
@@ -52,9 +53,10 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
 void MainWindow::addPanes() {
     tree_ = new DataSetTree(
         [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
-    view_ = DataSetView::make(
-        {[this](std::size_t zone) { tree_->markZone(zone + 1); }, [this] { showWhatIsPossible(); }},
-        this);
+    view_ = DataSetView::make({[this](std::size_t zone) { tree_->markZone(zone + 1); },
+                               [this] { showWhatIsPossible(); },
+                               [this](const auto& zones) { tree_->tickZones(zones); }},
+                              this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
     auto* panes = new QSplitter(this);
@@ -97,6 +99,11 @@ void MainWindow::addFileMenu() {
     savePicture_ = action(QStringLiteral("&Save Picture..."), QKeySequence(QKeySequence::Save),
                           &MainWindow::savePicture);
     file->addAction(savePicture_);
+    saveView_ = action(QStringLiteral("Save &View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+S")), &MainWindow::saveView);
+    openView_ = action(QStringLiteral("&Open View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+O")), &MainWindow::openView);
+    file->addActions({saveView_, openView_});
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -153,6 +160,8 @@ void MainWindow::showWhatIsPossible() {
     set(showTable_, isOneField && values_ != nullptr,
         isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
     set(savePicture_, view_->hasPicture(), "There is no picture.");
+    set(saveView_, view_->hasPicture(), "There is no picture.");
+    set(openView_, values_ != nullptr && !session_.isBusy(), "There is nothing to be looked at.");
 }
 
 void MainWindow::workBegins(const QString& what) {
@@ -296,6 +305,14 @@ void MainWindow::savePicture() {
     if (!file.isEmpty() && !view_->savePicture(file))
         showText(this, "The picture can't be written to " + file.toStdString() + ".",
                  TextKind_e::Error);
+}
+
+void MainWindow::saveView() {
+    saveViewByHand(this, *view_);
+}
+
+void MainWindow::openView() {
+    openViewByHand(this, *view_);
 }
 
 // ---- Help, and the rest of a window's life ------------------------------------------------------

@@ -57,6 +57,8 @@ private:
     void discardDataSet();
     void showTable();
     void savePicture();
+    void saveView();
+    void openView();
     void showHelp();
     void showAbout();
 
@@ -77,6 +79,8 @@ private:
     QAction* fetchAll_ = nullptr;
     QAction* showTable_ = nullptr;
     QAction* savePicture_ = nullptr;
+    QAction* saveView_ = nullptr;
+    QAction* openView_ = nullptr;
     std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
     std::string whyNoValues_;
     bool isOpened_ = false;
