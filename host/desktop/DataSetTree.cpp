@@ -364,6 +364,32 @@ void DataSetTree::tickZones(std::vector<std::size_t> zones) {
     viewport()->update();
 }
 
+bool DataSetTree::isUsuallyTicked(const QTreeWidgetItem* item) const {
+    std::vector<std::size_t> zones;
+    collectZones(item, zones);
+    return dataSet_->zones[zones.front() - 1].parentZone == 0;
+}
+
+std::set<QString> DataSetTree::unusualTicks() const {
+    std::set<QString> names;
+    for (QTreeWidgetItemIterator item(const_cast<DataSetTree*>(this)); *item != nullptr; ++item)
+        if (canBeTicked(*item) && (*item)->checkState(nameColumn) ==
+                                      (isUsuallyTicked(*item) ? Qt::Unchecked : Qt::Checked))
+            names.insert((*item)->text(nameColumn));
+    return names;
+}
+
+void DataSetTree::putUnusualTicks(const std::set<QString>& names) {
+    {
+        const QSignalBlocker silence(this);
+        for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item)
+            if (canBeTicked(*item) && names.count((*item)->text(nameColumn)) != 0)
+                (*item)->setCheckState(nameColumn,
+                                       isUsuallyTicked(*item) ? Qt::Unchecked : Qt::Checked);
+    }
+    tellTicks();
+}
+
 // Texts change as well; only a choice that is another is told.
 void DataSetTree::tellTicks() {
     std::vector<std::size_t> zones;

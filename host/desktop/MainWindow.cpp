@@ -15,9 +15,11 @@
 
 #include "describe/Words.h"
 #include "desktop/FieldTableWindow.h"
+#include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
 #include "desktop/ViewFiles.h"
+#include "desktop/ZoneGroups.h"
 
 namespace quorvia::host {
 namespace {
@@ -94,6 +96,12 @@ void MainWindow::addFileMenu() {
     import_ = action(QStringLiteral("No Loader"), QKeySequence(QStringLiteral("Ctrl+I")),
                      &MainWindow::importByHand);
     import->addAction(import_);
+    recent_ = new RecentMenu(
+        preferences_, [this](const ImportList& imports) { importAgain(imports); }, this);
+    file->addMenu(recent_);
+    reload_ = action(QStringLiteral("Re&load for New Steps"),
+                     QKeySequence(QStringLiteral("Ctrl+R")), &MainWindow::reload);
+    file->addAction(reload_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
     savePicture_ = action(QStringLiteral("&Save Picture..."), QKeySequence(QKeySequence::Save),
@@ -152,6 +160,9 @@ void MainWindow::showWhatIsPossible() {
         action->setToolTip(isPossible ? QString() : QString::fromLatin1(whyNot));
     };
     set(import_, mayImport(), "No add-on has registered a loader, or work goes on.");
+    set(reload_, hasDataSet && mayImport() && !session_.imports().empty(),
+        "Nothing was imported that can be loaded anew, or work goes on.");
+    recent_->allow(mayImport());
     set(discard_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
@@ -206,9 +217,37 @@ void MainWindow::importByHand() {
 }
 
 void MainWindow::import(const FileSelection_s& selection) {
+    preferences_.setFolderOf(shown(selection.files.front()));
     session_.import(selection, [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
     workBegins(
         QStringLiteral("Importing %1").arg(shownCount(selection.files.size(), "file", "files")));
+}
+
+void MainWindow::importAgain(const ImportList& imports) {
+    const std::vector<ImportedFile_s> files = filesOf(imports);
+    preferences_.setFolderOf(shown(files.front().name));
+    session_.repeat(imports, DesktopSession::Files_e::AsBefore,
+                    [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
+    workBegins(QStringLiteral("Importing %1").arg(shownCount(files.size(), "file", "files")));
+}
+
+void MainWindow::reload() {
+    session_.repeat(session_.imports(), DesktopSession::Files_e::WithNewOnes,
+                    [this](ImportOutcome_s outcome) { showReloaded(std::move(outcome)); });
+    workBegins(QStringLiteral("Reloading"));
+}
+
+/// What is seen, and how, stays where the new data have it.
+void MainWindow::showReloaded(ImportOutcome_s outcome) {
+    const KeptView keptView(*tree_, *view_);
+    const std::size_t stepsBefore = countSteps(*tree_->dataSet());
+    const std::size_t newFiles = outcome.newFiles;
+    const bool isReloaded = outcome.result.ok;
+    showImport(std::move(outcome));
+    if (!isReloaded)
+        return;
+    keptView.putBack();
+    statusBar()->showMessage(reloadedText(countSteps(*tree_->dataSet()), stepsBefore, newFiles));
 }
 
 void MainWindow::showImport(ImportOutcome_s outcome) {
@@ -216,6 +255,8 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
                    : outcome.result.ok        ? QStringLiteral("Imported: %1")
                                               : QStringLiteral("Nothing was imported: %1");
     what = what.arg(shown(sizeText(outcome.dataSet)));
+    if (outcome.result.ok)
+        recent_->add(session_.imports(), outcome.repeated);
     // What an import has left alone keeps its ranges, and what was opened in the tree stays open.
     const bool isAsBefore = !outcome.result.ok && outcome.dataSet && tree_->shows(*outcome.dataSet);
     if (!outcome.dataSet)

@@ -13,6 +13,7 @@
 #include "desktop/DesktopSession.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
+#include "desktop/RecentMenu.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -48,6 +49,9 @@ private:
     void importByHand();
     void import(const FileSelection_s& selection);
     void showImport(ImportOutcome_s outcome);
+    void importAgain(const ImportList& imports);
+    void reload();
+    void showReloaded(ImportOutcome_s outcome);
     void showValues(std::shared_ptr<const plot3d::DataSet> values, const std::string& whyNot);
     void importDropped(const std::vector<std::string>& files);
     void fetch(std::vector<FieldAddress_s> fields);
@@ -73,7 +77,9 @@ private:
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
     DataSetView* view_ = nullptr;
+    RecentMenu* recent_ = nullptr;
     QAction* import_ = nullptr;
+    QAction* reload_ = nullptr;
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;

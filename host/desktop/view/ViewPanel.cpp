@@ -294,6 +294,10 @@ void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s
 
 void ViewPanel::stayAsBefore(const std::optional<std::string>& failure) {
     times_->play(false);
+    View_s first; // as new data are shown at first
+    first.zones = wanted_.zones;
+    if (isNew_ && failure && std::exchange(isOpening_, false) && wanted_ != first)
+        return want(std::move(first));
     wanted_ = taken_;
     isOpening_ = false;
     hasNoZone_ = !isNew_ && !hasPicture();
