@@ -55,6 +55,7 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
 void MainWindow::addPanes() {
     tree_ = new DataSetTree(
         [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
+    findings_ = new FileFindings(*tree_);
     view_ = DataSetView::make({[this](std::size_t zone) { tree_->markZone(zone + 1); },
                                [this] { showWhatIsPossible(); },
                                [this](const auto& zones) { tree_->tickZones(zones); }},
@@ -262,11 +263,16 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
     if (!outcome.dataSet)
         tree_->showNothing();
     else if (!isAsBefore)
-        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
+        showTree(std::move(*outcome.dataSet), outcome.plotType);
     if (!isAsBefore)
         showValues(std::move(outcome.values), outcome.whyNoValues);
     if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
+}
+
+void MainWindow::showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
+    tree_->showDataSet(std::move(dataSet), plotType);
+    findings_->show(tree_->topLevelItem(0), filesOf(session_.imports()));
 }
 
 void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,

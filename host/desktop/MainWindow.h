@@ -11,6 +11,7 @@
 
 #include "desktop/DataSetTree.h"
 #include "desktop/DesktopSession.h"
+#include "desktop/FileFindings.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
 #include "desktop/RecentMenu.h"
@@ -29,6 +30,7 @@ public:
     DesktopSession& session() { return session_; }
     DataSetTree& tree() { return *tree_; }
     DataSetView& view() { return *view_; }
+    FileFindings& findings() { return *findings_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -49,6 +51,7 @@ private:
     void importByHand();
     void import(const FileSelection_s& selection);
     void showImport(ImportOutcome_s outcome);
+    void showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType);
     void importAgain(const ImportList& imports);
     void reload();
     void showReloaded(ImportOutcome_s outcome);
@@ -76,6 +79,7 @@ private:
     FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
+    FileFindings* findings_ = nullptr; // in the tree, and belongs to it
     DataSetView* view_ = nullptr;
     RecentMenu* recent_ = nullptr;
     QAction* import_ = nullptr;

@@ -66,9 +66,10 @@ const Arrows hostArrows = {
     {"view", {}}, // these three of the scene, used by the windows
     {"content", {}},
     {"stage", {}},
+    {"findings", {}}, // of the program: what a file is, in words
     {"desktop",
      {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
-      "stage"}},
+      "stage", "findings"}},
 };
 
 /// The rooms of the library, and all that stand below it.
@@ -101,7 +102,8 @@ const Arrows programArrows = {
     {"console", {}}, // at the top, used by the rooms of the program
     {"manners", {"console"}},
     {"selection", {"console", "manners"}},
-    {"info", {"console", "manners"}},
+    {"findings", {"console"}},
+    {"info", {"console", "manners", "findings"}},
     {"blocks", {}},
     {"names", {}},
     {"stats", {"console", "manners", "selection", "blocks"}},
