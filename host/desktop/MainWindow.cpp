@@ -15,8 +15,11 @@
 
 #include "describe/Words.h"
 #include "desktop/FieldTableWindow.h"
+#include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
+#include "desktop/ViewFiles.h"
+#include "desktop/ZoneGroups.h"
 
 namespace quorvia::host {
 namespace {
@@ -52,9 +55,11 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
 void MainWindow::addPanes() {
     tree_ = new DataSetTree(
         [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
-    view_ = DataSetView::make(
-        {[this](std::size_t zone) { tree_->markZone(zone + 1); }, [this] { showWhatIsPossible(); }},
-        this);
+    findings_ = new FileFindings(*tree_);
+    view_ = DataSetView::make({[this](std::size_t zone) { tree_->markZone(zone + 1); },
+                               [this] { showWhatIsPossible(); },
+                               [this](const auto& zones) { tree_->tickZones(zones); }},
+                              this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
     auto* panes = new QSplitter(this);
@@ -92,11 +97,22 @@ void MainWindow::addFileMenu() {
     import_ = action(QStringLiteral("No Loader"), QKeySequence(QStringLiteral("Ctrl+I")),
                      &MainWindow::importByHand);
     import->addAction(import_);
+    recent_ = new RecentMenu(
+        preferences_, [this](const ImportList& imports) { importAgain(imports); }, this);
+    file->addMenu(recent_);
+    reload_ = action(QStringLiteral("Re&load for New Steps"),
+                     QKeySequence(QStringLiteral("Ctrl+R")), &MainWindow::reload);
+    file->addAction(reload_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
     savePicture_ = action(QStringLiteral("&Save Picture..."), QKeySequence(QKeySequence::Save),
                           &MainWindow::savePicture);
     file->addAction(savePicture_);
+    saveView_ = action(QStringLiteral("Save &View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+S")), &MainWindow::saveView);
+    openView_ = action(QStringLiteral("&Open View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+O")), &MainWindow::openView);
+    file->addActions({saveView_, openView_});
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -145,6 +161,9 @@ void MainWindow::showWhatIsPossible() {
         action->setToolTip(isPossible ? QString() : QString::fromLatin1(whyNot));
     };
     set(import_, mayImport(), "No add-on has registered a loader, or work goes on.");
+    set(reload_, hasDataSet && mayImport() && !session_.imports().empty(),
+        "Nothing was imported that can be loaded anew, or work goes on.");
+    recent_->allow(mayImport());
     set(discard_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
@@ -153,6 +172,8 @@ void MainWindow::showWhatIsPossible() {
     set(showTable_, isOneField && values_ != nullptr,
         isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
     set(savePicture_, view_->hasPicture(), "There is no picture.");
+    set(saveView_, view_->hasPicture(), "There is no picture.");
+    set(openView_, values_ != nullptr && !session_.isBusy(), "There is nothing to be looked at.");
 }
 
 void MainWindow::workBegins(const QString& what) {
@@ -197,9 +218,37 @@ void MainWindow::importByHand() {
 }
 
 void MainWindow::import(const FileSelection_s& selection) {
+    preferences_.setFolderOf(shown(selection.files.front()));
     session_.import(selection, [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
     workBegins(
         QStringLiteral("Importing %1").arg(shownCount(selection.files.size(), "file", "files")));
+}
+
+void MainWindow::importAgain(const ImportList& imports) {
+    const std::vector<ImportedFile_s> files = filesOf(imports);
+    preferences_.setFolderOf(shown(files.front().name));
+    session_.repeat(imports, DesktopSession::Files_e::AsBefore,
+                    [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
+    workBegins(QStringLiteral("Importing %1").arg(shownCount(files.size(), "file", "files")));
+}
+
+void MainWindow::reload() {
+    session_.repeat(session_.imports(), DesktopSession::Files_e::WithNewOnes,
+                    [this](ImportOutcome_s outcome) { showReloaded(std::move(outcome)); });
+    workBegins(QStringLiteral("Reloading"));
+}
+
+/// What is seen, and how, stays where the new data have it.
+void MainWindow::showReloaded(ImportOutcome_s outcome) {
+    const KeptView keptView(*tree_, *view_);
+    const std::size_t stepsBefore = countSteps(*tree_->dataSet());
+    const std::size_t newFiles = outcome.newFiles;
+    const bool isReloaded = outcome.result.ok;
+    showImport(std::move(outcome));
+    if (!isReloaded)
+        return;
+    keptView.putBack();
+    statusBar()->showMessage(reloadedText(countSteps(*tree_->dataSet()), stepsBefore, newFiles));
 }
 
 void MainWindow::showImport(ImportOutcome_s outcome) {
@@ -207,16 +256,23 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
                    : outcome.result.ok        ? QStringLiteral("Imported: %1")
                                               : QStringLiteral("Nothing was imported: %1");
     what = what.arg(shown(sizeText(outcome.dataSet)));
+    if (outcome.result.ok)
+        recent_->add(session_.imports(), outcome.repeated);
     // What an import has left alone keeps its ranges, and what was opened in the tree stays open.
     const bool isAsBefore = !outcome.result.ok && outcome.dataSet && tree_->shows(*outcome.dataSet);
     if (!outcome.dataSet)
         tree_->showNothing();
     else if (!isAsBefore)
-        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
+        showTree(std::move(*outcome.dataSet), outcome.plotType);
     if (!isAsBefore)
         showValues(std::move(outcome.values), outcome.whyNoValues);
     if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
+}
+
+void MainWindow::showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
+    tree_->showDataSet(std::move(dataSet), plotType);
+    findings_->show(tree_->topLevelItem(0), filesOf(session_.imports()));
 }
 
 void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,
@@ -296,6 +352,14 @@ void MainWindow::savePicture() {
     if (!file.isEmpty() && !view_->savePicture(file))
         showText(this, "The picture can't be written to " + file.toStdString() + ".",
                  TextKind_e::Error);
+}
+
+void MainWindow::saveView() {
+    saveViewByHand(this, *view_);
+}
+
+void MainWindow::openView() {
+    openViewByHand(this, *view_);
 }
 
 // ---- Help, and the rest of a window's life ------------------------------------------------------

@@ -11,8 +11,10 @@
 
 #include "desktop/DataSetTree.h"
 #include "desktop/DesktopSession.h"
+#include "desktop/FileFindings.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
+#include "desktop/RecentMenu.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -28,6 +30,7 @@ public:
     DesktopSession& session() { return session_; }
     DataSetTree& tree() { return *tree_; }
     DataSetView& view() { return *view_; }
+    FileFindings& findings() { return *findings_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -48,6 +51,10 @@ private:
     void importByHand();
     void import(const FileSelection_s& selection);
     void showImport(ImportOutcome_s outcome);
+    void showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType);
+    void importAgain(const ImportList& imports);
+    void reload();
+    void showReloaded(ImportOutcome_s outcome);
     void showValues(std::shared_ptr<const plot3d::DataSet> values, const std::string& whyNot);
     void importDropped(const std::vector<std::string>& files);
     void fetch(std::vector<FieldAddress_s> fields);
@@ -57,6 +64,8 @@ private:
     void discardDataSet();
     void showTable();
     void savePicture();
+    void saveView();
+    void openView();
     void showHelp();
     void showAbout();
 
@@ -70,13 +79,18 @@ private:
     FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
+    FileFindings* findings_ = nullptr; // in the tree, and belongs to it
     DataSetView* view_ = nullptr;
+    RecentMenu* recent_ = nullptr;
     QAction* import_ = nullptr;
+    QAction* reload_ = nullptr;
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
     QAction* showTable_ = nullptr;
     QAction* savePicture_ = nullptr;
+    QAction* saveView_ = nullptr;
+    QAction* openView_ = nullptr;
     std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
     std::string whyNoValues_;
     bool isOpened_ = false;

@@ -66,9 +66,10 @@ const Arrows hostArrows = {
     {"view", {}}, // these three of the scene, used by the windows
     {"content", {}},
     {"stage", {}},
+    {"findings", {}}, // of the program: what a file is, in words
     {"desktop",
      {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
-      "stage"}},
+      "stage", "findings"}},
 };
 
 /// The rooms of the library, and all that stand below it.
@@ -102,7 +103,8 @@ const Arrows programArrows = {
     {"options", {}},
     {"manners", {"console"}},
     {"selection", {"console", "options", "manners"}},
-    {"info", {"console", "options", "manners"}},
+    {"findings", {"console"}},
+    {"info", {"console", "options", "manners", "findings"}},
     {"blocks", {}},
     {"names", {}},
     {"stats", {"console", "options", "manners", "selection", "blocks"}},

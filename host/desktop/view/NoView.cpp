@@ -22,6 +22,8 @@ public:
     void showZones(ZoneChoice) override {}
     bool hasPicture() const override { return false; }
     bool savePicture(const QString&) override { return false; }
+    std::string viewText() const override { return {}; }
+    std::string showView(const std::string&) override { return "there is no picture"; }
 };
 
 } // namespace

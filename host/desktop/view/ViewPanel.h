@@ -32,6 +32,8 @@ public:
     void showZones(ZoneChoice zones) override;
     bool hasPicture() const override { return pages_->currentWidget() == scene_; }
     bool savePicture(const QString& file) override;
+    std::string viewText() const override;
+    std::string showView(const std::string& text) override;
 
     /// What is in the picture; null for nothing. It may be older than what was asked for last.
     const plot3d::scene::SceneContent_s* content() const { return scene_->stage().content(); }
@@ -78,6 +80,7 @@ private:
     plot3d::scene::View_s taken_;                       // as asked for, of what is in the picture
     bool isNew_ = true;      // nothing of the data set was in the picture yet
     bool hasNoZone_ = false; // the user wants to see none
+    bool isOpening_ = false; // what is wanted was opened, with its camera
     LatestWork prepare_;
     LatestWork read_; // last, with prepare_: their threads end first
 };
