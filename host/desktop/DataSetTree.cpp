@@ -316,6 +316,13 @@ std::vector<FieldAddress_s> DataSetTree::selectedFields() const {
     return fields;
 }
 
+std::optional<std::size_t> DataSetTree::currentZone() const {
+    for (const QTreeWidgetItem* item = currentItem(); item != nullptr; item = item->parent())
+        if (zoneOf(item) != 0)
+            return static_cast<std::size_t>(zoneOf(item));
+    return std::nullopt;
+}
+
 // Texts change as well; only a choice that is another is told.
 void DataSetTree::tellTicks() {
     std::vector<std::size_t> zones;

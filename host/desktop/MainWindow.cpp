@@ -57,6 +57,10 @@ void MainWindow::addPanes() {
         this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
+    connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
+        if (const auto zone = tree_->currentZone())
+            view_->offerZone(*zone - 1);
+    });
     auto* panes = new QSplitter(this);
     panes->setChildrenCollapsible(false);
     panes->addWidget(tree_);

@@ -38,7 +38,8 @@ std::string mapWords() {
 }
 
 void checkRange(const std::string& text) {
-    if (!scene::rangeOverFromWord(text))
+    scene::View_s view;
+    if (!scene::takesRangeOver(view, text))
         scene::rangeFromText(text);
 }
 
@@ -64,8 +65,8 @@ void ViewArguments::declareContents(CLI::App& app) {
     app.add_option(
            "--range", range_,
            "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
-           "points shown (default), all points at that time (time), or at all times "
-           "(all-times)")
+           "points shown (default), all points at that time (time), at all times "
+           "(all-times), or of one zone (zone=NUMBER)")
         ->type_name("RANGE")
         ->check(takenBy(checkRange))
         ->group(group);
@@ -182,12 +183,8 @@ scene::View_s ViewArguments::startingView() const {
 void ViewArguments::takeContents(scene::View_s& view, const DataSet& data) const {
     if (!colour_.empty())
         view.colour = colour_;
-    if (const auto over = scene::rangeOverFromWord(range_)) {
-        view.range.reset();
-        view.rangeOver = *over;
-    } else if (!range_.empty()) {
+    if (!range_.empty() && !scene::takesRangeOver(view, range_))
         view.range = scene::rangeFromText(range_);
-    }
     if (!time_.empty()) {
         std::vector<double> times;
         for (const TimeStep& step : data.timeSteps())

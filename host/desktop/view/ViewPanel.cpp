@@ -81,7 +81,7 @@ ViewPanel::ViewPanel(Events_s events, QWidget* parent)
 
 // ---- The parts ----------------------------------------------------------------------------------
 
-void ViewPanel::addParts() {
+ViewBar* ViewPanel::makeBar() {
     ViewBar::Events_s events;
     events.coloured = [this](const std::string& variable) { colourBy(variable); };
     events.cut = [this](const plot3d::scene::SurfaceWish_s& surfaces) {
@@ -90,7 +90,27 @@ void ViewPanel::addParts() {
         want(std::move(view));
     };
     events.lookedFrom = [this](const std::string& direction) { scene_->lookFrom(direction); };
-    bar_ = new ViewBar(std::move(events), this);
+    return new ViewBar(std::move(events), this);
+}
+
+RangeBar* ViewPanel::makeRangeBar() {
+    RangeBar::Events_s events;
+    events.chosen = [this](const RangeBar::Choice_s& choice) {
+        View_s view = wanted_;
+        view.range = choice.kept;
+        if (!choice.kept) { // else what it was taken from comes back with another variable
+            view.rangeOver = choice.over;
+            view.rangeZone = choice.zone;
+        }
+        want(std::move(view));
+    };
+    events.refused = [this](const QString& reason) { values_->setText(reason); };
+    return new RangeBar(std::move(events), this);
+}
+
+void ViewPanel::addParts() {
+    bar_ = makeBar();
+    range_ = makeRangeBar();
     scene_ = new SceneWidget([this](const std::optional<Picked_s>& picked) { showPicked(picked); },
                              this);
     message_ = new QLabel(this);
@@ -105,6 +125,7 @@ void ViewPanel::addParts() {
     constexpr int margin = 6;
     layout->setContentsMargins(margin, margin, margin, 0);
     layout->addWidget(bar_);
+    layout->addWidget(range_);
     layout->addWidget(pages_, 1);
     layout->addWidget(times_);
     layout->addWidget(makeFoot());
@@ -189,8 +210,13 @@ void ViewPanel::showDataSet(std::shared_ptr<const DataSet> data, const std::stri
     isNew_ = true;
     hasNoZone_ = false;
     wanted_ = taken_ = {};
+    fixedRanges_.clear();
     values_->clear();
     bar_->setEnabled(data_ != nullptr);
+    range_->setEnabled(data_ != nullptr);
+    range_->setHasTimes(data_ && data_->timeSteps().size() > 1);
+    range_->offerZone(1);
+    range_->showChoice({}, {});
     std::vector<double> times;
     if (data_) {
         bar_->setChoices(colourNames(), largestOf(*data_));
@@ -206,7 +232,14 @@ void ViewPanel::colourBy(const std::string& variable) {
     View_s view = wanted_;
     view.colour = variable;
     view.range.reset();
+    const auto fixed = fixedRanges_.find(shown(variable).trimmed().toStdString());
+    if (fixed != fixedRanges_.end())
+        view.range = fixed->second;
     want(std::move(view));
+}
+
+std::string ViewPanel::colour() const {
+    return hasPicture() ? content()->colourName : std::string();
 }
 
 void ViewPanel::showZones(ZoneChoice zones) {
@@ -255,6 +288,10 @@ void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s
     scene_->showContent(std::move(content));
     if (std::exchange(isNew_, false))
         scene_->resetCamera();
+    if (taken_.range)
+        fixedRanges_[this->content()->colourName] = *taken_.range;
+    else
+        fixedRanges_.erase(this->content()->colourName);
     turnTo(scene_);
     showChoices();
     showState();
@@ -276,6 +313,10 @@ void ViewPanel::showChoices() {
         return;
     bar_->showChoice(content()->colourName, wanted_.surfaces.front());
     bar_->showDirections(content()->view.plot == plot3d::scene::PlotKind_e::Space);
+    if (wanted_.range)
+        range_->showChoice({.kept = wanted_.range}, content()->range);
+    else
+        range_->showChoice({wanted_.rangeOver, wanted_.rangeZone, {}}, content()->range);
     times_->showStep(static_cast<int>(content()->timeStep));
 }
 
