@@ -323,6 +323,12 @@ std::optional<std::size_t> DataSetTree::currentZone() const {
     return std::nullopt;
 }
 
+std::optional<std::size_t> DataSetTree::currentVariable() const {
+    if (currentItem() == nullptr || variableOf(currentItem()) == 0)
+        return std::nullopt;
+    return static_cast<std::size_t>(variableOf(currentItem()));
+}
+
 // Texts change as well; only a choice that is another is told.
 void DataSetTree::tellTicks() {
     std::vector<std::size_t> zones;

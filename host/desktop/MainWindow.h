@@ -13,6 +13,7 @@
 #include "desktop/DesktopSession.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
+#include "desktop/values/ValuesScope.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -56,6 +57,9 @@ private:
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
     void showTable();
+    void showHistogram();
+    void showIBlank();
+    ValuesScope_s scopeOfSelection() const;
     void savePicture();
     void showHelp();
     void showAbout();
@@ -76,6 +80,8 @@ private:
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
     QAction* showTable_ = nullptr;
+    QAction* showHistogram_ = nullptr;
+    QAction* showIBlank_ = nullptr;
     QAction* savePicture_ = nullptr;
     std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
     std::string whyNoValues_;

@@ -66,9 +66,12 @@ const Arrows hostArrows = {
     {"view", {}}, // these three of the scene, used by the windows
     {"content", {}},
     {"stage", {}},
+    {"selection", {}}, // these three of the program: its statistics, that there be one count
+    {"blocks", {}},
+    {"stats", {}},
     {"desktop",
      {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
-      "stage"}},
+      "stage", "selection", "blocks", "stats"}},
 };
 
 /// The rooms of the library, and all that stand below it.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QImage>
 #include <QShortcut>
 #include <QSurfaceFormat>
@@ -22,6 +21,8 @@ using plot3d::scene::View_s;
 namespace {
 
 constexpr int millisecondsBetweenLooks = 50;
+constexpr int footWithValues = 0; // pages
+constexpr int footWithProgress = 1;
 
 plot3d::Extent largestOf(const DataSet& data) {
     plot3d::Extent largest;
@@ -140,27 +141,11 @@ QWidget* ViewPanel::makeFoot() {
     values_->setAlignment(Qt::AlignTop);
     foot_ = new QStackedWidget(this);
     foot_->addWidget(values_);
-    foot_->addWidget(makeProgressRow());
+    progressRow_ = new WorkRow(prepare_, "cancelView", this);
+    foot_->addWidget(progressRow_);
     constexpr int linesOfValues = 3;
     foot_->setFixedHeight(linesOfValues * foot_->fontMetrics().lineSpacing());
     return foot_;
-}
-
-QWidget* ViewPanel::makeProgressRow() {
-    progressRow_ = new QWidget(this);
-    progressText_ = new QLabel(progressRow_);
-    progressText_->setTextFormat(Qt::PlainText);
-    progress_ = new QProgressBar(progressRow_);
-    progress_->setRange(0, 100);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), progressRow_);
-    cancel->setObjectName(QStringLiteral("cancelView"));
-    connect(cancel, &QPushButton::clicked, this, [this] { prepare_.cancel(); });
-    auto* layout = new QHBoxLayout(progressRow_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(progressText_);
-    layout->addWidget(progress_, 1);
-    layout->addWidget(cancel);
-    return progressRow_;
 }
 
 void ViewPanel::addKeys() {
@@ -335,15 +320,12 @@ void ViewPanel::turnTo(QWidget* page) {
 void ViewPanel::showState() {
     const bool isRunning = prepare_.isRunning();
     times_->setBusy(isRunning);
-    foot_->setCurrentWidget(isRunning ? progressRow_ : values_);
+    foot_->setCurrentIndex(isRunning ? footWithProgress : footWithValues);
     if (!isRunning) {
         stateTimer_.stop();
         return;
     }
-    const LatestWork::State_s state = prepare_.state();
-    progressText_->setText(shown(state.text));
-    constexpr double percent = 100;
-    progress_->setValue(static_cast<int>(state.fraction * percent));
+    progressRow_->showState();
 }
 
 // ---- What is clicked at -------------------------------------------------------------------------

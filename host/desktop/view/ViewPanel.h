@@ -9,13 +9,12 @@
 #include <vector>
 
 #include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
 
 #include "content/Preparer.h"
 #include "desktop/LatestWork.h"
+#include "desktop/WorkRow.h"
 #include "desktop/view/DataSetView.h"
 #include "desktop/view/RangeBar.h"
 #include "desktop/view/SceneWidget.h"
@@ -53,7 +52,6 @@ private:
     RangeBar* makeRangeBar();
     void addKeys();
     QWidget* makeFoot();
-    QWidget* makeProgressRow();
     void want(plot3d::scene::View_s view);
     void take(std::shared_ptr<const plot3d::scene::SceneContent_s> content,
               const plot3d::scene::View_s& view);
@@ -76,9 +74,7 @@ private:
     TimeBar* times_ = nullptr;
     QLabel* values_ = nullptr;       // of the point that was clicked at
     QStackedWidget* foot_ = nullptr; // the values, or while something is prepared how far it is
-    QWidget* progressRow_ = nullptr;
-    QLabel* progressText_ = nullptr;
-    QProgressBar* progress_ = nullptr;
+    WorkRow* progressRow_ = nullptr;
     QTimer stateTimer_;
     std::shared_ptr<const plot3d::DataSet> data_;
     std::shared_ptr<plot3d::scene::Preparer> preparer_; // used by the thread of prepare_ alone
