@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QSplitter>
 
+#include "desktop/Labels.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -74,16 +75,9 @@ void HistogramWindow::addChoices() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto addNamed = [layout, row](const QString& name, QWidget* widget) {
-        auto* label = new QLabel(name, row);
-        label->setBuddy(widget);
-        widget->setAccessibleName(QString(name).remove(QLatin1Char('&')));
-        layout->addWidget(label);
-        layout->addWidget(widget);
-    };
     for (const plot3d::Variable& variable : data().variables())
         variable_->addItem(shown(variable.name).trimmed());
-    addNamed(QStringLiteral("&Variable"), variable_);
+    addNamed(*layout, QStringLiteral("&Variable"), *variable_);
     layout->addWidget(&scopeBar());
     layout->addStretch();
     constexpr int usualBins = 20;
@@ -91,7 +85,7 @@ void HistogramWindow::addChoices() {
     bins_->setRange(1, mostBins);
     bins_->setValue(usualBins);
     bins_->setKeyboardTracking(false);
-    addNamed(QStringLiteral("&Bins"), bins_);
+    addNamed(*layout, QStringLiteral("&Bins"), *bins_);
     add(row);
 }
 

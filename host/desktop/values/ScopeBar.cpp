@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 
+#include "desktop/Labels.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -18,9 +19,6 @@ ScopeBar::ScopeBar(std::shared_ptr<const plot3d::DataSet> data, const ValuesScop
       over_(new QComboBox(this)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(QStringLiteral("Values &of"), this);
-    label->setBuddy(over_);
-    over_->setAccessibleName(QStringLiteral("Values of"));
     const bool hasTimes = data_->timeSteps().size() > 1;
     over_->addItem(QStringLiteral("One zone"), static_cast<int>(Over_e::Zone));
     if (hasTimes)
@@ -29,13 +27,13 @@ ScopeBar::ScopeBar(std::shared_ptr<const plot3d::DataSet> data, const ValuesScop
                    static_cast<int>(Over_e::AllTimes));
     const Over_e over = scope.over == Over_e::Time && !hasTimes ? Over_e::AllTimes : scope.over;
     over_->setCurrentIndex(over_->findData(static_cast<int>(over)));
-    layout->addWidget(label);
-    layout->addWidget(over_);
+    addNamed(*layout, QStringLiteral("Values &of"), *over_);
     zone_ = addNumbers("Zone", data_->zones().size(), scope.zone);
     step_ = addNumbers("Time step", data_->timeSteps().size(), scope.step);
     text_ = new QLabel(this);
     text_->setTextFormat(Qt::PlainText);
     layout->addWidget(text_);
+    layout->addStretch();
     showChoice();
     connect(over_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         showChoice();

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 
+#include "desktop/Labels.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -19,14 +19,10 @@ RangeBar::RangeBar(Events_s events, QWidget* parent)
     : QWidget(parent), events_(std::move(events)), list_(new QComboBox(this)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(QStringLiteral("&Range"), this);
-    label->setBuddy(list_);
-    list_->setAccessibleName(QStringLiteral("Range"));
     list_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    layout->addWidget(label);
-    layout->addWidget(list_);
-    least_ = addEnd(QStringLiteral("Mi&nimum"));
-    most_ = addEnd(QStringLiteral("Ma&ximum"));
+    addNamed(*layout, QStringLiteral("&Range"), *list_);
+    least_ = addEnd(*layout, QStringLiteral("Mi&nimum"));
+    most_ = addEnd(*layout, QStringLiteral("Ma&ximum"));
     layout->addStretch();
     connect(list_, QOverload<int>::of(&QComboBox::activated), this, [this](int place) {
         const Choice_s choice = listed_[static_cast<std::size_t>(place)];
@@ -35,16 +31,12 @@ RangeBar::RangeBar(Events_s events, QWidget* parent)
     fillList();
 }
 
-QLineEdit* RangeBar::addEnd(const QString& name) {
+QLineEdit* RangeBar::addEnd(QBoxLayout& row, const QString& name) {
     auto* end = new QLineEdit(this);
-    auto* label = new QLabel(name, this);
-    label->setBuddy(end);
-    end->setAccessibleName(QString(name).remove(QLatin1Char('&')));
+    addNamed(row, name, *end);
     end->setToolTip(QStringLiteral("A number typed here stays, whatever is shown"));
     constexpr int letters = 13;
     end->setMaximumWidth(letters * end->fontMetrics().averageCharWidth());
-    layout()->addWidget(label);
-    layout()->addWidget(end);
     connect(end, &QLineEdit::editingFinished, this, [this] { takeTyped(); });
     return end;
 }

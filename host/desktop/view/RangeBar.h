@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QStringList>
@@ -40,7 +41,7 @@ public:
     void showChoice(const Choice_s& choice, const plot3d::scene::Range_s& range);
 
 private:
-    QLineEdit* addEnd(const QString& name);
+    QLineEdit* addEnd(QBoxLayout& row, const QString& name);
     std::vector<Choice_s> choices() const;
     void fillList();
     QString captionOf(const Choice_s& choice) const;

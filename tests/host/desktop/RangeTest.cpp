@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "desktop/Texts.h"
 #include "host/desktop/BlankedFiles.h"
@@ -155,9 +154,7 @@ TEST_F(RangeTest, CancelledLeavesThePictureAsItWas) {
     holdPreparing();
     QTest::keyClick(&part<QComboBox>("Range"), Qt::Key_Down);
     ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
-    auto& cancel = *view().findChild<QPushButton*>(QStringLiteral("cancelView"));
-    ASSERT_TRUE(comesTrue([&cancel] { return cancel.isVisible(); }));
-    click(cancel);
+    view().preparing().cancel();
     letGo();
     settle();
     EXPECT_EQ(chosen(), "Points drawn");

@@ -15,6 +15,11 @@ protected:
             sum += window.table().item(row, 2)->data(exactRole).toLongLong();
         return sum;
     }
+    void holdCountOfFiveBins(HistogramWindow& window) {
+        hold(window);
+        set<QSpinBox>(window, "Bins", 5);
+        ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
+    }
 };
 class IBlankTest : public ValuesTest {};
 
@@ -83,8 +88,7 @@ TEST_F(HistogramTest, MarksTheBarOfARowAndTheRowOfABar) {
 TEST_F(HistogramTest, IsCancelled) {
     importBlanked();
     HistogramWindow& window = openHistogram(1, "F1V1", 2);
-    hold(window);
-    set<QSpinBox>(window, "Bins", 5);
+    holdCountOfFiveBins(window);
     cancelHeld(window);
     EXPECT_EQ(window.message(), "Cancelled.");
     EXPECT_EQ(rowsOf(window), Rows());
@@ -93,9 +97,7 @@ TEST_F(HistogramTest, IsCancelled) {
 TEST_F(HistogramTest, LaterChoiceReplacesTheEarlierOne) {
     importBlanked();
     HistogramWindow& window = openHistogram(1, "F1V1", 2);
-    hold(window);
-    set<QSpinBox>(window, "Bins", 5);
-    ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
+    holdCountOfFiveBins(window);
     set<QSpinBox>(window, "Bins", 1);
     letGo();
     settle(window);
@@ -112,12 +114,9 @@ TEST_F(HistogramTest, TellsWhatCantBeRead) {
     EXPECT_EQ(sumOf(window), static_cast<std::int64_t>(2 * values(1, 3).size()));
 }
 
-TEST_F(HistogramTest, ClosesWithItsDataSetAlsoWhileItCounts) {
+TEST_F(HistogramTest, ClosesWithItsDataSet) {
     importBlanked();
-    HistogramWindow& window = openHistogram(1, "F1V1", 2);
-    hold(window);
-    set<QSpinBox>(window, "Bins", 5);
-    ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
+    holdCountOfFiveBins(openHistogram(1, "F1V1", 2));
     letGo();
     choose(QStringLiteral("Discard Data Set"));
     EXPECT_TRUE(comesTrue([this] { return find("histogram") == nullptr; }));
