@@ -275,6 +275,19 @@ std::vector<FieldAddress_s> DataSetTree::selectedFields() const {
     return fields;
 }
 
+std::optional<std::size_t> DataSetTree::currentZone() const {
+    for (const QTreeWidgetItem* item = currentItem(); item != nullptr; item = item->parent())
+        if (zoneOf(item) != 0)
+            return static_cast<std::size_t>(zoneOf(item));
+    return std::nullopt;
+}
+
+std::optional<std::size_t> DataSetTree::currentVariable() const {
+    if (currentItem() == nullptr || variableOf(currentItem()) == 0)
+        return std::nullopt;
+    return static_cast<std::size_t>(variableOf(currentItem()));
+}
+
 void DataSetTree::markZone(std::size_t number) {
     for (QTreeWidgetItemIterator item(this); *item != nullptr; ++item)
         if (zoneOf(*item) == static_cast<std::int32_t>(number) && variableOf(*item) == 0) {

@@ -44,6 +44,11 @@ public:
     std::vector<FieldAddress_s> allFields() const;
     /// Of all that is selected, whatever its level: a strand stands for all of its zones.
     std::vector<FieldAddress_s> selectedFields() const;
+    /// The number of the zone that the current row is of or stands below; nothing for a row of
+    /// none.
+    std::optional<std::size_t> currentZone() const;
+    /// Likewise the variable that the current row is of.
+    std::optional<std::size_t> currentVariable() const;
     /// Selects the row of the zone, and brings it into sight.
     void markZone(std::size_t number);
     /// Ticks these zones, ascending, and no others; none stands for all but boundary zones. A

@@ -5,6 +5,7 @@
 
 #include <plot3d/Error.h>
 
+#include "blocks/BlockSplit.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -12,10 +13,15 @@ namespace {
 
 constexpr int tileRows = 32;
 constexpr int tileColumns = 16;
+constexpr std::int64_t valuesReadAtOnce = std::int64_t{1} << 15;
 constexpr std::size_t mostTiles = 1024; // 4 MB of values
 
 int asCount(std::int64_t count) {
     return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
+}
+
+QString indexText(bool isAlongI, std::int64_t index) {
+    return QStringLiteral("%1 %2").arg(QLatin1String(isAlongI ? "i" : "j")).arg(index + 1);
 }
 
 plot3d::Range rangeOf(int tile, int length, std::int64_t size) {
@@ -74,8 +80,7 @@ QVariant FieldTable::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     if (isColumn() && orientation == Qt::Horizontal)
         return shown(data_->variables()[variable_].name);
-    const bool isAlongI = isColumn() || orientation == Qt::Horizontal;
-    return QStringLiteral("%1 %2").arg(QLatin1String(isAlongI ? "i" : "j")).arg(section + 1);
+    return indexText(isColumn() || orientation == Qt::Horizontal, section);
 }
 
 std::optional<double> FieldTable::valueAt(int row, int column) const {
@@ -131,6 +136,38 @@ void FieldTable::take(Tiles tiles) {
     if (!wanted_.empty())
         look_.start(0);
     showAll();
+}
+
+// ---- Copying ------------------------------------------------------------------------------------
+
+FieldTable::Copier FieldTable::copierOf(const CellRange_s& cells) const {
+    const plot3d::Range rows = {cells.firstRow, cells.lastRow, 1};
+    const plot3d::Range columns = {cells.firstColumn, cells.lastColumn, 1};
+    const plot3d::Box box = isColumn() ? plot3d::Box{rows, {0, 0, 1}, {0, 0, 1}}
+                                       : plot3d::Box{columns, rows, {plane_, plane_, 1}};
+    const bool isAlongI = isColumn();
+    QString headings = headingLine(cells, /*hasRowHeadings=*/true, [this](int column) {
+        return headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    });
+    return [data = data_, zone = zone_, variable = variable_, cells, box, isAlongI,
+            text = std::move(headings)](const plot3d::Watch& watch) mutable {
+        const plot3d::ValueType type = data->type(zone, variable);
+        const std::int64_t width = std::int64_t{cells.lastColumn} - cells.firstColumn + 1;
+        std::int64_t done = 0;
+        for (const plot3d::Box& part : plot3d::program::blocksOf(box, valuesReadAtOnce)) {
+            watch.progress(
+                {"Copying", static_cast<double>(done) / static_cast<double>(cells.count()), -1});
+            if (watch.stop.stop_requested())
+                throw plot3d::Error(plot3d::ErrorKind::Interrupted, "Stopped.");
+            for (const double value : data->values(zone, variable, part)) {
+                if (cells.hasHeadings && done % width == 0)
+                    text += indexText(isAlongI, cells.firstRow + done / width) + QLatin1Char('\t');
+                text += exactText(value, type);
+                text += QLatin1Char(++done % width == 0 ? '\n' : '\t');
+            }
+        }
+        return text;
+    };
 }
 
 } // namespace quorvia::host

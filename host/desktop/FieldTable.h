@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -19,6 +20,7 @@
 #include <plot3d/DataSet.h>
 
 #include "desktop/LatestWork.h"
+#include "desktop/values/TableText.h"
 
 namespace quorvia::host {
 
@@ -34,6 +36,10 @@ public:
     /// Values that were read from the first plane on.
     std::int64_t readCount() const { return readCount_; }
     bool isReading() const { return look_.isActive() || work_.isRunning(); }
+    /// What reads these cells of the plane that is shown, on any thread and also when the table has
+    /// gone, and gives them as text. It throws Error.
+    using Copier = std::function<QString(const plot3d::Watch& watch)>;
+    Copier copierOf(const CellRange_s& cells) const;
     /// Why values are missing; empty if none is.
     const std::string& failure() const { return failure_; }
 

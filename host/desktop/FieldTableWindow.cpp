@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QSpinBox>
-#include <QVBoxLayout>
 
 #include "desktop/Texts.h"
 
@@ -15,10 +14,8 @@ namespace quorvia::host {
 
 FieldTableWindow::FieldTableWindow(std::shared_ptr<const plot3d::DataSet> data, std::size_t zone,
                                    std::size_t variable, QWidget* parent)
-    : QDialog(parent), table_(data, zone, variable), view_(new QTableView(this)),
-      failure_(new QLabel(this)) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setObjectName(QStringLiteral("fieldTable"));
+    : ValuesWindow("fieldTable", parent), table_(data, zone, variable),
+      view_(new QTableView(this)) {
     setWindowTitle(QStringLiteral("%1 of zone %2  %3")
                        .arg(shown(data->variables()[variable].name).trimmed())
                        .arg(zone + 1)
@@ -32,16 +29,12 @@ FieldTableWindow::FieldTableWindow(std::shared_ptr<const plot3d::DataSet> data, 
     view_->horizontalHeader()->setDefaultSectionSize(numberLetters * letter);
     view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view_->setModel(&table_);
-    failure_->setTextFormat(Qt::PlainText);
-    failure_->setWordWrap(true);
-    failure_->hide();
-    new QVBoxLayout(this);
     addPlanes();
-    layout()->addWidget(view_);
-    layout()->addWidget(failure_);
+    add(view_, 1);
+    offerCopy(*view_);
     connect(&table_, &QAbstractItemModel::dataChanged, this, [this] {
-        failure_->setText(shown(table_.failure()));
-        failure_->setVisible(!table_.failure().empty());
+        if (!table_.failure().empty())
+            say(shown(table_.failure()));
     });
 }
 
@@ -61,7 +54,14 @@ void FieldTableWindow::addPlanes() {
     inRow->addWidget(plane);
     inRow->addWidget(new QLabel(QStringLiteral("of %1").arg(table_.planeCount()), row));
     inRow->addStretch();
-    layout()->addWidget(row);
+    add(row);
+}
+
+void FieldTableWindow::copy(const CellRange_s& cells) {
+    start([this, cells,
+           copier = table_.copierOf(cells)](const plot3d::Watch& watch) -> LatestWork::Finish {
+        return [this, cells, text = copier(watch)] { putOnClipboard(text, cells); };
+    });
 }
 
 } // namespace quorvia::host

@@ -1,15 +1,14 @@
 // A field's values as a table in a window of its own.
 #pragma once
 
-#include <QDialog>
-#include <QLabel>
 #include <QTableView>
 
 #include "desktop/FieldTable.h"
+#include "desktop/values/ValuesWindow.h"
 
 namespace quorvia::host {
 
-class FieldTableWindow : public QDialog {
+class FieldTableWindow : public ValuesWindow {
 public:
     /// `zone` and `variable` from 0. Goes when it is closed.
     FieldTableWindow(std::shared_ptr<const plot3d::DataSet> data, std::size_t zone,
@@ -17,12 +16,14 @@ public:
 
     FieldTable& table() { return table_; }
 
+protected:
+    void copy(const CellRange_s& cells) override;
+
 private:
     void addPlanes();
 
     FieldTable table_;
     QTableView* view_;
-    QLabel* failure_;
 };
 
 } // namespace quorvia::host

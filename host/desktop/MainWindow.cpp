@@ -20,6 +20,8 @@
 #include "desktop/Texts.h"
 #include "desktop/ViewFiles.h"
 #include "desktop/ZoneGroups.h"
+#include "desktop/values/HistogramWindow.h"
+#include "desktop/values/IBlankWindow.h"
 
 namespace quorvia::host {
 namespace {
@@ -62,6 +64,10 @@ void MainWindow::addPanes() {
                               this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
+    connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
+        if (const auto zone = tree_->currentZone())
+            view_->offerZone(*zone - 1);
+    });
     auto* panes = new QSplitter(this);
     panes->setChildrenCollapsible(false);
     panes->addWidget(tree_);
@@ -128,7 +134,13 @@ void MainWindow::addValuesMenu() {
                        QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
     showTable_ = action(QStringLiteral("Show &Table of Field"), QKeySequence(Qt::Key_F6),
                         &MainWindow::showTable);
-    values->addActions({fetchSelected_, fetchAll_, showTable_});
+    showHistogram_ = action(QStringLiteral("Show &Histogram"), QKeySequence(Qt::Key_F7),
+                            &MainWindow::showHistogram);
+    showIBlank_ = action(QStringLiteral("Show Values of I-&Blank"), QKeySequence(Qt::Key_F8),
+                         &MainWindow::showIBlank);
+    values->addActions({fetchSelected_, fetchAll_});
+    values->addSeparator();
+    values->addActions({showTable_, showHistogram_, showIBlank_});
 }
 
 void MainWindow::addHelpMenu() {
@@ -171,6 +183,11 @@ void MainWindow::showWhatIsPossible() {
     const bool isOneField = tree_->dataSet() != nullptr && tree_->selectedFields().size() == 1;
     set(showTable_, isOneField && values_ != nullptr,
         isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
+    const char* const whyNoValues =
+        tree_->dataSet() == nullptr ? "There is no data set." : whyNoValues_.c_str();
+    const bool hasIBlank = values_ != nullptr && IBlankWindow::iBlankOf(*values_).has_value();
+    set(showHistogram_, values_ != nullptr, whyNoValues);
+    set(showIBlank_, hasIBlank, values_ != nullptr ? "The data set has no I-blank." : whyNoValues);
     set(savePicture_, view_->hasPicture(), "There is no picture.");
     set(saveView_, view_->hasPicture(), "There is no picture.");
     set(openView_, values_ != nullptr && !session_.isBusy(), "There is nothing to be looked at.");
@@ -277,8 +294,7 @@ void MainWindow::showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
 
 void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,
                             const std::string& whyNot) {
-    for (QDialog* table : findChildren<QDialog*>(QStringLiteral("fieldTable")))
-        table->close(); // of what is gone
+    ValuesWindow::closeAll(*this); // of what is gone
     values_ = std::move(values);
     whyNoValues_ = whyNot;
     view_->showDataSet(values_, whyNot);
@@ -344,6 +360,27 @@ void MainWindow::showTable() {
     auto* table = new FieldTableWindow(values_, static_cast<std::size_t>(field.zone) - 1,
                                        static_cast<std::size_t>(field.variable) - 1, this);
     table->show();
+}
+
+/// The zone of the row that is current in the tree; without one the time in the picture.
+ValuesScope_s MainWindow::scopeOfSelection() const {
+    const std::optional<std::size_t> zone = tree_->currentZone();
+    return {zone ? ValuesScope_s::Over_e::Zone : ValuesScope_s::Over_e::Time, zone ? *zone - 1 : 0,
+            view_->step()};
+}
+
+/// Of the variable of the row that is current in the tree; without one of that in the picture.
+void MainWindow::showHistogram() {
+    std::optional<std::size_t> variable = tree_->currentVariable();
+    for (std::size_t place = 0; !variable && place < values_->variables().size(); ++place)
+        if (shown(values_->variables()[place].name).trimmed() == shown(view_->colour()))
+            variable = place + 1;
+    const std::size_t chosen = variable.value_or(1) - 1;
+    (new HistogramWindow(values_, chosen, scopeOfSelection(), this))->show();
+}
+
+void MainWindow::showIBlank() {
+    (new IBlankWindow(values_, scopeOfSelection(), this))->show();
 }
 
 void MainWindow::savePicture() {

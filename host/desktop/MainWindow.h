@@ -15,6 +15,7 @@
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
 #include "desktop/RecentMenu.h"
+#include "desktop/values/ValuesScope.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -63,6 +64,9 @@ private:
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
     void showTable();
+    void showHistogram();
+    void showIBlank();
+    ValuesScope_s scopeOfSelection() const;
     void savePicture();
     void saveView();
     void openView();
@@ -88,6 +92,8 @@ private:
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
     QAction* showTable_ = nullptr;
+    QAction* showHistogram_ = nullptr;
+    QAction* showIBlank_ = nullptr;
     QAction* savePicture_ = nullptr;
     QAction* saveView_ = nullptr;
     QAction* openView_ = nullptr;

@@ -38,7 +38,8 @@ std::string mapWords() {
 }
 
 void checkRange(const std::string& text) {
-    if (!scene::rangeOverFromWord(text))
+    scene::View_s view;
+    if (!scene::takesRangeOver(view, text))
         scene::rangeFromText(text);
 }
 
@@ -59,10 +60,11 @@ void ViewArguments::declareContents(const OptionTable& options) {
                  "Variable, or derived quantity by word or number; none for plain surfaces "
                  "(default: the first variable of the solution)");
     options
-        .text("--range", range_, "RANGE",
-              "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
-              "points shown (default), all points at that time (time), or at all times "
-              "(all-times)")
+        .text(
+            "--range", range_, "RANGE",
+            "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
+            "points shown (default), all points at that time (time), at all times (all-times), or "
+            "of one zone (zone=NUMBER)")
         .check(takenBy(checkRange));
     options.text("--time", time_, "TIME", "Solution time: the step at it, or first or last");
     options.flag("--all-times", allTimes_,
@@ -142,12 +144,8 @@ scene::View_s ViewArguments::startingView() const {
 void ViewArguments::takeContents(scene::View_s& view, const DataSet& data) const {
     if (!colour_.empty())
         view.colour = colour_;
-    if (const auto over = scene::rangeOverFromWord(range_)) {
-        view.range.reset();
-        view.rangeOver = *over;
-    } else if (!range_.empty()) {
+    if (!range_.empty() && !scene::takesRangeOver(view, range_))
         view.range = scene::rangeFromText(range_);
-    }
     if (!time_.empty()) {
         std::vector<double> times;
         for (const TimeStep& step : data.timeSteps())

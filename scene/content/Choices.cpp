@@ -90,7 +90,10 @@ std::vector<std::string> partsOf(const std::string& list) {
 }
 
 void requireZones(const DataSet& data, const View_s& view) {
-    for (const std::size_t number : view.zones)
+    std::vector<std::size_t> numbers = view.zones;
+    if (view.rangeOver == RangeOver_e::Zone)
+        numbers.push_back(view.rangeZone);
+    for (const std::size_t number : numbers)
         if (number < 1 || number > data.zones().size())
             throw Error(ErrorKind::Usage, "there is no zone " + std::to_string(number) +
                                               "; the data set has " +

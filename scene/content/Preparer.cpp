@@ -99,6 +99,7 @@ private:
     std::string valuesKeyOf(const Shown_s& shown) const;
     bool hasQuantity(std::size_t zone) const;
     void addValueReads(Shown_s& shown, const Mesh_s& mesh, Pieces& pieces);
+    std::vector<std::size_t> zonesOfRange();
     std::optional<Range_s> rangeOverZones();
     void runPieces(const Pieces& pieces, double first, double last, const char* text);
     int threads() const {
@@ -304,13 +305,20 @@ void Preparer::Work::addAdditions() {
     }
 }
 
-std::optional<Range_s> Preparer::Work::rangeOverZones() {
+std::vector<std::size_t> Preparer::Work::zonesOfRange() {
+    if (view().rangeOver == RangeOver_e::Zone)
+        return {view().rangeZone - 1};
     std::vector<std::size_t> zones;
     const bool isAll = view().rangeOver == RangeOver_e::AllTimes;
     for (std::size_t step = 0; step < data_.timeSteps().size(); ++step)
         if (isAll || step == content_->timeStep)
             for (const ShownZone_s& shown : shownZones(data_, view(), step))
                 zones.push_back(shown.zone);
+    return zones;
+}
+
+std::optional<Range_s> Preparer::Work::rangeOverZones() {
+    const std::vector<std::size_t> zones = zonesOfRange();
     std::string key = quantity_.name + (view().blank == BlankWish_e::Hide ? " hides" : "");
     for (const std::size_t zone : zones)
         key += " " + std::to_string(zone);
@@ -325,6 +333,10 @@ std::optional<Range_s> Preparer::Work::rangeOverZones() {
     runPieces(pieces, 0, 1, "Finding the range");
     if (whole.range())
         now_.ranges[key] = *whole.range();
+    else if (view().rangeOver == RangeOver_e::Zone)
+        throw Error(ErrorKind::Usage, "zone " + std::to_string(view().rangeZone) +
+                                          " has no values of " + quantity_.name +
+                                          " that a range could be taken from");
     return whole.range();
 }
 

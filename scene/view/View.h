@@ -49,9 +49,10 @@ struct Range_s {
 
 /// What the range is taken from where it is not given.
 enum class RangeOver_e : unsigned char {
-    Shown,   // the points that are drawn
-    Time,    // all points of the zones shown, at the time shown
-    AllTimes // all points of these zones at all times
+    Shown,    // the points that are drawn
+    Time,     // all points of the zones shown, at the time shown
+    AllTimes, // all points of these zones at all times
+    Zone      // all points of one zone, whether it is shown or not
 };
 
 using Vector3 = std::array<double, 3>;
@@ -79,6 +80,7 @@ struct View_s {
                         // "none": plain grey
     std::optional<Range_s> range;
     RangeOver_e rangeOver = RangeOver_e::Shown;
+    std::size_t rangeZone = 1;   // of RangeOver_e::Zone: the zone's number
     std::string map = "viridis"; // colours/ColourMap.h
     bool gridLines = false;
     int contours = 0;    // number of contour lines, at values spread evenly over the range

@@ -182,8 +182,9 @@ private:
 
     void takeRange(const Json& value) {
         if (value.is_string()) {
-            view_.rangeOver = wordOfView("color.range", value, rangeOverFromWord,
-                                         "two numbers, or shown, time or all-times");
+            if (!takesRangeOver(view_, value.get<std::string>()))
+                refuse("color.range", "two numbers, or shown, time, all-times or zone=NUMBER",
+                       value);
             return;
         }
         const auto [least, most] = numbersOf<2>("color.range", value);
@@ -315,7 +316,7 @@ private:
         if (view_.range)
             colour["range"] = {view_.range->least, view_.range->most};
         else if (view_.rangeOver != usual_.rangeOver)
-            colour["range"] = wordOf(view_.rangeOver);
+            colour["range"] = textOfRangeOver(view_);
         put(colour, "map", view_.map, usual_.map);
         if (!colour.empty())
             json_["color"] = colour;

@@ -137,6 +137,7 @@ std::optional<Enumeration> enumeratorOf(const std::array<std::string_view, count
 constexpr std::array<std::string_view, 4> plotWords = {"auto", "3d", "2d", "xy"};
 constexpr std::array<std::string_view, 3> blankWords = {"hide", "show", "color"};
 constexpr std::array<std::string_view, 3> overWords = {"shown", "time", "all-times"};
+constexpr std::string_view zoneWord = "zone=";
 
 } // namespace
 
@@ -251,17 +252,33 @@ std::string_view wordOf(PlotKind_e plot) {
 std::string_view wordOf(BlankWish_e blank) {
     return blankWords[static_cast<std::size_t>(blank)];
 }
-std::string_view wordOf(RangeOver_e over) {
-    return overWords[static_cast<std::size_t>(over)];
-}
 std::optional<PlotKind_e> plotFromWord(std::string_view word) {
     return enumeratorOf<PlotKind_e>(plotWords, word);
 }
 std::optional<BlankWish_e> blankFromWord(std::string_view word) {
     return enumeratorOf<BlankWish_e>(blankWords, word);
 }
-std::optional<RangeOver_e> rangeOverFromWord(std::string_view word) {
-    return enumeratorOf<RangeOver_e>(overWords, word);
+
+std::string textOfRangeOver(const View_s& view) {
+    if (view.rangeOver == RangeOver_e::Zone)
+        return std::string(zoneWord) + std::to_string(view.rangeZone);
+    return std::string(overWords[static_cast<std::size_t>(view.rangeOver)]);
+}
+
+bool takesRangeOver(View_s& view, std::string_view text) {
+    auto over = enumeratorOf<RangeOver_e>(overWords, text);
+    if (!over && text.starts_with(zoneWord)) {
+        const auto number = numberOf<std::size_t>(text.substr(zoneWord.size()));
+        if (!number || *number < 1)
+            return false;
+        view.rangeZone = *number;
+        over = RangeOver_e::Zone;
+    }
+    if (!over)
+        return false;
+    view.range.reset();
+    view.rangeOver = *over;
+    return true;
 }
 
 } // namespace plot3d::scene

@@ -37,9 +37,13 @@ Vector3 colourFromText(std::string_view text);
 
 std::string_view wordOf(PlotKind_e plot);   // "auto", "3d", "2d", "xy"
 std::string_view wordOf(BlankWish_e blank); // "hide", "show", "color"
-std::string_view wordOf(RangeOver_e over);  // "shown", "time", "all-times"
 std::optional<PlotKind_e> plotFromWord(std::string_view word);
 std::optional<BlankWish_e> blankFromWord(std::string_view word);
-std::optional<RangeOver_e> rangeOverFromWord(std::string_view word);
+
+/// "shown", "time", "all-times" or "zone=3": what the view's range is taken from where it is not
+/// given.
+std::string textOfRangeOver(const View_s& view);
+/// Sets that, in place of a range that was given. Nothing happens to a text that is none of these.
+bool takesRangeOver(View_s& view, std::string_view text);
 
 } // namespace plot3d::scene

@@ -66,10 +66,13 @@ const Arrows hostArrows = {
     {"view", {}}, // these three of the scene, used by the windows
     {"content", {}},
     {"stage", {}},
-    {"findings", {}}, // of the program: what a file is, in words
+    {"findings", {}},  // of the program: what a file is, in words
+    {"selection", {}}, // these three of the program: its statistics, that there be one count
+    {"blocks", {}},
+    {"stats", {}},
     {"desktop",
      {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
-      "stage", "findings"}},
+      "stage", "findings", "selection", "blocks", "stats"}},
 };
 
 /// The rooms of the library, and all that stand below it.

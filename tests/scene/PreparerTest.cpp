@@ -70,6 +70,32 @@ TEST_F(PreparerTest, TakesTheRangeFromWhatIsAskedFor) {
     EXPECT_EQ(prepared(data, view)->range.most, 2);
 }
 
+TEST_F(PreparerTest, TakesTheRangeFromOneZoneThatNeedNotBeShown) {
+    const DataSet data = opened({"cylinder"});
+    const std::vector<double> values = data.values(1, data.variable("RHO"));
+    View_s view;
+    view.zones = {1};
+    view.rangeOver = RangeOver_e::Zone;
+    view.rangeZone = 2;
+    const Content content = prepared(data, view);
+    EXPECT_EQ(content->range.least, *std::min_element(values.begin(), values.end()));
+    EXPECT_EQ(content->range.most, *std::max_element(values.begin(), values.end()));
+    view.rangeZone = 3;
+    EXPECT_THROW(prepared(data, view), plot3d::Error);
+}
+
+TEST_F(PreparerTest, RefusesTheRangeOfAZoneWhoseValuesDoNotCount) {
+    const DataSet data = numbered({2, 1, 1}, {{0, 0, 0}, {1, 0, 0}});
+    View_s view = viewOf("outer");
+    view.rangeOver = RangeOver_e::Zone;
+    try {
+        prepared(data, view);
+        FAIL() << "a range of no values";
+    } catch (const plot3d::Error& error) {
+        EXPECT_EQ(error.message(), "zone 1 has no values of F1V1 that a range could be taken from");
+    }
+}
+
 TEST_F(PreparerTest, ColoursByDerivedQuantitiesAsTheLibraryGivesThem) {
     const DataSet data = opened({"cylinder"});
     View_s view;

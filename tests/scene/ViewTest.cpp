@@ -40,6 +40,18 @@ TEST(View, IsTheSameWhenItIsReadBack) {
     EXPECT_EQ(viewFromJson(toJson(view)), view);
 }
 
+TEST(View, NamesTheZoneOfItsRange) {
+    View_s view;
+    view.range = Range_s{1, 2};
+    ASSERT_TRUE(takesRangeOver(view, "zone=12"));
+    EXPECT_EQ(view.rangeOver, RangeOver_e::Zone);
+    EXPECT_EQ(view.rangeZone, 12U);
+    EXPECT_FALSE(view.range);
+    EXPECT_EQ(viewFromJson(toJson(view)), view);
+    for (const char* text : {"zone", "zone=", "zone=0", "zone=-1", "zone=1.5", "zones=1", "1:2"})
+        EXPECT_FALSE(takesRangeOver(view, text)) << text;
+}
+
 TEST(View, SaysNothingOfWhatIsByDefault) {
     EXPECT_EQ(toJson(View_s()), "{\n  \"schema\": \"plot3d.view/1\"\n}\n");
     EXPECT_EQ(viewFromJson(toJson(View_s())), View_s());

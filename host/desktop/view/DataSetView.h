@@ -40,6 +40,12 @@ public:
                              const std::string& whyNot) = 0;
     virtual void colourBy(const std::string& variable) = 0;
     virtual void showZones(ZoneChoice zones) = 0;
+    /// The zone, by index from 0, whose values the range of the colours can be taken from.
+    virtual void offerZone(std::size_t zone) = 0;
+    /// Index from 0 of the time step in the picture; 0 without one.
+    virtual std::size_t step() const = 0;
+    /// What the picture is coloured by; empty for nothing.
+    virtual std::string colour() const = 0;
     virtual bool hasPicture() const = 0;
     /// As PNG, as it is seen. False (not told): there is none, or it can't be written.
     [[nodiscard]] virtual bool savePicture(const QString& file) = 0;

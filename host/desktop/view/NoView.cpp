@@ -20,6 +20,9 @@ public:
     void showDataSet(std::shared_ptr<const plot3d::DataSet>, const std::string&) override {}
     void colourBy(const std::string&) override {}
     void showZones(ZoneChoice) override {}
+    void offerZone(std::size_t) override {}
+    std::size_t step() const override { return 0; }
+    std::string colour() const override { return {}; }
     bool hasPicture() const override { return false; }
     bool savePicture(const QString&) override { return false; }
     std::string viewText() const override { return {}; }

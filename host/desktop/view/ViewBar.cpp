@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include "desktop/Labels.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -34,15 +35,8 @@ ViewBar::ViewBar(Events_s events, QWidget* parent)
       planeText_(new QLabel(this)), directions_(new QWidget(this)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto addNamed = [this, layout](const QString& name, QWidget* widget) {
-        auto* label = new QLabel(name, this);
-        label->setBuddy(widget);
-        widget->setAccessibleName(QString(name).remove(QLatin1Char('&')));
-        layout->addWidget(label);
-        layout->addWidget(widget);
-    };
-    addNamed(QStringLiteral("C&olour"), colour_);
-    addNamed(QStringLiteral("&Surfaces"), surfaces_);
+    addNamed(*layout, QStringLiteral("C&olour"), *colour_);
+    addNamed(*layout, QStringLiteral("&Surfaces"), *surfaces_);
     layout->addWidget(plane_, 1);
     layout->addWidget(planeText_);
     layout->addStretch();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QImage>
 #include <QShortcut>
 #include <QSurfaceFormat>
@@ -27,6 +26,8 @@ using plot3d::scene::View_s;
 namespace {
 
 constexpr int millisecondsBetweenLooks = 50;
+constexpr int footWithValues = 0; // pages
+constexpr int footWithProgress = 1;
 
 plot3d::Extent largestOf(const DataSet& data) {
     plot3d::Extent largest;
@@ -86,7 +87,7 @@ ViewPanel::ViewPanel(Events_s events, QWidget* parent)
 
 // ---- The parts ----------------------------------------------------------------------------------
 
-void ViewPanel::addParts() {
+ViewBar* ViewPanel::makeBar() {
     ViewBar::Events_s events;
     events.coloured = [this](const std::string& variable) { colourBy(variable); };
     events.cut = [this](const plot3d::scene::SurfaceWish_s& surfaces) {
@@ -95,7 +96,27 @@ void ViewPanel::addParts() {
         want(std::move(view));
     };
     events.lookedFrom = [this](const std::string& direction) { scene_->lookFrom(direction); };
-    bar_ = new ViewBar(std::move(events), this);
+    return new ViewBar(std::move(events), this);
+}
+
+RangeBar* ViewPanel::makeRangeBar() {
+    RangeBar::Events_s events;
+    events.chosen = [this](const RangeBar::Choice_s& choice) {
+        View_s view = wanted_;
+        view.range = choice.kept;
+        if (!choice.kept) { // else what it was taken from comes back with another variable
+            view.rangeOver = choice.over;
+            view.rangeZone = choice.zone;
+        }
+        want(std::move(view));
+    };
+    events.refused = [this](const QString& reason) { values_->setText(reason); };
+    return new RangeBar(std::move(events), this);
+}
+
+void ViewPanel::addParts() {
+    bar_ = makeBar();
+    range_ = makeRangeBar();
     scene_ = new SceneWidget([this](const std::optional<Picked_s>& picked) { showPicked(picked); },
                              this);
     message_ = new QLabel(this);
@@ -110,6 +131,7 @@ void ViewPanel::addParts() {
     constexpr int margin = 6;
     layout->setContentsMargins(margin, margin, margin, 0);
     layout->addWidget(bar_);
+    layout->addWidget(range_);
     layout->addWidget(pages_, 1);
     layout->addWidget(times_);
     layout->addWidget(makeFoot());
@@ -124,27 +146,11 @@ QWidget* ViewPanel::makeFoot() {
     values_->setAlignment(Qt::AlignTop);
     foot_ = new QStackedWidget(this);
     foot_->addWidget(values_);
-    foot_->addWidget(makeProgressRow());
+    progressRow_ = new WorkRow(prepare_, "cancelView", this);
+    foot_->addWidget(progressRow_);
     constexpr int linesOfValues = 3;
     foot_->setFixedHeight(linesOfValues * foot_->fontMetrics().lineSpacing());
     return foot_;
-}
-
-QWidget* ViewPanel::makeProgressRow() {
-    progressRow_ = new QWidget(this);
-    progressText_ = new QLabel(progressRow_);
-    progressText_->setTextFormat(Qt::PlainText);
-    progress_ = new QProgressBar(progressRow_);
-    progress_->setRange(0, 100);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), progressRow_);
-    cancel->setObjectName(QStringLiteral("cancelView"));
-    connect(cancel, &QPushButton::clicked, this, [this] { prepare_.cancel(); });
-    auto* layout = new QHBoxLayout(progressRow_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(progressText_);
-    layout->addWidget(progress_, 1);
-    layout->addWidget(cancel);
-    return progressRow_;
 }
 
 void ViewPanel::addKeys() {
@@ -194,8 +200,13 @@ void ViewPanel::showDataSet(std::shared_ptr<const DataSet> data, const std::stri
     isNew_ = true;
     hasNoZone_ = isOpening_ = false;
     wanted_ = taken_ = {};
+    fixedRanges_.clear();
     values_->clear();
     bar_->setEnabled(data_ != nullptr);
+    range_->setEnabled(data_ != nullptr);
+    range_->setHasTimes(data_ && data_->timeSteps().size() > 1);
+    range_->offerZone(1);
+    range_->showChoice({}, {});
     std::vector<double> times;
     if (data_) {
         bar_->setChoices(colourNames(), largestOf(*data_));
@@ -211,7 +222,14 @@ void ViewPanel::colourBy(const std::string& variable) {
     View_s view = wanted_;
     view.colour = variable;
     view.range.reset();
+    const auto fixed = fixedRanges_.find(shown(variable).trimmed().toStdString());
+    if (fixed != fixedRanges_.end())
+        view.range = fixed->second;
     want(std::move(view));
+}
+
+std::string ViewPanel::colour() const {
+    return hasPicture() ? content()->colourName : std::string();
 }
 
 void ViewPanel::showZones(ZoneChoice zones) {
@@ -285,6 +303,10 @@ void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s
     const bool isOpened = std::exchange(isOpening_, false);
     if (std::exchange(isNew_, false) || isOpened)
         scene_->resetCamera();
+    if (taken_.range)
+        fixedRanges_[this->content()->colourName] = *taken_.range;
+    else
+        fixedRanges_.erase(this->content()->colourName);
     turnTo(scene_);
     if (isOpened)
         told_.opened(view.zones);
@@ -314,6 +336,10 @@ void ViewPanel::showChoices() {
         return;
     bar_->showChoice(content()->colourName, wanted_.surfaces.front());
     bar_->showDirections(content()->view.plot == plot3d::scene::PlotKind_e::Space);
+    if (wanted_.range)
+        range_->showChoice({.kept = wanted_.range}, content()->range);
+    else
+        range_->showChoice({wanted_.rangeOver, wanted_.rangeZone, {}}, content()->range);
     times_->showStep(static_cast<int>(content()->timeStep));
 }
 
@@ -332,15 +358,12 @@ void ViewPanel::turnTo(QWidget* page) {
 void ViewPanel::showState() {
     const bool isRunning = prepare_.isRunning();
     times_->setBusy(isRunning);
-    foot_->setCurrentWidget(isRunning ? progressRow_ : values_);
+    foot_->setCurrentIndex(isRunning ? footWithProgress : footWithValues);
     if (!isRunning) {
         stateTimer_.stop();
         return;
     }
-    const LatestWork::State_s state = prepare_.state();
-    progressText_->setText(shown(state.text));
-    constexpr double percent = 100;
-    progress_->setValue(static_cast<int>(state.fraction * percent));
+    progressRow_->showState();
 }
 
 // ---- What is clicked at -------------------------------------------------------------------------

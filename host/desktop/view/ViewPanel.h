@@ -2,20 +2,21 @@
 // clicked at, and how far preparing has come. All reading goes on beside the windows' thread.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
 
 #include "content/Preparer.h"
 #include "desktop/LatestWork.h"
+#include "desktop/WorkRow.h"
 #include "desktop/view/DataSetView.h"
+#include "desktop/view/RangeBar.h"
 #include "desktop/view/SceneWidget.h"
 #include "desktop/view/TimeBar.h"
 #include "desktop/view/ViewBar.h"
@@ -30,6 +31,9 @@ public:
                      const std::string& whyNot) override;
     void colourBy(const std::string& variable) override;
     void showZones(ZoneChoice zones) override;
+    void offerZone(std::size_t zone) override { range_->offerZone(zone + 1); }
+    std::size_t step() const override { return hasPicture() ? content()->timeStep : 0; }
+    std::string colour() const override;
     bool hasPicture() const override { return pages_->currentWidget() == scene_; }
     bool savePicture(const QString& file) override;
     std::string viewText() const override;
@@ -46,9 +50,10 @@ public:
 
 private:
     void addParts();
+    ViewBar* makeBar();
+    RangeBar* makeRangeBar();
     void addKeys();
     QWidget* makeFoot();
-    QWidget* makeProgressRow();
     void want(plot3d::scene::View_s view);
     void take(std::shared_ptr<const plot3d::scene::SceneContent_s> content,
               const plot3d::scene::View_s& view);
@@ -64,20 +69,21 @@ private:
 
     Events_s told_;
     ViewBar* bar_ = nullptr;
+    RangeBar* range_ = nullptr;
     QStackedWidget* pages_ = nullptr; // the picture, or why there is none
     SceneWidget* scene_ = nullptr;
     QLabel* message_ = nullptr;
     TimeBar* times_ = nullptr;
     QLabel* values_ = nullptr;       // of the point that was clicked at
     QStackedWidget* foot_ = nullptr; // the values, or while something is prepared how far it is
-    QWidget* progressRow_ = nullptr;
-    QLabel* progressText_ = nullptr;
-    QProgressBar* progress_ = nullptr;
+    WorkRow* progressRow_ = nullptr;
     QTimer stateTimer_;
     std::shared_ptr<const plot3d::DataSet> data_;
     std::shared_ptr<plot3d::scene::Preparer> preparer_; // used by the thread of prepare_ alone
     plot3d::scene::View_s wanted_;                      // as asked for last
     plot3d::scene::View_s taken_;                       // as asked for, of what is in the picture
+    // Ranges that were fixed, by what was coloured: they come back with it.
+    std::map<std::string, plot3d::scene::Range_s> fixedRanges_;
     bool isNew_ = true;      // nothing of the data set was in the picture yet
     bool hasNoZone_ = false; // the user wants to see none
     bool isOpening_ = false; // what is wanted was opened, with its camera

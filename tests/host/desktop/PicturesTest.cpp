@@ -20,6 +20,7 @@
 #ifdef QUORHOST_HAS_VIEW
 #include "desktop/view/ViewPanel.h"
 #endif
+#include "desktop/values/HistogramWindow.h"
 #include "host/desktop/DesktopFixture.h"
 #include "host/desktop/Patience.h"
 
@@ -163,6 +164,17 @@ TEST_F(PicturesTest, ShowTheProgress) {
     });
     choose(QStringLiteral("PLOT3D Loader..."));
     EXPECT_NE(window().tree().dataSet(), nullptr);
+}
+
+TEST_F(PicturesTest, ShowAHistogram) {
+    openWindow(linkedIn);
+    importSeries();
+    window().tree().setCurrentItem(treeItem(QStringLiteral("E")));
+    choose(QStringLiteral("Show Histogram"));
+    auto& histogram =
+        *dynamic_cast<HistogramWindow*>(window().findChild<QDialog*>(QStringLiteral("histogram")));
+    EXPECT_TRUE(comesTrue([&histogram] { return histogram.table().rowCount() > 0; }));
+    take(QStringLiteral("histogram"), histogram);
 }
 
 #ifdef QUORHOST_HAS_VIEW

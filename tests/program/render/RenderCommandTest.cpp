@@ -48,6 +48,12 @@ TEST_F(RenderCommandTest, SavesWhatTheOptionsSay) {
     EXPECT_EQ(view.blank, scene::BlankWish_e::Show);
 }
 
+TEST_F(RenderCommandTest, TakesTheRangeFromOneZone) {
+    const scene::View_s view = scene::viewFromJson(savedView({"--range", "zone=2"}));
+    EXPECT_EQ(view.rangeOver, scene::RangeOver_e::Zone);
+    EXPECT_EQ(view.rangeZone, 2U);
+}
+
 TEST_F(RenderCommandTest, BeginsWithAViewThatWasSaved) {
     const std::string first = savedView({"--color", "E", "--contours", "3"});
     const std::string file = folder_.write("first.view", first);
