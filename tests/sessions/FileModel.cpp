@@ -1,5 +1,6 @@
 #include "sessions/FileModel.h"
 
+#include <array>
 #include <fstream>
 #include <stdexcept>
 
@@ -90,12 +91,12 @@ void write(const FileModel_s& file, const std::string& folder) {
 }
 
 std::string describe(const FileModel_s& file) {
-    static constexpr const char* kinds[] = {"grid", "Classic", "Swift", "Overflow", "function"};
+    static constexpr std::array kinds = {"grid", "Classic", "Swift", "Overflow", "function"};
     static constexpr const char* layouts[] = {"1-D", "2-D", "3-D whole", "3-D planes",
                                               "unstructured"};
     static constexpr const char* encodings[] = {"text", "binary", "Fortran"};
     std::string text = fmt::format(
-        "{:14} {:8} {:12} {:7} {}-bit{}", file.name, kinds[static_cast<int>(file.kind)],
+        "{:14} {:8} {:12} {:7} {}-bit{}", file.name, kinds.at(static_cast<std::size_t>(file.kind)),
         layouts[static_cast<int>(file.layout)], encodings[static_cast<int>(file.form.encoding)],
         file.isDouble() ? 64 : 32, file.form.byteOrder == ByteOrder_e::Big ? " big-endian" : "");
     if (file.form.encoding == Encoding_e::Fortran)

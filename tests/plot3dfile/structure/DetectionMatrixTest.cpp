@@ -1,5 +1,7 @@
 // Every combination of properties that a file can have, written and detected. What is found equals
 // what was written, save for files that have the same bytes whichever way they were meant.
+#include <array>
+
 #include "RecordingReceiver.h"
 #include "StructureTest.h"
 #include "support/SmallFiles.h"
@@ -77,10 +79,10 @@ std::vector<Combination_s> allCombinations() {
 std::string nameOf(const Combination_s& combination) {
     const FileDescription_s& description = combination.description;
     const FileForm_s& form = combination.form;
-    const char* const kinds[] = {"grid", "classic", "swift", "overflow", "function"};
+    constexpr std::array kinds = {"grid", "classic", "swift", "overflow", "function"};
     const char* const layouts[] = {"1-D", "2-D", "whole", "planes", "unstructured"};
     const char* const encodings[] = {"text", "binary", "fortran"};
-    return std::string(kinds[static_cast<int>(description.kind)]) + " " +
+    return std::string(kinds.at(static_cast<std::size_t>(description.kind))) + " " +
            layouts[static_cast<int>(description.layout)] +
            (description.isMultiGrid ? " multi" : " single") +
            (description.hasIBlank ? " iblank " : " ") + encodings[static_cast<int>(form.encoding)] +

@@ -171,11 +171,11 @@ std::string ReadBackTest::folder(const std::string& name) const {
 }
 
 OpenedCase_s ReadBackTest::writeCase(const std::string& folder, const MatrixCase_s& matrixCase) {
-    const auto& [layout, form] = matrixCase;
+    const LayoutCase_s& layout = matrixCase.layout;
     const bool isGrid = layout.kind == FileKind_e::Grid;
     const auto write = [&](const char* name, const LayoutCase_s& ofFile) -> const WrittenFile_s& {
-        written_.push_back(
-            std::make_unique<WrittenFile_s>(writeFile(folder + "/" + name, ofFile, form)));
+        written_.push_back(std::make_unique<WrittenFile_s>(
+            writeFile(folder + "/" + name, ofFile, matrixCase.form)));
         return *written_.back();
     };
     const WrittenFile_s& grid = write("case.x", isGrid ? layout : companionGrid(layout));
