@@ -12,9 +12,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "plot3dwriter/Plot3DWriter.h"
 #include "program/app/Program.h" // the host has an app/Program.h, too
 #include "support/RatioReport.h"
+#include "support/SampleFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace {
@@ -27,27 +27,14 @@ constexpr std::int32_t points = 203; // in each direction: eight variables of 33
 class Flow {
 public:
     Flow() {
-        write(plot3dwriter::FileKind_e::Grid, file("flow.x"));
-        write(plot3dwriter::FileKind_e::ClassicSolution, file("flow.q"));
+        using namespace plot3dwriter;
+        benchmarks::writeFlow(file("flow.x"), FileKind_e::Grid, points, ByteOrder_e::Little, false);
+        benchmarks::writeFlow(file("flow.q"), FileKind_e::ClassicSolution, points,
+                              ByteOrder_e::Little, false);
     }
     std::string file(const std::string& name) const { return directory_.file(name); }
 
 private:
-    static void write(plot3dwriter::FileKind_e kind, const std::string& path) {
-        plot3dwriter::FileDescription_s contents;
-        contents.kind = kind;
-        contents.grids = {{points, points, points}};
-        if (kind != plot3dwriter::FileKind_e::Grid)
-            contents.scalars = {{0.5, 0, 1e6, 0}};
-        contents.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
-                            std::int32_t k) {
-            return variable + 0.01 * ((i * 31 + j * 17 + k * 7) % 1009);
-        };
-        const auto outcome = plot3dwriter::writePlot3DFile(path, contents, {});
-        if (!outcome.problem.empty())
-            throw std::runtime_error(outcome.problem);
-    }
-
     testsupport::TemporaryDirectory directory_;
 };
 

@@ -4,15 +4,14 @@
 #include <cstdint>
 #include <cstdio>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
-#include "plot3dwriter/Plot3DWriter.h"
 #include "program/app/Program.h" // the host has an app/Program.h, too
 #include "support/RatioReport.h"
+#include "support/SampleFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace {
@@ -27,8 +26,10 @@ class Flow {
 public:
     Flow() {
         for (const ByteOrder_e order : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-            write(plot3dwriter::FileKind_e::Grid, order, gridFile(order));
-            write(plot3dwriter::FileKind_e::ClassicSolution, order, solutionFile(order));
+            using plot3dwriter::FileKind_e;
+            benchmarks::writeFlow(gridFile(order), FileKind_e::Grid, points, order, true);
+            benchmarks::writeFlow(solutionFile(order), FileKind_e::ClassicSolution, points, order,
+                                  true);
         }
     }
 
@@ -41,24 +42,6 @@ public:
     }
 
 private:
-    static void write(plot3dwriter::FileKind_e kind, ByteOrder_e order, const std::string& file) {
-        plot3dwriter::FileDescription_s contents;
-        contents.kind = kind;
-        contents.isMultiGrid = true;
-        contents.grids = {{points, points, points}};
-        if (kind != plot3dwriter::FileKind_e::Grid)
-            contents.scalars = {{0.5, 0, 1e6, 0}};
-        contents.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
-                            std::int32_t k) {
-            return variable + 0.01 * ((i * 31 + j * 17 + k * 7) % 1009);
-        };
-        plot3dwriter::FileForm_s form;
-        form.byteOrder = order;
-        const auto outcome = plot3dwriter::writePlot3DFile(file, contents, form);
-        if (!outcome.problem.empty())
-            throw std::runtime_error(outcome.problem);
-    }
-
     testsupport::TemporaryDirectory directory_;
 };
 

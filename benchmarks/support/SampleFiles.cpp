@@ -59,6 +59,23 @@ std::vector<std::string> writeManyGrids(const std::filesystem::path& directory, 
     return writeSeries(directory, {2, 2, 2}, grids, steps);
 }
 
+void writeFlow(const std::string& path, FileKind_e kind, std::int32_t points, ByteOrder_e order,
+               bool isMultiGrid) {
+    FileDescription_s description;
+    description.kind = kind;
+    description.isMultiGrid = isMultiGrid;
+    description.grids = {{points, points, points}};
+    if (kind == FileKind_e::ClassicSolution)
+        description.scalars = {{0.5, 0, 1e6, 0}};
+    description.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
+                           std::int32_t k) {
+        return variable + 0.01 * ((i * 31 + j * 17 + k * 7) % 1009);
+    };
+    FileForm_s form;
+    form.byteOrder = order;
+    write(path, description, form);
+}
+
 void writeTextGrid(const std::string& path, std::int32_t points) {
     FileForm_s form;
     form.encoding = Encoding_e::Text;

@@ -10,6 +10,7 @@
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
 #include "options/OptionTable.h"
+#include "selection/GasOptions.h"
 
 namespace plot3d::program {
 
@@ -80,11 +81,7 @@ void ConvertCommand::declareDerived(OptionTable& table) {
     options.text("--derive", derived_, "LIST",
                  "Quantities to add, by word or number, separated by commas: pressure, mach, "
                  "velocity, 110 and others");
-    options.number("--gamma", gas_.gamma, "NUMBER",
-                   "Ratio of specific heats, where the file has none for each point (default: "
-                   "1.4)");
-    options.number("--gas-constant", gas_.gasConstant, "NUMBER",
-                   "In the units of the solution (default: 1)");
+    declareGas(options, gas_);
 }
 
 Format_e ConvertCommand::format() const {

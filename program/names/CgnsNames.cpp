@@ -24,4 +24,18 @@ std::string cgnsStandardName(const std::string& variable) {
     return found == names.end() ? variable : found->second;
 }
 
+int cgnsCellDimension(ZoneKind kind, int gridDimensions) {
+    switch (kind) {
+    case ZoneKind::Triangles:
+    case ZoneKind::Quadrilaterals:
+        return 2;
+    case ZoneKind::Tetrahedra:
+    case ZoneKind::Bricks:
+        return 3;
+    case ZoneKind::Ordered:
+        break;
+    }
+    return gridDimensions;
+}
+
 } // namespace plot3d::program

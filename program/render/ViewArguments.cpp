@@ -7,6 +7,7 @@
 
 #include "colours/ColourMap.h"
 #include "options/OptionTable.h"
+#include "selection/GasOptions.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "selection/TimeRange.h"
@@ -16,19 +17,6 @@
 namespace plot3d::program {
 
 namespace {
-
-/// A check: empty, or why the text can't be taken.
-template <typename Parse>
-auto takenBy(Parse parse) {
-    return [parse](const std::string& text) -> std::string {
-        try {
-            parse(text);
-            return {};
-        } catch (const Error& error) {
-            return error.message();
-        }
-    };
-}
 
 std::string mapWords() {
     std::string words;
@@ -65,7 +53,7 @@ void ViewArguments::declareContents(const OptionTable& options) {
             "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
             "points shown (default), all points at that time (time), at all times (all-times), or "
             "of one zone (zone=NUMBER)")
-        .check(takenBy(checkRange));
+        .check(parsedBy(checkRange));
     options.text("--time", time_, "TIME", "Solution time: the step at it, or first or last");
     options.flag("--all-times", allTimes_,
                  "A picture of each time step, numbered, with one range for all; and an animation "
@@ -75,11 +63,11 @@ void ViewArguments::declareContents(const OptionTable& options) {
         .list("--surface", surfaces_, "SURFACE",
               "outer; planes of indices such as k=1,-1 (-1 is the last); boundary=NAME of the "
               "boundary file, with * and ?; may come several times")
-        .check(takenBy(scene::surfacesFromText));
+        .check(parsedBy(scene::surfacesFromText));
     options
         .text("--line", line_, "INDICES",
               "Plot values along one grid line of each zone: j=3,k=1 for that along I")
-        .check(takenBy(scene::lineFromText));
+        .check(parsedBy(scene::lineFromText));
     options.text("--blank", blank_, "hide|show|color",
                  "What becomes of cells with a corner whose I-blank is 0 (default: hide); color "
                  "shows I-blank itself");
@@ -89,34 +77,30 @@ void ViewArguments::declareContents(const OptionTable& options) {
     options.text("--vectors", vectors_, "NAME",
                  "Arrows of velocity, another derived vector, or of variables A,B,C");
     options.flag("--outlines", outlines_, "Edges of the zones");
-    options.number("--gamma", gas_.gamma, "NUMBER",
-                   "Ratio of specific heats for derived quantities, where the file has none for "
-                   "each point (default: 1.4)");
-    options.number("--gas-constant", gas_.gasConstant, "NUMBER",
-                   "In the units of the solution (default: 1)");
+    declareGas(options, gas_, " for derived quantities");
 }
 
 void ViewArguments::declareLook(const OptionTable& options) {
     options
         .text("--map", map_, "NAME",
               "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
-        .check(takenBy(scene::ColourMap::named));
+        .check(parsedBy(scene::ColourMap::named));
     options
         .text("--view", direction_, "DIRECTION",
               "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
               "data towards the eye")
-        .check(takenBy(scene::cameraFromText));
+        .check(parsedBy(scene::cameraFromText));
     options.number("--zoom", zoom_, "FACTOR", "2 is twice as large as all that fits (default: 1)")
         .check(aboveNothing);
     options.text("--plot", plot_, "auto|3d|2d|xy",
                  "Surfaces in space, in their plane, or lines over a coordinate (default: auto, "
                  "by the dimensions of the grid)");
     options.text("--size", size_, "WIDTHxHEIGHT", "Pixels (default: 1280x960)")
-        .check(takenBy(scene::sizeFromText));
+        .check(parsedBy(scene::sizeFromText));
     options
         .text("--background", background_, "COLOR",
               "white (default), lightgrey, grey, dark, black or #RRGGBB")
-        .check(takenBy(scene::colourFromText));
+        .check(parsedBy(scene::colourFromText));
     options.text("--title", title_, "TEXT", "Instead of the names of the files");
     options.flag("--no-axes", hidesAxes_, "Leave out the axes");
     options.flag("--no-legend", hidesLegend_, "Leave out the legend");

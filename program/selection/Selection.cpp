@@ -12,6 +12,7 @@
 #include "options/OptionTable.h"
 #include "selection/IndexRange.h"
 #include "selection/NamePattern.h"
+#include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "selection/TimeRange.h"
 
@@ -32,19 +33,6 @@ IndexRange_s rangeOf(const std::string& text) {
 
 IndexRange_s single(std::int64_t index) {
     return {index, index, 1};
-}
-
-/// A check: empty, or why the text can't be parsed.
-template <typename Parse>
-auto parsedBy(Parse parse) {
-    return [parse](const std::string& text) -> std::string {
-        try {
-            parse(text);
-            return {};
-        } catch (const Error& error) {
-            return error.message();
-        }
-    };
 }
 
 std::optional<Box> boxOf(const Extent& size, const IndexRange_s& i, const IndexRange_s& j,

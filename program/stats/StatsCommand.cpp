@@ -40,15 +40,6 @@ std::vector<double> percentilesIn(const std::string& text) {
     return percentiles;
 }
 
-std::string percentilesProblem(const std::string& text) {
-    try {
-        percentilesIn(text);
-        return {};
-    } catch (const Error& error) {
-        return error.message();
-    }
-}
-
 /// Tells what could not be read, each field once. Gives the exit code.
 int tellUnread(const StatsReport_s& report, const Surroundings_s& surroundings) {
     int code = ExitCode_Done;
@@ -87,7 +78,7 @@ void StatsCommand::declare(OptionTable& table) {
     files_.declare(table);
     selection_.declare(table);
     table.text("--percentiles", percentiles_, "LIST", "Percentiles, such as 5,50,95")
-        .check(percentilesProblem);
+        .check(parsedBy(percentilesIn));
     table.number("--histogram", bins_, "[BINS]", "Counts in bins of equal width, 20 unless you say")
         .check(binCount);
     table.flag("--hash", hash_,

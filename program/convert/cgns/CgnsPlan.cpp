@@ -8,23 +8,11 @@
 
 #include <plot3d/Error.h>
 
+#include "names/CgnsNames.h"
+
 namespace plot3d::program {
 
 namespace {
-
-int cellDimensionOf(const Contents& contents, const ContentZone_s& zone) {
-    switch (zone.kind) {
-    case ZoneKind::Triangles:
-    case ZoneKind::Quadrilaterals:
-        return 2;
-    case ZoneKind::Tetrahedra:
-    case ZoneKind::Bricks:
-        return 3;
-    case ZoneKind::Ordered:
-        break;
-    }
-    return contents.dimensions();
-}
 
 class Planner {
 public:
@@ -42,7 +30,7 @@ private:
     const ContentZone_s& facts(std::size_t zone) const { return contents_.zones()[zone]; }
 
     CgnsZonePlan_s begunWith(std::size_t zone) const {
-        return {{zone}, cellDimensionOf(contents_, facts(zone)), false};
+        return {{zone}, cgnsCellDimension(facts(zone).kind, contents_.dimensions()), false};
     }
 
     void takeEachAlone() {

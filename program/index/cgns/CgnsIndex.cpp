@@ -40,7 +40,7 @@ public:
         CgnsZone writer(data_, names_, originals_, tree_, shared_, watch_.stop);
         for (std::size_t place = 0; place < data_.series().size(); ++place) {
             const Series_s& series = data_.series()[place];
-            const int dimension = data_.cellDimension(series.zones.front());
+            const int dimension = cellDimensionOf(series.zones.front());
             writer.write(base(dimension), zoneNames_[place], series, dimension);
             tellProgress(place + 1);
         }
@@ -116,12 +116,16 @@ private:
         tree_.addText(node, "ZonePointers", "DataArray_t", sizes, text);
     }
 
+    int cellDimensionOf(std::size_t zone) const {
+        return cgnsCellDimension(data_.zone(zone).kind, data_.data().dimensions());
+    }
+
     /// Each series is one zone here, in the order of the zones.
     std::vector<std::string> namesSeen(const TimeStep& step, int cellDimension) const {
         std::vector<std::string> names;
         const std::vector<std::size_t>& zones = data_.zones();
         for (const std::size_t zone : step.zones)
-            if (data_.cellDimension(zone) == cellDimension) {
+            if (cellDimensionOf(zone) == cellDimension) {
                 const auto place = std::lower_bound(zones.begin(), zones.end(), zone);
                 names.push_back(zoneNames_[static_cast<std::size_t>(place - zones.begin())]);
             }

@@ -128,20 +128,6 @@ bool IndexedData::has(std::size_t zone, std::size_t variable) const {
     return data_.kind(zone, variable) != FieldKind::Empty;
 }
 
-int IndexedData::cellDimension(std::size_t index) const {
-    switch (zone(index).kind) {
-    case ZoneKind::Triangles:
-    case ZoneKind::Quadrilaterals:
-        return 2;
-    case ZoneKind::Tetrahedra:
-    case ZoneKind::Bricks:
-        return 3;
-    case ZoneKind::Ordered:
-        break;
-    }
-    return data_.dimensions();
-}
-
 void IndexedData::refuseFieldsOutsideFiles() const {
     for (const std::size_t index : zones_)
         for (const IndexedVariable_s& variable : variables_)

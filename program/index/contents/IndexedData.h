@@ -50,8 +50,6 @@ public:
     bool isBroken() const { return isBroken_; }
 
     bool has(std::size_t zone, std::size_t variable) const;
-    /// 1, 2 or 3: of an unstructured zone the dimension of its elements.
-    int cellDimension(std::size_t zone) const;
 
     /// Throws Error (Unsupported) if some field is not in a file as it is: text, planes, subsets
     /// and boundaries, by their names.
