@@ -44,8 +44,12 @@ public:
     TimeBar& timeBar() { return *times_; }
     LatestWork& preparing() { return prepare_; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void addParts();
+    plot3d::scene::View_s themed(plot3d::scene::View_s view) const;
     void addKeys();
     QWidget* makeFoot();
     QWidget* makeProgressRow();
@@ -69,8 +73,7 @@ private:
     QLabel* message_ = nullptr;
     TimeBar* times_ = nullptr;
     QLabel* values_ = nullptr;       // of the point that was clicked at
-    QStackedWidget* foot_ = nullptr; // the values, or while something is prepared how far it is
-    QWidget* progressRow_ = nullptr;
+    QWidget* progressRow_ = nullptr; // while something is prepared
     QLabel* progressText_ = nullptr;
     QProgressBar* progress_ = nullptr;
     QTimer stateTimer_;
