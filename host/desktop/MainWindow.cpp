@@ -8,12 +8,12 @@
 #include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
 #include "describe/Words.h"
+#include "desktop/DrawnIcon.h"
 #include "desktop/FieldTableWindow.h"
 #include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
@@ -152,8 +152,8 @@ void MainWindow::addHelpMenu() {
 
 void MainWindow::addTools() {
     import_->setIconText(QStringLiteral("Import..."));
-    import_->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
-    fetchAll_->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
+    import_->setIcon(drawnIcon(Icon_e::Open));
+    fetchAll_->setIcon(drawnIcon(Icon_e::Reload));
     QToolBar* tools = addToolBar(QStringLiteral("Tools"));
     tools->setMovable(false);
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

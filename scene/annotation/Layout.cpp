@@ -43,12 +43,12 @@ Area_s dataArea(const SceneContent_s& content, const Layout_s& layout) {
 
 } // namespace
 
-Layout_s layoutOf(const SceneContent_s& content, int width, int height) {
+Layout_s layoutOf(const SceneContent_s& content, int width, int height, double pixelRatio) {
     Layout_s layout;
     layout.width = width;
     layout.height = height;
     // Letters stay readable in small pictures, at the cost of room.
-    layout.unit = std::max(0.6, std::min(height / 960.0, width / 1280.0));
+    layout.unit = std::max(0.6 * pixelRatio, std::min(height / 960.0, width / 1280.0));
     layout.inks = inksOn(content.view.background);
     layout.data = dataArea(content, layout);
     const double barHeight = std::min(0.55 * height, layout.data.height());

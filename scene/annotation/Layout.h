@@ -23,7 +23,8 @@ struct Layout_s {
     Inks_s inks;
 };
 
-/// For a picture of that size in pixels.
-Layout_s layoutOf(const SceneContent_s& content, int width, int height);
+/// For a picture of that size in pixels. `pixelRatio`: how many of them, along an edge, a display
+/// with small ones has for one of usual size.
+Layout_s layoutOf(const SceneContent_s& content, int width, int height, double pixelRatio = 1);
 
 } // namespace plot3d::scene

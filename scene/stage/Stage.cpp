@@ -149,6 +149,9 @@ public:
             showZones();
     }
 
+    Detail_e detail() const { return detail_; }
+    void setPixelRatio(double ratio) { pixelRatio_ = ratio; }
+
     void layOut() {
         if (!content_)
             return;
@@ -178,7 +181,7 @@ private:
 
     Layout_s layout() const {
         const auto [width, height] = size();
-        return layoutOf(*content_, width, height);
+        return layoutOf(*content_, width, height, pixelRatio_);
     }
 
     Projection_s projection() const {
@@ -242,6 +245,7 @@ private:
     vtkRenderer& renderer_;
     std::shared_ptr<const SceneContent_s> content_;
     Detail_e detail_ = Detail_e::Full;
+    double pixelRatio_ = 1;
     std::vector<std::unique_ptr<ZoneActors>> zones_;
     vtkNew<vtkLookupTable> colours_;
     vtkNew<Overlay> overlay_;
@@ -317,6 +321,12 @@ Camera_s Stage::camera() const {
 }
 void Stage::setDetail(Detail_e detail) {
     parts_->setDetail(detail);
+}
+Detail_e Stage::detail() const {
+    return parts_->detail();
+}
+void Stage::setPixelRatio(double ratio) {
+    parts_->setPixelRatio(ratio);
 }
 void Stage::layOut() {
     parts_->layOut();

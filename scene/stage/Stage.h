@@ -46,6 +46,9 @@ public:
     Camera_s camera() const;
 
     void setDetail(Detail_e detail);
+    Detail_e detail() const;
+    /// Of the display: texts and lines are that many times as large in pixels. 1 at first.
+    void setPixelRatio(double ratio);
 
     /// To be called before each drawing where window or camera may have changed: sets legend, axes
     /// and title to them. (Stage does so itself at the renderer's StartEvent.)

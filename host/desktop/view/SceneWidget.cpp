@@ -21,6 +21,8 @@ using plot3d::scene::PlotKind_e;
 
 namespace {
 
+constexpr int millisecondsOfRest = 250;
+
 /// Turns what stands in space, moves what is plane, and tells a click from a drag.
 class Hands : public vtkInteractorStyleTrackballCamera {
 public:
@@ -30,7 +32,9 @@ public:
 
     std::function<bool()> isFlat = [] { return false; };
     std::function<void(int x, int y)> clicked = [](int, int) {};
-    std::function<void(Detail_e detail)> detail = [](Detail_e) {};
+    std::function<void()> begins = [] {};
+    std::function<void()> ends = [] {};
+    std::function<double()> pixelRatio = [] { return 1.0; };
 
     void OnLeftButtonDown() override {
         const int* at = Interactor->GetEventPosition();
@@ -46,17 +50,17 @@ public:
     void OnLeftButtonUp() override {
         vtkInteractorStyleTrackballCamera::OnLeftButtonUp();
         const int* at = Interactor->GetEventPosition();
-        constexpr int trembling = 3; // pixels
+        const double trembling = 3 * pixelRatio(); // pixels
         if (std::abs(at[0] - pressedAt_[0]) <= trembling &&
             std::abs(at[1] - pressedAt_[1]) <= trembling)
             clicked(at[0], at[1]);
     }
     void StartState(int state) override {
-        detail(Detail_e::Coarse);
+        begins();
         vtkInteractorStyleTrackballCamera::StartState(state);
     }
     void StopState() override {
-        detail(Detail_e::Full);
+        ends();
         vtkInteractorStyleTrackballCamera::StopState();
     }
     void OnChar() override {} // the keys are the window's
@@ -75,17 +79,68 @@ SceneWidget::SceneWidget(Picked picked, QWidget* parent)
     : QVTKOpenGLNativeWidget(parent), picked_(std::move(picked)) {
     setObjectName(QStringLiteral("scene"));
     setFocusPolicy(Qt::StrongFocus);
+    setEnableHiDPI(false); // the stage knows the screen; letters would be scaled twice
     setRenderWindow(vtkNew<vtkGenericOpenGLRenderWindow>().Get());
     renderWindow()->AddRenderer(renderer_);
     stage_ = std::make_unique<plot3d::scene::Stage>(*renderer_);
     const vtkNew<Hands> hands;
     hands->isFlat = [this] { return isFlat(); };
     hands->clicked = [this](int x, int y) { pickAt(x, y); };
-    hands->detail = [this](Detail_e detail) { stage_->setDetail(detail); };
+    hands->begins = [this] { beginMoving(); };
+    hands->ends = [this] { endMoving(); };
+    hands->pixelRatio = [this] { return devicePixelRatioF(); };
+    watchFrames();
+    rest_.setSingleShot(true);
+    rest_.setInterval(millisecondsOfRest);
+    connect(&rest_, &QTimer::timeout, this, [this] {
+        endMoving();
+        draw();
+    });
     interactor()->SetInteractorStyle(hands);
 }
 
-SceneWidget::~SceneWidget() = default;
+SceneWidget::~SceneWidget() {
+    renderer_->RemoveObserver(frameWatch_);
+}
+
+// ---- Less detail rather than waiting ------------------------------------------------------------
+
+void SceneWidget::watchFrames() {
+    frameWatch_->SetClientData(this);
+    frameWatch_->SetCallback([](vtkObject*, unsigned long event, void* widget, void*) {
+        auto* self = static_cast<SceneWidget*>(widget);
+        event == vtkCommand::StartEvent ? self->frameBegins() : self->frameEnds();
+    });
+    constexpr float aheadOfTheStage = 1;
+    renderer_->AddObserver(vtkCommand::StartEvent, frameWatch_, aheadOfTheStage);
+    renderer_->AddObserver(vtkCommand::EndEvent, frameWatch_);
+}
+
+void SceneWidget::frameBegins() {
+    frameBegan_ = Clock::now();
+    stage_->setPixelRatio(devicePixelRatioF()); // of the screen that the window is on now
+}
+
+void SceneWidget::frameEnds() {
+    if (stage_->detail() != Detail_e::Full)
+        return;
+    renderWindow()->WaitForCompletion(); // drivers go on beside this thread
+    lastFullFrame_ = Clock::now() - frameBegan_;
+}
+
+void SceneWidget::beginMoving() {
+    if (lastFullFrame_ > slowFrame_)
+        stage_->setDetail(Detail_e::Coarse);
+}
+
+void SceneWidget::endMoving() {
+    stage_->setDetail(Detail_e::Full);
+}
+
+void SceneWidget::moveByKey() {
+    beginMoving();
+    rest_.start();
+}
 
 bool SceneWidget::isFlat() const {
     return stage_->content() != nullptr && stage_->content()->view.plot != PlotKind_e::Space;
@@ -111,6 +166,7 @@ void SceneWidget::lookFrom(const std::string& direction) {
 }
 
 void SceneWidget::zoom(double factor) {
+    moveByKey();
     renderer_->GetActiveCamera()->Zoom(factor);
     draw();
 }
@@ -119,6 +175,7 @@ void SceneWidget::turn(double aside, double upwards) {
     vtkCamera& camera = *renderer_->GetActiveCamera();
     if (isFlat())
         return;
+    moveByKey();
     camera.Azimuth(aside);
     camera.Elevation(upwards);
     camera.OrthogonalizeViewUp();

@@ -1,13 +1,16 @@
 // The scene in a window: turned, moved and zoomed by mouse and keys, and pointed at.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include <QTimer>
 #include <QVTKOpenGLNativeWidget.h>
 
+#include <vtkCallbackCommand.h>
 #include <vtkNew.h>
 #include <vtkRenderer.h>
 
@@ -34,8 +37,19 @@ public:
     void turn(double aside, double upwards);
     void mark(const std::optional<plot3d::scene::Vector3>& position);
     const plot3d::scene::Stage& stage() const { return *stage_; }
+    /// A picture that took longer to draw is drawn with less detail while it is turned, moved or
+    /// zoomed.
+    void setSlowFrame(std::chrono::duration<double> time) { slowFrame_ = time; }
 
 private:
+    using Clock = std::chrono::steady_clock;
+    void watchFrames();
+    void frameBegins();
+    void frameEnds();
+    void beginMoving();
+    void endMoving();
+    /// By a key: what other keys follow at once is one movement.
+    void moveByKey();
     bool isFlat() const;
     void pickAt(int x, int y);
     void draw();
@@ -43,6 +57,11 @@ private:
     Picked picked_;
     vtkNew<vtkRenderer> renderer_;
     std::unique_ptr<plot3d::scene::Stage> stage_;
+    vtkNew<vtkCallbackCommand> frameWatch_;
+    Clock::time_point frameBegan_;
+    std::chrono::duration<double> lastFullFrame_ = {};
+    std::chrono::duration<double> slowFrame_ = std::chrono::milliseconds(60);
+    QTimer rest_; // since the last key
 };
 
 } // namespace quorvia::host

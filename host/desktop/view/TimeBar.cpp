@@ -4,8 +4,8 @@
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <QStyle>
 
+#include "desktop/DrawnIcon.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -22,7 +22,7 @@ TimeBar::TimeBar(Chosen chosen, QWidget* parent)
     play_->setAccessibleName(QStringLiteral("Play"));
     play_->setToolTip(QStringLiteral("Play the time steps (Space in the picture)"));
     play_->setCheckable(true);
-    play_->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
+    play_->setIcon(drawnIcon(Icon_e::Play));
     slider_->setObjectName(QStringLiteral("time"));
     slider_->setAccessibleName(QStringLiteral("Time step"));
     slider_->setPageStep(1);
@@ -37,7 +37,7 @@ TimeBar::TimeBar(Chosen chosen, QWidget* parent)
             goBy(1);
     });
     connect(play_, &QToolButton::toggled, this, [this](bool isOn) {
-        play_->setIcon(style()->standardIcon(isOn ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+        play_->setIcon(drawnIcon(isOn ? Icon_e::Pause : Icon_e::Play));
         isOn ? timer_.start() : timer_.stop();
     });
 }

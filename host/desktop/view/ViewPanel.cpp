@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QEvent>
 #include <QImage>
 #include <QShortcut>
 #include <QSurfaceFormat>
@@ -26,8 +27,6 @@ using plot3d::scene::View_s;
 namespace {
 
 constexpr int millisecondsBetweenLooks = 50;
-constexpr int footWithValues = 0; // pages
-constexpr int footWithProgress = 1;
 
 plot3d::Extent largestOf(const DataSet& data) {
     plot3d::Extent largest;
@@ -144,13 +143,18 @@ QWidget* ViewPanel::makeFoot() {
     values_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     values_->setWordWrap(true);
     values_->setAlignment(Qt::AlignTop);
-    foot_ = new QStackedWidget(this);
-    foot_->addWidget(values_);
-    progressRow_ = new WorkRow(prepare_, "cancelView", this);
-    foot_->addWidget(progressRow_);
     constexpr int linesOfValues = 3;
-    foot_->setFixedHeight(linesOfValues * foot_->fontMetrics().lineSpacing());
-    return foot_;
+    values_->setMinimumHeight(linesOfValues * values_->fontMetrics().lineSpacing());
+    auto* foot = new QWidget(this);
+    auto* layout = new QVBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    progressRow_ = new WorkRow(prepare_, "cancelView", this);
+    QSizePolicy policy = progressRow_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the picture keeps its size
+    progressRow_->setSizePolicy(policy);
+    layout->addWidget(progressRow_);
+    layout->addWidget(values_); // also while something is prepared: a click is answered at once
+    return foot;
 }
 
 void ViewPanel::addKeys() {
@@ -287,13 +291,28 @@ void ViewPanel::want(View_s view) {
         return;
     }
     // The work keeps what it reads, also when the data set is replaced meanwhile.
-    prepare_.start([this, data = data_, preparer = preparer_,
-                    wish = wanted_](const plot3d::Watch& watch) -> LatestWork::Finish {
-        auto content = preparer->prepare(wish, watch);
+    prepare_.start([this, data = data_, preparer = preparer_, wish = wanted_,
+                    shown = themed(wanted_)](const plot3d::Watch& watch) -> LatestWork::Finish {
+        auto content = preparer->prepare(shown, watch);
         return [this, content = std::move(content), wish] { take(content, wish); };
     });
     times_->setBusy(true);
     stateTimer_.start(millisecondsBetweenLooks);
+}
+
+/// White, as by default, stands for the paper of the desktop's theme.
+View_s ViewPanel::themed(View_s view) const {
+    const QColor paper = palette().color(QPalette::Base);
+    constexpr int middle = 128; // of 255
+    if (view.background == View_s().background && qGray(paper.rgb()) < middle)
+        view.background = paper.name().toStdString();
+    return view;
+}
+
+void ViewPanel::changeEvent(QEvent* event) {
+    DataSetView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && data_)
+        want(wanted_);
 }
 
 void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s& view) {
@@ -358,7 +377,7 @@ void ViewPanel::turnTo(QWidget* page) {
 void ViewPanel::showState() {
     const bool isRunning = prepare_.isRunning();
     times_->setBusy(isRunning);
-    foot_->setCurrentIndex(isRunning ? footWithProgress : footWithValues);
+    progressRow_->setVisible(isRunning);
     if (!isRunning) {
         stateTimer_.stop();
         return;

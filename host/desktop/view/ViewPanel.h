@@ -48,10 +48,14 @@ public:
     TimeBar& timeBar() { return *times_; }
     LatestWork& preparing() { return prepare_; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void addParts();
     ViewBar* makeBar();
     RangeBar* makeRangeBar();
+    plot3d::scene::View_s themed(plot3d::scene::View_s view) const;
     void addKeys();
     QWidget* makeFoot();
     void want(plot3d::scene::View_s view);
@@ -75,8 +79,7 @@ private:
     QLabel* message_ = nullptr;
     TimeBar* times_ = nullptr;
     QLabel* values_ = nullptr;       // of the point that was clicked at
-    QStackedWidget* foot_ = nullptr; // the values, or while something is prepared how far it is
-    WorkRow* progressRow_ = nullptr;
+    WorkRow* progressRow_ = nullptr; // while something is prepared
     QTimer stateTimer_;
     std::shared_ptr<const plot3d::DataSet> data_;
     std::shared_ptr<plot3d::scene::Preparer> preparer_; // used by the thread of prepare_ alone

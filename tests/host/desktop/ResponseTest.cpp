@@ -1,0 +1,103 @@
+// Nobody waits: clicks are answered while something is prepared, and a slow picture is turned with
+// less detail.
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+
+#include "host/desktop/ViewFixture.h"
+
+namespace quorvia::host {
+namespace {
+
+using plot3d::scene::Detail_e;
+
+class ResponseTest : public ViewTest {
+protected:
+    static constexpr std::chrono::hours forEver = std::chrono::hours(1);
+    static constexpr std::chrono::seconds always = std::chrono::seconds(0);
+
+    Detail_e detail() { return view().scene().stage().detail(); }
+    QPoint middle() { return view().scene().rect().center(); }
+    void startDrag() {
+        QTest::mousePress(&view().scene(), Qt::LeftButton, {}, middle());
+        QTest::mouseMove(&view().scene(), middle() + QPoint(60, 20));
+    }
+    void endDrag() {
+        QTest::mouseRelease(&view().scene(), Qt::LeftButton, {}, middle() + QPoint(60, 20));
+    }
+    /// A frame was drawn with all detail, and its time is known.
+    void drawOnce() { view().scene().grabFramebuffer(); }
+};
+
+TEST_F(ResponseTest, ClickIsAnsweredWhileSomethingIsPrepared) {
+    importVortex();
+    holdPreparing();
+    view().colourBy("E");
+    ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
+    QTest::mouseClick(&view().scene(), Qt::LeftButton, {}, middle());
+    EXPECT_TRUE(comesTrue([this] { return pointText().find("RHO-V = ") != std::string::npos; }));
+    const auto* values = view().findChild<QLabel*>(QStringLiteral("pointValues"));
+    EXPECT_TRUE(values->isVisible());
+    EXPECT_TRUE(view().preparing().isRunning());
+    letGo();
+    settle();
+    EXPECT_EQ(content().colourName, "E");
+}
+
+TEST_F(ResponseTest, TreeMenusAndCameraGoOnWhileSomethingIsPrepared) {
+    importVortex();
+    holdPreparing();
+    view().colourBy("E");
+    ASSERT_TRUE(comesTrue([this] { return isHeld(); }));
+    treeItem(QStringLiteral("Time 0.25"))->setExpanded(true);
+    EXPECT_NE(treeItem(QStringLiteral("2  vortex_t0.25.q:1")), nullptr);
+    const double before = view().scene().stage().camera().zoom;
+    view().scene().zoom(2);
+    EXPECT_NEAR(view().scene().stage().camera().zoom, 2 * before, 1e-6);
+    EXPECT_TRUE(view().preparing().isRunning());
+    letGo();
+    settle();
+}
+
+TEST_F(ResponseTest, PictureStaysWhereItIsWhileProgressIsShown) {
+    importVortex();
+    const QRect before = view().scene().geometry();
+    holdPreparing();
+    view().colourBy("E");
+    const auto* cancel = view().findChild<QPushButton*>(QStringLiteral("cancelView"));
+    ASSERT_TRUE(comesTrue([cancel] { return cancel->isVisible(); }));
+    EXPECT_EQ(view().scene().geometry(), before);
+    letGo();
+    settle();
+}
+
+TEST_F(ResponseTest, SlowPictureIsDraggedWithLessDetail) {
+    importCylinder();
+    view().scene().setSlowFrame(always);
+    drawOnce();
+    startDrag();
+    EXPECT_EQ(detail(), Detail_e::Coarse);
+    endDrag();
+    EXPECT_EQ(detail(), Detail_e::Full);
+}
+
+TEST_F(ResponseTest, QuickPictureIsDraggedAsItIs) {
+    importCylinder();
+    view().scene().setSlowFrame(forEver);
+    drawOnce();
+    startDrag();
+    EXPECT_EQ(detail(), Detail_e::Full);
+    endDrag();
+}
+
+TEST_F(ResponseTest, SlowPictureIsTurnedByKeysWithLessDetailUntilTheyRest) {
+    importCylinder();
+    view().scene().setSlowFrame(always);
+    drawOnce();
+    view().scene().turn(10, 0);
+    EXPECT_EQ(detail(), Detail_e::Coarse);
+    EXPECT_TRUE(comesTrue([this] { return detail() == Detail_e::Full; }));
+}
+
+} // namespace
+} // namespace quorvia::host
