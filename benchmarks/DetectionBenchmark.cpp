@@ -2,6 +2,7 @@
 // operating system, for 1 MB and for 8 GB (sparse), in both byte orders.
 #include <cstdint>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -71,11 +72,12 @@ void measure(const std::string& what, const std::string& path, bool isSolution) 
     Plot3DFileBuilder builder(options);
     const Plot3DFilePtr file = buildPlot3DFile(builder, path, isSolution);
     setFileSystem(nullptr);
-    fmt::print("\n{}: {}\n", what, file != nullptr ? "detected" : "NOT detected");
-    benchmarks::printCount("  bytes read", static_cast<double>(counting.counts.bytes), 65536,
-                           "bytes");
-    benchmarks::printCount("  system calls", static_cast<double>(counting.counts.systemCalls), 200,
-                           "calls");
+    if (file == nullptr)
+        throw std::runtime_error("not detected: " + what);
+    benchmarks::printCount("Detection of a " + what + ": bytes read",
+                           static_cast<double>(counting.counts.bytes), 65536, "bytes");
+    benchmarks::printCount("Detection of a " + what + ": system calls",
+                           static_cast<double>(counting.counts.systemCalls), 200, "calls");
 }
 
 } // namespace

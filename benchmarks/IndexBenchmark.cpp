@@ -58,7 +58,7 @@ void measureManyZones() {
     const Index index(directory, benchmarks::writeManyGrids(directory.path(), zones, steps));
     benchmarks::printSeconds("plot3d index of 255 zones with 1,000 times", index.secondsToWrite(),
                              180);
-    benchmarks::printCount("Size of that index for each zone and time",
+    benchmarks::printCount("Size of that index of 255 zones for each zone and time",
                            index.byteCount() / zones / steps, 6 * 1024, "bytes");
 }
 

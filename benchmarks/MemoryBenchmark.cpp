@@ -53,7 +53,7 @@ void measureTextReading() {
     fmt::print("Peak of the add-on's memory while it reads text\n"
                "  1 MB file {} bytes, 100 MB file {} bytes\n",
                small, big);
-    benchmarks::printCount("Growth of that peak from 1 MB to 100 MB",
+    benchmarks::printCount("Growth of the add-on's peak memory from 1 MB of text to 100 MB",
                            static_cast<double>(big - small), 4096, "bytes");
 }
 

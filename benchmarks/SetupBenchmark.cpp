@@ -6,7 +6,6 @@
 #include <array>
 #include <chrono>
 #include <cstdint>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,6 +20,7 @@
 
 #include "session/AddOnLibrary.h"
 #include "session/ReferenceHost.h"
+#include "support/BytesRead.h"
 #include "support/RatioReport.h"
 #include "support/SampleFiles.h"
 #include "support/TemporaryDirectory.h"
@@ -93,25 +93,16 @@ void setUp(benchmark::State& state, std::int32_t steps) {
     });
 }
 
-/// Bytes that this process has read so far, from files of any kind.
-std::int64_t bytesReadSoFar() {
-    std::ifstream counters("/proc/self/io");
-    std::string name;
-    std::int64_t count = 0;
-    counters >> name >> count;
-    return count;
-}
-
 /// Bytes read while one grid file and `steps` solution files of that size are set up.
 std::int64_t bytesReadBySetUp(std::int32_t steps, const benchmarks::Points_s& points) {
     const testsupport::TemporaryDirectory directory;
     const std::vector<std::string> files =
         benchmarks::writeTimeSeries(directory.path(), steps, points);
     host::ReferenceHost& quorhost = host::ReferenceHost::instance();
-    const std::int64_t before = bytesReadSoFar();
+    const std::int64_t before = testsupport::bytesReadSoFar();
     if (!quorhost.importSelection(files, false, false).ok)
         throw std::runtime_error("the load failed");
-    const std::int64_t bytes = bytesReadSoFar() - before;
+    const std::int64_t bytes = testsupport::bytesReadSoFar() - before;
     quorhost.reset();
     return bytes;
 }
@@ -130,8 +121,9 @@ int printBytesRead() {
     fmt::print("\nBytes read to set up one grid file and {} solution files\n"
                "  {} with fields of 5 KB, {} with fields of 146 KB\n",
                steps, small, big);
-    benchmarks::printCount("Growth of that number", static_cast<double>(big - small), 1024,
-                           "bytes");
+    benchmarks::printCount(
+        "Growth of the bytes read to set 51 files up, from fields of 5 KB to 146 KB",
+        static_cast<double>(big - small), 1024, "bytes");
     return 0;
 }
 

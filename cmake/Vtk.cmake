@@ -3,4 +3,4 @@
 find_package(VTK 9.1 QUIET
     COMPONENTS CommonCore CommonDataModel FiltersCore FiltersSources RenderingCore RenderingOpenGL2
         RenderingFreeType RenderingContext2D RenderingContextOpenGL2 IOImage
-    OPTIONAL_COMPONENTS FiltersGeometry IOParallel)
+    OPTIONAL_COMPONENTS FiltersGeometry IOParallel IOXML)

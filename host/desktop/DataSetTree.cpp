@@ -13,32 +13,11 @@
 #include "describe/VariableSummary.h"
 #include "describe/Words.h"
 #include "desktop/Texts.h"
+#include "desktop/TreeItems.h"
 #include "desktop/ZoneGroups.h"
 
 namespace quorvia::host {
 namespace {
-
-enum Column_e {
-    nameColumn,
-    detailsColumn,
-    typeColumn,
-    minimumColumn,
-    maximumColumn,
-    treeColumnCount
-};
-
-/// What an item stands for, from 1; 0 or nothing for neither. An item with a zone and a variable is
-/// a field.
-constexpr int zoneRole = Qt::UserRole;
-constexpr int variableRole = Qt::UserRole + 1;
-
-std::int32_t zoneOf(const QTreeWidgetItem* item) {
-    return item->data(nameColumn, zoneRole).toInt();
-}
-
-std::int32_t variableOf(const QTreeWidgetItem* item) {
-    return item->data(nameColumn, variableRole).toInt();
-}
 
 QString stateOf(const FieldOutcome_s& field) {
     if (field.error)
@@ -54,26 +33,6 @@ QString timeText(double time) {
 
 bool isOfBoundaries(const StrandGroup_s& group, const DataSetOutcome_s& dataSet) {
     return dataSet.zones[group.times.front().zones.front()].parentZone != 0;
-}
-
-/// Numbers of the zones at or below the item.
-void collectZones(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) {
-    if (zoneOf(item) != 0) {
-        zones.push_back(static_cast<std::size_t>(zoneOf(item)));
-        return;
-    }
-    for (int index = 0; index < item->childCount(); ++index)
-        collectZones(item->child(index), zones);
-}
-
-/// The same of ticked items.
-void collectTicked(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) {
-    const bool canBeTicked = item->data(nameColumn, Qt::CheckStateRole).isValid();
-    if (canBeTicked && item->checkState(nameColumn) == Qt::Checked)
-        collectZones(item, zones);
-    else if (!canBeTicked)
-        for (int index = 0; index < item->childCount(); ++index)
-            collectTicked(item->child(index), zones);
 }
 
 QString spanOf(const StrandGroup_s& group) {
@@ -327,22 +286,6 @@ std::optional<std::size_t> DataSetTree::currentVariable() const {
     if (currentItem() == nullptr || variableOf(currentItem()) == 0)
         return std::nullopt;
     return static_cast<std::size_t>(variableOf(currentItem()));
-}
-
-// Texts change as well; only a choice that is another is told.
-void DataSetTree::tellTicks() {
-    std::vector<std::size_t> zones;
-    collectTicked(invisibleRootItem(), zones);
-    std::sort(zones.begin(), zones.end());
-    std::vector<std::size_t> usual;
-    for (const ZoneOutcome_s& zone : dataSet_->zones)
-        if (zone.parentZone == 0)
-            usual.push_back(static_cast<std::size_t>(zone.number));
-    auto now = zones == usual ? std::nullopt : std::optional(std::move(zones));
-    if (now == ticked_)
-        return;
-    ticked_ = now;
-    zonesTicked_(std::move(now));
 }
 
 void DataSetTree::markZone(std::size_t number) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,15 @@ public:
     std::optional<std::size_t> currentVariable() const;
     /// Selects the row of the zone, and brings it into sight.
     void markZone(std::size_t number);
+    /// Ticks these zones, ascending, and no others; none stands for all but boundary zones. A
+    /// strand of which a part is shown is half ticked. Tells nobody.
+    void tickZones(std::vector<std::size_t> zones);
+    /// As told last: numbers of the zones, ascending; nothing for all but boundary zones.
+    const std::optional<std::vector<std::size_t>>& ticked() const { return ticked_; }
+    /// Names of what can be ticked and is not, and the names of boundary zones that are.
+    std::set<QString> unusualTicks() const;
+    /// Puts these in again after other data have come, where they have such names. Tells of it.
+    void putUnusualTicks(const std::set<QString>& names);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -69,6 +79,9 @@ private:
     void addFieldsOfZone(std::int32_t zone, std::vector<FieldAddress_s>& fields) const;
 
     void tellTicks();
+    std::vector<std::size_t> usualZones() const;
+    bool isUsuallyTicked(const QTreeWidgetItem* item) const;
+    void collectTicked(const QTreeWidgetItem* item, std::vector<std::size_t>& zones) const;
 
     FetchWanted fetchWanted_;
     VariableChosen variableChosen_ = [](const std::string&) {};

@@ -142,8 +142,52 @@ void DesktopSession::import(const FileSelection_s& selection,
             const LoadResult_s result =
                 host().importSelection(selection.files, selection.advanced, selection.append);
             *outcome = describeImport(host(), result);
+            if (result.ok)
+                outcome->done = {importBy(host().log().instructions)};
         },
-        [outcome, done = std::move(done)] { done(std::move(*outcome)); });
+        [this, outcome, done = std::move(done)] {
+            remember(*outcome);
+            done(std::move(*outcome));
+        });
+}
+
+void DesktopSession::repeat(const ImportList& imports, Files_e files,
+                            std::function<void(ImportOutcome_s)> done) {
+    const auto outcome = std::make_shared<ImportOutcome_s>();
+    start(
+        files == Files_e::AsBefore ? QStringLiteral("Importing") : QStringLiteral("Reloading"),
+        [imports, files, outcome] {
+            LoadResult_s result;
+            ImportList repeated;
+            std::size_t newFiles = 0;
+            for (Import_s import : imports) {
+                if (files == Files_e::WithNewOnes)
+                    newFiles += addNewFiles(import);
+                result = host().importInstructions(import.instructions);
+                if (!result.ok)
+                    break;
+                repeated.push_back(std::move(import));
+            }
+            *outcome = describeImport(host(), result);
+            outcome->done = std::move(repeated);
+            outcome->repeated = imports;
+            outcome->newFiles = newFiles;
+        },
+        [this, outcome, done = std::move(done)] {
+            remember(*outcome);
+            done(std::move(*outcome));
+        });
+}
+
+// What has failed may have taken the data set away, or left it alone.
+void DesktopSession::remember(const ImportOutcome_s& outcome) {
+    if (!outcome.dataSet)
+        imports_.clear();
+    for (const Import_s& import : outcome.done) {
+        if (!appends(import.instructions))
+            imports_.clear();
+        imports_.push_back(import);
+    }
 }
 
 void DesktopSession::fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s> fields,
@@ -170,7 +214,11 @@ void DesktopSession::fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s>
 
 void DesktopSession::discardDataSet(std::function<void()> done) {
     start(
-        QStringLiteral("Discarding"), [] { host().frame().reset(); }, std::move(done));
+        QStringLiteral("Discarding"), [] { host().frame().reset(); },
+        [this, done = std::move(done)] {
+            imports_.clear();
+            done();
+        });
 }
 
 void DesktopSession::leave() {

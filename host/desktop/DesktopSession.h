@@ -17,6 +17,7 @@
 #include "desktop/GuestWindows.h"
 #include "desktop/GuestWork.h"
 #include "desktop/ImportFileDialog.h"
+#include "desktop/ImportList.h"
 #include "desktop/ProgressWindow.h"
 #include "session/ActionQueue.h"
 #include "session/AddOnLibrary.h"
@@ -34,6 +35,10 @@ struct ImportOutcome_s {
     /// it.
     std::shared_ptr<const plot3d::DataSet> values;
     std::string whyNoValues; // empty if there is no data set
+    /// What has succeeded: the imports that were done, in order.
+    ImportList done;
+    ImportList repeated;      // what was to be repeated; none of a new import
+    std::size_t newFiles = 0; // that were found for them
 };
 
 /// Everything is called, and calls back, on the windows' thread. One session at a time: there is
@@ -57,6 +62,12 @@ public:
     const std::optional<Loader_s>& loader() const { return loader_; }
 
     void import(const FileSelection_s& selection, std::function<void(ImportOutcome_s)> done);
+    enum class Files_e : unsigned char { AsBefore, WithNewOnes };
+    /// One import after the other, up to the first that fails.
+    void repeat(const ImportList& imports, Files_e files,
+                std::function<void(ImportOutcome_s)> done);
+    /// What the data set that is there was made of; empty for none.
+    const ImportList& imports() const { return imports_; }
     /// Adds the statistics of `fields` to `dataSet`, which is the one that is there.
     void fetch(DataSetOutcome_s dataSet, std::vector<FieldAddress_s> fields,
                std::function<void(DataSetOutcome_s, FetchEnd_e)> done);
@@ -77,6 +88,7 @@ private:
     std::optional<Loader_s> loaderOf(const std::string& path, std::string& error);
     void start(const QString& title, GuestWork::Work work, std::function<void()> done);
     void collectViolations();
+    void remember(const ImportOutcome_s& outcome);
 
     QWidget& mainWindow_;
     ActionQueue actions_;
@@ -87,6 +99,7 @@ private:
     std::unique_ptr<AddOnLibrary> library_;
     std::optional<Loader_s> loader_;
     std::vector<std::string> violations_;
+    ImportList imports_;
     GuestWork work_; // goes first: its thread uses all the others
 };
 

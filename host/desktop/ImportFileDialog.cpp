@@ -52,9 +52,25 @@ std::vector<std::string> runDialog(QFileDialog& dialog) {
         return files;
     for (const QString& file : dialog.selectedFiles())
         files.push_back(QDir::cleanPath(file).toStdString());
+    return files;
+}
+
+/// The same, and remembers the folder for files that are read.
+std::vector<std::string> runForData(QFileDialog& dialog) {
+    std::vector<std::string> files = runDialog(dialog);
     if (!files.empty())
         Preferences().setFolderOf(shown(files.front()));
     return files;
+}
+
+/// For a picture or a view; empty if the user cancels. These have a folder of their own.
+QString runForResult(QFileDialog& dialog) {
+    dialog.setDirectory(Preferences().resultFolder());
+    const std::vector<std::string> files = runDialog(dialog);
+    if (files.empty())
+        return {};
+    Preferences().setResultFolderOf(shown(files.front()));
+    return shown(files.front());
 }
 
 /// The row of options below the file name and the filter.
@@ -116,7 +132,7 @@ FileSelection_s selectFilesToImport(QWidget* parent, const Loader_s& loader, boo
     dialog.setNameFilters({filterText(shown(loader.name), loader.fileNameExtensions), allFiles});
     const Options_s options = addOptions(dialog, loader, hasDataSet);
     FileSelection_s selection;
-    selection.files = runDialog(dialog);
+    selection.files = runForData(dialog);
     selection.advanced = options.advanced->isChecked();
     selection.append = options.append->isEnabled() && options.append->isChecked();
     return selection;
@@ -129,8 +145,14 @@ QString chooseFileToSave(QWidget* parent, const QString& title, const QString& f
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(filter);
     dialog.setDefaultSuffix(filter.section(QStringLiteral("*."), 1).remove(QLatin1Char(')')));
-    const std::vector<std::string> files = runDialog(dialog);
-    return files.empty() ? QString() : shown(files.front());
+    return runForResult(dialog);
+}
+
+QString chooseFileToOpen(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog dialog(parent);
+    prepare(dialog, title, /*severalFiles=*/false);
+    dialog.setNameFilters({filter, allFiles});
+    return runForResult(dialog);
 }
 
 std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_s& request) {
@@ -147,7 +169,7 @@ std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_
              allFiles});
     if (!request.defaultName.empty())
         dialog.setDirectory(QFileInfo(shown(request.defaultName)).absolutePath());
-    return runDialog(dialog);
+    return runForData(dialog);
 }
 
 } // namespace quorvia::host

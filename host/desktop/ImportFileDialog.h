@@ -28,4 +28,7 @@ std::vector<std::string> chooseExistingFiles(QWidget* parent, const FileRequest_
 /// cancels. `filter` is "Kind (*.ending)"; the ending is added to a name without one.
 QString chooseFileToSave(QWidget* parent, const QString& title, const QString& filter);
 
+/// The same for a file that is there.
+QString chooseFileToOpen(QWidget* parent, const QString& title, const QString& filter);
+
 } // namespace quorvia::host

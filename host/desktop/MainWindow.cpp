@@ -14,11 +14,11 @@
 #include <QUrl>
 
 #include "describe/Words.h"
-#include "desktop/FieldTableWindow.h"
+#include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
-#include "desktop/values/HistogramWindow.h"
-#include "desktop/values/IBlankWindow.h"
+#include "desktop/ViewFiles.h"
+#include "desktop/ZoneGroups.h"
 
 namespace quorvia::host {
 namespace {
@@ -36,7 +36,7 @@ std::vector<std::string> localFiles(const QMimeData& data) {
 } // namespace
 
 MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> files)
-    : filesAtStart_(std::move(files)), session_(*this) {
+    : valuesActions_(*this), filesAtStart_(std::move(files)), session_(*this) {
     setObjectName(QStringLiteral("main"));
     setAcceptDrops(true);
     addMenus();
@@ -54,11 +54,14 @@ MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> fi
 void MainWindow::addPanes() {
     tree_ = new DataSetTree(
         [this](std::vector<FieldAddress_s> fields) { fetch(std::move(fields)); }, this);
-    view_ = DataSetView::make(
-        {[this](std::size_t zone) { tree_->markZone(zone + 1); }, [this] { showWhatIsPossible(); }},
-        this);
+    findings_ = new FileFindings(*tree_);
+    view_ = DataSetView::make({[this](std::size_t zone) { tree_->markZone(zone + 1); },
+                               [this] { showWhatIsPossible(); },
+                               [this](const auto& zones) { tree_->tickZones(zones); }},
+                              this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
+    valuesActions_.follow(*tree_, *view_);
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
         if (const auto zone = tree_->currentZone())
             view_->offerZone(*zone - 1);
@@ -98,11 +101,22 @@ void MainWindow::addFileMenu() {
     import_ = action(QStringLiteral("No Loader"), QKeySequence(QStringLiteral("Ctrl+I")),
                      &MainWindow::importByHand);
     import->addAction(import_);
+    recent_ = new RecentMenu(
+        preferences_, [this](const ImportList& imports) { importAgain(imports); }, this);
+    file->addMenu(recent_);
+    reload_ = action(QStringLiteral("Re&load for New Steps"),
+                     QKeySequence(QStringLiteral("Ctrl+R")), &MainWindow::reload);
+    file->addAction(reload_);
     discard_ = action(QStringLiteral("&Discard Data Set"), {}, &MainWindow::discardDataSet);
     file->addAction(discard_);
     savePicture_ = action(QStringLiteral("&Save Picture..."), QKeySequence(QKeySequence::Save),
                           &MainWindow::savePicture);
     file->addAction(savePicture_);
+    saveView_ = action(QStringLiteral("Save &View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+S")), &MainWindow::saveView);
+    openView_ = action(QStringLiteral("&Open View..."),
+                       QKeySequence(QStringLiteral("Ctrl+Shift+O")), &MainWindow::openView);
+    file->addActions({saveView_, openView_});
     file->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Quit"), this);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -116,15 +130,9 @@ void MainWindow::addValuesMenu() {
                             &MainWindow::fetchSelected);
     fetchAll_ = action(QStringLiteral("Fetch &All Values"),
                        QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
-    showTable_ = action(QStringLiteral("Show &Table of Field"), QKeySequence(Qt::Key_F6),
-                        &MainWindow::showTable);
-    showHistogram_ = action(QStringLiteral("Show &Histogram"), QKeySequence(Qt::Key_F7),
-                            &MainWindow::showHistogram);
-    showIBlank_ = action(QStringLiteral("Show Values of I-&Blank"), QKeySequence(Qt::Key_F8),
-                         &MainWindow::showIBlank);
     values->addActions({fetchSelected_, fetchAll_});
     values->addSeparator();
-    values->addActions({showTable_, showHistogram_, showIBlank_});
+    values->addActions(valuesActions_.all());
 }
 
 void MainWindow::addHelpMenu() {
@@ -157,19 +165,17 @@ void MainWindow::showWhatIsPossible() {
         action->setToolTip(isPossible ? QString() : QString::fromLatin1(whyNot));
     };
     set(import_, mayImport(), "No add-on has registered a loader, or work goes on.");
+    set(reload_, hasDataSet && mayImport() && !session_.imports().empty(),
+        "Nothing was imported that can be loaded anew, or work goes on.");
+    recent_->allow(mayImport());
     set(discard_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
         "Select variables, zones or fields of the data set first.");
-    const bool isOneField = tree_->dataSet() != nullptr && tree_->selectedFields().size() == 1;
-    set(showTable_, isOneField && values_ != nullptr,
-        isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
-    const char* const whyNoValues =
-        tree_->dataSet() == nullptr ? "There is no data set." : whyNoValues_.c_str();
-    const bool hasIBlank = values_ != nullptr && IBlankWindow::iBlankOf(*values_).has_value();
-    set(showHistogram_, values_ != nullptr, whyNoValues);
-    set(showIBlank_, hasIBlank, values_ != nullptr ? "The data set has no I-blank." : whyNoValues);
+    valuesActions_.showWhatIsPossible();
     set(savePicture_, view_->hasPicture(), "There is no picture.");
+    set(saveView_, view_->hasPicture(), "There is no picture.");
+    set(openView_, values_ != nullptr && !session_.isBusy(), "There is nothing to be looked at.");
 }
 
 void MainWindow::workBegins(const QString& what) {
@@ -214,9 +220,37 @@ void MainWindow::importByHand() {
 }
 
 void MainWindow::import(const FileSelection_s& selection) {
+    preferences_.setFolderOf(shown(selection.files.front()));
     session_.import(selection, [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
     workBegins(
         QStringLiteral("Importing %1").arg(shownCount(selection.files.size(), "file", "files")));
+}
+
+void MainWindow::importAgain(const ImportList& imports) {
+    const std::vector<ImportedFile_s> files = filesOf(imports);
+    preferences_.setFolderOf(shown(files.front().name));
+    session_.repeat(imports, DesktopSession::Files_e::AsBefore,
+                    [this](ImportOutcome_s outcome) { showImport(std::move(outcome)); });
+    workBegins(QStringLiteral("Importing %1").arg(shownCount(files.size(), "file", "files")));
+}
+
+void MainWindow::reload() {
+    session_.repeat(session_.imports(), DesktopSession::Files_e::WithNewOnes,
+                    [this](ImportOutcome_s outcome) { showReloaded(std::move(outcome)); });
+    workBegins(QStringLiteral("Reloading"));
+}
+
+/// What is seen, and how, stays where the new data have it.
+void MainWindow::showReloaded(ImportOutcome_s outcome) {
+    const KeptView keptView(*tree_, *view_);
+    const std::size_t stepsBefore = countSteps(*tree_->dataSet());
+    const std::size_t newFiles = outcome.newFiles;
+    const bool isReloaded = outcome.result.ok;
+    showImport(std::move(outcome));
+    if (!isReloaded)
+        return;
+    keptView.putBack();
+    statusBar()->showMessage(reloadedText(countSteps(*tree_->dataSet()), stepsBefore, newFiles));
 }
 
 void MainWindow::showImport(ImportOutcome_s outcome) {
@@ -224,23 +258,29 @@ void MainWindow::showImport(ImportOutcome_s outcome) {
                    : outcome.result.ok        ? QStringLiteral("Imported: %1")
                                               : QStringLiteral("Nothing was imported: %1");
     what = what.arg(shown(sizeText(outcome.dataSet)));
+    if (outcome.result.ok)
+        recent_->add(session_.imports(), outcome.repeated);
     // What an import has left alone keeps its ranges, and what was opened in the tree stays open.
     const bool isAsBefore = !outcome.result.ok && outcome.dataSet && tree_->shows(*outcome.dataSet);
     if (!outcome.dataSet)
         tree_->showNothing();
     else if (!isAsBefore)
-        tree_->showDataSet(std::move(*outcome.dataSet), outcome.plotType);
+        showTree(std::move(*outcome.dataSet), outcome.plotType);
     if (!isAsBefore)
         showValues(std::move(outcome.values), outcome.whyNoValues);
     if (workEnded(what) && !outcome.result.hostError.empty())
         showText(this, outcome.result.hostError, TextKind_e::Error);
 }
 
+void MainWindow::showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
+    tree_->showDataSet(std::move(dataSet), plotType);
+    findings_->show(tree_->topLevelItem(0), filesOf(session_.imports()));
+}
+
 void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,
                             const std::string& whyNot) {
-    ValuesWindow::closeAll(*this); // of what is gone
+    valuesActions_.showData(values, whyNot);
     values_ = std::move(values);
-    whyNoValues_ = whyNot;
     view_->showDataSet(values_, whyNot);
     showTitle();
 }
@@ -299,40 +339,20 @@ void MainWindow::showFetched(DataSetOutcome_s dataSet, FetchEnd_e end) {
                                            : QStringLiteral("Not all values could be fetched"));
 }
 
-void MainWindow::showTable() {
-    const FieldAddress_s field = tree_->selectedFields().front();
-    auto* table = new FieldTableWindow(values_, static_cast<std::size_t>(field.zone) - 1,
-                                       static_cast<std::size_t>(field.variable) - 1, this);
-    table->show();
-}
-
-/// The zone of the row that is current in the tree; without one the time in the picture.
-ValuesScope_s MainWindow::scopeOfSelection() const {
-    const std::optional<std::size_t> zone = tree_->currentZone();
-    return {zone ? ValuesScope_s::Over_e::Zone : ValuesScope_s::Over_e::Time, zone ? *zone - 1 : 0,
-            view_->step()};
-}
-
-/// Of the variable of the row that is current in the tree; without one of that in the picture.
-void MainWindow::showHistogram() {
-    std::optional<std::size_t> variable = tree_->currentVariable();
-    for (std::size_t place = 0; !variable && place < values_->variables().size(); ++place)
-        if (shown(values_->variables()[place].name).trimmed() == shown(view_->colour()))
-            variable = place + 1;
-    const std::size_t chosen = variable.value_or(1) - 1;
-    (new HistogramWindow(values_, chosen, scopeOfSelection(), this))->show();
-}
-
-void MainWindow::showIBlank() {
-    (new IBlankWindow(values_, scopeOfSelection(), this))->show();
-}
-
 void MainWindow::savePicture() {
     const QString file =
         chooseFileToSave(this, QStringLiteral("Save Picture"), QStringLiteral("Pictures (*.png)"));
     if (!file.isEmpty() && !view_->savePicture(file))
         showText(this, "The picture can't be written to " + file.toStdString() + ".",
                  TextKind_e::Error);
+}
+
+void MainWindow::saveView() {
+    saveViewByHand(this, *view_);
+}
+
+void MainWindow::openView() {
+    openViewByHand(this, *view_);
 }
 
 // ---- Help, and the rest of a window's life ------------------------------------------------------

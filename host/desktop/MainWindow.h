@@ -11,9 +11,11 @@
 
 #include "desktop/DataSetTree.h"
 #include "desktop/DesktopSession.h"
+#include "desktop/FileFindings.h"
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
-#include "desktop/values/ValuesScope.h"
+#include "desktop/RecentMenu.h"
+#include "desktop/ValuesActions.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -29,6 +31,7 @@ public:
     DesktopSession& session() { return session_; }
     DataSetTree& tree() { return *tree_; }
     DataSetView& view() { return *view_; }
+    FileFindings& findings() { return *findings_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -49,6 +52,10 @@ private:
     void importByHand();
     void import(const FileSelection_s& selection);
     void showImport(ImportOutcome_s outcome);
+    void showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType);
+    void importAgain(const ImportList& imports);
+    void reload();
+    void showReloaded(ImportOutcome_s outcome);
     void showValues(std::shared_ptr<const plot3d::DataSet> values, const std::string& whyNot);
     void importDropped(const std::vector<std::string>& files);
     void fetch(std::vector<FieldAddress_s> fields);
@@ -56,11 +63,9 @@ private:
     void fetchSelected() { fetch(tree_->selectedFields()); }
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
-    void showTable();
-    void showHistogram();
-    void showIBlank();
-    ValuesScope_s scopeOfSelection() const;
     void savePicture();
+    void saveView();
+    void openView();
     void showHelp();
     void showAbout();
 
@@ -74,17 +79,19 @@ private:
     FocusReturn focusReturn_;
     Preferences preferences_;
     DataSetTree* tree_ = nullptr;
+    FileFindings* findings_ = nullptr; // in the tree, and belongs to it
     DataSetView* view_ = nullptr;
+    RecentMenu* recent_ = nullptr;
     QAction* import_ = nullptr;
+    QAction* reload_ = nullptr;
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
-    QAction* showTable_ = nullptr;
-    QAction* showHistogram_ = nullptr;
-    QAction* showIBlank_ = nullptr;
+    ValuesActions valuesActions_;
     QAction* savePicture_ = nullptr;
-    std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
-    std::string whyNoValues_;
+    QAction* saveView_ = nullptr;
+    QAction* openView_ = nullptr;
+    std::shared_ptr<const plot3d::DataSet> values_; // null: none that can be looked at
     bool isOpened_ = false;
     bool wantsToClose_ = false;
     std::vector<std::string> filesAtStart_;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace quorvia::host {
@@ -37,6 +38,14 @@ std::vector<StrandGroup_s> groupZones(const DataSetOutcome_s& dataSet) {
             group.times.push_back({time, std::move(zones)});
     }
     return groups;
+}
+
+std::size_t countSteps(const DataSetOutcome_s& dataSet) {
+    std::set<double, BehindNumbers_s> times;
+    for (const ZoneOutcome_s& zone : dataSet.zones)
+        if (zone.strandId != 0)
+            times.insert(zone.solutionTime);
+    return times.size();
 }
 
 } // namespace quorvia::host

@@ -22,4 +22,7 @@ struct StrandGroup_s {
 /// Strands ascending, those of no strand last. Times that are no numbers come last.
 std::vector<StrandGroup_s> groupZones(const DataSetOutcome_s& dataSet);
 
+/// Time steps: of the zones that have a strand, each time once.
+std::size_t countSteps(const DataSetOutcome_s& dataSet);
+
 } // namespace quorvia::host

@@ -30,6 +30,12 @@ Reading_s shapeOf(const io::Plot3DRecordForm_s& form, io::Plot3DDataStructure_e 
     return shape;
 }
 
+/// Whether a grid's own header tells all of it.
+bool isChained(const io::StyleRules_s& rules, io::Plot3DDataStructure_e dataStructure) {
+    const bool exists = dataStructure != io::Plot3DDataStructure_2D || rules.existsIn2D;
+    return exists && rules.variableCount != io::VariableCount_e::OfFile;
+}
+
 void addShapes(std::vector<Reading_s>& shapes, const io::Plot3DRecordForm_s& form,
                std::optional<plot3d::FileKind> kind) {
     const bool isGrid = !kind || kind == plot3d::FileKind::Grid;
@@ -41,9 +47,9 @@ void addShapes(std::vector<Reading_s>& shapes, const io::Plot3DRecordForm_s& for
                 shapes.back().hasIBlank = hasIBlank;
             }
         if (!kind || kind != plot3d::FileKind::Grid)
-            for (const auto style :
-                 {io::Plot3DStyle_Classic, io::Plot3DStyle_Swift, io::Plot3DStyle_Function})
-                shapes.push_back(shapeOf(form, layout, style));
+            for (const io::StyleRules_s& rules : io::allStyleRules())
+                if (isChained(rules, layout))
+                    shapes.push_back(shapeOf(form, layout, rules.style));
     }
 }
 

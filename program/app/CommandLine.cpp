@@ -5,7 +5,6 @@
 #include <ostream>
 #include <system_error>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 #include <plot3d/Version.h>
 
@@ -101,29 +100,23 @@ Shower showerFor(const std::string& word) {
 
 } // namespace
 
-DeclaredCommand::DeclaredCommand(Command& command)
-    : command_(command), app_(std::make_unique<CLI::App>()) {
-    const char* const group = groupOfAllCommands;
-    app_->set_help_flag();
-    app_->allow_extras(); // told by us, with the nearest known option
-    command.declare(*app_);
-    app_->add_option("--progress", progress_,
-                     "Show progress on standard error: at a terminal (auto, the default), always "
-                     "or never")
-        ->type_name("always|never|auto")
-        ->group(group);
-    app_->add_flag("--quiet", quiet_, "Nothing on standard error but errors")->group(group);
-    app_->add_flag("-h,--help", help_, "Show this help")->group(group);
+DeclaredCommand::DeclaredCommand(Command& command) : command_(command) {
+    OptionTable table = parser_.table();
+    command.declare(table);
+    const OptionTable ofAll = table.under(groupOfAllCommands);
+    ofAll.text("--progress", progress_, "always|never|auto",
+               "Show progress on standard error: at a terminal (auto, the default), always or "
+               "never");
+    ofAll.flag("--quiet", quiet_, "Nothing on standard error but errors");
+    ofAll.flag("-h,--help", help_, "Show this help");
 }
 
-DeclaredCommand::~DeclaredCommand() = default;
-
 CommandPage_s DeclaredCommand::page() const {
-    return pageOf(command_, *app_);
+    return pageOf(command_, parser_);
 }
 
 void DeclaredCommand::refuseUnknown() const {
-    for (const std::string& word : app_->remaining()) {
+    for (const std::string& word : parser_.unknownWords()) {
         if (word == "--") // what follows are files, whatever they begin with
             continue;
         if (word.size() < 2 || word.front() != '-')
@@ -141,7 +134,7 @@ void DeclaredCommand::refuseWrongChoices() const {
     for (const OptionRow_s& row : page().options) {
         if (row.choices.empty())
             continue;
-        for (const std::string& word : app_->get_option(row.names.back())->results())
+        for (const std::string& word : parser_.textsOf(row.names.back()))
             if (std::find(row.choices.begin(), row.choices.end(), word) == row.choices.end())
                 throw UsageError(fmt::format("{} can't be \"{}\"; the nearest known word is \"{}\"",
                                              row.names.back(), word, nearestOf(word, row.choices)));
@@ -149,20 +142,12 @@ void DeclaredCommand::refuseWrongChoices() const {
 }
 
 void DeclaredCommand::parse(Words arguments) {
-    std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
-    try {
-        app_->parse(arguments);
-    } catch (const CLI::ParseError& error) {
-        if (help_)
-            return;
-        refuseUnknown();
-        std::string text = error.what();
-        std::replace(text.begin(), text.end(), '\n', ' ');
-        throw UsageError(fmt::format("{}; plot3d {} --help tells more", text, command_.name()));
-    }
+    const std::string problem = parser_.parse(std::move(arguments));
     if (help_)
         return;
-    refuseUnknown();
+    refuseUnknown(); // with the nearest known option, which the parser does not tell
+    if (!problem.empty())
+        throw UsageError(fmt::format("{}; plot3d {} --help tells more", problem, command_.name()));
     refuseWrongChoices();
 }
 

@@ -1,12 +1,12 @@
 // The command line: which command is meant, what its options say, and what of it can't be.
 #pragma once
 
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "app/Pages.h"
+#include "options/OptionParser.h"
 
 namespace plot3d::program {
 
@@ -21,7 +21,6 @@ class DeclaredCommand {
 public:
     /// `command` is borrowed.
     explicit DeclaredCommand(Command& command);
-    ~DeclaredCommand();
     DeclaredCommand(const DeclaredCommand&) = delete;
     DeclaredCommand& operator=(const DeclaredCommand&) = delete;
 
@@ -36,7 +35,7 @@ private:
     void refuseWrongChoices() const;
 
     Command& command_;
-    std::unique_ptr<CLI::App> app_;
+    OptionParser parser_;
     std::string progress_ = "auto";
     bool quiet_ = false;
     bool help_ = false;

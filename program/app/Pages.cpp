@@ -1,73 +1,16 @@
 #include "app/Pages.h"
 
-#include <algorithm>
-
-#include <CLI/CLI.hpp>
-
 #include "app/CommandLine.h"
 
 namespace plot3d::program {
-namespace {
-
-/// Words between bars, "always|never"; nothing if the type's name is anything else.
-std::vector<std::string> choicesIn(const std::string& typeName) {
-    std::vector<std::string> choices;
-    if (typeName.find('|') == std::string::npos)
-        return choices;
-    for (std::size_t start = 0; start <= typeName.size();) {
-        const std::size_t end = std::min(typeName.find('|', start), typeName.size());
-        choices.push_back(typeName.substr(start, end - start));
-        start = end + 1;
-    }
-    return choices;
-}
-
-std::vector<std::string> namesOf(const CLI::Option& option) {
-    std::vector<std::string> names;
-    if (option.get_positional())
-        return {option.get_name(true)};
-    for (const std::string& name : option.get_snames())
-        names.push_back("-" + name);
-    for (const std::string& name : option.get_lnames())
-        names.push_back("--" + name);
-    return names;
-}
-
-/// Without what validators add to it behind a colon, which is for programmers.
-std::string valueNameOf(const CLI::Option& option) {
-    if (option.get_type_size() == 0)
-        return {};
-    const std::string name = option.get_type_name();
-    return name.substr(0, name.find(':'));
-}
-
-OptionRow_s rowOf(const CLI::Option& option) {
-    OptionRow_s row;
-    row.names = namesOf(option);
-    row.value = valueNameOf(option);
-    row.text = option.get_description();
-    std::replace(row.text.begin(), row.text.end(), '\n', ' ');
-    row.group = option.get_group();
-    row.choices = choicesIn(row.value);
-    row.isRepeatable = option.get_expected_max() > 1;
-    row.isRequired = option.get_required();
-    return row;
-}
-
-} // namespace
-
-CommandPage_s pageOf(const Command& command, const CLI::App& app) {
+CommandPage_s pageOf(const Command& command, const OptionParser& parser) {
     CommandPage_s page;
     page.name = command.name();
     page.purpose = command.purpose();
     page.examples = command.examples();
     page.failureMeans = command.failureMeans();
-    for (const CLI::Option* option : app.get_options()) {
-        if (option->get_group().empty()) // kept out of sight
-            continue;
-        auto& rows = option->get_positional() ? page.positionals : page.options;
-        rows.push_back(rowOf(*option));
-    }
+    page.positionals = parser.positionals();
+    page.options = parser.options();
     return page;
 }
 

@@ -6,23 +6,12 @@
 #include <vector>
 
 #include "app/CommandTable.h"
+#include "options/OptionParser.h"
 
 namespace plot3d::program {
 
 /// The group of the options that every command has.
 inline constexpr const char* groupOfAllCommands = "Options of all commands";
-
-struct OptionRow_s {
-    std::vector<std::string> names = {};   // "-o", "--output"; of a positional argument "FILE"
-    std::string value = {};                // "FILE"; empty for a flag
-    std::string text = {};                 // without line breaks
-    std::string group = {};                // heading that it stands under
-    std::vector<std::string> choices = {}; // the words that it can be; empty for anything
-    bool isRepeatable = false;
-    bool isRequired = false;
-
-    bool takesFile() const { return value == "FILE" || value == "FOLDER"; }
-};
 
 struct CommandPage_s {
     std::string name;    // "info"; empty for the program itself
@@ -33,8 +22,8 @@ struct CommandPage_s {
     std::string failureMeans; // of exit code 1
 };
 
-/// Of a command whose options `app` holds.
-CommandPage_s pageOf(const Command& command, const CLI::App& app);
+/// Of a command that declared its options to `parser`.
+CommandPage_s pageOf(const Command& command, const OptionParser& parser);
 
 /// Of the program itself: its own options, and its examples.
 CommandPage_s programPage();

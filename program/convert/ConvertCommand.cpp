@@ -3,14 +3,13 @@
 #include <sstream>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <plot3d/Error.h>
 
 #include "convert/Writers.h"
-#include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -62,34 +61,30 @@ const char* ConvertCommand::failureMeans() const {
     return "refused or failed; nothing is left of the result";
 }
 
-void ConvertCommand::declare(CLI::App& app) {
-    data_.declare(app);
-    addOutput(app, output_, overwrites_,
-              "The result; its ending tells the format. - is standard output, for csv and plot3d");
-    app.add_option("--to", to_, "The format, where the ending does not tell it")
-        ->type_name("vtk|cgns|npz|csv|plot3d");
-    selection_.declare(app);
+void ConvertCommand::declare(OptionTable& table) {
+    data_.declare(table);
+    table
+        .output(output_, overwrites_,
+                "The result; its ending tells the format. - is standard output, for csv and plot3d")
+        .required();
+    table.text("--to", to_, "vtk|cgns|npz|csv|plot3d",
+               "The format, where the ending does not tell it");
     // What is converted keeps its blanked points, and their I-blank says so.
-    app.remove_option(app.get_option("--blank"));
-    declareDerived(app);
-    form_.declare(app);
+    selection_.declareWithoutBlank(table);
+    declareDerived(table);
+    form_.declare(table);
 }
 
-void ConvertCommand::declareDerived(CLI::App& app) {
-    const char* const group = "Derived quantities";
-    app.add_option("--derive", derived_,
-                   "Quantities to add, by word or number, separated by commas: pressure, mach, "
-                   "velocity, 110 and others")
-        ->type_name("LIST")
-        ->group(group);
-    app.add_option("--gamma", gas_.gamma,
+void ConvertCommand::declareDerived(OptionTable& table) {
+    const OptionTable options = table.under("Derived quantities");
+    options.text("--derive", derived_, "LIST",
+                 "Quantities to add, by word or number, separated by commas: pressure, mach, "
+                 "velocity, 110 and others");
+    options.number("--gamma", gas_.gamma, "NUMBER",
                    "Ratio of specific heats, where the file has none for each point (default: "
-                   "1.4)")
-        ->type_name("NUMBER")
-        ->group(group);
-    app.add_option("--gas-constant", gas_.gasConstant, "In the units of the solution (default: 1)")
-        ->type_name("NUMBER")
-        ->group(group);
+                   "1.4)");
+    options.number("--gas-constant", gas_.gasConstant, "NUMBER",
+                   "In the units of the solution (default: 1)");
 }
 
 Format_e ConvertCommand::format() const {

@@ -19,11 +19,11 @@ public:
     const char* purpose() const override;
     const char* examples() const override;
     const char* failureMeans() const override;
-    void declare(CLI::App& app) override;
+    void declare(OptionTable& table) override;
     int run(const Surroundings_s& surroundings) override;
 
 private:
-    void declareDerived(CLI::App& app);
+    void declareDerived(OptionTable& table);
     Format_e format() const;
     ContentSelection_s selectionOf(const DataSet& data, Format_e format) const;
     std::vector<const DerivedQuantity*> derivedQuantitiesAsked() const;

@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include <CLI/CLI.hpp>
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -27,22 +27,19 @@ Encoding encodingOf(const std::string& word) {
 
 } // namespace
 
-void FormArguments::declare(CLI::App& app) {
-    const auto add = [&app](const char* name, std::string& word, const char* words,
-                            const char* help) {
-        app.add_option(name, word, help)->type_name(words)->group("PLOT3D files");
-    };
-    add("--encoding", encoding_, "text|binary|fortran4|fortran8",
-        "How numbers stand in the files; fortran4 and fortran8 are unformatted records with "
-        "markers of 4 and 8 bytes. This and what follows stays as it is in the files read unless "
-        "it is given");
-    add("--byte-order", order_, "little|big", "Of binary and Fortran files");
-    add("--precision", precision_, "32|64",
-        "Bits of a real; to 32 each value becomes the nearest that there is");
-    add("--layout", layout_, "1d|2d|3d-whole|3d-planes|unstructured",
-        "Planes and whole fields go over into one another");
-    add("--multi-grid", multiGrid_, "yes|no",
-        "Whether the files begin with a count of grids, which more than one grid needs");
+void FormArguments::declare(OptionTable& table) {
+    const OptionTable options = table.under("PLOT3D files");
+    options.text("--encoding", encoding_, "text|binary|fortran4|fortran8",
+                 "How numbers stand in the files; fortran4 and fortran8 are unformatted records "
+                 "with markers of 4 and 8 bytes. This and what follows stays as it is in the files "
+                 "read unless it is given");
+    options.text("--byte-order", order_, "little|big", "Of binary and Fortran files");
+    options.text("--precision", precision_, "32|64",
+                 "Bits of a real; to 32 each value becomes the nearest that there is");
+    options.text("--layout", layout_, "1d|2d|3d-whole|3d-planes|unstructured",
+                 "Planes and whole fields go over into one another");
+    options.text("--multi-grid", multiGrid_, "yes|no",
+                 "Whether the files begin with a count of grids, which more than one grid needs");
 }
 
 std::string FormArguments::given() const {

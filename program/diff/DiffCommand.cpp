@@ -5,17 +5,16 @@
 #include <string_view>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
 
 #include "blocks/DataSetFields.h"
 #include "manners/FileList.h"
-#include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 #include "selection/NumberChecks.h"
 
 namespace plot3d::program {
@@ -87,27 +86,26 @@ const char* DiffCommand::failureMeans() const {
     return "the data sets differ, or one of them was refused";
 }
 
-void DiffCommand::declare(CLI::App& app) {
-    addFiles(app, firstFiles_,
-             "Files of the first data set, then -- and those of the second; two files alone are "
-             "one of each")
-        ->type_name("FILE... -- FILE...");
-    addRepeatable(app, secondOption, secondFiles_, "FILE", "")->group("");
-    data_.declareOptions(app);
-    selection_.declareWithoutBlank(app);
-    app.add_option("--tolerance", tolerance_.absolute,
-                   "Values are the same up to this difference (default: 0)")
-        ->type_name("NUMBER")
-        ->check(notNegative);
-    app.add_option("--relative", tolerance_.relative,
-                   "Values are the same up to this difference, divided by the greater of both "
-                   "(default: 0)")
-        ->type_name("NUMBER")
-        ->check(notNegative);
-    app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.diff/1");
-    app.add_option("--threads", threads_, "Cores to work on; all of them unless you say")
-        ->type_name("COUNT")
-        ->check(threadCount);
+void DiffCommand::declare(OptionTable& table) {
+    table.files(firstFiles_,
+                "Files of the first data set, then -- and those of the second; two files alone are "
+                "one of each",
+                "FILE... -- FILE...");
+    table.list(secondOption, secondFiles_, "FILE", "").hidden();
+    data_.declareOptions(table);
+    selection_.declareWithoutBlank(table);
+    table
+        .number("--tolerance", tolerance_.absolute, "NUMBER",
+                "Values are the same up to this difference (default: 0)")
+        .check(notNegative);
+    table
+        .number("--relative", tolerance_.relative, "NUMBER",
+                "Values are the same up to this difference, divided by the greater of both "
+                "(default: 0)")
+        .check(notNegative);
+    table.flag("--json", json_, "Write all as JSON, in the schema plot3d.diff/1");
+    table.number("--threads", threads_, "COUNT", "Cores to work on; all of them unless you say")
+        .check(threadCount);
 }
 
 void DiffCommand::takeApart(std::vector<std::string>& arguments) {

@@ -4,16 +4,15 @@
 #include <system_error>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <plot3d/Error.h>
 
 #include "index/contents/IndexedData.h"
 #include "index/contents/Originals.h"
-#include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -63,25 +62,23 @@ const char* IndexCommand::failureMeans() const {
            "not as it was";
 }
 
-void IndexCommand::declare(CLI::App& app) {
-    data_.declare(app);
-    addOutput(app, output_, overwrites_,
-              "The index; its ending tells the format: .cgns, .xmf2, .json, .p3d or .vp3d");
-    app.get_option("--output")->required(false);
-    app.add_flag("--relative", isRelative_,
-                 "Name the original files relative to the folder of the index, so that all can "
-                 "move together");
-    app.add_option("--check", checked_,
-                   "Compare the original files of this index with what it noted of them: size, "
-                   "time of change and the first 64 KiB")
-        ->type_name("FILE")
-        ->excludes(app.get_option("--output"));
-    selection_.declare(app);
+void IndexCommand::declare(OptionTable& table) {
+    data_.declare(table);
+    table.output(output_, overwrites_,
+                 "The index; its ending tells the format: .cgns, .xmf2, .json, .p3d or .vp3d");
+    table.flag("--relative", isRelative_,
+               "Name the original files relative to the folder of the index, so that all can move "
+               "together");
+    table
+        .text("--check", checked_, "FILE",
+              "Compare the original files of this index with what it noted of them: size, time of "
+              "change and the first 64 KiB")
+        .excludes({"--output"});
     // Readers of the index get all points, with their I-blank. A part of them is refused with the
     // command that makes a copy, and not offered.
-    app.remove_option(app.get_option("--blank"));
+    selection_.declareWithoutBlank(table);
     for (const char* const part : {"--i", "--j", "--k", "--point"})
-        app.get_option(part)->group("");
+        table.declared(part).hidden();
 }
 
 void IndexCommand::takeApart(std::vector<std::string>& arguments) {

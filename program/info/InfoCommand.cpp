@@ -4,7 +4,6 @@
 #include <ostream>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 #include <plot3d/Error.h>
 #include <plot3d/FileNames.h>
@@ -14,9 +13,9 @@
 #include "info/Summary.h"
 #include "info/WhyTable.h"
 #include "manners/FileList.h"
-#include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -41,19 +40,20 @@ const char* InfoCommand::failureMeans() const {
     return "a file is no whole PLOT3D file";
 }
 
-void InfoCommand::declare(CLI::App& app) {
-    addFiles(app, files_,
-             "Files of any kind: grid, solution, function, boundary or name file; - reads their "
-             "names from standard input, one to a line. They come in the order of their "
-             "names, 2 before 10")
-        ->required();
-    app.add_flag("--why", why_,
-                 "Show every reading that was tried, in its order, with the first thing that did "
-                 "not fit, and what else the bytes could mean");
-    app.add_option("--as", as_, "Take the files for this kind, whatever their names say")
-        ->type_name("grid|solution|function");
-    app.add_flag("--all", all_, "Show long lists whole");
-    app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.info/1");
+void InfoCommand::declare(OptionTable& table) {
+    table
+        .files(files_,
+               "Files of any kind: grid, solution, function, boundary or name file; - reads their "
+               "names from standard input, one to a line. They come in the order of their "
+               "names, 2 before 10")
+        .required();
+    table.flag("--why", why_,
+               "Show every reading that was tried, in its order, with the first thing that did "
+               "not fit, and what else the bytes could mean");
+    table.text("--as", as_, "grid|solution|function",
+               "Take the files for this kind, whatever their names say");
+    table.flag("--all", all_, "Show long lists whole");
+    table.flag("--json", json_, "Write all as JSON, in the schema plot3d.info/1");
 }
 
 InspectOptions InfoCommand::options() const {

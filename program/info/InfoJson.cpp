@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "info/InfoWords.h"
+#include "findings/InfoWords.h"
 
 namespace plot3d::program {
 namespace {

@@ -3,11 +3,10 @@
 
 #include <plot3d/FileInfo.h>
 
+#include "findings/Findings.h"
 #include "manners/Command.h"
 
 namespace plot3d::program {
-
-enum class Lists_e : unsigned char { Shortened, Whole };
 
 void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
 

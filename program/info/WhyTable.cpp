@@ -10,7 +10,7 @@
 #include <fmt/core.h>
 
 #include "console/TextGrid.h"
-#include "info/InfoWords.h"
+#include "findings/InfoWords.h"
 
 namespace plot3d::program {
 namespace {

@@ -7,11 +7,9 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace plot3d::program {
+
+class OptionTable;
 
 enum ExitCode_e : int {
     ExitCode_Done = 0,
@@ -48,10 +46,9 @@ public:
     virtual const char* examples() const = 0;
     /// What exit code 1 means, for the help text: "a file is refused".
     virtual const char* failureMeans() const { return "refused or failed"; }
-    /// Adds options and files to the command's own part of the command line; they are kept here.
-    /// Descriptions are plain sentences, broken into lines by whoever shows them. A type name such
-    /// as "always|never|auto" offers these words to the shell, FILE and FOLDER the names of files.
-    virtual void declare(CLI::App& app) = 0;
+    /// Declares options and files of the command's own part of the command line, which are kept
+    /// here.
+    virtual void declare(OptionTable& table) = 0;
     /// Takes out of the arguments what the parser can't understand, before it sees them: the files
     /// behind `--`, where a command has two lists of them.
     virtual void takeApart(std::vector<std::string>& /*arguments*/) {}

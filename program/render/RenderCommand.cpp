@@ -5,13 +5,12 @@
 #include <future>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <plot3d/Error.h>
 
 #include "content/Preparer.h"
-#include "manners/Options.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 #include "render/Animation.h"
 #include "render/Studio.h"
 #include "view/ViewJson.h"
@@ -91,15 +90,13 @@ const char* RenderCommand::failureMeans() const {
     return "refused or failed; no part of a picture is left";
 }
 
-void RenderCommand::declare(CLI::App& app) {
-    data_.declare(app);
-    addOutput(app, output_, overwrites_, "The picture, a PNG file");
-    app.get_option("--output")->required(false);
-    view_.declare(app);
-    app.add_option("--save-view", savedView_,
-                   "Write the view as JSON, for --view-file; without -o no picture is drawn")
-        ->type_name("FILE")
-        ->group("How it looks");
+void RenderCommand::declare(OptionTable& table) {
+    data_.declare(table);
+    table.output(output_, overwrites_, "The picture, a PNG file");
+    view_.declare(table);
+    table.under("How it looks")
+        .text("--save-view", savedView_, "FILE",
+              "Write the view as JSON, for --view-file; without -o no picture is drawn");
 }
 
 void RenderCommand::refuseOutputs() const {

@@ -3,10 +3,10 @@
 #include <fstream>
 #include <iterator>
 
-#include <CLI/CLI.hpp>
 #include <plot3d/Error.h>
 
 #include "colours/ColourMap.h"
+#include "options/OptionTable.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "selection/TimeRange.h"
@@ -17,7 +17,7 @@ namespace plot3d::program {
 
 namespace {
 
-/// For CLI11: empty, or why the text can't be taken.
+/// A check: empty, or why the text can't be taken.
 template <typename Parse>
 auto takenBy(Parse parse) {
     return [parse](const std::string& text) -> std::string {
@@ -50,118 +50,78 @@ std::string aboveNothing(const std::string& text) {
 
 } // namespace
 
-void ViewArguments::declare(CLI::App& app) {
-    declareContents(app);
-    declareLook(app);
+void ViewArguments::declare(OptionTable& table) {
+    declareContents(table.under("What is shown"));
+    declareLook(table.under("How it looks"));
 }
 
-void ViewArguments::declareContents(CLI::App& app) {
-    const char* const group = "What is shown";
-    app.add_option("--color", colour_,
-                   "Variable, or derived quantity by word or number; none for plain surfaces "
-                   "(default: the first variable of the solution)")
-        ->type_name("NAME")
-        ->group(group);
-    app.add_option(
-           "--range", range_,
-           "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
-           "points shown (default), all points at that time (time), at all times "
-           "(all-times), or of one zone (zone=NUMBER)")
-        ->type_name("RANGE")
-        ->check(takenBy(checkRange))
-        ->group(group);
-    app.add_option("--time", time_, "Solution time: the step at it, or first or last")
-        ->type_name("TIME")
-        ->group(group);
-    app.add_flag("--all-times", allTimes_,
+void ViewArguments::declareContents(const OptionTable& options) {
+    options.text("--color", colour_, "NAME",
+                 "Variable, or derived quantity by word or number; none for plain surfaces "
+                 "(default: the first variable of the solution)");
+    options
+        .text("--range", range_, "RANGE",
+              "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
+              "points shown (default), all points at that time (time), at all times "
+              "(all-times), or of one zone (zone=NUMBER)")
+        .check(takenBy(checkRange));
+    options.text("--time", time_, "TIME", "Solution time: the step at it, or first or last");
+    options.flag("--all-times", allTimes_,
                  "A picture of each time step, numbered, with one range for all; and an animation "
-                 "(.mp4) where ffmpeg is installed")
-        ->group(group);
-    app.add_option("--zones,--zone", zones_, "Zones by number from 1, such as 1,3-5")
-        ->type_name("LIST")
-        ->group(group);
-    app.add_option("--surface", surfaces_,
-                   "outer; planes of indices such as k=1,-1 (-1 is the last); boundary=NAME of the "
-                   "boundary file, with * and ?; may come several times")
-        ->type_name("SURFACE")
-        ->check(takenBy([](const std::string& text) { scene::surfacesFromText(text); }))
-        ->allow_extra_args(false)
-        ->group(group);
-    app.add_option("--line", line_,
-                   "Plot values along one grid line of each zone: j=3,k=1 for that along I")
-        ->type_name("INDICES")
-        ->check(takenBy([](const std::string& text) { scene::lineFromText(text); }))
-        ->group(group);
-    app.add_option("--blank", blank_,
-                   "What becomes of cells with a corner whose I-blank is 0 (default: hide); color "
-                   "shows I-blank itself")
-        ->type_name("hide|show|color")
-        ->check(CLI::IsMember({"hide", "show", "color"}))
-        ->group(group);
-    app.add_flag("--lines", gridLines_, "Grid lines")->group(group);
-    app.add_option("--contours", contours_, "Contour lines, spread evenly over the range")
-        ->type_name("N")
-        ->check([](const std::string& text) { return wholeNumberBetween(text, 0, 1000); })
-        ->group(group);
-    app.add_option("--vectors", vectors_,
-                   "Arrows of velocity, another derived vector, or of variables A,B,C")
-        ->type_name("NAME")
-        ->group(group);
-    app.add_flag("--outlines", outlines_, "Edges of the zones")->group(group);
-    app.add_option("--gamma", gas_.gamma,
+                 "(.mp4) where ffmpeg is installed");
+    options.text("--zones,--zone", zones_, "LIST", "Zones by number from 1, such as 1,3-5");
+    options
+        .list("--surface", surfaces_, "SURFACE",
+              "outer; planes of indices such as k=1,-1 (-1 is the last); boundary=NAME of the "
+              "boundary file, with * and ?; may come several times")
+        .check(takenBy(scene::surfacesFromText));
+    options
+        .text("--line", line_, "INDICES",
+              "Plot values along one grid line of each zone: j=3,k=1 for that along I")
+        .check(takenBy(scene::lineFromText));
+    options.text("--blank", blank_, "hide|show|color",
+                 "What becomes of cells with a corner whose I-blank is 0 (default: hide); color "
+                 "shows I-blank itself");
+    options.flag("--lines", gridLines_, "Grid lines");
+    options.number("--contours", contours_, "N", "Contour lines, spread evenly over the range")
+        .check([](const std::string& text) { return wholeNumberBetween(text, 0, 1000); });
+    options.text("--vectors", vectors_, "NAME",
+                 "Arrows of velocity, another derived vector, or of variables A,B,C");
+    options.flag("--outlines", outlines_, "Edges of the zones");
+    options.number("--gamma", gas_.gamma, "NUMBER",
                    "Ratio of specific heats for derived quantities, where the file has none for "
-                   "each point (default: 1.4)")
-        ->type_name("NUMBER")
-        ->group(group);
-    app.add_option("--gas-constant", gas_.gasConstant, "In the units of the solution (default: 1)")
-        ->type_name("NUMBER")
-        ->group(group);
+                   "each point (default: 1.4)");
+    options.number("--gas-constant", gas_.gasConstant, "NUMBER",
+                   "In the units of the solution (default: 1)");
 }
 
-void ViewArguments::declareLook(CLI::App& app) {
-    const char* const group = "How it looks";
-    app.add_option("--map", map_,
-                   "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
-        ->type_name("NAME")
-        ->check(takenBy([](const std::string& text) { scene::ColourMap::named(text); }))
-        ->group(group);
-    app.add_option(
-           "--view", direction_,
-           "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
-           "data towards the eye")
-        ->type_name("DIRECTION")
-        ->check(takenBy([](const std::string& text) { scene::cameraFromText(text); }))
-        ->group(group);
-    app.add_option("--zoom", zoom_, "2 is twice as large as all that fits (default: 1)")
-        ->type_name("FACTOR")
-        ->check(aboveNothing)
-        ->group(group);
-    app.add_option("--plot", plot_,
-                   "Surfaces in space, in their plane, or lines over a coordinate (default: auto, "
-                   "by the dimensions of the grid)")
-        ->type_name("auto|3d|2d|xy")
-        ->check(CLI::IsMember({"auto", "3d", "2d", "xy"}))
-        ->group(group);
-    app.add_option("--size", size_, "Pixels (default: 1280x960)")
-        ->type_name("WIDTHxHEIGHT")
-        ->check(takenBy([](const std::string& text) { scene::sizeFromText(text); }))
-        ->group(group);
-    app.add_option("--background", background_,
-                   "white (default), lightgrey, grey, dark, black or #RRGGBB")
-        ->type_name("COLOR")
-        ->check(takenBy([](const std::string& text) { scene::colourFromText(text); }))
-        ->group(group);
-    app.add_option("--title", title_, "Instead of the names of the files")
-        ->type_name("TEXT")
-        ->group(group);
-    app.add_flag("--no-axes", hidesAxes_, "Leave out the axes")->group(group);
-    app.add_flag("--no-legend", hidesLegend_, "Leave out the legend")->group(group);
-    app.add_flag("--no-title", hidesTitle_, "Leave out the title and the line below it")
-        ->group(group);
-    app.add_option("--view-file", viewFile_,
-                   "Begin with the view that --save-view wrote; options change it")
-        ->type_name("FILE")
-        ->group(group);
+void ViewArguments::declareLook(const OptionTable& options) {
+    options
+        .text("--map", map_, "NAME",
+              "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")
+        .check(takenBy(scene::ColourMap::named));
+    options
+        .text("--view", direction_, "DIRECTION",
+              "From where it is seen: iso (default), +x, -x, +y, -y, +z, -z, or X,Y,Z from the "
+              "data towards the eye")
+        .check(takenBy(scene::cameraFromText));
+    options.number("--zoom", zoom_, "FACTOR", "2 is twice as large as all that fits (default: 1)")
+        .check(aboveNothing);
+    options.text("--plot", plot_, "auto|3d|2d|xy",
+                 "Surfaces in space, in their plane, or lines over a coordinate (default: auto, "
+                 "by the dimensions of the grid)");
+    options.text("--size", size_, "WIDTHxHEIGHT", "Pixels (default: 1280x960)")
+        .check(takenBy(scene::sizeFromText));
+    options
+        .text("--background", background_, "COLOR",
+              "white (default), lightgrey, grey, dark, black or #RRGGBB")
+        .check(takenBy(scene::colourFromText));
+    options.text("--title", title_, "TEXT", "Instead of the names of the files");
+    options.flag("--no-axes", hidesAxes_, "Leave out the axes");
+    options.flag("--no-legend", hidesLegend_, "Leave out the legend");
+    options.flag("--no-title", hidesTitle_, "Leave out the title and the line below it");
+    options.text("--view-file", viewFile_, "FILE",
+                 "Begin with the view that --save-view wrote; options change it");
 }
 
 scene::View_s ViewArguments::startingView() const {

@@ -15,7 +15,7 @@ namespace plot3d::program {
 
 class ViewArguments {
 public:
-    void declare(CLI::App& app);
+    void declare(OptionTable& table);
 
     /// Throws plot3d::Error: Usage for texts that can't be taken, Refused for a view file.
     scene::View_s view(const DataSet& data) const;
@@ -23,8 +23,8 @@ public:
     bool wantsAllTimes() const { return allTimes_; }
 
 private:
-    void declareContents(CLI::App& app);
-    void declareLook(CLI::App& app);
+    void declareContents(const OptionTable& options);
+    void declareLook(const OptionTable& options);
     scene::View_s startingView() const;
     void takeContents(scene::View_s& view, const DataSet& data) const;
     void takeLook(scene::View_s& view) const;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 
 #include <plot3d/Error.h>
@@ -11,9 +10,9 @@
 #include <plot3d/FileNames.h>
 
 #include "manners/FileList.h"
-#include "manners/Options.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 namespace {
@@ -77,35 +76,31 @@ DataSet opened(const Files& files, const OpenOptions& options, const Surrounding
 
 } // namespace
 
-void DataArguments::declare(CLI::App& app) {
-    addFiles(app, files_,
-             "Files of one data set in any order; - reads a list of them from standard input");
-    const auto addKind = [&](const char* name, std::vector<std::string>& list, const char* help) {
-        addRepeatable(app, name, list, "FILE", help)->allow_extra_args()->group(dataSetGroup);
-    };
-    addKind("--grid", lists_.grid, "Grid files, where neither names nor bytes tell the kinds");
-    addKind("--solution", lists_.solution, "Solution files, likewise");
-    addKind("--function", lists_.function, "Function files, likewise");
-    declareOptions(app);
+void DataArguments::declare(OptionTable& table) {
+    table.files(files_,
+                "Files of one data set in any order; - reads a list of them from standard input");
+    const OptionTable options = table.under(dataSetGroup);
+    options
+        .list("--grid", lists_.grid, "FILE",
+              "Grid files, where neither names nor bytes tell the kinds")
+        .takesSeveral();
+    options.list("--solution", lists_.solution, "FILE", "Solution files, likewise").takesSeveral();
+    options.list("--function", lists_.function, "FILE", "Function files, likewise").takesSeveral();
+    declareOptions(table);
 }
 
-void DataArguments::declareOptions(CLI::App& app) {
-    app.add_option("--name", nameFile_, "File with the names of the variables")
-        ->type_name("FILE")
-        ->group(dataSetGroup);
-    addRepeatable(app, "--set", settings_, "KEY=VALUE",
-                  "A load instruction, such as AUTODETECT=No; may come several times")
-        ->check(settingProblem)
-        ->group(dataSetGroup);
-    app.add_flag("--share-structure", sharesStructure_,
-                 "Take all files of a kind to be built like the first, without looking")
-        ->group(dataSetGroup);
-    app.add_flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files")
-        ->group(dataSetGroup);
-    app.add_option("--addon", addOn_,
-                   "Load by the add-on in this dynamic library, not by the one inside plot3d")
-        ->type_name("PATH")
-        ->group(dataSetGroup);
+void DataArguments::declareOptions(OptionTable& table) {
+    const OptionTable options = table.under(dataSetGroup);
+    options.text("--name", nameFile_, "FILE", "File with the names of the variables");
+    options
+        .list("--set", settings_, "KEY=VALUE",
+              "A load instruction, such as AUTODETECT=No; may come several times")
+        .check(settingProblem);
+    options.flag("--share-structure", sharesStructure_,
+                 "Take all files of a kind to be built like the first, without looking");
+    options.flag("--no-boundaries", leavesOutBoundaries_, "Leave out the zones of boundary files");
+    options.text("--addon", addOn_, "PATH",
+                 "Load by the add-on in this dynamic library, not by the one inside plot3d");
 }
 
 OpenOptions DataArguments::options() const {

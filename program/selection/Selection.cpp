@@ -5,11 +5,11 @@
 #include <numeric>
 #include <set>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 
 #include <plot3d/Error.h>
 
+#include "options/OptionTable.h"
 #include "selection/IndexRange.h"
 #include "selection/NamePattern.h"
 #include "selection/NumberList.h"
@@ -17,6 +17,8 @@
 
 namespace plot3d::program {
 namespace {
+
+constexpr const char* selectionGroup = "Selection";
 
 std::vector<std::size_t> indicesTo(std::size_t count) {
     std::vector<std::size_t> indices(count);
@@ -32,7 +34,7 @@ IndexRange_s single(std::int64_t index) {
     return {index, index, 1};
 }
 
-/// For CLI11: empty, or why the text can't be parsed.
+/// A check: empty, or why the text can't be parsed.
 template <typename Parse>
 auto parsedBy(Parse parse) {
     return [parse](const std::string& text) -> std::string {
@@ -60,35 +62,31 @@ std::optional<Box> boxOf(const Extent& size, const IndexRange_s& i, const IndexR
 
 } // namespace
 
-void SelectionArguments::declareWithoutBlank(CLI::App& app) {
-    const auto add = [&app](const char* name, std::string& text, const char* help) {
-        return app.add_option(name, text, help)->group("Selection");
-    };
-    add("--variable", variables_,
-        "Variables by name, separated by commas; * and ? stand for any characters and for one")
-        ->type_name("NAMES");
-    add("--zone", zones_, "Zones by number from 1, such as 1,3-5")->type_name("LIST");
-    add("--time", times_, "Solution times: one, a range such as 0.5:2, or first or last")
-        ->type_name("TIME");
-    const auto addRange = [&add](const char* name, std::string& text, const char* help) {
-        add(name, text, help)->type_name("RANGE")->check(parsedBy(parseIndexRange));
-    };
-    addRange("--i", i_,
-             "Indices along I: FIRST,LAST,STEP from 1, each of which may be left out; -1 is the "
-             "last; one number is that index alone");
-    addRange("--j", j_, "Along J, likewise");
-    addRange("--k", k_, "Along K, likewise");
-    add("--point", point_, "One point of each zone, by its indices from 1")
-        ->type_name("I,J,K")
-        ->check(parsedBy(parsePoint))
-        ->excludes("--i", "--j", "--k");
+void SelectionArguments::declareWithoutBlank(OptionTable& table) {
+    const OptionTable options = table.under(selectionGroup);
+    options.text("--variable", variables_, "NAMES",
+                 "Variables by name, separated by commas; * and ? stand for any characters and for "
+                 "one");
+    options.text("--zone", zones_, "LIST", "Zones by number from 1, such as 1,3-5");
+    options.text("--time", times_, "TIME",
+                 "Solution times: one, a range such as 0.5:2, or first or last");
+    options
+        .text("--i", i_, "RANGE",
+              "Indices along I: FIRST,LAST,STEP from 1, each of which may be left out; -1 is the "
+              "last; one number is that index alone")
+        .check(parsedBy(parseIndexRange));
+    options.text("--j", j_, "RANGE", "Along J, likewise").check(parsedBy(parseIndexRange));
+    options.text("--k", k_, "RANGE", "Along K, likewise").check(parsedBy(parseIndexRange));
+    options.text("--point", point_, "I,J,K", "One point of each zone, by its indices from 1")
+        .check(parsedBy(parsePoint))
+        .excludes({"--i", "--j", "--k"});
 }
 
-void SelectionArguments::declare(CLI::App& app) {
-    declareWithoutBlank(app);
-    app.add_option("--blank", blank_, "What becomes of points whose I-blank is 0 (default: skip)")
-        ->type_name("skip|keep")
-        ->group("Selection");
+void SelectionArguments::declare(OptionTable& table) {
+    declareWithoutBlank(table);
+    table.under(selectionGroup)
+        .text("--blank", blank_, "skip|keep",
+              "What becomes of points whose I-blank is 0 (default: skip)");
 }
 
 bool SelectionArguments::isEverything() const {

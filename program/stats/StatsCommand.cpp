@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cctype>
 
-#include <CLI/CLI.hpp>
 #include <fmt/core.h>
 
 #include "blocks/DataSetFields.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
+#include "options/OptionTable.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "stats/StatsReport.h"
@@ -83,22 +83,19 @@ const char* StatsCommand::examples() const {
            "      how the values of a function file are spread\n";
 }
 
-void StatsCommand::declare(CLI::App& app) {
-    files_.declare(app);
-    selection_.declare(app);
-    app.add_option("--percentiles", percentiles_, "Percentiles, such as 5,50,95")
-        ->type_name("LIST")
-        ->check(percentilesProblem);
-    app.add_option("--histogram", bins_, "Counts in bins of equal width, 20 unless you say")
-        ->type_name("[BINS]")
-        ->check(binCount);
-    app.add_flag("--hash", hash_,
-                 "CRC-32 of the values of each field, as little-endian bytes, I fastest");
-    app.add_flag("--per-zone", perZone_, "Tell each zone in the tables, too");
-    app.add_flag("--json", json_, "Write all as JSON, in the schema plot3d.stats/1");
-    app.add_option("--threads", threads_, "Cores to work on; all of them unless you say")
-        ->type_name("COUNT")
-        ->check(threadCount);
+void StatsCommand::declare(OptionTable& table) {
+    files_.declare(table);
+    selection_.declare(table);
+    table.text("--percentiles", percentiles_, "LIST", "Percentiles, such as 5,50,95")
+        .check(percentilesProblem);
+    table.number("--histogram", bins_, "[BINS]", "Counts in bins of equal width, 20 unless you say")
+        .check(binCount);
+    table.flag("--hash", hash_,
+               "CRC-32 of the values of each field, as little-endian bytes, I fastest");
+    table.flag("--per-zone", perZone_, "Tell each zone in the tables, too");
+    table.flag("--json", json_, "Write all as JSON, in the schema plot3d.stats/1");
+    table.number("--threads", threads_, "COUNT", "Cores to work on; all of them unless you say")
+        .check(threadCount);
 }
 
 void StatsCommand::takeApart(std::vector<std::string>& arguments) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "annotation/Axes.h"
+#include "annotation/LinePlot.h"
 #include "annotation/Ticks.h"
 #include "content/Words.h"
 
@@ -120,37 +121,16 @@ private:
     }
 
     void addCurves() {
-        Frame_s frame;
-        frame.area = layout_.data;
-        frame.across = abscissaRange();
-        const double room = 0.05 * (content_.range.most - content_.range.least);
-        frame.along = content_.view.range
-                          ? content_.range
-                          : Range_s{content_.range.least - room, content_.range.most + room};
-        frame.names = content_.abscissaNames;
+        const LinePlot plot(content_, layout_);
         for (std::size_t index = 0; index < content_.curves.size(); ++index)
-            addCurve(content_.curves[index], frame, curveColour(index));
-        addFrame(frame, layout_, drawing_);
+            addCurve(content_.curves[index], plot, curveColour(index));
+        addFrame(plot.frame(), layout_, drawing_);
         if (content_.view.legend && content_.curves.size() > 1)
             addNames();
     }
 
-    Range_s abscissaRange() const {
-        Range_s range = {0, 0};
-        bool isFirst = true;
-        for (const Curve_s& curve : content_.curves)
-            for (const double value : curve.abscissas) {
-                if (!std::isfinite(value))
-                    continue;
-                range.least = isFirst ? value : std::min(range.least, value);
-                range.most = isFirst ? value : std::max(range.most, value);
-                isFirst = false;
-            }
-        return range.least < range.most ? range : Range_s{range.least - 0.5, range.least + 0.5};
-    }
-
-    /// In pieces: a value that is not finite, or lies beyond the frame, leaves a gap.
-    void addCurve(const Curve_s& curve, const Frame_s& frame, const Rgb& colour) {
+    /// In pieces: a value that can't be shown leaves a gap.
+    void addCurve(const Curve_s& curve, const LinePlot& plot, const Rgb& colour) {
         LineMark_s line{{}, 2 * layout_.unit, colour};
         const auto end = [&] {
             if (line.points.size() > 1)
@@ -158,20 +138,12 @@ private:
             line.points.clear();
         };
         for (std::size_t point = 0; point < curve.ordinates.size(); ++point) {
-            const double across = shareOf(frame.across, curve.abscissas[point]);
-            const double along = shareOf(frame.along, curve.ordinates[point]);
-            if (!(across >= 0 && across <= 1 && along >= 0 && along <= 1)) {
+            if (const auto at = plot.pixelOf(curve.abscissas[point], curve.ordinates[point]))
+                line.points.push_back(*at);
+            else
                 end();
-                continue;
-            }
-            line.points.push_back({frame.area.left + across * frame.area.width(),
-                                   frame.area.bottom + along * frame.area.height()});
         }
         end();
-    }
-
-    static double shareOf(const Range_s& range, double value) {
-        return (value - range.least) / (range.most - range.least);
     }
 
     void addNames() {

@@ -1,6 +1,7 @@
 #include "content/Words.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 
@@ -41,7 +42,10 @@ std::string surfacesText(const View_s& view) {
 std::string viewText(const View_s& view) {
     if (view.plot == PlotKind_e::Plane)
         return "seen from above";
-    return "view " + textOfDirection(view.camera);
+    Camera_s rounded = view.camera;
+    for (double& part : rounded.direction)
+        part = std::round(part * 1000) / 1000;
+    return "view " + textOfDirection(rounded);
 }
 
 } // namespace

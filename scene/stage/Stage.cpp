@@ -20,6 +20,7 @@
 
 #include "annotation/Annotation.h"
 #include "annotation/Layout.h"
+#include "annotation/LinePlot.h"
 #include "colours/ColourMap.h"
 #include "stage/CameraLink.h"
 #include "stage/Overlay.h"
@@ -158,8 +159,8 @@ public:
         scene::setCamera(*renderer_.GetActiveCamera(), now, width, height, depth());
         renderer_.ResetCameraClippingRange();
         Drawing_s drawing = annotationOf(*content_, layout(), now);
-        if (mark_)
-            addMark(now.pixelOf(*mark_), layout(), drawing);
+        if (const auto at = markedPixel(now))
+            addMark(*at, layout(), drawing);
         overlay_->set(std::move(drawing));
         overlayActor_->GetScene()->SetDirty(true);
     }
@@ -227,7 +228,16 @@ private:
             zones_[index]->show(parts[index], *content_, common, index, parts.size());
     }
 
+    std::optional<Pixel> markedPixel(const Projection_s& now) const {
+        if (!mark_)
+            return std::nullopt;
+        if (content_->view.plot == PlotKind_e::Lines)
+            return LinePlot(*content_, layout()).pixelOf((*mark_)[0], (*mark_)[1]);
+        return now.pixelOf(*mark_);
+    }
+
     Picked_s nearest(const ZoneActors& zone, std::int64_t cell, const double* position) const;
+    std::optional<Picked_s> pickOnCurve(const Pixel& pixel) const;
 
     vtkRenderer& renderer_;
     std::shared_ptr<const SceneContent_s> content_;
@@ -259,9 +269,24 @@ Picked_s Stage::Parts::nearest(const ZoneActors& zone, std::int64_t cell,
     return picked;
 }
 
+std::optional<Picked_s> Stage::Parts::pickOnCurve(const Pixel& pixel) const {
+    const Layout_s now = layout();
+    const auto found = LinePlot(*content_, now).nearest(pixel, /*reach=*/12 * now.unit);
+    if (!found)
+        return std::nullopt;
+    const Curve_s& curve = content_->curves[found->curve];
+    const double ordinate = curve.ordinates[found->point];
+    return Picked_s{curve.zone,
+                    placeOf(curve, found->point),
+                    {curve.abscissas[found->point], ordinate, 0},
+                    ordinate};
+}
+
 std::optional<Picked_s> Stage::Parts::pick(double x, double y) {
     if (!content_)
         return std::nullopt;
+    if (content_->view.plot == PlotKind_e::Lines)
+        return pickOnCurve({x, y});
     vtkNew<vtkCellPicker> picker;
     picker->SetTolerance(0.0005);
     picker->PickFromListOn();

@@ -18,7 +18,8 @@ namespace plot3d::scene {
 struct Picked_s {
     std::size_t zone = 0;        // index from 0
     Place_s place;               // the nearest point of the zone's grid, from 0
-    Vector3 position = {};       // coordinates of that point
+    Vector3 position = {};       // coordinates of that point; of a plot of lines where it stands
+                                 // in the plot: abscissa and ordinate
     std::optional<double> value; // of what is coloured, there
 };
 
@@ -50,7 +51,8 @@ public:
     /// and title to them. (Stage does so itself at the renderer's StartEvent.)
     void layOut();
 
-    /// Pixels of the window from its lower left corner. Nothing if there is no surface.
+    /// Pixels of the window from its lower left corner. Nothing if there is no surface,
+    /// of a plot of lines if no point of a curve is near.
     std::optional<Picked_s> pick(double x, double y);
     /// A cross at that point, or none.
     void mark(const std::optional<Vector3>& position);

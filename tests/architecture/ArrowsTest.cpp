@@ -66,12 +66,13 @@ const Arrows hostArrows = {
     {"view", {}}, // these three of the scene, used by the windows
     {"content", {}},
     {"stage", {}},
-    {"selection", {}}, // these three of the program: its statistics, that there be one count
+    {"findings", {}},  // of the program: what a file is, in words
+    {"selection", {}}, // these three, too: its statistics, that there be one count
     {"blocks", {}},
     {"stats", {}},
     {"desktop",
      {"console", "sdk", "model", "toolkit", "state", "session", "describe", "view", "content",
-      "stage", "selection", "blocks", "stats"}},
+      "stage", "findings", "selection", "blocks", "stats"}},
 };
 
 /// The rooms of the library, and all that stand below it.
@@ -102,13 +103,15 @@ const Arrows toolArrows = {
 
 const Arrows programArrows = {
     {"console", {}}, // at the top, used by the rooms of the program
+    {"options", {}},
     {"manners", {"console"}},
-    {"selection", {"console", "manners"}},
-    {"info", {"console", "manners"}},
+    {"selection", {"console", "options", "manners"}},
+    {"findings", {"console"}},
+    {"info", {"console", "options", "manners", "findings"}},
     {"blocks", {}},
     {"names", {}},
-    {"stats", {"console", "manners", "selection", "blocks"}},
-    {"diff", {"console", "manners", "selection", "blocks"}},
+    {"stats", {"console", "options", "manners", "selection", "blocks"}},
+    {"diff", {"console", "options", "manners", "selection", "blocks"}},
     {"convert/contents", {"selection", "blocks"}},
     {"convert/output", {"convert/contents"}},
     {"convert/csv", {"manners", "convert/contents", "convert/output"}},
@@ -117,8 +120,8 @@ const Arrows programArrows = {
     {"convert/plot3d", {"manners", "convert/contents", "convert/output"}},
     {"convert/cgns", {"manners", "names", "convert/contents", "convert/output"}},
     {"convert",
-     {"manners", "selection", "convert/contents", "convert/output", "convert/csv", "convert/npz",
-      "convert/vtk", "convert/plot3d", "convert/cgns"}},
+     {"options", "manners", "selection", "convert/contents", "convert/output", "convert/csv",
+      "convert/npz", "convert/vtk", "convert/plot3d", "convert/cgns"}},
     {"index/contents", {"selection"}},
     {"index/cgns", {"manners", "names", "index/contents"}},
     {"index/references", {"manners", "names", "index/contents"}},
@@ -127,11 +130,13 @@ const Arrows programArrows = {
     {"index/p3d", {"manners", "index/contents", "index/wholefiles"}},
     {"index/vp3d", {"manners", "index/contents", "index/wholefiles"}},
     {"index",
-     {"manners", "selection", "index/contents", "index/cgns", "index/references", "index/xdmf",
-      "index/p3d", "index/vp3d"}},
+     {"options", "manners", "selection", "index/contents", "index/cgns", "index/references",
+      "index/xdmf", "index/p3d", "index/vp3d"}},
     {"render",
-     {"console", "manners", "selection", "view", "colours", "surfaces", "content", "picture"}},
-    {"app", {"console", "manners", "info", "stats", "diff", "convert", "index", "render"}},
+     {"console", "options", "manners", "selection", "view", "colours", "surfaces", "content",
+      "picture"}},
+    {"app",
+     {"console", "options", "manners", "info", "stats", "diff", "convert", "index", "render"}},
     // The scene, of which no more than the painter's interface reaches VTK's side.
     {"view", {}},
     {"colours", {}},
@@ -223,15 +228,26 @@ TEST(Arrows, OfTheHostGoOneWayAndReachOnlyTheSdkOfTheAddOn) {
     expectNoForbiddenInclude("host", hostArrows);
 }
 
+/// The rooms of `tree` with a source that includes what begins like that.
+std::set<std::string> roomsIncluding(const std::string& beginning, const char* tree,
+                                     const Arrows& arrows) {
+    const std::regex pattern("^\\s*#\\s*include\\s*<(" + beginning + "[^>]+)>");
+    std::set<std::string> rooms;
+    const fs::path root = fs::path(PLOT3D_SOURCE_DIR) / tree;
+    for (const auto& entry : fs::recursive_directory_iterator(root))
+        if (isSource(entry.path()) && !includesLike(entry.path(), pattern).empty())
+            rooms.insert(roomOf(fs::relative(entry.path(), root).generic_string(), arrows));
+    return rooms;
+}
+
 // The library stands on the host; a program alone may stand on both.
 TEST(Arrows, OfTheHostReachTheLibraryFromItsWindowsAlone) {
-    const std::regex ofTheLibrary("^\\s*#\\s*include\\s*<(plot3d/[^>]+)>");
-    std::set<std::string> rooms;
-    const fs::path root = fs::path(PLOT3D_SOURCE_DIR) / "host";
-    for (const auto& entry : fs::recursive_directory_iterator(root))
-        if (isSource(entry.path()) && !includesLike(entry.path(), ofTheLibrary).empty())
-            rooms.insert(roomOf(fs::relative(entry.path(), root).generic_string(), hostArrows));
-    EXPECT_EQ(rooms, std::set<std::string>{"desktop"});
+    EXPECT_EQ(roomsIncluding("plot3d/", "host", hostArrows), std::set<std::string>{"desktop"});
+}
+
+// The header of the parser costs the compiler seconds wherever it is included.
+TEST(Arrows, OfTheProgramReachTheParserOfTheCommandLineFromOptionsAlone) {
+    EXPECT_EQ(roomsIncluding("CLI/", "program", programArrows), std::set<std::string>{"options"});
 }
 
 TEST(Arrows, OfTheLibraryGoOneWay) {

@@ -56,7 +56,7 @@ TEST_P(FieldsInEveryForm, HaveTheirValues) {
     }
 }
 
-const FormOfFile_s everyForm[] = {
+const FormOfFile_s formsOfFields[] = {
     {"Text", text(), FieldState_e::Stored},
     {"Binary", binary(), FieldState_e::Deferred},
     {"BinaryBigDouble", binary(ByteOrder_e::Big, Precision_e::Double), FieldState_e::Deferred},
@@ -65,7 +65,7 @@ const FormOfFile_s everyForm[] = {
     {"FortranDouble", fortran(ByteOrder_e::Little, Precision_e::Double), FieldState_e::Deferred},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, FieldsInEveryForm, ::testing::ValuesIn(everyForm),
+INSTANTIATE_TEST_SUITE_P(All, FieldsInEveryForm, ::testing::ValuesIn(formsOfFields),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(FieldsOfFiles, OfTextAreReadInFullWithoutARecord) {

@@ -29,12 +29,6 @@ protected:
     }
 };
 
-TEST_F(SubsetPage, ShowsWholeRangesAndAllGridsAtFirst) {
-    openHere({});
-    EXPECT_EQ(rangeTexts(), (Texts{"1", "Last", "1", "1", "Last", "1", "1", "Last", "1"}));
-    EXPECT_EQ(text(gridSetField), "");
-}
-
 TEST_F(SubsetPage, ShowsEachNumberInItsField) {
     gLoadOptions.iRange = {2, 13, 3};
     gLoadOptions.jRange = {5, 17, 7};
@@ -57,9 +51,12 @@ TEST_F(SubsetPage, ZeroIsTheLastIndexInTheEndFieldsAlone) {
     EXPECT_EQ(host().callCount("QuorGUITextFieldSetLgIndex"), 9);
 }
 
-TEST_F(SubsetPage, KFieldsStayUsableForPlaneData) {
+TEST_F(SubsetPage, AllFieldsStayUsableForPlaneData) {
     gLoadOptions.autoDetect = false;
     gLoadOptions.dataStructure = Plot3DDataStructure_2D;
+    refresh();
+    for (const Control_s& control : dialog().controls)
+        EXPECT_TRUE(control.parent != dataSubsetPage || control.sensitive) << control.geometry.y;
     openHere({type(kStartField, "3")});
     EXPECT_EQ(gLoadOptions.kRange.start, 3);
 }
@@ -86,6 +83,11 @@ TEST_F(SubsetPage, SecondSetOfGridsTakesThePlaceOfTheFirst) {
     const HostLock lock(addOnID);
     EXPECT_EQ(QuorUtilSetGetMemberCount(gLoadOptions.gridSet), 1);
     EXPECT_TRUE(QuorUtilSetIsMember(gLoadOptions.gridSet, 7));
+}
+
+TEST_F(SubsetPage, SetOfGridsCanBeEmptied) {
+    openHere({type(gridSetField, "2"), type(gridSetField, ""), show(fileSelectionPage),
+              show(dataSubsetPage), meanwhile([] { EXPECT_EQ(text(gridSetField), ""); })});
 }
 
 TEST_F(SubsetPage, RefusedSetOfGridsLeavesTheFormerOne) {
@@ -300,25 +302,12 @@ TEST_F(SubsetPage, StartMayPassAnEndThatIsTheLastIndex) {
     EXPECT_EQ(messages(), Texts());
 }
 
-TEST_F(SubsetPage, EndOfFiveBelowAStartOfTenIsToldAndStays) {
-    openHere({type(iStartField, "10"), type(iEndField, "5")});
-    EXPECT_EQ(messages(), Texts{"I-Range Error: end must be greater than or equal to start."});
-    EXPECT_EQ(gLoadOptions.iRange.end, 5);
-    EXPECT_EQ(text(iEndField), "5");
-}
-
 TEST_F(SubsetPage, BothEndsOfARangeCanBeMovedPastEachOther) {
     gLoadOptions.jRange = {2, 5, 1};
     openHere({type(jStartField, "7"), type(jEndField, "11")});
     EXPECT_EQ(messages().size(), 1u) << "of the start, while the end was still behind it";
     EXPECT_EQ(gLoadOptions.jRange.start, 7);
     EXPECT_EQ(gLoadOptions.jRange.end, 11);
-}
-
-TEST_F(SubsetPage, EndFieldTakesTheLastIndexBack) {
-    openHere({type(jEndField, "5"), type(jEndField, "last")});
-    EXPECT_EQ(gLoadOptions.jRange.end, 0);
-    EXPECT_EQ(text(jEndField), "last");
 }
 
 TEST_F(SubsetPage, LastEndBehavesLikeTheOthersButItsLockGoesOneDown) {

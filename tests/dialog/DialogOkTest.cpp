@@ -31,28 +31,6 @@ TEST_F(DialogOk, DropsTheDialogBeforeAnythingElse) {
     EXPECT_EQ(calls.back().find("QuorUtilLockFinish("), 0u);
 }
 
-TEST_F(DialogOk, LoadsTheIndexSubsetThatWasTyped) {
-    importFiles({gridFile("b.x", {{5, 7, 11}})},
-                {show(dataSubsetPage), type(iStartField, "2"), type(iEndField, "5"),
-                 type(jSkipField, "3"), type(kStartField, "4"), pressOk()});
-    ASSERT_TRUE(isAnythingLoaded());
-    EXPECT_EQ(zone(1).i, 4);
-    EXPECT_EQ(zone(1).j, 3);
-    EXPECT_EQ(zone(1).k, 8);
-}
-
-TEST_F(DialogOk, LoadsTheGridsOfTheSetAndKeepsTheSet) {
-    const std::string grids = gridFile("b.x", {{2, 3, 5}, {3, 5, 7}, {5, 7, 11}});
-    importFiles({grids}, {show(dataSubsetPage), type(gridSetField, "2,3"), pressOk()});
-    ASSERT_TRUE(isAnythingLoaded());
-    EXPECT_EQ(zoneCount(), 2);
-    host().setAnswers({}, yes);
-    importFiles({grids}, {pressOk()});
-    EXPECT_EQ(zoneCount(), 2);
-    const HostLock lock(addOnID);
-    EXPECT_EQ(QuorUtilSetGetMemberCount(gLoadOptions.gridSet), 2);
-}
-
 TEST_F(DialogOk, LoadMayFindAnotherStructureAndTheDialogKeepsItsOwn) {
     importFiles(
         {write("flat.x", testsupport::describeGrid({{2, 3, 1}}, testsupport::Layout_e::TwoD))},
@@ -179,13 +157,6 @@ TEST_F(DialogOk, ShowsTheSolutionAndFunctionFilesAnewAndLeavesTheGridList) {
 
 // ---- Refusals, each of which brings the dialog back ---------------------------------------------
 
-TEST_F(DialogOk, WithoutFilesIsToldAndTheDialogComesBack) {
-    open({pressOk(), meanwhile([] { EXPECT_TRUE(dialog().open); })});
-    EXPECT_EQ(messages(), Texts{"Must have at least one grid, solution or function file."});
-    EXPECT_EQ(launches(), 2);
-    EXPECT_FALSE(aLoadWasBegun());
-}
-
 TEST_F(DialogOk, AppendWithoutADataSetIsToldAndTheDialogComesBack) {
     makeDataSet();
     retain({grid_});
@@ -202,18 +173,6 @@ TEST_F(DialogOk, AppendIsJudgedBeforeTheFiles) {
     EXPECT_EQ(messages(), Texts{"Cannot append without an existing data set."});
 }
 
-TEST_F(DialogOk, AsksBeforeDataIsLostAndComesBackAtNo) {
-    makeDataSet();
-    retain({grid_}, {"a.q"});
-    host().setAnswers({no}, yes);
-    open({pressOk(), meanwhile([this] { EXPECT_EQ(items(gridList), Texts{grid_}); })});
-    ASSERT_EQ(host().log().messages.size(), 1u);
-    EXPECT_EQ(host().log().messages[0].text, "Warning: All current data will be lost. Continue?");
-    EXPECT_EQ(host().log().messages[0].kind, host::MessageKind_e::Question);
-    EXPECT_EQ(launches(), 2);
-    EXPECT_FALSE(aLoadWasBegun());
-}
-
 TEST_F(DialogOk, QuestionIsOneOfYesOrNo) {
     makeDataSet();
     retain({grid_});
@@ -226,43 +185,9 @@ TEST_F(DialogOk, QuestionIsOneOfYesOrNo) {
               calls.end());
 }
 
-TEST_F(DialogOk, ReplacesTheDataAtYes) {
-    makeDataSet();
-    retain({grid_});
-    host().setAnswers({yes}, no);
-    open({pressOk()});
-    EXPECT_EQ(launches(), 1);
-    EXPECT_EQ(zoneCount(), 1);
-    EXPECT_EQ(messages().size(), 1u);
-}
-
-TEST_F(DialogOk, WithAppendAsksNothingAndWarnsOfNothing) {
-    importFiles({grid_}, {pressOk()});
-    importFiles({gridFile("b.x", {{2, 3, 5}})}, {set(appendToggle, true), pressOk()});
-    EXPECT_EQ(messages(), Texts());
-    EXPECT_EQ(zoneCount(), 2);
-}
-
 TEST_F(DialogOk, WithoutADataSetAsksNothing) {
     importFiles({grid_}, {pressOk()});
     EXPECT_EQ(host().callCount("QuorUtilDialogMessageBox"), 0);
-}
-
-TEST_F(DialogOk, LoadThatFailsTellsItselfAndTheDialogComesBack) {
-    Texts again;
-    importFiles({damaged_}, {pressOk(), meanwhile([&] { again = items(gridList); })});
-    EXPECT_EQ(messages().size(), 1u);
-    EXPECT_EQ(again, Texts{damaged_});
-    EXPECT_EQ(launches(), 2);
-    EXPECT_FALSE(isAnythingLoaded());
-}
-
-TEST_F(DialogOk, FilesCanBeMendedAfterALoadThatFailed) {
-    importFiles({damaged_},
-                {pressOk(), press(gridRemoveAll), press(gridAddFiles), pick({grid_}), pressOk()});
-    EXPECT_EQ(launches(), 2);
-    EXPECT_EQ(zoneCount(), 1);
-    EXPECT_EQ(host().script().cancelledDialogs(), 0);
 }
 
 TEST_F(DialogOk, EachLaunchTakesALockOfItsOwnAndAllAreGivenBack) {

@@ -43,6 +43,13 @@ TEST_P(FileColumn, RemoveSelectedIsUsableWhileSomethingIsSelected) {
           expectSensitive(removeSelected(), false)});
 }
 
+TEST_P(FileColumn, RefreshSelectsNothing) {
+    retainHere({"a", "b"});
+    open({select(list(), {2}), set(assignStrandToggle, false),
+          expectSensitive(removeSelected(), false),
+          meanwhile([] { EXPECT_TRUE(control(list()).selected.empty()); })});
+}
+
 TEST_P(FileColumn, TwoSelectedItemsAreBothRemovedAndTheButtonIsGreyedAgain) {
     retainHere({"a", "b", "c", "d", "e"});
     open({select(list(), {2, 4}), press(removeSelected()), expectFiles({"a", "c", "e"}),

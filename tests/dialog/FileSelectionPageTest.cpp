@@ -40,15 +40,6 @@ protected:
     }
 };
 
-TEST_F(SelectionPage, ShowsTheDefaultsAtTheFirstLaunch) {
-    open();
-    EXPECT_FALSE(isOn(appendToggle));
-    EXPECT_TRUE(isOn(assignStrandToggle));
-    EXPECT_TRUE(isOn(uniformGridToggle));
-    EXPECT_TRUE(isOn(newStrandPerStepToggle));
-    EXPECT_FALSE(isOn(addToStrandsToggle));
-}
-
 TEST_F(SelectionPage, ShowsTheFilesAndTheNameFile) {
     gLoadOptions.gridFiles = {"a.x", "b.x"};
     gLoadOptions.solutionFiles = {"a.q"};
@@ -141,14 +132,9 @@ TEST_F(SelectionPage, NameFileIsUsableWithAGridFileAndSomethingToName) {
     EXPECT_EQ(with({"a.x"}, {"a.q"}, {}), usable);
     EXPECT_EQ(with({"a.x"}, {}, {"a.f"}), usable);
     EXPECT_EQ(with({"a.x"}, {"a.q"}, {"a.f"}), usable);
+    EXPECT_EQ(with({"a.x"}, {}, {}), greyed);
     EXPECT_EQ(with({}, {"a.q"}, {"a.f"}), greyed);
     EXPECT_EQ(with({}, {}, {}), greyed);
-}
-
-TEST_F(SelectionPage, GridFileAloneLeavesTheNameFileGreyed) {
-    gLoadOptions.gridFiles = {"a.x"};
-    refresh();
-    EXPECT_FALSE(isSensitive(nameFileField));
 }
 
 TEST_F(SelectionPage, NameFileWithoutGridFileIsShownGreyed) {

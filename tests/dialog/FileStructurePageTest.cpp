@@ -32,17 +32,6 @@ protected:
     const std::vector<bool> none_ = std::vector<bool>(5, false);
 };
 
-TEST_F(StructurePage, ShowsTheDefaultsWhenItFirstComesToTheFront) {
-    openHere({});
-    EXPECT_EQ(chosen(fileOrganizationRadio), 1);
-    EXPECT_EQ(chosen(styleMenu), 1);
-    EXPECT_TRUE(isOn(multiGridToggle));
-    EXPECT_EQ(chosen(dataStructureRadio), 4);
-    EXPECT_FALSE(isOn(asciiDoubleToggle));
-    EXPECT_FALSE(isOn(asciiIBlankToggle));
-    EXPECT_TRUE(isOn(sameStructureToggle));
-}
-
 TEST_F(StructurePage, DescriptionIsGreyedWhileDetectionIsAutomaticAndStillShown) {
     gLoadOptions.style = Plot3DStyle_Swift;
     gLoadOptions.isMultiGrid = false;

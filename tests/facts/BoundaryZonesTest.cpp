@@ -5,13 +5,11 @@
 namespace quorvia::testsupport {
 namespace {
 
-using Settings = std::vector<std::pair<std::string, std::string>>;
 using Strands = std::vector<std::int32_t>;
 
 const Settings onStrands = {{"ASSIGNSTRANDIDS", "Yes"}};
 const Settings appended = {{"APPEND", "Yes"}};
 const Texts coordinates = {"X", "Y", "Z"};
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 
 Settings operator+(Settings settings, const Settings& more) {
     settings.insert(settings.end(), more.begin(), more.end());

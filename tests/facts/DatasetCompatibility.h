@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "acceptance/behaviour/Snapshot.h"
@@ -11,9 +10,6 @@
 
 namespace quorvia::testsupport {
 
-using Settings = std::vector<std::pair<std::string, std::string>>;
-
-const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
 const Settings onto = {{"APPEND", "Yes"}};
 
 class DatasetCompatibility : public LoadedAddOnTest {

@@ -11,9 +11,6 @@
 
 namespace quorvia::testsupport {
 
-using Setting = std::pair<std::string, std::string>;
-using Settings = std::vector<Setting>;
-
 const Setting withStrands = {"ASSIGNSTRANDIDS", "Yes"};
 const Setting noStrands = {"ASSIGNSTRANDIDS", "No"};
 const Setting timesOfNames = {"EXTRACTTIMEFROMSOLFILENAMES", "Yes"};

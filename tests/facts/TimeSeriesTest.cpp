@@ -72,17 +72,24 @@ TEST_F(TimeSeries, ThatIsAppendedNumbersOnOrJoins) {
         }
 }
 
+// The second step has one more grid.
 TEST_F(TimeSeries, OfOtherGridFilesThatIsAppendedIsNewForEachStepUnlessItShallJoin) {
     const auto appended = [this](const Settings& settings) {
         afterFresh(steps({1, 2}));
-        const Texts all = after(gridEachStep({1, 2}, settings));
+        Load_s more = gridEachStep({1, 2}, settings);
+        files_.grids.push_back({5, 7, 11});
+        more.gridFiles[1] = files_.grid("more.x");
+        more.solutionFiles[1] = files_.solution("more.q", 2);
+        files_.grids.pop_back();
+        const Texts all = after(more);
         return Texts(all.begin() + 4, all.end());
     };
     EXPECT_EQ(appended({appending, withStrands, differ, newEachStep}),
-              (Texts{"3@1", "4@1", "5@2", "6@2"}));
-    EXPECT_EQ(appended({appending, withStrands, differ, newEachStep, join}), kept);
+              (Texts{"3@1", "4@1", "5@2", "6@2", "7@2"}));
+    EXPECT_EQ(appended({appending, withStrands, differ, newEachStep, join}),
+              (Texts{"1@1", "2@1", "1@2", "2@2", "3@2"}));
     EXPECT_EQ(appended({appending, withStrands, differ, bySize}),
-              (Texts{"3@1", "4@1", "3@2", "4@2"}));
+              (Texts{"3@1", "4@1", "3@2", "4@2", "5@2"}));
 }
 
 TEST_F(TimeSeries, ThatIsAppendedWithoutTheOptionHasNoStrandsEvenIfItShallJoin) {

@@ -4,7 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
+
+#include "instructions/InstructionWords.h"
 
 namespace quorvia::testsupport {
 
@@ -16,7 +19,9 @@ struct FuzzInput_s {
 };
 
 /// Found by trial, whole or in part; and each structure and style described by hand.
-constexpr int readingChoiceCount = 4 + 5 * 4 * 2;
+constexpr int readingChoiceCount =
+    4 + static_cast<int>(std::size(quorutildataio::dataStructureWords) *
+                         std::size(quorutildataio::styleWords) * 2);
 
 /// Two bytes of choices, two of the grid's length, then the files.
 std::string toBytes(const FuzzInput_s& input);

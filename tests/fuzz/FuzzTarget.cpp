@@ -4,6 +4,7 @@
 
 #include "FuzzInput.h"
 #include "addon/AddOnEntry.h"
+#include "instructions/InstructionWords.h"
 #include "session/ReferenceHost.h"
 #include "support/FakeDisk.h"
 
@@ -13,12 +14,16 @@ namespace {
 using Texts = std::vector<std::string>;
 
 Texts descriptionByHand(int choice) {
-    static const char* const structures[] = {"3DW", "3DP", "2D", "1D", "UNSTRUCTURED"};
-    static const char* const styles[] = {"PLOT3DCLASSIC", "PLOT3DFUNCTION", "OVERFLOW", "SWIFT"};
-    return {"AUTODETECT",    "No",
-            "DATASTRUCTURE", structures[choice % 5],
-            "STYLE",         styles[choice / 5 % 4],
-            "ISMULTIGRID",   choice / 20 % 2 == 0 ? "Yes" : "No"};
+    auto takeOneOf = [choice = static_cast<std::size_t>(choice)](auto& words) mutable {
+        const std::size_t place = choice % std::size(words);
+        choice /= std::size(words);
+        return words[place];
+    };
+    constexpr const char* yesAndNo[] = {"Yes", "No"};
+    const char* const structure = takeOneOf(quorutildataio::dataStructureWords).word;
+    const char* const style = takeOneOf(quorutildataio::styleWords).word;
+    return {"AUTODETECT", "No",  "DATASTRUCTURE", structure,
+            "STYLE",      style, "ISMULTIGRID",   takeOneOf(yesAndNo)};
 }
 
 Texts settingsOf(int choice) {

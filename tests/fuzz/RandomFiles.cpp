@@ -1,18 +1,12 @@
 #include "RandomFiles.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace quorvia::testsupport {
 
 using namespace plot3dwriter;
 
 namespace {
-
-double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
-                  std::int32_t k) {
-    return grid + 0.5 * variable + i + 100 * j + 10000 * k;
-}
 
 // Where counts, products and marker rules change their mind.
 constexpr std::int64_t markedIntegers[] = {
@@ -54,14 +48,11 @@ std::int64_t RandomFiles::below(std::int64_t end) {
 }
 
 void RandomFiles::chooseShape() {
-    shape_ = {};
-    shape_.layout = static_cast<Layout_e>(below(5));
+    shape_ = describeGrid({}, static_cast<Layout_e>(below(5)));
     shape_.isMultiGrid = shape_.layout != Layout_e::OneD && below(2) == 0;
-    shape_.value = placeValue;
     shape_.corner = [](std::int32_t, std::int64_t element, std::int32_t corner) {
         return static_cast<std::int32_t>(element + corner) % 2 + 1;
     };
-    shape_.iblank = [](std::int32_t, std::int32_t i, std::int32_t, std::int32_t) { return i % 2; };
     const std::int64_t gridCount = shape_.isMultiGrid ? 1 + below(3) : 1;
     for (std::int64_t grid = 0; grid < gridCount; ++grid) {
         GridDims_s dims{static_cast<std::int32_t>(2 + below(6)), 1, 1};
@@ -83,36 +74,30 @@ void RandomFiles::chooseShape() {
         form_.byteOrder = ByteOrder_e::Little;
 }
 
-std::string RandomFiles::file(FileKind_e kind) {
+FileDescription_s RandomFiles::described(FileKind_e kind) {
     FileDescription_s description = shape_;
     description.kind = kind;
     description.hasIBlank = kind == FileKind_e::Grid && shape_.layout != Layout_e::OneD &&
                             shape_.layout != Layout_e::Unstructured && below(2) == 0;
-    if (kind == FileKind_e::Function || kind == FileKind_e::OverflowSolution)
-        description.numVars = static_cast<std::int32_t>(1 + below(6));
-    if (kind == FileKind_e::OverflowSolution)
-        description.numSpecies = static_cast<std::int32_t>(below(4));
-    const std::vector<double> scalars(static_cast<std::size_t>(scalarCount(description)), 2.0);
-    description.scalars.assign(shape_.grids.size(), scalars);
-    std::string bytes;
-    const WriteOutcome_s outcome = writePlot3DBytes(bytes, description, form_);
-    if (!outcome.problem.empty())
-        throw std::runtime_error(outcome.problem);
-    return bytes;
+    // Where the header tells them.
+    description.numVars = static_cast<std::int32_t>(1 + below(6));
+    description.numSpecies = static_cast<std::int32_t>(below(4));
+    const auto most = static_cast<std::size_t>(scalarCount(description));
+    setScalars(description, Numbers(most, 2.0));
+    return description;
+}
+
+std::string RandomFiles::file(FileKind_e kind) {
+    return bytesOf(described(kind), form_);
 }
 
 FileKind_e RandomFiles::solutionKind() {
-    const bool is3D =
-        shape_.layout == Layout_e::ThreeDWhole || shape_.layout == Layout_e::ThreeDPlanes;
-    const bool hasSwift = shape_.layout != Layout_e::Unstructured;
-    switch (below(3)) {
-    case 0:
-        return is3D ? FileKind_e::OverflowSolution : FileKind_e::ClassicSolution;
-    case 1:
-        return hasSwift ? FileKind_e::SwiftSolution : FileKind_e::ClassicSolution;
-    default:
-        return FileKind_e::ClassicSolution;
-    }
+    std::vector<FileKind_e> kinds;
+    for (const FileKind_e kind : everyKind)
+        if (kind != FileKind_e::Grid && kind != FileKind_e::Function &&
+            findFault(described(kind), form_).empty())
+            kinds.push_back(kind);
+    return kinds[static_cast<std::size_t>(below(std::ssize(kinds)))];
 }
 
 void RandomFiles::damage(std::string& bytes) {

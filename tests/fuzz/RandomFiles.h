@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -20,13 +20,14 @@ public:
     void chooseShape();
     /// A sound file of the kind in the shape chosen last.
     std::string file(plot3dwriter::FileKind_e kind);
-    /// A kind that the shape's layout knows, other than Grid and Function.
+    /// A solution of a style that the shape's layout knows.
     plot3dwriter::FileKind_e solutionKind();
 
     /// Damages the file in one place or a few: counts, markers, tokens, bytes, ends.
     void damage(std::string& bytes);
 
 private:
+    plot3dwriter::FileDescription_s described(plot3dwriter::FileKind_e kind);
     void damageOnce(std::string& bytes);
     void setInteger(std::string& bytes);
     void setToken(std::string& bytes);

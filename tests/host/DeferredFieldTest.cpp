@@ -1,5 +1,6 @@
 // Fields that are fetched on demand, dropped under a budget, and cleaned up exactly once.
 #include "HostFixture.h"
+#include "model/FieldCache.h"
 
 namespace quorvia::host {
 namespace {
@@ -58,6 +59,23 @@ TEST_F(DeferredFieldTest, BudgetDropsTheLeastRecentlyUsed) {
     EXPECT_EQ(a_.loadCount, 1);
     EXPECT_EQ(firstFloat(host().fetch(2, 1)), 20.0F);
     EXPECT_EQ(b_.loadCount, 2);
+}
+
+TEST_F(DeferredFieldTest, StaysWithTheCacheThatHasFetchedIt) {
+    a_.registerAt(1, 1);
+    b_.registerAt(2, 1);
+    FieldStorage& storage = *host().frame().dataSet()->zones()[0]->fields[0].storage;
+    host().fetch(1, 1);
+    host().fetch(2, 1);
+    FieldCache other;
+    EXPECT_TRUE(other.fetch(storage));
+    EXPECT_EQ(other.bytesInMemory(), 0);
+    EXPECT_EQ(a_.loadCount, 1);
+    host().settings().memoryLimitBytes = 2 * fieldBytes;
+    c_.registerAt(3, 1);
+    host().fetch(3, 1); // where the other's fetch counted as a use
+    EXPECT_EQ(a_.unloadCount, 0);
+    EXPECT_EQ(b_.unloadCount, 1);
 }
 
 TEST_F(DeferredFieldTest, LargerThanTheBudgetIsFetchedAlone) {

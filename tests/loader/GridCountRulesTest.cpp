@@ -28,22 +28,6 @@ TEST_F(GridCounts, OfAllFirstFilesAgree) {
     EXPECT_TRUE(agree());
 }
 
-TEST_F(GridCounts, TellSolutionAndGridFilesApart) {
-    add(grids, "a.x", 3);
-    add(solutions, "a.q", 2);
-    EXPECT_FALSE(agree());
-    EXPECT_EQ(messages(), Texts{"The number of grids in the solution files (2) does not match the "
-                                "number of grids in the grid files (3)"});
-}
-
-TEST_F(GridCounts, TellFunctionAndGridFilesApart) {
-    add(grids, "a.x", 3);
-    add(functions, "a.fun", 5);
-    EXPECT_FALSE(agree());
-    EXPECT_EQ(messages(), Texts{"The number of grids in the function files (5) does not match the "
-                                "number of grids in the grid or solution files (3)"});
-}
-
 TEST_F(GridCounts, OfSolutionFilesStandInForMissingGridFiles) {
     add(solutions, "a.q", 2);
     add(functions, "a.fun", 5);

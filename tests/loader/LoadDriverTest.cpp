@@ -281,22 +281,6 @@ TEST_F(LoadDriver, TellsOfTheFirstFileThatIsNotThereAlone) {
     EXPECT_EQ(messages(), (Texts{told, told}));
 }
 
-TEST_F(LoadDriver, RefusesASolutionWithOtherNumbersOfGrids) {
-    useFiles({gridFile("a.x", twoGrids)}, {solutionFile("a.q", {{2, 3, 5}}, 0)});
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"The number of grids in the solution files (1) does not match the "
-                                "number of grids in the grid files (2)"});
-}
-
-TEST_F(LoadDriver, RefusesASolutionOfOtherDimensions) {
-    const std::string solution = solutionFile("a.q", {{2, 3, 5}, {3, 5, 11}}, 0);
-    useFiles({gridFile("a.x", twoGrids)}, {solution});
-    EXPECT_FALSE(load());
-    EXPECT_EQ(messages(), Texts{"Grid 1 in file " + solution +
-                                " does not have the same dimensions as the corresponding grid in "
-                                "the previous datafile."});
-}
-
 // Beside a solution function files are not compared with the grid before they are scanned.
 TEST_F(LoadDriver, NamesAFunctionFileThatDoesNotFitTheGrid) {
     const std::string solution = solutionFile("a.q", twoGrids, 0);

@@ -1,4 +1,5 @@
-// How the files pair up: every rule for g grid, s solution and f function files.
+// How files pair up whose numbers are refused ahead of it, and which sizes are compared. What loads
+// make of their files: tests/facts/FileCountsTest.cpp and HeaderAgreementTest.cpp.
 #include "loader/TimeStepPairing.h"
 #include "LoaderFixture.h"
 #include "support/AllocationFaults.h"
@@ -12,7 +13,6 @@ struct PairingCase_s {
     std::size_t g;
     std::size_t s;
     std::size_t f;
-    bool hasTimes;
     const char* steps; // time steps, each with its files by list and index
 };
 
@@ -52,68 +52,23 @@ protected:
     std::vector<Plot3DFileHandler> handlers;
 };
 
-class Pairing : public TimeSteps, public ::testing::WithParamInterface<PairingCase_s> {};
+class RefusedCounts : public TimeSteps, public ::testing::WithParamInterface<PairingCase_s> {};
 
-TEST_P(Pairing, MakesTheTimeStepsOfItsRule) {
+TEST_P(RefusedCounts, MakeTheTimeStepsThatTheyHaveFilesFor) {
     const PairingCase_s& row = GetParam();
     fillLists(row.g, row.s, row.f);
-    if (row.hasTimes)
-        options.solutionTimes["F0"] = 0.25;
     EXPECT_TRUE(pair());
     EXPECT_EQ(steps(), row.steps);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rules, Pairing,
-    ::testing::Values(
-        // grid files alone
-        PairingCase_s{0, 0, 0, false, ""}, PairingCase_s{1, 0, 0, false, "[G0 -]"},
-        PairingCase_s{2, 0, 0, false, "[G0 -][G1 -]"},
-        // grid and function files
-        PairingCase_s{2, 0, 2, false, "[G0 - F0][G1 - F1]"},
-        PairingCase_s{3, 0, 2, false, "[G0 - F0][G1 - F1]"}, PairingCase_s{2, 0, 3, false, ""},
-        PairingCase_s{1, 0, 2, true, "[G0 - F0][G0 - F1]"},
-        PairingCase_s{1, 0, 2, false, "[G0 - F0 F1]"},
-        // no grid file
-        PairingCase_s{0, 2, 2, false, "[- S0 F0][- S1 F1]"},
-        PairingCase_s{0, 1, 1, false, "[- S0 F0]"}, PairingCase_s{0, 1, 2, false, "[- S0 F0 F1]"},
-        PairingCase_s{0, 1, 0, false, "[- S0]"}, PairingCase_s{0, 2, 0, false, "[- S0][- S1]"},
-        PairingCase_s{0, 0, 2, false, "[- - F0][- - F1]"}, PairingCase_s{0, 2, 3, false, ""},
-        // several grid files
-        PairingCase_s{2, 2, 2, false, "[G0 S0 F0][G1 S1 F1]"},
-        PairingCase_s{2, 2, 3, false, "[G0 S0][G1 S1]"},
-        PairingCase_s{2, 2, 0, false, "[G0 S0][G1 S1]"}, PairingCase_s{2, 3, 3, false, ""},
-        PairingCase_s{3, 2, 0, false, ""},
-        // one grid file for all
-        PairingCase_s{1, 2, 2, false, "[G0 S0 F0][G0 S1 F1]"},
-        PairingCase_s{1, 1, 1, false, "[G0 S0 F0]"},
-        PairingCase_s{1, 3, 0, false, "[G0 S0][G0 S1][G0 S2]"},
-        PairingCase_s{1, 3, 2, false, "[G0 S0][G0 S1][G0 S2]"},
-        PairingCase_s{1, 1, 0, false, "[G0 S0]"},
-        PairingCase_s{1, 1, 5, false, "[G0 S0 F0 F1 F2 F3 F4]"}));
-
-TEST_F(TimeSteps, TakeNoFunctionFileForASolution) {
-    fillLists(1, 1, 0);
-    fill(solutions, "F", 2, Plot3DStyle_Function);
-    EXPECT_FALSE(pair());
-    EXPECT_TRUE(handlers.empty());
-    EXPECT_EQ(messages(), Texts{"File F0 is not a solution file."});
-}
-
-TEST_F(TimeSteps, TakeNoSolutionForAFunctionFile) {
-    fillLists(1, 0, 1);
-    fill(functions, "S", 2, Plot3DStyle_Overflow);
-    EXPECT_FALSE(pair());
-    EXPECT_EQ(messages(), Texts{"File S0 is not a function file."});
-}
-
-TEST_F(TimeSteps, TellOfTheSolutionListFirst) {
-    fillLists(1, 0, 0);
-    fill(solutions, "F", 1, Plot3DStyle_Function);
-    fill(functions, "S", 1, Plot3DStyle_Classic);
-    EXPECT_FALSE(pair());
-    EXPECT_EQ(messages(), Texts{"File F0 is not a solution file."});
-}
+INSTANTIATE_TEST_SUITE_P(Rules, RefusedCounts,
+                         ::testing::Values(PairingCase_s{0, 0, 0, ""}, PairingCase_s{0, 2, 3, ""},
+                                           PairingCase_s{0, 1, 2, "[- S0 F0 F1]"},
+                                           PairingCase_s{2, 0, 3, ""},
+                                           PairingCase_s{3, 0, 2, "[G0 - F0][G1 - F1]"},
+                                           PairingCase_s{2, 2, 3, "[G0 S0][G1 S1]"},
+                                           PairingCase_s{2, 3, 3, ""}, PairingCase_s{3, 2, 0, ""},
+                                           PairingCase_s{1, 3, 2, "[G0 S0][G0 S1][G0 S2]"}));
 
 TEST_F(TimeSteps, AreRefusedInSilenceWithoutMemory) {
     fillLists(1, 2, 0);
@@ -122,24 +77,6 @@ TEST_F(TimeSteps, AreRefusedInSilenceWithoutMemory) {
     EXPECT_FALSE(cancelAllocationFault());
     EXPECT_TRUE(handlers.empty());
     EXPECT_EQ(messages(), Texts());
-}
-
-TEST_F(TimeSteps, CountTheGridThatDiffersFromZero) {
-    fillLists(1, 1, 0);
-    solutions[0]->gridDims[0].k = 7;
-    pair();
-    EXPECT_FALSE(dimensionsAgree());
-    EXPECT_EQ(messages(), Texts{"Grid 0 in file S0 does not have the same dimensions as the "
-                                "corresponding grid in the previous datafile."});
-}
-
-TEST_F(TimeSteps, CompareFunctionFilesWithTheGridIfThereIsNoSolution) {
-    fillLists(1, 0, 2);
-    functions[1]->gridDims[0].i = 7;
-    pair();
-    EXPECT_FALSE(dimensionsAgree());
-    EXPECT_EQ(messages(), Texts{"Grid 0 in file F1 does not have the same dimensions as the "
-                                "corresponding grid in the previous datafile."});
 }
 
 TEST_F(TimeSteps, DoNotCompareFunctionFilesBesideAGridAndASolution) {

@@ -69,6 +69,8 @@ TEST(CommandLine, ASlipInAWordIsTold) {
                      "--as can't be \"gird\"; the nearest known word is \"grid\"");
     expectUsageError({"info", "--progress", "alway", "a.x"},
                      "--progress can't be \"alway\"; the nearest known word is \"always\"");
+    expectUsageError({"render", "--plot", "3D", "a.x"},
+                     "--plot can't be \"3D\"; the nearest known word is \"3d\"");
 }
 
 TEST(CommandLine, AMissingFileIsTold) {

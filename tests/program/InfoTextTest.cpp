@@ -1,4 +1,4 @@
-#include "info/InfoWords.h"
+#include "findings/InfoWords.h"
 #include "program/InfoFixture.h"
 
 namespace plot3d::program {

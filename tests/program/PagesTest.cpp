@@ -1,12 +1,11 @@
 // What is told of a command's options.
 #include "app/Pages.h"
 
-#include <CLI/CLI.hpp>
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
 #include "app/HelpText.h"
-#include "manners/Options.h"
+#include "options/OptionTable.h"
 
 namespace plot3d::program {
 namespace {
@@ -17,14 +16,12 @@ public:
     const char* purpose() const override { return "Sort what there is"; }
     const char* examples() const override { return "  plot3d sort a.x\n      sorted\n"; }
     const char* failureMeans() const override { return "nothing to sort"; }
-    void declare(CLI::App& app) override {
-        addFiles(app, files, "What is sorted");
-        addOutput(app, output, overwrites, "Where it goes");
-        app.add_option("--count", count, "How many,\nat most")
-            ->type_name("COUNT")
-            ->check(CLI::Range(1, 9));
-        app.add_option("--by", by, "By what")->type_name("name|size");
-        app.add_flag("--internal", overwrites, "Not for users")->group("");
+    void declare(OptionTable& table) override {
+        table.files(files, "What is sorted");
+        table.output(output, overwrites, "Where it goes").required();
+        table.number("--count", count, "COUNT", "How many,\nat most");
+        table.text("--by", by, "name|size", "By what");
+        table.flag("--internal", overwrites, "Not for users").hidden();
     }
     void takeApart(std::vector<std::string>& arguments) override {
         if (!arguments.empty() && arguments.back() == "--")
@@ -63,8 +60,8 @@ TEST_F(PagesTest, UsageNamesWhatMustBeGiven) {
 
 class Comparing : public Sorting {
 public:
-    void declare(CLI::App& app) override {
-        addFiles(app, files, "What is compared")->type_name("FILE -- FILE");
+    void declare(OptionTable& table) override {
+        table.files(files, "What is compared", "FILE -- FILE");
     }
 };
 

@@ -9,6 +9,7 @@
 #include <vtkUnsignedCharArray.h>
 
 #include "PictureFixture.h"
+#include "annotation/LinePlot.h"
 #include "stage/Stage.h"
 
 namespace plot3dtest {
@@ -35,6 +36,10 @@ protected:
         vtkNew<vtkUnsignedCharArray> colours;
         window_->GetPixelData(0, 0, 479, 359, 0, colours);
         return {colours->GetPointer(0), colours->GetPointer(0) + colours->GetNumberOfValues()};
+    }
+    std::vector<unsigned char> pixels() {
+        window_->Render();
+        return readAll();
     }
     std::optional<Picked_s> pickAt(double x, double y, double z) {
         const auto [column, row] = pixelOf(*stage_->content(), x, y, z);
@@ -66,6 +71,33 @@ TEST_F(PickTest, TellsNothingBesideTheSurfaces) {
     const DataSet data = opened({"cylinder"});
     show(prepared(data, smallView()));
     EXPECT_FALSE(stage_->pick(2, 2));
+}
+
+TEST_F(PickTest, TellsThePointOfACurve) {
+    const DataSet data = opened({"shocktube"});
+    const Content content = prepared(data, smallView());
+    show(content);
+    const auto& curve = content->curves.at(0);
+    constexpr std::size_t point = 40;
+    const auto pixel =
+        plot3d::scene::LinePlot(*content, plot3d::scene::layoutOf(*content, 480, 360))
+            .pixelOf(curve.abscissas[point], curve.ordinates[point]);
+    const auto picked = stage_->pick((*pixel)[0], (*pixel)[1]);
+    ASSERT_TRUE(picked);
+    EXPECT_EQ(picked->zone, curve.zone);
+    EXPECT_EQ(picked->place, (plot3d::scene::Place_s{point, 0, 0}));
+    EXPECT_EQ(picked->value, data.values(curve.zone, data.variable(content->view.colour))[point]);
+    EXPECT_FALSE(stage_->pick(2, 2));
+}
+
+TEST_F(PickTest, MarksThePointOfACurve) {
+    const DataSet data = opened({"shocktube"});
+    const Content content = prepared(data, smallView());
+    show(content);
+    const auto before = pixels();
+    const auto& curve = content->curves.at(0);
+    stage_->mark(plot3d::scene::Vector3{curve.abscissas[40], curve.ordinates[40], 0});
+    EXPECT_NE(pixels(), before);
 }
 
 TEST_F(PickTest, TellsThePointAlsoFromTheCoarseSurfaces) {
@@ -127,10 +159,6 @@ TEST_F(PickTest, DrawsLinesInTheInkOfTheBackground) {
 TEST_F(PickTest, MarksAPoint) {
     const DataSet data = opened({"vortex", "--steps", "1"});
     show(prepared(data, smallView()));
-    const auto pixels = [&] {
-        window_->Render();
-        return readAll();
-    };
     const auto before = pixels();
     stage_->mark(plot3d::scene::Vector3{0, 0, 0});
     EXPECT_NE(pixels(), before);

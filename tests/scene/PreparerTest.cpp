@@ -6,6 +6,7 @@
 #include <plot3d/Error.h>
 
 #include "SceneFixture.h"
+#include "support/BytesRead.h"
 
 namespace plot3dtest {
 namespace {
@@ -13,6 +14,8 @@ namespace {
 using plot3d::scene::PlotKind_e;
 using plot3d::scene::Preparer;
 using plot3d::scene::RangeOver_e;
+
+using quorvia::testsupport::bytesReadSoFar;
 
 using PreparerTest = SceneTest;
 
@@ -23,6 +26,16 @@ TEST_F(PreparerTest, ChoosesWhatTheViewLeavesOpen) {
     EXPECT_EQ(prepared(opened({"vortex"}))->view.plot, PlotKind_e::Plane);
     const DataSet tube = opened({"shocktube"});
     EXPECT_EQ(prepared(tube)->view.plot, PlotKind_e::Lines);
+}
+
+TEST_F(PreparerTest, ReadsNoMoreThanThePlaneThatIsShown) {
+    const DataSet data = numbered({64, 64, 64});
+    constexpr std::int64_t planeBytes = 4 * 64 * 64 * 4; // three coordinates and a function
+    const std::int64_t before = bytesReadSoFar();
+    const Content content = prepared(data, viewOf("k=17"));
+    EXPECT_EQ(content->parts.at(0).mesh->pointCount(), 64 * 64);
+    EXPECT_GE(bytesReadSoFar() - before, planeBytes);
+    EXPECT_LT(bytesReadSoFar() - before, planeBytes + 4096);
 }
 
 TEST_F(PreparerTest, DrawsAGridAloneByItsLines) {

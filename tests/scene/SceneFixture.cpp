@@ -8,12 +8,10 @@
 #include <plot3d/FileNames.h>
 
 #include "plot3dsample/Run.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 #include "view/ViewWords.h"
 
 namespace plot3dtest {
-
-namespace writer = quorvia::plot3dwriter;
 
 std::vector<std::string> SceneTest::sample(std::vector<std::string> words) const {
     const std::filesystem::path target = folder_.file(words.front() + std::to_string(words.size()));
@@ -31,9 +29,10 @@ std::vector<std::string> SceneTest::sample(std::vector<std::string> words) const
 
 DataSet SceneTest::numbered(const plot3d::Extent& size,
                             const std::vector<plot3d::Extent>& blanked) const {
-    writer::FileDescription_s grid;
-    grid.grids = {{static_cast<std::int32_t>(size.i), static_cast<std::int32_t>(size.j),
-                   static_cast<std::int32_t>(size.k)}};
+    const quorvia::testsupport::GridList grids = {{static_cast<std::int32_t>(size.i),
+                                                   static_cast<std::int32_t>(size.j),
+                                                   static_cast<std::int32_t>(size.k)}};
+    auto grid = quorvia::testsupport::describeGrid(grids);
     grid.hasIBlank = !blanked.empty();
     grid.value = [](std::int32_t, std::int32_t axis, std::int32_t i, std::int32_t j,
                     std::int32_t k) {
@@ -42,14 +41,11 @@ DataSet SceneTest::numbered(const plot3d::Extent& size,
     grid.iblank = [blanked](std::int32_t, std::int32_t i, std::int32_t j, std::int32_t k) {
         return std::count(blanked.begin(), blanked.end(), plot3d::Extent{i, j, k}) > 0 ? 0 : 1;
     };
-    writer::FileDescription_s function = grid;
-    function.kind = writer::FileKind_e::Function;
-    function.hasIBlank = false;
-    function.numVars = 1;
+    auto function = quorvia::testsupport::describeFunction(grids, 1);
     function.value = [](std::int32_t, std::int32_t, std::int32_t i, std::int32_t j,
                         std::int32_t k) { return i + 100.0 * j + 10000.0 * k; };
-    writer::writePlot3DFile(folder_.file("numbered.x"), grid, {});
-    writer::writePlot3DFile(folder_.file("numbered.f"), function, {});
+    quorvia::testsupport::writeFile(folder_.file("numbered.x"), grid);
+    quorvia::testsupport::writeFile(folder_.file("numbered.f"), function);
     return DataSet::open({folder_.file("numbered.x"), folder_.file("numbered.f")});
 }
 

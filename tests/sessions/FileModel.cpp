@@ -5,6 +5,8 @@
 
 #include <fmt/core.h>
 
+#include "support/SmallFiles.h"
+
 namespace quorvia::sessions {
 
 using namespace plot3dwriter;
@@ -12,19 +14,14 @@ using namespace plot3dwriter;
 namespace {
 
 FileDescription_s contentsOf(const FileModel_s& file) {
-    FileDescription_s contents;
-    contents.kind = file.kind;
-    contents.layout = file.layout;
+    FileDescription_s contents = testsupport::describe(
+        file.kind, file.grids, file.layout,
+        [&file](std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
+                std::int32_t k) { return valueAt(file, grid, variable, i, j, k); });
     contents.isMultiGrid = file.isMultiGrid;
     contents.hasIBlank = file.hasIBlank;
-    contents.grids = file.grids;
     contents.numVars = file.variableCount(); // where the header tells it
-    std::vector<double> scalars = {0.5, 2.0, 1000.0, file.time, 7.0, 8.0, 9.0, 10.0};
-    scalars.resize(static_cast<std::size_t>(scalarCount(contents)));
-    contents.scalars.assign(file.grids.size(), scalars);
-    contents.value = [&file](std::int32_t grid, std::int32_t variable, std::int32_t i,
-                             std::int32_t j,
-                             std::int32_t k) { return valueAt(file, grid, variable, i, j, k); };
+    testsupport::setScalars(contents, {0.5, 2.0, 1000.0, file.time, 7.0, 8.0, 9.0, 10.0});
     contents.iblank = [&file](std::int32_t grid, std::int32_t i, std::int32_t j, std::int32_t k) {
         return iBlankAt(file, grid, i, j, k);
     };
@@ -87,9 +84,7 @@ std::int32_t nodeAt(const FileModel_s& file, std::int32_t grid, std::int64_t ele
 
 void write(const FileModel_s& file, const std::string& folder) {
     const std::string path = folder + "/" + file.name;
-    const WriteOutcome_s outcome = writePlot3DFile(path, contentsOf(file), file.form);
-    if (!outcome.problem.empty())
-        throw std::runtime_error(outcome.problem);
+    testsupport::writeFile(path, contentsOf(file), file.form);
     if (!file.boundaries.empty())
         writeBoundaries(file, path + ".fvbnd");
 }

@@ -13,13 +13,20 @@
 
 namespace quorvia::testsupport {
 
+/// Key and value of what a load is told beside its files.
+using Setting = std::pair<std::string, std::string>;
+using Settings = std::vector<Setting>;
+
+/// The variables of a grid in three dimensions with a classic solution.
+inline const Texts gridAndSolution = {"X", "Y", "Z", "RHO", "RHO-U", "RHO-V", "RHO-W", "E"};
+
 /// The files of one load and what else it is told.
 struct Load_s {
     Texts gridFiles = {};
     Texts solutionFiles = {};
     Texts functionFiles = {};
-    std::string nameFile = {};                                      // empty: none
-    std::vector<std::pair<std::string, std::string>> settings = {}; // key and value, in this order
+    std::string nameFile = {}; // empty: none
+    Settings settings = {};    // in this order
 };
 
 /// The load as a list of instructions: the head of the standard syntax, the files, the settings.

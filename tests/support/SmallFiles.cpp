@@ -1,6 +1,7 @@
 #include "support/SmallFiles.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace quorvia::testsupport {
 
@@ -12,7 +13,7 @@ const GridList surfaceGrids = {{7, 5, 0}};
 
 FileDescription_s describeFlow(const GridList& grids, double time, Layout_e layout) {
     FileDescription_s description = describe(FileKind_e::ClassicSolution, grids, layout);
-    description.scalars.assign(grids.size(), {0.5, 2.0, 1000.0, time});
+    setScalars(description, {0.5, 2.0, 1000.0, time});
     return description;
 }
 
@@ -32,18 +33,25 @@ std::int32_t placeIBlank(std::int32_t grid, std::int32_t i, std::int32_t j, std:
     return 1 + i + 2 * j + 3 * k - 16 * grid;
 }
 
-FileDescription_s describe(FileKind_e kind, const GridList& grids, Layout_e layout) {
+FileDescription_s describe(FileKind_e kind, const GridList& grids, Layout_e layout,
+                           plot3dwriter::ValueFunction value) {
     FileDescription_s description;
     description.kind = kind;
     description.layout = layout;
     description.isMultiGrid = grids.size() > 1;
     description.grids = grids;
-    description.value = placeValue;
+    description.value = std::move(value);
     description.iblank = placeIBlank;
     description.corner = [](std::int32_t, std::int64_t element, std::int32_t corner) {
         return static_cast<std::int32_t>(element) + corner + 1;
     };
     return description;
+}
+
+void setScalars(FileDescription_s& description, const Numbers& first) {
+    Numbers scalars = first;
+    scalars.resize(static_cast<std::size_t>(scalarCount(description)));
+    description.scalars.assign(description.grids.size(), scalars);
 }
 
 FileDescription_s describeGrid(const GridList& grids, Layout_e layout) {
@@ -104,13 +112,20 @@ FileForm_s text() {
     return formOf(Encoding_e::Text);
 }
 
-std::vector<FileForm_s> everyEncoding() {
-    std::vector<FileForm_s> forms = {text()};
+std::vector<FileForm_s> everyEncoding(Precision_e precision) {
+    std::vector<FileForm_s> forms = {formOf(Encoding_e::Text, ByteOrder_e::Little, precision)};
     for (const ByteOrder_e order : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-        forms.push_back(binary(order));
+        forms.push_back(binary(order, precision));
         for (const std::int32_t markerBytes : {4, 8})
-            forms.push_back(formOf(Encoding_e::Fortran, order, Precision_e::Single, markerBytes));
+            forms.push_back(formOf(Encoding_e::Fortran, order, precision, markerBytes));
     }
+    return forms;
+}
+
+std::vector<FileForm_s> everyForm() {
+    std::vector<FileForm_s> forms = everyEncoding(Precision_e::Single);
+    for (const FileForm_s& form : everyEncoding(Precision_e::Double))
+        forms.push_back(form);
     return forms;
 }
 

@@ -21,6 +21,15 @@ using plot3dwriter::Precision_e;
 using GridList = std::vector<GridDims_s>;
 using Numbers = std::vector<double>;
 
+// ---- What there is
+
+/// A test holds them against the styles (plot3dfile/structure/StyleRulesTest.cpp).
+inline constexpr FileKind_e everyKind[] = {FileKind_e::Grid, FileKind_e::ClassicSolution,
+                                           FileKind_e::SwiftSolution, FileKind_e::OverflowSolution,
+                                           FileKind_e::Function};
+inline constexpr Layout_e everyDimension[] = {Layout_e::OneD, Layout_e::TwoD, Layout_e::ThreeDWhole,
+                                              Layout_e::ThreeDPlanes, Layout_e::Unstructured};
+
 // ---- What stands at a place: grid, variable and indices from 0
 
 /// Exact in 32 bits, and different at each place as long as no direction has over ten points.
@@ -34,7 +43,10 @@ std::int32_t placeIBlank(std::int32_t grid, std::int32_t i, std::int32_t j, std:
 /// Values, I-blank and corners (element + corner + 1, from 0: a grid needs as many nodes) are told;
 /// scalars and counts of variables are not.
 FileDescription_s describe(FileKind_e kind, const GridList& grids,
-                           Layout_e layout = Layout_e::ThreeDWhole);
+                           Layout_e layout = Layout_e::ThreeDWhole,
+                           plot3dwriter::ValueFunction value = placeValue);
+/// As many scalars as a file of its kind has, the same for each grid: of `first`, then zeros.
+void setScalars(FileDescription_s& description, const Numbers& first);
 FileDescription_s describeGrid(const GridList& grids, Layout_e layout = Layout_e::ThreeDWhole);
 /// Each grid has the scalars Mach 0.25 + its number from 1, alpha 2, Reynolds 3E6, and the time.
 FileDescription_s describeSolution(const GridList& grids, double time,
@@ -56,9 +68,10 @@ FileForm_s binary(ByteOrder_e byteOrder = ByteOrder_e::Little,
 FileForm_s fortran(ByteOrder_e byteOrder = ByteOrder_e::Little,
                    Precision_e precision = Precision_e::Single);
 FileForm_s text();
-/// Text, plain binary and Fortran records of both widths, the binary ones in both byte orders; of
-/// 32-bit reals.
-std::vector<FileForm_s> everyEncoding();
+/// Text, plain binary and Fortran records of both widths, the binary ones in both byte orders.
+std::vector<FileForm_s> everyEncoding(Precision_e precision = Precision_e::Single);
+/// Every encoding of 32-bit reals, then of 64-bit ones: 14 in all.
+std::vector<FileForm_s> everyForm();
 
 // ---- Writing. Throws std::runtime_error with the writer's problem, which fails the test.
 

@@ -24,6 +24,9 @@ public:
         std::function<void(std::size_t zone)> picked;
         /// There is a picture, or there is none any more.
         std::function<void()> changed;
+        /// A view that was opened is in the picture: numbers of its zones from 1, none for all but
+        /// boundary zones.
+        std::function<void(const std::vector<std::size_t>& zones)> opened;
     };
     /// Numbers from 1, ascending; nothing stands for all but boundary zones.
     using ZoneChoice = std::optional<std::vector<std::size_t>>;
@@ -46,6 +49,13 @@ public:
     virtual bool hasPicture() const = 0;
     /// As PNG, as it is seen. False (not told): there is none, or it can't be written.
     [[nodiscard]] virtual bool savePicture(const QString& file) = 0;
+    /// What is in the picture, as it is seen: JSON of schema "plot3d.view/1", with the picture's
+    /// size in pixels. Empty: there is none.
+    virtual std::string viewText() const = 0;
+    /// The view that such a text describes, in place of what was shown. Gives why it is no view;
+    /// empty if it is one. What the data set doesn't have is told below the picture, which then
+    /// stays as it is.
+    [[nodiscard]] virtual std::string showView(const std::string& text) = 0;
 
 protected:
     using QWidget::QWidget;

@@ -25,6 +25,8 @@ public:
     std::string colour() const override { return {}; }
     bool hasPicture() const override { return false; }
     bool savePicture(const QString&) override { return false; }
+    std::string viewText() const override { return {}; }
+    std::string showView(const std::string&) override { return "there is no picture"; }
 };
 
 } // namespace

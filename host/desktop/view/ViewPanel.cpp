@@ -8,8 +8,13 @@
 #include <QSurfaceFormat>
 #include <QVBoxLayout>
 
+#include <vtkRenderWindow.h>
+
+#include <plot3d/Error.h>
+
 #include "content/Choices.h"
 #include "desktop/Texts.h"
+#include "view/ViewJson.h"
 
 namespace quorvia::host {
 
@@ -193,7 +198,7 @@ void ViewPanel::showDataSet(std::shared_ptr<const DataSet> data, const std::stri
     data_ = std::move(data);
     preparer_ = data_ ? std::make_shared<plot3d::scene::Preparer>(*data_) : nullptr;
     isNew_ = true;
-    hasNoZone_ = false;
+    hasNoZone_ = isOpening_ = false;
     wanted_ = taken_ = {};
     fixedRanges_.clear();
     values_->clear();
@@ -243,6 +248,30 @@ bool ViewPanel::savePicture(const QString& file) {
     return picture.save(file, "PNG");
 }
 
+std::string ViewPanel::viewText() const {
+    if (!hasPicture())
+        return {};
+    View_s view = taken_;
+    view.camera = scene_->stage().camera();
+    const int* pixels = scene_->renderWindow()->GetSize();
+    view.size = {pixels[0], pixels[1]};
+    return plot3d::scene::toJson(view);
+}
+
+std::string ViewPanel::showView(const std::string& text) {
+    if (!data_)
+        return "there is no data set";
+    try {
+        View_s view = plot3d::scene::viewFromJson(text);
+        isOpening_ = true;
+        hasNoZone_ = false;
+        want(std::move(view));
+        return {};
+    } catch (const plot3d::Error& refused) {
+        return refused.message();
+    }
+}
+
 void ViewPanel::chooseStep(int step) {
     View_s view = wanted_;
     view.time = data_->timeSteps()[static_cast<std::size_t>(step)].time;
@@ -271,20 +300,29 @@ void ViewPanel::take(std::shared_ptr<const SceneContent_s> content, const View_s
     taken_ = view;
     scene_->mark(std::nullopt);
     scene_->showContent(std::move(content));
-    if (std::exchange(isNew_, false))
+    const bool isOpened = std::exchange(isOpening_, false);
+    if (std::exchange(isNew_, false) || isOpened)
         scene_->resetCamera();
     if (taken_.range)
         fixedRanges_[this->content()->colourName] = *taken_.range;
     else
         fixedRanges_.erase(this->content()->colourName);
     turnTo(scene_);
+    if (isOpened)
+        told_.opened(view.zones);
     showChoices();
     showState();
 }
 
 void ViewPanel::stayAsBefore(const std::optional<std::string>& failure) {
     times_->play(false);
+    View_s first; // as new data are shown at first
+    first.zones = wanted_.zones;
+    if (isNew_ && failure && std::exchange(isOpening_, false) && wanted_ != first)
+        return want(std::move(first));
     wanted_ = taken_;
+    isOpening_ = false;
+    hasNoZone_ = !isNew_ && !hasPicture();
     if (isNew_)
         say(failure.value_or("Cancelled."));
     else if (failure)

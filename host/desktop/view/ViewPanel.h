@@ -36,6 +36,8 @@ public:
     std::string colour() const override;
     bool hasPicture() const override { return pages_->currentWidget() == scene_; }
     bool savePicture(const QString& file) override;
+    std::string viewText() const override;
+    std::string showView(const std::string& text) override;
 
     /// What is in the picture; null for nothing. It may be older than what was asked for last.
     const plot3d::scene::SceneContent_s* content() const { return scene_->stage().content(); }
@@ -84,6 +86,7 @@ private:
     std::map<std::string, plot3d::scene::Range_s> fixedRanges_;
     bool isNew_ = true;      // nothing of the data set was in the picture yet
     bool hasNoZone_ = false; // the user wants to see none
+    bool isOpening_ = false; // what is wanted was opened, with its camera
     LatestWork prepare_;
     LatestWork read_; // last, with prepare_: their threads end first
 };

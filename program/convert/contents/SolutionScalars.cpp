@@ -4,12 +4,11 @@
 #include <memory>
 
 #include "convert/contents/NumberInput.h"
+#include "convert/contents/StyleForm.h"
 
 namespace plot3d::program {
 
 namespace {
-
-constexpr std::size_t overflowInteger = 7; // the one scalar that is an integer, from 0
 
 int dimensionCount(Layout layout) {
     if (layout == Layout::OneD)
@@ -21,7 +20,8 @@ class Reading {
 public:
     Reading(const FileInfo& info, const std::stop_token& stop)
         : info_(info), layout_(info.layout.value_or(Layout::ThreeDWhole)),
-          isOverflow_(info.style == Style::Overflow), numbers_(openNumbers(info, stop)) {}
+          form_(styleForm(info.style.value_or(Style::Classic))), numbers_(openNumbers(info, stop)) {
+    }
 
     SolutionScalars_s run() {
         passHeader();
@@ -42,7 +42,7 @@ private:
         for (std::size_t grid = 0; grid < info_.grids.size(); ++grid)
             for (int place = 0; place < dimensionCount(layout_); ++place)
                 numbers_->nextInteger();
-        if (isOverflow_) {
+        if (form_.variableCount == VariableCount_e::OfFile) {
             numbers_->nextInteger(); // variables
             scalars_.speciesCount = numbers_->nextInteger();
         }
@@ -51,11 +51,11 @@ private:
 
     std::vector<double> readScalars() {
         std::vector<double> scalars;
-        for (int place = 0; place < expectedCount(); ++place)
-            scalars.push_back(isOverflow_ && place == static_cast<int>(overflowInteger)
-                                  ? numbers_->nextInteger()
-                                  : numbers_->nextReal());
-        while (isOverflow_ && numbers_->realsLeft() > 0)
+        const auto count = static_cast<std::size_t>(expectedCount());
+        while (scalars.size() < count)
+            scalars.push_back(scalars.size() == form_.integerScalar ? numbers_->nextInteger()
+                                                                    : numbers_->nextReal());
+        while (form_.hasSpecies && numbers_->realsLeft() > 0)
             scalars.push_back(numbers_->nextReal());
         return scalars;
     }
@@ -78,28 +78,12 @@ private:
 
     const FileInfo& info_;
     Layout layout_;
-    bool isOverflow_;
+    StyleForm_s form_;
     std::unique_ptr<NumberInput> numbers_;
     SolutionScalars_s scalars_;
 };
 
 } // namespace
-
-int scalarCount(Style style, Layout layout, int speciesCount) {
-    constexpr int ofClassic = 4;
-    if (layout == Layout::OneD)
-        return ofClassic;
-    switch (style) {
-    case Style::Swift:
-        return 5;
-    case Style::Overflow:
-        return 11 + std::max(speciesCount, 2);
-    case Style::Classic:
-    case Style::Function:
-        break; // the compiler asks for every style
-    }
-    return ofClassic;
-}
 
 SolutionScalars_s readSolutionScalars(const FileInfo& info, const std::stop_token& stop) {
     return Reading(info, stop).run();

@@ -14,9 +14,6 @@ struct SolutionScalars_s {
     std::vector<std::vector<double>> ofGrid; // by grid, from 0
 };
 
-/// How many a grid has: of Overflow at least so many. The styles have four in 1-D.
-int scalarCount(Style style, Layout layout, int speciesCount);
-
 /// `info` is what the file was found to be: a solution file that is ok. A text file is read up to
 /// the scalars of its last grid. Throws Error (Unreadable, Interrupted).
 SolutionScalars_s readSolutionScalars(const FileInfo& info, const std::stop_token& stop);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "convert/contents/SolutionScalars.h"
+#include "convert/contents/StyleForm.h"
 
 namespace plot3d::program {
 
@@ -89,7 +90,8 @@ void addScalars(const DataSet& data, const Watch& watch, SourceFacts_s& facts) {
 /// Species have names of their own, as many as the header says, whether or not they have values.
 int namedVariables(const FileInfo& info, int speciesCount) {
     constexpr int aheadOfSpecies = 6;
-    const bool hasSpecies = info.style == Style::Overflow && info.variables >= aheadOfSpecies;
+    const bool hasSpecies = styleForm(info.style.value_or(Style::Classic)).hasSpecies &&
+                            info.variables >= aheadOfSpecies;
     return hasSpecies ? std::max(info.variables, aheadOfSpecies + speciesCount) : info.variables;
 }
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <memory>
 
-#include "convert/contents/SolutionScalars.h"
+#include "convert/contents/StyleForm.h"
 #include "convert/contents/ValueConversion.h"
 #include "convert/plot3d/NumberOutput.h"
 
@@ -12,10 +12,18 @@ namespace plot3d::program {
 
 namespace {
 
-constexpr std::size_t overflowInteger = 7; // the one scalar that is an integer, from 0
-
-bool isOverflow(const FilePlan_s& plan) {
-    return plan.kind == FileKind::Solution && plan.style == Style::Overflow;
+StyleForm_s styleFormOf(const FilePlan_s& plan) {
+    switch (plan.kind) {
+    case FileKind::Solution:
+        return styleForm(plan.style);
+    case FileKind::Function:
+        return styleForm(Style::Function);
+    case FileKind::Grid:
+    case FileKind::Boundary:
+    case FileKind::Name:
+        break;
+    }
+    return {};
 }
 
 /// Readers take text for a solution whose first line of values has 4 or 5 of them.
@@ -29,7 +37,7 @@ int tokensPerLine(const Contents& contents, const FilePlan_s& plan) {
 class Walk {
 public:
     Walk(Contents& contents, const FilePlan_s& plan, ByteOutput& out)
-        : contents_(contents), plan_(plan), out_(out),
+        : contents_(contents), plan_(plan), style_(styleFormOf(plan)), out_(out),
           numbers_(makeNumberOutput(out, plan.form, tokensPerLine(contents, plan))) {}
 
     void run() {
@@ -57,7 +65,7 @@ private:
         std::vector<std::vector<std::int32_t>> lines;
         for (const std::size_t zone : plan_.zones)
             lines.push_back(headerIntegers(facts(zone)));
-        if (isOverflow(plan_))
+        if (style_.variableCount == VariableCount_e::OfFile)
             lines.push_back({variableCount(), plan_.speciesCount});
         std::int64_t count = 0;
         for (const std::vector<std::int32_t>& line : lines)
@@ -80,7 +88,7 @@ private:
             sizes.resize(1);
         else if (plan_.form.layout == Layout::TwoD)
             sizes.resize(2);
-        if (plan_.kind == FileKind::Function)
+        if (style_.variableCount == VariableCount_e::OfEachGrid)
             sizes.push_back(variableCount());
         std::vector<std::int32_t> integers;
         for (const std::int64_t size : sizes)
@@ -101,11 +109,11 @@ private:
         const std::vector<double> scalars = scalarsOf(zone);
         const auto count = static_cast<std::int64_t>(scalars.size());
         const std::int64_t narrower =
-            isOverflow(plan_) ? width(plan_.form.precision) - width(ValueType::Int32) : 0;
+            style_.integerScalar ? width(plan_.form.precision) - width(ValueType::Int32) : 0;
         numbers_->beginRecord(count * width(plan_.form.precision) - narrower);
         numbers_->beginRun(Run_e::OneLine);
         for (std::size_t place = 0; place < scalars.size(); ++place)
-            putScalar(scalars[place], isOverflow(plan_) && place == overflowInteger);
+            putScalar(scalars[place], place == style_.integerScalar);
         numbers_->endRun();
         numbers_->endRecord();
     }
@@ -114,7 +122,7 @@ private:
     std::vector<double> scalarsOf(std::size_t zone) const {
         std::vector<double> scalars = facts(zone).scalars;
         const auto expected = static_cast<std::size_t>(scalarCount(plan_));
-        const bool mayHaveMore = isOverflow(plan_) && plan_.form.encoding == Encoding::Fortran;
+        const bool mayHaveMore = style_.hasSpecies && plan_.form.encoding == Encoding::Fortran;
         if (scalars.size() < expected || !mayHaveMore)
             scalars.resize(expected, 0.0);
         return scalars;
@@ -211,7 +219,7 @@ private:
 
     /// The bytes by which readers want an Overflow file in plain binary to be longer.
     void writeTail() {
-        if (!isOverflow(plan_) || plan_.form.encoding != Encoding::Binary)
+        if (!style_.hasSpecies || plan_.form.encoding != Encoding::Binary)
             return;
         const bool isDouble = plan_.form.precision == ValueType::Float64;
         out_.write(std::string(isDouble ? 16 + 4 * plan_.zones.size() : 8, '\0'));
@@ -219,6 +227,7 @@ private:
 
     Contents& contents_;
     const FilePlan_s& plan_;
+    StyleForm_s style_;
     ByteOutput& out_;
     std::unique_ptr<NumberOutput> numbers_;
     std::vector<std::uint64_t> values_;

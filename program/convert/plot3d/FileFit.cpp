@@ -5,6 +5,8 @@
 
 #include <plot3d/Error.h>
 
+#include "convert/contents/StyleForm.h"
+
 namespace plot3d::program {
 
 namespace {
@@ -33,8 +35,8 @@ void refuseUnfitVariables(const FilePlan_s& plan) {
                std::to_string(coordinates) + " coordinates, and there are " +
                std::to_string(count));
     // Density and energy stand on either side of the momentum.
-    if (plan.kind == FileKind::Solution && plan.style != Style::Overflow &&
-        count != coordinates + 2)
+    const bool isFixed = styleForm(plan.style).variableCount == VariableCount_e::OfLayout;
+    if (plan.kind == FileKind::Solution && isFixed && count != coordinates + 2)
         refuse("a solution file in the layout " + wordOf(plan.form.layout) + " has " +
                std::to_string(coordinates + 2) + " variables, and there are " +
                std::to_string(count));

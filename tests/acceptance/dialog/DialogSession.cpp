@@ -77,17 +77,8 @@ const Json& listOf(const Json& outcome, const std::string& column) {
     return nthControl(outcome, selectionPage, "list", placeOf(column));
 }
 
-const Json& buttonOf(const Json& outcome, const std::string& caption, const std::string& column) {
-    return nthControl(outcome, selectionPage, "button", placeOf(column), caption);
-}
-
 bool isOn(const Json& outcome, const char* page, const std::string& caption) {
     return control(outcome, page, "toggle", caption)["value"];
-}
-
-bool isSensitive(const Json& outcome, const char* page, const std::string& kind,
-                 const std::string& caption) {
-    return control(outcome, page, kind, caption)["sensitive"];
 }
 
 const Json& DialogSession::shownAfter(const Texts& files, Actions actions) {

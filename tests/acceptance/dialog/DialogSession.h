@@ -1,4 +1,5 @@
-// Sessions at the load dialog: what a user does there, and what it shows.
+// Sessions at the load dialog: what a user does there, and what it shows. When each control can be
+// used, and what it stores, is told by tests/dialog.
 #pragma once
 
 #include <string>
@@ -40,10 +41,7 @@ const Json& control(const Json& outcome, const char* page, const std::string& ki
 const Json& nthControl(const Json& outcome, const char* page, const std::string& kind,
                        std::size_t number, const std::string& caption = "");
 const Json& listOf(const Json& outcome, const std::string& column);
-const Json& buttonOf(const Json& outcome, const std::string& caption, const std::string& column);
 bool isOn(const Json& outcome, const char* page, const std::string& caption);
-bool isSensitive(const Json& outcome, const char* page, const std::string& kind,
-                 const std::string& caption = "");
 
 class DialogSession : public MacroSession {
 protected:

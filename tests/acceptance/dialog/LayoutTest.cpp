@@ -142,17 +142,6 @@ TEST_F(DialogLayout, HelpTellsOfEveryToggle) {
                 << row.caption;
 }
 
-TEST_F(DialogLayout, ListsAllowSeveralItems) {
-    const Texts files = {series_.grid("a.x"),        series_.grid("b.x"),
-                         series_.solution("a.q", 1), series_.solution("b.q", 2),
-                         series_.function("a.f", 2), series_.function("b.f", 2)};
-    const Json& shown =
-        shownAfter(files, {selectItems({1, 2}, "Grid"), selectItems({1, 2}, "Solution"),
-                           selectItems({1, 2}, "Function")});
-    for (const char* column : {"Grid", "Solution", "Function"})
-        EXPECT_EQ(listOf(shown, column)["selected"], Json({1, 2})) << column;
-}
-
 TEST_F(DialogLayout, FirstLaunchShowsTheDefaults) {
     const Json& shown = firstLaunch();
     EXPECT_FALSE(isOn(shown, selectionPage, "Append to Existing Data Set"));
@@ -176,42 +165,6 @@ TEST_F(DialogLayout, FirstLaunchShowsWholeRangesAndAllGrids) {
     for (std::size_t field = 1; field <= expected.size(); ++field)
         EXPECT_EQ(nthControl(shown, subsetPage, "textField", field)["value"], expected[field - 1])
             << field;
-}
-
-TEST_F(DialogLayout, FirstLaunchShowsTheFilesThatWerePicked) {
-    const std::string grid = series_.grid("wing.x");
-    const std::string solution = series_.solution("wing.q", 1);
-    const std::string function = series_.function("wing.f", 2);
-    const std::string names = directory().write("wing.nam", "A\nB\n");
-    const Json& shown = shownAfter({solution, names, function, grid}, {});
-    EXPECT_EQ(listOf(shown, "Grid")["items"], Json({grid}));
-    EXPECT_EQ(listOf(shown, "Solution")["items"], Json({solution}));
-    EXPECT_EQ(listOf(shown, "Function")["items"], Json({function}));
-    EXPECT_EQ(control(shown, selectionPage, "textField")["value"], names);
-    EXPECT_EQ(shown["dialog"]["page"], selectionPage);
-    EXPECT_EQ(shown["dialog"]["open"], true);
-}
-
-TEST_F(DialogLayout, FocusIsOnAddFilesOfTheGridsAtTheFirstLaunch) {
-    const Json& shown = firstLaunch();
-    EXPECT_EQ(buttonOf(shown, "Add Files...           ", "Grid")["focus"], true);
-    EXPECT_EQ(buttonOf(shown, "Add Files...           ", "Solution")["focus"], false);
-}
-
-TEST_F(DialogLayout, HelpOpensThePageOfTheLoader) {
-    playAtDialog({series_.grid("wing.x")}, {press("Help")});
-    EXPECT_EQ(last()["helpShown"], Json({"data-loading.html#data-loading/plot3d"}));
-}
-
-TEST_F(DialogLayout, DialogIsMadeOnceForAllLaunches) {
-    const std::string grid = series_.grid("wing.x");
-    Commands commands = atDialog({grid}, {describe("first"), press("Cancel")});
-    for (const Json& each : atDialog({grid}, {describe("second"), press("Cancel")}))
-        commands.push_back(each);
-    play(commands);
-    EXPECT_EQ(described("second")["dialog"]["controls"].size(),
-              described("first")["dialog"]["controls"].size());
-    EXPECT_EQ(last()["dialog"]["open"], false);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Loads from the dialog to values: a structure described by hand, parts of the files, a boundary
-// file beside the grid; and that the instructions which they leave repeat them.
+// Loads from the dialog to values: a structure described by hand, parts of the files; and that the
+// instructions which they leave repeat them.
 #include "acceptance/dialog/DialogSession.h"
 
 namespace quorvia::testsupport {
@@ -135,13 +135,11 @@ TEST_F(DialogLoad, TogglesAndMenusReachTheInstructions) {
     EXPECT_TRUE(wasInstructed("SOLUTIONSSHARESTRUCTURE", "No"));
 }
 
-TEST_F(DialogLoad, ABoundaryFileThatIsFoundIsLoaded) {
+TEST_F(DialogLoad, TakesTheNamesOfItsVariablesFromTheNameFile) {
     writeFiles();
-    directory().write("wing.x.fvbnd", "FVBND 1 4\nwall\nBOUNDARIES\n1 1 1 1 1 3 1 7 F 0\n");
-    playAtDialog(files(), {press("OK")});
-    EXPECT_EQ(last()["ok"], true) << messages(last()).size();
-    EXPECT_TRUE(wasInstructed("LOADBOUNDARY", "Yes"));
-    EXPECT_GT(zoneNames(last()).size(), 6U);
+    const std::string names = directory().write("wing.nam", "A\nB\nC\nD\nE\n");
+    playAtDialog(files(), {type(names, "Name File"), press("OK")});
+    EXPECT_EQ(last()["dataSet"]["variables"], Json({"X", "Y", "Z", "A", "B", "C", "D", "E"}));
 }
 
 TEST_F(DialogLoad, AppendsToADataSetThatIsThere) {

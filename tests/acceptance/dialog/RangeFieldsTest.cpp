@@ -1,5 +1,4 @@
-// The nine index fields and the grid set: what they take, what they refuse and in which words, and
-// what stays.
+// The nine index fields: what they refuse and in which words, what stays, and what is not loaded.
 #include "acceptance/dialog/DialogSession.h"
 
 namespace quorvia::testsupport {
@@ -28,17 +27,6 @@ protected:
     const std::string grid_ = series_.grid("wing.x");
 };
 
-TEST_F(RangeFields, KeepWhatIsTypedWhenThePageComesBack) {
-    for (std::size_t field = 0; field < rangeFields.size(); ++field) {
-        expectTheLockOf(rangeFields[field]);
-        EXPECT_EQ(shownIn(field + 1, {type("7", rangeFields[field]), toPage(structurePage),
-                                      toPage(subsetPage)}),
-                  "7")
-            << rangeFields[field];
-        EXPECT_EQ(messages(described("shown")), Texts());
-    }
-}
-
 TEST_F(RangeFields, ShowTheFormerValueInPlaceOfOneThatIsRefused) {
     for (std::size_t field = 0; field < rangeFields.size(); ++field) {
         expectTheLockOf(rangeFields[field]);
@@ -54,37 +42,6 @@ TEST_F(RangeFields, RefuseWhatIsNoIndex) {
     for (const char* text : {"0", "-1", "2147483648", "1.5", ""})
         EXPECT_EQ(shownIn(1, {type("3", "I-Index Start"), type(text, "I-Index Start")}), "3")
             << text;
-}
-
-TEST_F(RangeFields, TakeTheGreatestIndex) {
-    EXPECT_EQ(shownIn(1, {type("2147483647", "I-Index Start"), toPage(structurePage),
-                          toPage(subsetPage)}),
-              "2147483647");
-}
-
-TEST_F(RangeFields, EndBelowStartIsToldAndStays) {
-    for (const std::string direction : {"I", "J", "K"}) {
-        expectTheLockOf(direction + "-Index End");
-        const std::size_t endField = direction == "I" ? 2 : direction == "J" ? 5 : 8;
-        EXPECT_EQ(shownIn(endField, {type("10", direction + "-Index Start"),
-                                     type("5", direction + "-Index End"), toPage(structurePage),
-                                     toPage(subsetPage)}),
-                  "5");
-        EXPECT_EQ(messages(described("shown")),
-                  Texts{direction + "-Range Error: end must be greater than or equal to start."});
-    }
-}
-
-TEST_F(RangeFields, StartAboveEndIsToldAndStays) {
-    for (const std::string direction : {"I", "J", "K"}) {
-        expectTheLockOf(direction + "-Index End");
-        const std::size_t startField = direction == "I" ? 1 : direction == "J" ? 4 : 7;
-        EXPECT_EQ(shownIn(startField, {type("5", direction + "-Index End"),
-                                       type("10", direction + "-Index Start")}),
-                  "10");
-        EXPECT_EQ(messages(described("shown")),
-                  Texts{direction + "-Range Error: end must be greater than or equal to start."});
-    }
 }
 
 // With a skip of 7 it would make a zone of points that nobody has read.
@@ -120,56 +77,12 @@ TEST_F(RangeFields, RangeTurnedRoundLeavesTheDataSetAndCanBeMended) {
     EXPECT_EQ(last()["dataSet"]["zones"][0]["j"], 1);
 }
 
-TEST_F(RangeFields, SkipIsComparedWithNothing) {
-    EXPECT_EQ(shownIn(3, {type("5", "I-Index End"), type("1000", "I-Index Skip")}), "1000");
-    EXPECT_EQ(messages(described("shown")), Texts());
-}
-
-TEST_F(RangeFields, StartMayPassAnEndThatIsTheLast) {
-    EXPECT_EQ(shownIn(1, {type("1000", "I-Index Start")}), "1000");
-    EXPECT_EQ(messages(described("shown")), Texts());
-}
-
 TEST_F(RangeFields, LastIndexCanBeHadBack) {
     for (const char* text : {"Last", "last", "0", ""})
         EXPECT_EQ(shownIn(2, {type("7", "I-Index End"), type(text, "I-Index End"),
                               toPage(structurePage), toPage(subsetPage)}),
                   "Last")
             << text;
-}
-
-TEST_F(RangeFields, OnlyTheLastKIndexTakesALockDown) {
-    playAtDialog({grid_}, {toPage(subsetPage), describe("before"), type("7", "K-Index Start"),
-                           describe("start"), type("9", "K-Index Skip"), describe("skip")});
-    const int depth = described("before")["lockDepth"];
-    EXPECT_EQ(described("start")["lockDepth"], depth);
-    EXPECT_EQ(described("skip")["lockDepth"], depth);
-    expectTheLockOf("K-Index End");
-    playAtDialog({grid_}, {toPage(subsetPage), type("9", "K-Index End"), describe("end")});
-    EXPECT_EQ(described("end")["lockDepth"], depth - 1);
-}
-
-TEST_F(RangeFields, GridSetKeepsItsMembers) {
-    EXPECT_EQ(
-        shownIn(10, {type(" 7, 12 1-5", "Grid Set"), toPage(structurePage), toPage(subsetPage)}),
-        "1-5,7,12");
-}
-
-TEST_F(RangeFields, GridSetCanBeChangedAndEmptied) {
-    EXPECT_EQ(shownIn(10, {type("2", "Grid Set"), type("3", "Grid Set"), toPage(structurePage),
-                           toPage(subsetPage)}),
-              "3");
-    EXPECT_EQ(shownIn(10, {type("2", "Grid Set"), type("", "Grid Set"), toPage(structurePage),
-                           toPage(subsetPage)}),
-              "");
-}
-
-TEST_F(RangeFields, GridSetThatIsNoneIsToldAndTheMembersStay) {
-    EXPECT_EQ(shownIn(10, {type("2", "Grid Set"), type("wing", "Grid Set"), describe("typed"),
-                           toPage(structurePage), toPage(subsetPage)}),
-              "2");
-    EXPECT_EQ(messages(described("typed")),
-              Texts{"\"wing\" is not a set of whole numbers from 1, such as 1-5,7,12."});
 }
 
 } // namespace

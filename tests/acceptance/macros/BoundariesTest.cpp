@@ -91,27 +91,6 @@ protected:
     }
 };
 
-/// Every way in which reals stand in a file that the loader reads.
-std::vector<FileForm_s> everyForm() {
-    std::vector<FileForm_s> forms;
-    const auto add = [&forms](Encoding_e encoding, ByteOrder_e order, std::int32_t markerBytes) {
-        for (const Precision_e precision : {Precision_e::Single, Precision_e::Double}) {
-            FileForm_s& form = forms.emplace_back();
-            form.encoding = encoding;
-            form.byteOrder = order;
-            form.markerBytes = markerBytes;
-            form.precision = precision;
-        }
-    };
-    add(Encoding_e::Text, ByteOrder_e::Little, 4);
-    for (const ByteOrder_e order : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-        add(Encoding_e::Binary, order, 4);
-        add(Encoding_e::Fortran, order, 4);
-        add(Encoding_e::Fortran, order, 8);
-    }
-    return forms;
-}
-
 TEST_F(Boundaries, HaveTheValuesOfTheirParentsInEveryFormOfFile) {
     for (const FileForm_s& form : everyForm())
         for (const bool hasIBlank : {false, true}) {

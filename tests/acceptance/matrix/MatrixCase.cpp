@@ -8,11 +8,6 @@ using namespace plot3dwriter;
 
 namespace {
 
-constexpr FileKind_e everyKind[] = {FileKind_e::Grid, FileKind_e::ClassicSolution,
-                                    FileKind_e::SwiftSolution, FileKind_e::OverflowSolution,
-                                    FileKind_e::Function};
-constexpr Layout_e everyDimension[] = {Layout_e::OneD, Layout_e::TwoD, Layout_e::ThreeDWhole,
-                                       Layout_e::ThreeDPlanes, Layout_e::Unstructured};
 constexpr bool noAndYes[] = {false, true};
 
 bool isThreeD(Layout_e layout) {
@@ -106,27 +101,6 @@ std::vector<LayoutCase_s> everyLayout() {
     return layouts;
 }
 
-std::vector<FileForm_s> everyForm() {
-    std::vector<FileForm_s> forms;
-    for (const Precision_e precision : {Precision_e::Single, Precision_e::Double}) {
-        FileForm_s form;
-        form.precision = precision;
-        form.encoding = Encoding_e::Text;
-        forms.push_back(form);
-        for (const ByteOrder_e byteOrder : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-            form.byteOrder = byteOrder;
-            form.encoding = Encoding_e::Binary;
-            forms.push_back(form);
-            form.encoding = Encoding_e::Fortran;
-            for (const std::int32_t markerBytes : {4, 8}) {
-                form.markerBytes = markerBytes;
-                forms.push_back(form);
-            }
-        }
-    }
-    return forms;
-}
-
 std::vector<MatrixCase_s> everyCase() {
     std::vector<MatrixCase_s> cases;
     for (const LayoutCase_s& layout : everyLayout())
@@ -175,12 +149,14 @@ LayoutCase_s companionGrid(const LayoutCase_s& layout) {
 }
 
 FileDescription_s contentsOf(const LayoutCase_s& layout) {
-    FileDescription_s contents;
-    contents.kind = layout.kind;
-    contents.layout = layout.layout;
+    FileDescription_s contents =
+        describe(layout.kind, gridsOf(layout), layout.layout,
+                 [kind = layout.kind](std::int32_t grid, std::int32_t variable, std::int32_t i,
+                                      std::int32_t j, std::int32_t k) {
+                     return valueAt(kind, grid, variable, i, j, k);
+                 });
     contents.isMultiGrid = layout.isMultiGrid;
     contents.hasIBlank = layout.hasIBlank;
-    contents.grids = gridsOf(layout);
     if (layout.kind == FileKind_e::OverflowSolution) {
         contents.numVars = 10;
         contents.numSpecies = 2;
@@ -190,15 +166,23 @@ FileDescription_s contentsOf(const LayoutCase_s& layout) {
     if (isSolution(layout.kind))
         for (std::int32_t grid = 0; grid < static_cast<std::int32_t>(contents.grids.size()); ++grid)
             contents.scalars.push_back(scalarsOf(grid, scalarCount(contents)));
-    contents.value = [kind = layout.kind](std::int32_t grid, std::int32_t variable, std::int32_t i,
-                                          std::int32_t j, std::int32_t k) {
-        return valueAt(kind, grid, variable, i, j, k);
-    };
     contents.iblank = iblankAt;
     contents.corner = cornerAt;
     // Integers that no reader may test or keep.
     contents.triangleTag = [](std::int32_t, std::int64_t triangle) {
         return static_cast<std::int32_t>(-1000 - triangle);
+    };
+    return contents;
+}
+
+FileDescription_s contentsOfStep(FileKind_e kind, int step) {
+    FileDescription_s contents =
+        contentsOf({kind, Layout_e::ThreeDWhole, true, kind == FileKind_e::Grid});
+    contents.grids.resize(2);
+    setScalars(contents, {0.5, 2.25, 1500000.0, 0.25 * step});
+    contents.value = [kind, step](std::int32_t grid, std::int32_t variable, std::int32_t i,
+                                  std::int32_t j, std::int32_t k) {
+        return valueAt(kind, grid, variable, i, j, k) + 7.0 * step;
     };
     return contents;
 }

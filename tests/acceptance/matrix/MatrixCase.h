@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "plot3dwriter/FileDescription.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
 
@@ -26,10 +26,7 @@ struct MatrixCase_s {
 
 /// 15 grid files and 29 solution and function files.
 std::vector<LayoutCase_s> everyLayout();
-/// Text; plain binary in both byte orders; Fortran records with both markers in both byte orders;
-/// each with 32-bit and with 64-bit reals: 14 in all.
-std::vector<plot3dwriter::FileForm_s> everyForm();
-/// Every layout in every form.
+/// Every layout in every form of SmallFiles.
 std::vector<MatrixCase_s> everyCase();
 
 /// Of letters, digits and underscores.
@@ -48,7 +45,12 @@ LayoutCase_s companionGrid(const LayoutCase_s& layout);
 /// What the test file of a layout holds; values name their place.
 plot3dwriter::FileDescription_s contentsOf(const LayoutCase_s& layout);
 
-/// A value of that file: indices from 0; narrowed by the file if it is of single precision.
+/// The file of a time step from 0 of two grids in 3-D, whole, with I-blank: each value is that of
+/// its case, and seven more for each step. The times are 0.25 apart.
+plot3dwriter::FileDescription_s contentsOfStep(plot3dwriter::FileKind_e kind, int step);
+
+/// A value of the file of a case: indices from 0; narrowed by the file if it is of single
+/// precision.
 double valueAt(plot3dwriter::FileKind_e kind, std::int32_t grid, std::int32_t variable,
                std::int64_t i, std::int64_t j, std::int64_t k);
 std::int32_t iblankAt(std::int32_t grid, std::int64_t i, std::int64_t j, std::int64_t k);

@@ -71,11 +71,12 @@ TEST_F(NoMemory, QuestionIsNotAskedAndNotAnsweredWithYes) {
 // A guest takes a choice that does not come for a Cancel: a script that went on would play the rest
 // without the files.
 TEST_F(NoMemory, ChoiceOfFilesThatIsLostEndsTheScript) {
-    host().setFileChoices({{longText, longText}});
+    host().script().addToScript({FileChoice{longText, longText}, ScriptLook([] {})});
     QuorStringListHandle chosen = nullptr;
     withoutMemory(
         [&] { EXPECT_FALSE(QuorUtilDialogGetFileNames(1, &chosen, "Solution", nullptr, "*.q")); });
     EXPECT_EQ(host().script().problem(), "no memory");
+    EXPECT_EQ(host().script().entriesLeft(), 0U);
 }
 
 TEST_F(NoMemory, BreachOfTheContractIsToldLater) {

@@ -8,12 +8,13 @@
 #include <plot3d/Error.h>
 
 #include "TestFlow.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 
 namespace plot3dtest {
 namespace {
 
 namespace writer = quorvia::plot3dwriter;
+using namespace quorvia::testsupport;
 using plot3d::DataSet;
 
 const plot3d::DerivedQuantity& named(std::string_view wordOrNumber) {
@@ -251,22 +252,18 @@ TEST_F(DerivedTest, NeedTheNamesThatTellWhatVariablesAre) {
 }
 
 TEST_F(DerivedTest, OfAnOverflowFileTakeItsOwnGammas) {
-    writer::FileDescription_s contents;
-    contents.kind = writer::FileKind_e::OverflowSolution;
-    contents.isMultiGrid = true;
-    contents.grids = {{5, 3, 2}, {3, 2, 2}};
+    const GridList grids = {{5, 3, 2}, {3, 2, 2}};
+    writer::FileDescription_s contents =
+        describe(writer::FileKind_e::OverflowSolution, grids, writer::Layout_e::ThreeDWhole,
+                 [](auto, std::int32_t variable, auto i, auto, auto) {
+                     return std::array<double, 6>{
+                         1, 0, 0, 0, 10, 1.2 + 0.125 * i}[static_cast<std::size_t>(variable)];
+                 });
     contents.numVars = 6;
-    contents.scalars.assign(2, {2.0, 0, 1e6, 0, 1.25, 0, 300, 1, 0, 0, 0, 0, 0});
+    setScalars(contents, {2.0, 0, 1e6, 0, 1.25, 0, 300, 1});
     contents.scalars[1][0] = 4.0;
-    contents.value = [](auto, std::int32_t variable, auto i, auto, auto) {
-        return std::array<double, 6>{
-            1, 0, 0, 0, 10, 1.2 + 0.125 * i}[static_cast<std::size_t>(variable)];
-    };
-    ASSERT_EQ(writer::writePlot3DFile(file("o.q"), contents, {}).problem, "");
-    writer::FileDescription_s grid = contents;
-    grid.kind = writer::FileKind_e::Grid;
-    grid.scalars.clear();
-    ASSERT_EQ(writer::writePlot3DFile(file("o.x"), grid, {}).problem, "");
+    writeFile(file("o.q"), contents);
+    writeFile(file("o.x"), describeGrid(grids));
     const DataSet data = DataSet::open(std::vector<std::string>{file("o.x"), file("o.q")});
 
     const Components pressure = derive(data, 0, named("pressure"));

@@ -3,9 +3,11 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 
 namespace plot3dtest {
+
+using namespace quorvia::testsupport;
 
 namespace {
 
@@ -17,14 +19,6 @@ std::array<double, 5> solutionOf(const State_s& state, double gamma) {
     const double energy = state.pressure / (gamma - 1.0) +
                           0.5 * state.density * plot3dlib::dot(state.velocity, state.velocity);
     return {state.density, momentum[0], momentum[1], momentum[2], energy};
-}
-
-void writeFile(const std::string& name, const writer::FileDescription_s& contents) {
-    writer::FileForm_s form;
-    form.precision = writer::Precision_e::Double;
-    const std::string problem = writer::writePlot3DFile(name, contents, form).problem;
-    if (!problem.empty())
-        throw std::runtime_error(problem);
 }
 
 } // namespace
@@ -58,23 +52,24 @@ Components TestFlow_s::compute(int number, const plot3dlib::FlowConstants_s& con
 }
 
 void TestFlow_s::write(const quorvia::testsupport::TemporaryDirectory& directory) const {
-    writer::FileDescription_s grid;
-    grid.layout = size.k == 1 ? writer::Layout_e::TwoD : writer::Layout_e::ThreeDWhole;
-    grid.grids = {{static_cast<std::int32_t>(size.i), static_cast<std::int32_t>(size.j),
-                   static_cast<std::int32_t>(size.k)}};
-    grid.value = [this](auto, std::int32_t variable, auto i, auto j, auto k) {
-        return place(i, j, k)[static_cast<std::size_t>(variable)];
-    };
-    writer::FileDescription_s solution = grid;
-    solution.kind = writer::FileKind_e::ClassicSolution;
-    solution.scalars = {{mach, 3.0, 1e6, 0.5}};
-    solution.value = [this](auto, std::int32_t variable, auto i, auto j, auto k) {
-        // In 2-D there is no momentum along z between that along y and the energy.
-        const std::int32_t place3D = size.k == 1 && variable == 3 ? 4 : variable;
-        return solutionOf(state(place(i, j, k)), gamma)[static_cast<std::size_t>(place3D)];
-    };
-    writeFile(directory.file("flow.x"), grid);
-    writeFile(directory.file("flow.q"), solution);
+    const GridList grids = {{static_cast<std::int32_t>(size.i), static_cast<std::int32_t>(size.j),
+                             static_cast<std::int32_t>(size.k)}};
+    const auto layout = size.k == 1 ? writer::Layout_e::TwoD : writer::Layout_e::ThreeDWhole;
+    const auto grid = describe(writer::FileKind_e::Grid, grids, layout,
+                               [this](auto, std::int32_t variable, auto i, auto j, auto k) {
+                                   return place(i, j, k)[static_cast<std::size_t>(variable)];
+                               });
+    auto solution = describe(
+        writer::FileKind_e::ClassicSolution, grids, layout,
+        [this](auto, std::int32_t variable, auto i, auto j, auto k) {
+            // In 2-D there is no momentum along z between that along y and the energy.
+            const std::int32_t place3D = size.k == 1 && variable == 3 ? 4 : variable;
+            return solutionOf(state(place(i, j, k)), gamma)[static_cast<std::size_t>(place3D)];
+        });
+    setScalars(solution, {mach, 3.0, 1e6, 0.5});
+    const auto form = binary(writer::ByteOrder_e::Little, writer::Precision_e::Double);
+    writeFile(directory.file("flow.x"), grid, form);
+    writeFile(directory.file("flow.q"), solution, form);
 }
 
 plot3d::DataSet TestFlow_s::open(const quorvia::testsupport::TemporaryDirectory& directory) const {

@@ -16,11 +16,7 @@ using writer::FileKind_e;
 
 class Forms : public InspectTest {
 protected:
-    static writer::FileForm_s textForm() {
-        writer::FileForm_s form;
-        form.encoding = Encoding_e::Text;
-        return form;
-    }
+    static writer::FileForm_s textForm() { return formOf(Encoding_e::Text); }
     void expectAllUsed(const writer::FileForm_s& form) {
         for (const LayoutCase_s& layout : quorvia::testsupport::everyLayout()) {
             const char* name = layout.kind == FileKind_e::Grid ? "wing.x" : "wing.q";
@@ -60,10 +56,8 @@ TEST_F(Forms, OfARecordInThreeSegmentsAreTold) {
     auto contents = quorvia::testsupport::contentsOf(LayoutCase_s());
     contents.grids = {{30000, 13000, 1}}; // 4.7 GB in one record
     contents.isHole = [](std::int32_t, std::int32_t, std::int32_t) { return true; };
-    writer::FileForm_s form;
-    form.encoding = Encoding_e::Fortran;
     const std::string path = directory.file("wing.x");
-    ASSERT_EQ(writer::writePlot3DFile(path, contents, form).problem, "");
+    quorvia::testsupport::writeFile(path, contents, formOf(Encoding_e::Fortran));
     const FileInfo info = inspect(path);
     EXPECT_TRUE(info.ok) << problemOf(info);
     EXPECT_EQ(info.grids, (std::vector<GridSize>{{30000, 13000, 1}}));

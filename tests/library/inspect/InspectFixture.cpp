@@ -1,14 +1,10 @@
 #include "InspectFixture.h"
 
-#include "plot3dwriter/Plot3DWriter.h"
-
 namespace plot3d {
 
 std::string InspectTest::bytesOf(const writer::FileDescription_s& contents,
                                  const writer::FileForm_s& form) {
-    std::string bytes;
-    EXPECT_EQ(writer::writePlot3DBytes(bytes, contents, form).problem, "");
-    return bytes;
+    return quorvia::testsupport::bytesOf(contents, form);
 }
 
 std::string InspectTest::bytesOf(const LayoutCase_s& layout, const writer::FileForm_s& form) {
@@ -16,19 +12,15 @@ std::string InspectTest::bytesOf(const LayoutCase_s& layout, const writer::FileF
 }
 
 std::string InspectTest::gridBytes(writer::Encoding_e encoding, bool hasIBlank) {
-    writer::FileForm_s form;
-    form.encoding = encoding;
     LayoutCase_s layout;
     layout.hasIBlank = hasIBlank;
-    return bytesOf(layout, form);
+    return bytesOf(layout, formOf(encoding));
 }
 
 std::string InspectTest::solutionBytes(writer::Encoding_e encoding) {
-    writer::FileForm_s form;
-    form.encoding = encoding;
     LayoutCase_s layout;
     layout.kind = writer::FileKind_e::ClassicSolution;
-    return bytesOf(layout, form);
+    return bytesOf(layout, formOf(encoding));
 }
 
 void InspectTest::expectAccount(const FileInfo& info) {

@@ -16,6 +16,7 @@
 namespace plot3d {
 
 namespace writer = quorvia::plot3dwriter;
+using quorvia::testsupport::formOf;
 using quorvia::testsupport::LayoutCase_s;
 using quorvia::testsupport::MatrixCase_s;
 

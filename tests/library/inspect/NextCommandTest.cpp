@@ -63,9 +63,8 @@ protected:
     }
 
     static std::string text(FileKind_e kind, bool isMultiGrid) {
-        writer::FileForm_s form;
-        form.encoding = Encoding_e::Text;
-        return bytesOf(LayoutCase_s{kind, writer::Layout_e::ThreeDWhole, isMultiGrid, false}, form);
+        return bytesOf(LayoutCase_s{kind, writer::Layout_e::ThreeDWhole, isMultiGrid, false},
+                       formOf(Encoding_e::Text));
     }
     static std::string grids() { return text(FileKind_e::Grid, true); }
 };
@@ -97,8 +96,8 @@ TEST_F(NextCommand, AddsTheCountOfVariables) {
 }
 
 TEST_F(NextCommand, CutsWhatStandsBehindLongReals) {
-    writer::FileForm_s form;
-    form.precision = writer::Precision_e::Double;
+    const writer::FileForm_s form =
+        formOf(Encoding_e::Binary, writer::ByteOrder_e::Little, writer::Precision_e::Double);
     const std::string good = bytesOf(LayoutCase_s{FileKind_e::ClassicSolution}, form);
     expectGood(cured("wing.q", good + "1234567", ".cut"));
     expectGood(cured("wing.x", gridBytes(Encoding_e::Fortran) + "12345", ".cut"));

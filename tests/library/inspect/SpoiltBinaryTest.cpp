@@ -12,13 +12,6 @@ using writer::FileKind_e;
 
 class SpoiltBinary : public InspectTest {
 protected:
-    static writer::FileForm_s formOf(Encoding_e encoding,
-                                     writer::Precision_e precision = writer::Precision_e::Single) {
-        writer::FileForm_s form;
-        form.encoding = encoding;
-        form.precision = precision;
-        return form;
-    }
     static LayoutCase_s layoutOf(FileKind_e kind, bool isMultiGrid = false) {
         LayoutCase_s layout;
         layout.kind = kind;
@@ -78,7 +71,8 @@ TEST_F(SpoiltBinary, WithBytesBehindItIsRefusedAndDescribedByHand) {
 TEST_F(SpoiltBinary, OfLongRealsWithBytesBehindThemMustBeCut) {
     for (const FileKind_e kind : {FileKind_e::Grid, FileKind_e::ClassicSolution}) {
         const std::string good =
-            bytesOf(layoutOf(kind), formOf(Encoding_e::Binary, writer::Precision_e::Double));
+            bytesOf(layoutOf(kind), formOf(Encoding_e::Binary, writer::ByteOrder_e::Little,
+                                           writer::Precision_e::Double));
         const FileInfo info =
             inspectSpoilt(good + "0123456789", kind == FileKind_e::Grid ? "wing.x" : "wing.q");
         EXPECT_EQ(info.precision, 64);

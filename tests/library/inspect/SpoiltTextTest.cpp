@@ -13,9 +13,7 @@ protected:
         LayoutCase_s layout;
         layout.kind = kind;
         layout.isMultiGrid = isMultiGrid;
-        writer::FileForm_s form;
-        form.encoding = Encoding_e::Text;
-        return bytesOf(layout, form);
+        return bytesOf(layout, formOf(Encoding_e::Text));
     }
     static std::string oneGrid() { return text(false); }
     static std::string threeGrids() { return text(true); }
@@ -39,9 +37,7 @@ protected:
         auto contents = quorvia::testsupport::contentsOf(layout);
         contents.isMultiGrid = false;
         contents.grids = {contents.grids[grid]};
-        writer::FileForm_s form;
-        form.encoding = Encoding_e::Text;
-        return bytesOf(contents, form);
+        return bytesOf(contents, formOf(Encoding_e::Text));
     }
 };
 

@@ -53,13 +53,8 @@ TEST_F(Trials, EndWithTheOneThatFits) {
 // As a Classic solution, which a load tries first, the grids would have 3 x 2 and 5 x 1 points, and
 // the file just as many bytes.
 TEST_F(Trials, AreTakenByTheKindThatTheNameTells) {
-    writer::FileDescription_s contents;
-    contents.kind = writer::FileKind_e::Function;
-    contents.layout = writer::Layout_e::TwoD;
-    contents.isMultiGrid = true;
-    contents.grids = {{3, 2, 1}, {1, 4, 1}};
-    contents.numVars = 5;
-    contents.value = [](auto...) { return 1.0; };
+    const writer::FileDescription_s contents =
+        quorvia::testsupport::describeFunction({{3, 2, 1}, {1, 4, 1}}, 5, writer::Layout_e::TwoD);
     const FileInfo info = inspectBytes("wing.f", bytesOf(contents, {}));
     EXPECT_EQ(info.kind, FileKind::Function);
     EXPECT_EQ(info.variables, 5);
@@ -89,8 +84,8 @@ TEST_F(Trials, GoOnToAllKindsIfAsked) {
 
 TEST_F(Trials, TellFurtherKindsThatFit) {
     // 2 variables of 13 points in 64 bits take as many bytes as X and Y of 13 x 2 points in 32.
-    writer::FileForm_s form;
-    form.precision = writer::Precision_e::Double;
+    const writer::FileForm_s form =
+        formOf(Encoding_e::Binary, writer::ByteOrder_e::Little, writer::Precision_e::Double);
     const LayoutCase_s line = {writer::FileKind_e::Function, writer::Layout_e::OneD, false, false};
     const FileInfo info = inspectBytes("mesh.bin", bytesOf(line, form));
     EXPECT_EQ(info.kind, FileKind::Grid);

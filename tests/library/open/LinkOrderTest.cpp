@@ -44,5 +44,15 @@ TEST_F(LinkOrder, LeavesTheProgramsOwnSymbolsAlone) {
     expectFields(data, FileReading::asMeant(grid), 0);
 }
 
+TEST_F(LinkOrder, TakesAnotherAddOnAsAGuestOfThatHost) {
+    const auto grid = write("wing.x", wholeLayout(FileKind_e::Grid));
+    plot3d::OpenOptions options;
+    options.addOn = PLOT3DLOADER_FILE;
+    const auto data = plot3d::DataSet::open({grid.path}, options);
+    EXPECT_EQ(data.kind(0, 0), plot3d::FieldKind::AtHost);
+    EXPECT_EQ(quorvia::host::ReferenceHost::instance().loaders().size(), 2u);
+    expectFields(data, FileReading::asMeant(grid), 0);
+}
+
 } // namespace
 } // namespace plot3dtest

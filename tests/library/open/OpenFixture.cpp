@@ -52,9 +52,7 @@ writer::FileForm_s plainForm() {
 }
 
 writer::FileForm_s textForm() {
-    writer::FileForm_s form;
-    form.encoding = writer::Encoding_e::Text;
-    return form;
+    return quorvia::testsupport::text();
 }
 
 AssertionResult holds(const plot3d::DataSet& data, std::size_t zone, std::size_t variable,
@@ -91,9 +89,7 @@ WrittenFile_s OpenTest::write(const std::string& name, const LayoutCase_s& layou
 std::string OpenTest::write(const std::string& name, const writer::FileDescription_s& contents,
                             const writer::FileForm_s& form) const {
     const std::string path = file(name);
-    const std::string problem = writer::writePlot3DFile(path, contents, form).problem;
-    if (!problem.empty())
-        throw std::runtime_error(problem);
+    quorvia::testsupport::writeFile(path, contents, form);
     return path;
 }
 

@@ -49,18 +49,15 @@ protected:
     static const GridDims_s& dims() { return GetParam().dims; }
 
     std::string writeGrid() const {
-        FileDescription_s contents;
-        contents.grids = {dims()};
+        FileDescription_s contents = quorvia::testsupport::describeGrid({dims()});
         contents.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
                             std::int32_t k) { return placeValue(i, j, k, variable); };
         contents.isHole = [planes = planesToLookAt(GetParam())](std::int32_t, std::int32_t variable,
                                                                 std::int32_t k) {
             return planes.count(std::int64_t{variable} * dims().k + k) == 0;
         };
-        FileForm_s form;
-        form.encoding = Encoding_e::Fortran;
-        form.byteOrder = GetParam().byteOrder;
-        return OpenTest::write("big.x", contents, form);
+        return OpenTest::write("big.x", contents,
+                               quorvia::testsupport::fortran(GetParam().byteOrder));
     }
 
     static void expectPlane(const plot3d::DataSet& data, std::size_t variable, std::int64_t k) {

@@ -3,26 +3,18 @@
 namespace plot3dtest {
 
 writer::FileForm_s SeriesTest::doubleForm() {
-    writer::FileForm_s form;
-    form.precision = writer::Precision_e::Double;
-    return form;
+    return quorvia::testsupport::binary(writer::ByteOrder_e::Little, writer::Precision_e::Double);
 }
 
 std::string SeriesTest::writeStep(const std::string& name, writer::FileKind_e kind, int step,
                                   double time, writer::FileForm_s form,
                                   writer::Layout_e layout) const {
-    writer::FileDescription_s contents;
-    contents.kind = kind;
-    contents.layout = layout;
-    contents.isMultiGrid = true;
-    contents.grids = {{2, 3, 5}, {5, 2, 3}};
-    if (kind == writer::FileKind_e::Function)
-        contents.numVars = 2;
-    else if (kind != writer::FileKind_e::Grid)
-        contents.scalars = {{0.5, 1.0, 100.0, time}, {0.5, 1.0, 100.0, time}};
-    contents.value = [step](std::int32_t grid, std::int32_t variable, std::int32_t i,
-                            std::int32_t j,
-                            std::int32_t k) { return valueOf(step, grid, variable, i, j, k); };
+    writer::FileDescription_s contents = quorvia::testsupport::describe(
+        kind, {{2, 3, 5}, {5, 2, 3}}, layout,
+        [step](std::int32_t grid, std::int32_t variable, std::int32_t i, std::int32_t j,
+               std::int32_t k) { return valueOf(step, grid, variable, i, j, k); });
+    contents.numVars = 2; // where the header tells it
+    quorvia::testsupport::setScalars(contents, {0.5, 1.0, 100.0, time});
     return write(name, contents, form);
 }
 

@@ -2,7 +2,7 @@
 // what was written, save for files that have the same bytes whichever way they were meant.
 #include "RecordingReceiver.h"
 #include "StructureTest.h"
-#include "plot3dwriter/Plot3DWriter.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::quorutildataio {
 namespace {
@@ -40,56 +40,29 @@ double placeValue(std::int32_t grid, std::int32_t variable, std::int32_t i, std:
 }
 
 FileDescription_s describeFile(FileKind_e kind, Layout_e layout, bool isMultiGrid, bool hasIBlank) {
-    FileDescription_s description;
-    description.kind = kind;
-    description.layout = layout;
+    FileDescription_s description =
+        testsupport::describe(kind, gridsOf(layout, isMultiGrid), layout, placeValue);
     description.isMultiGrid = isMultiGrid;
     description.hasIBlank = hasIBlank;
-    description.grids = gridsOf(layout, isMultiGrid);
     description.numVars = 7;
     description.numSpecies = 3;
-    std::vector<double> scalars(static_cast<std::size_t>(scalarCount(description)), 1.25);
-    if (scalars.size() > overflowIntegerIndex) // 1-D has fewer, and no such file is written
-        scalars[overflowIntegerIndex] = 2.0;
-    description.scalars.assign(description.grids.size(), scalars);
-    description.value = placeValue;
-    description.iblank = [](std::int32_t, std::int32_t i, std::int32_t, std::int32_t) {
-        return i % 2;
-    };
-    description.corner = [](std::int32_t, std::int64_t, std::int32_t corner) { return corner + 1; };
+    testsupport::Numbers scalars(14, 1.25);
+    scalars[overflowIntegerIndex] = 2.0;
+    testsupport::setScalars(description, scalars);
     return description;
 }
 
 std::vector<FileForm_s> allForms() {
-    std::vector<FileForm_s> forms;
-    for (const Precision_e precision : {Precision_e::Single, Precision_e::Double}) {
-        FileForm_s form;
-        form.precision = precision;
-        form.encoding = Encoding_e::Text;
-        // Lines of 4 or 5 numbers can be taken for a grid's scalars.
-        form.text.tokensPerLine = 7;
-        forms.push_back(form);
-        for (const ByteOrder_e order : {ByteOrder_e::Little, ByteOrder_e::Big}) {
-            form.byteOrder = order;
-            form.encoding = Encoding_e::Binary;
-            forms.push_back(form);
-            form.encoding = Encoding_e::Fortran;
-            for (const std::int32_t markerBytes : {4, 8}) {
-                form.markerBytes = markerBytes;
-                forms.push_back(form);
-            }
-        }
-    }
+    std::vector<FileForm_s> forms = testsupport::everyForm();
+    for (FileForm_s& form : forms)
+        form.text.tokensPerLine = 7; // lines of 4 or 5 numbers can be taken for a grid's scalars
     return forms;
 }
 
 std::vector<Combination_s> allCombinations() {
     std::vector<Combination_s> combinations;
-    for (const FileKind_e kind :
-         {FileKind_e::Grid, FileKind_e::ClassicSolution, FileKind_e::SwiftSolution,
-          FileKind_e::OverflowSolution, FileKind_e::Function})
-        for (const Layout_e layout : {Layout_e::OneD, Layout_e::TwoD, Layout_e::ThreeDWhole,
-                                      Layout_e::ThreeDPlanes, Layout_e::Unstructured})
+    for (const FileKind_e kind : testsupport::everyKind)
+        for (const Layout_e layout : testsupport::everyDimension)
             for (const bool isMultiGrid : {false, true})
                 for (const bool hasIBlank : {false, true})
                     for (const FileForm_s& form : allForms())

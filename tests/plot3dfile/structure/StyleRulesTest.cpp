@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "instructions/InstructionWords.h"
-#include "plot3dwriter/FileDescription.h"
+#include "support/SmallFiles.h"
 
 namespace quorvia::quorutildataio {
 namespace {
@@ -53,6 +53,14 @@ TEST(StyleRules, GiveTheRowThatIsAskedFor) {
     for (const Plot3DStyle_e style : everyStyle())
         EXPECT_EQ(styleRules(style).style, style);
     EXPECT_EQ(styleRules(Plot3DStyle_Unknown).style, Plot3DStyle_Unknown);
+}
+
+TEST(StyleRules, HaveAKindOfTestFileEach) {
+    std::vector<FileKind_e> kinds = {FileKind_e::Grid};
+    for (const StyleRules_s& rules : allStyleRules())
+        kinds.push_back(writtenKind(rules.style).value());
+    EXPECT_TRUE(std::is_permutation(kinds.begin(), kinds.end(), std::begin(testsupport::everyKind),
+                                    std::end(testsupport::everyKind)));
 }
 
 TEST(StyleRules, HaveWordsAndCaptionsInTheOrderOfTheMenu) {

@@ -55,25 +55,21 @@ protected:
         contents.isHole = [big](std::int32_t, std::int32_t, std::int32_t k) {
             return !isWritten(k, big.planes);
         };
-        const std::string name = write("big.x", contents, formOf(big.encoding));
+        const std::string name = write("big.x", contents, bigForm(big.encoding));
         EXPECT_LT(bytesOnDisk(name), std::int64_t{64} << 20) << "the disk knows no sparse files";
         return name;
     }
 
     /// A grid of one zone, whose first plane is plane `first` of the big one, from 0.
     static writer::FileDescription_s planesFrom(std::int32_t first, std::int32_t count) {
-        writer::FileDescription_s contents;
-        contents.grids = {{iCount, jCount, count}};
-        contents.value = [first](std::int32_t, std::int32_t variable, std::int32_t i,
-                                 std::int32_t j,
-                                 std::int32_t k) { return bigValue(variable, i, j, first + k); };
-        return contents;
+        return quorvia::testsupport::describe(
+            writer::FileKind_e::Grid, {{iCount, jCount, count}}, writer::Layout_e::ThreeDWhole,
+            [first](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
+                    std::int32_t k) { return bigValue(variable, i, j, first + k); });
     }
 
-    static writer::FileForm_s formOf(writer::Encoding_e encoding) {
-        writer::FileForm_s form = binaryForm(writer::Precision_e::Double, writer::ByteOrder_e::Big);
-        form.encoding = encoding;
-        return form;
+    static writer::FileForm_s bigForm(writer::Encoding_e encoding) {
+        return formOf(encoding, writer::ByteOrder_e::Big, writer::Precision_e::Double);
     }
 
     static std::int64_t bytesOnDisk(const std::string& name) {
@@ -92,11 +88,6 @@ protected:
     /// What `info --json` tells of one file.
     static Json infoOf(const std::string& name) {
         return Json::parse(ended({"info", "--json", name}).out).at("files").at(0);
-    }
-
-    std::string bytesOf(const std::string& name) const {
-        std::ifstream in(file(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
     }
 };
 
@@ -147,8 +138,8 @@ TEST_F(BigFiles, AreConvertedWhereTheEndsOfSegmentsCutThem) {
         const Ended_s run =
             ended({"convert", big, "-o", file(part), "--k", range, "--encoding", "binary"});
         ASSERT_EQ(run.code, 0) << run.err;
-        write("wanted.x", planesFrom(first, 3), formOf(writer::Encoding_e::Binary));
-        EXPECT_TRUE(bytesOf(part) == bytesOf("wanted.x")) << "planes " << range;
+        write("wanted.x", planesFrom(first, 3), bigForm(writer::Encoding_e::Binary));
+        EXPECT_TRUE(bytesOfFile(file(part)) == bytesOfFile(file("wanted.x"))) << "planes " << range;
     }
 }
 

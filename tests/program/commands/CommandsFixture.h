@@ -15,6 +15,9 @@ namespace plot3d::program {
 
 using Words = std::vector<std::string>;
 
+/// Random sets that each test draws.
+constexpr int setCount = 40;
+
 /// PLOT3D_TEST_SEED, or a new one; printed.
 std::uint64_t seedOfRun();
 

@@ -170,8 +170,8 @@ void ModelSet::addFile(int part, int step, const std::string& name, Dice& form) 
 
 writer::FileForm_s ModelSet::drawForm(Dice& draw, int part) const {
     writer::FileForm_s form =
-        binaryForm(isDouble(part) ? writer::Precision_e::Double : writer::Precision_e::Single,
-                   draw.chance(50) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big);
+        binary(draw.chance(50) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big,
+               isDouble(part) ? writer::Precision_e::Double : writer::Precision_e::Single);
     form.markerBytes = draw.chance(50) ? 4 : 8;
     if (hasText_ && draw.chance(50))
         form.encoding = Encoding_e::Text;
@@ -185,13 +185,11 @@ std::vector<double> ModelSet::scalars(int step) const {
 }
 
 FileDescription_s ModelSet::description(int part, const std::vector<std::int32_t>& grids) const {
-    FileDescription_s contents;
-    contents.kind = kindOf(part);
-    contents.layout = layout_;
-    contents.numVars = part >= Part_Functions ? functionVariables_ : 0;
+    Sizes sizes;
     for (const std::int32_t grid : grids)
-        contents.grids.push_back(sizes_[static_cast<std::size_t>(grid)]);
-    contents.isMultiGrid = grids.size() > 1;
+        sizes.push_back(sizes_[static_cast<std::size_t>(grid)]);
+    FileDescription_s contents = quorvia::testsupport::describe(kindOf(part), sizes, layout_);
+    contents.numVars = part >= Part_Functions ? functionVariables_ : 0;
     if (part == Part_Grid && hasIBlank_) {
         contents.hasIBlank = true;
         contents.iblank = [this, grids](std::int32_t grid, std::int32_t i, std::int32_t j,

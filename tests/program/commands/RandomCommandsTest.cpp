@@ -17,8 +17,6 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr int setCount = 40;
-
 std::string withoutBlanksAtEnd(std::string name) {
     name.erase(name.find_last_not_of(' ') + 1);
     return name;

@@ -17,20 +17,13 @@ namespace {
 using Json = nlohmann::json;
 using writer::Encoding_e;
 
-constexpr int setCount = 40;
-
 /// The zones of one time that are selected.
 using Boxes = std::vector<ModelBox_s>;
 
-std::string bytesOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 writer::FileForm_s drawnForm(Dice& draw) {
     writer::FileForm_s form =
-        binaryForm(draw.chance(50) ? writer::Precision_e::Double : writer::Precision_e::Single,
-                   draw.chance(50) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big);
+        binary(draw.chance(50) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big,
+               draw.chance(50) ? writer::Precision_e::Double : writer::Precision_e::Single);
     form.markerBytes = draw.chance(50) ? 4 : 8;
     form.encoding =
         draw.oneOf<Encoding_e>({Encoding_e::Binary, Encoding_e::Fortran, Encoding_e::Text});
@@ -162,9 +155,9 @@ protected:
         if (!problem.empty())
             return problem;
         if (form.encoding == Encoding_e::Text)
-            EXPECT_EQ(tokensOf(bytesOf(path)), tokensOf(bytes)) << path;
+            EXPECT_EQ(tokensOf(bytesOfFile(path)), tokensOf(bytes)) << path;
         else
-            EXPECT_TRUE(bytesOf(path) == bytes) << path;
+            EXPECT_TRUE(bytesOfFile(path) == bytes) << path;
         return {};
     }
 
@@ -217,8 +210,8 @@ TEST_F(RandomConversions, GiveFilesOfAnySizeBack) {
         const std::string solution = write("any.q", solutionFile(sizes, randomValues(8)));
         const Ended_s run = ended({"convert", grid, solution, "-o", file(back + ".x")});
         ASSERT_EQ(run.code, 0) << run.err;
-        EXPECT_TRUE(bytesOf(file(back + ".x")) == bytesOf(grid)) << planes << " planes";
-        EXPECT_TRUE(bytesOf(file(back + ".q")) == bytesOf(solution)) << planes << " planes";
+        EXPECT_TRUE(bytesOfFile(file(back + ".x")) == bytesOfFile(grid)) << planes << " planes";
+        EXPECT_TRUE(bytesOfFile(file(back + ".q")) == bytesOfFile(solution)) << planes << " planes";
     }
 }
 
@@ -273,7 +266,7 @@ TEST_F(RandomIndices, LeadToTheOriginalBytes) {
             return; // some of it may be refused
         }
         ASSERT_EQ(run.code, 0) << run.err;
-        const Json refs = Json::parse(bytesOf(index)).at("refs");
+        const Json refs = Json::parse(bytesOfFile(index)).at("refs");
         for (const ModelBox_s& box : boxes)
             for (const std::size_t which : selection.variables()) {
                 const ModelVariable_s& variable = data.variables()[which];

@@ -38,9 +38,7 @@ protected:
     }
 
     void write(const std::string& name, const FileDescription_s& contents) const {
-        plot3dwriter::FileForm_s form;
-        form.precision = plot3dwriter::Precision_e::Double;
-        EXPECT_EQ(plot3dwriter::writePlot3DFile(path(name), contents, form).problem, "");
+        writeFile(path(name), contents, binary(ByteOrder_e::Little, Precision_e::Double));
     }
 
     std::string path(const std::string& name) const { return directory_.file(name); }

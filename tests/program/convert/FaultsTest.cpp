@@ -111,7 +111,7 @@ TEST_P(BrokenConversion, DoesNotTouchWhatIsThere) {
 TEST_P(BrokenConversion, LeavesNothingWhenItIsStopped) {
     const TemporaryDirectory input;
     const std::string grid = input.file("case.x");
-    ASSERT_EQ(plot3dwriter::writePlot3DFile(grid, contentsOf(gridLayout), {}).problem, "");
+    writeFile(grid, contentsOf(gridLayout), FileForm_s());
     const DataSet data = DataSet::open({grid});
     ContentSelection_s selection;
     for (std::size_t variable = 0; variable < data.variables().size(); ++variable)

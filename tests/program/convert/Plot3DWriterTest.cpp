@@ -27,12 +27,6 @@ FileDescription_s described(const LayoutCase_s& layout) {
     return contents;
 }
 
-std::string witnessBytes(const FileDescription_s& contents, const plot3dwriter::FileForm_s& form) {
-    std::string bytes;
-    EXPECT_EQ(plot3dwriter::writePlot3DBytes(bytes, contents, form).problem, "");
-    return bytes;
-}
-
 Layout layoutOf(plot3dwriter::Layout_e layout) {
     switch (layout) {
     case plot3dwriter::Layout_e::OneD:
@@ -78,9 +72,9 @@ TEST_P(Plot3DFiles, AreThoseOfTheWitness) {
     const Written_s written =
         Plot3DWriter().write(contents, {directory_.file("out.x"), false, wishesFor(layout, form)});
     ASSERT_EQ(written.files.size(), isGrid ? 1U : 2U);
-    EXPECT_EQ(bytesOfFile(written.files[0]), witnessBytes(grid, form));
+    EXPECT_EQ(bytesOfFile(written.files[0]), bytesOf(grid, form));
     if (other) {
-        EXPECT_EQ(bytesOfFile(written.files[1]), witnessBytes(*other, form));
+        EXPECT_EQ(bytesOfFile(written.files[1]), bytesOf(*other, form));
     }
 }
 
@@ -90,14 +84,13 @@ INSTANTIATE_TEST_SUITE_P(Every, Plot3DFiles, ::testing::ValuesIn(everyCase()),
 TEST(Plot3DFilesInSegments, AreCutAsTheWitnessCutsThem) {
     const TemporaryDirectory directory;
     const LayoutCase_s layout = {FileKind_e::Grid, plot3dwriter::Layout_e::ThreeDWhole, true, true};
-    plot3dwriter::FileForm_s form;
-    form.encoding = Encoding_e::Fortran;
+    plot3dwriter::FileForm_s form = fortran();
     for (const std::int64_t segmentBytes : {1, 7, 64, 241}) {
         form.maxSegmentBytes = segmentBytes;
         DescribedContents contents(described(layout), std::nullopt, ValueType::Float32);
         const std::string path = directory.file("out.x");
         Plot3DWriter().write(contents, {path, true, wishesFor(layout, form)});
-        EXPECT_EQ(bytesOfFile(path), witnessBytes(described(layout), form)) << segmentBytes;
+        EXPECT_EQ(bytesOfFile(path), bytesOf(described(layout), form)) << segmentBytes;
     }
 }
 

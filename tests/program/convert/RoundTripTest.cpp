@@ -25,9 +25,7 @@ Words tokensOf(const std::string& text) {
 std::string wanted(const WrittenFile_s& file) {
     FileDescription_s contents = file.contents;
     contents.triangleTag = nullptr;
-    std::string bytes;
-    plot3dwriter::writePlot3DBytes(bytes, contents, file.form);
-    return bytes;
+    return bytesOf(contents, file.form);
 }
 
 /// Text may break its lines elsewhere.
@@ -56,12 +54,9 @@ Words optionsFor(const FileForm_s& form) {
 
 /// Another encoding, byte order and precision that every value survives.
 FileForm_s otherForm(const FileForm_s& form) {
-    FileForm_s other;
-    other.encoding = Encoding_e::Fortran;
-    other.markerBytes = form.markerBytes == 4 ? 8 : 4;
-    other.precision = plot3dwriter::Precision_e::Double;
-    other.byteOrder = form.byteOrder == ByteOrder_e::Big ? ByteOrder_e::Little : ByteOrder_e::Big;
-    return other;
+    return formOf(Encoding_e::Fortran,
+                  form.byteOrder == ByteOrder_e::Big ? ByteOrder_e::Little : ByteOrder_e::Big,
+                  Precision_e::Double, form.markerBytes == 4 ? 8 : 4);
 }
 
 class RoundTrip : public ReadBackTest, public ::testing::WithParamInterface<MatrixCase_s> {

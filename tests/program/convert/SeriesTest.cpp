@@ -15,21 +15,6 @@ using plot3dwriter::Layout_e;
 
 constexpr int stepCount = 3;
 
-/// The file of a step: each value is moved by it.
-FileDescription_s fileOf(FileKind_e kind, int step) {
-    FileDescription_s file =
-        contentsOf({kind, Layout_e::ThreeDWhole, true, kind == FileKind_e::Grid});
-    file.grids = {{2, 3, 5}, {5, 2, 3}};
-    file.scalars.resize(kind == FileKind_e::Grid ? 0 : 2, {0.5, 2.25, 1500000.0, 0.25 * step});
-    for (std::vector<double>& scalars : file.scalars)
-        scalars[3] = 0.25 * step;
-    file.value = [kind, step](std::int32_t grid, std::int32_t variable, std::int32_t i,
-                              std::int32_t j, std::int32_t k) {
-        return valueAt(kind, grid, variable, i, j, k) + 7.0 * step;
-    };
-    return file;
-}
-
 class ConvertedSeries : public ReadBackTest {
 protected:
     /// m_1.x, m_1.q, ... in the form; gives their names.
@@ -39,9 +24,7 @@ protected:
             for (const auto& [kind, ending] : {std::pair(FileKind_e::Grid, ".x"),
                                                std::pair(FileKind_e::ClassicSolution, ".q")}) {
                 files.push_back(where + "/m_" + std::to_string(step + 1) + ending);
-                EXPECT_EQ(
-                    plot3dwriter::writePlot3DFile(files.back(), fileOf(kind, step), form).problem,
-                    "");
+                writeFile(files.back(), contentsOfStep(kind, step), form);
             }
         return files;
     }
@@ -56,7 +39,8 @@ protected:
 
 private:
     static ExpectedZone_s expectedZone(int step, std::int32_t grid) {
-        const auto dims = fileOf(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
+        const auto dims =
+            contentsOfStep(FileKind_e::Grid, step).grids[static_cast<std::size_t>(grid)];
         ExpectedZone_s zone;
         zone.size = {dims.i, dims.j, dims.k};
         addFields(zone, FileKind_e::Grid, 3, step, grid);
@@ -96,10 +80,7 @@ TEST_F(ConvertedSeries, BecomesTheFilesOfEachTime) {
     words.insert(words.end(),
                  {"--encoding", "fortran4", "--byte-order", "big", "-o", where + "/out.x"});
     ASSERT_EQ(runProgram(words), 0);
-    FileForm_s form;
-    form.encoding = plot3dwriter::Encoding_e::Fortran;
-    form.byteOrder = plot3dwriter::ByteOrder_e::Big;
-    writeSeries(where, form);
+    writeSeries(where, fortran(ByteOrder_e::Big));
     for (const char* const name : {"_1.x", "_1.q", "_2.x", "_2.q", "_3.x", "_3.q"})
         EXPECT_TRUE(bytesOfFile(where + "/out" + name) == bytesOfFile(where + "/m" + name)) << name;
 }

@@ -25,7 +25,7 @@ class DiffCommandTest : public ValueFilesTest {
 protected:
     /// Grid and solution, under names of their own.
     Words flow(const std::string& name, const Value& value = placeValue,
-               const Sizes& sizes = twoSizes, const writer::FileForm_s& form = binaryForm()) const {
+               const Sizes& sizes = twoSizes, const writer::FileForm_s& form = {}) const {
         return {write(name + ".x", gridFile(sizes, placeValue), form),
                 write(name + ".q", solutionFile(sizes, value), form)};
     }
@@ -45,13 +45,12 @@ protected:
 };
 
 TEST_F(DiffCommandTest, FindsNoneWhereValuesAreTheSameInAnyForm) {
-    writer::FileForm_s text;
-    text.encoding = writer::Encoding_e::Text;
-    writer::FileForm_s fortran = binaryForm(writer::Precision_e::Single, writer::ByteOrder_e::Big);
-    fortran.encoding = writer::Encoding_e::Fortran;
-    fortran.markerBytes = 8;
+    const auto text = formOf(writer::Encoding_e::Text);
+    const auto fortran = formOf(writer::Encoding_e::Fortran, writer::ByteOrder_e::Big,
+                                writer::Precision_e::Single, 8);
     const Words plain = flow("a", randomValues(5));
-    for (const auto& form : {text, fortran, binaryForm(writer::Precision_e::Double)}) {
+    for (const auto& form :
+         {text, fortran, binary(writer::ByteOrder_e::Little, writer::Precision_e::Double)}) {
         const Ended_s run = diff(plain, flow("b", randomValues(5), twoSizes, form));
         EXPECT_EQ(run.code, 0) << run.err;
         EXPECT_EQ(run.out, "The data sets are the same: 1,080 values compared\n");

@@ -102,8 +102,8 @@ private:
 
     writer::FileForm_s form() {
         writer::FileForm_s made =
-            binaryForm(upTo(2) == 1 ? writer::Precision_e::Single : writer::Precision_e::Double,
-                       upTo(2) == 1 ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big);
+            binary(upTo(2) == 1 ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big,
+                   upTo(2) == 1 ? writer::Precision_e::Single : writer::Precision_e::Double);
         if (upTo(2) == 1)
             made.encoding = writer::Encoding_e::Fortran;
         return made;

@@ -16,12 +16,8 @@ GridDims_s dimsOf(int gibibytes) {
     return {509, 521, gibibytes * 507};
 }
 
-FileForm_s formOf(Encoding_e encoding) {
-    FileForm_s form;
-    form.encoding = encoding;
-    form.byteOrder = ByteOrder_e::Big;
-    form.precision = Precision_e::Double;
-    return form;
+FileForm_s bigForm(Encoding_e encoding) {
+    return formOf(encoding, ByteOrder_e::Big, Precision_e::Double);
 }
 
 double placeValue(std::int32_t variable, std::int32_t i, std::int32_t j, std::int32_t k) {
@@ -32,16 +28,16 @@ class BigIndex : public IndexTest, public ::testing::WithParamInterface<int> {
 protected:
     /// Of each variable the first and the last plane are written.
     static std::string write(const std::string& where, const FileForm_s& form) {
-        FileDescription_s contents;
-        contents.grids = {dimsOf(GetParam())};
-        contents.value = [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
-                            std::int32_t k) { return placeValue(variable, i, j, k); };
+        FileDescription_s contents =
+            describe(FileKind_e::Grid, {dimsOf(GetParam())}, Layout_e::ThreeDWhole,
+                     [](std::int32_t, std::int32_t variable, std::int32_t i, std::int32_t j,
+                        std::int32_t k) { return placeValue(variable, i, j, k); });
         contents.isHole = [last = dimsOf(GetParam()).k - 1](std::int32_t, std::int32_t,
                                                             std::int32_t k) {
             return k != 0 && k != last;
         };
         const std::string file = where + "/big.x";
-        EXPECT_EQ(writePlot3DFile(file, contents, form).problem, "");
+        writeFile(file, contents, form);
         return file;
     }
 
@@ -63,19 +59,19 @@ protected:
 
 TEST_P(BigIndex, HasTheEndsOfEachField) {
     const std::string where = folder("big");
-    ASSERT_EQ(index({write(where, formOf(Encoding_e::Binary))}, where + "/out.cgns"), 0);
+    ASSERT_EQ(index({write(where, bigForm(Encoding_e::Binary))}, where + "/out.cgns"), 0);
     expectEnds(where + "/out.cgns");
 }
 
 TEST_P(BigIndex, HasTheEndsOfEachFieldInSegments) {
     const std::string where = folder("big");
-    ASSERT_EQ(index({write(where, formOf(Encoding_e::Fortran))}, where + "/out.cgns"), 0);
+    ASSERT_EQ(index({write(where, bigForm(Encoding_e::Fortran))}, where + "/out.cgns"), 0);
     expectEnds(where + "/out.cgns");
 }
 
 TEST_P(BigIndex, IsRefusedWhereMarkersCutAField) {
     const std::string where = folder("big");
-    const std::string file = write(where, formOf(Encoding_e::Fortran));
+    const std::string file = write(where, bigForm(Encoding_e::Fortran));
     std::string err;
     EXPECT_EQ(index({file}, where + "/out.json", &err), 1);
     EXPECT_NE(err.find("is cut by markers, which references can't tell"), std::string::npos) << err;

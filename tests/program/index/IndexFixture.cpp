@@ -43,25 +43,6 @@ json fieldsOf(const plot3d::DataSet& data, std::size_t zone, std::ofstream& valu
     return fields;
 }
 
-/// Each value is moved by its step.
-FileDescription_s fileOf(FileKind_e kind, int step) {
-    FileDescription_s file =
-        contentsOf({kind, Layout_e::ThreeDWhole, true, kind == FileKind_e::Grid});
-    file.grids = {{2, 3, 5}, {5, 2, 3}};
-    file.scalars.resize(kind == FileKind_e::Grid ? 0 : 2, {0.5, 2.25, 1500000.0, 0.25 * step});
-    for (std::vector<double>& scalars : file.scalars)
-        scalars[3] = 0.25 * step;
-    file.value = [kind, step](std::int32_t grid, std::int32_t variable, std::int32_t i,
-                              std::int32_t j, std::int32_t k) {
-        return valueAt(kind, grid, variable, i, j, k) + 7.0 * step;
-    };
-    return file;
-}
-
-void write(const std::string& path, const FileDescription_s& file, const FileForm_s& form) {
-    ASSERT_EQ(plot3dwriter::writePlot3DFile(path, file, form).problem, "");
-}
-
 } // namespace
 
 int IndexTest::index(std::vector<std::string> arguments, const std::string& output,
@@ -92,13 +73,11 @@ void IndexTest::expectWhatTheLibraryFinds(const std::string& folder,
 }
 
 std::vector<std::string> IndexTest::writePair(const std::string& folder) {
-    FileForm_s form;
-    form.encoding = plot3dwriter::Encoding_e::Fortran;
-    form.byteOrder = plot3dwriter::ByteOrder_e::Big;
+    const FileForm_s form = fortran(ByteOrder_e::Big);
     const std::vector<std::string> files = {folder + "/a.x", folder + "/a.q"};
-    write(files[0], contentsOf({FileKind_e::Grid, Layout_e::ThreeDWhole, false, false}), form);
-    write(files[1], contentsOf({FileKind_e::ClassicSolution, Layout_e::ThreeDWhole, false, false}),
-          form);
+    writeFile(files[0], contentsOf({FileKind_e::Grid, Layout_e::ThreeDWhole, false, false}), form);
+    writeFile(files[1],
+              contentsOf({FileKind_e::ClassicSolution, Layout_e::ThreeDWhole, false, false}), form);
     return files;
 }
 
@@ -106,7 +85,7 @@ std::vector<std::string> IndexTest::writeSeries(const std::string& folder, int s
     std::vector<std::string> files;
     const auto add = [&](const std::string& name, FileKind_e kind, int step) {
         files.push_back(folder + "/" + name);
-        write(files.back(), fileOf(kind, step), {});
+        writeFile(files.back(), contentsOfStep(kind, step));
     };
     if (!moves)
         add("m.x", FileKind_e::Grid, 0);

@@ -1,6 +1,9 @@
-#include <CLI/CLI.hpp>
+#include <iterator>
+#include <sstream>
+
 #include <gtest/gtest.h>
 
+#include "options/OptionParser.h"
 #include "selection/Selection.h"
 
 namespace plot3d::program {
@@ -12,11 +15,23 @@ Zone zoneOf(std::int64_t i, std::int64_t j, std::int64_t k) {
     return zone;
 }
 
-std::optional<Box> boxOf(const char* arguments, const Zone& zone) {
-    CLI::App app;
+/// What is wrong with the words of the command line; empty if nothing is.
+std::string problemOf(const std::string& arguments, SelectionArguments& selection) {
+    OptionParser parser;
+    OptionTable table = parser.table();
+    selection.declare(table);
+    std::istringstream in(arguments);
+    return parser.parse({std::istream_iterator<std::string>(in), {}});
+}
+
+std::string problemOf(const std::string& arguments) {
     SelectionArguments selection;
-    selection.declare(app);
-    app.parse(arguments);
+    return problemOf(arguments, selection);
+}
+
+std::optional<Box> boxOf(const std::string& arguments, const Zone& zone) {
+    SelectionArguments selection;
+    EXPECT_EQ(problemOf(arguments, selection), "");
     return selection.box(zone);
 }
 
@@ -39,9 +54,11 @@ TEST(SelectionBox, IsMissingInAZoneWithoutThePoints) {
 }
 
 TEST(Selection, RefusesWhatItCannotUnderstandWhileTheCommandLineIsRead) {
-    EXPECT_THROW(boxOf("--i 0", Zone()), CLI::ValidationError);
-    EXPECT_THROW(boxOf("--point 1,2,3,4", Zone()), CLI::ValidationError);
-    EXPECT_THROW(boxOf("--point 1 --k 1", Zone()), CLI::ExcludesError);
+    EXPECT_EQ(problemOf("--i 0"),
+              "--i: \"0\" holds no index: they count from 1, or from the end with -1 for the last");
+    EXPECT_EQ(problemOf("--point 1,2,3,4"),
+              "--point: \"1,2,3,4\" has more than the three indices of a point");
+    EXPECT_EQ(problemOf("--point 1 --k 1"), "--k excludes --point");
 }
 
 } // namespace

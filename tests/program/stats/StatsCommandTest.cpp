@@ -200,7 +200,7 @@ Json fieldsByHost(const std::string& files) {
 }
 
 TEST_F(StatsCommandTest, HashesToTheChecksumsOfTheHost) {
-    const auto form = binaryForm(writer::Precision_e::Double, writer::ByteOrder_e::Big);
+    const auto form = binary(writer::ByteOrder_e::Big, writer::Precision_e::Double);
     const auto x = write("b.x", gridFile(twoSizes, randomValues(3), oneHole), form);
     const auto q = write("b.q", solutionFile(twoSizes, randomValues(4)), form);
     const Json zones = fieldsByHost(x + " " + q);

@@ -39,8 +39,8 @@ public:
         for (Along_s* along : {&i, &j, &k})
             if (chance(2))
                 *along = {upTo(2) - 1, upTo(9), upTo(3)};
-        form = binaryForm(chance(2) ? writer::Precision_e::Single : writer::Precision_e::Double,
-                          chance(2) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big);
+        form = binary(chance(2) ? writer::ByteOrder_e::Little : writer::ByteOrder_e::Big,
+                      chance(2) ? writer::Precision_e::Single : writer::Precision_e::Double);
         if (chance(3))
             form.encoding = writer::Encoding_e::Fortran;
         spoiltShare_ = chance(2) ? 5U : 0U;

@@ -1,7 +1,5 @@
 #include "program/values/ValueFiles.h"
 
-#include <stdexcept>
-
 namespace plot3d::program {
 namespace {
 
@@ -15,11 +13,9 @@ std::uint64_t mixed(std::uint64_t state) {
 
 writer::FileDescription_s severalGrids(writer::FileKind_e kind, const Sizes& sizes,
                                        const Value& value) {
-    writer::FileDescription_s contents;
-    contents.kind = kind;
+    writer::FileDescription_s contents =
+        quorvia::testsupport::describe(kind, sizes, writer::Layout_e::ThreeDWhole, value);
     contents.isMultiGrid = true;
-    contents.grids = sizes;
-    contents.value = value;
     return contents;
 }
 
@@ -63,15 +59,8 @@ writer::FileDescription_s functionFile(const Sizes& sizes, std::int32_t variable
 writer::FileDescription_s solutionFile(const Sizes& sizes, const Value& value, double time) {
     writer::FileDescription_s contents =
         severalGrids(writer::FileKind_e::ClassicSolution, sizes, value);
-    contents.scalars.assign(sizes.size(), {0.5, 0.0, 1e6, time});
+    quorvia::testsupport::setScalars(contents, {0.5, 0.0, 1e6, time});
     return contents;
-}
-
-writer::FileForm_s binaryForm(writer::Precision_e precision, writer::ByteOrder_e order) {
-    writer::FileForm_s form;
-    form.precision = precision;
-    form.byteOrder = order;
-    return form;
 }
 
 bool isTakenForAnother(const Ended_s& run) {
@@ -83,9 +72,7 @@ bool isTakenForAnother(const Ended_s& run) {
 std::string ValueFilesTest::write(const std::string& name,
                                   const writer::FileDescription_s& contents,
                                   const writer::FileForm_s& form) const {
-    const auto outcome = writer::writePlot3DFile(file(name), contents, form);
-    if (!outcome.problem.empty())
-        throw std::runtime_error(outcome.problem);
+    quorvia::testsupport::writeFile(file(name), contents, form);
     return file(name);
 }
 

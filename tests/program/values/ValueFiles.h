@@ -9,8 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include "plot3dwriter/Plot3DWriter.h"
 #include "program/ProgramRun.h"
+#include "support/BytesOfFile.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace plot3d::program {
@@ -20,7 +21,10 @@ namespace writer = quorvia::plot3dwriter;
 /// Of grid, variable, I, J and K, all from 0.
 using Value = writer::ValueFunction;
 using IBlank = writer::IBlankFunction;
-using Sizes = std::vector<writer::GridDims_s>;
+using Sizes = quorvia::testsupport::GridList;
+using quorvia::testsupport::binary;
+using quorvia::testsupport::bytesOfFile;
+using quorvia::testsupport::formOf;
 
 /// 32 random bits that hang on the arguments alone.
 std::uint32_t dice(std::uint64_t seed, std::int64_t a, std::int64_t b = 0, std::int64_t c = 0,
@@ -40,19 +44,15 @@ writer::FileDescription_s functionFile(const Sizes& sizes, std::int32_t variable
 /// With the five variables of a Classic solution.
 writer::FileDescription_s solutionFile(const Sizes& sizes, const Value& value, double time = 0);
 
-/// Plain binary.
-writer::FileForm_s binaryForm(writer::Precision_e precision = writer::Precision_e::Single,
-                              writer::ByteOrder_e order = writer::ByteOrder_e::Little);
-
 /// Whether a run ended because a small function file has the bytes of something else as well, which
 /// comes ahead of it in detection: one in a thousand of random ones.
 bool isTakenForAnother(const Ended_s& run);
 
 class ValueFilesTest : public testing::Test {
 protected:
-    /// Gives the file's name.
+    /// Plain binary unless told. Gives the file's name.
     std::string write(const std::string& name, const writer::FileDescription_s& contents,
-                      const writer::FileForm_s& form = binaryForm()) const;
+                      const writer::FileForm_s& form = {}) const;
     std::string file(const std::string& name) const { return directory_.file(name); }
 
 private:

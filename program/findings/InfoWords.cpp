@@ -1,4 +1,4 @@
-#include "info/InfoWords.h"
+#include "findings/InfoWords.h"
 
 #include <fmt/core.h>
 
