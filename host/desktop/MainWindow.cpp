@@ -14,14 +14,11 @@
 
 #include "describe/Words.h"
 #include "desktop/DrawnIcon.h"
-#include "desktop/FieldTableWindow.h"
 #include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
 #include "desktop/ViewFiles.h"
 #include "desktop/ZoneGroups.h"
-#include "desktop/values/HistogramWindow.h"
-#include "desktop/values/IBlankWindow.h"
 
 namespace quorvia::host {
 namespace {
@@ -39,7 +36,7 @@ std::vector<std::string> localFiles(const QMimeData& data) {
 } // namespace
 
 MainWindow::MainWindow(const std::string& addOnPath, std::vector<std::string> files)
-    : filesAtStart_(std::move(files)), session_(*this) {
+    : valuesActions_(*this), filesAtStart_(std::move(files)), session_(*this) {
     setObjectName(QStringLiteral("main"));
     setAcceptDrops(true);
     addMenus();
@@ -64,6 +61,7 @@ void MainWindow::addPanes() {
                               this);
     tree_->tellChoices([this](const std::string& variable) { view_->colourBy(variable); },
                        [this](const auto& zones) { view_->showZones(zones); });
+    valuesActions_.follow(*tree_, *view_);
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
         if (const auto zone = tree_->currentZone())
             view_->offerZone(*zone - 1);
@@ -132,15 +130,9 @@ void MainWindow::addValuesMenu() {
                             &MainWindow::fetchSelected);
     fetchAll_ = action(QStringLiteral("Fetch &All Values"),
                        QKeySequence(QStringLiteral("Shift+F5")), &MainWindow::fetchAll);
-    showTable_ = action(QStringLiteral("Show &Table of Field"), QKeySequence(Qt::Key_F6),
-                        &MainWindow::showTable);
-    showHistogram_ = action(QStringLiteral("Show &Histogram"), QKeySequence(Qt::Key_F7),
-                            &MainWindow::showHistogram);
-    showIBlank_ = action(QStringLiteral("Show Values of I-&Blank"), QKeySequence(Qt::Key_F8),
-                         &MainWindow::showIBlank);
     values->addActions({fetchSelected_, fetchAll_});
     values->addSeparator();
-    values->addActions({showTable_, showHistogram_, showIBlank_});
+    values->addActions(valuesActions_.all());
 }
 
 void MainWindow::addHelpMenu() {
@@ -180,14 +172,7 @@ void MainWindow::showWhatIsPossible() {
     set(fetchAll_, hasDataSet, "There is no data set, or work goes on.");
     set(fetchSelected_, hasDataSet && !tree_->selectedItems().isEmpty(),
         "Select variables, zones or fields of the data set first.");
-    const bool isOneField = tree_->dataSet() != nullptr && tree_->selectedFields().size() == 1;
-    set(showTable_, isOneField && values_ != nullptr,
-        isOneField ? whyNoValues_.c_str() : "Select one field of a zone first.");
-    const char* const whyNoValues =
-        tree_->dataSet() == nullptr ? "There is no data set." : whyNoValues_.c_str();
-    const bool hasIBlank = values_ != nullptr && IBlankWindow::iBlankOf(*values_).has_value();
-    set(showHistogram_, values_ != nullptr, whyNoValues);
-    set(showIBlank_, hasIBlank, values_ != nullptr ? "The data set has no I-blank." : whyNoValues);
+    valuesActions_.showWhatIsPossible();
     set(savePicture_, view_->hasPicture(), "There is no picture.");
     set(saveView_, view_->hasPicture(), "There is no picture.");
     set(openView_, values_ != nullptr && !session_.isBusy(), "There is nothing to be looked at.");
@@ -294,9 +279,8 @@ void MainWindow::showTree(DataSetOutcome_s dataSet, QuorPlotType_e plotType) {
 
 void MainWindow::showValues(std::shared_ptr<const plot3d::DataSet> values,
                             const std::string& whyNot) {
-    ValuesWindow::closeAll(*this); // of what is gone
+    valuesActions_.showData(values, whyNot);
     values_ = std::move(values);
-    whyNoValues_ = whyNot;
     view_->showDataSet(values_, whyNot);
     showTitle();
 }
@@ -353,34 +337,6 @@ void MainWindow::showFetched(DataSetOutcome_s dataSet, FetchEnd_e end) {
     workEnded(end == FetchEnd_e::Done      ? QStringLiteral("Values fetched")
               : end == FetchEnd_e::Stopped ? QStringLiteral("Fetching cancelled")
                                            : QStringLiteral("Not all values could be fetched"));
-}
-
-void MainWindow::showTable() {
-    const FieldAddress_s field = tree_->selectedFields().front();
-    auto* table = new FieldTableWindow(values_, static_cast<std::size_t>(field.zone) - 1,
-                                       static_cast<std::size_t>(field.variable) - 1, this);
-    table->show();
-}
-
-/// The zone of the row that is current in the tree; without one the time in the picture.
-ValuesScope_s MainWindow::scopeOfSelection() const {
-    const std::optional<std::size_t> zone = tree_->currentZone();
-    return {zone ? ValuesScope_s::Over_e::Zone : ValuesScope_s::Over_e::Time, zone ? *zone - 1 : 0,
-            view_->step()};
-}
-
-/// Of the variable of the row that is current in the tree; without one of that in the picture.
-void MainWindow::showHistogram() {
-    std::optional<std::size_t> variable = tree_->currentVariable();
-    for (std::size_t place = 0; !variable && place < values_->variables().size(); ++place)
-        if (shown(values_->variables()[place].name).trimmed() == shown(view_->colour()))
-            variable = place + 1;
-    const std::size_t chosen = variable.value_or(1) - 1;
-    (new HistogramWindow(values_, chosen, scopeOfSelection(), this))->show();
-}
-
-void MainWindow::showIBlank() {
-    (new IBlankWindow(values_, scopeOfSelection(), this))->show();
 }
 
 void MainWindow::savePicture() {

@@ -15,7 +15,7 @@
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
 #include "desktop/RecentMenu.h"
-#include "desktop/values/ValuesScope.h"
+#include "desktop/ValuesActions.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -63,10 +63,6 @@ private:
     void fetchSelected() { fetch(tree_->selectedFields()); }
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
-    void showTable();
-    void showHistogram();
-    void showIBlank();
-    ValuesScope_s scopeOfSelection() const;
     void savePicture();
     void saveView();
     void openView();
@@ -91,14 +87,11 @@ private:
     QAction* discard_ = nullptr;
     QAction* fetchSelected_ = nullptr;
     QAction* fetchAll_ = nullptr;
-    QAction* showTable_ = nullptr;
-    QAction* showHistogram_ = nullptr;
-    QAction* showIBlank_ = nullptr;
+    ValuesActions valuesActions_;
     QAction* savePicture_ = nullptr;
     QAction* saveView_ = nullptr;
     QAction* openView_ = nullptr;
-    std::shared_ptr<const plot3d::DataSet> values_; // null: none, or whyNoValues_
-    std::string whyNoValues_;
+    std::shared_ptr<const plot3d::DataSet> values_; // null: none that can be looked at
     bool isOpened_ = false;
     bool wantsToClose_ = false;
     std::vector<std::string> filesAtStart_;

@@ -48,11 +48,10 @@ void ViewArguments::declareContents(const OptionTable& options) {
                  "Variable, or derived quantity by word or number; none for plain surfaces "
                  "(default: the first variable of the solution)");
     options
-        .text(
-            "--range", range_, "RANGE",
-            "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
-            "points shown (default), all points at that time (time), at all times (all-times), or "
-            "of one zone (zone=NUMBER)")
+        .text("--range", range_, "RANGE",
+              "LEAST:MOST, values at the ends of the colours; or what they are taken from: the "
+              "points shown (default), all points at that time (time), at all times "
+              "(all-times), or of one zone (zone=NUMBER)")
         .check(parsedBy(checkRange));
     options.text("--time", time_, "TIME", "Solution time: the step at it, or first or last");
     options.flag("--all-times", allTimes_,
