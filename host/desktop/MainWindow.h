@@ -15,6 +15,7 @@
 #include "desktop/FocusReturn.h"
 #include "desktop/Preferences.h"
 #include "desktop/RecentMenu.h"
+#include "desktop/ViewFiles.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -64,8 +65,8 @@ private:
     void discardDataSet();
     void showTable();
     void savePicture();
-    void saveView();
-    void openView();
+    void saveView() { saveViewByHand(this, *view_); }
+    void openView() { openViewByHand(this, *view_); }
     void showHelp();
     void showAbout();
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QEvent>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QImage>
 #include <QShortcut>
@@ -126,10 +127,12 @@ QWidget* ViewPanel::makeFoot() {
     constexpr int linesOfValues = 3;
     values_->setMinimumHeight(linesOfValues * values_->fontMetrics().lineSpacing());
     auto* foot = new QWidget(this);
-    auto* layout = new QVBoxLayout(foot);
+    auto* layout = new QGridLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeProgressRow());
-    layout->addWidget(values_); // also while something is prepared: a click is answered at once
+    layout->addWidget(values_, 0, 0);
+    // Beside the first lines, which are short: a click is answered also while something is
+    // prepared.
+    layout->addWidget(makeProgressRow(), 0, 0, Qt::AlignTop | Qt::AlignRight);
     return foot;
 }
 
@@ -139,9 +142,9 @@ QWidget* ViewPanel::makeProgressRow() {
     progressText_->setTextFormat(Qt::PlainText);
     progress_ = new QProgressBar(progressRow_);
     progress_->setRange(0, 100);
-    QSizePolicy policy = progressRow_->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // the picture keeps its size
-    progressRow_->setSizePolicy(policy);
+    constexpr int progressWidth = 340;
+    progressRow_->setFixedWidth(progressWidth);
+    progressRow_->setAutoFillBackground(true); // over a long name
     auto* cancel = new QPushButton(QStringLiteral("Cancel"), progressRow_);
     cancel->setObjectName(QStringLiteral("cancelView"));
     connect(cancel, &QPushButton::clicked, this, [this] { prepare_.cancel(); });
