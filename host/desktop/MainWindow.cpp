@@ -17,7 +17,6 @@
 #include "desktop/KeptView.h"
 #include "desktop/MessageBoxes.h"
 #include "desktop/Texts.h"
-#include "desktop/ViewFiles.h"
 #include "desktop/ZoneGroups.h"
 
 namespace quorvia::host {
@@ -345,14 +344,6 @@ void MainWindow::savePicture() {
     if (!file.isEmpty() && !view_->savePicture(file))
         showText(this, "The picture can't be written to " + file.toStdString() + ".",
                  TextKind_e::Error);
-}
-
-void MainWindow::saveView() {
-    saveViewByHand(this, *view_);
-}
-
-void MainWindow::openView() {
-    openViewByHand(this, *view_);
 }
 
 // ---- Help, and the rest of a window's life ------------------------------------------------------

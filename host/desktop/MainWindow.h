@@ -16,6 +16,7 @@
 #include "desktop/Preferences.h"
 #include "desktop/RecentMenu.h"
 #include "desktop/ValuesActions.h"
+#include "desktop/ViewFiles.h"
 #include "desktop/view/DataSetView.h"
 
 namespace quorvia::host {
@@ -64,8 +65,8 @@ private:
     void fetchAll() { fetch(tree_->allFields()); }
     void discardDataSet();
     void savePicture();
-    void saveView();
-    void openView();
+    void saveView() { saveViewByHand(this, *view_); }
+    void openView() { openViewByHand(this, *view_); }
     void showHelp();
     void showAbout();
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QEvent>
+#include <QGridLayout>
 #include <QImage>
 #include <QShortcut>
 #include <QSurfaceFormat>
@@ -146,14 +147,16 @@ QWidget* ViewPanel::makeFoot() {
     constexpr int linesOfValues = 3;
     values_->setMinimumHeight(linesOfValues * values_->fontMetrics().lineSpacing());
     auto* foot = new QWidget(this);
-    auto* layout = new QVBoxLayout(foot);
+    auto* layout = new QGridLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(values_, 0, 0);
     progressRow_ = new WorkRow(prepare_, "cancelView", this);
-    QSizePolicy policy = progressRow_->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // the picture keeps its size
-    progressRow_->setSizePolicy(policy);
-    layout->addWidget(progressRow_);
-    layout->addWidget(values_); // also while something is prepared: a click is answered at once
+    constexpr int progressWidth = 340;
+    progressRow_->setFixedWidth(progressWidth);
+    progressRow_->setAutoFillBackground(true); // over a long name
+    // Beside the first lines, which are short: a click is answered also while something is
+    // prepared.
+    layout->addWidget(progressRow_, 0, 0, Qt::AlignTop | Qt::AlignRight);
     return foot;
 }
 
