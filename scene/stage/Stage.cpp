@@ -7,7 +7,6 @@
 #include <vtkActor.h>
 #include <vtkCallbackCommand.h>
 #include <vtkCamera.h>
-#include <vtkCellPicker.h>
 #include <vtkContextActor.h>
 #include <vtkContextScene.h>
 #include <vtkLight.h>
@@ -21,6 +20,7 @@
 #include "annotation/Annotation.h"
 #include "annotation/Layout.h"
 #include "annotation/LinePlot.h"
+#include "annotation/MeshPick.h"
 #include "colours/ColourMap.h"
 #include "stage/CameraLink.h"
 #include "stage/Overlay.h"
@@ -53,13 +53,6 @@ void addLights(vtkRenderer& renderer) {
         light->SetIntensity(one.intensity);
         renderer.AddLight(light);
     }
-}
-
-double squaredDistance(const Vector3& one, const double* other) {
-    double sum = 0;
-    for (std::size_t axis = 0; axis < 3; ++axis)
-        sum += (one[axis] - other[axis]) * (one[axis] - other[axis]);
-    return sum;
 }
 
 /// A cross that can be seen on light and on dark.
@@ -239,8 +232,8 @@ private:
         return now.pixelOf(*mark_);
     }
 
-    Picked_s nearest(const ZoneActors& zone, std::int64_t cell, const double* position) const;
     std::optional<Picked_s> pickOnCurve(const Pixel& pixel) const;
+    std::optional<Picked_s> pickOnSurfaces(const Pixel& pixel) const;
 
     vtkRenderer& renderer_;
     std::shared_ptr<const SceneContent_s> content_;
@@ -254,24 +247,6 @@ private:
     unsigned long observer_ = 0;
     std::optional<Vector3> mark_;
 };
-
-Picked_s Stage::Parts::nearest(const ZoneActors& zone, std::int64_t cell,
-                               const double* position) const {
-    const Mesh_s& mesh = *zone.part().mesh;
-    const std::vector<std::int64_t> corners = zone.pointsOf(cell);
-    const std::int64_t point = *std::min_element(
-        corners.begin(), corners.end(), [&](std::int64_t one, std::int64_t other) {
-            return squaredDistance(pointOf(mesh, one), position) <
-                   squaredDistance(pointOf(mesh, other), position);
-        });
-    Picked_s picked;
-    picked.zone = zone.part().zone;
-    picked.place = mesh.placeOf(point);
-    picked.position = pointOf(mesh, point);
-    if (zone.part().values)
-        picked.value = zone.part().values->values[static_cast<std::size_t>(point)];
-    return picked;
-}
 
 std::optional<Picked_s> Stage::Parts::pickOnCurve(const Pixel& pixel) const {
     const Layout_s now = layout();
@@ -291,17 +266,26 @@ std::optional<Picked_s> Stage::Parts::pick(double x, double y) {
         return std::nullopt;
     if (content_->view.plot == PlotKind_e::Lines)
         return pickOnCurve({x, y});
-    vtkNew<vtkCellPicker> picker;
-    picker->SetTolerance(0.0005);
-    picker->PickFromListOn();
-    for (const auto& zone : zones_)
-        picker->AddPickList(zone->surface());
-    if (picker->Pick(x, y, 0, &renderer_) == 0 || picker->GetCellId() < 0)
-        return std::nullopt;
-    for (const auto& zone : zones_)
-        if (zone->surface() == picker->GetActor())
-            return nearest(*zone, picker->GetCellId(), picker->GetPickPosition());
-    return std::nullopt;
+    return pickOnSurfaces({x, y});
+}
+
+/// Where surfaces lie in one another, that of the first zone is in front, as it is drawn.
+std::optional<Picked_s> Stage::Parts::pickOnSurfaces(const Pixel& pixel) const {
+    const Projection_s now = projection();
+    const double together = 1e-6 * diagonalOf(content_->bounds);
+    std::optional<double> front;
+    std::optional<Picked_s> picked;
+    for (const ZonePart_s& part : content_->parts) {
+        const auto hit = hitOf(*part.mesh, now, pixel, /*reach=*/4 * layout().unit);
+        if (!hit || (front && hit->depth <= *front + together))
+            continue;
+        front = hit->depth;
+        picked = Picked_s{part.zone, part.mesh->placeOf(hit->point),
+                          pointOf(*part.mesh, hit->point), std::nullopt};
+        if (part.values)
+            picked->value = part.values->values[static_cast<std::size_t>(hit->point)];
+    }
+    return picked;
 }
 
 Stage::Stage(vtkRenderer& renderer) : parts_(std::make_unique<Parts>(renderer)) {}

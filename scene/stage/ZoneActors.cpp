@@ -209,10 +209,4 @@ void ZoneActors::showOutline(const ZonePart_s& part, const Style_s& style) {
     setLines(*outline_, data, style, 1);
 }
 
-std::vector<std::int64_t> ZoneActors::pointsOf(std::int64_t cell) const {
-    vtkNew<vtkIdList> corners;
-    mapper_->GetInput()->GetCellPoints(cell, corners);
-    return {corners->begin(), corners->end()};
-}
-
 } // namespace plot3d::scene

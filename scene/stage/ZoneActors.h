@@ -44,8 +44,6 @@ public:
 
     vtkActor* surface() const { return surface_; }
     const ZonePart_s& part() const { return part_; }
-    /// Points of a cell of surface(), as it is drawn at the moment.
-    std::vector<std::int64_t> pointsOf(std::int64_t cell) const;
 
 private:
     /// All lines and arrows are made anew.

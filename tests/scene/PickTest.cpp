@@ -90,6 +90,33 @@ TEST_F(PickTest, TellsThePointOfACurve) {
     EXPECT_FALSE(stage_->pick(2, 2));
 }
 
+TEST_F(PickTest, TellsTheFirstZoneWhereZonesLieInOneAnother) {
+    const DataSet data = opened({"cylinder"});
+    View_s view = smallView();
+    view.camera.direction = {0, 0, 1};
+    show(prepared(data, view));
+    const plot3d::Extent size = data.zones()[0].size;
+    const plot3d::Box outside{{2, 2, 1}, {size.j - 1, size.j - 1, 1}, {size.k - 1, size.k - 1, 1}};
+    const auto picked = pickAt(data.values(0, 0, outside)[0], data.values(0, 1, outside)[0],
+                               data.values(0, 2, outside)[0]);
+    ASSERT_TRUE(picked);
+    EXPECT_EQ(picked->zone, 0U);
+}
+
+TEST_F(PickTest, TellsThePointOfALineOfThePlane) {
+    const DataSet data = numbered({5, 3, 1});
+    const auto view = [] {
+        View_s lines = viewOf("j=2");
+        lines.size = {480, 360};
+        return lines;
+    }();
+    show(prepared(data, view));
+    const auto picked = pickAt(3 + 1 / 4.0, 1, 0);
+    ASSERT_TRUE(picked);
+    EXPECT_EQ(picked->place, (plot3d::scene::Place_s{3, 1, 0}));
+    EXPECT_FALSE(pickAt(3, 2, 0));
+}
+
 TEST_F(PickTest, MarksThePointOfACurve) {
     const DataSet data = opened({"shocktube"});
     const Content content = prepared(data, smallView());

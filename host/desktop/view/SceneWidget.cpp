@@ -39,20 +39,20 @@ public:
     void OnLeftButtonDown() override {
         const int* at = Interactor->GetEventPosition();
         pressedAt_ = {at[0], at[1]};
-        if (!isFlat()) {
-            vtkInteractorStyleTrackballCamera::OnLeftButtonDown();
-            return;
-        }
-        FindPokedRenderer(at[0], at[1]);
-        GrabFocus(EventCallbackCommand);
-        StartPan();
+        isPressed_ = true;
+    }
+    /// What has begun is drawn anew when it ends, which a click has no time for: nothing begins
+    /// before the hand has moved.
+    void OnMouseMove() override {
+        if (isPressed_ && !isAtPress())
+            startDrag();
+        vtkInteractorStyleTrackballCamera::OnMouseMove();
     }
     void OnLeftButtonUp() override {
-        vtkInteractorStyleTrackballCamera::OnLeftButtonUp();
         const int* at = Interactor->GetEventPosition();
-        const double trembling = 3 * pixelRatio(); // pixels
-        if (std::abs(at[0] - pressedAt_[0]) <= trembling &&
-            std::abs(at[1] - pressedAt_[1]) <= trembling)
+        if (!std::exchange(isPressed_, false))
+            vtkInteractorStyleTrackballCamera::OnLeftButtonUp();
+        if (isAtPress())
             clicked(at[0], at[1]);
     }
     void StartState(int state) override {
@@ -69,7 +69,25 @@ protected:
     Hands() = default;
 
 private:
+    bool isAtPress() const {
+        const int* at = Interactor->GetEventPosition();
+        const double trembling = 3 * pixelRatio(); // pixels
+        return std::abs(at[0] - pressedAt_[0]) <= trembling &&
+               std::abs(at[1] - pressedAt_[1]) <= trembling;
+    }
+    void startDrag() {
+        isPressed_ = false;
+        if (!isFlat()) {
+            vtkInteractorStyleTrackballCamera::OnLeftButtonDown();
+            return;
+        }
+        FindPokedRenderer(pressedAt_[0], pressedAt_[1]);
+        GrabFocus(EventCallbackCommand);
+        StartPan();
+    }
+
     std::array<int, 2> pressedAt_ = {};
+    bool isPressed_ = false; // and nothing has begun yet
 };
 vtkStandardNewMacro(Hands);
 
@@ -184,7 +202,10 @@ void SceneWidget::turn(double aside, double upwards) {
 
 void SceneWidget::mark(const std::optional<plot3d::scene::Vector3>& position) {
     stage_->mark(position);
-    draw();
+    if (lastFullFrame_ > slowFrame_)
+        rest_.start(); // what was clicked at is told first
+    else
+        draw();
 }
 
 void SceneWidget::pickAt(int x, int y) {

@@ -61,7 +61,7 @@ private:
     Clock::time_point frameBegan_;
     std::chrono::duration<double> lastFullFrame_ = {};
     std::chrono::duration<double> slowFrame_ = std::chrono::milliseconds(60);
-    QTimer rest_; // since the last key
+    QTimer rest_; // since the last key, or the last click at a slow picture
 };
 
 } // namespace quorvia::host

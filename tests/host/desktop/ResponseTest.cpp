@@ -4,6 +4,10 @@
 
 #include <QPushButton>
 
+#include <vtkCallbackCommand.h>
+#include <vtkNew.h>
+#include <vtkRenderWindow.h>
+
 #include "host/desktop/ViewFixture.h"
 
 namespace quorvia::host {
@@ -42,6 +46,23 @@ TEST_F(ResponseTest, ClickIsAnsweredWhileSomethingIsPrepared) {
     letGo();
     settle();
     EXPECT_EQ(content().colourName, "E");
+}
+
+TEST_F(ResponseTest, ClickAtASlowPictureIsToldAheadOfTheNextFrame) {
+    importCylinder();
+    view().scene().setSlowFrame(always);
+    drawOnce();
+    int frames = 0;
+    const vtkNew<vtkCallbackCommand> count;
+    count->SetClientData(&frames);
+    count->SetCallback(
+        [](vtkObject*, unsigned long, void* counted, void*) { ++*static_cast<int*>(counted); });
+    view().scene().renderWindow()->AddObserver(vtkCommand::EndEvent, count);
+    QTest::mouseClick(&view().scene(), Qt::LeftButton, {}, middle());
+    EXPECT_EQ(frames, 0);
+    EXPECT_EQ(pointText().find("Zone "), 0U);
+    EXPECT_TRUE(comesTrue([&frames] { return frames > 0; })); // with the mark
+    view().scene().renderWindow()->RemoveObserver(count);
 }
 
 TEST_F(ResponseTest, TreeMenusAndCameraGoOnWhileSomethingIsPrepared) {
