@@ -88,7 +88,7 @@ using SeriesOfFolder = std::map<std::string, Series>; // by skeleton
 
 void addOthers(const fs::path& folder, const SeriesOfFolder& series,
                std::vector<std::string>& others) {
-    std::error_code failure;
+    std::error_code failure; // of a folder that can't be listed: nothing new is seen there
     for (fs::directory_iterator entry(folder, failure); entry != fs::directory_iterator();
          entry.increment(failure)) {
         const Name_s name = takenApart(entry->path().filename().string());

@@ -1,5 +1,6 @@
 #include "content/Words.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -39,13 +40,21 @@ std::string surfacesText(const View_s& view) {
     return text;
 }
 
+/// A direction of any length to a thousandth of it: one that was turned to by hand has many digits.
+Camera_s rounded(Camera_s camera) {
+    double longest = 0;
+    for (const double part : camera.direction)
+        longest = std::max(longest, std::abs(part));
+    const double steps = std::pow(10, 3 - std::round(std::log10(longest)));
+    for (double& part : camera.direction)
+        part = std::round(part * steps) / steps + 0.0; // without the sign of a zero
+    return camera;
+}
+
 std::string viewText(const View_s& view) {
     if (view.plot == PlotKind_e::Plane)
         return "seen from above";
-    Camera_s rounded = view.camera;
-    for (double& part : rounded.direction)
-        part = std::round(part * 1000) / 1000;
-    return "view " + textOfDirection(rounded);
+    return "view " + textOfDirection(rounded(view.camera));
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include <vtkContourFilter.h>
 #include <vtkDoubleArray.h>
 #include <vtkGlyph3D.h>
-#include <vtkIdList.h>
 #include <vtkLookupTable.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>

@@ -42,9 +42,6 @@ public:
     void show(const ZonePart_s& part, const SceneContent_s& content, const Style_s& style,
               std::size_t rank, std::size_t count);
 
-    vtkActor* surface() const { return surface_; }
-    const ZonePart_s& part() const { return part_; }
-
 private:
     /// All lines and arrows are made anew.
     void forgetLines();

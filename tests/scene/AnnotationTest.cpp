@@ -50,6 +50,20 @@ TEST_F(AnnotationTest, SaysWhatIsShownInAPictureWithoutOptions) {
         EXPECT_TRUE(says(drawing, text)) << text;
 }
 
+TEST_F(AnnotationTest, NamesTheDirectionInAsFewDigitsAsTellIt) {
+    const DataSet data = opened({"cylinder"});
+    const auto summary = [&data](const Vector3& direction) {
+        View_s view;
+        view.camera.direction = direction;
+        const std::string text = prepared(data, view)->summary;
+        return text.substr(text.rfind("view "));
+    };
+    EXPECT_EQ(summary({1, 2, 3}), "view 1,2,3");
+    EXPECT_EQ(summary({0.12345678, 0.5, -1e-9}), "view 0.123,0.5,0");
+    EXPECT_EQ(summary({1e-4, 2e-4, 0}), "view 1e-04,2e-04,0");
+    EXPECT_EQ(summary({3e6, 4e6, 1}), "view 3e+06,4e+06,0");
+}
+
 TEST_F(AnnotationTest, FitsIntoThePicture) {
     const DataSet data = opened({"cylinder"});
     for (const char* direction : {"iso", "+x", "-y", "+z"}) {
