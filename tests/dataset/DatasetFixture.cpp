@@ -5,6 +5,7 @@
 
 #include "dataset/items/CommonAuxData.h"
 #include "dataset/items/CurrentTask.h"
+#include "dataset/ondemand/Plot3DVarRepo.h"
 #include "dataset/variables/VariableNames.h"
 #include "plot3dfile/detection/FileCreation.h"
 #include "plot3dfile/layout/LayoutParsers.h"
@@ -63,6 +64,7 @@ void DatasetTest::TearDown() {
     zonesAdded.reset();
     parentZones.reset();
     currentTask.reset();
+    Plot3DVarRepo::instance().clear();
     host().clearFaults();
 }
 

@@ -4,7 +4,6 @@
 #include "DatasetFixture.h"
 #include "dataset/items/ItemDispatch.h"
 #include "dataset/items/VariableItem.h"
-#include "dataset/ondemand/Plot3DVarRepo.h"
 #include "plot3dfile/layout/LayoutParsers.h"
 #include "support/FakeDisk.h"
 
@@ -273,7 +272,6 @@ TEST_F(FieldsOfFiles, AcrossASegmentBoundaryArePassedOverWithItsMarkers) {
     const Plot3DItemContext_s context = makeItemContext(options, 1, 1);
     EXPECT_TRUE(setUpVariableItem(file, 0, 0, true, 0, wholeField, false, true, context));
     EXPECT_EQ(file.stream->tell(), 16 + 4 * 7 + 2 * 4);
-    Plot3DVarRepo::instance().clear();
 }
 
 TEST_F(FieldsOfFiles, OfUnknownKindAreDone) {

@@ -10,10 +10,6 @@ namespace {
 
 class VarRepo : public DatasetTest {
 protected:
-    void TearDown() override {
-        Plot3DVarRepo::instance().clear();
-        DatasetTest::TearDown();
-    }
     Plot3DVarRepo& repo = Plot3DVarRepo::instance();
 };
 
