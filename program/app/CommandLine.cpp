@@ -32,7 +32,7 @@ Words namesOf(const Commands& commands) {
 
 Words optionNamesOf(const CommandPage_s& page) {
     Words names;
-    for (const OptionRow_s& row : page.options)
+    for (const console::OptionRow_s& row : page.options)
         names.insert(names.end(), row.names.begin(), row.names.end());
     return names;
 }
@@ -101,9 +101,9 @@ Shower showerFor(const std::string& word) {
 } // namespace
 
 DeclaredCommand::DeclaredCommand(Command& command) : command_(command) {
-    OptionTable table = parser_.table();
+    console::OptionTable table = parser_.table();
     command.declare(table);
-    const OptionTable ofAll = table.under(groupOfAllCommands);
+    const console::OptionTable ofAll = table.under(groupOfAllCommands);
     ofAll.text("--progress", progress_, "always|never|auto",
                "Show progress on standard error: at a terminal (auto, the default), always or "
                "never");
@@ -131,7 +131,7 @@ void DeclaredCommand::refuseUnknown() const {
 }
 
 void DeclaredCommand::refuseWrongChoices() const {
-    for (const OptionRow_s& row : page().options) {
+    for (const console::OptionRow_s& row : page().options) {
         if (row.choices.empty())
             continue;
         for (const std::string& word : parser_.textsOf(row.names.back()))

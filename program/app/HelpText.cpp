@@ -28,7 +28,7 @@ std::string entry(const std::string& head, const std::string& text, std::size_t 
 std::string optionsText(const CommandPage_s& page, std::size_t width) {
     std::string text;
     std::string group = "\n";
-    for (const OptionRow_s& row : page.options) {
+    for (const console::OptionRow_s& row : page.options) {
         if (row.group != group)
             text += fmt::format("\n{}:\n", row.group.empty() ? "Options" : row.group);
         group = row.group;
@@ -52,7 +52,7 @@ std::string helpText(const CommandPage_s& page, int columns) {
     text += fmt::format("\nUsage: plot3d {} {}\n", page.name, usageOf(page));
     if (!page.positionals.empty())
         text += "\n";
-    for (const OptionRow_s& row : page.positionals)
+    for (const console::OptionRow_s& row : page.positionals)
         text += entry(argumentsOf(row), row.text, width);
     return text + optionsText(page, width) + tailText(page, width);
 }
