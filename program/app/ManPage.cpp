@@ -6,6 +6,8 @@
 #include <fmt/core.h>
 #include <plot3d/Version.h>
 
+#include "console/options/OptionText.h"
+
 namespace plot3d::program {
 namespace {
 

@@ -42,27 +42,14 @@ std::vector<CommandPage_s> allPages() {
     return pages;
 }
 
-std::string argumentsOf(const console::OptionRow_s& positional) {
-    if (positional.value.find(' ') != std::string::npos)
-        return positional.value;
-    return positional.names.front() + (positional.isRepeatable ? "..." : "");
-}
-
 std::string usageOf(const CommandPage_s& page) {
     std::string usage = "[OPTION]...";
     for (const console::OptionRow_s& row : page.options)
         if (row.isRequired)
             usage += " " + row.names.front() + " " + row.value;
     for (const console::OptionRow_s& row : page.positionals)
-        usage += " " + argumentsOf(row);
+        usage += " " + console::argumentsOf(row);
     return usage;
-}
-
-std::string headOf(const console::OptionRow_s& option) {
-    std::string head;
-    for (const std::string& name : option.names)
-        head += (head.empty() ? "" : ", ") + name;
-    return option.value.empty() || option.value == head ? head : head + " " + option.value;
 }
 
 std::vector<ExitMeaning_s> exitMeaningsOf(const CommandPage_s& page) {

@@ -34,12 +34,6 @@ std::vector<CommandPage_s> allPages();
 /// "[OPTION]... FILE...", what stands behind the name.
 std::string usageOf(const CommandPage_s& page);
 
-/// "FILE..."; the type's name instead if that is of several words.
-std::string argumentsOf(const console::OptionRow_s& positional);
-
-/// "-o, --output FILE".
-std::string headOf(const console::OptionRow_s& option);
-
 struct ExitMeaning_s {
     int code;
     std::string meaning;

@@ -5,11 +5,11 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "convert/Writers.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 #include "selection/GasOptions.h"
 
 namespace plot3d::program {

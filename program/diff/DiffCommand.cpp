@@ -10,11 +10,11 @@
 #include <plot3d/FileInfo.h>
 
 #include "blocks/DataSetFields.h"
+#include "console/options/OptionTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 #include "selection/NumberChecks.h"
 
 namespace plot3d::program {

@@ -6,13 +6,13 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "index/contents/IndexedData.h"
 #include "index/contents/Originals.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 

@@ -9,13 +9,13 @@
 #include <plot3d/FileNames.h>
 
 #include "console/JsonStream.h"
+#include "console/options/OptionTable.h"
 #include "info/InfoJson.h"
 #include "info/Summary.h"
 #include "info/WhyTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 

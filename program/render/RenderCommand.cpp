@@ -7,10 +7,10 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "content/Preparer.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 #include "render/Animation.h"
 #include "render/Studio.h"
 #include "view/ViewJson.h"

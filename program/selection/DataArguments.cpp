@@ -9,10 +9,10 @@
 #include <plot3d/FileInfo.h>
 #include <plot3d/FileNames.h>
 
+#include "console/options/OptionTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 namespace {

@@ -6,9 +6,9 @@
 #include <fmt/core.h>
 
 #include "blocks/DataSetFields.h"
+#include "console/options/OptionTable.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "console/options/OptionTable.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "stats/StatsReport.h"

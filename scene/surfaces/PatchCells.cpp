@@ -123,7 +123,7 @@ void fillNormals(const Patch_s& patch, const std::vector<double>& points,
                 grid.at(column, row), grid.at(column + 1, row), grid.at(column + 1, row + 1),
                 grid.at(column, row + 1)};
             const Vector3 normal = cross(difference(points, corners[2], corners[0]),
-                                        difference(points, corners[3], corners[1]));
+                                         difference(points, corners[3], corners[1]));
             if (!std::isfinite(normal[0] + normal[1] + normal[2]))
                 continue;
             for (const std::int64_t corner : corners)

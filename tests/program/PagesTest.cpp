@@ -1,5 +1,6 @@
 // What is told of a command's options.
 #include "app/Pages.h"
+#include "console/options/OptionText.h"
 
 #include <gtest/gtest.h>
 
@@ -73,8 +74,8 @@ TEST_F(PagesTest, UsageNamesListsOfFilesAsTheCommandDoes) {
 TEST_F(PagesTest, OptionsAreForUsers) {
     const CommandPage_s page = DeclaredCommand(sorting).page();
     ASSERT_GE(page.options.size(), 4U);
-    EXPECT_EQ(headOf(page.options[0]), "-o, --output FILE");
-    EXPECT_EQ(headOf(page.options[2]), "--count COUNT");
+    EXPECT_EQ(console::headOf(page.options[0]), "-o, --output FILE");
+    EXPECT_EQ(console::headOf(page.options[2]), "--count COUNT");
     EXPECT_EQ(page.options[2].text, "How many, at most");
     EXPECT_EQ(page.options[3].choices, (std::vector<std::string>{"name", "size"}));
     for (const console::OptionRow_s& row : page.options)
