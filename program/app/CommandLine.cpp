@@ -11,29 +11,17 @@
 #include "app/Completion.h"
 #include "app/HelpText.h"
 #include "app/ManPage.h"
-#include "console/NearestName.h"
+#include "console/options/OptionText.h"
 
 namespace plot3d::program {
 namespace {
 
 using Words = std::vector<std::string>;
 
-std::string nearestOf(const std::string& word, const Words& known) {
-    const std::vector<std::string_view> views(known.begin(), known.end());
-    return std::string(console::nearestName(word, views));
-}
-
 Words namesOf(const Commands& commands) {
     Words names;
     for (const auto& command : commands)
         names.emplace_back(command->name());
-    return names;
-}
-
-Words optionNamesOf(const CommandPage_s& page) {
-    Words names;
-    for (const OptionRow_s& row : page.options)
-        names.insert(names.end(), row.names.begin(), row.names.end());
     return names;
 }
 
@@ -66,7 +54,8 @@ int showHelp(const Words& arguments, const Surroundings_s& surroundings) {
     Command* command = find(commands, arguments[1]);
     if (command == nullptr)
         throw UsageError(fmt::format("there is no command \"{}\"; the nearest is \"{}\"",
-                                     arguments[1], nearestOf(arguments[1], namesOf(commands))));
+                                     arguments[1],
+                                     console::nearestOf(arguments[1], namesOf(commands))));
     return show(helpText(DeclaredCommand(*command).page(), surroundings.outColumns), surroundings);
 }
 
@@ -101,9 +90,9 @@ Shower showerFor(const std::string& word) {
 } // namespace
 
 DeclaredCommand::DeclaredCommand(Command& command) : command_(command) {
-    OptionTable table = parser_.table();
+    console::OptionTable table = parser_.table();
     command.declare(table);
-    const OptionTable ofAll = table.under(groupOfAllCommands);
+    const console::OptionTable ofAll = table.under(groupOfAllCommands);
     ofAll.text("--progress", progress_, "always|never|auto",
                "Show progress on standard error: at a terminal (auto, the default), always or "
                "never");
@@ -116,28 +105,21 @@ CommandPage_s DeclaredCommand::page() const {
 }
 
 void DeclaredCommand::refuseUnknown() const {
-    for (const std::string& word : parser_.unknownWords()) {
-        if (word == "--") // what follows are files, whatever they begin with
-            continue;
-        if (word.size() < 2 || word.front() != '-')
-            throw UsageError(fmt::format("plot3d {} takes no argument \"{}\"; plot3d {} --help "
-                                         "tells what it takes",
-                                         command_.name(), word, command_.name()));
-        const std::string name = word.substr(0, word.find('='));
-        throw UsageError(fmt::format("plot3d {} has no option {}; the nearest is {}",
-                                     command_.name(), name,
-                                     nearestOf(name, optionNamesOf(page()))));
-    }
+    const std::string problem =
+        console::unknownWordOf(parser_, fmt::format("plot3d {}", command_.name()));
+    if (!problem.empty())
+        throw UsageError(problem);
 }
 
 void DeclaredCommand::refuseWrongChoices() const {
-    for (const OptionRow_s& row : page().options) {
+    for (const console::OptionRow_s& row : page().options) {
         if (row.choices.empty())
             continue;
         for (const std::string& word : parser_.textsOf(row.names.back()))
             if (std::find(row.choices.begin(), row.choices.end(), word) == row.choices.end())
                 throw UsageError(fmt::format("{} can't be \"{}\"; the nearest known word is \"{}\"",
-                                             row.names.back(), word, nearestOf(word, row.choices)));
+                                             row.names.back(), word,
+                                             console::nearestOf(word, row.choices)));
     }
 }
 
@@ -177,7 +159,7 @@ int carryOut(const Words& arguments, const Surroundings_s& surroundings) {
         throw UsageError(fmt::format("there is no command and no file \"{}\"; the nearest command "
                                      "is \"{}\"",
                                      arguments.front(),
-                                     nearestOf(arguments.front(), namesOf(commands))));
+                                     console::nearestOf(arguments.front(), namesOf(commands))));
     return DeclaredCommand(*commands.front()).run(arguments, surroundings);
 }
 

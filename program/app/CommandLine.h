@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/Pages.h"
-#include "options/OptionParser.h"
+#include "console/options/OptionParser.h"
 
 namespace plot3d::program {
 
@@ -35,7 +35,7 @@ private:
     void refuseWrongChoices() const;
 
     Command& command_;
-    OptionParser parser_;
+    console::OptionParser parser_;
     std::string progress_ = "auto";
     bool quiet_ = false;
     bool help_ = false;

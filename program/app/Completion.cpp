@@ -21,7 +21,7 @@ std::string commandNames(const std::vector<CommandPage_s>& pages) {
 
 std::string optionNames(const CommandPage_s& page) {
     std::string names;
-    for (const OptionRow_s& row : page.options)
+    for (const console::OptionRow_s& row : page.options)
         names += (names.empty() ? "" : " ") + joined(row.names, " ");
     return names;
 }
@@ -29,7 +29,7 @@ std::string optionNames(const CommandPage_s& page) {
 /// What may follow the options of a page that have a value: words, files, or what nobody knows.
 std::string bashValues(const CommandPage_s& page) {
     std::string text;
-    for (const OptionRow_s& row : page.options) {
+    for (const console::OptionRow_s& row : page.options) {
         if (row.value.empty())
             continue;
         const std::string key = page.name + ":";
@@ -59,7 +59,7 @@ std::string zshText(const std::string& text) {
     return result;
 }
 
-std::string zshAction(const OptionRow_s& row) {
+std::string zshAction(const console::OptionRow_s& row) {
     if (row.value.empty())
         return {};
     if (!row.choices.empty())
@@ -69,7 +69,7 @@ std::string zshAction(const OptionRow_s& row) {
 
 std::string zshArguments(const CommandPage_s& page) {
     std::string text = "_arguments -S";
-    for (const OptionRow_s& row : page.options)
+    for (const console::OptionRow_s& row : page.options)
         for (const std::string& name : row.names)
             text += fmt::format(" \\\n            '{}{}[{}]{}'", row.isRepeatable ? "*" : "", name,
                                 zshText(row.text), zshAction(row));

@@ -6,6 +6,8 @@
 #include <fmt/core.h>
 #include <plot3d/Version.h>
 
+#include "console/options/OptionText.h"
+
 namespace plot3d::program {
 namespace {
 
@@ -46,10 +48,10 @@ std::string upper(std::string text) {
 std::string commandText(const CommandPage_s& page) {
     std::string text = fmt::format(".SH {}\n.B plot3d {}\n{}\n.PP\n{}\n", upper(page.name),
                                    page.name, literal(usageOf(page)), literal(page.purpose));
-    for (const OptionRow_s& row : page.positionals)
+    for (const console::OptionRow_s& row : page.positionals)
         text += entry(argumentsOf(row), row.text);
     std::string group;
-    for (const OptionRow_s& row : page.options) {
+    for (const console::OptionRow_s& row : page.options) {
         if (row.group == groupOfAllCommands)
             continue;
         if (row.group != std::exchange(group, row.group))
@@ -72,11 +74,11 @@ std::string manPage(const std::vector<CommandPage_s>& pages) {
                                    "by\n.BR \"plot3d info\" .\n",
                                    version(), "PLOT3D files looked into and taken elsewhere",
                                    literal(program.purpose));
-    for (const OptionRow_s& row : program.options)
+    for (const console::OptionRow_s& row : program.options)
         text += entry(headOf(row), row.text);
     text += examplesText(program);
     text += fmt::format(".SH {}\n", upper(groupOfAllCommands));
-    for (const OptionRow_s& row : pages.at(1).options)
+    for (const console::OptionRow_s& row : pages.at(1).options)
         if (row.group == groupOfAllCommands)
             text += entry(headOf(row), row.text);
     for (std::size_t number = 1; number < pages.size(); ++number)

@@ -3,7 +3,7 @@
 #include "app/CommandLine.h"
 
 namespace plot3d::program {
-CommandPage_s pageOf(const Command& command, const OptionParser& parser) {
+CommandPage_s pageOf(const Command& command, const console::OptionParser& parser) {
     CommandPage_s page;
     page.name = command.name();
     page.purpose = command.purpose();
@@ -42,27 +42,14 @@ std::vector<CommandPage_s> allPages() {
     return pages;
 }
 
-std::string argumentsOf(const OptionRow_s& positional) {
-    if (positional.value.find(' ') != std::string::npos)
-        return positional.value;
-    return positional.names.front() + (positional.isRepeatable ? "..." : "");
-}
-
 std::string usageOf(const CommandPage_s& page) {
     std::string usage = "[OPTION]...";
-    for (const OptionRow_s& row : page.options)
+    for (const console::OptionRow_s& row : page.options)
         if (row.isRequired)
             usage += " " + row.names.front() + " " + row.value;
-    for (const OptionRow_s& row : page.positionals)
-        usage += " " + argumentsOf(row);
+    for (const console::OptionRow_s& row : page.positionals)
+        usage += " " + console::argumentsOf(row);
     return usage;
-}
-
-std::string headOf(const OptionRow_s& option) {
-    std::string head;
-    for (const std::string& name : option.names)
-        head += (head.empty() ? "" : ", ") + name;
-    return option.value.empty() || option.value == head ? head : head + " " + option.value;
 }
 
 std::vector<ExitMeaning_s> exitMeaningsOf(const CommandPage_s& page) {

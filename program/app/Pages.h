@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/CommandTable.h"
-#include "options/OptionParser.h"
+#include "console/options/OptionParser.h"
 
 namespace plot3d::program {
 
@@ -16,14 +16,14 @@ inline constexpr const char* groupOfAllCommands = "Options of all commands";
 struct CommandPage_s {
     std::string name;    // "info"; empty for the program itself
     std::string purpose; // one line
-    std::vector<OptionRow_s> positionals;
-    std::vector<OptionRow_s> options;
+    std::vector<console::OptionRow_s> positionals;
+    std::vector<console::OptionRow_s> options;
     std::string examples;
     std::string failureMeans; // of exit code 1
 };
 
 /// Of a command that declared its options to `parser`.
-CommandPage_s pageOf(const Command& command, const OptionParser& parser);
+CommandPage_s pageOf(const Command& command, const console::OptionParser& parser);
 
 /// Of the program itself: its own options, and its examples.
 CommandPage_s programPage();
@@ -33,12 +33,6 @@ std::vector<CommandPage_s> allPages();
 
 /// "[OPTION]... FILE...", what stands behind the name.
 std::string usageOf(const CommandPage_s& page);
-
-/// "FILE..."; the type's name instead if that is of several words.
-std::string argumentsOf(const OptionRow_s& positional);
-
-/// "-o, --output FILE".
-std::string headOf(const OptionRow_s& option);
 
 struct ExitMeaning_s {
     int code;

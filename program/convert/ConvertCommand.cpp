@@ -5,11 +5,11 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "convert/Writers.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 #include "selection/GasOptions.h"
 
 namespace plot3d::program {
@@ -62,7 +62,7 @@ const char* ConvertCommand::failureMeans() const {
     return "refused or failed; nothing is left of the result";
 }
 
-void ConvertCommand::declare(OptionTable& table) {
+void ConvertCommand::declare(console::OptionTable& table) {
     data_.declare(table);
     table
         .output(output_, overwrites_,
@@ -76,8 +76,8 @@ void ConvertCommand::declare(OptionTable& table) {
     form_.declare(table);
 }
 
-void ConvertCommand::declareDerived(OptionTable& table) {
-    const OptionTable options = table.under("Derived quantities");
+void ConvertCommand::declareDerived(console::OptionTable& table) {
+    const console::OptionTable options = table.under("Derived quantities");
     options.text("--derive", derived_, "LIST",
                  "Quantities to add, by word or number, separated by commas: pressure, mach, "
                  "velocity, 110 and others");

@@ -19,11 +19,11 @@ public:
     const char* purpose() const override;
     const char* examples() const override;
     const char* failureMeans() const override;
-    void declare(OptionTable& table) override;
+    void declare(console::OptionTable& table) override;
     int run(const Surroundings_s& surroundings) override;
 
 private:
-    void declareDerived(OptionTable& table);
+    void declareDerived(console::OptionTable& table);
     Format_e format() const;
     ContentSelection_s selectionOf(const DataSet& data, Format_e format) const;
     std::vector<const DerivedQuantity*> derivedQuantitiesAsked() const;

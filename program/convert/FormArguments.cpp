@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -27,8 +27,8 @@ Encoding encodingOf(const std::string& word) {
 
 } // namespace
 
-void FormArguments::declare(OptionTable& table) {
-    const OptionTable options = table.under("PLOT3D files");
+void FormArguments::declare(console::OptionTable& table) {
+    const console::OptionTable options = table.under("PLOT3D files");
     options.text("--encoding", encoding_, "text|binary|fortran4|fortran8",
                  "How numbers stand in the files; fortran4 and fortran8 are unformatted records "
                  "with markers of 4 and 8 bytes. This and what follows stays as it is in the files "

@@ -10,7 +10,7 @@ namespace plot3d::program {
 
 class FormArguments {
 public:
-    void declare(OptionTable& table);
+    void declare(console::OptionTable& table);
     /// The first of the options that was given, such as "--encoding"; empty if none was.
     std::string given() const;
     /// What was asked for, with `original` for the rest.

@@ -10,11 +10,11 @@
 #include <plot3d/FileInfo.h>
 
 #include "blocks/DataSetFields.h"
+#include "console/options/OptionTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 #include "selection/NumberChecks.h"
 
 namespace plot3d::program {
@@ -86,7 +86,7 @@ const char* DiffCommand::failureMeans() const {
     return "the data sets differ, or one of them was refused";
 }
 
-void DiffCommand::declare(OptionTable& table) {
+void DiffCommand::declare(console::OptionTable& table) {
     table.files(firstFiles_,
                 "Files of the first data set, then -- and those of the second; two files alone are "
                 "one of each",

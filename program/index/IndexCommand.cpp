@@ -6,13 +6,13 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "index/contents/IndexedData.h"
 #include "index/contents/Originals.h"
 #include "manners/ProgressWatch.h"
 #include "manners/ResultFile.h"
 #include "manners/ShellWords.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -62,7 +62,7 @@ const char* IndexCommand::failureMeans() const {
            "not as it was";
 }
 
-void IndexCommand::declare(OptionTable& table) {
+void IndexCommand::declare(console::OptionTable& table) {
     data_.declare(table);
     table.output(output_, overwrites_,
                  "The index; its ending tells the format: .cgns, .xmf2, .json, .p3d or .vp3d");

@@ -9,13 +9,13 @@
 #include <plot3d/FileNames.h>
 
 #include "console/JsonStream.h"
+#include "console/options/OptionTable.h"
 #include "info/InfoJson.h"
 #include "info/Summary.h"
 #include "info/WhyTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 
 namespace plot3d::program {
 
@@ -40,7 +40,7 @@ const char* InfoCommand::failureMeans() const {
     return "a file is no whole PLOT3D file";
 }
 
-void InfoCommand::declare(OptionTable& table) {
+void InfoCommand::declare(console::OptionTable& table) {
     table
         .files(files_,
                "Files of any kind: grid, solution, function, boundary or name file; - reads their "

@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
-namespace plot3d::program {
-
+namespace console {
 class OptionTable;
+}
+
+namespace plot3d::program {
 
 enum ExitCode_e : int {
     ExitCode_Done = 0,
@@ -48,7 +50,7 @@ public:
     virtual const char* failureMeans() const { return "refused or failed"; }
     /// Declares options and files of the command's own part of the command line, which are kept
     /// here.
-    virtual void declare(OptionTable& table) = 0;
+    virtual void declare(console::OptionTable& table) = 0;
     /// Takes out of the arguments what the parser can't understand, before it sees them: the files
     /// behind `--`, where a command has two lists of them.
     virtual void takeApart(std::vector<std::string>& /*arguments*/) {}

@@ -7,10 +7,10 @@
 
 #include <plot3d/Error.h>
 
+#include "console/options/OptionTable.h"
 #include "content/Preparer.h"
 #include "manners/ResultFile.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 #include "render/Animation.h"
 #include "render/Studio.h"
 #include "view/ViewJson.h"
@@ -90,7 +90,7 @@ const char* RenderCommand::failureMeans() const {
     return "refused or failed; no part of a picture is left";
 }
 
-void RenderCommand::declare(OptionTable& table) {
+void RenderCommand::declare(console::OptionTable& table) {
     data_.declare(table);
     table.output(output_, overwrites_, "The picture, a PNG file");
     view_.declare(table);

@@ -19,7 +19,7 @@ public:
     const char* purpose() const override;
     const char* examples() const override;
     const char* failureMeans() const override;
-    void declare(OptionTable& table) override;
+    void declare(console::OptionTable& table) override;
     int run(const Surroundings_s& surroundings) override;
 
 private:

@@ -6,7 +6,7 @@
 #include <plot3d/Error.h>
 
 #include "colours/ColourMap.h"
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 #include "selection/GasOptions.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
@@ -38,12 +38,12 @@ std::string aboveNothing(const std::string& text) {
 
 } // namespace
 
-void ViewArguments::declare(OptionTable& table) {
+void ViewArguments::declare(console::OptionTable& table) {
     declareContents(table.under("What is shown"));
     declareLook(table.under("How it looks"));
 }
 
-void ViewArguments::declareContents(const OptionTable& options) {
+void ViewArguments::declareContents(const console::OptionTable& options) {
     options.text("--color", colour_, "NAME",
                  "Variable, or derived quantity by word or number; none for plain surfaces "
                  "(default: the first variable of the solution)");
@@ -79,7 +79,7 @@ void ViewArguments::declareContents(const OptionTable& options) {
     declareGas(options, gas_, " for derived quantities");
 }
 
-void ViewArguments::declareLook(const OptionTable& options) {
+void ViewArguments::declareLook(const console::OptionTable& options) {
     options
         .text("--map", map_, "NAME",
               "Colours: " + mapWords() + " (default: viridis); viridis-r turns them round")

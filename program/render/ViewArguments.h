@@ -15,7 +15,7 @@ namespace plot3d::program {
 
 class ViewArguments {
 public:
-    void declare(OptionTable& table);
+    void declare(console::OptionTable& table);
 
     /// Throws plot3d::Error: Usage for texts that can't be taken, Refused for a view file.
     scene::View_s view(const DataSet& data) const;
@@ -23,8 +23,8 @@ public:
     bool wantsAllTimes() const { return allTimes_; }
 
 private:
-    void declareContents(const OptionTable& options);
-    void declareLook(const OptionTable& options);
+    void declareContents(const console::OptionTable& options);
+    void declareLook(const console::OptionTable& options);
     scene::View_s startingView() const;
     void takeContents(scene::View_s& view, const DataSet& data) const;
     void takeLook(scene::View_s& view) const;

@@ -9,10 +9,10 @@
 #include <plot3d/FileInfo.h>
 #include <plot3d/FileNames.h>
 
+#include "console/options/OptionTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 
 namespace plot3d::program {
 namespace {
@@ -76,10 +76,10 @@ DataSet opened(const Files& files, const OpenOptions& options, const Surrounding
 
 } // namespace
 
-void DataArguments::declare(OptionTable& table) {
+void DataArguments::declare(console::OptionTable& table) {
     table.files(files_,
                 "Files of one data set in any order; - reads a list of them from standard input");
-    const OptionTable options = table.under(dataSetGroup);
+    const console::OptionTable options = table.under(dataSetGroup);
     options
         .list("--grid", lists_.grid, "FILE",
               "Grid files, where neither names nor bytes tell the kinds")
@@ -89,8 +89,8 @@ void DataArguments::declare(OptionTable& table) {
     declareOptions(table);
 }
 
-void DataArguments::declareOptions(OptionTable& table) {
-    const OptionTable options = table.under(dataSetGroup);
+void DataArguments::declareOptions(console::OptionTable& table) {
+    const console::OptionTable options = table.under(dataSetGroup);
     options.text("--name", nameFile_, "FILE", "File with the names of the variables");
     options
         .list("--set", settings_, "KEY=VALUE",

@@ -15,10 +15,10 @@ namespace plot3d::program {
 class DataArguments {
 public:
     /// Adds files and options; they are kept here.
-    void declare(OptionTable& table);
+    void declare(console::OptionTable& table);
     /// Without the files and their kinds: for commands with two data sets, which take the files
     /// themselves.
-    void declareOptions(OptionTable& table);
+    void declareOptions(console::OptionTable& table);
 
     /// Opens what was named, with progress, and tells its notes as warnings. Throws plot3d::Error.
     DataSet open(const Surroundings_s& surroundings) const;

@@ -2,7 +2,7 @@
 
 namespace plot3d::program {
 
-void declareGas(const OptionTable& options, Gas& gas, const std::string& purpose) {
+void declareGas(const console::OptionTable& options, Gas& gas, const std::string& purpose) {
     options.number("--gamma", gas.gamma, "NUMBER",
                    "Ratio of specific heats" + purpose +
                        ", where the file has none for each point (default: 1.4)");

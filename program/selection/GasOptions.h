@@ -5,11 +5,11 @@
 
 #include <plot3d/Derived.h>
 
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 
 /// --gamma and --gas-constant. `purpose` stands behind what gamma is: " for derived quantities".
-void declareGas(const OptionTable& options, Gas& gas, const std::string& purpose = "");
+void declareGas(const console::OptionTable& options, Gas& gas, const std::string& purpose = "");
 
 } // namespace plot3d::program

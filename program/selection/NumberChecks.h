@@ -1,4 +1,5 @@
-// Why texts on the command line can't be taken, as OptionTable asks for it: empty if they can.
+// Why texts on the command line can't be taken, as console::OptionTable asks for it: empty if they
+// can.
 #pragma once
 
 #include <cstdint>

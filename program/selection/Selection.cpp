@@ -9,7 +9,7 @@
 
 #include <plot3d/Error.h>
 
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 #include "selection/IndexRange.h"
 #include "selection/NamePattern.h"
 #include "selection/NumberChecks.h"
@@ -50,8 +50,8 @@ std::optional<Box> boxOf(const Extent& size, const IndexRange_s& i, const IndexR
 
 } // namespace
 
-void SelectionArguments::declareWithoutBlank(OptionTable& table) {
-    const OptionTable options = table.under(selectionGroup);
+void SelectionArguments::declareWithoutBlank(console::OptionTable& table) {
+    const console::OptionTable options = table.under(selectionGroup);
     options.text("--variable", variables_, "NAMES",
                  "Variables by name, separated by commas; * and ? stand for any characters and for "
                  "one");
@@ -70,7 +70,7 @@ void SelectionArguments::declareWithoutBlank(OptionTable& table) {
         .excludes({"--i", "--j", "--k"});
 }
 
-void SelectionArguments::declare(OptionTable& table) {
+void SelectionArguments::declare(console::OptionTable& table) {
     declareWithoutBlank(table);
     table.under(selectionGroup)
         .text("--blank", blank_, "skip|keep",

@@ -19,9 +19,9 @@ namespace plot3d::program {
 class SelectionArguments {
 public:
     /// --variable, --zone, --time, --i, --j, --k, --point, --blank.
-    void declare(OptionTable& table);
+    void declare(console::OptionTable& table);
     /// The same without --blank, for commands to which all points are alike.
-    void declareWithoutBlank(OptionTable& table);
+    void declareWithoutBlank(console::OptionTable& table);
 
     /// Indices from 0, ascending. Throws plot3d::Error (Usage) for a pattern or number that meets
     /// nothing, with the names that are there.

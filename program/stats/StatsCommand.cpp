@@ -6,9 +6,9 @@
 #include <fmt/core.h>
 
 #include "blocks/DataSetFields.h"
+#include "console/options/OptionTable.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
-#include "options/OptionTable.h"
 #include "selection/NumberChecks.h"
 #include "selection/NumberList.h"
 #include "stats/StatsReport.h"
@@ -74,7 +74,7 @@ const char* StatsCommand::examples() const {
            "      how the values of a function file are spread\n";
 }
 
-void StatsCommand::declare(OptionTable& table) {
+void StatsCommand::declare(console::OptionTable& table) {
     files_.declare(table);
     selection_.declare(table);
     table.text("--percentiles", percentiles_, "LIST", "Percentiles, such as 5,50,95")

@@ -16,7 +16,7 @@ public:
     const char* name() const override { return "stats"; }
     const char* purpose() const override;
     const char* examples() const override;
-    void declare(OptionTable& table) override;
+    void declare(console::OptionTable& table) override;
     /// Lets the count behind --histogram be left out.
     void takeApart(std::vector<std::string>& arguments) override;
     int run(const Surroundings_s& surroundings) override;

@@ -12,10 +12,6 @@ double dot(const Vector3& a, const Vector3& b) {
     return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
 }
 
-Vector3 cross(const Vector3& a, const Vector3& b) {
-    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
-}
-
 Vector3 unit(const Vector3& vector) {
     const double length = std::hypot(vector[0], vector[1], vector[2]);
     return {vector[0] / length, vector[1] / length, vector[2] / length};

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "view/Vector3.h"
+
 namespace plot3d::scene {
 
 namespace {
@@ -91,16 +93,10 @@ void addLines(const Grid_s& grid, const Visibility& visibility, PatchCells_s& ce
     }
 }
 
-using Vector = std::array<double, 3>;
-
-Vector difference(const std::vector<double>& points, std::int64_t one, std::int64_t other) {
+Vector3 difference(const std::vector<double>& points, std::int64_t one, std::int64_t other) {
     const double* a = &points[3 * static_cast<std::size_t>(one)];
     const double* b = &points[3 * static_cast<std::size_t>(other)];
     return {a[0] - b[0], a[1] - b[1], a[2] - b[2]};
-}
-
-Vector cross(const Vector& a, const Vector& b) {
-    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
 }
 
 } // namespace
@@ -120,14 +116,14 @@ PatchCells_s cellsOf(const Patch_s& patch, const std::vector<double>& points,
 void fillNormals(const Patch_s& patch, const std::vector<double>& points,
                  std::vector<float>& normals) {
     const Grid_s grid = gridOf(patch);
-    std::vector<Vector> sums(static_cast<std::size_t>(grid.columns * grid.rows));
+    std::vector<Vector3> sums(static_cast<std::size_t>(grid.columns * grid.rows));
     for (std::int64_t row = 0; row + 1 < grid.rows; ++row)
         for (std::int64_t column = 0; column + 1 < grid.columns; ++column) {
             const std::array<std::int64_t, 4> corners = {
                 grid.at(column, row), grid.at(column + 1, row), grid.at(column + 1, row + 1),
                 grid.at(column, row + 1)};
-            const Vector normal = cross(difference(points, corners[2], corners[0]),
-                                        difference(points, corners[3], corners[1]));
+            const Vector3 normal = cross(difference(points, corners[2], corners[0]),
+                                         difference(points, corners[3], corners[1]));
             if (!std::isfinite(normal[0] + normal[1] + normal[2]))
                 continue;
             for (const std::int64_t corner : corners)
@@ -135,7 +131,7 @@ void fillNormals(const Patch_s& patch, const std::vector<double>& points,
                     sums[static_cast<std::size_t>(corner - grid.first)][axis] += normal[axis];
         }
     float* target = &normals[3 * static_cast<std::size_t>(grid.first)];
-    for (const Vector& sum : sums) {
+    for (const Vector3& sum : sums) {
         const double length = std::hypot(sum[0], sum[1], sum[2]);
         const bool isFlat = !(length > 0) || !std::isfinite(length);
         for (std::size_t axis = 0; axis < 3; ++axis)

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "view/Vector3.h"
+
 namespace plot3d::scene {
 
 enum class PlotKind_e : unsigned char {
@@ -54,8 +56,6 @@ enum class RangeOver_e : unsigned char {
     AllTimes, // all points of these zones at all times
     Zone      // all points of one zone, whether it is shown or not
 };
-
-using Vector3 = std::array<double, 3>;
 
 struct Camera_s {
     Vector3 direction = {-1, -1.6, 0.9}; // from the data towards the eye; any length but 0

@@ -1,5 +1,5 @@
 // Options as commands declare them, and what the user's words make of them.
-#include "options/OptionParser.h"
+#include "console/options/OptionParser.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@ using Words = std::vector<std::string>;
 
 class Options : public testing::Test {
 protected:
-    OptionParser parser;
-    OptionTable table = parser.table();
+    console::OptionParser parser;
+    console::OptionTable table = parser.table();
     std::string word = "none";
     std::string other;
     Words list;
@@ -90,7 +90,7 @@ TEST_F(Options, ThatAreHiddenAreUnderstood) {
 TEST_F(Options, StandUnderTheirHeadings) {
     table.flag("--flag", flag, "One,\nand another");
     table.under("Sizes").number("--count", count, "1|3", "");
-    const std::vector<OptionRow_s> rows = parser.options();
+    const std::vector<console::OptionRow_s> rows = parser.options();
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(rows[0].group, "Options");
     EXPECT_EQ(rows[0].text, "One, and another");

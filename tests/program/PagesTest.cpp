@@ -1,11 +1,12 @@
 // What is told of a command's options.
 #include "app/Pages.h"
+#include "console/options/OptionText.h"
 
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
 #include "app/HelpText.h"
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 
 namespace plot3d::program {
 namespace {
@@ -16,7 +17,7 @@ public:
     const char* purpose() const override { return "Sort what there is"; }
     const char* examples() const override { return "  plot3d sort a.x\n      sorted\n"; }
     const char* failureMeans() const override { return "nothing to sort"; }
-    void declare(OptionTable& table) override {
+    void declare(console::OptionTable& table) override {
         table.files(files, "What is sorted");
         table.output(output, overwrites, "Where it goes").required();
         table.number("--count", count, "COUNT", "How many,\nat most");
@@ -60,7 +61,7 @@ TEST_F(PagesTest, UsageNamesWhatMustBeGiven) {
 
 class Comparing : public Sorting {
 public:
-    void declare(OptionTable& table) override {
+    void declare(console::OptionTable& table) override {
         table.files(files, "What is compared", "FILE -- FILE");
     }
 };
@@ -73,11 +74,11 @@ TEST_F(PagesTest, UsageNamesListsOfFilesAsTheCommandDoes) {
 TEST_F(PagesTest, OptionsAreForUsers) {
     const CommandPage_s page = DeclaredCommand(sorting).page();
     ASSERT_GE(page.options.size(), 4U);
-    EXPECT_EQ(headOf(page.options[0]), "-o, --output FILE");
-    EXPECT_EQ(headOf(page.options[2]), "--count COUNT");
+    EXPECT_EQ(console::headOf(page.options[0]), "-o, --output FILE");
+    EXPECT_EQ(console::headOf(page.options[2]), "--count COUNT");
     EXPECT_EQ(page.options[2].text, "How many, at most");
     EXPECT_EQ(page.options[3].choices, (std::vector<std::string>{"name", "size"}));
-    for (const OptionRow_s& row : page.options)
+    for (const console::OptionRow_s& row : page.options)
         EXPECT_NE(row.names.front(), "--internal");
 }
 

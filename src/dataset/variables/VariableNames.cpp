@@ -117,7 +117,7 @@ void addFunctionNames(NameWriter& writer, const std::vector<Plot3DFile_s*>& file
     }
 }
 
-std::string upperCase(std::string_view text) {
+std::string foldCase(std::string_view text) {
     std::string folded(text);
     for (char& letter : folded)
         if (letter >= 'a' && letter <= 'z')
@@ -132,7 +132,7 @@ bool fetchNames(QuorSetHandle vars, std::unordered_set<std::string>& names) {
         HostString name;
         if (!QuorUtilVarGetName(static_cast<std::int32_t>(var), name.outArgument()))
             return false;
-        names.insert(upperCase(name.view()));
+        names.insert(foldCase(name.view()));
         var = QuorUtilSetGetNextMember(vars, var);
     }
     return true;

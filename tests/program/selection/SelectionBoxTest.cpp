@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "options/OptionParser.h"
+#include "console/options/OptionParser.h"
 #include "selection/Selection.h"
 
 namespace plot3d::program {
@@ -17,8 +17,8 @@ Zone zoneOf(std::int64_t i, std::int64_t j, std::int64_t k) {
 
 /// What is wrong with the words of the command line; empty if nothing is.
 std::string problemOf(const std::string& arguments, SelectionArguments& selection) {
-    OptionParser parser;
-    OptionTable table = parser.table();
+    console::OptionParser parser;
+    console::OptionTable table = parser.table();
     selection.declare(table);
     std::istringstream in(arguments);
     return parser.parse({std::istream_iterator<std::string>(in), {}});

@@ -1,10 +1,10 @@
-#include "options/OptionTable.h"
+#include "console/options/OptionTable.h"
 
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
-namespace plot3d::program {
+namespace console {
 namespace {
 
 template <typename Value>
@@ -98,4 +98,4 @@ DeclaredOption OptionTable::declared(const std::string& name) const {
     return DeclaredOption(*parser_->get_option(name));
 }
 
-} // namespace plot3d::program
+} // namespace console

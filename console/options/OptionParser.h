@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "options/OptionRow.h"
-#include "options/OptionTable.h"
+#include "console/options/OptionRow.h"
+#include "console/options/OptionTable.h"
 
-namespace plot3d::program {
+namespace console {
 
 class OptionParser {
 public:
@@ -37,4 +37,4 @@ private:
     std::unique_ptr<CLI::App> parser_;
 };
 
-} // namespace plot3d::program
+} // namespace console

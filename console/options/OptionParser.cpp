@@ -1,10 +1,10 @@
-#include "options/OptionParser.h"
+#include "console/options/OptionParser.h"
 
 #include <algorithm>
 
 #include <CLI/CLI.hpp>
 
-namespace plot3d::program {
+namespace console {
 namespace {
 
 /// Words between bars, "always|never"; nothing if the value's name is anything else.
@@ -97,4 +97,4 @@ std::vector<std::string> OptionParser::textsOf(const std::string& option) const 
     return parser_->get_option(option)->results();
 }
 
-} // namespace plot3d::program
+} // namespace console

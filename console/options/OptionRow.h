@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace plot3d::program {
+namespace console {
 
 struct OptionRow_s {
     std::vector<std::string> names = {};   // "-o", "--output"; of a positional argument "FILE"
@@ -18,4 +18,4 @@ struct OptionRow_s {
     bool takesFile() const { return value == "FILE" || value == "FOLDER"; }
 };
 
-} // namespace plot3d::program
+} // namespace console

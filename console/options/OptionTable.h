@@ -14,7 +14,7 @@ class App;
 class Option;
 } // namespace CLI
 
-namespace plot3d::program {
+namespace console {
 
 /// Why a text from the command line can't be taken; empty if it can.
 using TextCheck = std::function<std::string(const std::string&)>;
@@ -79,4 +79,4 @@ private:
     std::string heading_;
 };
 
-} // namespace plot3d::program
+} // namespace console
