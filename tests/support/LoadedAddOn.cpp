@@ -1,8 +1,27 @@
 #include "support/LoadedAddOn.h"
 
+#include "support/AddOnRoad.h"
+
 namespace quorvia::testsupport {
 
 namespace {
+
+/// Brings the add-on in before the first test and takes it out behind the last.
+class AddOnEnvironment final : public ::testing::Environment {
+public:
+    void SetUp() override {
+        ASSERT_EQ(bringAddOnIn(), "");
+        ASSERT_EQ(host::ReferenceHost::instance().loaderNames(), Texts{"PLOT3D Loader"});
+    }
+    void TearDown() override {
+        takeAddOnOut();
+        EXPECT_EQ(host::ReferenceHost::instance().log().violations, Texts());
+    }
+};
+
+// GoogleTest owns the environment.
+::testing::Environment* const gAddOnEnvironment =
+    ::testing::AddGlobalTestEnvironment(new AddOnEnvironment);
 
 void appendFiles(Texts& instructions, const std::string& key, const Texts& files) {
     if (files.empty())
@@ -24,11 +43,6 @@ Texts instructionsOf(const Load_s& load) {
     for (const auto& [key, value] : load.settings)
         instructions.insert(instructions.end(), {key, value});
     return instructions;
-}
-
-void LoadedAddOnTest::SetUp() {
-    // Asked for here so that the linker keeps the road's static initialiser in every program.
-    ASSERT_TRUE(isAddOnBroughtIn());
 }
 
 void LoadedAddOnTest::TearDown() {

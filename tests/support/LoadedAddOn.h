@@ -32,13 +32,8 @@ struct Load_s {
 /// The load as a list of instructions: the head of the standard syntax, the files, the settings.
 Texts instructionsOf(const Load_s& load);
 
-/// Brings the add-on into the host before the first test of the program: each road defines it, and
-/// a program has one of them. Gives whether that was asked for, which it always was.
-bool isAddOnBroughtIn();
-
 class LoadedAddOnTest : public HostedTest {
 protected:
-    void SetUp() override;
     /// Discards the data set, with its clean-up callbacks, before it looks for leaks.
     void TearDown() override;
 

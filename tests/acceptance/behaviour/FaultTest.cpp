@@ -79,7 +79,6 @@ const std::set<std::string> silentOperations = {
 class FaultyLoad : public LoadedAddOnTest, public ::testing::WithParamInterface<Road_s> {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         SmallFiles oldFiles(directory().path().string());
         oldFiles.grids = {{5, 2, 3}};
         old_ = {.gridFiles = {oldFiles.grid("old.x")}};

@@ -11,7 +11,6 @@ namespace {
 class ReadOnDemand : public LoadedAddOnTest {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         SmallFiles files(directory().path().string());
         grid_ = files.grid("a.x");
         solution_ = files.solution("a.q", 0.25);

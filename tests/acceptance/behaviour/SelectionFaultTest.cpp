@@ -47,7 +47,6 @@ TEST_F(FaultySelection, OfANameThatTheHostWithholdsLoadsNothing) {
 class FaultyFolder : public LoadedAddOnTest {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         const std::string folder = directory().file("runs.in.old");
         std::filesystem::create_directory(folder);
         const SmallFiles files(folder);

@@ -11,7 +11,6 @@ namespace {
 class DetectionFaults : public LoadedAddOnTest {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         series_ = {.gridFiles = {write("a.x", FileKind_e::Grid)},
                    .solutionFiles = {write("a.q", FileKind_e::ClassicSolution),
                                      write("b.q", FileKind_e::ClassicSolution)},

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "acceptance/matrix/MatrixCase.h"
-#include "acceptance/support/FieldExpectation.h"
+#include "support/FieldExpectation.h"
 #include "plot3dwriter/Plot3DWriter.h"
 
 namespace quorvia::testsupport {

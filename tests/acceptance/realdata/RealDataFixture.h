@@ -13,7 +13,6 @@ namespace quorvia::testsupport {
 class RealDataTest : public LoadedAddOnTest {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         if (!std::filesystem::is_directory(folder()))
             GTEST_SKIP() << "the real files are not here; PLOT3D_REAL_DATA tells where they lie";
     }

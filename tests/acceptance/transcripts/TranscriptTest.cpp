@@ -12,7 +12,6 @@ namespace {
 class TranscriptOfLoad : public LoadedAddOnTest {
 protected:
     void SetUp() override {
-        LoadedAddOnTest::SetUp();
         std::filesystem::current_path(directory().path());
     }
     void TearDown() override {

@@ -1,7 +1,7 @@
 // Files that a Fortran program has written: see write_plot3d.f90, whose values are repeated here.
 #include <cmath>
 
-#include "acceptance/support/FieldExpectation.h"
+#include "support/FieldExpectation.h"
 #include "support/LoadedAddOn.h"
 
 namespace quorvia::testsupport {

@@ -1,4 +1,4 @@
-#include "acceptance/support/FieldExpectation.h"
+#include "support/FieldExpectation.h"
 
 #include <cstring>
 
