@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <fstream>
 #include <memory>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -12,7 +11,12 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include "support/TextPattern.h"
+
 namespace {
+
+using quorvia::testsupport::Match;
+using quorvia::testsupport::TextPattern;
 
 struct Symbol_s {
     char type; // as nm gives it; U and w are undefined
@@ -29,11 +33,11 @@ std::vector<Symbol_s> dynamicSymbols() {
         output += chunk.data();
 
     std::vector<Symbol_s> symbols;
-    const std::regex lineForm("^[0-9a-f ]* ([A-Za-z]) (.*)$");
+    const TextPattern lineForm("^[0-9a-f ]* ([A-Za-z]) (.*)$");
     std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);)
-        if (std::smatch match; std::regex_match(line, match, lineForm))
-            symbols.push_back({match[1].str()[0], match[2]});
+        if (const Match match = lineForm.matchOfWhole(line); !match.empty())
+            symbols.push_back({match[1][0], match[2]});
     return symbols;
 }
 
@@ -43,30 +47,29 @@ bool isUndefined(const Symbol_s& symbol) {
 
 /// The operations that the contract with the host declares.
 std::set<std::string> hostOperations() {
-    const std::regex declaration("\\b(Quor(?:Util|GUI)[A-Z]\\w*)\\(");
+    const TextPattern declaration("\\b(Quor(?:Util|GUI)[A-Z]\\w*)\\(");
     std::set<std::string> names;
     for (const char* name : {"/QuorUtil.h", "/QuorGUI.h"}) {
         std::ifstream header(std::string(SDK_HEADERS) + name);
         const std::string text((std::istreambuf_iterator<char>(header)), {});
-        for (std::sregex_iterator match(text.begin(), text.end(), declaration), end; match != end;
-             ++match)
-            names.insert((*match)[1]);
+        for (const Match& match : declaration.allMatches(text))
+            names.insert(match[1]);
     }
     return names;
 }
 
 bool isOfTheRuntime(const std::string& name) {
-    static const std::regex versioned("@(GLIBC|GLIBCXX|CXXABI|GCC)_");
-    static const std::regex ofTheLinker("^(_ITM_\\w+TMCloneTable|__gmon_start__)$");
-    return std::regex_search(name, versioned) || std::regex_search(name, ofTheLinker);
+    static const TextPattern versioned("@(GLIBC|GLIBCXX|CXXABI|GCC)_");
+    static const TextPattern ofTheLinker("^(_ITM_\\w+TMCloneTable|__gmon_start__)$");
+    return versioned.fitsPart(name) || ofTheLinker.fitsPart(name);
 }
 
 bool isOfTheUtilityLibrary(const std::string& name) {
-    static const std::regex classes(
+    static const TextPattern classes(
         "^(typeinfo for |typeinfo name for |vtable for )?quorvia::(TaskProgress|"
         "SolutionTimeNotificationDeferrer|StringList|InterruptedException)(::|$)");
-    static const std::regex functions("^quorvia::(createTaskProgressBar|utf8ToWideString)\\b");
-    return std::regex_search(name, classes) || std::regex_search(name, functions);
+    static const TextPattern functions("^quorvia::(createTaskProgressBar|utf8ToWideString)\\b");
+    return classes.fitsPart(name) || functions.fitsPart(name);
 }
 
 /// Libraries built for a sanitizer call it.

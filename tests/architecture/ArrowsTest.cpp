@@ -2,16 +2,19 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/TextPattern.h"
+
 namespace {
 
 namespace fs = std::filesystem;
+
+using quorvia::testsupport::TextPattern;
 
 using Arrows = std::map<std::string, std::set<std::string>>;
 
@@ -168,18 +171,17 @@ std::string roomOf(const std::string& path, const Arrows& arrows) {
     return room;
 }
 
-std::vector<std::string> includesLike(const fs::path& file, const std::regex& pattern) {
+std::vector<std::string> includesLike(const fs::path& file, const TextPattern& pattern) {
     std::vector<std::string> includes;
     std::ifstream in(file);
-    std::smatch match;
     for (std::string line; std::getline(in, line);)
-        if (std::regex_search(line, match, pattern))
+        if (const auto match = pattern.firstMatch(line); !match.empty())
             includes.push_back(match[1]);
     return includes;
 }
 
 std::vector<std::string> quotedIncludes(const fs::path& file) {
-    static const std::regex pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
+    static const TextPattern pattern("^\\s*#\\s*include\\s*\"([^\"]+)\"");
     return includesLike(file, pattern);
 }
 
@@ -231,7 +233,7 @@ TEST(Arrows, OfTheHostGoOneWayAndReachOnlyTheSdkOfTheAddOn) {
 /// The rooms of `tree` with a source that includes what begins like that.
 std::set<std::string> roomsIncluding(const std::string& beginning, const char* tree,
                                      const Arrows& arrows) {
-    const std::regex pattern("^\\s*#\\s*include\\s*<(" + beginning + "[^>]+)>");
+    const TextPattern pattern("^\\s*#\\s*include\\s*<(" + beginning + "[^>]+)>");
     std::set<std::string> rooms;
     const fs::path root = fs::path(PLOT3D_SOURCE_DIR) / tree;
     for (const auto& entry : fs::recursive_directory_iterator(root))

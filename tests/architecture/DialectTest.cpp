@@ -3,16 +3,20 @@
 #include <filesystem>
 #include <fstream>
 #include <istream>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/TextPattern.h"
+
 namespace {
 
 namespace fs = std::filesystem;
+
+using quorvia::testsupport::Match;
+using quorvia::testsupport::TextPattern;
 
 using Texts = std::vector<std::string>;
 
@@ -40,33 +44,34 @@ bool isWorthALook(const std::string& line) {
 
 /// One line without its literals and its comment.
 std::string codeOf(const std::string& line) {
-    static const std::regex literal("\"(?:\\\\.|[^\"\\\\])*\"|'(?:\\\\.|[^'\\\\])'");
-    static const std::regex comment("//.*");
-    return std::regex_replace(std::regex_replace(line, literal, "\"\""), comment, "");
+    static const TextPattern literal("\"(?:\\\\.|[^\"\\\\])*\"|'(?:\\\\.|[^'\\\\])'");
+    static const TextPattern comment("//.*");
+    return comment.replaced(literal.replaced(line, "\"\""), "");
 }
 
 /// Empty if the line defines or announces no type, or one whose name is right.
 std::string typeFault(const std::string& code) {
-    static const std::regex type("^\\s*(?:template <.*> )?(struct|class|enum)(?: class| struct)? "
-                                 "(?:alignas\\(.*\\) )?(\\w+)(?: final)?(?: : [^;]*)?(;| \\{.*)?$");
-    std::smatch match;
-    if (!std::regex_match(code, match, type))
+    static const TextPattern type(
+        "^\\s*(?:template <.*> )?(struct|class|enum)(?: class| struct)? "
+        "(?:alignas\\(.*\\) )?(\\w+)(?: final)?(?: : [^;]*)?(;| \\{.*)?$");
+    const Match match = type.matchOfWhole(code);
+    if (match.empty())
         return "";
     const std::string name = match[2];
     const std::string wanted = match[1] == "struct" ? "_s" : match[1] == "enum" ? "_e" : "";
     const bool isSuffixed = name.ends_with("_s") || name.ends_with("_e");
     const bool isRight = wanted.empty() ? !isSuffixed : name.ends_with(wanted);
-    return isRight ? "" : match[1].str() + " " + name;
+    return isRight ? "" : match[1] + " " + name;
 }
 
 /// The names that begin with k, but for those of the direction K and of the library of benchmarks.
 Texts namesWithK(const std::string& code) {
-    static const std::regex name("(benchmark::)?\\b(k[A-Z]\\w*)");
-    static const std::regex direction("k(Range|Start|End|Skip|Max)(Field|Seen)?");
+    static const TextPattern name("(benchmark::)?\\b(k[A-Z]\\w*)");
+    static const TextPattern direction("k(Range|Start|End|Skip|Max)(Field|Seen)?");
     Texts names;
-    for (std::sregex_iterator match(code.begin(), code.end(), name), end; match != end; ++match)
-        if (!(*match)[1].matched && !std::regex_match((*match)[2].str(), direction))
-            names.push_back((*match)[2]);
+    for (const Match& match : name.allMatches(code))
+        if (match[1].empty() && !direction.fitsWhole(match[2]))
+            names.push_back(match[2]);
     return names;
 }
 

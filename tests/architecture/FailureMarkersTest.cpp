@@ -4,16 +4,20 @@
 #include <filesystem>
 #include <fstream>
 #include <istream>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/TextPattern.h"
+
 namespace {
 
 namespace fs = std::filesystem;
+
+using quorvia::testsupport::Match;
+using quorvia::testsupport::TextPattern;
 
 using Texts = std::vector<std::string>;
 
@@ -37,9 +41,8 @@ public:
 
 private:
     void take(const std::string& line) {
-        static const std::regex commentLine("^\\s*//+ ?(.*)$");
-        std::smatch match;
-        if (std::regex_match(line, match, commentLine))
+        static const TextPattern commentLine("^\\s*//+ ?(.*)$");
+        if (const Match match = commentLine.matchOfWhole(line); !match.empty())
             addToComment(match[1]);
         else if (line.empty())
             comments_.emplace_back();
@@ -55,15 +58,14 @@ private:
     }
 
     void takeCode(const std::string& line) {
-        static const std::regex declaration(
+        static const TextPattern declaration(
             "^\\s*(\\[\\[nodiscard\\]\\] )?(?:(?:static|virtual|constexpr|inline) )*"
             "(?!return |else |using |new )((?:const )?[\\w:]+(?:<[^()]*>)?[*&]?) "
             "(operator\\(\\)|\\w+)\\(");
         hasCodeBelow_ = true;
-        std::smatch match;
-        if (std::regex_search(line, match, declaration))
+        if (const Match match = declaration.firstMatch(line); !match.empty())
             functions_.push_back({match[3], comments_.empty() ? std::string() : comments_.back(),
-                                  match[1].matched, match[2]});
+                                  !match[1].empty(), match[2]});
     }
 
     std::vector<Function_s> functions_;
@@ -72,15 +74,15 @@ private:
 };
 
 bool hasMarker(const Function_s& function) {
-    static const std::regex marker("(False|Null|Empty) \\((not )?told\\):");
-    return std::regex_search(function.comment, marker);
+    static const TextPattern marker("(False|Null|Empty) \\((not )?told\\):");
+    return marker.fitsPart(function.comment);
 }
 
 /// Its name says that the answer is no failure.
 bool isQuestion(const Function_s& function) {
-    static const std::regex question(
+    static const TextPattern question(
         "operator\\(\\)|matches|(is|are|has|had|was|may|can|joins|fits|begins|belongs)[A-Z]\\w*");
-    return std::regex_match(function.name, question);
+    return question.fitsWhole(function.name);
 }
 
 /// Its result is part of a given signature.
@@ -90,11 +92,11 @@ bool neverFails(const Function_s& function) {
 
 /// What is wrong with one header, function by function.
 Texts faultsOf(std::istream& in) {
-    static const std::regex bareMarker("\\b(False|Null|Empty):");
+    static const TextPattern bareMarker("\\b(False|Null|Empty):");
     const HeaderReader header(in);
     Texts faults;
     for (const std::string& comment : header.comments())
-        if (std::regex_search(comment, bareMarker))
+        if (bareMarker.fitsPart(comment))
             faults.push_back("told or not? " + comment);
     for (const Function_s& function : header.functions()) {
         if (function.mayNotBeIgnored && !hasMarker(function))

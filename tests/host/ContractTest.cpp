@@ -1,9 +1,9 @@
 // Locks, undo states, and arguments that no guest should pass.
 #include <fstream>
-#include <regex>
 
 #include "HostFixture.h"
 #include "checks/Operations.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::host {
 namespace {
@@ -12,15 +12,14 @@ using ContractTest = HostTest;
 
 /// The operations that the SDK's header declares under a heading.
 Texts operationsOfSection(const std::string& heading) {
-    const std::regex declaration("^[A-Za-z].*\\b(QuorUtil\\w+)\\(.*");
+    const testsupport::TextPattern declaration("^[A-Za-z].*\\b(QuorUtil\\w+)\\(.*");
     Texts names;
     bool isInside = false;
     std::ifstream header(SDK_HEADER);
-    std::smatch match;
     for (std::string line; std::getline(header, line);) {
         if (line.rfind("// ----", 0) == 0)
             isInside = line.rfind("// ---- " + heading + " --", 0) == 0;
-        else if (isInside && std::regex_match(line, match, declaration))
+        else if (const auto match = declaration.matchOfWhole(line); isInside && !match.empty())
             names.push_back(match[1]);
     }
     return names;

@@ -1,10 +1,10 @@
 // docs/instructions.md keeps its word: its examples parse, and its table names keys that exist.
 #include <fstream>
-#include <regex>
 #include <sstream>
 
 #include "instructions/InstructionKeys.h"
 #include "instructions/ParserFixture.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::quorutildataio {
 namespace {
@@ -40,13 +40,12 @@ protected:
     /// The words of the first columns of the tables of keys and of older switches.
     static Texts tabulatedKeys() {
         Texts keys;
-        const std::regex word("`(-?[A-Z0-9]+_?[A-Z]*)`");
+        const testsupport::TextPattern word("`(-?[A-Z0-9]+_?[A-Z]*)`");
         for (const std::string& line : lines())
             if (line.rfind("| `", 0) == 0) {
                 const std::string column = line.substr(0, line.find('|', 1));
-                for (std::sregex_iterator match(column.begin(), column.end(), word), end;
-                     match != end; ++match)
-                    keys.push_back((*match)[1]);
+                for (const testsupport::Match& match : word.allMatches(column))
+                    keys.push_back(match[1]);
             }
         return keys;
     }

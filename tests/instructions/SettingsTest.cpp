@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@
 
 #include "instructions/InstructionKeys.h"
 #include "instructions/InstructionWords.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::quorutildataio {
 namespace {
@@ -20,15 +20,15 @@ using host::settingProblem;
 
 /// The keys of the document's first table.
 std::vector<std::string> documentedKeys() {
-    const std::regex row("^\\| `([A-Z_]+)`(, `([A-Z_]+)`)? \\|.*");
+    const testsupport::TextPattern row("^\\| `([A-Z_]+)`(, `([A-Z_]+)`)? \\|.*");
     std::vector<std::string> keys;
     std::ifstream document(INSTRUCTIONS_DOCUMENT);
-    std::smatch match;
     for (std::string line; std::getline(document, line) && line != "### Names";) {
-        if (!std::regex_match(line, match, row))
+        const testsupport::Match match = row.matchOfWhole(line);
+        if (match.empty())
             continue;
         keys.push_back(match[1]);
-        if (match[3].matched)
+        if (!match[3].empty())
             keys.push_back(match[3]);
     }
     return keys;

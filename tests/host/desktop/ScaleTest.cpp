@@ -1,6 +1,5 @@
 // The windows at the scale factor that QT_SCALE_FACTOR says; run with 1, 1.5 and 2.
 #include <cstdlib>
-#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -8,6 +7,7 @@
 #include <QHeaderView>
 
 #include "host/desktop/ViewFixture.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::host {
 namespace {
@@ -26,9 +26,9 @@ protected:
         view().scene().resetCamera();
         QTest::mouseClick(&view().scene(), Qt::LeftButton, {}, QPoint(x, y));
         settle();
-        std::smatch place;
         const std::string told = pointText();
-        return std::regex_search(told, place, std::regex("i \\d+  j \\d+")) ? place.str() : told;
+        const auto place = testsupport::TextPattern("i \\d+  j \\d+").firstMatch(told);
+        return place.empty() ? told : place[0];
     }
 };
 

@@ -1,6 +1,4 @@
 // The picture beside the tree: what it shows, and what it tells of what is clicked at.
-#include <regex>
-
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -8,6 +6,7 @@
 
 #include "desktop/Texts.h"
 #include "host/desktop/ViewFixture.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::host {
 namespace {
@@ -45,16 +44,17 @@ TEST_F(ViewTest, ClickTellsTheValuesOfThePointAndMarksItsZone) {
     view().timeBar().goBy(1);
     settle();
     clickAt(0.4, 0.5);
-    std::smatch place;
-    const std::string told = pointText();
-    ASSERT_TRUE(std::regex_search(told, place, std::regex("Zone 2 .*\ni (\\d+)  j (\\d+)  k 1\n")));
-    const std::size_t point = std::stoul(place[1]) - 1 + 41 * (std::stoul(place[2]) - 1);
+    const testsupport::Match told =
+        testsupport::TextPattern("Zone 2 .*\ni (\\d+)  j (\\d+)  k 1\n([^]*)")
+            .firstMatch(pointText());
+    ASSERT_FALSE(told.empty()) << pointText();
+    const std::size_t point = std::stoul(told[1]) - 1 + 41 * (std::stoul(told[2]) - 1);
     std::string expected;
     const char* const names[] = {"X", "Y", "RHO", "RHO-U", "RHO-V", "E"};
     for (std::int32_t variable = 1; variable <= 6; ++variable)
         expected += (variable == 1 ? "" : "   ") + std::string(names[variable - 1]) + " = " +
                     shownNumber(values(2, variable).at(point)).toStdString();
-    EXPECT_EQ(place.suffix().str(), expected);
+    EXPECT_EQ(told[3], expected);
     EXPECT_EQ(window().tree().currentItem()->text(0), QStringLiteral("2  vortex_t0.25.q:1"));
 }
 

@@ -4,34 +4,36 @@
 #include <cstdio>
 #include <fstream>
 #include <memory>
-#include <regex>
 #include <set>
 
 #include "checks/Operations.h"
 #include "memory/ServiceScenarios.h"
+#include "support/TextPattern.h"
 
 namespace quorvia::host {
 namespace {
+
+using testsupport::TextPattern;
 
 using Names = std::set<std::string>;
 
 /// The operations that a header declares, members with their class. Deleted ones are none.
 Names declaredIn(const std::string& header) {
-    const std::regex classHead("^class QUORVIA_HOST_API (\\w+).*");
-    const std::regex operation("^( *)(?:[A-Za-z].*[ *&>])?(~?\\w+)\\(.*");
-    const std::regex notDeclared(".*(= delete;|^ *//|^using|^ *return).*");
+    const TextPattern classHead("^class QUORVIA_HOST_API (\\w+).*");
+    const TextPattern operation("^( *)(?:[A-Za-z].*[ *&>])?(~?\\w+)\\(.*");
+    const TextPattern notDeclared(".*(= delete;|^ *//|^using|^ *return).*");
     Names names;
     std::string className;
     std::ifstream file(SDK_DIRECTORY "/" + header);
-    std::smatch match;
     for (std::string line; std::getline(file, line);) {
         if (line.rfind("};", 0) == 0)
             className.clear();
-        if (std::regex_match(line, match, classHead))
-            className = match[1];
-        else if (!std::regex_match(line, notDeclared) && std::regex_match(line, match, operation) &&
+        if (const auto head = classHead.matchOfWhole(line); !head.empty())
+            className = head[1];
+        else if (const auto match = operation.matchOfWhole(line);
+                 !match.empty() && !notDeclared.fitsWhole(line) &&
                  match[1].length() == (className.empty() ? 0 : 4))
-            names.insert(className.empty() ? match[2].str() : className + "::" + match[2].str());
+            names.insert(className.empty() ? match[2] : className + "::" + match[2]);
     }
     return names;
 }

@@ -2,14 +2,18 @@
 #include <array>
 #include <cstdio>
 #include <memory>
-#include <regex>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/TextPattern.h"
+
 namespace plot3dtest {
 namespace {
+
+using quorvia::testsupport::Match;
+using quorvia::testsupport::TextPattern;
 
 struct Symbol_s {
     char type; // as nm gives it
@@ -24,9 +28,9 @@ std::vector<Symbol_s> dynamicSymbols() {
     while (pipe && fgets(chunk.data(), static_cast<int>(chunk.size()), pipe.get()) != nullptr)
         output += chunk.data();
     std::vector<Symbol_s> symbols;
-    const std::regex line("[0-9a-f ]* ([A-Za-z]) (.*)\n");
-    for (std::sregex_iterator match(output.begin(), output.end(), line), end; match != end; ++match)
-        symbols.push_back({(*match)[1].str()[0], (*match)[2]});
+    const TextPattern line("[0-9a-f ]* ([A-Za-z]) (.*)\n");
+    for (const Match& match : line.allMatches(output))
+        symbols.push_back({match[1][0], match[2]});
     return symbols;
 }
 
@@ -39,9 +43,9 @@ std::vector<std::string> exported() {
 }
 
 TEST(LibrarySymbols, ExportTheNamespaceAlone) {
-    const std::regex ofTheNamespace("((typeinfo|typeinfo name|vtable) for )?plot3d::.*");
+    const TextPattern ofTheNamespace("((typeinfo|typeinfo name|vtable) for )?plot3d::.*");
     for (const std::string& name : exported())
-        EXPECT_TRUE(std::regex_match(name, ofTheNamespace)) << name;
+        EXPECT_TRUE(ofTheNamespace.fitsWhole(name)) << name;
 }
 
 TEST(LibrarySymbols, HaveWhatTheHeadersDeclare) {
