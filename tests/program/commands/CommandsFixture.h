@@ -5,11 +5,10 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "program/commands/ModelSelection.h"
 #include "program/commands/ModelSet.h"
 #include "program/values/ValueFiles.h"
+#include "support/Json.h"
 
 namespace plot3d::program {
 
@@ -38,7 +37,7 @@ protected:
     bool isAmbiguous(const ModelSet& data, const std::string& folder) const;
 
     /// `info` of one file, taken for what it is.
-    nlohmann::json infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const;
+    Json infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const;
 
     /// Calls `check(data, draw, folder)` with random sets on disk that are not ambiguous.
     template <class Check>

@@ -1,14 +1,12 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "program/values/ValueFiles.h"
 
 namespace plot3d::program {
 namespace {
 
-using Json = nlohmann::json;
 using Words = std::vector<std::string>;
 
 const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};

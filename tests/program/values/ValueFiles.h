@@ -11,6 +11,7 @@
 
 #include "program/ProgramRun.h"
 #include "support/BytesOfFile.h"
+#include "support/Json.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
@@ -25,6 +26,7 @@ using Sizes = quorvia::testsupport::GridList;
 using quorvia::testsupport::binary;
 using quorvia::testsupport::bytesOfFile;
 using quorvia::testsupport::formOf;
+using quorvia::testsupport::Json;
 
 /// 32 random bits that hang on the arguments alone.
 std::uint32_t dice(std::uint64_t seed, std::int64_t a, std::int64_t b = 0, std::int64_t c = 0,
