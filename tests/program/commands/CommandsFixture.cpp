@@ -1,10 +1,7 @@
 #include "program/commands/CommandsFixture.h"
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
-#include <random>
 #include <utility>
 
 namespace plot3d::program {
@@ -49,14 +46,6 @@ Json readingOf(const ModelFile_s& file) {
 }
 
 } // namespace
-
-std::uint64_t seedOfRun() {
-    const char* const given = std::getenv("PLOT3D_TEST_SEED");
-    const std::uint64_t seed =
-        given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
-    std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
-    return seed;
-}
 
 void CommandsTest::writeFiles(const ModelSet& data, const std::string& folder) const {
     std::filesystem::create_directory(file(folder));

@@ -17,9 +17,6 @@ using Words = std::vector<std::string>;
 /// Random sets that each test draws.
 constexpr int setCount = 40;
 
-/// PLOT3D_TEST_SEED, or a new one; printed.
-std::uint64_t seedOfRun();
-
 class CommandsTest : public ValueFilesTest {
 protected:
     /// Writes the files into a folder of their own.

@@ -10,7 +10,7 @@
 #include <zlib.h>
 
 #include "program/commands/CommandsFixture.h"
-#include "program/stats/PlainModel.h"
+#include "program/values/PlainModel.h"
 
 namespace plot3d::program {
 namespace {

@@ -163,6 +163,8 @@ int runProgram(const std::vector<std::string>& arguments, std::string* err) {
     return code;
 }
 
+ReadBackTest::ReadBackTest() : ReadBackTest(READ_BACK_SCRIPT) {}
+
 std::string ReadBackTest::folder(const std::string& name) const {
     std::filesystem::create_directory(directory_.path() / name);
     return directory_.file(name);
@@ -222,8 +224,8 @@ void ReadBackTest::writeExpected(const std::string& folder, const plot3d::DataSe
 
 void ReadBackTest::expectReadBack(int fileCount, const std::string& argument) const {
     constexpr int moduleIsMissing = 77;
-    const std::string command = "/usr/bin/python3 " READ_BACK_SCRIPT " " +
-                                directory_.path().string() + " " + argument + " 2>&1";
+    const std::string command = "/usr/bin/python3 " + readers_ + " " + directory_.path().string() +
+                                " " + argument + " 2>&1";
     std::FILE* const pipe = popen(command.c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     std::string text;

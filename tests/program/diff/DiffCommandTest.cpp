@@ -9,8 +9,6 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};
-
 /// The values with one changed.
 Value changed(std::int32_t grid, std::int32_t variable, double by) {
     return [=](std::int32_t g, std::int32_t v, std::int32_t i, std::int32_t j, std::int32_t k) {

@@ -43,6 +43,8 @@ Json fieldsOf(const plot3d::DataSet& data, std::size_t zone, std::ofstream& valu
 
 } // namespace
 
+IndexTest::IndexTest() : ReadBackTest(READ_INDEX_SCRIPT) {}
+
 int IndexTest::index(std::vector<std::string> arguments, const std::string& output,
                      std::string* err) {
     arguments.insert(arguments.begin(), "index");

@@ -11,8 +11,6 @@
 namespace plot3d::program {
 namespace {
 
-const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};
-
 std::int32_t oneHole(std::int32_t grid, std::int32_t i, std::int32_t j, std::int32_t k) {
     return grid == 1 && i == 0 && j == 0 && k == 0 ? 0 : i == 1 ? 2 : 1;
 }

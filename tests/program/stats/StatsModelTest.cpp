@@ -1,12 +1,10 @@
 // Random files and selections, against statistics done by hand.
 #include <cmath>
-#include <cstdlib>
-#include <iostream>
 #include <random>
 
 #include <gtest/gtest.h>
 
-#include "program/stats/PlainModel.h"
+#include "program/values/PlainModel.h"
 #include "program/values/ValueFiles.h"
 
 namespace plot3d::program {
@@ -137,15 +135,8 @@ protected:
     }
 };
 
-std::uint64_t seedOfRun() {
-    if (const char* given = std::getenv("PLOT3D_TEST_SEED"))
-        return std::strtoull(given, nullptr, 10);
-    return std::random_device()();
-}
-
 TEST_F(StatsModelTest, AgreesOnRandomFilesAndSelections) {
     const std::uint64_t seed = seedOfRun();
-    std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
     int compared = 0;
     for (std::uint64_t number = 0; number < 60; ++number) {
         SCOPED_TRACE(seed + number);

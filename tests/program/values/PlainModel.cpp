@@ -1,4 +1,4 @@
-#include "program/stats/PlainModel.h"
+#include "program/values/PlainModel.h"
 
 #include <algorithm>
 #include <cmath>
