@@ -1,5 +1,5 @@
 // JSON text written piece by piece, so that an outcome of a hundred thousand zones needs no memory
-// for its JSON. The form is that of the JSON library's dump with an indent of two blanks.
+// for its JSON. The form is that of the JSON library's dump with an indent.
 #pragma once
 
 #include <concepts>
@@ -14,7 +14,8 @@ namespace console {
 class JsonStream {
 public:
     /// `out` is borrowed. Whether it took everything, its own state tells.
-    explicit JsonStream(std::ostream& out) : out_(out) {}
+    explicit JsonStream(std::ostream& out, std::size_t indentWidth = 2)
+        : out_(out), indentWidth_(indentWidth) {}
     JsonStream(const JsonStream&) = delete;
     JsonStream& operator=(const JsonStream&) = delete;
 
@@ -55,7 +56,8 @@ private:
     void flushIfLarge();
 
     std::ostream& out_;
-    std::string text_; // not handed over yet
+    std::size_t indentWidth_; // blanks
+    std::string text_;        // not handed over yet
     std::size_t depth_ = 0;
     bool isFirst_ = true; // nothing stands in the innermost object or list yet
     bool hasKey_ = false; // the next value stands behind its key

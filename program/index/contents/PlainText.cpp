@@ -5,33 +5,11 @@
 
 #include <plot3d/Error.h>
 
+#include "console/JsonText.h"
+
 namespace plot3d::program {
 
 namespace {
-
-/// Bytes of the letter that begins with `first`; 0 if none does.
-std::size_t letterBytes(unsigned char first) {
-    if (first < 0x80)
-        return 1;
-    if (first >= 0xC2 && first < 0xE0)
-        return 2;
-    if (first >= 0xE0 && first < 0xF0)
-        return 3;
-    return first >= 0xF0 && first < 0xF5 ? 4 : 0;
-}
-
-bool isUtf8(std::string_view text) {
-    for (std::size_t place = 0; place < text.size();) {
-        const std::size_t count = letterBytes(static_cast<unsigned char>(text[place]));
-        if (count == 0 || count > text.size() - place)
-            return false;
-        for (std::size_t follower = 1; follower < count; ++follower)
-            if ((static_cast<unsigned char>(text[place + follower]) & 0xC0U) != 0x80)
-                return false;
-        place += count;
-    }
-    return true;
-}
 
 struct Entity_s {
     char letter;
@@ -49,8 +27,13 @@ constexpr std::array<Entity_s, 4> entities = {
 } // namespace
 
 void refuseOtherThanUtf8(std::string_view text) {
-    if (!isUtf8(text))
+    if (!console::isUtf8(text))
         refuse(text, "bytes that are no UTF-8");
+}
+
+std::string jsonText(std::string_view text) {
+    refuseOtherThanUtf8(text);
+    return console::jsonText(text);
 }
 
 std::string xmlText(std::string_view text) {

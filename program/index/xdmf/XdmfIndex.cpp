@@ -45,10 +45,10 @@ std::string sizesOf(const Zone& zone) {
     return fmt::format("{} {} {}", zone.size.k, zone.size.j, zone.size.i);
 }
 
-class IndexWriter {
+class XdmfWriter {
 public:
-    IndexWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
-                const Watch& watch)
+    XdmfWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
+               const Watch& watch)
         : data_(data), originals_(originals), out_(out), watch_(watch) {}
 
     void write() {
@@ -146,7 +146,7 @@ void XdmfIndex::write(const IndexedData& data, Originals& originals,
     data.refuseFieldsOutsideFiles();
     data.refuseMissingCoordinates();
     std::ofstream out = openedForText(file);
-    IndexWriter(data, originals, out, watch).write();
+    XdmfWriter(data, originals, out, watch).write();
     finishText(out);
 }
 
