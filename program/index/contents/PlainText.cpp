@@ -19,7 +19,7 @@ struct Entity_s {
 constexpr std::array<Entity_s, 4> entities = {
     {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}}};
 
-[[noreturn]] void refuse(std::string_view text, const char* what) {
+[[noreturn]] void refuseName(std::string_view text, const char* what) {
     throw Error(ErrorKind::Unsupported, "the name \"" + std::string(text) + "\" has " + what +
                                             ", which this format can't hold");
 }
@@ -28,7 +28,7 @@ constexpr std::array<Entity_s, 4> entities = {
 
 void refuseOtherThanUtf8(std::string_view text) {
     if (!console::isUtf8(text))
-        refuse(text, "bytes that are no UTF-8");
+        refuseName(text, "bytes that are no UTF-8");
 }
 
 std::string jsonText(std::string_view text) {
@@ -41,7 +41,7 @@ std::string xmlText(std::string_view text) {
     std::string result;
     for (const char letter : text) {
         if (static_cast<unsigned char>(letter) < ' ')
-            refuse(text, "control characters");
+            refuseName(text, "control characters");
         const auto* const entity =
             std::find_if(entities.begin(), entities.end(),
                          [letter](const Entity_s& each) { return each.letter == letter; });

@@ -13,7 +13,7 @@ namespace plot3d::program {
 
 namespace {
 
-const char* const comment = "// ";
+const char* const p3dComment = "// ";
 
 /// The path as it stands in the index.
 std::string named(Originals& originals, const std::string& file) {
@@ -105,13 +105,13 @@ void P3dIndex::write(const IndexedData& data, Originals& originals,
     std::ofstream out = openedForText(file);
     std::istringstream marks(textOf(originals.marks())); // of all that the index names
     for (std::string line; std::getline(marks, line);)
-        out << comment << line << '\n';
+        out << p3dComment << line << '\n';
     out << index.str();
     finishText(out);
 }
 
 std::vector<OriginalMark_s> P3dIndex::readMarks(const std::filesystem::path& file) const {
-    return marksOfText(textOfFile(file), comment);
+    return marksOfText(textOfFile(file), p3dComment);
 }
 
 } // namespace plot3d::program

@@ -18,7 +18,7 @@ namespace plot3d::program {
 
 namespace {
 
-const char* const marksName = "plot3d_originals";
+const char* const marksKey = "plot3d_originals";
 constexpr std::size_t longestName = 255; // where stores are folders
 const char* const group = R"({"zarr_format": 2})";
 
@@ -88,7 +88,7 @@ private:
         std::string marks;
         for (const OriginalMark_s& mark : originals_.marks())
             marks += (marks.empty() ? "" : ",") + jsonText(lineOf(mark));
-        putText(".zattrs", fmt::format(R"({{"{}":[{}]}})", marksName, marks));
+        putText(".zattrs", fmt::format(R"({{"{}":[{}]}})", marksKey, marks));
     }
 
     void writeZone(std::size_t index) {
@@ -195,7 +195,7 @@ void ReferenceIndex::write(const IndexedData& data, Originals& originals,
 std::vector<OriginalMark_s> ReferenceIndex::readMarks(const std::filesystem::path& file) const {
     const auto attributes = console::jsonTexts(textOfFile(file), {"refs", ".zattrs"});
     const auto lines = attributes && !attributes->empty()
-                           ? console::jsonTexts(attributes->front(), {marksName})
+                           ? console::jsonTexts(attributes->front(), {marksKey})
                            : std::nullopt;
     if (!lines)
         throw Error(ErrorKind::Unreadable, "is no index of plot3d: it has no notes on originals",
