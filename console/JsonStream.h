@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -40,6 +41,21 @@ public:
         integer(static_cast<std::int64_t>(number));
     }
     void null() { literal("null"); }
+
+    /// A key with its value; null stands for nothing.
+    template <typename Value>
+    void member(std::string_view name, const Value& told) {
+        key(name);
+        value(told);
+    }
+    template <typename Value>
+    void member(std::string_view name, const std::optional<Value>& told) {
+        key(name);
+        if (told)
+            value(*told);
+        else
+            null();
+    }
 
     /// Ends the text with a line end and hands over what is left. Nothing is written before that
     /// but whole blocks.

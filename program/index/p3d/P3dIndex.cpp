@@ -44,22 +44,16 @@ public:
     }
 
 private:
-    template <typename Value>
-    void member(const char* key, const Value& value) {
-        json_.key(key);
-        json_.value(value);
-    }
-
     void writeForm() {
         const FileInfo& form = files_.form;
-        member("auto-detect-format", false);
-        member("format", "binary");
-        member("byte-order", form.byteOrder == ByteOrder::Big ? "big" : "little");
-        member("precision", *form.precision);
-        member("language", form.encoding == Encoding::Fortran ? "fortran" : "C");
-        member("multi-grid", form.multiGrid);
-        member("blanking", form.iBlank);
-        member("2D", form.layout == Layout::TwoD);
+        json_.member("auto-detect-format", false);
+        json_.member("format", "binary");
+        json_.member("byte-order", form.byteOrder == ByteOrder::Big ? "big" : "little");
+        json_.member("precision", *form.precision);
+        json_.member("language", form.encoding == Encoding::Fortran ? "fortran" : "C");
+        json_.member("multi-grid", form.multiGrid);
+        json_.member("blanking", form.iBlank);
+        json_.member("2D", form.layout == Layout::TwoD);
     }
 
     void writeNamesOfFunctions() {
@@ -76,16 +70,12 @@ private:
 
     void writeStep(const WholeFilesStep_s& step) {
         json_.beginObject();
-        json_.key("time");
-        if (std::isfinite(step.time))
-            json_.value(step.time);
-        else
-            json_.null();
-        member("xyz", named(originals_, step.grid));
+        json_.member("time", std::isfinite(step.time) ? std::optional(step.time) : std::nullopt);
+        json_.member("xyz", named(originals_, step.grid));
         if (!step.solution.empty())
-            member("q", named(originals_, step.solution));
+            json_.member("q", named(originals_, step.solution));
         if (!step.function.empty())
-            member("function", named(originals_, step.function));
+            json_.member("function", named(originals_, step.function));
         json_.endObject();
     }
 
