@@ -1,35 +1,13 @@
 #include "console/JsonStream.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <ostream>
 
-#include <nlohmann/json.hpp>
+#include "console/JsonText.h"
 
 namespace console {
-namespace {
-
-using Json = nlohmann::ordered_json;
-
-constexpr std::size_t indentWidth = 2;
-
-/// Whether every byte stands for itself between the quotes. Most texts do, so this is the inner
-/// loop.
-bool isPlain(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char byte) {
-        return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\';
-    });
-}
-
-/// As the library writes a single value.
-std::string dumped(const Json& value) {
-    constexpr int onOneLine = -1;
-    return value.dump(onOneLine, ' ', false, Json::error_handler_t::replace);
-}
-
-} // namespace
 
 void JsonStream::key(std::string_view name) {
     startLine();
@@ -49,7 +27,7 @@ void JsonStream::value(double number) {
         return value("NaN");
     if (std::isinf(number))
         return value(number > 0 ? "Infinity" : "-Infinity");
-    literal(dumped(number));
+    literal(jsonNumber(number));
 }
 
 void JsonStream::finish() {
@@ -69,7 +47,7 @@ void JsonStream::end(char bracket) {
     --depth_;
     if (!isFirst_) {
         text_ += '\n';
-        text_.append(depth_ * indentWidth, ' ');
+        text_.append(depth_ * indentWidth_, ' ');
     }
     text_ += bracket;
     isFirst_ = false;
@@ -102,17 +80,11 @@ void JsonStream::startLine() {
         text_ += ',';
     isFirst_ = false;
     text_ += '\n';
-    text_.append(depth_ * indentWidth, ' ');
+    text_.append(depth_ * indentWidth_, ' ');
 }
 
 void JsonStream::putText(std::string_view text) {
-    if (!isPlain(text)) {
-        text_ += dumped(text);
-        return;
-    }
-    text_ += '"';
-    text_ += text;
-    text_ += '"';
+    text_ += jsonText(text);
 }
 
 void JsonStream::flushIfLarge() {

@@ -1,11 +1,12 @@
 // JSON text written piece by piece, so that an outcome of a hundred thousand zones needs no memory
-// for its JSON. The form is that of the JSON library's dump with an indent of two blanks.
+// for its JSON. The form is that of the JSON library's dump with an indent.
 #pragma once
 
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,7 +15,8 @@ namespace console {
 class JsonStream {
 public:
     /// `out` is borrowed. Whether it took everything, its own state tells.
-    explicit JsonStream(std::ostream& out) : out_(out) {}
+    explicit JsonStream(std::ostream& out, std::size_t indentWidth = 2)
+        : out_(out), indentWidth_(indentWidth) {}
     JsonStream(const JsonStream&) = delete;
     JsonStream& operator=(const JsonStream&) = delete;
 
@@ -40,6 +42,21 @@ public:
     }
     void null() { literal("null"); }
 
+    /// A key with its value; null stands for nothing.
+    template <typename Value>
+    void member(std::string_view name, const Value& told) {
+        key(name);
+        value(told);
+    }
+    template <typename Value>
+    void member(std::string_view name, const std::optional<Value>& told) {
+        key(name);
+        if (told)
+            value(*told);
+        else
+            null();
+    }
+
     /// Ends the text with a line end and hands over what is left. Nothing is written before that
     /// but whole blocks.
     void finish();
@@ -55,7 +72,8 @@ private:
     void flushIfLarge();
 
     std::ostream& out_;
-    std::string text_; // not handed over yet
+    std::size_t indentWidth_; // blanks
+    std::string text_;        // not handed over yet
     std::size_t depth_ = 0;
     bool isFirst_ = true; // nothing stands in the innermost object or list yet
     bool hasKey_ = false; // the next value stands behind its key

@@ -8,6 +8,10 @@
 
 namespace console {
 
+std::string roughNumber(double value) {
+    return fmt::format("{:.7g}", value == 0 ? 0.0 : value);
+}
+
 std::string roughBytes(double byteCount) {
     constexpr std::array units = {"bytes", "kB", "MB", "GB", "TB", "PB"};
     constexpr double next = 999.5; // would be shown as 1000

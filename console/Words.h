@@ -7,6 +7,9 @@
 
 namespace console {
 
+/// At most seven digits, and no "-0".
+std::string roughNumber(double value);
+
 /// "812 bytes", "9.1 kB", "2.3 GB": powers of 1,000, two or three digits.
 std::string roughBytes(double byteCount);
 

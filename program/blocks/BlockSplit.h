@@ -9,6 +9,10 @@
 
 namespace plot3d::program {
 
+/// What a core works on in one go: some milliseconds; also what is held of I-blank at a time on
+/// each. Sums are put together stretch by stretch, so that the last digits of means hang on this.
+constexpr std::int64_t pointsOfStretch = std::int64_t{1} << 20;
+
 /// Of a zone, from 0.
 struct Point_s {
     std::int64_t i = 0;

@@ -36,10 +36,10 @@ const char* kindText(ZoneKind kind) {
     return "bricks";
 }
 
-class Planner {
+class DiffPlanner {
 public:
-    Planner(const DataSet& first, const DataSet& second, const DiffSelection_s& selection,
-            const Tolerance_s& tolerance)
+    DiffPlanner(const DataSet& first, const DataSet& second, const DiffSelection_s& selection,
+                const Tolerance_s& tolerance)
         : first_(first), second_(second), selection_(selection), tolerance_(tolerance) {}
 
     DiffPlan_s plan() {
@@ -147,7 +147,7 @@ private:
 
 DiffPlan_s planOf(const DataSet& first, const DataSet& second, const DiffSelection_s& selection,
                   const Tolerance_s& tolerance) {
-    return Planner(first, second, selection, tolerance).plan();
+    return DiffPlanner(first, second, selection, tolerance).plan();
 }
 
 } // namespace plot3d::program

@@ -10,10 +10,10 @@ public:
 
     void write() {
         json_.beginObject();
-        member("schema", "plot3d.diff/1");
-        member("same", report_.isSame());
-        member("tolerance", report_.tolerance.absolute);
-        member("relativeTolerance", report_.tolerance.relative);
+        json_.member("schema", "plot3d.diff/1");
+        json_.member("same", report_.isSame());
+        json_.member("tolerance", report_.tolerance.absolute);
+        json_.member("relativeTolerance", report_.tolerance.relative);
         json_.key("unlike");
         json_.beginList();
         for (const Unlikeness_s& unlike : report_.plan.unlike)
@@ -29,42 +29,29 @@ public:
     }
 
 private:
-    template <typename Value>
-    void member(const char* key, const Value& value) {
-        json_.key(key);
-        json_.value(value);
-    }
-
     void writeUnlike(const Unlikeness_s& unlike) {
         json_.beginObject();
-        member("what", unlike.what);
-        json_.key("zone");
-        if (unlike.zone)
-            json_.value(*unlike.zone + 1);
-        else
-            json_.null();
-        json_.key("variable");
-        if (unlike.variable.empty())
-            json_.null();
-        else
-            json_.value(unlike.variable);
-        member("first", unlike.first);
-        member("second", unlike.second);
+        json_.member("what", unlike.what);
+        json_.member("zone", unlike.zone ? std::optional(*unlike.zone + 1) : std::nullopt);
+        json_.member("variable",
+                     unlike.variable.empty() ? std::nullopt : std::optional(unlike.variable));
+        json_.member("first", unlike.first);
+        json_.member("second", unlike.second);
         json_.endObject();
     }
 
     void writeVariable(const VariableDifference_s& variable) {
         json_.beginObject();
-        member("name", variable.variable.name);
+        json_.member("name", variable.variable.name);
         writeDifference(variable.whole);
         json_.key("zones");
         json_.beginList();
         for (const std::size_t pair : variable.pairs) {
             json_.beginObject();
-            member("zone", report_.plan.pairs[pair].zone + 1);
+            json_.member("zone", report_.plan.pairs[pair].zone + 1);
             writeDifference(report_.found[pair].difference);
             if (report_.found[pair].error)
-                member("error", report_.found[pair].error->what());
+                json_.member("error", report_.found[pair].error->what());
             json_.endObject();
         }
         json_.endList();
@@ -72,12 +59,12 @@ private:
     }
 
     void writeDifference(const Difference_s& difference) {
-        member("compared", difference.compared);
-        member("different", difference.different);
-        member("notFinite", difference.unlike);
-        member("absolute", difference.absolute);
+        json_.member("compared", difference.compared);
+        json_.member("different", difference.different);
+        json_.member("notFinite", difference.unlike);
+        json_.member("absolute", difference.absolute);
         writePair("absoluteAt", difference.absolute > 0, difference.absoluteAt);
-        member("relative", difference.relative);
+        json_.member("relative", difference.relative);
         writePair("relativeAt", difference.relative > 0, difference.relativeAt);
         writePair("notFiniteAt", difference.unlike > 0, difference.unlikeAt);
     }
@@ -89,12 +76,12 @@ private:
             return;
         }
         json_.beginObject();
-        member("zone", pair.zone + 1);
-        member("i", pair.point.i + 1);
-        member("j", pair.point.j + 1);
-        member("k", pair.point.k + 1);
-        member("first", pair.first);
-        member("second", pair.second);
+        json_.member("zone", pair.zone + 1);
+        json_.member("i", pair.point.i + 1);
+        json_.member("j", pair.point.j + 1);
+        json_.member("k", pair.point.k + 1);
+        json_.member("first", pair.first);
+        json_.member("second", pair.second);
         json_.endObject();
     }
 

@@ -13,12 +13,7 @@ namespace plot3d::program {
 namespace {
 
 using console::TextGrid;
-constexpr auto left = TextGrid::Align_e::Left;
-constexpr auto right = TextGrid::Align_e::Right;
-
-std::string numberText(double value) {
-    return fmt::format("{:.7g}", value);
-}
+using Align_e = TextGrid::Align_e;
 
 std::string sentenceOf(const Unlikeness_s& unlike) {
     std::string about = unlike.variable.empty() ? "" : unlike.variable;
@@ -91,14 +86,14 @@ private:
     TextGrid grid(bool hasPlaces) const {
         const std::string where = report_.hasSeveralZones ? "zone: i,j,k" : "i,j,k";
         std::vector<TextGrid::Column_s> columns = {
-            {"variable"}, {"different", right}, {"largest", right}};
+            {"variable"}, {"different", Align_e::Right}, {"largest", Align_e::Right}};
         if (hasPlaces)
-            columns.push_back({"at " + where, left});
-        columns.push_back({"relative", right});
+            columns.push_back({"at " + where, Align_e::Left});
+        columns.push_back({"relative", Align_e::Right});
         if (hasPlaces)
-            columns.push_back({"at " + where, left});
+            columns.push_back({"at " + where, Align_e::Left});
         if (hasUnlike())
-            columns.push_back({"not finite in one", right});
+            columns.push_back({"not finite in one", Align_e::Right});
         return TextGrid(columns);
     }
 
@@ -110,10 +105,10 @@ private:
     void addRow(TextGrid& grid, const VariableDifference_s& variable, bool hasPlaces) const {
         const Difference_s& whole = variable.whole;
         std::vector<std::string> cells = {variable.variable.name, console::grouped(whole.different),
-                                          numberText(whole.absolute)};
+                                          console::roughNumber(whole.absolute)};
         if (hasPlaces)
             cells.push_back(placeText(whole.absolute, whole.absoluteAt));
-        cells.push_back(numberText(whole.relative));
+        cells.push_back(console::roughNumber(whole.relative));
         if (hasPlaces)
             cells.push_back(placeText(whole.relative, whole.relativeAt));
         if (hasUnlike())

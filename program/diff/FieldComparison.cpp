@@ -4,13 +4,13 @@
 #include <mutex>
 #include <tuple>
 
+#include "blocks/BlockSplit.h"
 #include "blocks/ValueTypes.h"
 
 namespace plot3d::program {
 namespace {
 
 constexpr std::int64_t pointsOfBlock = std::int64_t{1} << 16;
-constexpr std::int64_t pointsOfStretch = std::int64_t{1} << 20;
 
 /// Part of a pair that one core compares in one go.
 struct Stretch_s {

@@ -13,28 +13,13 @@ namespace {
 using console::JsonStream;
 
 template <typename Value>
-void member(JsonStream& json, std::string_view key, const Value& value) {
-    json.key(key);
-    json.value(value);
-}
-
-template <typename Value>
-void member(JsonStream& json, std::string_view key, const std::optional<Value>& value) {
-    json.key(key);
-    if (value)
-        json.value(*value);
-    else
-        json.null();
-}
-
-template <typename Value>
 void word(JsonStream& json, std::string_view key, const std::optional<Value>& value) {
-    member(json, key, value ? std::optional(std::string_view(wordOf(*value))) : std::nullopt);
+    json.member(key, value ? std::optional(std::string_view(wordOf(*value))) : std::nullopt);
 }
 
 /// Texts that are not known are null.
 void text(JsonStream& json, std::string_view key, const std::string& value) {
-    member(json, key, value.empty() ? std::nullopt : std::optional(std::string_view(value)));
+    json.member(key, value.empty() ? std::nullopt : std::optional(std::string_view(value)));
 }
 
 template <typename Value>
@@ -55,9 +40,9 @@ void writeGrids(JsonStream& json, const FileInfo& info) {
     json.beginList();
     for (const GridSize& size : info.grids) {
         json.beginObject();
-        member(json, "i", size.i);
-        member(json, "j", size.j);
-        member(json, "k", size.k);
+        json.member("i", size.i);
+        json.member("j", size.j);
+        json.member("k", size.k);
         json.endObject();
     }
     json.endList();
@@ -68,10 +53,10 @@ void writeScalars(JsonStream& json, const FileInfo& info) {
     json.beginList();
     for (const Scalars& scalars : info.scalars) {
         json.beginObject();
-        member(json, "mach", scalars.mach);
-        member(json, "alpha", scalars.alpha);
-        member(json, "reynolds", scalars.reynolds);
-        member(json, "time", scalars.time);
+        json.member("mach", scalars.mach);
+        json.member("alpha", scalars.alpha);
+        json.member("reynolds", scalars.reynolds);
+        json.member("time", scalars.time);
         json.endObject();
     }
     json.endList();
@@ -80,19 +65,19 @@ void writeScalars(JsonStream& json, const FileInfo& info) {
 void writeBytes(JsonStream& json, const ByteAccount& bytes) {
     json.key("bytes");
     json.beginObject();
-    member(json, "size", bytes.size);
-    member(json, "used", bytes.used);
-    member(json, "missing", bytes.missing);
-    member(json, "surplus", bytes.surplus);
+    json.member("size", bytes.size);
+    json.member("used", bytes.used);
+    json.member("missing", bytes.missing);
+    json.member("surplus", bytes.surplus);
     json.endObject();
 }
 
 void writeProblem(JsonStream& json, const FileProblem& problem) {
     json.beginObject();
     text(json, "what", problem.misfit.what);
-    member(json, "byte", problem.misfit.byte);
-    member(json, "line", problem.misfit.line);
-    member(json, "column", problem.misfit.column);
+    json.member("byte", problem.misfit.byte);
+    json.member("line", problem.misfit.line);
+    json.member("column", problem.misfit.column);
     text(json, "expected", problem.misfit.expected);
     text(json, "found", problem.misfit.found);
     writeTexts(json, "try", problem.next);
@@ -102,14 +87,14 @@ void writeProblem(JsonStream& json, const FileProblem& problem) {
 void writeCandidate(JsonStream& json, const Candidate& candidate, bool isText) {
     json.key("candidate");
     json.beginObject();
-    member(json, "kind", wordOf(candidate.kind));
-    member(json, "layout", wordOf(candidate.layout));
+    json.member("kind", wordOf(candidate.kind));
+    json.member("layout", wordOf(candidate.layout));
     word(json, "style", candidate.style);
-    member(json, "multiGrid", candidate.multiGrid);
-    member(json, "iBlank", candidate.iBlank);
-    member(json, "precision", onlyIf(!isText, candidate.precision));
+    json.member("multiGrid", candidate.multiGrid);
+    json.member("iBlank", candidate.iBlank);
+    json.member("precision", onlyIf(!isText, candidate.precision));
     word(json, "byteOrder", candidate.byteOrder);
-    member(json, "relaxed", candidate.relaxed);
+    json.member("relaxed", candidate.relaxed);
     json.endObject();
 }
 
@@ -119,7 +104,7 @@ void writeMisfit(JsonStream& json, const std::optional<Misfit>& misfit) {
         return json.null();
     json.beginObject();
     text(json, "what", misfit->what);
-    member(json, "byte", misfit->byte);
+    json.member("byte", misfit->byte);
     text(json, "expected", misfit->expected);
     text(json, "found", misfit->found);
     json.endObject();
@@ -141,15 +126,15 @@ void writeStructure(JsonStream& json, const FileInfo& info) {
     const bool hasGrids = info.layout.has_value();
     word(json, "kind", info.kind);
     word(json, "encoding", info.encoding);
-    member(json, "markerBytes", info.markerBytes);
+    json.member("markerBytes", info.markerBytes);
     word(json, "byteOrder", info.byteOrder);
-    member(json, "precision", info.precision);
+    json.member("precision", info.precision);
     word(json, "layout", info.layout);
     word(json, "style", info.style);
-    member(json, "multiGrid", onlyIf(hasGrids, info.multiGrid));
-    member(json, "iBlank", onlyIf(hasGrids && info.kind == FileKind::Grid, info.iBlank));
+    json.member("multiGrid", onlyIf(hasGrids, info.multiGrid));
+    json.member("iBlank", onlyIf(hasGrids && info.kind == FileKind::Grid, info.iBlank));
     writeGrids(json, info);
-    member(json, "variables", onlyIf(hasGrids, info.variables));
+    json.member("variables", onlyIf(hasGrids, info.variables));
     writeScalars(json, info);
     writeBytes(json, info.bytes);
 }
@@ -158,8 +143,8 @@ void writeStructure(JsonStream& json, const FileInfo& info) {
 
 void writeFile(JsonStream& json, const FileInfo& info) {
     json.beginObject();
-    member(json, "file", info.file);
-    member(json, "ok", info.ok);
+    json.member("file", info.file);
+    json.member("ok", info.ok);
     writeStructure(json, info);
     json.key("problem");
     if (info.problem)

@@ -9,17 +9,13 @@
 namespace plot3d::program {
 namespace {
 
-// Some milliseconds of work; also what is held of I-blank at a time on each core. Sums are put
-// together stretch by stretch, so that the last digits of means hang on this number.
-constexpr std::int64_t pointsOfStretch = std::int64_t{1} << 20;
-
 auto keyOf(const Range& range) {
     return std::tuple(range.first, range.last, range.step);
 }
 
-class Planner {
+class FieldPlanner {
 public:
-    Planner(const Fields& fields, const StatsSelection_s& selection)
+    FieldPlanner(const Fields& fields, const StatsSelection_s& selection)
         : fields_(fields), selection_(selection) {}
 
     FieldPlan_s plan() {
@@ -88,7 +84,7 @@ private:
 } // namespace
 
 FieldPlan_s planOf(const Fields& fields, const StatsSelection_s& selection) {
-    return Planner(fields, selection).plan();
+    return FieldPlanner(fields, selection).plan();
 }
 
 } // namespace plot3d::program

@@ -15,8 +15,8 @@ public:
 
     void write() {
         json_.beginObject();
-        member("schema", "plot3d.stats/1");
-        member("blank", report_.selection.leavesOutBy ? "skip" : "keep");
+        json_.member("schema", "plot3d.stats/1");
+        json_.member("blank", report_.selection.leavesOutBy ? "skip" : "keep");
         json_.key("variables");
         json_.beginList();
         for (const VariableStatistics_s& variable : report_.variables)
@@ -27,23 +27,9 @@ public:
     }
 
 private:
-    template <typename Value>
-    void member(const char* key, const Value& value) {
-        json_.key(key);
-        json_.value(value);
-    }
-
-    void memberOrNull(const char* key, std::optional<double> value) {
-        json_.key(key);
-        if (value)
-            json_.value(*value);
-        else
-            json_.null();
-    }
-
     void writeVariable(const VariableStatistics_s& variable) {
         json_.beginObject();
-        member("name", report_.nameOf(variable));
+        json_.member("name", report_.nameOf(variable));
         writeStatistics(variable, variable.whole);
         json_.key("zones");
         json_.beginList();
@@ -55,12 +41,12 @@ private:
 
     void writeZone(const VariableStatistics_s& variable, const ZoneStatistics_s& zone) {
         json_.beginObject();
-        member("zone", zone.zone + 1);
-        member("name", report_.data.zones()[zone.zone].name);
-        member("time", report_.data.zones()[zone.zone].time);
+        json_.member("zone", zone.zone + 1);
+        json_.member("name", report_.data.zones()[zone.zone].name);
+        json_.member("time", report_.data.zones()[zone.zone].time);
         writeStatistics(variable, zone.statistics);
         if (zone.error)
-            member("error", zone.error->what());
+            json_.member("error", zone.error->what());
         json_.endObject();
     }
 
@@ -69,18 +55,18 @@ private:
         const auto known = [&](double value) {
             return summary.moments.count > 0 ? std::optional(value) : std::nullopt;
         };
-        member("count", summary.moments.count);
-        memberOrNull("min", known(summary.min));
-        memberOrNull("max", known(summary.max));
+        json_.member("count", summary.moments.count);
+        json_.member("min", known(summary.min));
+        json_.member("max", known(summary.max));
         writePlace("minAt", summary, summary.minAt);
         writePlace("maxAt", summary, summary.maxAt);
-        memberOrNull("mean", known(summary.moments.mean()));
-        memberOrNull("deviation", known(summary.moments.deviation()));
-        member("nan", summary.nan);
-        member("infinite", summary.infinite);
-        member("blanked", summary.blanked);
+        json_.member("mean", known(summary.moments.mean()));
+        json_.member("deviation", known(summary.moments.deviation()));
+        json_.member("nan", summary.nan);
+        json_.member("infinite", summary.infinite);
+        json_.member("blanked", summary.blanked);
         if (report_.wishes.checksum == Checksum_e::Yes)
-            member("crc32", fmt::format("{:08x}", summary.checksum.crc32));
+            json_.member("crc32", fmt::format("{:08x}", summary.checksum.crc32));
         if (variable.type == ValueType::Int32)
             writeTable(summary);
         if (!report_.wishes.percentiles.empty())
@@ -96,10 +82,10 @@ private:
             return;
         }
         json_.beginObject();
-        member("zone", place.zone + 1);
-        member("i", place.point.i + 1);
-        member("j", place.point.j + 1);
-        member("k", place.point.k + 1);
+        json_.member("zone", place.zone + 1);
+        json_.member("i", place.point.i + 1);
+        json_.member("j", place.point.j + 1);
+        json_.member("k", place.point.k + 1);
         json_.endObject();
     }
 
@@ -108,12 +94,12 @@ private:
         json_.beginList();
         for (const auto& [value, count] : summary.table) {
             json_.beginObject();
-            member("value", value);
-            member("count", count);
+            json_.member("value", value);
+            json_.member("count", count);
             json_.endObject();
         }
         json_.endList();
-        member("otherValues", summary.beyondTable);
+        json_.member("otherValues", summary.beyondTable);
     }
 
     void writePercentiles(const Statistics_s& statistics) {
@@ -122,8 +108,8 @@ private:
         for (std::size_t index = 0; index < statistics.percentiles.size(); ++index) {
             const double value = statistics.percentiles[index];
             json_.beginObject();
-            member("percent", report_.wishes.percentiles[index]);
-            memberOrNull("value", std::isnan(value) ? std::nullopt : std::optional(value));
+            json_.member("percent", report_.wishes.percentiles[index]);
+            json_.member("value", std::isnan(value) ? std::nullopt : std::optional(value));
             json_.endObject();
         }
         json_.endList();
@@ -136,8 +122,8 @@ private:
             return;
         }
         json_.beginObject();
-        member("min", variable.whole.summary.min);
-        member("max", variable.whole.summary.max);
+        json_.member("min", variable.whole.summary.min);
+        json_.member("max", variable.whole.summary.max);
         json_.key("counts");
         json_.beginList();
         for (const std::int64_t count : statistics.histogram)

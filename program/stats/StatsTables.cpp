@@ -20,10 +20,6 @@ using Cells = std::vector<std::string>;
 constexpr auto left = Align_e::Left;
 constexpr auto right = Align_e::Right;
 
-std::string numberText(double value) {
-    return fmt::format("{:.7g}", value == 0 ? 0.0 : value);
-}
-
 bool isTable(const VariableStatistics_s& variable) {
     return variable.type == ValueType::Int32;
 }
@@ -117,7 +113,7 @@ private:
     bool hasSeveralZones() const { return report_.data.zones().size() > 1; }
 
     std::string valueText(const Row_s& row, double value) const {
-        return row.statistics.summary.moments.count == 0 ? "-" : numberText(value);
+        return row.statistics.summary.moments.count == 0 ? "-" : console::roughNumber(value);
     }
 
     struct Column_s {
@@ -245,7 +241,7 @@ private:
             return "blanked";
         if (summary.nan > 0)
             return "NaN";
-        return summary.infinite > 0 ? "infinite" : numberText(summary.min);
+        return summary.infinite > 0 ? "infinite" : console::roughNumber(summary.min);
     }
 
     /// A line for each zone, a column for each variable; or a line for each of both.
@@ -320,7 +316,7 @@ private:
     static std::string percentileText(const Row_s& row, std::size_t index) {
         const std::vector<double>& percentiles = row.statistics.percentiles;
         return index < percentiles.size() && !std::isnan(percentiles[index])
-                   ? numberText(percentiles[index])
+                   ? console::roughNumber(percentiles[index])
                    : "-";
     }
 
@@ -339,9 +335,10 @@ private:
                           : static_cast<std::size_t>(static_cast<double>(counts[bin]) /
                                                          static_cast<double>(most) * longestBar +
                                                      0.5);
-            grid.addRow({numberText(binEdge(whole.min, whole.max, counts.size(), bin)),
-                         numberText(binEdge(whole.min, whole.max, counts.size(), bin + 1)),
-                         console::grouped(counts[bin]), std::string(length, '#')});
+            grid.addRow(
+                {console::roughNumber(binEdge(whole.min, whole.max, counts.size(), bin)),
+                 console::roughNumber(binEdge(whole.min, whole.max, counts.size(), bin + 1)),
+                 console::grouped(counts[bin]), std::string(length, '#')});
         }
         grid.print(out_, columns_, paint_);
     }

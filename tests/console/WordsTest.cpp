@@ -30,6 +30,13 @@ TEST(Words, SizesHaveTwoOrThreeDigits) {
     EXPECT_EQ(roughBytes(5e18), "5000 PB");
 }
 
+TEST(Words, NumbersHaveUpToSevenDigits) {
+    EXPECT_EQ(roughNumber(0.1), "0.1");
+    EXPECT_EQ(roughNumber(-1.0 / 3), "-0.3333333");
+    EXPECT_EQ(roughNumber(12345678), "1.234568e+07");
+    EXPECT_EQ(roughNumber(-0.0), "0");
+}
+
 TEST(Words, TimesAreRoundedUp) {
     EXPECT_EQ(roughSeconds(0.2), "1 s");
     EXPECT_EQ(roughSeconds(200), "3 min 20 s");

@@ -14,9 +14,9 @@ namespace plot3d::program {
 
 namespace {
 
-class Planner {
+class CgnsPlanner {
 public:
-    explicit Planner(const Contents& contents) : contents_(contents) {}
+    explicit CgnsPlanner(const Contents& contents) : contents_(contents) {}
 
     std::vector<CgnsZonePlan_s> plan() {
         for (const ContentZone_s& zone : contents_.zones())
@@ -94,7 +94,7 @@ private:
 } // namespace
 
 std::vector<CgnsZonePlan_s> planCgnsZones(const Contents& contents) {
-    return Planner(contents).plan();
+    return CgnsPlanner(contents).plan();
 }
 
 bool needsZoneLists(const Contents& contents, const std::vector<CgnsZonePlan_s>& plans) {

@@ -8,7 +8,7 @@ namespace plot3d::program {
 
 namespace {
 
-const char* wordOf(ValueType type) {
+const char* numpyWordOf(ValueType type) {
     switch (type) {
     case ValueType::Float32:
         return "<f4";
@@ -30,7 +30,7 @@ std::string shapeOf(const std::vector<std::int64_t>& lengths) {
 /// What stands ahead of an array's values.
 std::string headerOf(ValueType type, const std::vector<std::int64_t>& lengths) {
     constexpr std::size_t alignment = 64;
-    std::string description = "{'descr': '" + std::string(wordOf(type)) +
+    std::string description = "{'descr': '" + std::string(numpyWordOf(type)) +
                               "', 'fortran_order': False, 'shape': " + shapeOf(lengths) + "}";
     const std::string magic = std::string("\x93NUMPY\x01") + '\0';
     const std::size_t unpadded = magic.size() + 2 + description.size() + 1;

@@ -1,21 +1,13 @@
 #include "convert/plot3d/FileFit.h"
 
 #include <limits>
-#include <utility>
-
-#include <plot3d/Error.h>
 
 #include "convert/contents/StyleForm.h"
+#include "convert/output/Refusal.h"
 
 namespace plot3d::program {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& message, const std::string& next = {}) {
-    ErrorFacts facts;
-    facts.next = next;
-    throw Error(ErrorKind::Unsupported, message, std::move(facts));
-}
 
 std::string nameOf(const ContentZone_s& zone) {
     return "zone " + std::to_string(zone.number);
@@ -31,30 +23,30 @@ void refuseUnfitVariables(const FilePlan_s& plan) {
     const std::size_t coordinates = coordinatesOf(plan.form.layout);
     const std::size_t count = plan.variables.size();
     if (plan.kind == FileKind::Grid && count != coordinates)
-        refuse("a grid file in the layout " + wordOf(plan.form.layout) + " has " +
-               std::to_string(coordinates) + " coordinates, and there are " +
-               std::to_string(count));
+        refuseContents("a grid file in the layout " + wordOf(plan.form.layout) + " has " +
+                       std::to_string(coordinates) + " coordinates, and there are " +
+                       std::to_string(count));
     // Density and energy stand on either side of the momentum.
     const bool isFixed = styleForm(plan.style).variableCount == VariableCount_e::OfLayout;
     if (plan.kind == FileKind::Solution && isFixed && count != coordinates + 2)
-        refuse("a solution file in the layout " + wordOf(plan.form.layout) + " has " +
-               std::to_string(coordinates + 2) + " variables, and there are " +
-               std::to_string(count));
+        refuseContents("a solution file in the layout " + wordOf(plan.form.layout) + " has " +
+                       std::to_string(coordinates + 2) + " variables, and there are " +
+                       std::to_string(count));
 }
 
 void refuseUnfitShape(const ContentZone_s& zone, Layout layout) {
     const bool isUnstructured = zone.kind != ZoneKind::Ordered;
     if (isUnstructured != (layout == Layout::Unstructured))
-        refuse(nameOf(zone) + " does not fit the layout " + wordOf(layout));
+        refuseContents(nameOf(zone) + " does not fit the layout " + wordOf(layout));
     if (zone.kind == ZoneKind::Quadrilaterals || zone.kind == ZoneKind::Bricks)
-        refuse(nameOf(zone) + " has elements that PLOT3D has no place for");
+        refuseContents(nameOf(zone) + " has elements that PLOT3D has no place for");
     if ((layout == Layout::OneD && zone.size.j * zone.size.k != 1) ||
         (layout == Layout::TwoD && zone.size.k != 1))
-        refuse(nameOf(zone) + " has more directions than the layout " + wordOf(layout));
+        refuseContents(nameOf(zone) + " has more directions than the layout " + wordOf(layout));
     constexpr std::int64_t largest = std::numeric_limits<std::int32_t>::max();
     if (zone.size.i > largest || zone.size.j > largest || zone.size.k > largest ||
         zone.elementCount > largest)
-        refuse(nameOf(zone) + " is too large for the 32-bit integers of PLOT3D");
+        refuseContents(nameOf(zone) + " is too large for the 32-bit integers of PLOT3D");
 }
 
 void refuseMissingFields(const Contents& contents, const FilePlan_s& plan, std::size_t zone) {
@@ -63,9 +55,10 @@ void refuseMissingFields(const Contents& contents, const FilePlan_s& plan, std::
         needed.push_back(*plan.iBlank);
     for (const std::size_t variable : needed)
         if (!contents.type(zone, variable))
-            refuse(nameOf(contents.zones()[zone]) + " has no values of \"" +
-                       contents.variables()[variable].name + "\", which a PLOT3D file needs",
-                   "leave the zone or the variable out with --zone or --variable");
+            refuseContents(nameOf(contents.zones()[zone]) + " has no values of \"" +
+                               contents.variables()[variable].name +
+                               "\", which a PLOT3D file needs",
+                           "leave the zone or the variable out with --zone or --variable");
 }
 
 } // namespace
@@ -88,11 +81,11 @@ std::string wordOf(Layout layout) {
 
 void refuseUnfit(const Contents& contents, const FilePlan_s& plan) {
     if (!plan.form.multiGrid && plan.zones.size() > 1)
-        refuse("a file without a count of grids holds one grid, and there are " +
-                   std::to_string(plan.zones.size()) + " zones at one time",
-               "choose one with --zone");
+        refuseContents("a file without a count of grids holds one grid, and there are " +
+                           std::to_string(plan.zones.size()) + " zones at one time",
+                       "choose one with --zone");
     if (plan.form.multiGrid && plan.form.layout == Layout::OneD)
-        refuse("a 1-D file has one grid and no count of grids");
+        refuseContents("a 1-D file has one grid and no count of grids");
     refuseUnfitVariables(plan);
     for (const std::size_t zone : plan.zones) {
         refuseUnfitShape(contents.zones()[zone], plan.form.layout);

@@ -4,9 +4,8 @@
 #include <map>
 #include <utility>
 
-#include <plot3d/Error.h>
-
 #include "convert/output/Format.h"
+#include "convert/output/Refusal.h"
 #include "convert/plot3d/FileFit.h"
 
 namespace plot3d::program {
@@ -28,9 +27,9 @@ std::string padded(std::size_t number, std::size_t count) {
     return std::string(digits - text.size(), '0') + text;
 }
 
-class Planner {
+class FilePlanner {
 public:
-    Planner(const Contents& contents, const Target_s& target)
+    FilePlanner(const Contents& contents, const Target_s& target)
         : contents_(contents), wishes_(target.form), target_(target.path),
           stem_(formatOfName(target.path) == Format_e::Plot3D ? withoutExtension(target.path)
                                                               : target.path) {
@@ -44,7 +43,7 @@ public:
 
     std::vector<FilePlan_s> plan() {
         if (steps_.empty())
-            refuse("there is no zone that a PLOT3D file can hold");
+            refuseContents("there is no zone that a PLOT3D file can hold");
         planGrids();
         planSolutions();
         planFunctions();
@@ -54,10 +53,6 @@ public:
     }
 
 private:
-    [[noreturn]] static void refuse(const std::string& message) {
-        throw Error(ErrorKind::Unsupported, message);
-    }
-
     void planGrids() {
         const std::vector<std::size_t> coordinates = variablesOf(contents_, Role_e::Coordinate);
         if (coordinates.empty())
@@ -204,7 +199,7 @@ private:
 } // namespace
 
 std::vector<FilePlan_s> planFiles(const Contents& contents, const Target_s& target) {
-    return Planner(contents, target).plan();
+    return FilePlanner(contents, target).plan();
 }
 
 } // namespace plot3d::program

@@ -2,33 +2,11 @@
 
 #include <string_view>
 
+#include "console/JsonText.h"
+
 namespace plot3d::program {
 
 namespace {
-
-/// Bytes of the UTF-8 sequence that begins with `lead`; 0 if none does.
-std::size_t sequenceLength(unsigned char lead) {
-    if (lead < 0x80)
-        return 1;
-    if (lead >= 0xc2 && lead < 0xe0)
-        return 2;
-    if (lead >= 0xe0 && lead < 0xf0)
-        return 3;
-    return lead >= 0xf0 && lead < 0xf5 ? 4 : 0;
-}
-
-bool isUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const std::size_t length = sequenceLength(static_cast<unsigned char>(text.front()));
-        if (length == 0 || length > text.size())
-            return false;
-        for (std::size_t place = 1; place < length; ++place)
-            if ((static_cast<unsigned char>(text[place]) & 0xc0U) != 0x80U)
-                return false;
-        text.remove_prefix(length);
-    }
-    return true;
-}
 
 std::string fromLatin1(std::string_view text) {
     std::string utf8;
@@ -91,7 +69,7 @@ void writeArrays(const std::vector<AppendedArray_s>& arrays, ByteOutput& out) {
 
 std::string xmlText(const std::string& text) {
     std::string escaped;
-    for (const char letter : isUtf8(text) ? text : fromLatin1(text)) {
+    for (const char letter : console::isUtf8(text) ? text : fromLatin1(text)) {
         if (letter == '&')
             escaped += "&amp;";
         else if (letter == '<')

@@ -1,12 +1,9 @@
 #include "convert/vtk/VtkWriter.h"
 
-#include <utility>
-
-#include <plot3d/Error.h>
-
 #include "convert/output/ByteOutput.h"
 #include "convert/output/Format.h"
 #include "convert/output/RealText.h"
+#include "convert/output/Refusal.h"
 #include "convert/vtk/AppendedFile.h"
 #include "convert/vtk/ZonePiece.h"
 #include "manners/ResultFile.h"
@@ -15,12 +12,6 @@
 namespace plot3d::program {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& message, const std::string& next) {
-    ErrorFacts facts;
-    facts.next = next;
-    throw Error(ErrorKind::Unsupported, message, std::move(facts));
-}
 
 std::string fileElement(const std::string& type, const std::string& body) {
     return "<?xml version=\"1.0\"?>\n<VTKFile type=\"" + type +
@@ -91,13 +82,13 @@ private:
 
 void writeSinglePiece(Contents& contents, const Target_s& target) {
     if (contents.zones().size() != 1)
-        refuse("a " + extensionOf(target.path) + " file holds one zone, and there are " +
-                   std::to_string(contents.zones().size()),
-               "name a .vtm file, or choose a zone with --zone");
+        refuseContents("a " + extensionOf(target.path) + " file holds one zone, and there are " +
+                           std::to_string(contents.zones().size()),
+                       "name a .vtm file, or choose a zone with --zone");
     const char* const fitting = pieceExtension(contents.zones().front());
     if (extensionOf(target.path) != fitting)
-        refuse(std::string("a zone of this kind goes into a ") + fitting + " file",
-               "name a .vtm or " + std::string(fitting) + " file");
+        refuseContents(std::string("a zone of this kind goes into a ") + fitting + " file",
+                       "name a .vtm or " + std::string(fitting) + " file");
     ResultFile file(target.path, target.overwrites);
     ByteOutput out(file.growingPath(), target.path);
     writeZonePiece(contents, 0, out);
@@ -114,9 +105,9 @@ Written_s VtkWriter::write(Contents& contents, const Target_s& target) {
     if (extension == ".vts" || extension == ".vtu")
         writeSinglePiece(contents, target);
     else if (extension == ".vtm" && isSeries)
-        refuse("a .vtm file holds one time, and there are " +
-                   std::to_string(contents.steps().size()),
-               "name a .pvd file, or choose a time with --time");
+        refuseContents("a .vtm file holds one time, and there are " +
+                           std::to_string(contents.steps().size()),
+                       "name a .pvd file, or choose a time with --time");
     else if (extension == ".pvd" || isSeries)
         Pieces(contents, target).writeSeries();
     else

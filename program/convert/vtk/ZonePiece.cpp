@@ -16,7 +16,7 @@ namespace {
 
 constexpr int pointComponents = 3;
 
-const char* wordOf(ValueType type) {
+const char* vtkWordOf(ValueType type) {
     switch (type) {
     case ValueType::Float32:
         return "Float32";
@@ -94,7 +94,7 @@ private:
         for (std::size_t variable = 0; variable < names.size(); ++variable) {
             const std::optional<ValueType> type = contents_.type(zone_, variable);
             if (type && contents_.variables()[variable].role != Role_e::Coordinate)
-                arrays.push_back({names[variable], wordOf(*type), 1,
+                arrays.push_back({names[variable], vtkWordOf(*type), 1,
                                   facts_.size.count() * width(*type),
                                   [this, variable, valueType = *type](ByteOutput& out) {
                                       writeField(variable, valueType, out);
@@ -117,7 +117,7 @@ private:
         for (const std::size_t variable : variablesOf(contents_, Role_e::Coordinate))
             isDouble = isDouble || contents_.type(zone_, variable) == ValueType::Float64;
         const ValueType type = isDouble ? ValueType::Float64 : ValueType::Float32;
-        return {"Points", wordOf(type), pointComponents,
+        return {"Points", vtkWordOf(type), pointComponents,
                 pointComponents * facts_.size.count() * width(type),
                 [this, isDouble](ByteOutput& out) {
                     if (isDouble)

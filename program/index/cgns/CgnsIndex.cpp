@@ -17,7 +17,7 @@ namespace plot3d::program {
 
 namespace {
 
-const char* const marksName = "Plot3dOriginals";
+const char* const marksNode = "Plot3dOriginals";
 
 /// `names` as names of nodes, none of which is `taken`.
 std::vector<std::string> freeNames(std::vector<std::string> names,
@@ -28,10 +28,10 @@ std::vector<std::string> freeNames(std::vector<std::string> names,
     return names;
 }
 
-class IndexWriter {
+class CgnsIndexWriter {
 public:
-    IndexWriter(const IndexedData& data, Originals& originals, const std::filesystem::path& file,
-                const Watch& watch)
+    CgnsIndexWriter(const IndexedData& data, Originals& originals,
+                    const std::filesystem::path& file, const Watch& watch)
         : data_(data), originals_(originals), watch_(watch), tree_(file) {
         nameNodes();
     }
@@ -45,7 +45,7 @@ public:
             tellProgress(place + 1);
         }
         const std::string marks = textOf(originals_.marks());
-        tree_.addText(bases_.begin()->second, marksName, "Descriptor_t", marks);
+        tree_.addText(bases_.begin()->second, marksNode, "Descriptor_t", marks);
         bases_.clear(); // a file stays open as long as a node of it
         tree_.finish();
     }
@@ -59,7 +59,7 @@ private:
         names.clear();
         for (const Series_s& series : data_.series())
             names.push_back(data_.zone(series.zones.front()).name);
-        zoneNames_ = freeNames(names, {"BaseIterativeData", marksName});
+        zoneNames_ = freeNames(names, {"BaseIterativeData", marksNode});
     }
 
     /// Zones whose cells have one dimension stand in one base.
@@ -154,11 +154,11 @@ void CgnsIndex::write(const IndexedData& data, Originals& originals,
                       const std::filesystem::path& file, const Watch& watch) const {
     data.refuseFieldsOutsideFiles();
     data.refuseMissingCoordinates();
-    IndexWriter(data, originals, file, watch).write();
+    CgnsIndexWriter(data, originals, file, watch).write();
 }
 
 std::vector<OriginalMark_s> CgnsIndex::readMarks(const std::filesystem::path& file) const {
-    return marksOfText(readCgnsText(file, marksName));
+    return marksOfText(readCgnsText(file, marksNode));
 }
 
 } // namespace plot3d::program

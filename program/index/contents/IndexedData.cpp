@@ -9,15 +9,12 @@
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
 
+#include "index/contents/Refusal.h"
 #include "selection/Selection.h"
 
 namespace plot3d::program {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& message, const std::string& file = {}) {
-    throw Error(ErrorKind::Unsupported, message, {.file = file});
-}
 
 std::string numbered(std::size_t zone) {
     return "zone " + std::to_string(zone + 1);
@@ -32,13 +29,14 @@ std::string numbered(std::size_t zone) {
         for (const std::string& file : *files) {
             const FileInfo info = inspect(file, options);
             if (info.encoding == Encoding::Text)
-                refuse("is text, of which no other program can read the values in their place",
-                       file);
+                refuseIndex("is text, of which no other program can read the values in their place",
+                            file);
             if (info.layout == Layout::ThreeDPlanes)
-                refuse("has its fields in planes, which no index can tell", file);
+                refuseIndex("has its fields in planes, which no index can tell", file);
         }
-    refuse("fields that stand in planes, or of which only a subset is loaded, are in no file as "
-           "they are");
+    refuseIndex(
+        "fields that stand in planes, or of which only a subset is loaded, are in no file as "
+        "they are");
 }
 
 } // namespace
@@ -48,8 +46,8 @@ IndexedData::IndexedData(const DataSet& data, const std::vector<std::size_t>& va
     : data_(data) {
     for (const SelectedZone_s& selected : zones) {
         if (selected.box != Box::whole(zone(selected.zone).size))
-            refuse("an index tells of whole zones, and of " + numbered(selected.zone) +
-                   " only some points are selected");
+            refuseIndex("an index tells of whole zones, and of " + numbered(selected.zone) +
+                        " only some points are selected");
         zones_.push_back(selected.zone);
     }
     addVariables(variables);
@@ -153,9 +151,9 @@ void IndexedData::refuseMissingCoordinates() const {
     for (const std::size_t index : zones_)
         for (const IndexedVariable_s& variable : variables_)
             if (variable.coordinate && !has(index, variable.variable))
-                refuse(numbered(index) + " has no coordinates");
+                refuseIndex(numbered(index) + " has no coordinates");
     if (coordinateCount_ == 0)
-        refuse("there is no grid file, and this format tells of values at points");
+        refuseIndex("there is no grid file, and this format tells of values at points");
 }
 
 } // namespace plot3d::program

@@ -5,33 +5,11 @@
 
 #include <plot3d/Error.h>
 
+#include "console/JsonText.h"
+
 namespace plot3d::program {
 
 namespace {
-
-/// Bytes of the letter that begins with `first`; 0 if none does.
-std::size_t letterBytes(unsigned char first) {
-    if (first < 0x80)
-        return 1;
-    if (first >= 0xC2 && first < 0xE0)
-        return 2;
-    if (first >= 0xE0 && first < 0xF0)
-        return 3;
-    return first >= 0xF0 && first < 0xF5 ? 4 : 0;
-}
-
-bool isUtf8(std::string_view text) {
-    for (std::size_t place = 0; place < text.size();) {
-        const std::size_t count = letterBytes(static_cast<unsigned char>(text[place]));
-        if (count == 0 || count > text.size() - place)
-            return false;
-        for (std::size_t follower = 1; follower < count; ++follower)
-            if ((static_cast<unsigned char>(text[place + follower]) & 0xC0U) != 0x80)
-                return false;
-        place += count;
-    }
-    return true;
-}
 
 struct Entity_s {
     char letter;
@@ -41,7 +19,7 @@ struct Entity_s {
 constexpr std::array<Entity_s, 4> entities = {
     {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}}};
 
-[[noreturn]] void refuse(std::string_view text, const char* what) {
+[[noreturn]] void refuseName(std::string_view text, const char* what) {
     throw Error(ErrorKind::Unsupported, "the name \"" + std::string(text) + "\" has " + what +
                                             ", which this format can't hold");
 }
@@ -49,8 +27,13 @@ constexpr std::array<Entity_s, 4> entities = {
 } // namespace
 
 void refuseOtherThanUtf8(std::string_view text) {
-    if (!isUtf8(text))
-        refuse(text, "bytes that are no UTF-8");
+    if (!console::isUtf8(text))
+        refuseName(text, "bytes that are no UTF-8");
+}
+
+std::string jsonText(std::string_view text) {
+    refuseOtherThanUtf8(text);
+    return console::jsonText(text);
 }
 
 std::string xmlText(std::string_view text) {
@@ -58,7 +41,7 @@ std::string xmlText(std::string_view text) {
     std::string result;
     for (const char letter : text) {
         if (static_cast<unsigned char>(letter) < ' ')
-            refuse(text, "control characters");
+            refuseName(text, "control characters");
         const auto* const entity =
             std::find_if(entities.begin(), entities.end(),
                          [letter](const Entity_s& each) { return each.letter == letter; });

@@ -12,7 +12,10 @@ std::string xmlText(std::string_view text);
 /// What xmlText() made it of.
 std::string plainText(std::string_view xml);
 
-/// Throws Error (Unsupported) unless all is UTF-8. For JSON, which can hold all of that.
+/// As JSON has it, in quotes. Throws Error (Unsupported) for bytes that are no UTF-8.
+std::string jsonText(std::string_view text);
+
+/// Throws Error (Unsupported) unless all is UTF-8.
 void refuseOtherThanUtf8(std::string_view text);
 
 } // namespace plot3d::program

@@ -1,9 +1,9 @@
 #include "index/p3d/P3dIndex.h"
 
+#include <cmath>
 #include <sstream>
 
-#include <nlohmann/json.hpp>
-
+#include "console/JsonStream.h"
 #include "index/contents/PlainText.h"
 #include "index/contents/TextFile.h"
 #include "index/wholefiles/WholeFiles.h"
@@ -13,9 +13,7 @@ namespace plot3d::program {
 
 namespace {
 
-using nlohmann::ordered_json;
-
-const char* const comment = "// ";
+const char* const p3dComment = "// ";
 
 /// The path as it stands in the index.
 std::string named(Originals& originals, const std::string& file) {
@@ -24,60 +22,86 @@ std::string named(Originals& originals, const std::string& file) {
     return path;
 }
 
-ordered_json stepOf(const WholeFilesStep_s& step, Originals& originals) {
-    ordered_json facts = {{"time", step.time}, {"xyz", named(originals, step.grid)}};
-    if (!step.solution.empty())
-        facts["q"] = named(originals, step.solution);
-    if (!step.function.empty())
-        facts["function"] = named(originals, step.function);
-    return facts;
-}
+class P3dWriter {
+public:
+    P3dWriter(const IndexedData& data, Originals& originals, std::ostream& out)
+        : data_(data), originals_(originals), files_(wholeFilesOf(data)), json_(out, indentWidth) {}
 
-ordered_json namesOfFunctions(const IndexedData& data, const WholeFiles_s& files) {
-    const auto count = static_cast<std::size_t>(files.function.variables);
-    ordered_json names = ordered_json::array();
-    for (std::size_t place = data.variables().size() - count; place < data.variables().size();
-         ++place) {
-        refuseOtherThanUtf8(data.variables()[place].name);
-        names.push_back(data.variables()[place].name);
+    void write(const Watch& watch) {
+        json_.beginObject();
+        writeForm();
+        if (files_.function.variables > 0)
+            writeNamesOfFunctions();
+        json_.key("filenames");
+        json_.beginList();
+        for (const WholeFilesStep_s& step : files_.steps) {
+            throwIfStopped(watch.stop);
+            writeStep(step);
+        }
+        json_.endList();
+        json_.endObject();
+        json_.finish();
     }
-    return names;
-}
+
+private:
+    void writeForm() {
+        const FileInfo& form = files_.form;
+        json_.member("auto-detect-format", false);
+        json_.member("format", "binary");
+        json_.member("byte-order", form.byteOrder == ByteOrder::Big ? "big" : "little");
+        json_.member("precision", *form.precision);
+        json_.member("language", form.encoding == Encoding::Fortran ? "fortran" : "C");
+        json_.member("multi-grid", form.multiGrid);
+        json_.member("blanking", form.iBlank);
+        json_.member("2D", form.layout == Layout::TwoD);
+    }
+
+    void writeNamesOfFunctions() {
+        const auto count = static_cast<std::size_t>(files_.function.variables);
+        json_.key("function-names");
+        json_.beginList();
+        for (std::size_t place = data_.variables().size() - count; place < data_.variables().size();
+             ++place) {
+            refuseOtherThanUtf8(data_.variables()[place].name);
+            json_.value(data_.variables()[place].name);
+        }
+        json_.endList();
+    }
+
+    void writeStep(const WholeFilesStep_s& step) {
+        json_.beginObject();
+        json_.member("time", std::isfinite(step.time) ? std::optional(step.time) : std::nullopt);
+        json_.member("xyz", named(originals_, step.grid));
+        if (!step.solution.empty())
+            json_.member("q", named(originals_, step.solution));
+        if (!step.function.empty())
+            json_.member("function", named(originals_, step.function));
+        json_.endObject();
+    }
+
+    static constexpr std::size_t indentWidth = 1;
+    const IndexedData& data_;
+    Originals& originals_;
+    const WholeFiles_s files_;
+    console::JsonStream json_;
+};
 
 } // namespace
 
 void P3dIndex::write(const IndexedData& data, Originals& originals,
                      const std::filesystem::path& file, const Watch& watch) const {
-    const WholeFiles_s files = wholeFilesOf(data);
-    ordered_json steps = ordered_json::array();
-    for (const WholeFilesStep_s& step : files.steps) {
-        throwIfStopped(watch.stop);
-        steps.push_back(stepOf(step, originals));
-    }
-    ordered_json index = {
-        {"auto-detect-format", false},
-        {"format", "binary"},
-        {"byte-order", files.form.byteOrder == ByteOrder::Big ? "big" : "little"},
-        {"precision", *files.form.precision},
-        {"language", files.form.encoding == Encoding::Fortran ? "fortran" : "C"},
-        {"multi-grid", files.form.multiGrid},
-        {"blanking", files.form.iBlank},
-        {"2D", files.form.layout == Layout::TwoD},
-    };
-    if (files.function.variables > 0)
-        index["function-names"] = namesOfFunctions(data, files);
-    index["filenames"] = std::move(steps);
+    std::ostringstream index;
+    P3dWriter(data, originals, index).write(watch);
     std::ofstream out = openedForText(file);
-    std::istringstream marks(textOf(originals.marks()));
+    std::istringstream marks(textOf(originals.marks())); // of all that the index names
     for (std::string line; std::getline(marks, line);)
-        out << comment << line << '\n';
-    constexpr int indent = 1;
-    out << index.dump(indent) << '\n';
+        out << p3dComment << line << '\n';
+    out << index.str();
     finishText(out);
 }
 
 std::vector<OriginalMark_s> P3dIndex::readMarks(const std::filesystem::path& file) const {
-    return marksOfText(textOfFile(file), comment);
+    return marksOfText(textOfFile(file), p3dComment);
 }
 
 } // namespace plot3d::program

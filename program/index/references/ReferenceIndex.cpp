@@ -1,12 +1,14 @@
 #include "index/references/ReferenceIndex.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
-#include <nlohmann/json.hpp>
+#include <fmt/core.h>
 
 #include <plot3d/Error.h>
 
+#include "console/JsonText.h"
 #include "index/contents/PlainText.h"
 #include "index/contents/TextFile.h"
 #include "manners/ProgressWatch.h"
@@ -16,9 +18,7 @@ namespace plot3d::program {
 
 namespace {
 
-using nlohmann::json;
-
-const char* const marksName = "plot3d_originals";
+const char* const marksKey = "plot3d_originals";
 constexpr std::size_t longestName = 255; // where stores are folders
 const char* const group = R"({"zarr_format": 2})";
 
@@ -35,21 +35,29 @@ std::string typeWord(const Source& source) {
     return order + "f4";
 }
 
-json shapeOf(const Zone& zone) {
+std::string shapeOf(const Zone& zone) {
     if (zone.kind != ZoneKind::Ordered)
-        return json::array({zone.size.i});
-    return json::array({zone.size.k, zone.size.j, zone.size.i});
+        return fmt::format("[{}]", zone.size.i);
+    return fmt::format("[{},{},{}]", zone.size.k, zone.size.j, zone.size.i);
 }
 
 /// What xarray calls the directions.
-json dimensionsOf(const Zone& zone) {
-    return zone.kind != ZoneKind::Ordered ? json::array({"node"}) : json::array({"k", "j", "i"});
+const char* dimensionsOf(const Zone& zone) {
+    return zone.kind != ZoneKind::Ordered ? R"(["node"])" : R"(["k","j","i"])";
 }
 
-class IndexWriter {
+/// The one chunk of an array of that shape: "0.0.0" if it has three directions.
+std::string chunkOf(const std::string& shape) {
+    std::string name = "0";
+    for (auto commas = std::count(shape.begin(), shape.end(), ','); commas > 0; --commas)
+        name += ".0";
+    return name;
+}
+
+class ReferenceWriter {
 public:
-    IndexWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
-                const Watch& watch)
+    ReferenceWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
+                    const Watch& watch)
         : data_(data), originals_(originals), out_(out), watch_(watch) {
         std::vector<std::string> names;
         for (const IndexedVariable_s& variable : data.variables())
@@ -61,30 +69,34 @@ public:
 
     void write() {
         out_ << "{\"version\": 1,\n\"refs\": {\n";
-        put(".zgroup", group);
+        putText(".zgroup", group);
         for (std::size_t place = 0; place < data_.zones().size(); ++place) {
             writeZone(data_.zones()[place]);
             tellProgress(place + 1);
         }
-        json marks = json::array();
-        for (const OriginalMark_s& mark : originals_.marks())
-            marks.push_back(lineOf(mark));
-        put(".zattrs", json({{marksName, marks}}).dump());
+        writeMarks();
         out_ << "\n}}\n";
     }
 
 private:
-    /// `value`: a text that is the value of the key, or [path, offset, bytes].
-    void put(const std::string& key, const json& value) {
-        out_ << std::exchange(comma_, ",\n") << json(key).dump() << ": " << value.dump();
+    void put(const std::string& key, const std::string& json) {
+        out_ << std::exchange(comma_, ",\n") << jsonText(key) << ": " << json;
+    }
+    void putText(const std::string& key, const std::string& text) { put(key, jsonText(text)); }
+
+    void writeMarks() {
+        std::string marks;
+        for (const OriginalMark_s& mark : originals_.marks())
+            marks += (marks.empty() ? "" : ",") + jsonText(lineOf(mark));
+        putText(".zattrs", fmt::format(R"({{"{}":[{}]}})", marksKey, marks));
     }
 
     void writeZone(std::size_t index) {
         const std::string folder = std::to_string(index + 1) + "/";
         const Zone& zone = data_.zone(index);
-        refuseOtherThanUtf8(zone.name);
-        put(folder + ".zgroup", group);
-        put(folder + ".zattrs", json({{"name", zone.name}, {"time", timeOf(zone)}}).dump());
+        putText(folder + ".zgroup", group);
+        putText(folder + ".zattrs",
+                fmt::format(R"({{"name":{},"time":{}}})", jsonText(zone.name), timeOf(zone)));
         for (std::size_t place = 0; place < names_.size(); ++place)
             if (data_.has(index, data_.variables()[place].variable))
                 writeField(folder + names_[place], index, data_.variables()[place]);
@@ -92,8 +104,8 @@ private:
             writeElements(folder + "elements", index);
     }
 
-    static json timeOf(const Zone& zone) {
-        return zone.strand == 0 ? json(nullptr) : json(zone.time);
+    static std::string timeOf(const Zone& zone) {
+        return zone.strand == 0 ? "null" : console::jsonNumber(zone.time);
     }
 
     void writeField(const std::string& key, std::size_t index, const IndexedVariable_s& variable) {
@@ -104,12 +116,11 @@ private:
                         variable.name + " of zone " + std::to_string(index + 1) +
                             " is cut by markers, which references can't tell",
                         {.file = source.file});
-        const std::string& path = originals_.pathOf(source);
-        refuseOtherThanUtf8(path);
+        const std::string path = jsonText(originals_.pathOf(source));
         const Piece& piece = source.pieces.front();
         const Zone& zone = data_.zone(index);
         putArray(key, shapeOf(zone), dimensionsOf(zone), typeWord(source),
-                 json::array({path, piece.offset, piece.byteCount}));
+                 fmt::format("[{},{},{}]", path, piece.offset, piece.byteCount));
     }
 
     /// The corners of each element, from 0, in the index itself.
@@ -123,22 +134,19 @@ private:
             for (int byte = 0; byte < 4; ++byte)
                 bytes += static_cast<char>(static_cast<std::uint32_t>(corner) >> (8 * byte) & 0xFF);
         const auto cornerCount = static_cast<std::int64_t>(corners.size()) / count;
-        putArray(key, json::array({count, cornerCount}), json::array({"element", "corner"}), "<i4",
-                 "base64:" + base64(bytes));
+        putArray(key, fmt::format("[{},{}]", count, cornerCount), R"(["element","corner"])", "<i4",
+                 jsonText("base64:" + base64(bytes)));
     }
 
-    /// An array of one chunk: [path, offset, bytes], or the bytes themselves as text.
-    void putArray(const std::string& key, const json& shape, const json& dimensions,
-                  const std::string& type, const json& chunk) {
-        const json facts = {{"zarr_format", 2},   {"shape", shape},       {"chunks", shape},
-                            {"dtype", type},      {"order", "C"},         {"compressor", nullptr},
-                            {"filters", nullptr}, {"fill_value", nullptr}};
-        put(key + "/.zarray", facts.dump());
-        put(key + "/.zattrs", json({{"_ARRAY_DIMENSIONS", dimensions}}).dump());
-        std::string chunkName = "0";
-        for (std::size_t place = 1; place < shape.size(); ++place)
-            chunkName += ".0";
-        put(key + "/" + chunkName, chunk);
+    /// An array of one chunk, in JSON: [path, offset, bytes], or the bytes themselves as text.
+    void putArray(const std::string& key, const std::string& shape, const char* dimensions,
+                  const std::string& type, const std::string& chunk) {
+        putText(key + "/.zarray",
+                fmt::format(R"({{"chunks":{0},"compressor":null,"dtype":"{1}","fill_value":null,)"
+                            R"("filters":null,"order":"C","shape":{0},"zarr_format":2}})",
+                            shape, type));
+        putText(key + "/.zattrs", fmt::format(R"({{"_ARRAY_DIMENSIONS":{}}})", dimensions));
+        put(key + "/" + chunkOf(shape), chunk);
     }
 
     static std::string base64(const std::string& bytes);
@@ -158,7 +166,7 @@ private:
     const char* comma_ = "";
 };
 
-std::string IndexWriter::base64(const std::string& bytes) {
+std::string ReferenceWriter::base64(const std::string& bytes) {
     const char* const letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string text;
     for (std::size_t place = 0; place < bytes.size(); place += 3) {
@@ -180,21 +188,21 @@ void ReferenceIndex::write(const IndexedData& data, Originals& originals,
                            const std::filesystem::path& file, const Watch& watch) const {
     data.refuseFieldsOutsideFiles();
     std::ofstream out = openedForText(file);
-    IndexWriter(data, originals, out, watch).write();
+    ReferenceWriter(data, originals, out, watch).write();
     finishText(out);
 }
 
 std::vector<OriginalMark_s> ReferenceIndex::readMarks(const std::filesystem::path& file) const {
-    std::vector<OriginalMark_s> marks;
-    try {
-        const json index = json::parse(textOfFile(file));
-        const json attributes = json::parse(index.at("refs").at(".zattrs").get<std::string>());
-        for (const json& line : attributes.at(marksName))
-            marks.push_back(markOfLine(line.get<std::string>()));
-    } catch (const json::exception&) {
+    const auto attributes = console::jsonTexts(textOfFile(file), {"refs", ".zattrs"});
+    const auto lines = attributes && !attributes->empty()
+                           ? console::jsonTexts(attributes->front(), {marksKey})
+                           : std::nullopt;
+    if (!lines)
         throw Error(ErrorKind::Unreadable, "is no index of plot3d: it has no notes on originals",
                     {.file = file.string()});
-    }
+    std::vector<OriginalMark_s> marks;
+    for (const std::string& line : *lines)
+        marks.push_back(markOfLine(line));
     return marks;
 }
 

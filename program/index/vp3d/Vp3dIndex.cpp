@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include <plot3d/Error.h>
-
+#include "index/contents/Refusal.h"
 #include "index/contents/TextFile.h"
 #include "index/wholefiles/WholeFiles.h"
 #include "manners/ProgressWatch.h"
@@ -15,11 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char* const comment = "# ";
-
-[[noreturn]] void refuse(const std::string& message, const std::string& file = {}) {
-    throw Error(ErrorKind::Unsupported, message, {.file = file});
-}
+const char* const vp3dComment = "# ";
 
 std::size_t commonBeginning(const std::string& a, const std::string& b) {
     const auto place = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
@@ -70,23 +65,24 @@ std::string solutionOf(const WholeFiles_s& files, Originals& originals) {
     for (const WholeFilesStep_s& step : files.steps) {
         const fs::path path = originals.pathOf(step.solution);
         if (path.parent_path() != first.parent_path())
-            refuse("is in another folder than the first solution, and this format has one for all",
-                   step.solution);
+            refuseIndex(
+                "is in another folder than the first solution, and this format has one for all",
+                step.solution);
         names.push_back(path.filename());
     }
     const std::string pattern = patternOf(names);
     const fs::path folder = fs::absolute(files.steps.front().solution).parent_path();
     if (countFitting(folder, pattern) != names.size())
-        refuse("no pattern fits the names of the solutions and of no other file");
+        refuseIndex("no pattern fits the names of the solutions and of no other file");
     return (first.parent_path() / pattern).string();
 }
 
 void refuseOthers(const WholeFiles_s& files) {
     for (const WholeFilesStep_s& step : files.steps) {
         if (!step.function.empty())
-            refuse("is a function file, of which this format can't tell", step.function);
+            refuseIndex("is a function file, of which this format can't tell", step.function);
         if (step.grid != files.steps.front().grid)
-            refuse("is a second grid file: this format has one for all times", step.grid);
+            refuseIndex("is a second grid file: this format has one for all times", step.grid);
     }
 }
 
@@ -112,13 +108,13 @@ void Vp3dIndex::write(const IndexedData& data, Originals& originals, const fs::p
     std::ofstream out = openedForText(file);
     std::istringstream marks(textOf(originals.marks()));
     for (std::string line; std::getline(marks, line);)
-        out << comment << line << '\n';
+        out << vp3dComment << line << '\n';
     out << lines.str();
     finishText(out);
 }
 
 std::vector<OriginalMark_s> Vp3dIndex::readMarks(const fs::path& file) const {
-    return marksOfText(textOfFile(file), comment);
+    return marksOfText(textOfFile(file), vp3dComment);
 }
 
 } // namespace plot3d::program

@@ -4,13 +4,11 @@
 
 #include <plot3d/Error.h>
 
+#include "index/contents/Refusal.h"
+
 namespace plot3d::program {
 
 namespace {
-
-[[noreturn]] void refuse(const std::string& message, const std::string& file = {}) {
-    throw Error(ErrorKind::Unsupported, message, {.file = file});
-}
 
 FileInfo formOf(const std::string& file, FileKind kind) {
     InspectOptions options;
@@ -21,21 +19,21 @@ FileInfo formOf(const std::string& file, FileKind kind) {
 
 void refuseStrangeForm(const FileInfo& info) {
     if (info.encoding == Encoding::Text)
-        refuse("is text, which PLOT3D writes in more ways than other readers know", info.file);
+        refuseIndex("is text, which PLOT3D writes in more ways than other readers know", info.file);
     if (info.layout != Layout::TwoD && info.layout != Layout::ThreeDWhole)
-        refuse("is neither 2-D nor 3-D in whole fields", info.file);
+        refuseIndex("is neither 2-D nor 3-D in whole fields", info.file);
     if (info.markerBytes == 8)
-        refuse("has markers of 8 bytes, which this format can't tell", info.file);
+        refuseIndex("has markers of 8 bytes, which this format can't tell", info.file);
     if (info.style && *info.style != Style::Classic && *info.style != Style::Function)
-        refuse("is a solution of another style than PLOT3D's own", info.file);
+        refuseIndex("is a solution of another style than PLOT3D's own", info.file);
 }
 
 void refuseOtherForm(const FileInfo& info, const FileInfo& first) {
     if (info.encoding != first.encoding || info.byteOrder != first.byteOrder ||
         info.precision != first.precision || info.multiGrid != first.multiGrid ||
         info.layout != first.layout)
-        refuse("is not of the form of " + first.file + ", and this format has one for all",
-               info.file);
+        refuseIndex("is not of the form of " + first.file + ", and this format has one for all",
+                    info.file);
 }
 
 class Finder {
@@ -44,7 +42,7 @@ public:
 
     WholeFiles_s find() {
         if (lists_.grid.empty())
-            refuse("there is no grid file, and this format tells of values at points");
+            refuseIndex("there is no grid file, and this format tells of values at points");
         refuseParts();
         data_.refuseFieldsOutsideFiles();
         files_.form = formOf(lists_.grid.front(), FileKind::Grid);
@@ -61,7 +59,8 @@ private:
     void refuseParts() const {
         if (data_.zones().size() != data_.data().zones().size() ||
             data_.variables().size() != data_.data().variables().size())
-            refuse("this format tells of whole files, not of some of their zones or variables");
+            refuseIndex(
+                "this format tells of whole files, not of some of their zones or variables");
         for (const Zone& zone : data_.data().zones())
             if (zone.parent)
                 throw Error(ErrorKind::Unsupported, "this format tells of no boundaries",
@@ -74,7 +73,7 @@ private:
             refuseStrangeForm(info);
             refuseOtherForm(info, files_.form);
             if (kind == FileKind::Grid && info.iBlank != files_.form.iBlank)
-                refuse("has I-blank or not, other than " + files_.form.file, file);
+                refuseIndex("has I-blank or not, other than " + files_.form.file, file);
         }
     }
 
@@ -90,9 +89,9 @@ private:
         const std::size_t zoneCount = files_.form.grids.size();
         for (const auto* list : {&lists_.grid, &lists_.solution, &lists_.function})
             if (list->size() > 1 && list->size() != count)
-                refuse("the files don't make one set for each time, as this format has them");
+                refuseIndex("the files don't make one set for each time, as this format has them");
         if (data_.data().zones().size() != count * zoneCount)
-            refuse("the grids of the data set are not those of its files");
+            refuseIndex("the grids of the data set are not those of its files");
         for (std::size_t step = 0; step < count; ++step) {
             holdZones(step * zoneCount);
             files_.steps.push_back({data_.zone(step * zoneCount).time, fileOf(lists_.grid, step),
@@ -106,9 +105,10 @@ private:
         for (std::size_t place = 0; place < files_.form.grids.size(); ++place) {
             const GridSize& grid = files_.form.grids[place];
             if (data_.zone(first + place).size != Extent{grid.i, grid.j, grid.k})
-                refuse("the grids of the data set are not those of its files");
+                refuseIndex("the grids of the data set are not those of its files");
             if (data_.zone(first + place).time != data_.zone(first).time)
-                refuse("the grids of one file have several times, and this format has one for all");
+                refuseIndex(
+                    "the grids of one file have several times, and this format has one for all");
         }
     }
 

@@ -5,9 +5,8 @@
 
 #include <fmt/format.h>
 
-#include <plot3d/Error.h>
-
 #include "index/contents/PlainText.h"
+#include "index/contents/Refusal.h"
 #include "index/contents/TextFile.h"
 #include "manners/ProgressWatch.h"
 
@@ -17,10 +16,6 @@ namespace {
 
 constexpr std::string_view markBegin = "<Information Name=\"plot3d original\" Value=\"";
 constexpr std::string_view markEnd = "\"/>";
-
-[[noreturn]] void refuse(const std::string& message, const std::string& file = {}) {
-    throw Error(ErrorKind::Unsupported, message, {.file = file});
-}
 
 const char* topologyOf(ZoneKind kind) {
     switch (kind) {
@@ -45,15 +40,15 @@ std::string sizesOf(const Zone& zone) {
     return fmt::format("{} {} {}", zone.size.k, zone.size.j, zone.size.i);
 }
 
-class IndexWriter {
+class XdmfWriter {
 public:
-    IndexWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
-                const Watch& watch)
+    XdmfWriter(const IndexedData& data, Originals& originals, std::ofstream& out,
+               const Watch& watch)
         : data_(data), originals_(originals), out_(out), watch_(watch) {}
 
     void write() {
         if (data_.coordinateCount() < 2)
-            refuse("XDMF has no place for grids of one dimension");
+            refuseIndex("XDMF has no place for grids of one dimension");
         out_ << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Xdmf Version=\"2.0\">\n<Domain>\n"
                 "<Grid Name=\"steps\" GridType=\"Collection\" CollectionType=\"Temporal\">\n";
         for (std::size_t place = 0; place < data_.steps().size(); ++place) {
@@ -115,9 +110,9 @@ private:
     void writeField(std::size_t index, const IndexedVariable_s& variable) {
         const Source source = data_.data().source(index, variable.variable);
         if (source.pieces.size() != 1)
-            refuse(fmt::format("{} of zone {} is cut by markers, which XDMF can't tell",
-                               variable.name, index + 1),
-                   source.file);
+            refuseIndex(fmt::format("{} of zone {} is cut by markers, which XDMF can't tell",
+                                    variable.name, index + 1),
+                        source.file);
         out_ << fmt::format(
             "<DataItem Format=\"Binary\" NumberType=\"{}\" Precision=\"{}\" Endian=\"{}\" "
             "Seek=\"{}\" Dimensions=\"{}\">{}</DataItem>\n",
@@ -146,7 +141,7 @@ void XdmfIndex::write(const IndexedData& data, Originals& originals,
     data.refuseFieldsOutsideFiles();
     data.refuseMissingCoordinates();
     std::ofstream out = openedForText(file);
-    IndexWriter(data, originals, out, watch).write();
+    XdmfWriter(data, originals, out, watch).write();
     finishText(out);
 }
 

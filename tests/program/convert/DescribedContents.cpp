@@ -32,6 +32,12 @@ void DescribedContents::addVariables() {
         variables_.push_back({"V" + std::to_string(place), role, 0});
 }
 
+void DescribedContents::nameFunctions(const std::string& name) {
+    for (ContentVariable_s& variable : variables_)
+        if (variable.role == Role_e::Function)
+            variable.name = name;
+}
+
 void DescribedContents::addZones() {
     steps_.emplace_back();
     for (std::size_t index = 0; index < grid_.grids.size(); ++index) {

@@ -35,6 +35,8 @@ public:
     int failingRead = 0;
     /// Values are this instead; nothing: as described.
     std::optional<double> everyValue;
+    /// All functions get this name.
+    void nameFunctions(const std::string& name);
 
 private:
     void addVariables();

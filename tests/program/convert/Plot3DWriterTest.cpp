@@ -1,5 +1,7 @@
 // The PLOT3D files that the program writes are those of the independent writer, to the byte.
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <plot3d/Error.h>
@@ -92,6 +94,36 @@ TEST(Plot3DFilesInSegments, AreCutAsTheWitnessCutsThem) {
         Plot3DWriter().write(contents, {path, true, wishesFor(layout, form)});
         EXPECT_EQ(bytesOfFile(path), bytesOf(described(layout), form)) << segmentBytes;
     }
+}
+
+/// Whether it is noted that functions of that name will lose it.
+bool isNoted(const std::string& name) {
+    const TemporaryDirectory directory;
+    const LayoutCase_s layout = {FileKind_e::Function, plot3dwriter::Layout_e::ThreeDWhole, false,
+                                 false};
+    DescribedContents contents(described(companionGrid(layout)), described(layout),
+                               ValueType::Float64);
+    contents.nameFunctions(name);
+    const std::vector<std::string> notes =
+        Plot3DWriter()
+            .write(contents, {directory.file("out.x"), false, wishesFor(layout, fortran())})
+            .notes;
+    return std::any_of(notes.begin(), notes.end(), [](const std::string& note) {
+        return note.starts_with("PLOT3D files hold no names; ");
+    });
+}
+
+TEST(Plot3DFunctionNames, AreNotNotedWhereReadersGiveTheSame) {
+    for (const char* name : {"F1V1", "F0V0", "F12V345", "F01V007"})
+        EXPECT_FALSE(isNoted(name)) << name;
+}
+
+TEST(Plot3DFunctionNames, AreNotedWhereReadersGiveOthers) {
+    for (const char* name :
+         {"",      "F",     "V",      "FV",    "F1",     "F1V",     "FV1",   "V1F1",
+          "f1v1",  "F1v1",  " F1V1",  "F1V1 ", "F1V1\n", "F1V1V1",  "F1VV1", "FF1V1",
+          "F-1V1", "F1V+1", "F1.0V1", "F1V1x", "xF1V1",  "pressure"})
+        EXPECT_TRUE(isNoted(name)) << name;
 }
 
 } // namespace

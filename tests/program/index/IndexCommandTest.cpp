@@ -120,6 +120,22 @@ INSTANTIATE_TEST_SUITE_P(Each, IndexCommand,
                          ::testing::Values(".cgns", ".xmf2", ".json", ".p3d", ".vp3d"),
                          [](const auto& tested) { return std::string(tested.param + 1); });
 
+/// An index of files in a folder whose name has half of a pair of UTF-16 in it.
+class IndexOfStrangeNames : public IndexTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(IndexOfStrangeNames, IsRefused) {
+    const std::string where = folder("pair\xED\xA0\x80");
+    const std::vector<std::string> files = writePair(where);
+    std::string err;
+    EXPECT_EQ(index(files, where + "/out" + GetParam(), &err), 1);
+    EXPECT_NE(err.find("has bytes that are no UTF-8, which this format can't hold"),
+              std::string::npos)
+        << err;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, IndexOfStrangeNames, ::testing::Values(".xmf2", ".json", ".p3d"),
+                         [](const auto& tested) { return std::string(tested.param + 1); });
+
 TEST(IndexFormats, AreToldForAnEndingThatIsNone) {
     std::string err;
     EXPECT_EQ(runProgram({"index", "a.x", "-o", "out.txt"}, &err), 2);
