@@ -31,7 +31,7 @@ const Settings withStrands = {{"ASSIGNSTRANDIDS", "Yes"}};
 
 Step_s instructed(const std::string& name, const Files_s& files, const Settings& settings = {},
                   Survival_e survival = Survival_e::BeforeOrNothing) {
-    const Texts composed = load(files, settings)["instructions"];
+    const auto composed = load(files, settings)["instructions"].get<Texts>();
     return {name, survival,
             [instructions = composed] { return theHost().importInstructions(instructions); }};
 }

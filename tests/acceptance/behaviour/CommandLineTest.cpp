@@ -6,15 +6,14 @@
 #include <thread>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "acceptance/behaviour/QuorhostRun.h"
+#include "support/Json.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
 namespace {
 
-using Json = nlohmann::json;
 using Texts = std::vector<std::string>;
 
 class CommandLine : public ::testing::Test {
@@ -131,7 +130,7 @@ TEST_F(CommandLineOnVortex, AnswersQuestionsWithYesOnRequestAlone) {
     const Json refused = outcomeOf(equalTimes);
     EXPECT_EQ(refused["messages"][0]["kind"], "question");
     EXPECT_EQ(refused["messages"][0]["answer"], false);
-    EXPECT_TRUE(refused["dataSet"].is_null());
+    EXPECT_TRUE(refused["dataSet"].isNull());
 }
 
 TEST_F(CommandLineOnVortex, EndsWith1IfALoadIsRefused) {
@@ -188,7 +187,7 @@ TEST_F(CommandLineOnVortex, TellsAFileThatIsNotThere) {
     EXPECT_EQ(outcome["ok"], false);
     EXPECT_EQ(outcome["messages"][0]["text"],
               "The file " + file("missing.x") + " could not be opened.");
-    EXPECT_TRUE(outcome["dataSet"].is_null());
+    EXPECT_TRUE(outcome["dataSet"].isNull());
 }
 
 // ---- Names of the JSON ----------------------------------------------------------------------
@@ -196,10 +195,7 @@ TEST_F(CommandLineOnVortex, TellsAFileThatIsNotThere) {
 using Names = std::set<std::string>;
 
 Names namesOf(const Json& object) {
-    Names names;
-    for (const auto& item : object.items())
-        names.insert(item.key());
-    return names;
+    return {object.names().begin(), object.names().end()};
 }
 
 TEST_F(CommandLineOnVortex, JsonHasTheseNamesAndNoOthers) {
@@ -214,7 +210,7 @@ TEST_F(CommandLineOnVortex, JsonHasTheseNamesAndNoOthers) {
         EXPECT_EQ(namesOf(zone), (Names{"number", "name", "type", "i", "j", "k", "strandId",
                                         "solutionTime", "parentZone", "connectivitySharedWith",
                                         "auxData", "connectivity", "fields"}));
-        EXPECT_TRUE(zone["connectivity"].is_null());
+        EXPECT_TRUE(zone["connectivity"].isNull());
         for (const Json& field : zone["fields"])
             EXPECT_EQ(namesOf(field), (Names{"variable", "type", "state", "sharedWith", "count",
                                              "min", "max", "mean", "crc32", "error"}));
@@ -265,7 +261,7 @@ TEST_F(CommandLine, CtrlCStopsALoadAndLeavesACleanFrame) {
         ASSERT_EQ(result.exitCode, 130) << result.err;
         const Json outcome = Json::parse(result.out);
         EXPECT_EQ(outcome["ok"], false);
-        EXPECT_TRUE(outcome["dataSet"].is_null());
+        EXPECT_TRUE(outcome["dataSet"].isNull());
         EXPECT_EQ(outcome["plotType"], "none");
         EXPECT_EQ(outcome["violations"], Json::array());
         EXPECT_EQ(outcome["lockDepth"], 0);

@@ -5,15 +5,14 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "acceptance/behaviour/QuorhostRun.h"
+#include "support/Json.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
 namespace {
 
-using Json = nlohmann::json;
 using Texts = std::vector<std::string>;
 
 Texts wordsOf(const std::string& line) {
@@ -43,7 +42,7 @@ bool isSameZone(const Json& a, const Json& b) {
 }
 
 bool isSameDataSet(const Json& a, const Json& b) {
-    return !a.is_null() && !b.is_null() && a["variables"] == b["variables"] &&
+    return !a.isNull() && !b.isNull() && a["variables"] == b["variables"] &&
            std::equal(a["zones"].begin(), a["zones"].end(), b["zones"].begin(), b["zones"].end(),
                       isSameZone);
 }
@@ -87,7 +86,7 @@ TEST_P(SampleForms, ComeInAlikeUnlessNoted) {
             if (!records.isWritten)
                 continue;
             ASSERT_FALSE(records.isNoted);
-            ASSERT_FALSE(records.dataSet.is_null());
+            ASSERT_FALSE(records.dataSet.isNull());
             for (const std::string form :
                  {"text", "binary", "binary --big-endian", "fortran4 --double",
                   "fortran8 --big-endian", "binary --double", "text --double"}) {

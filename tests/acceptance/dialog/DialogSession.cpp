@@ -78,7 +78,7 @@ const Json& listOf(const Json& outcome, const std::string& column) {
 }
 
 bool isOn(const Json& outcome, const char* page, const std::string& caption) {
-    return control(outcome, page, "toggle", caption)["value"];
+    return control(outcome, page, "toggle", caption)["value"].get<bool>();
 }
 
 const Json& DialogSession::shownAfter(const Texts& files, Actions actions) {

@@ -86,8 +86,8 @@ const std::vector<Row_s> dataSubsetRows = {
 
 std::string joined(const Json& items) {
     std::string text;
-    for (const std::string item : items)
-        text += (text.empty() ? "" : ",") + item;
+    for (const Json& item : items)
+        text += (text.empty() ? "" : ",") + item.get<std::string>();
     return text;
 }
 
@@ -100,12 +100,13 @@ std::string lineOf(const std::string& page, const Row_s& row) {
 }
 
 std::string lineOf(const Json& control) {
-    const std::string kind = control["kind"];
+    const auto kind = control["kind"].get<std::string>();
     const bool isNamedByItems = kind == "radioBox" || kind == "optionMenu";
     const std::string caption =
         isNamedByItems ? joined(control["items"]) : control["caption"].get<std::string>();
-    return lineOf(control["page"], {kind.c_str(), caption.c_str(), control["x"], control["y"],
-                                    control["w"], control["h"]});
+    const auto number = [&control](const char* name) { return control[name].get<int>(); };
+    return lineOf(control["page"].get<std::string>(), {kind.c_str(), caption.c_str(), number("x"),
+                                                       number("y"), number("w"), number("h")});
 }
 
 class DialogLayout : public DialogSession {

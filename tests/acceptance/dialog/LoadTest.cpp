@@ -30,7 +30,7 @@ protected:
     /// Zone from 1, grid from 0.
     void expectZone(std::size_t zone, std::int32_t grid, double shift, const Range_s& i = {},
                     const Range_s& j = {}, const Range_s& k = {}) const {
-        const Json& fields = last()["dataSet"]["zones"].at(zone - 1)["fields"];
+        const Json& fields = last()["dataSet"]["zones"][zone - 1]["fields"];
         for (std::int32_t variable = 0; variable < 8; ++variable) {
             const bool isCoordinate = variable < 3;
             EXPECT_TRUE(holds(fields[static_cast<std::size_t>(variable)],
@@ -45,7 +45,7 @@ protected:
         }
     }
     bool wasInstructed(const std::string& key, const std::string& value) const {
-        const Texts instructions = last()["instructions"];
+        const auto instructions = last()["instructions"].get<Texts>();
         for (std::size_t place = 0; place + 1 < instructions.size(); ++place)
             if (instructions[place] == key)
                 return instructions[place + 1] == value;

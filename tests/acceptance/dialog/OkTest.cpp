@@ -33,7 +33,7 @@ TEST_F(DialogOk, WithoutAnyFileComesBack) {
               Texts{"Must have at least one grid, solution or function file."});
     EXPECT_EQ(described("back")["dialog"]["open"], true);
     EXPECT_EQ(last()["dialog"]["open"], false);
-    EXPECT_TRUE(last()["dataSet"].is_null());
+    EXPECT_TRUE(last()["dataSet"].isNull());
     EXPECT_EQ(exitCode_, 1);
 }
 
@@ -83,7 +83,7 @@ TEST_F(DialogOk, InterruptedLoadComesBackAndTheNextOneIsWhole) {
             commands.push_back(each);
         play(commands);
         EXPECT_EQ(described("back")["dialog"]["open"], true) << step;
-        EXPECT_TRUE(described("back")["dataSet"].is_null()) << step;
+        EXPECT_TRUE(described("back")["dataSet"].isNull()) << step;
         EXPECT_EQ(described("loaded")["ok"], true) << step;
         EXPECT_EQ(zoneNames(last()).size(), 2U) << step;
     }
@@ -109,7 +109,7 @@ TEST_F(DialogOk, InterruptionWaitsForTheFirstLoad) {
         commands.push_back(each);
     play(commands);
     EXPECT_EQ(described("back")["dialog"]["open"], true);
-    EXPECT_TRUE(last()["dataSet"].is_null());
+    EXPECT_TRUE(last()["dataSet"].isNull());
 }
 
 TEST_F(DialogOk, OptionsOutliveALoad) {

@@ -16,7 +16,8 @@ protected:
     std::string shownIn(std::size_t number, const Actions& typing) {
         Actions actions = {toPage(subsetPage)};
         actions.insert(actions.end(), typing.begin(), typing.end());
-        return nthControl(shownAfter({grid_}, actions), subsetPage, "textField", number)["value"];
+        return nthControl(shownAfter({grid_}, actions), subsetPage, "textField", number)["value"]
+            .get<std::string>();
     }
     /// One lock fewer is held after the field of the last K index, and is missing at the end.
     void expectTheLockOf(const std::string& field) {
@@ -59,7 +60,7 @@ TEST_F(RangeFields, RangeTurnedRoundIsNotLoaded) {
             EXPECT_EQ(messages(described("back")), told);
             EXPECT_EQ(described("back")["dialog"]["open"], true);
             EXPECT_EQ(last()["instructions"], Json::array()) << last()["instructions"];
-            EXPECT_TRUE(last()["dataSet"].is_null());
+            EXPECT_TRUE(last()["dataSet"].isNull());
         }
 }
 

@@ -18,7 +18,7 @@ protected:
     std::string problemOf(const Json& action) {
         play(atDialog({grid_}, {action, press("OK")}));
         EXPECT_EQ(exitCode_, 1);
-        EXPECT_TRUE(last()["dataSet"].is_null());
+        EXPECT_TRUE(last()["dataSet"].isNull());
         const std::string head = "macro.json: command 2: dialog, action 1: ";
         const std::size_t start = shown_.find(head);
         EXPECT_NE(start, std::string::npos) << shown_;

@@ -168,7 +168,7 @@ protected:
     static Json deletion(std::size_t first, std::size_t count) {
         Json zones = Json::array();
         for (std::size_t n = 0; n < count; ++n)
-            zones.push_back(first + n);
+            zones.add(first + n);
         return command("deleteZones", zones);
     }
 };

@@ -3,8 +3,7 @@
 
 #include <cstdint>
 
-#include <nlohmann/json.hpp>
-
+#include "support/Json.h"
 #include "support/SmallFiles.h"
 
 namespace quorvia::testsupport {
@@ -32,6 +31,6 @@ struct FieldOfFile_s {
 };
 
 /// Whether the field of an outcome has as many values as expected, with their CRC-32.
-bool holds(const nlohmann::ordered_json& field, const FieldOfFile_s& expected);
+bool holds(const Json& field, const FieldOfFile_s& expected);
 
 } // namespace quorvia::testsupport

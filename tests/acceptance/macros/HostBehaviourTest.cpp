@@ -50,7 +50,7 @@ TEST_F(HostBehaviour, FailedCreationOfTheDataSetLeavesTheFrameEmpty) {
     play({load_, describe("whole"), fail("QuorUtilDataSetCreateX", 1), load_, describe("failed"),
           load_});
     EXPECT_EQ(described("failed")["ok"], false);
-    EXPECT_TRUE(described("failed")["dataSet"].is_null());
+    EXPECT_TRUE(described("failed")["dataSet"].isNull());
     EXPECT_EQ(last()["ok"], true);
     EXPECT_EQ(dataSet(last()), dataSet(described("whole")));
 }
@@ -58,7 +58,7 @@ TEST_F(HostBehaviour, FailedCreationOfTheDataSetLeavesTheFrameEmpty) {
 TEST_F(HostBehaviour, SecondZoneThatFailsLeavesTheFrameEmpty) {
     play({fail("QuorUtilDataSetAddZoneX", 2), load_});
     EXPECT_EQ(exitCode_, 1);
-    EXPECT_TRUE(last()["dataSet"].is_null());
+    EXPECT_TRUE(last()["dataSet"].isNull());
 }
 
 TEST_F(HostBehaviour, OlderHostGetsAMessageAndNoLoader) {

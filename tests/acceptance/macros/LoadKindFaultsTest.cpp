@@ -28,9 +28,9 @@ protected:
         std::string error;
         const auto library = host::AddOnLibrary::open(PLOT3D_ADDON_PATH, error);
         ASSERT_NE(library, nullptr) << error;
-        ASSERT_TRUE(host().importInstructions(start(kind())["instructions"]).ok);
+        ASSERT_TRUE(host().importInstructions(start(kind())["instructions"].get<Texts>()).ok);
         host().clearFaults();
-        ASSERT_TRUE(host().importInstructions(loadOf(kind())["instructions"]).ok);
+        ASSERT_TRUE(host().importInstructions(loadOf(kind())["instructions"].get<Texts>()).ok);
         stepCount_ = host().stepCount();
         for (const std::string& operation : host::ReferenceHost::operationsThatCanFail())
             callCounts_[operation] = host().callCount(operation);
@@ -63,7 +63,7 @@ protected:
             else
                 EXPECT_TRUE(dataSet(outcome) == dataSet(before)) << fault;
         } else if (kind() == LoadKind_e::Fresh) {
-            EXPECT_TRUE(outcome["dataSet"].is_null()) << fault;
+            EXPECT_TRUE(outcome["dataSet"].isNull()) << fault;
         } else if (kind() == LoadKind_e::AppendGrid || kind() == LoadKind_e::AppendSolution) {
             EXPECT_TRUE(dataSet(outcome) == dataSet(before)) << fault;
         } else {
@@ -90,7 +90,7 @@ protected:
     }
 
     static std::size_t variableCount(const Json& outcome) {
-        return outcome["dataSet"].is_null() ? 0 : outcome["dataSet"]["variables"].size();
+        return outcome["dataSet"].isNull() ? 0 : outcome["dataSet"]["variables"].size();
     }
 
     /// The data set was done and told of, so that only the instructions were left.

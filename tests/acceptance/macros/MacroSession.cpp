@@ -19,7 +19,7 @@ void appendFiles(Texts& instructions, const std::string& key, const Texts& files
 
 Json command(const std::string& name, const Json& value) {
     Json result = Json::object();
-    result[name] = value;
+    result.set(name, value);
     return result;
 }
 
@@ -62,29 +62,29 @@ void MacroSession::play(const Commands& commands, const Texts& options) {
 }
 
 const Json& MacroSession::described(const std::string& name) const {
-    return outcomes_.at("descriptions").at(name);
+    return outcomes_["descriptions"][name];
 }
 
 Texts MacroSession::messages(const Json& outcome) {
     Texts result;
     for (const Json& message : outcome["messages"])
-        result.push_back(message["text"]);
+        result.push_back(message["text"].get<std::string>());
     return result;
 }
 
 Texts MacroSession::zoneNames(const Json& outcome) {
     Texts result;
-    if (outcome["dataSet"].is_null())
+    if (outcome["dataSet"].isNull())
         return result;
     for (const Json& zone : outcome["dataSet"]["zones"])
-        result.push_back(zone["name"]);
+        result.push_back(zone["name"].get<std::string>());
     return result;
 }
 
 Json MacroSession::dataSet(const Json& outcome) {
     Json result = outcome["dataSet"];
-    if (!result.is_null())
-        result["plotType"] = outcome["plotType"];
+    if (!result.isNull())
+        result.set("plotType", outcome["plotType"]);
     return result;
 }
 

@@ -7,14 +7,13 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
+#include "support/Json.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::testsupport {
 
-using Json = nlohmann::ordered_json;
 using Texts = std::vector<std::string>;
 using Commands = std::vector<Json>;
 

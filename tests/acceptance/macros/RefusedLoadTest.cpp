@@ -50,7 +50,7 @@ TEST_F(SetOfNoGrid, IsRefusedOfALineWithItsGrid) {
 
 TEST_F(SetOfNoGrid, MakesNoDataSetWhereThereIsNone) {
     play({loadOf(LoadKind_e::Fresh, set_)});
-    EXPECT_TRUE(last()["dataSet"].is_null());
+    EXPECT_TRUE(last()["dataSet"].isNull());
     EXPECT_EQ(messages(last()), told(grid_));
 }
 
@@ -93,11 +93,11 @@ TEST_F(FunctionsAsSolutions, AreRefusedLikeFunctionsWhereTheyWouldReplace) {
 TEST_F(FunctionsAsSolutions, AreRefusedWhereThereIsNoDataSet) {
     play({load({.solutions = functions_})});
     EXPECT_EQ(messages(last()), told_);
-    EXPECT_TRUE(last()["dataSet"].is_null());
+    EXPECT_TRUE(last()["dataSet"].isNull());
 }
 
 TEST_F(FunctionsAsSolutions, AreRefusedWithAListOfNoGrids) {
-    Json instructions = load({.solutions = functions_})["instructions"];
+    auto instructions = load({.solutions = functions_})["instructions"].get<Texts>();
     instructions.insert(instructions.end(), {"FILELIST_GRIDFILES", "0"});
     EXPECT_EQ(refusalOf(command("instructions", instructions)), told_);
 }

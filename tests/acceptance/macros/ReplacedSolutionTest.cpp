@@ -31,7 +31,7 @@ protected:
     }
     static host::ReferenceHost& host() { return host::ReferenceHost::instance(); }
     static bool import(const Json& load) {
-        return host().importInstructions(load["instructions"]).ok;
+        return host().importInstructions(load["instructions"].get<Texts>()).ok;
     }
     bool replaceBy(const std::string& solution) { return import(load({.solutions = {solution}})); }
 

@@ -85,7 +85,7 @@ protected:
     }
     /// Zone from 1, grid from 0.
     void expectZone(std::size_t zone, std::int32_t grid, double shift) const {
-        const Json& fields = last()["dataSet"]["zones"].at(zone - 1)["fields"];
+        const Json& fields = last()["dataSet"]["zones"][zone - 1]["fields"];
         for (std::int32_t variable = 0; variable < 8; ++variable) {
             const bool isCoordinate = variable < 3;
             EXPECT_TRUE(holds(fields[static_cast<std::size_t>(variable)],

@@ -49,7 +49,7 @@ TEST_F(Session, ReplayRepeatsTheDataSetAndTheInstructions) {
     play({select({grid_, first_, second_}), describe("selected"), command("resetFrame", true),
           describe("empty"), replay()});
     EXPECT_EQ(exitCode_, 0);
-    EXPECT_TRUE(described("empty")["dataSet"].is_null());
+    EXPECT_TRUE(described("empty")["dataSet"].isNull());
     EXPECT_EQ(dataSet(last()), dataSet(described("selected")));
     EXPECT_EQ(last()["instructions"], described("selected")["instructions"]);
 }

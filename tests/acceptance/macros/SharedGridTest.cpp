@@ -70,7 +70,8 @@ protected:
     Texts gridStates(std::size_t zone) const {
         Texts states;
         for (std::size_t field = 0; field < (hasIBlank_ ? 4U : 3U); ++field)
-            states.push_back(last()["dataSet"]["zones"][zone - 1]["fields"][field]["state"]);
+            states.push_back(
+                last()["dataSet"]["zones"][zone - 1]["fields"][field]["state"].get<std::string>());
         return states;
     }
 
@@ -271,7 +272,7 @@ TEST_F(RefusedShare, OfAPassiveIBlankLeavesItWithoutValues) {
                                             "float32", "float32", "float32", "float32"};
     Json zone = {{"name", "Box"}, {"i", 2}, {"j", 3}, {"k", 5}, {"types", types}};
     Json passive = zone;
-    passive["passive"] = Json::array({4});
+    passive.set("passive", Json::array({4}));
     series_.grids = {{2, 3, 5}};
     for (const bool isAllowed : {true, false}) {
         play({command("dataSet",

@@ -37,7 +37,7 @@ std::vector<FieldOfFile_s> fieldsOfZone(const SmallFiles& files, std::size_t gri
 } // namespace
 
 void expectTimeStep(const Json& outcome, const SmallFiles& files, const TimeStepFields_s& step) {
-    ASSERT_FALSE(outcome["dataSet"].is_null());
+    ASSERT_FALSE(outcome["dataSet"].isNull());
     const Json& zones = outcome["dataSet"]["zones"];
     ASSERT_GE(zones.size(), step.firstZone - 1 + files.grids.size());
     for (std::size_t grid = 0; grid < files.grids.size(); ++grid) {

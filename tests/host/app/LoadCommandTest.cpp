@@ -5,16 +5,16 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 #include <sys/resource.h>
 
 #include "app/Program.h"
+#include "support/Json.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::host {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using quorvia::testsupport::Json;
 using Strings = std::vector<std::string>;
 
 std::string contentsOf(const std::string& file) {
@@ -122,7 +122,7 @@ TEST_F(LoadCommand, WithoutValuesNothingIsFetched) {
     const Json field =
         outcomeOf({"--no-values", "unreadable.g"})["dataSet"]["zones"][1]["fields"][1];
     EXPECT_FALSE(field.contains("min"));
-    EXPECT_TRUE(field["error"].is_null());
+    EXPECT_TRUE(field["error"].isNull());
 }
 
 TEST_F(LoadCommand, FieldThatCannotBeReadTellsWhy) {
@@ -191,8 +191,7 @@ TEST_F(LoadCommand, JsonFileStandsBesideTheTable) {
     const std::string file = directory.file("outcome.json");
     EXPECT_EQ(0, load({"well.g", "--json", file}));
     EXPECT_EQ(0U, out.str().find("Data set \"Fake\""));
-    std::ifstream in(file);
-    EXPECT_EQ(true, Json::parse(in)["ok"]);
+    EXPECT_EQ(true, Json::parse(contentsOf(file))["ok"]);
 }
 
 TEST_F(LoadCommand, JsonFileThatCannotBeWrittenIsAFailure) {
@@ -266,8 +265,8 @@ TEST_F(LoadCommand, FailureShowsTheAddOnsErrorAndNoTable) {
 TEST_F(LoadCommand, FailureStillWritesJson) {
     const Json outcome = outcomeOf({"fail.g"});
     EXPECT_EQ(false, outcome["ok"]);
-    EXPECT_TRUE(outcome["dataSet"].is_null());
-    EXPECT_TRUE(outcome["hostError"].is_null());
+    EXPECT_TRUE(outcome["dataSet"].isNull());
+    EXPECT_TRUE(outcome["hostError"].isNull());
     EXPECT_EQ("It can't be read.\nFile: fail.g", outcome["messages"][0]["text"]);
 }
 
@@ -285,7 +284,7 @@ TEST_F(LoadCommand, ViolationsAreShownAndDoNotFailTheLoad) {
 TEST_F(LoadCommand, CtrlCLeavesACleanFrame) {
     const Json outcome = outcomeOf({"ctrl-c.g"});
     EXPECT_EQ(false, outcome["ok"]);
-    EXPECT_TRUE(outcome["dataSet"].is_null());
+    EXPECT_TRUE(outcome["dataSet"].isNull());
     EXPECT_EQ("quorhost: error: Interrupted by the user.\n"
               "quorhost: interrupted, nothing was loaded\n",
               err.str());

@@ -5,15 +5,16 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "app/Program.h"
+#include "support/BytesOfFile.h"
+#include "support/Json.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::host {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using quorvia::testsupport::Json;
 using Strings = std::vector<std::string>;
 
 class MacroRun : public testing::Test {
@@ -45,7 +46,7 @@ protected:
     static Strings textsOf(const Json& outcome) {
         Strings texts;
         for (const Json& message : outcome["messages"])
-            texts.push_back(message["text"]);
+            texts.push_back(message["text"].get<std::string>());
         return texts;
     }
 
@@ -89,15 +90,17 @@ TEST_F(MacroRun, JsonHoldsEachDescriptionAndTheEnd) {
     const Json outcomes = outcomesOf(R"({"describe": "empty"}, {"select": {"files": ["well.g"]}},
                                         {"describe": "loaded"}, {"resetFrame": true})");
     EXPECT_EQ("quorhost.session/1", outcomes["schema"]);
-    EXPECT_TRUE(outcomes["descriptions"]["empty"]["dataSet"].is_null());
+    EXPECT_TRUE(outcomes["descriptions"]["empty"]["dataSet"].isNull());
     EXPECT_EQ(2U, outcomes["descriptions"]["loaded"]["dataSet"]["zones"].size());
-    EXPECT_TRUE(outcomes["final"]["dataSet"].is_null());
+    EXPECT_TRUE(outcomes["final"]["dataSet"].isNull());
     EXPECT_EQ("quorhost.outcome/1", outcomes["final"]["schema"]);
 }
 
 TEST_F(MacroRun, JsonGoesToAFileBesideTheAccount) {
     EXPECT_EQ(0, play(R"({"describe": "a"})", {"--json", directory.file("o.json")}));
-    EXPECT_TRUE(Json::parse(std::ifstream(directory.file("o.json")))["descriptions"].contains("a"));
+    EXPECT_TRUE(
+        Json::parse(testsupport::bytesOfFile(directory.file("o.json")))["descriptions"].contains(
+            "a"));
     EXPECT_EQ(0U, out.str().find("Commands\n"));
 }
 
@@ -372,7 +375,7 @@ TEST_F(MacroRun, NothingOfAMacroOutlivesIt) {
             {"interruptAtStep": 1})");
     const Json outcome = finalOf(R"({"select": {"files": ["tell-host.g"]}})");
     EXPECT_EQ(Strings{"sharing 1, plot type 0, version 1000377"}, textsOf(outcome));
-    EXPECT_TRUE(outcome["dataSet"].is_null());
+    EXPECT_TRUE(outcome["dataSet"].isNull());
 }
 
 } // namespace

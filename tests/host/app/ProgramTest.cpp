@@ -4,9 +4,9 @@
 #include <cstdio>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 #include <sys/wait.h>
 
+#include "support/Json.h"
 #include "support/TemporaryDirectory.h"
 
 namespace quorvia::host {
@@ -51,7 +51,7 @@ TEST(Program, BadUsageEndsWith2AndWritesNothingOut) {
 TEST(Program, JsonIsAllThatGoesToStandardOutput) {
     const Ended_s ended = runProgram(withFake + "well.g --json -");
     EXPECT_EQ(0, ended.exitCode());
-    EXPECT_EQ("quorhost.outcome/1", nlohmann::json::parse(ended.out)["schema"]);
+    EXPECT_EQ("quorhost.outcome/1", testsupport::Json::parse(ended.out)["schema"]);
 }
 
 TEST(Program, ErrorsGoToStandardErrorWithoutColourOrProgress) {
@@ -65,7 +65,7 @@ TEST(Program, MissingAddOnEndsWith1) {
     const Ended_s ended =
         runProgram("load a.g --json - --addon '" + directory.file("none.so") + "' 2>/dev/null");
     EXPECT_EQ(1, ended.exitCode());
-    EXPECT_TRUE(nlohmann::json::parse(ended.out)["hostError"].is_string());
+    EXPECT_TRUE(testsupport::Json::parse(ended.out)["hostError"].isText());
 }
 
 TEST(Program, FirstCtrlCEndsTheLoadWith130) {

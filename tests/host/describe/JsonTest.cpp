@@ -4,39 +4,32 @@
 #include <limits>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "host/describe/OutcomeSamples.h"
+#include "support/Json.h"
 
 namespace quorvia::host {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using quorvia::testsupport::Json;
 
 Json told(const Outcome_s& outcome) {
     return Json::parse(toJson(outcome));
-}
-
-std::vector<std::string> namesOf(const Json& object) {
-    std::vector<std::string> names;
-    for (const auto& item : object.items())
-        names.push_back(item.key());
-    return names;
 }
 
 TEST(Json, TopHasTheNamesOfTheSchemaInOrder) {
     const std::vector<std::string> names = {
         "schema",       "ok",   "hostError", "messages",  "progress",   "plotType", "instructions",
         "stateChanges", "undo", "redraws",   "lockDepth", "violations", "dataSet"};
-    EXPECT_EQ(names, namesOf(told(Outcome_s())));
+    EXPECT_EQ(names, told(Outcome_s()).names());
     EXPECT_EQ("quorhost.outcome/1", told(Outcome_s())["schema"]);
 }
 
 TEST(Json, OutcomeOfNothingIsEmptyAndNotOk) {
     const Json json = told(Outcome_s());
     EXPECT_EQ(false, json["ok"]);
-    EXPECT_TRUE(json["hostError"].is_null());
-    EXPECT_TRUE(json["dataSet"].is_null());
+    EXPECT_TRUE(json["hostError"].isNull());
+    EXPECT_TRUE(json["dataSet"].isNull());
     EXPECT_EQ("none", json["plotType"]);
     EXPECT_EQ(Json::array(), json["instructions"]);
 }
@@ -44,14 +37,14 @@ TEST(Json, OutcomeOfNothingIsEmptyAndNotOk) {
 TEST(Json, DataSetZoneAndFieldHaveTheNamesOfTheSchema) {
     const Json dataSet = told(loadedOutcome(1))["dataSet"];
     EXPECT_EQ((std::vector<std::string>{"title", "auxData", "variables", "zones"}),
-              namesOf(dataSet));
+              dataSet.names());
     EXPECT_EQ((std::vector<std::string>{"number", "name", "type", "i", "j", "k", "strandId",
                                         "solutionTime", "parentZone", "connectivitySharedWith",
                                         "auxData", "connectivity", "fields"}),
-              namesOf(dataSet["zones"][0]));
+              dataSet["zones"][0].names());
     EXPECT_EQ((std::vector<std::string>{"variable", "type", "state", "sharedWith", "count", "min",
                                         "max", "mean", "crc32", "error"}),
-              namesOf(dataSet["zones"][0]["fields"][0]));
+              dataSet["zones"][0]["fields"][0].names());
 }
 
 TEST(Json, FieldTellsItsNumbers) {
@@ -68,7 +61,7 @@ TEST(Json, FieldThatWasNotFetchedHasNoStatistics) {
     const Json field = told(outcome)["dataSet"]["zones"][0]["fields"][0];
     EXPECT_EQ(
         (std::vector<std::string>{"variable", "type", "state", "sharedWith", "count", "error"}),
-        namesOf(field));
+        field.names());
 }
 
 TEST(Json, FieldThatCouldNotBeFetchedTellsWhy) {
@@ -173,7 +166,7 @@ Dialog_s sampleDialog() {
 
 /// What the library makes of the same values.
 std::string dumped(const std::string& text) {
-    return Json::parse(text).dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    return Json::parse(text).dump(2) + '\n';
 }
 
 TEST(Json, TextOfNothingIsTheLibrarysDump) {
@@ -239,19 +232,19 @@ TEST(Json, TextEndsWithALineEnd) {
 /// An outcome of a session in which no dialog was shown.
 Json inSession(const Outcome_s& outcome) {
     Json json = told(outcome);
-    json["dialog"] = nullptr;
-    json["helpShown"] = Json::array();
+    json.set("dialog", nullptr);
+    json.set("helpShown", Json::array());
     return json;
 }
 
 TEST(Json, SessionHoldsEachDescriptionUnderItsNameAndTheEnd) {
     const SessionOutcome_s session = {{{"b", loadedOutcome(2)}, {"a \xff", Outcome_s()}},
                                       loadedOutcome(1)};
-    const auto told = nlohmann::ordered_json::parse(toJson(session));
+    const auto told = Json::parse(toJson(session));
     EXPECT_EQ("quorhost.session/1", told["schema"]);
-    EXPECT_EQ("b", told["descriptions"].begin().key());
+    EXPECT_EQ("b", told["descriptions"].names().front());
     EXPECT_EQ(inSession(loadedOutcome(2)), told["descriptions"]["b"]);
-    EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].is_null());
+    EXPECT_TRUE(told["descriptions"]["a \xEF\xBF\xBD"]["dataSet"].isNull());
     EXPECT_EQ(inSession(loadedOutcome(1)), told["final"]);
 }
 

@@ -7,15 +7,12 @@
 #include <ostream>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 #include <sys/stat.h>
 
 #include "program/values/ValueFiles.h"
 
 namespace plot3d::program {
 namespace {
-
-using Json = nlohmann::json;
 
 constexpr std::int32_t iCount = 509;
 constexpr std::int32_t jCount = 521;
@@ -87,7 +84,7 @@ protected:
 
     /// What `info --json` tells of one file.
     static Json infoOf(const std::string& name) {
-        return Json::parse(ended({"info", "--json", name}).out).at("files").at(0);
+        return Json::parse(ended({"info", "--json", name}).out)["files"][0];
     }
 };
 
@@ -98,33 +95,31 @@ TEST_P(BigFilesOfEachForm, HaveTheirEndsInStats) {
     const Json told =
         toldBy({"stats", writeBig(GetParam()), "--k", "1,-1," + std::to_string(last)});
     for (std::int32_t variable = 0; variable < 3; ++variable) {
-        const Json& of = told.at("variables").at(static_cast<std::size_t>(variable));
-        EXPECT_EQ(of.at("count"), 2 * iCount * jCount);
-        EXPECT_EQ(of.at("min"), bigValue(variable, 0, 0, 0));
-        EXPECT_EQ(of.at("max"), bigValue(variable, iCount - 1, jCount - 1, last));
-        EXPECT_EQ(of.at("maxAt"),
-                  (Json{{"zone", 1}, {"i", iCount}, {"j", jCount}, {"k", last + 1}}));
-        EXPECT_EQ(of.at("mean"),
+        const Json& of = told["variables"][variable];
+        EXPECT_EQ(of["count"], 2 * iCount * jCount);
+        EXPECT_EQ(of["min"], bigValue(variable, 0, 0, 0));
+        EXPECT_EQ(of["max"], bigValue(variable, iCount - 1, jCount - 1, last));
+        EXPECT_EQ(of["maxAt"], (Json{{"zone", 1}, {"i", iCount}, {"j", jCount}, {"k", last + 1}}));
+        EXPECT_EQ(of["mean"],
                   bigValue(variable, (iCount - 1) / 2, (jCount - 1) / 2, 0) + 500000.0 * last);
     }
 }
 
 TEST_P(BigFilesOfEachForm, HaveAllTheirPlanesInStats) {
     const Json told = toldBy({"stats", writeBig(GetParam()), "--j", "1", "--variable", "Z"});
-    const Json& of = told.at("variables").at(0);
-    EXPECT_EQ(of.at("count"), std::int64_t{iCount} * GetParam().planes);
-    EXPECT_EQ(of.at("minAt"), (Json{{"zone", 1}, {"i", 1}, {"j", 1}, {"k", 2}})) << "the hole";
-    EXPECT_EQ(of.at("max"), bigValue(2, iCount - 1, 0, GetParam().planes - 1));
+    const Json& of = told["variables"][0];
+    EXPECT_EQ(of["count"], std::int64_t{iCount} * GetParam().planes);
+    EXPECT_EQ(of["minAt"], (Json{{"zone", 1}, {"i", 1}, {"j", 1}, {"k", 2}})) << "the hole";
+    EXPECT_EQ(of["max"], bigValue(2, iCount - 1, 0, GetParam().planes - 1));
 }
 
 TEST_P(BigFilesOfEachForm, AreAccountedForByInfo) {
     const std::string name = writeBig(GetParam());
     const Json told = infoOf(name);
-    EXPECT_EQ(told.at("ok"), true);
-    EXPECT_EQ(told.at("grids").at(0),
-              (Json{{"i", iCount}, {"j", jCount}, {"k", GetParam().planes}}));
-    EXPECT_EQ(told.at("bytes").at("used"), std::filesystem::file_size(name));
-    EXPECT_EQ(told.at("bytes").at("surplus"), 0);
+    EXPECT_EQ(told["ok"], true);
+    EXPECT_EQ(told["grids"][0], (Json{{"i", iCount}, {"j", jCount}, {"k", GetParam().planes}}));
+    EXPECT_EQ(told["bytes"]["used"], std::filesystem::file_size(name));
+    EXPECT_EQ(told["bytes"]["surplus"], 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, BigFilesOfEachForm, testing::Values(plain, segmented),
@@ -150,9 +145,9 @@ TEST_F(BigFiles, AreCutShortForInfoByEachByte) {
     for (const std::int64_t missing : {1LL, 5LL, 700000000LL, 733016168LL}) {
         std::filesystem::resize_file(name, static_cast<std::uintmax_t>(size - missing));
         const Json told = infoOf(name);
-        EXPECT_EQ(told.at("ok"), false);
-        EXPECT_EQ(told.at("grids").at(0).at("k"), segmented.planes);
-        EXPECT_EQ(told.at("bytes").at("missing"), missing);
+        EXPECT_EQ(told["ok"], false);
+        EXPECT_EQ(told["grids"][0]["k"], segmented.planes);
+        EXPECT_EQ(told["bytes"]["missing"], missing);
     }
 }
 

@@ -1,15 +1,11 @@
 #include "program/commands/CommandsFixture.h"
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
-#include <random>
 #include <utility>
 
 namespace plot3d::program {
 
-using Json = nlohmann::json;
 using writer::Encoding_e;
 
 namespace {
@@ -25,13 +21,12 @@ constexpr std::array layoutWords = {"1D", "2D", "3DWhole", "3DPlanes", "Unstruct
 
 /// What tells the reading of a file from others; of info itself and of its candidates.
 Json readingIn(const Json& told, bool isText) {
-    Json reading = {{"kind", told.at("kind")},
-                    {"layout", told.at("layout")},
-                    {"multiGrid", told.at("multiGrid")}};
+    Json reading = {
+        {"kind", told["kind"]}, {"layout", told["layout"]}, {"multiGrid", told["multiGrid"]}};
     if (!isText) {
-        reading["precision"] = told.at("precision");
-        reading["byteOrder"] = told.at("byteOrder");
-        reading["iBlank"] = told.at("iBlank") == true;
+        reading.set("precision", told["precision"]);
+        reading.set("byteOrder", told["byteOrder"]);
+        reading.set("iBlank", told["iBlank"] == true);
     }
     return reading;
 }
@@ -42,22 +37,15 @@ Json readingOf(const ModelFile_s& file) {
                     {"layout", layoutWords[static_cast<std::size_t>(file.contents.layout)]},
                     {"multiGrid", file.contents.isMultiGrid}};
     if (!isText) {
-        reading["precision"] = file.form.precision == writer::Precision_e::Double ? 64 : 32;
-        reading["byteOrder"] = file.form.byteOrder == writer::ByteOrder_e::Big ? "big" : "little";
-        reading["iBlank"] = file.contents.hasIBlank;
+        reading.set("precision", file.form.precision == writer::Precision_e::Double ? 64 : 32);
+        reading.set("byteOrder",
+                    file.form.byteOrder == writer::ByteOrder_e::Big ? "big" : "little");
+        reading.set("iBlank", file.contents.hasIBlank);
     }
     return reading;
 }
 
 } // namespace
-
-std::uint64_t seedOfRun() {
-    const char* const given = std::getenv("PLOT3D_TEST_SEED");
-    const std::uint64_t seed =
-        given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
-    std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
-    return seed;
-}
 
 void CommandsTest::writeFiles(const ModelSet& data, const std::string& folder) const {
     std::filesystem::create_directory(file(folder));
@@ -87,7 +75,7 @@ Ended_s CommandsTest::ran(const std::string& command, const std::vector<Words>& 
 Json CommandsTest::infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const {
     const Ended_s run = ended(
         {"info", "--why", "--json", "--as", kindWord(fileOfSet.part), path(folder, fileOfSet)});
-    return Json::parse(run.out).at("files").at(0);
+    return Json::parse(run.out)["files"][0];
 }
 
 bool CommandsTest::isAmbiguous(const ModelSet& data, const std::string& folder) const {
@@ -99,14 +87,13 @@ bool CommandsTest::isAmbiguous(const ModelSet& data, const std::string& folder) 
         const Json told = infoOf(each, folder);
         const Json wanted = readingOf(each);
         // There is a warning where a load takes another reading than accounts for all bytes.
-        if (told.at("ok") == true && told.at("warnings").empty() &&
-            readingIn(told, isText) == wanted)
+        if (told["ok"] == true && told["warnings"].empty() && readingIn(told, isText) == wanted)
             continue;
         isAmbiguous = true;
         bool isFound = false;
-        for (const Json& trial : told.at("why"))
-            isFound = isFound || (trial.at("misfit").is_null() &&
-                                  readingIn(trial.at("candidate"), isText) == wanted);
+        for (const Json& trial : told["why"])
+            isFound = isFound ||
+                      (trial["misfit"].isNull() && readingIn(trial["candidate"], isText) == wanted);
         EXPECT_TRUE(isFound) << each.name << " is no " << wanted << " for " << told.dump(1);
     }
     return isAmbiguous;

@@ -5,11 +5,10 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "program/commands/ModelSelection.h"
 #include "program/commands/ModelSet.h"
 #include "program/values/ValueFiles.h"
+#include "support/Json.h"
 
 namespace plot3d::program {
 
@@ -17,9 +16,6 @@ using Words = std::vector<std::string>;
 
 /// Random sets that each test draws.
 constexpr int setCount = 40;
-
-/// PLOT3D_TEST_SEED, or a new one; printed.
-std::uint64_t seedOfRun();
 
 class CommandsTest : public ValueFilesTest {
 protected:
@@ -38,7 +34,7 @@ protected:
     bool isAmbiguous(const ModelSet& data, const std::string& folder) const;
 
     /// `info` of one file, taken for what it is.
-    nlohmann::json infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const;
+    Json infoOf(const ModelFile_s& fileOfSet, const std::string& folder) const;
 
     /// Calls `check(data, draw, folder)` with random sets on disk that are not ambiguous.
     template <class Check>

@@ -14,7 +14,6 @@
 namespace plot3d::program {
 namespace {
 
-using Json = nlohmann::json;
 using writer::Encoding_e;
 
 /// The zones of one time that are selected.
@@ -238,10 +237,10 @@ class RandomIndices : public CommandsTest {
 protected:
     static void expectChunk(const Json& chunk, const std::string& type, const ModelSet& data,
                             const ModelVariable_s& variable, const ModelBox_s& box) {
-        std::ifstream in(chunk.at(0).get<std::string>(), std::ios::binary);
+        std::ifstream in(chunk[0].get<std::string>(), std::ios::binary);
         const std::size_t width = type.back() == '8' ? 8 : 4;
-        in.seekg(chunk.at(1).get<std::int64_t>());
-        ASSERT_EQ(chunk.at(2), box.count() * width);
+        in.seekg(chunk[1].get<std::int64_t>());
+        ASSERT_EQ(chunk[2], box.count() * width);
         std::string bytes(width, ' ');
         box.forEach([&](std::int64_t i, std::int64_t j, std::int64_t k) {
             in.read(bytes.data(), static_cast<std::streamsize>(width));
@@ -266,15 +265,16 @@ TEST_F(RandomIndices, LeadToTheOriginalBytes) {
             return; // some of it may be refused
         }
         ASSERT_EQ(run.code, 0) << run.err;
-        const Json refs = Json::parse(bytesOfFile(index)).at("refs");
+        const Json refs = Json::parse(bytesOfFile(index))["refs"];
         for (const ModelBox_s& box : boxes)
             for (const std::size_t which : selection.variables()) {
                 const ModelVariable_s& variable = data.variables()[which];
                 const std::string key = std::to_string(box.zone + 1) + "/" + variable.name;
                 ASSERT_TRUE(refs.contains(key + "/.zarray")) << key;
-                const Json facts = Json::parse(refs.at(key + "/.zarray").get<std::string>());
+                const Json facts = Json::parse(refs[key + "/.zarray"].get<std::string>());
                 const char* const chunk = data.isUnstructured() ? "/0" : "/0.0.0";
-                expectChunk(refs.at(key + chunk), facts.at("dtype"), data, variable, box);
+                expectChunk(refs[key + chunk], facts["dtype"].get<std::string>(), data, variable,
+                            box);
                 ++compared;
             }
     });

@@ -6,13 +6,11 @@
 #include <fstream>
 #include <sstream>
 
-#include <nlohmann/json.hpp>
-
 #include "program/app/Program.h" // the host has an app/Program.h, too
+#include "support/Json.h"
 
 namespace quorvia::testsupport {
 
-using nlohmann::json;
 using plot3dwriter::Encoding_e;
 using plot3dwriter::FileKind_e;
 using plot3dwriter::GridDims_s;
@@ -95,31 +93,31 @@ public:
           text_(folder + "/expected.json") {}
 
     void write(int coordinateCount, const std::vector<ExpectedZone_s>& zones) {
-        json all = json::array();
+        Json all = Json::array();
         for (std::size_t index = 0; index < zones.size(); ++index)
-            all.push_back(zone(zones[index], data_.zones()[index]));
-        json times = json::array();
+            all.add(zone(zones[index], data_.zones()[index]));
+        Json times = Json::array();
         for (const plot3d::TimeStep& step : data_.timeSteps())
-            times.push_back(step.time);
-        text_ << json({{"coordinates", coordinateCount}, {"times", times}, {"zones", all}});
+            times.add(step.time);
+        text_ << Json({{"coordinates", coordinateCount}, {"times", times}, {"zones", all}});
     }
 
 private:
-    json zone(const ExpectedZone_s& expected, const plot3d::Zone& facts) {
-        json fields = json::array();
+    Json zone(const ExpectedZone_s& expected, const plot3d::Zone& facts) {
+        Json fields = Json::array();
         for (std::size_t variable = 0; variable < expected.fields.size(); ++variable)
-            fields.push_back(field(expected.fields[variable], expected.size, variable));
-        json zone = {{"name", facts.name},
+            fields.add(field(expected.fields[variable], expected.size, variable));
+        Json zone = {{"name", facts.name},
                      {"time", facts.time},
                      {"strand", facts.strand},
                      {"size", expected.size},
                      {"fields", fields}};
         if (!expected.elements.empty())
-            zone["elements"] = expected.elements;
+            zone.set("elements", expected.elements);
         return zone;
     }
 
-    json field(const FieldExpectation_s& expected, const std::array<std::int64_t, 3>& size,
+    Json field(const FieldExpectation_s& expected, const std::array<std::int64_t, 3>& size,
                std::size_t variable) {
         const std::int64_t offset = values_.tellp();
         for (std::int64_t k = 0; k < size[2]; ++k)
@@ -164,6 +162,8 @@ int runProgram(const std::vector<std::string>& arguments, std::string* err) {
         *err = talk.str();
     return code;
 }
+
+ReadBackTest::ReadBackTest() : ReadBackTest(READ_BACK_SCRIPT) {}
 
 std::string ReadBackTest::folder(const std::string& name) const {
     std::filesystem::create_directory(directory_.path() / name);
@@ -224,8 +224,8 @@ void ReadBackTest::writeExpected(const std::string& folder, const plot3d::DataSe
 
 void ReadBackTest::expectReadBack(int fileCount, const std::string& argument) const {
     constexpr int moduleIsMissing = 77;
-    const std::string command = "/usr/bin/python3 " READ_BACK_SCRIPT " " +
-                                directory_.path().string() + " " + argument + " 2>&1";
+    const std::string command = "/usr/bin/python3 " + readers_ + " " + directory_.path().string() +
+                                " " + argument + " 2>&1";
     std::FILE* const pipe = popen(command.c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     std::string text;

@@ -5,6 +5,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,10 @@ int runProgram(const std::vector<std::string>& arguments, std::string* err = nul
 
 class ReadBackTest : public ::testing::Test {
 protected:
+    /// The readers are those of read_back.py, or another script and its first arguments.
+    ReadBackTest();
+    explicit ReadBackTest(std::string readers) : readers_(std::move(readers)) {}
+
     /// A folder of its own for a data set.
     std::string folder(const std::string& name) const;
     /// Writes the files of a row of the matrix into it.
@@ -53,6 +58,7 @@ protected:
     void expectReadBack(int fileCount, const std::string& argument = {}) const;
 
 private:
+    const std::string readers_;
     const TemporaryDirectory directory_;
     std::vector<std::unique_ptr<WrittenFile_s>> written_; // readings point into them
 };

@@ -1,17 +1,13 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "program/values/ValueFiles.h"
 
 namespace plot3d::program {
 namespace {
 
-using Json = nlohmann::json;
 using Words = std::vector<std::string>;
-
-const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};
 
 /// The values with one changed.
 Value changed(std::int32_t grid, std::int32_t variable, double by) {

@@ -2,13 +2,11 @@
 
 #include <fstream>
 
-#include <nlohmann/json.hpp>
-
 #include "plot3dwriter/Plot3DWriter.h"
+#include "support/Json.h"
 
 namespace quorvia::testsupport {
 
-using nlohmann::json;
 using plot3dwriter::FileDescription_s;
 using plot3dwriter::FileForm_s;
 using plot3dwriter::FileKind_e;
@@ -28,22 +26,24 @@ const char* wordOf(plot3d::ValueType type) {
     return "<f4";
 }
 
-json fieldsOf(const plot3d::DataSet& data, std::size_t zone, std::ofstream& values) {
-    json fields = json::array();
+Json fieldsOf(const plot3d::DataSet& data, std::size_t zone, std::ofstream& values) {
+    Json fields = Json::array();
     for (std::size_t variable = 0; variable < data.variables().size(); ++variable) {
         const plot3d::ValueType type = data.type(zone, variable);
         const std::int64_t count = data.zones()[zone].size.count() * plot3d::width(type);
         std::string bytes(static_cast<std::size_t>(count), '\0');
         data.read(zone, variable, bytes.data());
-        fields.push_back({{"name", data.variables()[variable].name},
-                          {"type", wordOf(type)},
-                          {"offset", static_cast<std::int64_t>(values.tellp())}});
+        fields.add({{"name", data.variables()[variable].name},
+                    {"type", wordOf(type)},
+                    {"offset", static_cast<std::int64_t>(values.tellp())}});
         values.write(bytes.data(), count);
     }
     return fields;
 }
 
 } // namespace
+
+IndexTest::IndexTest() : ReadBackTest(READ_INDEX_SCRIPT) {}
 
 int IndexTest::index(std::vector<std::string> arguments, const std::string& output,
                      std::string* err) {
@@ -56,20 +56,20 @@ void IndexTest::expectWhatTheLibraryFinds(const std::string& folder,
                                           const std::vector<std::string>& files) {
     const auto data = plot3d::DataSet::open(files);
     std::ofstream values(folder + "/expected.bin", std::ios::binary);
-    json zones = json::array();
+    Json zones = Json::array();
     for (std::size_t zone = 0; zone < data.zones().size(); ++zone) {
         const plot3d::Zone& facts = data.zones()[zone];
-        zones.push_back({{"name", facts.name},
-                         {"time", facts.time},
-                         {"strand", facts.strand},
-                         {"size", {facts.size.i, facts.size.j, facts.size.k}},
-                         {"fields", fieldsOf(data, zone, values)}});
+        zones.add({{"name", facts.name},
+                   {"time", facts.time},
+                   {"strand", facts.strand},
+                   {"size", {facts.size.i, facts.size.j, facts.size.k}},
+                   {"fields", fieldsOf(data, zone, values)}});
     }
-    json times = json::array();
+    Json times = Json::array();
     for (const plot3d::TimeStep& step : data.timeSteps())
-        times.push_back(step.time);
+        times.add(step.time);
     std::ofstream(folder + "/expected.json")
-        << json({{"coordinates", 3}, {"times", times}, {"zones", zones}});
+        << Json({{"coordinates", 3}, {"times", times}, {"zones", zones}});
 }
 
 std::vector<std::string> IndexTest::writePair(const std::string& folder) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "program/convert/ReadBack.h"
@@ -10,6 +11,10 @@ namespace quorvia::testsupport {
 
 class IndexTest : public ReadBackTest {
 protected:
+    /// The readers are those of read_index.py, or others, as with ReadBackTest.
+    IndexTest();
+    explicit IndexTest(std::string readers) : ReadBackTest(std::move(readers)) {}
+
     /// Runs plot3d index on the files; gives its exit code.
     static int index(std::vector<std::string> arguments, const std::string& output,
                      std::string* err = nullptr);

@@ -1,13 +1,15 @@
 // What ParaView finds through indexes: every row of the matrix that they can tell of, and several
 // zones and times on two ranks.
-#include "IndexFixture.h"
-#include "IndexRows.h"
+#include "program/index/IndexFixture.h"
+#include "program/index/IndexRows.h"
 
 namespace quorvia::testsupport {
 namespace {
 
 class ParaView : public IndexTest {
 protected:
+    ParaView() : IndexTest(READ_PARAVIEW_SCRIPT) {}
+
     /// Steps of two grids, in a folder of that name.
     void indexSeries(const std::string& name, bool moves, const std::vector<std::string>& endings) {
         const std::string where = folder(name);

@@ -5,16 +5,11 @@
 #include <map>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "program/values/ValueFiles.h"
 
 namespace plot3d::program {
 namespace {
-
-using Json = nlohmann::json;
-
-const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};
 
 std::int32_t oneHole(std::int32_t grid, std::int32_t i, std::int32_t j, std::int32_t k) {
     return grid == 1 && i == 0 && j == 0 && k == 0 ? 0 : i == 1 ? 2 : 1;
@@ -38,8 +33,8 @@ protected:
         EXPECT_EQ(run.code, 0) << run.err;
         std::map<std::string, Json> variables;
         const Json whole = Json::parse(run.out);
-        for (const Json& variable : whole.at("variables"))
-            variables[variable.at("name")] = variable;
+        for (const Json& variable : whole["variables"])
+            variables[variable["name"].get<std::string>()] = variable;
         return variables;
     }
 
@@ -133,8 +128,8 @@ TEST_F(StatsCommandTest, HasNothingToTellWhereNoValueCounts) {
     const Json variable = toldOfFunction({{3, 2, 2}}, [](auto...) { return double(NAN); },
                                          {"--percentiles", "50", "--histogram"});
     for (const char* key : {"min", "max", "minAt", "maxAt", "mean", "deviation", "histogram"})
-        EXPECT_TRUE(variable[key].is_null()) << key;
-    EXPECT_TRUE(variable["percentiles"][0]["value"].is_null());
+        EXPECT_TRUE(variable[key].isNull()) << key;
+    EXPECT_TRUE(variable["percentiles"][0]["value"].isNull());
     EXPECT_EQ(stats({file("a.x"), file("a.f")}).code, 0);
 }
 
@@ -196,7 +191,7 @@ Json fieldsByHost(const std::string& files) {
     for (int letter = std::fgetc(pipe); letter != EOF; letter = std::fgetc(pipe))
         text += static_cast<char>(letter);
     EXPECT_EQ(pclose(pipe), 0);
-    return Json::parse(text).at("dataSet").at("zones");
+    return Json::parse(text)["dataSet"]["zones"];
 }
 
 TEST_F(StatsCommandTest, HashesToTheChecksumsOfTheHost) {
@@ -205,7 +200,7 @@ TEST_F(StatsCommandTest, HashesToTheChecksumsOfTheHost) {
     const auto q = write("b.q", solutionFile(twoSizes, randomValues(4)), form);
     const Json zones = fieldsByHost(x + " " + q);
     std::size_t number = 0;
-    const Json told = Json::parse(stats({x, q, "--hash", "--json"}).out).at("variables");
+    const Json told = Json::parse(stats({x, q, "--hash", "--json"}).out)["variables"];
     EXPECT_EQ(told.size(), 9U);
     for (const Json& variable : told) {
         for (std::size_t zone = 0; zone < 2; ++zone)

@@ -1,5 +1,9 @@
 #include "program/values/ValueFiles.h"
 
+#include <cstdlib>
+#include <iostream>
+#include <random>
+
 namespace plot3d::program {
 namespace {
 
@@ -20,6 +24,14 @@ writer::FileDescription_s severalGrids(writer::FileKind_e kind, const Sizes& siz
 }
 
 } // namespace
+
+std::uint64_t seedOfRun() {
+    const char* const given = std::getenv("PLOT3D_TEST_SEED");
+    const std::uint64_t seed =
+        given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
+    std::cout << "PLOT3D_TEST_SEED=" << seed << '\n';
+    return seed;
+}
 
 std::uint32_t dice(std::uint64_t seed, std::int64_t a, std::int64_t b, std::int64_t c,
                    std::int64_t d, std::int64_t e) {

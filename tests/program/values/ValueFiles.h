@@ -11,6 +11,7 @@
 
 #include "program/ProgramRun.h"
 #include "support/BytesOfFile.h"
+#include "support/Json.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryDirectory.h"
 
@@ -25,7 +26,13 @@ using Sizes = quorvia::testsupport::GridList;
 using quorvia::testsupport::binary;
 using quorvia::testsupport::bytesOfFile;
 using quorvia::testsupport::formOf;
+using quorvia::testsupport::Json;
 
+/// Of two grids.
+inline const Sizes twoSizes = {{7, 5, 3}, {2, 3, 5}};
+
+/// PLOT3D_TEST_SEED, or a new one; printed.
+std::uint64_t seedOfRun();
 /// 32 random bits that hang on the arguments alone.
 std::uint32_t dice(std::uint64_t seed, std::int64_t a, std::int64_t b = 0, std::int64_t c = 0,
                    std::int64_t d = 0, std::int64_t e = 0);

@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include <gtest/gtest.h>
+
+#include "support/Json.h"
 
 namespace plot3d::program {
 
@@ -19,6 +19,7 @@ struct PlainValue_s {
 
 /// Whether `told`, the JSON of a variable or a zone, is what the values come to: counts, extremes
 /// and their places to the letter, mean and deviation to twelve digits.
-testing::AssertionResult tells(const nlohmann::json& told, const std::vector<PlainValue_s>& values);
+testing::AssertionResult tells(const quorvia::testsupport::Json& told,
+                               const std::vector<PlainValue_s>& values);
 
 } // namespace plot3d::program

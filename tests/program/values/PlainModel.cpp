@@ -1,4 +1,4 @@
-#include "program/stats/PlainModel.h"
+#include "program/values/PlainModel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,7 +6,7 @@
 namespace plot3d::program {
 namespace {
 
-using Json = nlohmann::json;
+using quorvia::testsupport::Json;
 using Values = std::vector<PlainValue_s>;
 
 std::int64_t countIf(const Values& values, bool (*is)(const PlainValue_s&)) {
@@ -51,7 +51,7 @@ bool isNear(const Json& told, long double expected, long double scale) {
 
 bool momentsAgree(const Json& told, const Values& counting) {
     if (counting.empty())
-        return told.at("mean").is_null() && told.at("deviation").is_null();
+        return told["mean"].isNull() && told["deviation"].isNull();
     long double sum = 0;
     long double size = 0;
     for (const PlainValue_s& value : counting) {
@@ -62,8 +62,8 @@ bool momentsAgree(const Json& told, const Values& counting) {
     long double squares = 0;
     for (const PlainValue_s& value : counting)
         squares += (value.value - sum / count) * (value.value - sum / count);
-    return isNear(told.at("mean"), sum / count, size) &&
-           isNear(told.at("deviation"), std::sqrt(squares / count), size);
+    return isNear(told["mean"], sum / count, size) &&
+           isNear(told["deviation"], std::sqrt(squares / count), size);
 }
 
 } // namespace
@@ -71,19 +71,21 @@ bool momentsAgree(const Json& told, const Values& counting) {
 testing::AssertionResult tells(const Json& told, const Values& values) {
     const Values counting = countingOf(values);
     Json expected = extremes(counting);
-    expected["count"] = counting.size();
-    expected["blanked"] = countIf(values, [](const PlainValue_s& v) { return v.isBlanked; });
-    expected["nan"] =
-        countIf(values, [](const PlainValue_s& v) { return !v.isBlanked && std::isnan(v.value); });
-    expected["infinite"] =
-        countIf(values, [](const PlainValue_s& v) { return !v.isBlanked && std::isinf(v.value); });
-    for (const auto& [key, value] : expected.items())
-        if (told.at(key) != value)
+    expected.set("count", counting.size());
+    expected.set("blanked", countIf(values, [](const PlainValue_s& v) { return v.isBlanked; }));
+    expected.set("nan", countIf(values, [](const PlainValue_s& v) {
+                     return !v.isBlanked && std::isnan(v.value);
+                 }));
+    expected.set("infinite", countIf(values, [](const PlainValue_s& v) {
+                     return !v.isBlanked && std::isinf(v.value);
+                 }));
+    for (const std::string& key : expected.names())
+        if (told[key] != expected[key])
             return testing::AssertionFailure()
-                   << key << " is " << told.at(key) << " and should be " << value;
+                   << key << " is " << told[key] << " and should be " << expected[key];
     if (!momentsAgree(told, counting))
-        return testing::AssertionFailure() << "mean " << told.at("mean") << " or deviation "
-                                           << told.at("deviation") << " is wrong";
+        return testing::AssertionFailure()
+               << "mean " << told["mean"] << " or deviation " << told["deviation"] << " is wrong";
     return testing::AssertionSuccess();
 }
 
