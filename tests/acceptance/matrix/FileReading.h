@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "acceptance/matrix/MatrixCase.h"
-#include "support/FieldExpectation.h"
 #include "plot3dwriter/Plot3DWriter.h"
+#include "support/FieldExpectation.h"
 
 namespace quorvia::testsupport {
 

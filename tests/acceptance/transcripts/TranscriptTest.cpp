@@ -11,9 +11,7 @@ namespace {
 /// Files lie in the working directory, so that no transcript holds the name of a machine's folder.
 class TranscriptOfLoad : public LoadedAddOnTest {
 protected:
-    void SetUp() override {
-        std::filesystem::current_path(directory().path());
-    }
+    void SetUp() override { std::filesystem::current_path(directory().path()); }
     void TearDown() override {
         std::filesystem::current_path(startFolder_);
         LoadedAddOnTest::TearDown();
