@@ -1,6 +1,7 @@
 #include "faults/Session.h"
 
 #include <filesystem>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -50,9 +51,9 @@ host::ScriptEntry untilAMessage(host::ScriptEntry entry) {
     const auto* step = std::get_if<host::DialogStep>(&entry);
     if (step == nullptr)
         return entry;
-    return host::DialogStep([step = *step, before = messagesSent()](const host::Dialog_s& dialog) {
+    return host::DialogStep([step = *step, before = messagesShown()](const host::Dialog_s& dialog) {
         const FaultPause pause;
-        if (messagesSent() == before)
+        if (messagesShown() == before)
             return step(dialog);
         return host::DialogMove_s{host::PressDialogButton_s{host::DialogButton_e::Cancel}, "",
                                   false};
@@ -243,6 +244,10 @@ void Sessions::addSelections() {
          ToggleAction_s{"Multi-Grid", true}, RadioAction_s{"3-D Whole"},
          ShowPageAction_s{"Data Subset"}, TypeAction_s{"2", "Grid Set"},
          TypeAction_s{"2", "I-Index Skip"}, PressAction_s{"OK", {}}})};
+}
+
+std::int64_t messagesShown() {
+    return messagesSent() + std::ssize(theHost().log().messages);
 }
 
 } // namespace quorvia::testsupport

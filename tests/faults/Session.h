@@ -40,6 +40,10 @@ struct Session_s {
     std::size_t zonesWithoutBoundaries = 0;
 };
 
+/// Grows with each message that the user is shown, the toolkit's own among them; one of the
+/// add-on's counts also if the host has no memory to keep it.
+std::int64_t messagesShown();
+
 /// Writes the files of all sessions. They and the sessions are good as long as it lives.
 class Sessions {
 public:

@@ -151,7 +151,7 @@ void FaultyPlay::playSteps() {
 }
 
 Ending_s FaultyPlay::run(const Step_s& step, const Standing_s& expected) {
-    const std::int64_t messagesBefore = messagesSent();
+    const std::int64_t messagesBefore = messagesShown();
     const std::size_t textsBefore = playingHost().log().progress.count();
     Ending_s ending;
     try {
@@ -164,7 +164,7 @@ Ending_s FaultyPlay::run(const Step_s& step, const Standing_s& expected) {
         ending.hostError = "the program's own memory ran out";
     }
     const FaultPause pause;
-    ending.told = !ending.hostError.empty() || messagesSent() - messagesBefore > expected.messages;
+    ending.told = !ending.hostError.empty() || messagesShown() - messagesBefore > expected.messages;
     if (playingHost().log().progress.count() > textsBefore)
         ending.lastText = playingHost().log().progress.texts().back();
     return ending;
@@ -249,13 +249,13 @@ Reference playWithoutFaults(const Session_s& session) {
     if (library == nullptr)
         throw std::runtime_error(error);
     for (const Step_s& step : session.steps) {
-        const std::int64_t messagesBefore = messagesSent();
+        const std::int64_t messagesBefore = messagesShown();
         const host::LoadResult_s result = step.run();
         if (!result.ok)
             throw std::runtime_error(session.name + ", " + step.name + ": " + result.hostError +
                                      allMessages());
         Standing_s standing = takeStanding();
-        standing.messages = messagesSent() - messagesBefore;
+        standing.messages = messagesShown() - messagesBefore;
         reference.push_back(std::move(standing));
     }
     playingHost().frame().reset();

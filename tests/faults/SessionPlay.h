@@ -18,7 +18,7 @@ struct Standing_s {
     std::optional<host::DataSetOutcome_s> dataSet; // with the statistics and CRC-32 of every field
     std::int32_t plotType = 0;
     Texts instructions;
-    std::int64_t messages = 0; // sent by the add-on in this step
+    std::int64_t messages = 0; // by messagesShown, in this step
 
     /// But for the messages.
     friend bool operator==(const Standing_s& left, const Standing_s& right) {
