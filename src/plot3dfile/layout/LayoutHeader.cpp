@@ -41,12 +41,19 @@ std::int64_t mostGrids(const Plot3DFile_s& file) {
            static_cast<std::int64_t>(leastBytesPerGrid);
 }
 
+/// A repeat token stands for billions in a few characters, also where it is left open how long the
+/// file should be.
+bool isBlownUp(const Plot3DFile_s& file) {
+    return file.encoding == Plot3DEncoding_Ascii && file.numGrids > file.stream->size();
+}
+
 bool readGridCount(Plot3DFile_s& file) {
     file.numGrids = 1;
     if (file.isMultiGrid && !readIntegerRecord(file, 1, &file.numGrids))
         return false;
     // A wrong byte order makes counts in the billions: they must end here, ahead of any long loop.
-    if (file.numGrids > 0 && static_cast<double>(file.fileSize) > file.numGrids * leastBytesPerGrid)
+    if (file.numGrids > 0 &&
+        static_cast<double>(file.fileSize) > file.numGrids * leastBytesPerGrid && !isBlownUp(file))
         return true;
     return refuseReading(file, Plot3DMisfit_e::GridCount, mostGrids(file), file.numGrids);
 }

@@ -133,6 +133,15 @@ TEST_F(CountedReads, TellProgressAndStopFromWithinIt) {
     EXPECT_EQ(calls, 1);
 }
 
+// A repeat token promises billions in a few characters; a header of so many grids would be walked
+// through for each reading, and fill the memory.
+TEST_F(CountedReads, TextIsNoFileOfMoreGridsThanItHasBytes) {
+    for (const char* name : {"wing.x", "wing.q", "wing.f"}) {
+        disk.put(name, "300000\n300000*1 300000*1 300000*1\n1.0 2.0 3.0\n");
+        EXPECT_LE(std::ssize(inspect(name, {}).grids), 1) << name;
+    }
+}
+
 // ---- Random files -------------------------------------------------------------------------------
 
 /// Files that nobody would write. The seed is printed, and taken from PLOT3D_TEST_SEED.
