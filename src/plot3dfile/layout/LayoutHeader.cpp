@@ -42,9 +42,12 @@ std::int64_t mostGrids(const Plot3DFile_s& file) {
 }
 
 /// A repeat token stands for billions in a few characters, also where it is left open how long the
-/// file should be.
+/// file should be. A size that the system does not tell refuses nothing.
 bool isBlownUp(const Plot3DFile_s& file) {
-    return file.encoding == Plot3DEncoding_Ascii && file.numGrids > file.stream->size();
+    if (file.encoding != Plot3DEncoding_Ascii)
+        return false;
+    const std::int64_t byteCount = file.stream->size();
+    return byteCount >= 0 && file.numGrids > byteCount;
 }
 
 bool readGridCount(Plot3DFile_s& file) {
