@@ -1,6 +1,7 @@
 #include "app/Pages.h"
 
 #include "app/CommandLine.h"
+#include "console/options/OptionText.h"
 
 namespace plot3d::program {
 CommandPage_s pageOf(const Command& command, const console::OptionParser& parser) {

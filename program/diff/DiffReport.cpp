@@ -164,7 +164,8 @@ std::vector<VariableDifference_s> byVariable(const DiffReport_s& report) {
     std::vector<VariableDifference_s> variables;
     std::size_t pair = 0;
     for (const SharedVariable_s& variable : report.plan.variables) {
-        VariableDifference_s& added = variables.emplace_back(variable);
+        VariableDifference_s& added =
+            variables.emplace_back(VariableDifference_s{variable, {}, {}});
         for (;
              pair < report.found.size() && report.plan.pairs[pair].firstVariable == variable.first;
              ++pair) {

@@ -300,9 +300,8 @@ private:
         TextGrid high({{"variable"}, {"zone", right}, {"percentile", right}, {"value", right}});
         for (std::size_t index = 0; index < report_.wishes.percentiles.size(); ++index) {
             const std::string percent = fmt::format("{}%", report_.wishes.percentiles[index]);
-            wide.push_back({percent, right, [this, index](const Row_s& row) {
-                                return percentileText(row, index);
-                            }});
+            wide.push_back(
+                {percent, right, [index](const Row_s& row) { return percentileText(row, index); }});
         }
         const TextGrid grid = gridOf(wide, [](const Row_s&) { return true; });
         for (const Row_s& row : rows_)

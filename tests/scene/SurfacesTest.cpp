@@ -1,5 +1,6 @@
 // Surfaces of zones as plain arrays.
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 #include "SceneFixture.h"
