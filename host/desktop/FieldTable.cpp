@@ -5,7 +5,7 @@
 
 #include <plot3d/Error.h>
 
-#include "blocks/BlockSplit.h"
+#include "analysis/fields/BlockSplit.h"
 #include "desktop/Texts.h"
 
 namespace quorvia::host {
@@ -154,7 +154,7 @@ FieldTable::Copier FieldTable::copierOf(const CellRange_s& cells) const {
         const plot3d::ValueType type = data->type(zone, variable);
         const std::int64_t width = std::int64_t{cells.lastColumn} - cells.firstColumn + 1;
         std::int64_t done = 0;
-        for (const plot3d::Box& part : plot3d::program::blocksOf(box, valuesReadAtOnce)) {
+        for (const plot3d::Box& part : plot3d::analysis::blocksOf(box, valuesReadAtOnce)) {
             watch.progress(
                 {"Copying", static_cast<double>(done) / static_cast<double>(cells.count()), -1});
             if (watch.stop.stop_requested())

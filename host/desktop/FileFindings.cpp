@@ -5,14 +5,14 @@
 
 #include <QSignalBlocker>
 
+#include "analysis/findings/Findings.h"
 #include "desktop/Texts.h"
 #include "desktop/TreeItems.h"
-#include "findings/Findings.h"
 
 namespace quorvia::host {
 namespace {
 
-using plot3d::program::Finding_s;
+using plot3d::analysis::Finding_s;
 
 QTreeWidgetItem* addLine(QTreeWidgetItem* parent, const QString& name, const QString& details) {
     auto* item = new QTreeWidgetItem(parent);
@@ -67,7 +67,7 @@ void FileFindings::lookFrom(std::size_t place) {
 void FileFindings::showFindings(std::size_t place, const plot3d::FileInfo& info) {
     const QSignalBlocker silence(&tree_);
     QTreeWidgetItem* file = list_->child(static_cast<int>(place));
-    const auto findings = plot3d::program::findingsOf(info, plot3d::program::Lists_e::Whole);
+    const auto findings = plot3d::analysis::findingsOf(info, plot3d::analysis::Lists_e::Whole);
     file->setText(detailsColumn, shown(findings.front().text));
     file->setToolTip(detailsColumn, shown(findings.front().text));
     for (std::size_t line = 1; line < findings.size(); ++line)

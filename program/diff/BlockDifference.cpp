@@ -81,7 +81,7 @@ private:
 
     static void placed(Pair_s& pair, std::size_t place, std::size_t zone, const Box& box) {
         pair.zone = zone;
-        pair.point = pointAt(box, static_cast<std::int64_t>(place));
+        pair.point = analysis::pointAt(box, static_cast<std::int64_t>(place));
     }
 
     const Tolerance_s& tolerance_;

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-#include "blocks/BlockSplit.h"
+#include "analysis/fields/BlockSplit.h"
 
 namespace plot3d::program {
 
@@ -19,8 +19,8 @@ struct Tolerance_s {
 struct Pair_s {
     double first = 0;
     double second = 0;
-    std::size_t zone = 0; // from 0
-    Point_s point;        // from 0
+    std::size_t zone = 0;    // from 0
+    analysis::Point_s point; // from 0
 
     bool operator==(const Pair_s&) const = default;
 };

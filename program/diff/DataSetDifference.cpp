@@ -45,11 +45,11 @@ public:
     DiffPlan_s plan() {
         compareZoneCounts();
         matchVariables();
-        for (const SelectedZone_s& zone : selection_.zones)
+        for (const analysis::SelectedZone_s& zone : selection_.zones)
             if (zone.zone < second_.zones().size() && areAlike(zone.zone))
                 comparable_.push_back(zone);
         for (const SharedVariable_s& variable : plan_.variables)
-            for (const SelectedZone_s& zone : comparable_)
+            for (const analysis::SelectedZone_s& zone : comparable_)
                 addPair(variable, zone);
         return std::move(plan_);
     }
@@ -125,7 +125,7 @@ private:
                distance <= std::max(tolerance_.relative, 1e-6) * size;
     }
 
-    void addPair(const SharedVariable_s& variable, const SelectedZone_s& zone) {
+    void addPair(const SharedVariable_s& variable, const analysis::SelectedZone_s& zone) {
         const bool isInFirst = first_.kind(zone.zone, variable.first) != FieldKind::Empty;
         const bool isInSecond = second_.kind(zone.zone, variable.second) != FieldKind::Empty;
         if (isInFirst && isInSecond)
@@ -140,7 +140,7 @@ private:
     const DiffSelection_s& selection_;
     const Tolerance_s& tolerance_;
     DiffPlan_s plan_;
-    std::vector<SelectedZone_s> comparable_;
+    std::vector<analysis::SelectedZone_s> comparable_;
 };
 
 } // namespace

@@ -8,8 +8,8 @@
 
 #include <plot3d/DataSet.h>
 
+#include "analysis/fields/SelectedZone.h"
 #include "diff/FieldComparison.h"
-#include "selection/SelectedZone.h"
 
 namespace plot3d::program {
 
@@ -32,7 +32,7 @@ struct SharedVariable_s {
 /// What is compared of the first data set; the same zones are taken of the second.
 struct DiffSelection_s {
     std::vector<std::size_t> variables;
-    std::vector<SelectedZone_s> zones;
+    std::vector<analysis::SelectedZone_s> zones;
     /// Everything is selected, so that what the second has beyond the first counts.
     bool isWhole = true;
 };

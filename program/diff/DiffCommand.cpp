@@ -9,7 +9,7 @@
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
 
-#include "blocks/DataSetFields.h"
+#include "analysis/fields/DataSetFields.h"
 #include "console/options/OptionTable.h"
 #include "manners/FileList.h"
 #include "manners/ProgressWatch.h"
@@ -167,8 +167,8 @@ int DiffCommand::run(const Surroundings_s& surroundings) {
     const DiffPlan_s plan = planOf(first, second, selectionIn(first), tolerance_);
     ProgressWatch progress(surroundings);
     const auto found = compare(
-        DataSetFields(first), DataSetFields(second), plan.pairs, tolerance_,
-        threads_ > 0 ? threads_ : coreCount(),
+        analysis::DataSetFields(first), analysis::DataSetFields(second), plan.pairs, tolerance_,
+        threads_ > 0 ? threads_ : analysis::coreCount(),
         {[&](double fraction) { progress.show(fraction, "Comparing values"); }, surroundings.stop});
     progress.clear();
     const DiffReport_s report = {plan, found, tolerance_, first.zones().size() > 1};

@@ -4,8 +4,8 @@
 #include <mutex>
 #include <tuple>
 
-#include "blocks/BlockSplit.h"
-#include "blocks/ValueTypes.h"
+#include "analysis/fields/BlockSplit.h"
+#include "analysis/fields/ValueTypes.h"
 
 namespace plot3d::program {
 namespace {
@@ -21,25 +21,26 @@ struct Stretch_s {
 
 /// Room of one core.
 struct Rooms_s {
-    BlockRoom first;
-    BlockRoom second;
+    analysis::BlockRoom first;
+    analysis::BlockRoom second;
 };
 
 class Comparison {
 public:
-    Comparison(const Fields& first, const Fields& second, const std::vector<FieldPair_s>& pairs,
-               const Tolerance_s& tolerance, std::stop_token stop)
+    Comparison(const analysis::Fields& first, const analysis::Fields& second,
+               const std::vector<FieldPair_s>& pairs, const Tolerance_s& tolerance,
+               std::stop_token stop)
         : first_(first), second_(second), pairs_(pairs), tolerance_(tolerance),
           stop_(std::move(stop)), result_(pairs.size()), sameAs_(pairs.size()) {
         planStretches();
     }
 
-    std::vector<FieldDifference_s> compareAll(int threads, const WorkWatch_s& watch) {
+    std::vector<FieldDifference_s> compareAll(int threads, const analysis::WorkWatch_s& watch) {
         std::vector<Rooms_s> rooms(static_cast<std::size_t>(threads));
         const auto compareOne = [&](std::size_t index, std::size_t worker) {
             tryCompare(stretches_[index], rooms[worker]);
         };
-        inParallel(stretches_.size(), threads, compareOne, watch);
+        analysis::inParallel(stretches_.size(), threads, compareOne, watch);
         for (const Stretch_s& stretch : stretches_)
             result_[stretch.pair].difference.add(stretch.difference);
         for (std::size_t pair = 0; pair < result_.size(); ++pair)
@@ -58,7 +59,7 @@ private:
                              second_.holder(pair.zone, pair.secondVariable), pair.secondVariable};
             sameAs_[index] = known.try_emplace(key, index).first->second;
             if (sameAs_[index] == index)
-                for (const Box& box : blocksOf(pair.box, pointsOfStretch))
+                for (const Box& box : analysis::blocksOf(pair.box, analysis::pointsOfStretch))
                     stretches_.push_back({index, box, {}});
         }
     }
@@ -80,18 +81,19 @@ private:
         const FieldPair_s& pair = pairs_[stretch.pair];
         const auto first = first_.open(pair.zone, pair.firstVariable);
         const auto second = second_.open(pair.zone, pair.secondVariable);
-        for (const Box& box : blocksOf(stretch.box, pointsOfBlock)) {
-            withValueOf(first_.type(pair.zone, pair.firstVariable), [&]<typename First>(First) {
-                withValueOf(
-                    second_.type(pair.zone, pair.secondVariable), [&]<typename Second>(Second) {
-                        const std::span<First> ours = rooms.first.of<First>(box.count());
-                        const std::span<Second> theirs = rooms.second.of<Second>(box.count());
-                        first->read(box, ours.data(), stop_);
-                        second->read(box, theirs.data(), stop_);
-                        stretch.difference.add(
-                            differenceOf<First, Second>(ours, theirs, tolerance_, pair.zone, box));
-                    });
-            });
+        for (const Box& box : analysis::blocksOf(stretch.box, pointsOfBlock)) {
+            analysis::withValueOf(
+                first_.type(pair.zone, pair.firstVariable), [&]<typename First>(First) {
+                    analysis::withValueOf(
+                        second_.type(pair.zone, pair.secondVariable), [&]<typename Second>(Second) {
+                            const std::span<First> ours = rooms.first.of<First>(box.count());
+                            const std::span<Second> theirs = rooms.second.of<Second>(box.count());
+                            first->read(box, ours.data(), stop_);
+                            second->read(box, theirs.data(), stop_);
+                            stretch.difference.add(differenceOf<First, Second>(
+                                ours, theirs, tolerance_, pair.zone, box));
+                        });
+                });
         }
     }
 
@@ -106,8 +108,8 @@ private:
             at->zone = pairs_[pair].zone;
     }
 
-    const Fields& first_;
-    const Fields& second_;
+    const analysis::Fields& first_;
+    const analysis::Fields& second_;
     const std::vector<FieldPair_s>& pairs_;
     const Tolerance_s& tolerance_;
     std::stop_token stop_;
@@ -119,10 +121,11 @@ private:
 
 } // namespace
 
-std::vector<FieldDifference_s> compare(const Fields& first, const Fields& second,
+std::vector<FieldDifference_s> compare(const analysis::Fields& first,
+                                       const analysis::Fields& second,
                                        const std::vector<FieldPair_s>& pairs,
                                        const Tolerance_s& tolerance, int threads,
-                                       const WorkWatch_s& watch) {
+                                       const analysis::WorkWatch_s& watch) {
     return Comparison(first, second, pairs, tolerance, watch.stop).compareAll(threads, watch);
 }
 

@@ -7,8 +7,8 @@
 
 #include <plot3d/Error.h>
 
-#include "blocks/Fields.h"
-#include "blocks/ParallelWork.h"
+#include "analysis/fields/Fields.h"
+#include "analysis/fields/ParallelWork.h"
 #include "diff/BlockDifference.h"
 
 namespace plot3d::program {
@@ -29,9 +29,10 @@ struct FieldDifference_s {
 
 /// One result for each pair, in their order. Fields that zones share are compared once. Throws
 /// plot3d::Error (Interrupted).
-std::vector<FieldDifference_s> compare(const Fields& first, const Fields& second,
+std::vector<FieldDifference_s> compare(const analysis::Fields& first,
+                                       const analysis::Fields& second,
                                        const std::vector<FieldPair_s>& pairs,
                                        const Tolerance_s& tolerance, int threads,
-                                       const WorkWatch_s& watch = {});
+                                       const analysis::WorkWatch_s& watch = {});
 
 } // namespace plot3d::program

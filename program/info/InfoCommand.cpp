@@ -92,7 +92,7 @@ std::size_t InfoCommand::inspectAll(const std::vector<std::string>& files,
 
 std::size_t InfoCommand::showText(const std::vector<std::string>& files,
                                   const Surroundings_s& surroundings) const {
-    const Lists_e lists = all_ ? Lists_e::Whole : Lists_e::Shortened;
+    const analysis::Lists_e lists = all_ ? analysis::Lists_e::Whole : analysis::Lists_e::Shortened;
     bool isFirst = true;
     return inspectAll(files, surroundings, [&](const FileInfo& info) {
         surroundings.out << (isFirst ? "" : "\n");

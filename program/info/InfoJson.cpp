@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "findings/InfoWords.h"
+#include "analysis/findings/InfoWords.h"
 
 namespace plot3d::program {
 namespace {
@@ -14,7 +14,8 @@ using console::JsonStream;
 
 template <typename Value>
 void word(JsonStream& json, std::string_view key, const std::optional<Value>& value) {
-    json.member(key, value ? std::optional(std::string_view(wordOf(*value))) : std::nullopt);
+    json.member(key,
+                value ? std::optional(std::string_view(analysis::wordOf(*value))) : std::nullopt);
 }
 
 /// Texts that are not known are null.
@@ -87,8 +88,8 @@ void writeProblem(JsonStream& json, const FileProblem& problem) {
 void writeCandidate(JsonStream& json, const Candidate& candidate, bool isText) {
     json.key("candidate");
     json.beginObject();
-    json.member("kind", wordOf(candidate.kind));
-    json.member("layout", wordOf(candidate.layout));
+    json.member("kind", analysis::wordOf(candidate.kind));
+    json.member("layout", analysis::wordOf(candidate.layout));
     word(json, "style", candidate.style);
     json.member("multiGrid", candidate.multiGrid);
     json.member("iBlank", candidate.iBlank);
@@ -160,7 +161,7 @@ void writeFile(JsonStream& json, const FileInfo& info) {
     json.key("alsoFits");
     json.beginList();
     for (const FileKind kind : info.alsoFits)
-        json.value(wordOf(kind));
+        json.value(analysis::wordOf(kind));
     json.endList();
     writeTexts(json, "names", info.names);
     json.endObject();

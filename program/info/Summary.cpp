@@ -50,17 +50,18 @@ private:
     console::Paint_s paint_;
 };
 
-Colour_e colourOf(Finding_s::Kind_e kind) {
-    return kind == Finding_s::Kind_e::Warning ? Colour_e::Yellow : Colour_e::Red;
+Colour_e colourOf(analysis::Finding_s::Kind_e kind) {
+    return kind == analysis::Finding_s::Kind_e::Warning ? Colour_e::Yellow : Colour_e::Red;
 }
 
 } // namespace
 
-void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings) {
+void printSummary(const FileInfo& info, analysis::Lists_e lists,
+                  const Surroundings_s& surroundings) {
     Sheet sheet(surroundings);
     sheet.title(info.file);
-    for (const Finding_s& finding : findingsOf(info, lists)) {
-        if (finding.kind == Finding_s::Kind_e::Fact)
+    for (const analysis::Finding_s& finding : analysis::findingsOf(info, lists)) {
+        if (finding.kind == analysis::Finding_s::Kind_e::Fact)
             sheet.line(finding.label, finding.text);
         else
             sheet.line(finding.label, colourOf(finding.kind), finding.text);

@@ -3,11 +3,12 @@
 
 #include <plot3d/FileInfo.h>
 
-#include "findings/Findings.h"
+#include "analysis/findings/Findings.h"
 #include "manners/Command.h"
 
 namespace plot3d::program {
 
-void printSummary(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
+void printSummary(const FileInfo& info, analysis::Lists_e lists,
+                  const Surroundings_s& surroundings);
 
 } // namespace plot3d::program

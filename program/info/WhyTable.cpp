@@ -9,8 +9,8 @@
 
 #include <fmt/core.h>
 
+#include "analysis/findings/InfoWords.h"
 #include "console/TextGrid.h"
-#include "findings/InfoWords.h"
 
 namespace plot3d::program {
 namespace {
@@ -130,10 +130,10 @@ std::string numberText(const Row_s& row) {
 
 /// "solution Classic, 3-D whole, single, 32-bit big".
 std::string readingText(const Row_s& row, const Candidate& candidate, const FileInfo& info) {
-    std::string text = wordOf(candidate.kind);
+    std::string text = analysis::wordOf(candidate.kind);
     if (candidate.style && candidate.kind == FileKind::Solution)
-        text += fmt::format(" {}", wordOf(*candidate.style));
-    text += fmt::format(", {}, {}", captionOf(candidate.layout),
+        text += fmt::format(" {}", analysis::wordOf(*candidate.style));
+    text += fmt::format(", {}, {}", analysis::captionOf(candidate.layout),
                         candidate.multiGrid ? "multi-grid" : "single grid");
     if (row.hasBothBlanks)
         text += ", any I-blank";
@@ -143,7 +143,7 @@ std::string readingText(const Row_s& row, const Candidate& candidate, const File
         text +=
             row.hasBothPrecisions ? ", any reals" : fmt::format(", {}-bit", candidate.precision);
     if (candidate.byteOrder && info.encoding == Encoding::Binary) // of records it is known ahead
-        text += fmt::format(", {}-endian", wordOf(*candidate.byteOrder));
+        text += fmt::format(", {}-endian", analysis::wordOf(*candidate.byteOrder));
     if (candidate.relaxed)
         text += ", longer records allowed";
     return text;
@@ -151,10 +151,10 @@ std::string readingText(const Row_s& row, const Candidate& candidate, const File
 
 } // namespace
 
-void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings) {
+void printWhy(const FileInfo& info, analysis::Lists_e lists, const Surroundings_s& surroundings) {
     if (info.trials.empty())
         return;
-    const bool isWhole = lists == Lists_e::Whole;
+    const bool isWhole = lists == analysis::Lists_e::Whole;
     std::vector<KindRows_s> kinds =
         rowsByKind(isWhole ? allRowsOf(info.trials) : shortRowsOf(info.trials), info.trials);
     Grid table({{"tried", Grid::Align_e::Right},
@@ -168,14 +168,14 @@ void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroun
             const Trial& trial = info.trials[row.first];
             const char* const fits = isTaken ? "none: fits, too" : "none: fits";
             table.addRow({numberText(row), readingText(row, trial.candidate, info),
-                          trial.misfit ? misfitText(*trial.misfit) : fits});
+                          trial.misfit ? analysis::misfitText(*trial.misfit) : fits});
             isTaken = isTaken || !trial.misfit;
         }
         if (kind.readingsLeftOut > 0)
-            table.addRow(
-                {"...",
-                 fmt::format("{} more as a {} file", kind.readingsLeftOut, wordOf(kind.kind)),
-                 "nearer to the file's beginning; --all shows them"});
+            table.addRow({"...",
+                          fmt::format("{} more as a {} file", kind.readingsLeftOut,
+                                      analysis::wordOf(kind.kind)),
+                          "nearer to the file's beginning; --all shows them"});
     }
     surroundings.out << '\n';
     table.print(surroundings.out, surroundings.outColumns, {surroundings.colour});

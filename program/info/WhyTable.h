@@ -10,6 +10,6 @@ namespace plot3d::program {
 
 /// Shortened: readings that follow one another and fail alike stand in one row, and of many rows of
 /// a kind those are shown whose first misfit is furthest behind.
-void printWhy(const FileInfo& info, Lists_e lists, const Surroundings_s& surroundings);
+void printWhy(const FileInfo& info, analysis::Lists_e lists, const Surroundings_s& surroundings);
 
 } // namespace plot3d::program

@@ -125,22 +125,14 @@ std::optional<Box> SelectionArguments::box(const Zone& zone) const {
     return boxOf(zone.size, single(i), single(j), single(k));
 }
 
-std::vector<SelectedZone_s> SelectionArguments::selectedZones(const DataSet& data) const {
-    std::vector<SelectedZone_s> selected;
+std::vector<analysis::SelectedZone_s> SelectionArguments::selectedZones(const DataSet& data) const {
+    std::vector<analysis::SelectedZone_s> selected;
     for (const std::size_t zone : zones(data))
         if (const auto points = box(data.zones()[zone]))
             selected.push_back({zone, *points});
     if (selected.empty())
         throw Error(ErrorKind::Usage, "no zone holds a point of the indices that are asked for");
     return selected;
-}
-
-std::optional<std::size_t> iBlankVariable(const DataSet& data) {
-    const auto variable = data.findVariable("IBlank");
-    if (!variable || data.zones().empty())
-        return std::nullopt;
-    // A name file may call a variable so that is none.
-    return data.type(0, *variable) == ValueType::Int32 ? variable : std::nullopt;
 }
 
 } // namespace plot3d::program

@@ -9,8 +9,8 @@
 
 #include <plot3d/DataSet.h>
 
+#include "analysis/fields/SelectedZone.h"
 #include "manners/Command.h"
-#include "selection/SelectedZone.h"
 
 namespace plot3d::program {
 
@@ -33,7 +33,7 @@ public:
     std::optional<Box> box(const Zone& zone) const;
     /// The boxes of zones(), without zones that hold no selected point. Throws plot3d::Error
     /// (Usage) if none does.
-    std::vector<SelectedZone_s> selectedZones(const DataSet& data) const;
+    std::vector<analysis::SelectedZone_s> selectedZones(const DataSet& data) const;
     /// Whether nothing is left out, points with I-blank 0 apart.
     bool isEverything() const;
     /// Whether points whose I-blank is 0 are left out.
@@ -49,8 +49,5 @@ private:
     std::string point_;     // "I,J,K"; empty: none
     std::string blank_ = "skip";
 };
-
-/// The variable that holds I-blank; nothing if the data set has none.
-std::optional<std::size_t> iBlankVariable(const DataSet& data);
 
 } // namespace plot3d::program

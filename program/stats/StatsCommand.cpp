@@ -5,7 +5,8 @@
 
 #include <fmt/core.h>
 
-#include "blocks/DataSetFields.h"
+#include "analysis/fields/DataSetFields.h"
+#include "analysis/fields/IBlank.h"
 #include "console/options/OptionTable.h"
 #include "manners/ProgressWatch.h"
 #include "manners/Talk.h"
@@ -43,8 +44,8 @@ std::vector<double> percentilesIn(const std::string& text) {
 /// Tells what could not be read, each field once. Gives the exit code.
 int tellUnread(const StatsReport_s& report, const Surroundings_s& surroundings) {
     int code = ExitCode_Done;
-    for (const VariableStatistics_s& variable : report.variables) {
-        for (const ZoneStatistics_s& zone : variable.zones) {
+    for (const analysis::VariableStatistics_s& variable : report.variables) {
+        for (const analysis::ZoneStatistics_s& zone : variable.zones) {
             if (!zone.error)
                 continue;
             const std::string what = fmt::format(
@@ -95,25 +96,27 @@ void StatsCommand::takeApart(std::vector<std::string>& arguments) {
         *found += "=20";
 }
 
-StatsSelection_s StatsCommand::selectionIn(const DataSet& data) const {
-    StatsSelection_s selection = {selection_.variables(data), selection_.selectedZones(data), {}};
+analysis::StatsSelection_s StatsCommand::selectionIn(const DataSet& data) const {
+    analysis::StatsSelection_s selection = {
+        selection_.variables(data), selection_.selectedZones(data), {}};
     if (selection_.skipsBlanked())
-        selection.leavesOutBy = iBlankVariable(data);
+        selection.leavesOutBy = analysis::iBlankVariable(data);
     return selection;
 }
 
-StatsWishes_s StatsCommand::wishes() const {
-    return {hash_ ? Checksum_e::Yes : Checksum_e::No, percentilesIn(percentiles_),
-            static_cast<std::size_t>(bins_), threads_ > 0 ? threads_ : coreCount()};
+analysis::StatsWishes_s StatsCommand::wishes() const {
+    return {hash_ ? analysis::Checksum_e::Yes : analysis::Checksum_e::No,
+            percentilesIn(percentiles_), static_cast<std::size_t>(bins_),
+            threads_ > 0 ? threads_ : analysis::coreCount()};
 }
 
 int StatsCommand::run(const Surroundings_s& surroundings) {
-    const StatsWishes_s wished = wishes();
+    const analysis::StatsWishes_s wished = wishes();
     const DataSet data = files_.open(surroundings);
-    const StatsSelection_s selection = selectionIn(data);
+    const analysis::StatsSelection_s selection = selectionIn(data);
     ProgressWatch progress(surroundings);
-    const auto variables = statisticsOf(
-        DataSetFields(data), selection, wished,
+    const auto variables = analysis::statisticsOf(
+        analysis::DataSetFields(data), selection, wished,
         {[&](double fraction) { progress.show(fraction, "Reading values"); }, surroundings.stop});
     progress.clear();
     const StatsReport_s report = {data, selection, wished, variables, perZone_};

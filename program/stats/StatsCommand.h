@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "analysis/statistics/Statistics.h"
 #include "manners/Command.h"
 #include "selection/DataArguments.h"
 #include "selection/Selection.h"
-#include "stats/Statistics.h"
 
 namespace plot3d::program {
 
@@ -22,8 +22,8 @@ public:
     int run(const Surroundings_s& surroundings) override;
 
 private:
-    StatsSelection_s selectionIn(const DataSet& data) const;
-    StatsWishes_s wishes() const;
+    analysis::StatsSelection_s selectionIn(const DataSet& data) const;
+    analysis::StatsWishes_s wishes() const;
 
     DataArguments files_;
     SelectionArguments selection_;

@@ -19,7 +19,7 @@ public:
         json_.member("blank", report_.selection.leavesOutBy ? "skip" : "keep");
         json_.key("variables");
         json_.beginList();
-        for (const VariableStatistics_s& variable : report_.variables)
+        for (const analysis::VariableStatistics_s& variable : report_.variables)
             writeVariable(variable);
         json_.endList();
         json_.endObject();
@@ -27,19 +27,20 @@ public:
     }
 
 private:
-    void writeVariable(const VariableStatistics_s& variable) {
+    void writeVariable(const analysis::VariableStatistics_s& variable) {
         json_.beginObject();
         json_.member("name", report_.nameOf(variable));
         writeStatistics(variable, variable.whole);
         json_.key("zones");
         json_.beginList();
-        for (const ZoneStatistics_s& zone : variable.zones)
+        for (const analysis::ZoneStatistics_s& zone : variable.zones)
             writeZone(variable, zone);
         json_.endList();
         json_.endObject();
     }
 
-    void writeZone(const VariableStatistics_s& variable, const ZoneStatistics_s& zone) {
+    void writeZone(const analysis::VariableStatistics_s& variable,
+                   const analysis::ZoneStatistics_s& zone) {
         json_.beginObject();
         json_.member("zone", zone.zone + 1);
         json_.member("name", report_.data.zones()[zone.zone].name);
@@ -50,8 +51,9 @@ private:
         json_.endObject();
     }
 
-    void writeStatistics(const VariableStatistics_s& variable, const Statistics_s& statistics) {
-        const FieldSummary_s& summary = statistics.summary;
+    void writeStatistics(const analysis::VariableStatistics_s& variable,
+                         const analysis::Statistics_s& statistics) {
+        const analysis::FieldSummary_s& summary = statistics.summary;
         const auto known = [&](double value) {
             return summary.moments.count > 0 ? std::optional(value) : std::nullopt;
         };
@@ -65,7 +67,7 @@ private:
         json_.member("nan", summary.nan);
         json_.member("infinite", summary.infinite);
         json_.member("blanked", summary.blanked);
-        if (report_.wishes.checksum == Checksum_e::Yes)
+        if (report_.wishes.checksum == analysis::Checksum_e::Yes)
             json_.member("crc32", fmt::format("{:08x}", summary.checksum.crc32));
         if (variable.type == ValueType::Int32)
             writeTable(summary);
@@ -75,7 +77,8 @@ private:
             writeHistogram(variable, statistics);
     }
 
-    void writePlace(const char* key, const FieldSummary_s& summary, const Place_s& place) {
+    void writePlace(const char* key, const analysis::FieldSummary_s& summary,
+                    const analysis::Place_s& place) {
         json_.key(key);
         if (summary.moments.count == 0) {
             json_.null();
@@ -89,7 +92,7 @@ private:
         json_.endObject();
     }
 
-    void writeTable(const FieldSummary_s& summary) {
+    void writeTable(const analysis::FieldSummary_s& summary) {
         json_.key("values");
         json_.beginList();
         for (const auto& [value, count] : summary.table) {
@@ -102,7 +105,7 @@ private:
         json_.member("otherValues", summary.beyondTable);
     }
 
-    void writePercentiles(const Statistics_s& statistics) {
+    void writePercentiles(const analysis::Statistics_s& statistics) {
         json_.key("percentiles");
         json_.beginList();
         for (std::size_t index = 0; index < statistics.percentiles.size(); ++index) {
@@ -115,7 +118,8 @@ private:
         json_.endList();
     }
 
-    void writeHistogram(const VariableStatistics_s& variable, const Statistics_s& statistics) {
+    void writeHistogram(const analysis::VariableStatistics_s& variable,
+                        const analysis::Statistics_s& statistics) {
         json_.key("histogram");
         if (statistics.histogram.empty()) {
             json_.null();

@@ -7,20 +7,20 @@
 
 #include <plot3d/DataSet.h>
 
+#include "analysis/statistics/Statistics.h"
 #include "manners/Command.h"
-#include "stats/Statistics.h"
 
 namespace plot3d::program {
 
 /// What is told; all borrowed.
 struct StatsReport_s {
     const DataSet& data;
-    const StatsSelection_s& selection;
-    const StatsWishes_s& wishes;
-    const std::vector<VariableStatistics_s>& variables;
+    const analysis::StatsSelection_s& selection;
+    const analysis::StatsWishes_s& wishes;
+    const std::vector<analysis::VariableStatistics_s>& variables;
     bool tellsZones = false; // in tables; JSON always does
 
-    const std::string& nameOf(const VariableStatistics_s& statistics) const {
+    const std::string& nameOf(const analysis::VariableStatistics_s& statistics) const {
         return data.variables()[statistics.variable].name;
     }
 };

@@ -5,9 +5,9 @@
 
 #include <fmt/core.h>
 
+#include "analysis/statistics/Histogram.h"
 #include "console/TextGrid.h"
 #include "console/Words.h"
-#include "stats/Histogram.h"
 #include "stats/StatsReport.h"
 
 namespace plot3d::program {
@@ -20,15 +20,15 @@ using Cells = std::vector<std::string>;
 constexpr auto left = Align_e::Left;
 constexpr auto right = Align_e::Right;
 
-bool isTable(const VariableStatistics_s& variable) {
+bool isTable(const analysis::VariableStatistics_s& variable) {
     return variable.type == ValueType::Int32;
 }
 
 /// One line of a table: the whole of a variable, or one of its zones.
 struct Row_s {
-    const VariableStatistics_s& variable;
-    const Statistics_s& statistics;
-    const ZoneStatistics_s* zone; // null: the whole
+    const analysis::VariableStatistics_s& variable;
+    const analysis::Statistics_s& statistics;
+    const analysis::ZoneStatistics_s* zone; // null: the whole
 };
 
 class StatsTables {
@@ -36,7 +36,7 @@ public:
     StatsTables(const StatsReport_s& report, const Surroundings_s& surroundings)
         : report_(report), out_(surroundings.out),
           columns_(surroundings.outColumns), paint_{surroundings.colour} {
-        for (const VariableStatistics_s& variable : report.variables)
+        for (const analysis::VariableStatistics_s& variable : report.variables)
             addRows(variable);
     }
 
@@ -55,15 +55,15 @@ public:
         if (report_.wishes.bins > 0)
             for (const Row_s& row : rows_)
                 printHistogram(row);
-        if (report_.wishes.checksum == Checksum_e::Yes)
+        if (report_.wishes.checksum == analysis::Checksum_e::Yes)
             printChecksums();
     }
 
 private:
-    void addRows(const VariableStatistics_s& variable) {
+    void addRows(const analysis::VariableStatistics_s& variable) {
         if (!report_.tellsZones || variable.zones.size() != 1) // else the zone tells all
             rows_.push_back({variable, variable.whole, nullptr});
-        for (const ZoneStatistics_s& zone : variable.zones)
+        for (const analysis::ZoneStatistics_s& zone : variable.zones)
             if (report_.tellsZones)
                 rows_.push_back({variable, zone.statistics, &zone});
     }
@@ -82,7 +82,7 @@ private:
 
     void printHead() {
         std::int64_t points = 0;
-        for (const SelectedZone_s& zone : report_.selection.zones)
+        for (const analysis::SelectedZone_s& zone : report_.selection.zones)
             points += zone.box.count();
         const auto zones = static_cast<std::int64_t>(report_.selection.zones.size());
         const auto variables = static_cast<std::int64_t>(report_.variables.size());
@@ -93,7 +93,7 @@ private:
 
     // --- minimum, maximum and the rest
 
-    bool any(std::int64_t FieldSummary_s::*count) const {
+    bool any(std::int64_t analysis::FieldSummary_s::*count) const {
         return std::any_of(rows_.begin(), rows_.end(),
                            [count](const Row_s& row) { return row.statistics.summary.*count > 0; });
     }
@@ -102,7 +102,7 @@ private:
         return row.zone == nullptr ? "all" : std::to_string(row.zone->zone + 1);
     }
 
-    std::string placeText(const Row_s& row, const Place_s& place) const {
+    std::string placeText(const Row_s& row, const analysis::Place_s& place) const {
         if (row.statistics.summary.moments.count == 0)
             return "-";
         const std::string point =
@@ -131,7 +131,7 @@ private:
     }
 
     std::vector<Column_s> valuesOfRows() const {
-        const auto summary = [](const Row_s& row) -> const FieldSummary_s& {
+        const auto summary = [](const Row_s& row) -> const analysis::FieldSummary_s& {
             return row.statistics.summary;
         };
         return {
@@ -161,15 +161,15 @@ private:
 
     std::vector<Column_s> leftOutOfRows() const {
         std::vector<Column_s> columns;
-        const auto add = [&](const char* name, std::int64_t FieldSummary_s::*count) {
+        const auto add = [&](const char* name, std::int64_t analysis::FieldSummary_s::*count) {
             if (any(count))
                 columns.push_back({name, right, [count](const Row_s& row) {
                                        return console::grouped(row.statistics.summary.*count);
                                    }});
         };
-        add("NaN", &FieldSummary_s::nan);
-        add("infinite", &FieldSummary_s::infinite);
-        add("blanked", &FieldSummary_s::blanked);
+        add("NaN", &analysis::FieldSummary_s::nan);
+        add("infinite", &analysis::FieldSummary_s::infinite);
+        add("blanked", &analysis::FieldSummary_s::blanked);
         return columns;
     }
 
@@ -219,7 +219,7 @@ private:
 
     void printLeftOut() {
         std::int64_t blanked = 0;
-        for (const VariableStatistics_s& variable : report_.variables)
+        for (const analysis::VariableStatistics_s& variable : report_.variables)
             blanked = std::max(blanked, variable.whole.summary.blanked);
         if (blanked > 0)
             out_ << fmt::format("\n{} with I-blank 0 left out; --blank keep takes them in\n",
@@ -229,12 +229,13 @@ private:
     // --- single points
 
     bool isOfPoints() const {
-        return std::all_of(report_.selection.zones.begin(), report_.selection.zones.end(),
-                           [](const SelectedZone_s& zone) { return zone.box.count() == 1; });
+        return std::all_of(
+            report_.selection.zones.begin(), report_.selection.zones.end(),
+            [](const analysis::SelectedZone_s& zone) { return zone.box.count() == 1; });
     }
 
-    static std::string pointText(const ZoneStatistics_s& zone) {
-        const FieldSummary_s& summary = zone.statistics.summary;
+    static std::string pointText(const analysis::ZoneStatistics_s& zone) {
+        const analysis::FieldSummary_s& summary = zone.statistics.summary;
         if (zone.error)
             return "unreadable";
         if (summary.blanked > 0)
@@ -247,19 +248,19 @@ private:
     /// A line for each zone, a column for each variable; or a line for each of both.
     void printPoints() {
         std::vector<TextGrid::Column_s> headings = {{"zone", right}, {"time", right}, {"i,j,k"}};
-        for (const VariableStatistics_s& variable : report_.variables)
+        for (const analysis::VariableStatistics_s& variable : report_.variables)
             headings.push_back({report_.nameOf(variable), right});
         TextGrid wide(headings);
         TextGrid high(
             {{"zone", right}, {"time", right}, {"i,j,k"}, {"variable"}, {"value", right}});
-        for (const SelectedZone_s& selected : report_.selection.zones) {
+        for (const analysis::SelectedZone_s& selected : report_.selection.zones) {
             const Box& box = selected.box;
             const Cells zone = {
                 std::to_string(selected.zone + 1),
                 fmt::format("{}", report_.data.zones()[selected.zone].time),
                 fmt::format("{},{},{}", box.i.first + 1, box.j.first + 1, box.k.first + 1)};
             Cells row = zone;
-            for (const VariableStatistics_s& variable : report_.variables) {
+            for (const analysis::VariableStatistics_s& variable : report_.variables) {
                 row.push_back(pointTextOf(variable, selected.zone));
                 Cells line = zone;
                 line.insert(line.end(), {report_.nameOf(variable), row.back()});
@@ -270,8 +271,9 @@ private:
         (fits(wide) ? wide : high).print(out_, 0, paint_);
     }
 
-    static std::string pointTextOf(const VariableStatistics_s& variable, std::size_t zone) {
-        for (const ZoneStatistics_s& statistics : variable.zones)
+    static std::string pointTextOf(const analysis::VariableStatistics_s& variable,
+                                   std::size_t zone) {
+        for (const analysis::ZoneStatistics_s& statistics : variable.zones)
             if (statistics.zone == zone)
                 return pointText(statistics);
         return "-";
@@ -326,7 +328,7 @@ private:
         heading("Histogram of " + titleOf(row));
         constexpr std::int64_t longestBar = 30;
         const std::int64_t most = *std::max_element(counts.begin(), counts.end());
-        const FieldSummary_s& whole = row.variable.whole.summary;
+        const analysis::FieldSummary_s& whole = row.variable.whole.summary;
         TextGrid grid({{"from", right}, {"to", right}, {"values", right}, {""}});
         for (std::size_t bin = 0; bin < counts.size(); ++bin) {
             const auto length =
@@ -335,8 +337,9 @@ private:
                                                          static_cast<double>(most) * longestBar +
                                                      0.5);
             grid.addRow(
-                {console::roughNumber(binEdge(whole.min, whole.max, counts.size(), bin)),
-                 console::roughNumber(binEdge(whole.min, whole.max, counts.size(), bin + 1)),
+                {console::roughNumber(analysis::binEdge(whole.min, whole.max, counts.size(), bin)),
+                 console::roughNumber(
+                     analysis::binEdge(whole.min, whole.max, counts.size(), bin + 1)),
                  console::grouped(counts[bin]), std::string(length, '#')});
         }
         grid.print(out_, columns_, paint_);
@@ -345,8 +348,8 @@ private:
     void printChecksums() {
         heading("CRC-32 of the values");
         TextGrid grid({{"variable"}, {"zone", right}, {"crc32"}});
-        for (const VariableStatistics_s& variable : report_.variables)
-            for (const ZoneStatistics_s& zone : variable.zones)
+        for (const analysis::VariableStatistics_s& variable : report_.variables)
+            for (const analysis::ZoneStatistics_s& zone : variable.zones)
                 if (!zone.error)
                     grid.addRow({report_.nameOf(variable), std::to_string(zone.zone + 1),
                                  fmt::format("{:08x}", zone.statistics.summary.checksum.crc32)});

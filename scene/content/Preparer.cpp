@@ -9,7 +9,7 @@
 #include <plot3d/Error.h>
 #include <plot3d/FieldReader.h>
 
-#include "blocks/ParallelWork.h"
+#include "analysis/fields/ParallelWork.h"
 #include "colours/ColourMap.h"
 #include "content/Additions.h"
 #include "content/Choices.h"
@@ -103,7 +103,7 @@ private:
     std::optional<Range_s> rangeOverZones();
     void runPieces(const Pieces& pieces, double first, double last, const char* text);
     int threads() const {
-        return preparer_.threads_ > 0 ? preparer_.threads_ : program::coreCount();
+        return preparer_.threads_ > 0 ? preparer_.threads_ : analysis::coreCount();
     }
     View_s& view() { return content_->view; }
 
@@ -118,13 +118,13 @@ private:
 };
 
 void Preparer::Work::runPieces(const Pieces& pieces, double first, double last, const char* text) {
-    program::WorkWatch_s watch;
+    analysis::WorkWatch_s watch;
     watch.stop = watch_.stop;
     if (watch_.progress)
         watch.progress = [&](double fraction) {
             watch_.progress({text, first + fraction * (last - first), -1});
         };
-    program::inParallel(
+    analysis::inParallel(
         pieces.size(), threads(),
         [&](std::size_t index, std::size_t) { pieces[index](watch_.stop); }, watch);
 }

@@ -6,7 +6,7 @@
 
 #include <plot3d/FieldReader.h>
 
-#include "blocks/BlockSplit.h"
+#include "analysis/fields/BlockSplit.h"
 
 namespace plot3d::scene {
 
@@ -45,7 +45,7 @@ void WholeRange::addReads(Pieces& pieces, const std::vector<std::size_t>& zones)
         if (!seen.insert(holder).second)
             continue;
         for (const Box& box :
-             program::blocksOf(Box::whole(data_.zones()[zone].size), pointsPerPiece))
+             analysis::blocksOf(Box::whole(data_.zones()[zone].size), pointsPerPiece))
             pieces.push_back(
                 [this, zone, box](const std::stop_token& stop) { take(zone, box, stop); });
     }

@@ -1,4 +1,4 @@
-#include "findings/InfoWords.h"
+#include "analysis/findings/InfoWords.h"
 #include "program/InfoFixture.h"
 
 namespace plot3d::program {
@@ -89,11 +89,11 @@ TEST_F(InfoText, WarningsStandBesideAGoodFile) {
 }
 
 TEST_F(InfoText, BytesAreAccountedFor) {
-    EXPECT_EQ(accountText({1000, 1000, 0, 0}), "all 1,000 bytes used");
-    EXPECT_EQ(accountText({1000, 1484, 484, 0}), "484 missing, 1,000 bytes in the file");
-    EXPECT_EQ(accountText({1000, 900, 0, 100}), "100 of 1,000 bytes left over, 900 used");
-    EXPECT_EQ(accountText({1000, 0, 0, 1000}), "none of 1,000 bytes used");
-    EXPECT_EQ(accountText({0, 0, 0, 0}), "none in the file");
+    EXPECT_EQ(analysis::accountText({1000, 1000, 0, 0}), "all 1,000 bytes used");
+    EXPECT_EQ(analysis::accountText({1000, 1484, 484, 0}), "484 missing, 1,000 bytes in the file");
+    EXPECT_EQ(analysis::accountText({1000, 900, 0, 100}), "100 of 1,000 bytes left over, 900 used");
+    EXPECT_EQ(analysis::accountText({1000, 0, 0, 1000}), "none of 1,000 bytes used");
+    EXPECT_EQ(analysis::accountText({0, 0, 0, 0}), "none in the file");
 }
 
 TEST_F(InfoText, OfASolutionThatNoReadingFits) {

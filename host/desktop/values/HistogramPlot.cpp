@@ -9,9 +9,9 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "analysis/statistics/Histogram.h"
 #include "console/Words.h"
 #include "desktop/Texts.h"
-#include "stats/Histogram.h"
 
 namespace quorvia::host {
 namespace {
@@ -60,7 +60,7 @@ QStringList textsOf(const std::vector<double>& edges) {
 } // namespace
 
 double Histogram_s::edge(std::size_t index) const {
-    return plot3d::program::binEdge(min, max, counts.size(), index);
+    return plot3d::analysis::binEdge(min, max, counts.size(), index);
 }
 
 HistogramPlot::HistogramPlot(Chosen chosen, QWidget* parent)

@@ -10,7 +10,7 @@ namespace quorvia::host {
 namespace {
 
 /// "3,280 values from 0.5 to 1.2, mean 0.9, deviation 0.1. Left out: 12 blanked, 3 NaN."
-QString summaryText(const plot3d::program::FieldSummary_s& summary) {
+QString summaryText(const plot3d::analysis::FieldSummary_s& summary) {
     const auto count = [](std::int64_t number) { return static_cast<std::size_t>(number); };
     QString text = QStringLiteral("No value counts.");
     if (summary.moments.count > 0)
@@ -99,7 +99,7 @@ QString HistogramWindow::subject() const {
 }
 
 void HistogramWindow::showFound(const Found& found) {
-    const plot3d::program::FieldSummary_s& summary = found.whole.summary;
+    const plot3d::analysis::FieldSummary_s& summary = found.whole.summary;
     Histogram_s histogram = {summary.min, summary.max, found.whole.histogram};
     if (summary.min == summary.max) // all of one value: bins without width
         histogram.counts = {summary.moments.count};

@@ -2,13 +2,13 @@
 
 #include <utility>
 
+#include "analysis/fields/IBlank.h"
 #include "desktop/Texts.h"
-#include "selection/Selection.h"
 
 namespace quorvia::host {
 
 std::optional<std::size_t> IBlankWindow::iBlankOf(const plot3d::DataSet& data) {
-    return plot3d::program::iBlankVariable(data);
+    return plot3d::analysis::iBlankVariable(data);
 }
 
 IBlankWindow::IBlankWindow(std::shared_ptr<const plot3d::DataSet> data, const ValuesScope_s& scope,
@@ -25,7 +25,7 @@ IBlankWindow::IBlankWindow(std::shared_ptr<const plot3d::DataSet> data, const Va
 }
 
 void IBlankWindow::showFound(const Found& found) {
-    const plot3d::program::FieldSummary_s& summary = found.whole.summary;
+    const plot3d::analysis::FieldSummary_s& summary = found.whole.summary;
     const bool hasOthers = summary.beyondTable > 0;
     tableOfAll().clearSelection();
     tableOfAll().setRowCount(static_cast<int>(summary.table.size()) + (hasOthers ? 1 : 0));

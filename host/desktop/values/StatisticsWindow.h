@@ -18,7 +18,7 @@ public:
     const QTableWidget& table() const { return *table_; }
 
 protected:
-    using Found = plot3d::program::VariableStatistics_s;
+    using Found = plot3d::analysis::VariableStatistics_s;
 
     /// What is counted.
     struct Question_s {

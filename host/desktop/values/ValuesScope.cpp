@@ -2,13 +2,13 @@
 
 #include <numeric>
 
-#include "blocks/DataSetFields.h"
+#include "analysis/fields/DataSetFields.h"
+#include "analysis/fields/IBlank.h"
 #include "desktop/Texts.h"
-#include "selection/Selection.h"
 
 namespace quorvia::host {
 
-namespace program = plot3d::program;
+namespace analysis = plot3d::analysis;
 using Over_e = ValuesScope_s::Over_e;
 
 std::vector<std::size_t> zonesOf(const plot3d::DataSet& data, const ValuesScope_s& scope) {
@@ -35,21 +35,21 @@ QString textOf(const plot3d::DataSet& data, const ValuesScope_s& scope) {
     return data.timeSteps().size() > 1 ? QStringLiteral("all times") : QStringLiteral("all zones");
 }
 
-program::VariableStatistics_s statisticsOf(const plot3d::DataSet& data, std::size_t variable,
-                                           const ValuesScope_s& scope, std::size_t bins,
-                                           const plot3d::Watch& watch) {
-    program::StatsSelection_s selection = {{variable}, {}, program::iBlankVariable(data)};
+analysis::VariableStatistics_s statisticsOf(const plot3d::DataSet& data, std::size_t variable,
+                                            const ValuesScope_s& scope, std::size_t bins,
+                                            const plot3d::Watch& watch) {
+    analysis::StatsSelection_s selection = {{variable}, {}, analysis::iBlankVariable(data)};
     for (const std::size_t zone : zonesOf(data, scope))
         selection.zones.push_back({zone, plot3d::Box::whole(data.zones()[zone].size)});
-    program::StatsWishes_s wishes;
+    analysis::StatsWishes_s wishes;
     wishes.bins = bins;
-    wishes.threads = program::coreCount();
+    wishes.threads = analysis::coreCount();
     const auto progress = [&watch](double fraction) {
         if (watch.progress)
             watch.progress({"Counting values", fraction, -1});
     };
-    return program::statisticsOf(program::DataSetFields(data), selection, wishes,
-                                 {progress, watch.stop})
+    return analysis::statisticsOf(analysis::DataSetFields(data), selection, wishes,
+                                  {progress, watch.stop})
         .front();
 }
 

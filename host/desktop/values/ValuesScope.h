@@ -9,7 +9,7 @@
 #include <plot3d/DataSet.h>
 #include <plot3d/Watch.h>
 
-#include "stats/Statistics.h"
+#include "analysis/statistics/Statistics.h"
 
 namespace quorvia::host {
 
@@ -30,8 +30,9 @@ QString textOf(const plot3d::DataSet& data, const ValuesScope_s& scope);
 
 /// As `plot3d stats` counts them: points whose I-blank is 0 are left out, also those of a zone
 /// whose values are shared. On all cores. `bins`: of the histogram; 0 for none. Throws Error.
-plot3d::program::VariableStatistics_s statisticsOf(const plot3d::DataSet& data,
-                                                   std::size_t variable, const ValuesScope_s& scope,
-                                                   std::size_t bins, const plot3d::Watch& watch);
+plot3d::analysis::VariableStatistics_s statisticsOf(const plot3d::DataSet& data,
+                                                    std::size_t variable,
+                                                    const ValuesScope_s& scope, std::size_t bins,
+                                                    const plot3d::Watch& watch);
 
 } // namespace quorvia::host

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "blocks/BlockSplit.h"
+#include "analysis/fields/BlockSplit.h"
 
 namespace plot3d::program {
 
 void forEachBlock(const Extent& size, std::int64_t mostPoints,
                   const std::function<void(const Box& box, std::int64_t count)>& visit) {
-    for (const Box& box : blocksOf(Box::whole(size), mostPoints))
+    for (const Box& box : analysis::blocksOf(Box::whole(size), mostPoints))
         visit(box, box.count());
 }
 

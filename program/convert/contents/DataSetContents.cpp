@@ -70,7 +70,7 @@ void DataSetContents::addDerived(const DerivedQuantity& quantity) {
 }
 
 void DataSetContents::addZones(const ContentSelection_s& selection) {
-    for (const SelectedZone_s& selected : selection.zones) {
+    for (const analysis::SelectedZone_s& selected : selection.zones) {
         const Zone& zone = data_.zones()[selected.zone];
         if (zone.kind != ZoneKind::Ordered && selected.box != Box::whole(zone.size))
             refuse("zone " + std::to_string(selected.zone + 1) +

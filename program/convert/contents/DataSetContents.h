@@ -16,8 +16,8 @@
 namespace plot3d::program {
 
 struct ContentSelection_s {
-    std::vector<std::size_t> variables; // indices, ascending
-    std::vector<SelectedZone_s> zones;  // ascending
+    std::vector<std::size_t> variables;          // indices, ascending
+    std::vector<analysis::SelectedZone_s> zones; // ascending
     std::vector<const DerivedQuantity*> derived;
     Gas gas;
     bool keepsGrid = false; // coordinates and I-blank, whether or not they were selected

@@ -9,6 +9,7 @@
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
 
+#include "analysis/fields/IBlank.h"
 #include "index/contents/Refusal.h"
 #include "selection/Selection.h"
 
@@ -42,9 +43,9 @@ std::string numbered(std::size_t zone) {
 } // namespace
 
 IndexedData::IndexedData(const DataSet& data, const std::vector<std::size_t>& variables,
-                         const std::vector<SelectedZone_s>& zones)
+                         const std::vector<analysis::SelectedZone_s>& zones)
     : data_(data) {
-    for (const SelectedZone_s& selected : zones) {
+    for (const analysis::SelectedZone_s& selected : zones) {
         if (selected.box != Box::whole(zone(selected.zone).size))
             refuseIndex("an index tells of whole zones, and of " + numbered(selected.zone) +
                         " only some points are selected");
@@ -58,7 +59,8 @@ IndexedData::IndexedData(const DataSet& data, const std::vector<std::size_t>& va
 void IndexedData::addVariables(const std::vector<std::size_t>& selected) {
     constexpr std::array<std::string_view, 3> coordinates = {"X", "Y", "Z"};
     const bool hasGrid = !data_.files().grid.empty();
-    const std::optional<std::size_t> iBlank = hasGrid ? iBlankVariable(data_) : std::nullopt;
+    const std::optional<std::size_t> iBlank =
+        hasGrid ? analysis::iBlankVariable(data_) : std::nullopt;
     const auto dimensions = static_cast<std::size_t>(data_.dimensions());
     for (std::size_t index = 0; index < data_.variables().size(); ++index) {
         IndexedVariable_s variable = {index, data_.variables()[index].name, {}, iBlank == index};

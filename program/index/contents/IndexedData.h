@@ -9,7 +9,7 @@
 
 #include <plot3d/DataSet.h>
 
-#include "selection/SelectedZone.h"
+#include "analysis/fields/SelectedZone.h"
 
 namespace plot3d::program {
 
@@ -31,7 +31,7 @@ public:
     /// `data` is borrowed. Throws Error (Unsupported) for zones of which only some points are
     /// selected.
     IndexedData(const DataSet& data, const std::vector<std::size_t>& variables,
-                const std::vector<SelectedZone_s>& zones);
+                const std::vector<analysis::SelectedZone_s>& zones);
 
     const DataSet& data() const { return data_; }
     const Zone& zone(std::size_t zone) const { return data_.zones()[zone]; }

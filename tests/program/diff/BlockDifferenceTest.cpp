@@ -44,7 +44,7 @@ TEST(BlockDifference, CountsWhatIsFiniteInOneOnly) {
     EXPECT_EQ(found.unlike, 3);
     EXPECT_EQ(found.different, 3);
     EXPECT_EQ(found.absolute, 0);
-    EXPECT_EQ(found.unlikeAt.point, (Point_s{2, 3, 4}));
+    EXPECT_EQ(found.unlikeAt.point, (analysis::Point_s{2, 3, 4}));
 }
 
 TEST(BlockDifference, IsOfNoAccountWithinEitherTolerance) {
