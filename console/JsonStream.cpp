@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <ostream>
 
 #include "console/JsonText.h"
@@ -23,10 +22,6 @@ void JsonStream::value(std::string_view text) {
 }
 
 void JsonStream::value(double number) {
-    if (std::isnan(number))
-        return value("NaN");
-    if (std::isinf(number))
-        return value(number > 0 ? "Infinity" : "-Infinity");
     literal(jsonNumber(number));
 }
 

@@ -34,7 +34,7 @@ public:
     void value(const char* text) { value(std::string_view(text)); }
     void value(const std::string& text) { value(std::string_view(text)); }
     void value(bool truth) { literal(truth ? "true" : "false"); }
-    /// Numbers that JSON lacks become the strings "NaN", "Infinity" and "-Infinity".
+    /// As jsonNumber() has it.
     void value(double number);
     template <std::integral Number>
     requires(!std::same_as<Number, bool>) void value(Number number) {

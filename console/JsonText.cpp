@@ -1,6 +1,7 @@
 #include "console/JsonText.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <nlohmann/json.hpp>
 
@@ -43,6 +44,10 @@ std::string jsonText(std::string_view text) {
 }
 
 std::string jsonNumber(double number) {
+    if (std::isnan(number))
+        return R"("NaN")";
+    if (std::isinf(number))
+        return number > 0 ? R"("Infinity")" : R"("-Infinity")";
     return onOneLine(number, Json::error_handler_t::strict);
 }
 

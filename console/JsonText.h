@@ -14,7 +14,7 @@ bool isUtf8(std::string_view text);
 
 /// In quotes. Bytes that are no UTF-8 become U+FFFD.
 std::string jsonText(std::string_view text);
-/// null if it is not finite: JSON lacks such numbers.
+/// Numbers that JSON lacks become the texts "NaN", "Infinity" and "-Infinity", in quotes.
 std::string jsonNumber(double number);
 
 /// The text, or the texts of the list, that `json` has at its member `path[0]`, of that at its

@@ -33,7 +33,13 @@ TEST(JsonNumber, IsShortAndExact) {
     EXPECT_EQ(jsonNumber(0.0), "0.0");
     EXPECT_EQ(jsonNumber(1e-7), "1e-07");
     EXPECT_EQ(jsonNumber(0.1), "0.1");
-    EXPECT_EQ(jsonNumber(std::numeric_limits<double>::infinity()), "null");
+}
+
+TEST(JsonNumber, IsAWordWhereJsonHasNoSuchNumber) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(jsonNumber(infinity), "\"Infinity\"");
+    EXPECT_EQ(jsonNumber(-infinity), "\"-Infinity\"");
+    EXPECT_EQ(jsonNumber(std::numeric_limits<double>::quiet_NaN()), "\"NaN\"");
 }
 
 TEST(JsonTexts, AreOneOrAListBehindTheKeys) {

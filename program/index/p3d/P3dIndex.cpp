@@ -3,8 +3,11 @@
 #include <cmath>
 #include <sstream>
 
+#include <fmt/core.h>
+
 #include "console/JsonStream.h"
 #include "index/contents/PlainText.h"
+#include "index/contents/Refusal.h"
 #include "index/contents/TextFile.h"
 #include "index/wholefiles/WholeFiles.h"
 #include "manners/ProgressWatch.h"
@@ -69,8 +72,12 @@ private:
     }
 
     void writeStep(const WholeFilesStep_s& step) {
+        // VTK takes null for 0, and ends at a text.
+        if (!std::isfinite(step.time))
+            refuseIndex(fmt::format("has the time {}, which this format can't hold", step.time),
+                        step.solution);
         json_.beginObject();
-        json_.member("time", std::isfinite(step.time) ? std::optional(step.time) : std::nullopt);
+        json_.member("time", step.time);
         json_.member("xyz", named(originals_, step.grid));
         if (!step.solution.empty())
             json_.member("q", named(originals_, step.solution));

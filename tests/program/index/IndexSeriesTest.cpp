@@ -1,5 +1,6 @@
 // Several times of two grids through each index.
 #include <fstream>
+#include <limits>
 
 #include "IndexFixture.h"
 
@@ -19,6 +20,53 @@ TEST_P(IndexSeries, HoldsEveryValueOfEveryTime) {
 
 INSTANTIATE_TEST_SUITE_P(Grids, IndexSeries, ::testing::Bool(),
                          [](const auto& tested) { return tested.param ? "Move" : "StandStill"; });
+
+struct StrangeTime_s {
+    double time;
+    const char* word;  // where JSON has no such number
+    const char* shown; // to people
+};
+
+/// A time that is no number, or none that JSON has, behind one that is.
+class IndexOfStrangeTimes : public IndexTest, public ::testing::WithParamInterface<StrangeTime_s> {
+protected:
+    void SetUp() override {
+        files_ = writeSeries(where_, 2, false);
+        auto contents = contentsOfStep(FileKind_e::ClassicSolution, 1);
+        for (std::vector<double>& scalars : contents.scalars)
+            scalars.back() = GetParam().time;
+        writeFile(files_.back(), contents);
+    }
+
+    std::string where_ = folder("times");
+    std::vector<std::string> files_;
+};
+
+TEST_P(IndexOfStrangeTimes, HasThemInWords) {
+    const std::string output = where_ + "/out.json";
+    ASSERT_EQ(index(files_, output), 0);
+    std::ifstream in(output);
+    const std::string json{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    EXPECT_NE(json.find(std::string("\\\"time\\\":\\\"") + GetParam().word + "\\\""),
+              std::string::npos);
+}
+
+TEST_P(IndexOfStrangeTimes, AreRefusedWhereTheReaderWouldTakeAnother) {
+    std::string err;
+    EXPECT_EQ(index(files_, where_ + "/out.p3d", &err), 1);
+    EXPECT_EQ(err.find("plot3d: error: " + files_.back() + ": has the time " + GetParam().shown +
+                       ", which this format can't hold\n"),
+              0U)
+        << err;
+}
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+INSTANTIATE_TEST_SUITE_P(Infinite, IndexOfStrangeTimes,
+                         ::testing::Values(StrangeTime_s{infinity, "Infinity", "inf"},
+                                           StrangeTime_s{-infinity, "-Infinity", "-inf"},
+                                           StrangeTime_s{std::numeric_limits<double>::quiet_NaN(),
+                                                         "NaN", "nan"}));
 
 class PatternOfSolutions : public IndexTest {
 protected:

@@ -61,6 +61,8 @@ def check_references(path, expected):
     for number, zone in enumerate(expected.zones, 1):
         group = root[str(number)]
         expect(group.attrs["name"] == zone["name"], "name of a zone")
+        time = zone["time"] if zone["strand"] else None
+        expect(group.attrs["time"] == time, f"time is {group.attrs['time']}")
         for field in zone["fields"]:
             array = group[field["name"].rstrip()]
             expect("elements" in zone or array.shape == field["values"].shape, "shape")
