@@ -22,8 +22,9 @@ using Texts = std::vector<std::string>;
 
 /// The folders that are held to it, as far as they are there. The contract in sdk/ has names of its
 /// own.
-const char* const heldFolders[] = {"src",     "host",  "tools",    "tests",   "benchmarks",
-                                   "library", "scene", "analysis", "program", "console"};
+const char* const heldFolders[] = {"src",        "host",    "tools",  "tests",
+                                   "benchmarks", "library", "scene",  "desktop",
+                                   "analysis",   "program", "console"};
 
 /// The users of the library expect plain names of types.
 const char* const folderOfPlainTypes = "library/include";
