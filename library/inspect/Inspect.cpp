@@ -4,14 +4,14 @@
 
 #include <plot3d/Error.h>
 
-#include "inspect/Choice.h"
-#include "inspect/Evidence.h"
-#include "inspect/GridScalars.h"
-#include "inspect/Guess.h"
 #include "inspect/KindOfName.h"
 #include "inspect/ListFiles.h"
-#include "inspect/MisfitWords.h"
 #include "inspect/Verdict.h"
+#include "inspect/evidence/Choice.h"
+#include "inspect/evidence/Evidence.h"
+#include "inspect/evidence/GridScalars.h"
+#include "inspect/evidence/Guess.h"
+#include "inspect/words/MisfitWords.h"
 
 namespace plot3dlib {
 

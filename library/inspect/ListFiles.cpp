@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "inspect/Problems.h"
+#include "inspect/words/Problems.h"
 
 namespace plot3dlib {
 

@@ -3,7 +3,7 @@
 
 #include <plot3d/FileInfo.h>
 
-#include "inspect/ExaminedFile.h"
+#include "inspect/reading/ExaminedFile.h"
 
 namespace plot3dlib {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "inspect/Recognisers.h"
-#include "inspect/Words.h"
+#include "inspect/recognisers/Recognisers.h"
+#include "inspect/words/Words.h"
 
 namespace plot3dlib {
 

@@ -5,7 +5,7 @@
 
 #include <plot3d/FileInfo.h>
 
-#include "inspect/Evidence.h"
+#include "inspect/evidence/Evidence.h"
 
 namespace plot3dlib {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "inspect/Evidence.h"
+#include "inspect/evidence/Evidence.h"
 
 namespace plot3dlib {
 

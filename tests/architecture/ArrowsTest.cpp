@@ -77,12 +77,21 @@ Arrows libraryArrows() {
         {"example", {}}, // public headers alone
         {"console/counts", {}},
         {"derive", {"facts", "flow"}},
+        {"inspect/reading",
+         {"plot3dfile/bytes", "plot3dfile/file", "plot3dfile/numbers", "plot3dfile/layout",
+          "plot3dfile/detection"}},
+        {"inspect/words", {"inspect/reading", "console/counts"}},
+        {"inspect/evidence",
+         {"inspect/reading", "inspect/words", "instructions", "plot3dfile/bytes",
+          "plot3dfile/numbers", "plot3dfile/layout"}},
+        {"inspect/recognisers",
+         {"inspect/evidence", "inspect/words", "plot3dfile/bytes", "plot3dfile/numbers"}},
         {"inspect",
-         {"facts", "sdk", "instructions", "filenames", "plot3dfile/bytes", "plot3dfile/file",
-          "plot3dfile/numbers", "plot3dfile/layout", "plot3dfile/detection", "console/counts"}},
+         {"filenames", "inspect/reading", "inspect/words", "inspect/evidence",
+          "inspect/recognisers"}},
         {"open",
-         {"facts", "read", "inspect", "sdk", "instructions", "plot3dfile/bytes", "plot3dfile/file",
-          "dataset/ondemand", "boundary", "addon", "model", "state", "session"}},
+         {"facts", "read", "inspect", "inspect/evidence", "sdk", "instructions", "plot3dfile/bytes",
+          "plot3dfile/file", "dataset/ondemand", "boundary", "addon", "model", "state", "session"}},
     };
     for (const Arrows* below : {&sourceArrows, &hostArrows})
         arrows.insert(below->begin(), below->end());

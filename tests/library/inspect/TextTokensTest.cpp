@@ -1,5 +1,5 @@
 // The tokens of a text: what each is, and that the pieces in which it comes do not matter.
-#include "inspect/TextTokens.h"
+#include "inspect/reading/TextTokens.h"
 
 #include <string>
 #include <vector>
