@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include "console/Words.h"
+#include "selection/TimeRange.h"
 
 namespace plot3d::program {
 namespace {
@@ -40,7 +41,9 @@ class DiffPlanner {
 public:
     DiffPlanner(const DataSet& first, const DataSet& second, const DiffSelection_s& selection,
                 const Tolerance_s& tolerance)
-        : first_(first), second_(second), selection_(selection), tolerance_(tolerance) {}
+        : first_(first), second_(second),
+          selection_(selection), times_{std::max(tolerance.relative, timeTolerance.relative),
+                                        tolerance.absolute} {}
 
     DiffPlan_s plan() {
         compareZoneCounts();
@@ -106,7 +109,7 @@ private:
             note("size", number, {}, sizeText(first), sizeText(second));
         if (plan_.unlike.size() != before)
             return false;
-        if (!isSameTime(first.time, second.time))
+        if (!isSameTime(first.time, second.time, times_))
             note("time", number, {}, fmt::format("{}", first.time), fmt::format("{}", second.time));
         if (first.kind != ZoneKind::Ordered && first_.nodeMap(number) != second_.nodeMap(number))
             note("elements", number, {}, elementsText(first), elementsText(second));
@@ -115,14 +118,6 @@ private:
 
     static std::string elementsText(const Zone& zone) {
         return console::counted(zone.elementCount, "element", "elements");
-    }
-
-    /// Files hold times in 32 bits, texts in as many digits as somebody liked.
-    bool isSameTime(double first, double second) const {
-        const double distance = std::abs(first - second);
-        const double size = std::max(std::abs(first), std::abs(second));
-        return distance <= tolerance_.absolute ||
-               distance <= std::max(tolerance_.relative, 1e-6) * size;
     }
 
     void addPair(const SharedVariable_s& variable, const analysis::SelectedZone_s& zone) {
@@ -138,7 +133,7 @@ private:
     const DataSet& first_;
     const DataSet& second_;
     const DiffSelection_s& selection_;
-    const Tolerance_s& tolerance_;
+    const TimeTolerance_s times_; // texts hold times in as many digits as somebody liked
     DiffPlan_s plan_;
     std::vector<analysis::SelectedZone_s> comparable_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <limits>
 #include <string_view>
 
 #include <plot3d/Error.h>
@@ -182,10 +183,13 @@ std::optional<VectorQuantity_s> vectorsOf(const DataSet& data, const View_s& vie
 std::size_t timeStepOf(const DataSet& data, const View_s& view) {
     if (!view.time || data.timeSteps().empty())
         return 0;
+    const auto distance = [&view](const TimeStep& step) {
+        const double found = std::abs(step.time - *view.time);
+        return std::isnan(found) ? std::numeric_limits<double>::infinity() : found;
+    };
     const auto nearest = std::min_element(data.timeSteps().begin(), data.timeSteps().end(),
                                           [&](const TimeStep& one, const TimeStep& other) {
-                                              return std::abs(one.time - *view.time) <
-                                                     std::abs(other.time - *view.time);
+                                              return distance(one) < distance(other);
                                           });
     return static_cast<std::size_t>(nearest - data.timeSteps().begin());
 }

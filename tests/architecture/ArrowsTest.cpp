@@ -146,7 +146,7 @@ const Arrows programArrows = {
     {"index/cgns", {"manners", "names", "index/contents"}},
     {"index/references", {"console", "manners", "names", "index/contents"}},
     {"index/xdmf", {"manners", "index/contents"}},
-    {"index/wholefiles", {"index/contents"}},
+    {"index/wholefiles", {"selection", "index/contents"}},
     {"index/p3d", {"console", "manners", "index/contents", "index/wholefiles"}},
     {"index/vp3d", {"manners", "index/contents", "index/wholefiles"}},
     {"index",

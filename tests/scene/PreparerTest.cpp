@@ -1,6 +1,8 @@
 // From a data set and a view to what is drawn.
 #include <algorithm>
 #include <cmath>
+#include <fstream>
+#include <limits>
 #include <stop_token>
 
 #include <plot3d/Error.h>
@@ -58,6 +60,21 @@ TEST_F(PreparerTest, TakesOverWhatIsTheSame) {
     EXPECT_EQ(next->parts[0].mesh, first->parts[0].mesh);
     EXPECT_NE(next->parts[0].values, first->parts[0].values);
     EXPECT_EQ(next->title, "vortex.x, vortex_t0.25.q, time 0.25");
+}
+
+TEST_F(PreparerTest, PassesOverATimeThatIsNoNumberForTheNearestOne) {
+    const std::vector<std::string> files = sample({"vortex", "--steps", "2"});
+    {
+        constexpr std::streamoff placeOfTime = 24; // behind count, sizes and three scalars
+        const float time = -std::numeric_limits<float>::quiet_NaN();
+        std::fstream file(files.at(1), std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(placeOfTime).write(reinterpret_cast<const char*>(&time), sizeof time);
+    }
+    const DataSet data = DataSet::open(files);
+    ASSERT_TRUE(std::isnan(data.timeSteps().front().time));
+    View_s view;
+    view.time = 0.1;
+    EXPECT_EQ(prepared(data, view)->title, "vortex.x, vortex_t0.25.q, time 0.25");
 }
 
 TEST_F(PreparerTest, TakesTheRangeFromWhatIsAskedFor) {

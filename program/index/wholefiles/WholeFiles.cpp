@@ -1,11 +1,11 @@
 #include "index/wholefiles/WholeFiles.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <plot3d/Error.h>
 
 #include "index/contents/Refusal.h"
+#include "selection/TimeRange.h"
 
 namespace plot3d::program {
 
@@ -35,11 +35,6 @@ void refuseOtherForm(const FileInfo& info, const FileInfo& first) {
         info.layout != first.layout)
         refuseIndex("is not of the form of " + first.file + ", and this format has one for all",
                     info.file);
-}
-
-/// A time that is not a number is that of all grids of its file.
-bool isSameTime(double first, double second) {
-    return first == second || (std::isnan(first) && std::isnan(second));
 }
 
 class Finder {
@@ -112,7 +107,7 @@ private:
             const GridSize& grid = files_.form.grids[place];
             if (data_.zone(first + place).size != Extent{grid.i, grid.j, grid.k})
                 refuseIndex("the grids of the data set are not those of its files");
-            if (!isSameTime(data_.zone(first + place).time, data_.zone(first).time))
+            if (!isSameTime(data_.zone(first + place).time, data_.zone(first).time, {}))
                 refuseIndex(
                     "the grids of one file have several times, and this format has one for all");
         }

@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -115,6 +116,21 @@ TEST_F(DiffCommandTest, ShowsTimesThatDiffer) {
     second.back() = write("b.q", solutionFile(twoSizes, placeValue, 0.25));
     EXPECT_NE(diff(first, second).out.find("time of zone 1: 0 in the first, 0.25 in the second"),
               std::string::npos);
+}
+
+TEST_F(DiffCommandTest, TakesTimesThatAreNotFiniteForThoseOfTheirLike) {
+    const Words grids = flow("a");
+    const auto at = [&](double time) {
+        const std::string name = "time" + std::to_string(time) + ".q";
+        return Words{grids.front(), write(name, solutionFile(twoSizes, placeValue, time))};
+    };
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const std::vector<Words> sets = {at(0.5), at(infinity), at(-infinity),
+                                     at(std::numeric_limits<double>::quiet_NaN())};
+    for (const Words& first : sets)
+        for (const Words& second : sets)
+            EXPECT_EQ(diff(first, second).code, &first == &second ? 0 : 1)
+                << first.back() << " and " << second.back();
 }
 
 TEST_F(DiffCommandTest, TakesTwoFilesAloneForOneOfEach) {

@@ -1,3 +1,4 @@
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,43 @@ TEST(TimeRange, TakesATimeARangeTheFirstOrTheLast) {
 TEST(TimeRange, TakesATimeThatTheFileHoldsIn32Bits) {
     EXPECT_EQ(parseTimes("0.1", times), (Indices{1}));
     EXPECT_EQ(parseTimes("0:0.1", times), (Indices{0, 1}));
+}
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+
+TEST(TimeRange, TakesTimesThatAreNotFiniteInTheirPlace) {
+    const std::vector<double> strange = {-noNumber, -infinity, 0.5, infinity, noNumber};
+    EXPECT_EQ(parseTimes("0.5", strange), (Indices{2}));
+    EXPECT_EQ(parseTimes("inf", strange), (Indices{3}));
+    EXPECT_EQ(parseTimes("-inf", strange), (Indices{1}));
+    EXPECT_EQ(parseTimes("-inf:0.5", strange), (Indices{1, 2}));
+    EXPECT_EQ(parseTimes("0.5:", strange), (Indices{2, 3, 4}));
+    EXPECT_EQ(parseTimes(":0.5", strange), (Indices{0, 1, 2}));
+    EXPECT_EQ(parseTimes(":", strange), (Indices{0, 1, 2, 3, 4}));
+    EXPECT_EQ(parseTimes("nan", {0.5, noNumber}), (Indices{1}));
+    EXPECT_EQ(parseTimes("last", {0.5, noNumber}), (Indices{1}));
+    EXPECT_EQ(parseTimes("last", {0.5, infinity}), (Indices{1}));
+    EXPECT_EQ(parseTimes("first", {-infinity, 0.5}), (Indices{0}));
+    EXPECT_EQ(messageOf([] {
+                  parseTimes("0.7", {0.5, infinity});
+              }),
+              "no time is 0.7; there are: 0.5, inf");
+}
+
+TEST(SameTime, AgreesToATolerance) {
+    EXPECT_TRUE(isSameTime(1.0, 1.0000005, timeTolerance));
+    EXPECT_FALSE(isSameTime(1.0, 1.00001, timeTolerance));
+    EXPECT_TRUE(isSameTime(0.0, -0.0, {}));
+    EXPECT_TRUE(isSameTime(1.0, 1.25, {0.0, 0.25}));
+}
+
+TEST(SameTime, IsThatOfItsLikeIfItIsNotFinite) {
+    const TimeTolerance_s wide = {0.5, 1e300};
+    const std::vector<double> kinds = {0.5, infinity, -infinity, noNumber};
+    for (const double& one : kinds)
+        for (const double& other : kinds)
+            EXPECT_EQ(isSameTime(one, other, wide), &one == &other) << one << " and " << other;
 }
 
 TEST(TimeRange, ThatSelectsNothingIsToldWithTheTimes) {
