@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <map>
 #include <string_view>
 #include <utility>
+
+#include <fmt/core.h>
 
 #include <plot3d/Error.h>
 #include <plot3d/FileInfo.h>
@@ -72,6 +75,14 @@ void IndexedData::addVariables(const std::vector<std::size_t>& selected) {
             std::binary_search(selected.begin(), selected.end(), index))
             variables_.push_back(variable);
     }
+}
+
+void IndexedData::refuseTimesThatAreNotFinite() const {
+    for (const TimeStep& step : steps_)
+        if (steps_.size() > 1 && !std::isfinite(step.time))
+            refuseIndex(fmt::format("one of the {} times is {}, which readers of this format don't "
+                                    "know",
+                                    steps_.size(), step.time));
 }
 
 void IndexedData::addSteps() {

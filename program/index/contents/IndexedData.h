@@ -56,6 +56,9 @@ public:
     void refuseFieldsOutsideFiles() const;
     /// Throws Error (Unsupported) if there is a zone without coordinates.
     void refuseMissingCoordinates() const;
+    /// Throws Error (Unsupported) if there are several times and one is infinite or no number:
+    /// readers that want numbers take it for 0, or find no time at all.
+    void refuseTimesThatAreNotFinite() const;
 
 private:
     void addVariables(const std::vector<std::size_t>& selected);

@@ -1,13 +1,11 @@
 #include "index/p3d/P3dIndex.h"
 
 #include <cmath>
+#include <optional>
 #include <sstream>
-
-#include <fmt/core.h>
 
 #include "console/JsonStream.h"
 #include "index/contents/PlainText.h"
-#include "index/contents/Refusal.h"
 #include "index/contents/TextFile.h"
 #include "index/wholefiles/WholeFiles.h"
 #include "manners/ProgressWatch.h"
@@ -31,6 +29,7 @@ public:
         : data_(data), originals_(originals), files_(wholeFilesOf(data)), json_(out, indentWidth) {}
 
     void write(const Watch& watch) {
+        data_.refuseTimesThatAreNotFinite();
         json_.beginObject();
         writeForm();
         if (files_.function.variables > 0)
@@ -72,12 +71,9 @@ private:
     }
 
     void writeStep(const WholeFilesStep_s& step) {
-        // VTK takes null for 0, and ends at a text.
-        if (!std::isfinite(step.time))
-            refuseIndex(fmt::format("has the time {}, which this format can't hold", step.time),
-                        step.solution);
         json_.beginObject();
-        json_.member("time", step.time);
+        // VTK ends at a text, and would take null for 0, which is as good for a time alone.
+        json_.member("time", std::isfinite(step.time) ? std::optional(step.time) : std::nullopt);
         json_.member("xyz", named(originals_, step.grid));
         if (!step.solution.empty())
             json_.member("q", named(originals_, step.solution));

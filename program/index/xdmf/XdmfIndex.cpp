@@ -49,6 +49,7 @@ public:
     void write() {
         if (data_.coordinateCount() < 2)
             refuseIndex("XDMF has no place for grids of one dimension");
+        data_.refuseTimesThatAreNotFinite();
         out_ << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Xdmf Version=\"2.0\">\n<Domain>\n"
                 "<Grid Name=\"steps\" GridType=\"Collection\" CollectionType=\"Temporal\">\n";
         for (std::size_t place = 0; place < data_.steps().size(); ++place) {

@@ -51,13 +51,23 @@ TEST_P(IndexOfStrangeTimes, HasThemInWords) {
               std::string::npos);
 }
 
-TEST_P(IndexOfStrangeTimes, AreRefusedWhereTheReaderWouldTakeAnother) {
-    std::string err;
-    EXPECT_EQ(index(files_, where_ + "/out.p3d", &err), 1);
-    EXPECT_EQ(err.find("plot3d: error: " + files_.back() + ": has the time " + GetParam().shown +
-                       ", which this format can't hold\n"),
-              0U)
-        << err;
+TEST_P(IndexOfStrangeTimes, RefusesThemWhereReadersTakeOthers) {
+    for (const std::string ending : {"p3d", "xmf2"}) {
+        std::string err;
+        EXPECT_EQ(index(files_, where_ + "/out." + ending, &err), 1);
+        EXPECT_EQ(err.find(std::string("plot3d: error: one of the 2 times is ") + GetParam().shown +
+                           ", which readers of this format don't know\n"),
+                  0U)
+            << err;
+    }
+}
+
+TEST_P(IndexOfStrangeTimes, TakesOneAlone) {
+    const std::string alone = folder("alone");
+    const std::vector<std::string> files = {files_.front(), files_.back()};
+    for (const std::string ending : {"cgns", "json", "xmf2", "p3d"})
+        EXPECT_EQ(index(files, alone + "/out." + ending), 0);
+    EXPECT_EQ(index(files_, where_ + "/out.cgns"), 0);
 }
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
