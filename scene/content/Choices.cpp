@@ -184,6 +184,8 @@ std::size_t timeStepOf(const DataSet& data, const View_s& view) {
     if (!view.time || data.timeSteps().empty())
         return 0;
     const auto distance = [&view](const TimeStep& step) {
+        if (step.time == *view.time || (std::isnan(step.time) && std::isnan(*view.time)))
+            return 0.0; // an infinite one, too, has itself as the nearest
         const double found = std::abs(step.time - *view.time);
         return std::isnan(found) ? std::numeric_limits<double>::infinity() : found;
     };

@@ -20,11 +20,21 @@ void addName(std::string& names, const std::vector<std::string>& files) {
         names += " to " + std::filesystem::path(files.back()).filename().string();
 }
 
-std::string fileNames(const FileLists& files, std::size_t timeStep, std::size_t stepCount) {
+/// The place of the step's files in their lists. Steps are in the order of their times, zones in
+/// that of the files.
+std::size_t placeOfFiles(const DataSet& data, std::size_t timeStep) {
+    const std::vector<TimeStep>& steps = data.timeSteps();
+    return static_cast<std::size_t>(
+        std::count_if(steps.begin(), steps.end(),
+                      [&](const TimeStep& other) { return other.zones < steps[timeStep].zones; }));
+}
+
+std::string fileNames(const DataSet& data, std::size_t timeStep) {
     std::string names;
+    const FileLists& files = data.files();
     for (const auto* list : {&files.grid, &files.solution, &files.function}) {
-        if (list->size() == stepCount && list->size() > 1)
-            addName(names, {(*list)[timeStep]});
+        if (list->size() == data.timeSteps().size() && list->size() > 1)
+            addName(names, {(*list)[placeOfFiles(data, timeStep)]});
         else
             addName(names, *list);
     }
@@ -68,7 +78,7 @@ std::string shortNumber(double number) {
 std::string titleOf(const DataSet& data, const SceneContent_s& content) {
     std::string title = content.view.titleText;
     if (title.empty())
-        title = fileNames(data.files(), content.timeStep, data.timeSteps().size());
+        title = fileNames(data, content.timeStep);
     if (title.empty())
         title = data.title();
     if (data.timeSteps().size() > 1)

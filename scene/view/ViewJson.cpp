@@ -1,11 +1,14 @@
 #include "view/ViewJson.h"
 
+#include <cmath>
 #include <functional>
+#include <limits>
 #include <map>
 
 #include <nlohmann/json.hpp>
 #include <plot3d/Error.h>
 
+#include "console/JsonText.h"
 #include "console/NearestName.h"
 #include "view/ViewWords.h"
 
@@ -43,6 +46,16 @@ double numberOf(const std::string& member, const Json& value) {
     if (!value.is_number())
         refuse(member, "a number", value);
     return value.get<double>();
+}
+
+/// Files have times that JSON has no numbers for.
+double timeOf(const std::string& member, const Json& value) {
+    using Limits = std::numeric_limits<double>;
+    if (value.is_string())
+        for (const double time : {Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()})
+            if (value.dump() == console::jsonNumber(time))
+                return time;
+    return numberOf(member, value);
 }
 
 std::int64_t wholeOf(const std::string& member, const Json& value, std::int64_t least,
@@ -113,7 +126,7 @@ public:
                    view_.plot = wordOfView("plot", value, plotFromWord, "auto, 3d, 2d or xy");
                }},
               {"zones", [this](const Json& value) { takeZones(value); }},
-              {"time", [this](const Json& value) { view_.time = numberOf("time", value); }},
+              {"time", [this](const Json& value) { view_.time = timeOf("time", value); }},
               {"surfaces", [this](const Json& value) { takeSurfaces(value); }},
               {"line",
                [this](const Json& value) {
@@ -263,7 +276,9 @@ public:
             json_["plot"] = wordOf(view_.plot);
         put(json_, "zones", view_.zones, usual_.zones);
         if (view_.time)
-            json_["time"] = *view_.time;
+            json_["time"] = std::isfinite(*view_.time)
+                                ? Json(*view_.time)
+                                : Json::parse(console::jsonNumber(*view_.time));
         writeSurfaces();
         if (view_.line)
             json_["line"] = textOfLine();

@@ -1,6 +1,5 @@
 // From a data set and a view to what is drawn.
 #include <algorithm>
-#include <cmath>
 #include <fstream>
 #include <limits>
 #include <stop_token>
@@ -62,19 +61,42 @@ TEST_F(PreparerTest, TakesOverWhatIsTheSame) {
     EXPECT_EQ(next->title, "vortex.x, vortex_t0.25.q, time 0.25");
 }
 
-TEST_F(PreparerTest, PassesOverATimeThatIsNoNumberForTheNearestOne) {
-    const std::vector<std::string> files = sample({"vortex", "--steps", "2"});
-    {
-        constexpr std::streamoff placeOfTime = 24; // behind count, sizes and three scalars
-        const float time = -std::numeric_limits<float>::quiet_NaN();
-        std::fstream file(files.at(1), std::ios::in | std::ios::out | std::ios::binary);
-        file.seekp(placeOfTime).write(reinterpret_cast<const char*>(&time), sizeof time);
+void writeTime(const std::string& solution, float time) {
+    constexpr std::streamoff placeOfTime = 24; // behind count, sizes and three scalars
+    std::fstream(solution, std::ios::in | std::ios::out | std::ios::binary)
+        .seekp(placeOfTime)
+        .write(reinterpret_cast<const char*>(&time), sizeof time);
+}
+
+TEST_F(PreparerTest, TakesATimeThatIsNotFiniteForNoneButItself) {
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    for (const float time : {-std::numeric_limits<float>::quiet_NaN(), infinity, -infinity}) {
+        const std::vector<std::string> files = sample({"vortex", "--steps", "2"});
+        writeTime(files.at(1), time);
+        const DataSet data = DataSet::open(files);
+        const auto titleAt = [&](double wanted) {
+            View_s view;
+            view.time = wanted;
+            return prepared(data, view)->title;
+        };
+        EXPECT_EQ(titleAt(0.1), "vortex.x, vortex_t0.25.q, time 0.25") << time;
+        EXPECT_EQ(titleAt(time).find("vortex.x, vortex_t0.00.q, time "), 0) << titleAt(time);
     }
+}
+
+TEST_F(PreparerTest, NamesTheFilesOfATimeWhateverOrderTheyStandIn) {
+    const std::vector<std::string> files = sample({"vortex", "--steps", "3"});
+    writeTime(files.at(1), 7);
     const DataSet data = DataSet::open(files);
-    ASSERT_TRUE(std::isnan(data.timeSteps().front().time));
-    View_s view;
-    view.time = 0.1;
-    EXPECT_EQ(prepared(data, view)->title, "vortex.x, vortex_t0.25.q, time 0.25");
+    std::vector<std::string> titles;
+    for (const auto& step : data.timeSteps()) {
+        View_s view;
+        view.time = step.time;
+        titles.push_back(prepared(data, view)->title);
+    }
+    EXPECT_EQ(titles, (std::vector<std::string>{"vortex.x, vortex_t0.25.q, time 0.25",
+                                                "vortex.x, vortex_t0.50.q, time 0.5",
+                                                "vortex.x, vortex_t0.00.q, time 7"}));
 }
 
 TEST_F(PreparerTest, TakesTheRangeFromWhatIsAskedFor) {

@@ -1,4 +1,7 @@
 // Views as text and as JSON.
+#include <cmath>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include <plot3d/Error.h>
@@ -38,6 +41,19 @@ TEST(View, IsTheSameWhenItIsReadBack) {
     view.size = {320, 240};
     view.background = "#0a141e";
     EXPECT_EQ(viewFromJson(toJson(view)), view);
+}
+
+TEST(View, HasTimesThatAreNotFinite) {
+    using Limits = std::numeric_limits<double>;
+    View_s view;
+    for (const double time : {Limits::infinity(), -Limits::infinity()}) {
+        view.time = time;
+        EXPECT_EQ(viewFromJson(toJson(view)), view);
+    }
+    view.time = Limits::quiet_NaN();
+    EXPECT_TRUE(std::isnan(*viewFromJson(toJson(view)).time));
+    EXPECT_EQ(refusalOf(R"({"schema": "plot3d.view/1", "time": "Inf"})"),
+              "the view's \"time\" can't be taken (expected a number, found \"Inf\")");
 }
 
 TEST(View, NamesTheZoneOfItsRange) {
