@@ -1,5 +1,6 @@
 // From a data set and a view to what is drawn.
 #include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <limits>
 #include <stop_token>

@@ -1,6 +1,7 @@
 #include "program/commands/ModelSelection.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -170,14 +171,15 @@ void ModelSelection::drawTimes(Dice& draw) {
         text += ":";
         break;
     case 4:
-        first = times.front() - 1;
+        first = -HUGE_VAL;
         text = ":" + text;
         break;
     default:
         break;
     }
     std::erase_if(zones_, [&](std::size_t zone) {
-        return data_.zones()[zone].time < first || data_.zones()[zone].time > last;
+        return isEarlier(data_.zones()[zone].time, first) ||
+               isEarlier(last, data_.zones()[zone].time);
     });
     words_.insert(words_.end(), {"--time", text});
 }

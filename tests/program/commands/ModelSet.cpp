@@ -38,6 +38,10 @@ int dimensionsOf(Layout_e layout) {
 
 } // namespace
 
+bool isEarlier(double one, double other) {
+    return std::isnan(one) ? false : std::isnan(other) || one < other;
+}
+
 ModelSet::ModelSet(std::uint64_t seed, std::uint64_t formSeed) : seed_(seed) {
     Dice draw(seed);
     Dice form(formSeed);
@@ -118,6 +122,11 @@ void ModelSet::addZones(Dice& draw) {
         stepTimes_.push_back(0.25 * (step + 1));
     if (hasSolution_ && draw.chance(33))
         std::swap(stepTimes_.front(), stepTimes_.back());
+    if (hasSolution_ && hasSpoiltValues_ && draw.chance(50)) {
+        using Limits = std::numeric_limits<double>;
+        stepTimes_[static_cast<std::size_t>(draw.between(1, steps_)) - 1] =
+            draw.oneOf<double>({Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()});
+    }
     for (int step = 0; step < steps_; ++step)
         for (std::int32_t grid = 0; grid < static_cast<std::int32_t>(sizes_.size()); ++grid) {
             const GridDims_s& dims = sizes_[static_cast<std::size_t>(grid)];
@@ -130,7 +139,7 @@ void ModelSet::addZones(Dice& draw) {
         }
     if (steps_ > 1)
         times_ = stepTimes_;
-    std::sort(times_.begin(), times_.end());
+    std::sort(times_.begin(), times_.end(), isEarlier);
 }
 
 void ModelSet::addFiles(Dice& form) {

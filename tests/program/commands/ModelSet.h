@@ -31,6 +31,8 @@ struct ModelZone_s {
     std::array<std::int64_t, 3> size = {1, 1, 1};
     double time = 0;
 };
+/// What is no number stands behind all others.
+bool isEarlier(double one, double other);
 
 struct ModelFile_s {
     std::string name;
@@ -51,7 +53,7 @@ public:
     const std::vector<ModelFile_s>& files() const { return files_; }
     const std::vector<ModelVariable_s>& variables() const { return variables_; }
     const std::vector<ModelZone_s>& zones() const { return zones_; }
-    /// Each once, the smallest first; empty where the zones are seen at all times.
+    /// Each once, the earliest first; empty where the zones are seen at all times.
     const std::vector<double>& times() const { return times_; }
     writer::Layout_e layout() const { return layout_; }
     bool isUnstructured() const { return layout_ == writer::Layout_e::Unstructured; }
