@@ -122,7 +122,7 @@ void ModelSet::addZones(Dice& draw) {
         stepTimes_.push_back(0.25 * (step + 1));
     if (hasSolution_ && draw.chance(33))
         std::swap(stepTimes_.front(), stepTimes_.back());
-    if (hasSolution_ && hasSpoiltValues_ && draw.chance(50)) {
+    if (hasSolution_ && hasSpoiltValues_) {
         using Limits = std::numeric_limits<double>;
         stepTimes_[static_cast<std::size_t>(draw.between(1, steps_)) - 1] =
             draw.oneOf<double>({Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()});
