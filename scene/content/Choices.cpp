@@ -8,6 +8,8 @@
 
 #include <plot3d/Error.h>
 
+#include "analysis/fields/IBlank.h"
+
 namespace plot3d::scene {
 
 namespace {
@@ -71,7 +73,7 @@ Quantity_s ofVariable(const DataSet& data, std::size_t variable) {
 }
 
 Quantity_s firstOfFlow(const DataSet& data) {
-    const std::optional<std::size_t> iBlank = iBlankOf(data);
+    const std::optional<std::size_t> iBlank = analysis::iBlankVariable(data);
     for (std::size_t variable = 0; variable < data.variables().size(); ++variable)
         if (variable != iBlank && !isCoordinate(data, variable))
             return ofVariable(data, variable);
@@ -135,16 +137,9 @@ CoordinateVariables coordinatesOf(const DataSet& data) {
     return coordinates;
 }
 
-std::optional<std::size_t> iBlankOf(const DataSet& data) {
-    const auto variable = data.findVariable("IBlank");
-    if (!variable || data.zones().empty() || data.type(0, *variable) != ValueType::Int32)
-        return std::nullopt;
-    return variable;
-}
-
 Quantity_s colourOf(const DataSet& data, const View_s& view) {
     if (view.blank == BlankWish_e::Colour) {
-        const auto iBlank = iBlankOf(data);
+        const auto iBlank = analysis::iBlankVariable(data);
         if (!iBlank)
             throw Error(ErrorKind::Usage, "the data set has no I-blank that could be coloured");
         return ofVariable(data, *iBlank);

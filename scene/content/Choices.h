@@ -28,9 +28,6 @@ struct Quantity_s {
 using CoordinateVariables = std::array<std::optional<std::size_t>, 3>;
 CoordinateVariables coordinatesOf(const DataSet& data);
 
-/// Nothing if the data set has no I-blank.
-std::optional<std::size_t> iBlankOf(const DataSet& data);
-
 /// What is coloured: what the view names, or else the first variable that is neither a coordinate
 /// nor I-blank. Throws Error (Usage) for a name that is nothing, with what there is.
 Quantity_s colourOf(const DataSet& data, const View_s& view);

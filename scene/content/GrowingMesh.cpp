@@ -9,6 +9,7 @@
 #include <plot3d/Error.h>
 #include <plot3d/FieldReader.h>
 
+#include "analysis/fields/IBlank.h"
 #include "surfaces/PatchCells.h"
 #include "surfaces/Planes.h"
 
@@ -124,7 +125,7 @@ GrowingMesh::GrowingMesh(const DataSet& data, Wish_s wish)
 
 void GrowingMesh::addReads(Pieces& pieces) {
     const CoordinateVariables coordinates = coordinatesOf(data_);
-    const std::optional<std::size_t> iBlank = iBlankOf(data_);
+    const std::optional<std::size_t> iBlank = analysis::iBlankVariable(data_);
     const bool hasGrid = hasField(data_, wish_.zone, coordinates[0]);
     const auto add = [&](std::size_t variable, Destination_s destination) {
         if (mesh_->nodes.empty())

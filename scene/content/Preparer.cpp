@@ -9,6 +9,7 @@
 #include <plot3d/Error.h>
 #include <plot3d/FieldReader.h>
 
+#include "analysis/fields/IBlank.h"
 #include "analysis/fields/ParallelWork.h"
 #include "colours/ColourMap.h"
 #include "content/Additions.h"
@@ -153,7 +154,7 @@ std::string Preparer::Work::meshKeyOf(const ShownZone_s& shown) const {
     if (!coordinatesOf(data_)[0])
         key += " zone " + std::to_string(shown.zone);
     if (content_->view.blank == BlankWish_e::Hide)
-        if (const auto iBlank = iBlankOf(data_))
+        if (const auto iBlank = analysis::iBlankVariable(data_))
             key += " hides " + std::to_string(data_.holder(shown.zone, *iBlank));
     for (const SurfaceWish_s& surface : shown.surfaces)
         key += " " + textOf(surface);

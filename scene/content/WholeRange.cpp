@@ -7,6 +7,7 @@
 #include <plot3d/FieldReader.h>
 
 #include "analysis/fields/BlockSplit.h"
+#include "analysis/fields/IBlank.h"
 
 namespace plot3d::scene {
 
@@ -58,7 +59,7 @@ void WholeRange::take(std::size_t zone, const Box& box, const std::stop_token& s
     else
         data_.reader(zone, *quantity_.variable).readAsDouble(box, values.data(), stop);
     std::vector<double> blank;
-    const std::optional<std::size_t> iBlank = iBlankOf(data_);
+    const std::optional<std::size_t> iBlank = analysis::iBlankVariable(data_);
     if (skipsBlanked_ && iBlank && data_.kind(zone, *iBlank) != FieldKind::Empty) {
         blank.resize(values.size());
         data_.reader(zone, *iBlank).readAsDouble(box, blank.data(), stop);
