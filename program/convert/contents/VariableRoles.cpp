@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "analysis/fields/IBlank.h"
+
 namespace plot3d::program {
 
 namespace {
@@ -40,7 +42,7 @@ private:
         for (std::size_t place = 0; place < static_cast<std::size_t>(data_.dimensions()); ++place)
             if (next_ < variables_.size() && variables_[next_].name == coordinateNames[place])
                 take(Role_e::Coordinate, static_cast<int>(place));
-        if (next_ < variables_.size() && variables_[next_].name == "IBlank")
+        if (analysis::iBlankVariable(data_) == next_)
             take(Role_e::IBlank, 0);
     }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <fstream>
 #include <utility>
 
 namespace plot3d::program {
@@ -51,10 +52,17 @@ void CommandsTest::writeFiles(const ModelSet& data, const std::string& folder) c
     std::filesystem::create_directory(file(folder));
     for (const ModelFile_s& each : data.files())
         write(folder + "/" + each.name, each.contents, each.form);
+    if (!data.nameLines().empty()) {
+        std::ofstream names(file(folder + "/a.nam"));
+        for (const std::string& line : data.nameLines())
+            names << line << '\n';
+    }
 }
 
 Words CommandsTest::loadWords(const ModelSet& data, const std::string& folder) const {
     Words words;
+    if (!data.nameLines().empty())
+        words.push_back(file(folder + "/a.nam"));
     for (const ModelFile_s& each : data.files()) {
         if (!data.isKnownByNames())
             words.push_back(std::string("--") + kindWord(each.part));

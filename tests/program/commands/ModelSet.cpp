@@ -32,6 +32,8 @@ std::vector<std::string> solutionNames(Layout_e layout) {
     }
 }
 
+const std::array<std::string, 3> coordinateNames = {"X", "Y", "Z"};
+
 int dimensionsOf(Layout_e layout) {
     return layout == Layout_e::OneD ? 1 : layout == Layout_e::TwoD ? 2 : 3;
 }
@@ -51,6 +53,7 @@ ModelSet::ModelSet(std::uint64_t seed, std::uint64_t formSeed) : seed_(seed) {
     drawSizes(draw);
     drawParts(draw);
     drawForms(form);
+    drawNames(draw);
     addVariables();
     addZones(draw);
     addFiles(form);
@@ -100,20 +103,44 @@ void ModelSet::drawForms(Dice& form) {
     isDouble_[1] = hasText_ || !hasSolution_ ? isDouble_[0] : form.chance(50);
 }
 
+/// Names of no other variable, among them those that mean something in other data sets. A name file
+/// calls solution and functions the same, so that there is none for both.
+void ModelSet::drawNames(Dice& draw) {
+    if (hasSolution_ == (functionFiles_ > 0) || draw.chance(50))
+        return;
+    std::vector<std::string> names = {"mach", "A b", "a1.2", "T-wall"};
+    if (!hasIBlank_)
+        names.push_back("IBlank");
+    for (int axis = dimensionsOf(layout_); axis < 3; ++axis)
+        names.push_back(coordinateNames[static_cast<std::size_t>(axis)]);
+    for (std::int32_t left = draw.between(1, 4); left > 0; --left) {
+        nameLines_.push_back(draw.oneOf(names));
+        std::erase(names, nameLines_.back());
+    }
+}
+
 void ModelSet::addVariables() {
-    const std::vector<std::string> coordinates = {"X", "Y", "Z"};
     for (std::int32_t place = 0; place < dimensionsOf(layout_); ++place)
-        variables_.push_back({coordinates[static_cast<std::size_t>(place)], Part_Grid, place});
+        variables_.push_back({coordinateNames[static_cast<std::size_t>(place)], Part_Grid, place});
     if (hasIBlank_)
         variables_.push_back({"IBlank", Part_Grid, dimensionsOf(layout_), true});
+    const auto renamed = [this](std::int32_t place, const std::string& name) {
+        const auto line = static_cast<std::size_t>(place);
+        return line < nameLines_.size() ? nameLines_[line] : name;
+    };
     std::int32_t place = 0;
     if (hasSolution_)
-        for (const std::string& name : solutionNames(layout_))
-            variables_.push_back({name, Part_Solution, place++});
+        for (const std::string& name : solutionNames(layout_)) {
+            variables_.push_back({renamed(place, name), Part_Solution, place});
+            ++place;
+        }
     for (int file = 0; file < functionFiles_; ++file)
-        for (std::int32_t number = 0; number < functionVariables_; ++number)
-            variables_.push_back({"F" + std::to_string(file + 1) + "V" + std::to_string(number + 1),
-                                  Part_Functions + file, number});
+        for (std::int32_t number = 0; number < functionVariables_; ++number) {
+            const std::string name =
+                "F" + std::to_string(file + 1) + "V" + std::to_string(number + 1);
+            variables_.push_back(
+                {file == 0 ? renamed(number, name) : name, Part_Functions + file, number});
+        }
 }
 
 /// Files need not be in the order of their times, unless these stand in their names.

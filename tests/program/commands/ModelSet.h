@@ -53,6 +53,8 @@ public:
     const std::vector<ModelFile_s>& files() const { return files_; }
     const std::vector<ModelVariable_s>& variables() const { return variables_; }
     const std::vector<ModelZone_s>& zones() const { return zones_; }
+    /// Lines of a name file; none: the data set has no such file.
+    const std::vector<std::string>& nameLines() const { return nameLines_; }
     /// Each once, the earliest first; empty where the zones are seen at all times.
     const std::vector<double>& times() const { return times_; }
     writer::Layout_e layout() const { return layout_; }
@@ -88,6 +90,7 @@ private:
     void drawSizes(Dice& draw);
     void drawParts(Dice& draw);
     void drawForms(Dice& form);
+    void drawNames(Dice& draw);
     void addVariables();
     void addZones(Dice& draw);
     void addFiles(Dice& form);
@@ -110,6 +113,7 @@ private:
     int functionFiles_ = 0; // at one time
     std::int32_t functionVariables_ = 0;
     std::array<bool, 2> isDouble_ = {}; // of grids; of what stands on them
+    std::vector<std::string> nameLines_;
     std::vector<double> stepTimes_;
     std::vector<double> times_;
     std::vector<ModelVariable_s> variables_;

@@ -99,6 +99,13 @@ TEST_F(ConvertCommandLine, MakesFunctionsOfAPartOfTheSolution) {
     EXPECT_FALSE(exists("out.q"));
 }
 
+TEST_F(ConvertCommandLine, TakesRealsThatANameFileCallsIBlankForAVariableOfTheSolution) {
+    std::ofstream(path("a.nam")) << "IBlank\n";
+    ASSERT_EQ(convert("out.x", {path("a.nam")}), 0) << err_;
+    EXPECT_EQ(lines("out.x"), lines("case.x"));
+    EXPECT_EQ(lines("out.q"), lines("case.q"));
+}
+
 TEST_F(ConvertCommandLine, TellsTheFilesThatItWrote) {
     std::istringstream in;
     std::ostringstream out;
