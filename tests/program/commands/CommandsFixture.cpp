@@ -17,13 +17,32 @@ const char* kindWord(int part) {
     return part == Part_Solution ? "solution" : "function";
 }
 
+/// A grid file has none.
+Json styleWord(writer::FileKind_e kind) {
+    switch (kind) {
+    case writer::FileKind_e::Grid:
+        return nullptr;
+    case writer::FileKind_e::ClassicSolution:
+        return "Classic";
+    case writer::FileKind_e::SwiftSolution:
+        return "Swift";
+    case writer::FileKind_e::OverflowSolution:
+        return "Overflow";
+    case writer::FileKind_e::Function:
+        return "Function";
+    }
+    return nullptr;
+}
+
 /// In the order of Layout_e.
 constexpr std::array layoutWords = {"1D", "2D", "3DWhole", "3DPlanes", "Unstructured"};
 
 /// What tells the reading of a file from others; of info itself and of its candidates.
 Json readingIn(const Json& told, bool isText) {
-    Json reading = {
-        {"kind", told["kind"]}, {"layout", told["layout"]}, {"multiGrid", told["multiGrid"]}};
+    Json reading = {{"kind", told["kind"]},
+                    {"style", told["style"]},
+                    {"layout", told["layout"]},
+                    {"multiGrid", told["multiGrid"]}};
     if (!isText) {
         reading.set("precision", told["precision"]);
         reading.set("byteOrder", told["byteOrder"]);
@@ -35,6 +54,7 @@ Json readingIn(const Json& told, bool isText) {
 Json readingOf(const ModelFile_s& file) {
     const bool isText = file.form.encoding == Encoding_e::Text;
     Json reading = {{"kind", kindWord(file.part)},
+                    {"style", styleWord(file.contents.kind)},
                     {"layout", layoutWords[static_cast<std::size_t>(file.contents.layout)]},
                     {"multiGrid", file.contents.isMultiGrid}};
     if (!isText) {

@@ -15,13 +15,7 @@ using writer::Layout_e;
 
 namespace {
 
-FileKind_e kindOf(int part) {
-    if (part == Part_Grid)
-        return FileKind_e::Grid;
-    return part == Part_Solution ? FileKind_e::ClassicSolution : FileKind_e::Function;
-}
-
-std::vector<std::string> solutionNames(Layout_e layout) {
+std::vector<std::string> conservativeNames(Layout_e layout) {
     switch (layout) {
     case Layout_e::OneD:
         return {"V2", "V3", "V4"};
@@ -53,6 +47,7 @@ ModelSet::ModelSet(std::uint64_t seed, std::uint64_t formSeed) : seed_(seed) {
     drawSizes(draw);
     drawParts(draw);
     drawForms(form);
+    drawStyle(draw);
     drawNames(draw);
     addVariables();
     addZones(draw);
@@ -103,6 +98,27 @@ void ModelSet::drawForms(Dice& form) {
     isDouble_[1] = hasText_ || !hasSolution_ ? isDouble_[0] : form.chance(50);
 }
 
+/// docs/variables.md tells which names the variables of each style have.
+void ModelSet::drawStyle(Dice& draw) {
+    solutionNames_ = conservativeNames(layout_);
+    std::vector<FileKind_e> kinds = {FileKind_e::ClassicSolution, FileKind_e::ClassicSolution};
+    if (!isUnstructured())
+        kinds.push_back(FileKind_e::SwiftSolution);
+    if (layout_ == Layout_e::ThreeDWhole || layout_ == Layout_e::ThreeDPlanes)
+        kinds.push_back(FileKind_e::OverflowSolution);
+    solutionKind_ = draw.oneOf(kinds);
+    if (solutionKind_ != FileKind_e::OverflowSolution || draw.chance(20))
+        return;
+    species_ = draw.between(0, 3);
+    solutionNames_.push_back("GAMMA");
+    for (std::int32_t species = 1; species <= species_; ++species)
+        solutionNames_.push_back("RHO-C" + std::to_string(species));
+    const std::vector<std::vector<std::string>> turbulence = {
+        {}, {"RET"}, {"K", "EPSILON"}, {"V2", "V3", "V4"}};
+    const std::vector<std::string> rest = draw.oneOf(turbulence);
+    solutionNames_.insert(solutionNames_.end(), rest.begin(), rest.end());
+}
+
 /// Names of no other variable, among them those that mean something in other data sets. A name file
 /// calls solution and functions the same, so that there is none for both.
 void ModelSet::drawNames(Dice& draw) {
@@ -130,7 +146,7 @@ void ModelSet::addVariables() {
     };
     std::int32_t place = 0;
     if (hasSolution_)
-        for (const std::string& name : solutionNames(layout_)) {
+        for (const std::string& name : solutionNames_) {
             variables_.push_back({renamed(place, name), Part_Solution, place});
             ++place;
         }
@@ -217,7 +233,21 @@ writer::FileForm_s ModelSet::drawForm(Dice& draw, int part) const {
 }
 
 std::vector<double> ModelSet::scalars(int step) const {
-    return {0.5 + step, 2.25, 1500000.0, stepTimes_[static_cast<std::size_t>(step)]};
+    std::vector<double> scalars = {0.5 + step, 2.25, 1500000.0,
+                                   stepTimes_[static_cast<std::size_t>(step)]};
+    const int further = layout_ == Layout_e::OneD                       ? 0
+                        : solutionKind_ == FileKind_e::SwiftSolution    ? 1
+                        : solutionKind_ == FileKind_e::OverflowSolution ? 7 + std::max(species_, 2)
+                                                                        : 0;
+    for (int place = 0; place < further; ++place)
+        scalars.push_back(3 + place); // one of Overflow's is an integer
+    return scalars;
+}
+
+FileKind_e ModelSet::kindOf(int part) const {
+    if (part == Part_Grid)
+        return FileKind_e::Grid;
+    return part == Part_Solution ? solutionKind_ : FileKind_e::Function;
 }
 
 FileDescription_s ModelSet::description(int part, const std::vector<std::int32_t>& grids) const {
@@ -225,7 +255,12 @@ FileDescription_s ModelSet::description(int part, const std::vector<std::int32_t
     for (const std::int32_t grid : grids)
         sizes.push_back(sizes_[static_cast<std::size_t>(grid)]);
     FileDescription_s contents = quorvia::testsupport::describe(kindOf(part), sizes, layout_);
-    contents.numVars = part >= Part_Functions ? functionVariables_ : 0;
+    if (part >= Part_Functions)
+        contents.numVars = functionVariables_;
+    if (part == Part_Solution && solutionKind_ == FileKind_e::OverflowSolution) {
+        contents.numVars = static_cast<std::int32_t>(solutionNames_.size());
+        contents.numSpecies = species_;
+    }
     if (part == Part_Grid && hasIBlank_) {
         contents.hasIBlank = true;
         contents.iblank = [this, grids](std::int32_t grid, std::int32_t i, std::int32_t j,

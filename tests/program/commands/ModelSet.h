@@ -79,6 +79,8 @@ public:
                         std::int64_t k) const;
     /// With all that an unstructured grid has to say of its elements; without values.
     writer::FileDescription_s description(int part, const std::vector<std::int32_t>& grids) const;
+    writer::FileKind_e solutionKind() const { return solutionKind_; }
+    std::int32_t speciesCount() const { return species_; }
     /// The scalars of a solution at that step.
     std::vector<double> scalars(int step) const;
 
@@ -90,11 +92,13 @@ private:
     void drawSizes(Dice& draw);
     void drawParts(Dice& draw);
     void drawForms(Dice& form);
+    void drawStyle(Dice& draw);
     void drawNames(Dice& draw);
     void addVariables();
     void addZones(Dice& draw);
     void addFiles(Dice& form);
     void addFile(int part, int step, const std::string& name, Dice& form);
+    writer::FileKind_e kindOf(int part) const;
     std::string functionName(int step, int file) const;
     writer::FileForm_s drawForm(Dice& draw, int part) const;
     double rawValue(int part, int step, std::int32_t grid, std::int32_t variable, std::int64_t i,
@@ -112,6 +116,9 @@ private:
     int steps_ = 1;
     int functionFiles_ = 0; // at one time
     std::int32_t functionVariables_ = 0;
+    writer::FileKind_e solutionKind_ = writer::FileKind_e::ClassicSolution;
+    std::int32_t species_ = 0;
+    std::vector<std::string> solutionNames_;
     std::array<bool, 2> isDouble_ = {}; // of grids; of what stands on them
     std::vector<std::string> nameLines_;
     std::vector<double> stepTimes_;

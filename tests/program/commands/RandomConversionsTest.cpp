@@ -60,16 +60,17 @@ protected:
         std::vector<std::int32_t> grids;
         for (const ModelBox_s& box : boxes)
             grids.push_back(data.zones()[box.zone].grid);
-        const int part = kind == writer::FileKind_e::Grid ? Part_Grid : Part_Functions;
+        const int part = kind == writer::FileKind_e::Grid       ? Part_Grid
+                         : kind == writer::FileKind_e::Function ? Part_Functions
+                                                                : Part_Solution;
         writer::FileDescription_s contents = data.description(part, grids);
-        contents.kind = kind;
         contents.numVars = static_cast<std::int32_t>(variables.size());
         contents.isMultiGrid = data.layout() != writer::Layout_e::OneD;
         for (std::size_t place = 0; place < boxes.size() && !data.isUnstructured(); ++place)
             contents.grids[place] = {static_cast<std::int32_t>(boxes[place].indices[0].size()),
                                      static_cast<std::int32_t>(boxes[place].indices[1].size()),
                                      static_cast<std::int32_t>(boxes[place].indices[2].size())};
-        if (kind == writer::FileKind_e::ClassicSolution)
+        if (part == Part_Solution)
             contents.scalars.assign(boxes.size(),
                                     data.scalars(data.zones()[boxes.front().zone].step));
         const auto at = [boxes](std::int32_t zone, int direction, std::int32_t index) {
@@ -106,7 +107,7 @@ protected:
         const bool isWhole = solution.size() == all.size();
         for (const auto& [step, boxes] : steps)
             if (isWhole && !solution.empty())
-                files.push_back(wanted(data, writer::FileKind_e::ClassicSolution, boxes, solution));
+                files.push_back(wanted(data, data.solutionKind(), boxes, solution));
         for (const auto& [step, boxes] : steps)
             for (int part = isWhole ? Part_Functions : Part_Solution;
                  part < Part_Functions + data.functionFileCount(); ++part)
