@@ -43,7 +43,7 @@ DeclaredOption DeclaredOption::excludes(std::initializer_list<const char*> names
 }
 
 DeclaredOption DeclaredOption::takesSeveral() const {
-    option_->allow_extra_args();
+    option_->type_name(option_->get_type_name() + "...")->allow_extra_args();
     return *this;
 }
 

@@ -54,6 +54,8 @@ TEST_F(Options, OfListsMayTakeAllWordsUpToTheNextOption) {
     table.flag("--flag", flag, "");
     EXPECT_EQ(parser.parse({"--item", "a", "b", "--flag"}), "");
     EXPECT_EQ(list, (Words{"a", "b"}));
+    EXPECT_EQ(parser.options().front().value, "ITEM...");
+    EXPECT_FALSE(parser.options().front().takesFile());
 }
 
 TEST_F(Options, AreRefusedWithTheReasonOfTheirCheck) {
