@@ -77,7 +77,8 @@ std::optional<Range> resolved(const IndexRange_s& range, std::int64_t count) {
     const std::int64_t last = std::min(fromStart(range.last, count), count - 1);
     if (first < 0 || last < first)
         return std::nullopt;
-    return Range{first, last, range.step};
+    const Range found = {first, last, range.step};
+    return found.count() == 1 ? Range{first, first, 1} : found;
 }
 
 } // namespace plot3d::program

@@ -28,7 +28,8 @@ IndexRange_s parseIndexRange(std::string_view text);
 std::array<std::int64_t, 3> parsePoint(std::string_view text);
 
 /// The indices from 0 that the range has among `count`; a last one beyond the count is cut, and so
-/// is a first one ahead of it that is counted from the end. Nothing if none is left.
+/// is a first one ahead of it that is counted from the end. Nothing if none is left;
+/// one index alone has the step 1, so that all that there is is whole.
 std::optional<Range> resolved(const IndexRange_s& range, std::int64_t count);
 
 } // namespace plot3d::program

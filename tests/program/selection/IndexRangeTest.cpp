@@ -19,6 +19,12 @@ TEST(IndexRange, CountsFromOneAndIncludesItsEnds) {
     EXPECT_EQ(along("3", 7), (Range{2, 2, 1}));
 }
 
+TEST(IndexRange, IsWholeWhateverItsStepIfThereIsOneIndex) {
+    EXPECT_EQ(along(",,2", 1), (Range{0, 0, 1}));
+    EXPECT_EQ(along("-5,,3", 1), (Range{0, 0, 1}));
+    EXPECT_EQ(along("3,4,2", 7), (Range{2, 2, 1}));
+}
+
 TEST(IndexRange, KeepsTheDefaultOfWhatIsLeftOut) {
     EXPECT_EQ(along(",", 7), (Range{0, 6, 1}));
     EXPECT_EQ(along(",,2", 7), (Range{0, 6, 2}));
