@@ -18,6 +18,7 @@ struct ModelBox_s {
     std::size_t zone = 0; // from 0
     Indices indices;
 
+    bool operator==(const ModelBox_s&) const = default;
     std::size_t count() const { return indices[0].size() * indices[1].size() * indices[2].size(); }
     template <class Visit>
     void forEach(const Visit& visit) const {

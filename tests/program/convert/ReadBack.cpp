@@ -1,9 +1,11 @@
 #include "program/convert/ReadBack.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include "program/app/Program.h" // the host has an app/Program.h, too
@@ -67,6 +69,7 @@ ExpectedZone_s expectedZone(const OpenedCase_s& opened, std::int32_t grid) {
     const WrittenFile_s& file = opened.readings.front().file();
     const GridDims_s& dims = file.contents.grids[static_cast<std::size_t>(grid)];
     ExpectedZone_s zone;
+    zone.zone = static_cast<std::size_t>(grid);
     zone.size = {dims.i, dims.j, dims.k};
     for (const FileReading& reading : opened.readings) {
         const std::int32_t count = reading.variableCount() + (reading.hasIBlank() ? 1 : 0);
@@ -88,30 +91,34 @@ ExpectedZone_s expectedZone(const OpenedCase_s& opened, std::int32_t grid) {
 /// set, of which other tests know that they are right.
 class Expectation {
 public:
-    Expectation(const std::string& folder, const plot3d::DataSet& data)
-        : data_(data), values_(folder + "/expected.bin", std::ios::binary),
+    Expectation(const std::string& folder, const plot3d::DataSet& data,
+                const std::vector<std::size_t>& variables)
+        : data_(data), variables_(variables), values_(folder + "/expected.bin", std::ios::binary),
           text_(folder + "/expected.json") {}
 
     void write(int coordinateCount, const std::vector<ExpectedZone_s>& zones) {
         Json all = Json::array();
-        for (std::size_t index = 0; index < zones.size(); ++index)
-            all.add(zone(zones[index], data_.zones()[index]));
+        std::set<std::size_t> selected;
+        for (const ExpectedZone_s& expected : zones) {
+            all.add(zone(expected, data_.zones()[expected.zone]));
+            selected.insert(expected.zone);
+        }
         Json times = Json::array();
         for (const plot3d::TimeStep& step : data_.timeSteps())
-            times.add(step.time);
+            if (std::any_of(step.zones.begin(), step.zones.end(),
+                            [&](std::size_t seen) { return selected.count(seen) > 0; }))
+                times.add(step.time);
         text_ << Json({{"coordinates", coordinateCount}, {"times", times}, {"zones", all}});
     }
 
 private:
     Json zone(const ExpectedZone_s& expected, const plot3d::Zone& facts) {
         Json fields = Json::array();
-        for (std::size_t variable = 0; variable < expected.fields.size(); ++variable)
-            fields.add(field(expected.fields[variable], expected.size, variable));
-        Json zone = {{"name", facts.name},
-                     {"time", facts.time},
-                     {"strand", facts.strand},
-                     {"size", expected.size},
-                     {"fields", fields}};
+        for (std::size_t place = 0; place < expected.fields.size(); ++place)
+            fields.add(field(expected.fields[place], expected.size,
+                             variables_.empty() ? place : variables_[place]));
+        Json zone = {{"name", facts.name},     {"number", expected.zone + 1}, {"time", facts.time},
+                     {"strand", facts.strand}, {"size", expected.size},       {"fields", fields}};
         if (!expected.elements.empty())
             zone.set("elements", expected.elements);
         return zone;
@@ -147,6 +154,7 @@ private:
     }
 
     const plot3d::DataSet& data_;
+    const std::vector<std::size_t>& variables_;
     std::ofstream values_;
     std::ofstream text_;
 };
@@ -218,8 +226,9 @@ void ReadBackTest::writeExpected(const std::string& folder, const OpenedCase_s& 
 }
 
 void ReadBackTest::writeExpected(const std::string& folder, const plot3d::DataSet& data,
-                                 int coordinateCount, const std::vector<ExpectedZone_s>& zones) {
-    Expectation(folder, data).write(coordinateCount, zones);
+                                 int coordinateCount, const std::vector<ExpectedZone_s>& zones,
+                                 const std::vector<std::size_t>& variables) {
+    Expectation(folder, data, variables).write(coordinateCount, zones);
 }
 
 void ReadBackTest::expectReadBack(int fileCount, const std::string& argument) const {

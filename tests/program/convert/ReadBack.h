@@ -26,6 +26,7 @@ struct OpenedCase_s {
 
 /// What a zone must hold: its fields in the order of the variables, coordinates first.
 struct ExpectedZone_s {
+    std::size_t zone = 0; // in the data set, from 0
     std::array<std::int64_t, 3> size = {1, 1, 1};
     std::vector<FieldExpectation_s> fields;
     std::vector<std::vector<std::int32_t>> elements; // node indices from 0; none if ordered
@@ -49,10 +50,12 @@ protected:
     /// Converts it to folder/out.<ending> for each of the endings.
     static void convert(const std::string& folder, std::vector<std::string> arguments,
                         const std::vector<std::string>& endings);
-    /// Writes what must be read.
+    /// Writes what must be read. The fields are those of `variables`, from 0; of all, if it is
+    /// empty.
     static void writeExpected(const std::string& folder, const OpenedCase_s& opened);
     static void writeExpected(const std::string& folder, const plot3d::DataSet& data,
-                              int coordinateCount, const std::vector<ExpectedZone_s>& zones);
+                              int coordinateCount, const std::vector<ExpectedZone_s>& zones,
+                              const std::vector<std::size_t>& variables = {});
     /// Reads all folders; the script gets the argument, too. Skips the test where the readers are
     /// not there.
     void expectReadBack(int fileCount, const std::string& argument = {}) const;

@@ -32,8 +32,10 @@ protected:
     static std::vector<ExpectedZone_s> expectedZones() {
         std::vector<ExpectedZone_s> zones;
         for (int step = 0; step < stepCount; ++step)
-            for (std::int32_t grid = 0; grid < 2; ++grid)
+            for (std::int32_t grid = 0; grid < 2; ++grid) {
                 zones.push_back(expectedZone(step, grid));
+                zones.back().zone = zones.size() - 1;
+            }
         return zones;
     }
 
