@@ -53,7 +53,7 @@ protected:
             ++checked;
             check(data, draw, folder);
         }
-        EXPECT_GT(checked, count / 2);
+        EXPECT_GT(checked, count / 4);
     }
 };
 
