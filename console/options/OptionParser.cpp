@@ -56,6 +56,22 @@ std::vector<OptionRow_s> rowsOf(const CLI::App& parser, Kind_e kind) {
     return rows;
 }
 
+std::string lineOf(const CLI::ParseError& error) {
+    std::string text = error.what();
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
+/// In words of ours, where the parser's text begins with the name of an option.
+std::string mismatchOf(const CLI::App& parser, const std::string& text) {
+    const std::string name = text.substr(0, text.find(':'));
+    const CLI::Option* const option = parser.get_option_no_throw(name);
+    if (option == nullptr)
+        return text;
+    return option->count() > 1 ? name + " is given more than once"
+                               : name + " needs " + option->get_type_name();
+}
+
 } // namespace
 
 OptionParser::OptionParser() : parser_(std::make_unique<CLI::App>()) {
@@ -82,10 +98,10 @@ std::string OptionParser::parse(std::vector<std::string> words) {
     try {
         parser_->parse(words);
         return {};
+    } catch (const CLI::ArgumentMismatch& error) {
+        return mismatchOf(*parser_, lineOf(error));
     } catch (const CLI::ParseError& error) {
-        std::string text = error.what();
-        std::replace(text.begin(), text.end(), '\n', ' ');
-        return text;
+        return lineOf(error);
     }
 }
 

@@ -73,6 +73,14 @@ TEST_F(Options, MayNeedOrExcludeOneAnother) {
     EXPECT_EQ(parser.parse({"--word", "a", "--other", "b"}), "--word excludes --other");
 }
 
+TEST_F(Options, AreRefusedThatComeTwiceOrWithoutTheirValue) {
+    table.text("--word", word, "WORD", "");
+    table.list("--item", list, "ITEM", "").takesSeveral();
+    EXPECT_EQ(parser.parse({"--word", "a", "--word=b"}), "--word is given more than once");
+    EXPECT_EQ(parser.parse({"--word"}), "--word needs WORD");
+    EXPECT_EQ(parser.parse({"--item"}), "--item needs ITEM...");
+}
+
 TEST_F(Options, ThatNobodyDeclaredAreTold) {
     table.flag("--flag", flag, "");
     EXPECT_EQ(parser.parse({"--flag", "--flga", "a"}), "");
