@@ -88,8 +88,8 @@ Words CommandsTest::loadWords(const ModelSet& data, const std::string& folder) c
             words.push_back(std::string("--") + kindWord(each.part));
         words.push_back(path(folder, each));
     }
-    for (const std::string& option : data.loadOptions())
-        words.push_back(option);
+    for (const auto& [key, value] : data.instructions())
+        words.insert(words.end(), {"--set", key + "=" + value});
     return words;
 }
 

@@ -103,6 +103,7 @@ TypedRange_s drawnRange(Dice& draw) {
 
 ModelSelection::ModelSelection(const ModelSet& data, Dice& draw) : data_(data) {
     drawVariables(draw);
+    const auto namesVariables = static_cast<std::ptrdiff_t>(words_.size());
     drawZones(draw);
     drawTimes(draw);
     wordsOfWholeZones_ = words_;
@@ -110,6 +111,7 @@ ModelSelection::ModelSelection(const ModelSet& data, Dice& draw) : data_(data) {
         drawPoint(draw);
     else
         drawRanges(draw);
+    wordsOfPoints_.assign(words_.begin() + namesVariables, words_.end());
     std::erase_if(boxes_, [](const ModelBox_s& box) { return box.count() == 0; });
 }
 
@@ -211,6 +213,13 @@ void ModelSelection::drawRanges(Dice& draw) {
         for (ModelBox_s& box : boxes_)
             box.indices[direction] = range.indices(data_.zones()[box.zone].size[direction]);
     }
+}
+
+bool ModelSelection::cutsElements() const {
+    return data_.isUnstructured() &&
+           std::any_of(boxes_.begin(), boxes_.end(), [this](const ModelBox_s& box) {
+               return static_cast<std::int64_t>(box.count()) != data_.zones()[box.zone].size[0];
+           });
 }
 
 std::vector<ModelBox_s> ModelSelection::wholeZones() const {

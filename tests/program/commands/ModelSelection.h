@@ -18,7 +18,6 @@ struct ModelBox_s {
     std::size_t zone = 0; // from 0
     Indices indices;
 
-    bool operator==(const ModelBox_s&) const = default;
     std::size_t count() const { return indices[0].size() * indices[1].size() * indices[2].size(); }
     template <class Visit>
     void forEach(const Visit& visit) const {
@@ -34,6 +33,8 @@ public:
     ModelSelection(const ModelSet& data, Dice& draw);
 
     const std::vector<std::string>& words() const { return words_; }
+    /// Those that choose no variables.
+    const std::vector<std::string>& wordsOfPoints() const { return wordsOfPoints_; }
     /// Those without ranges of indices.
     const std::vector<std::string>& wordsOfWholeZones() const { return wordsOfWholeZones_; }
     /// Indices into the variables of the data set, in their order.
@@ -41,6 +42,8 @@ public:
     /// In the order of the zones; none: the command line is refused.
     const std::vector<ModelBox_s>& boxes() const { return boxes_; }
     std::vector<ModelBox_s> wholeZones() const;
+    /// Elements can't be cut: points of an unstructured zone are left out.
+    bool cutsElements() const;
 
 private:
     void drawVariables(Dice& draw);
@@ -51,6 +54,7 @@ private:
 
     const ModelSet& data_;
     std::vector<std::string> words_;
+    std::vector<std::string> wordsOfPoints_;
     std::vector<std::string> wordsOfWholeZones_;
     std::vector<std::size_t> variables_;
     std::vector<std::size_t> zones_;

@@ -278,12 +278,11 @@ FileDescription_s ModelSet::description(int part, const std::vector<std::int32_t
     return contents;
 }
 
-std::vector<std::string> ModelSet::loadOptions() const {
-    std::vector<std::string> words;
-    if (hasText_)
-        words = {"--set", isDouble_[0] ? "ASCIIISDOUBLE=Yes" : "ASCIIISDOUBLE=No", "--set",
-                 hasIBlank_ ? "ASCIIHASIBLANK=Yes" : "ASCIIHASIBLANK=No"};
-    return words;
+std::vector<std::pair<std::string, std::string>> ModelSet::instructions() const {
+    if (!hasText_)
+        return {};
+    return {{"ASCIIISDOUBLE", isDouble_[0] ? "Yes" : "No"},
+            {"ASCIIHASIBLANK", hasIBlank_ ? "Yes" : "No"}};
 }
 
 double ModelSet::rawValue(int part, int step, std::int32_t grid, std::int32_t variable,

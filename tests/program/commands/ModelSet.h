@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "program/values/ValueFiles.h"
@@ -69,8 +70,8 @@ public:
     bool hasText() const { return hasText_; }
     bool hasSpoiltValues() const { return hasSpoiltValues_; }
 
-    /// What of the command line a load of the files needs beside them.
-    std::vector<std::string> loadOptions() const;
+    /// The load instructions that the files need beside them.
+    std::vector<std::pair<std::string, std::string>> instructions() const;
 
     /// As it stands in the file: narrowed if that has 32 bits. Indices from 0.
     double value(const ModelZone_s& zone, const ModelVariable_s& variable, std::int64_t i,

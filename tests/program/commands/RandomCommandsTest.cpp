@@ -159,15 +159,6 @@ protected:
                 << variable.name << " in " << line;
         }
     }
-
-    /// Elements can't be cut.
-    static bool cutsElements(const ModelSet& data, const ModelSelection& selection) {
-        const auto isCut = [&data](const ModelBox_s& box) {
-            return static_cast<std::int64_t>(box.count()) != data.zones()[box.zone].size[0];
-        };
-        return data.isUnstructured() &&
-               std::any_of(selection.boxes().begin(), selection.boxes().end(), isCut);
-    }
 };
 
 TEST_F(RandomCommands, StatsAreThoseOfTheValues) {
@@ -201,7 +192,7 @@ TEST_F(RandomCommands, TablesHoldTheValues) {
             ran("convert",
                 {loadWords(data, folder), selection.words(), {"-o", file(folder + "/out.csv")}});
         SCOPED_TRACE(testing::PrintToString(selection.words()));
-        const int refused = selection.boxes().empty() ? 2 : cutsElements(data, selection) ? 1 : 0;
+        const int refused = selection.boxes().empty() ? 2 : selection.cutsElements() ? 1 : 0;
         ASSERT_EQ(run.code, refused) << run.err;
         std::ifstream lines(file(folder + "/out.csv"));
         ASSERT_EQ(lines.is_open(), refused == 0);
